@@ -1,0 +1,197 @@
+#!/usr/bin/python3
+"""Makes docs/pictures/ anew: the pictures of the README, and one for each step of the user's guide.
+
+usage: tools/make_pictures.py [PROGRAM_FOLDER]     (build/release/bin without it)
+
+The programs are driven by key presses on a screen of their own, as the end-to-end tests do. Look at the pictures before
+you commit them.
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / 'tests' / 'e2e' / 'desktop'))
+sys.dont_write_bytecode = True
+
+from desktop_session import DesktopSession, Screen, wait_for  # noqa: E402  pylint: disable=wrong-import-position
+from operator_story import CALENDARS, OperatorStory  # noqa: E402  pylint: disable=wrong-import-position
+
+PICTURES = ROOT / 'docs' / 'pictures'
+SIZE = (1350, 780)
+
+GUIDE_STEPS = ('new-calendar', 'day-menu', 'new-rule', 'rules', 'assigned', 'except-message', 'excepted', 'remove',
+               'removed', 'edit-rule')
+
+# Frames of the pictures: quiet, in the colours of the theme, and without boxes that a dialog would not have.
+FRAME_COLORS = {
+    'light': {'ground': '#e3e6ea', 'border': '#aab1bb', 'text': '#1c2026', 'faint': '#7a828d'},
+    'dark': {'ground': '#2e333a', 'border': '#101215', 'text': '#e4e8ee', 'faint': '#8b95a2'},
+}
+FRAME_CONFIGURATION = '''<?xml version="1.0"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+ <placement><policy>Smart</policy><center>yes</center></placement>
+ <theme>
+  <name>pictures</name><titleLayout>L</titleLayout><keepBorder>yes</keepBorder>
+  <font place="ActiveWindow"><name>DejaVu Sans</name><size>9</size><weight>bold</weight></font>
+  <font place="InactiveWindow"><name>DejaVu Sans</name><size>9</size><weight>bold</weight></font>
+ </theme>
+ <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
+</openbox_config>
+'''
+FRAME_THEME = '''border.width: 1
+padding.width: 8
+padding.height: 6
+window.handle.width: 0
+window.client.padding.width: 0
+window.client.padding.height: 0
+window.label.text.justify: center
+window.active.title.bg: flat solid
+window.active.title.bg.color: {ground}
+window.active.label.bg: parentrelative
+window.active.label.text.color: {text}
+window.active.border.color: {border}
+window.active.title.separator.color: {border}
+window.inactive.title.bg: flat solid
+window.inactive.title.bg.color: {ground}
+window.inactive.label.bg: parentrelative
+window.inactive.label.text.color: {faint}
+window.inactive.border.color: {border}
+window.inactive.title.separator.color: {border}
+'''
+
+
+class Studio:
+    """A screen whose frames can change their colours, and a camera that waits until the windows rest."""
+
+    def __init__(self, folder):
+        configuration = folder / 'rc.xml'
+        configuration.write_text(FRAME_CONFIGURATION)
+        self.theme = folder / 'share' / 'themes' / 'pictures' / 'openbox-3' / 'themerc'
+        self.theme.parent.mkdir(parents=True)
+        self._write_theme('light')
+        self.screen = Screen(frames=('--config-file', str(configuration)), data_home=folder / 'share')
+
+    def _write_theme(self, name):
+        self.theme.write_text(FRAME_THEME.format(**FRAME_COLORS[name]))
+
+    def use_frames(self, name):
+        self._write_theme(name)
+        subprocess.run(['openbox', '--reconfigure'], env=self.screen.environment, check=True)
+
+    def take(self, name, session, title):
+        """A picture of the window with its frame, and of what lies over it."""
+        area = self._frame(session.windows(re.escape(title))[-1])
+        seen = []
+
+        def is_at_rest():
+            seen.append(subprocess.run(['import', '-silent', '-window', 'root', '-crop', area, '+repage', 'ppm:-'],
+                                       env=self.screen.environment, stdout=subprocess.PIPE, check=True).stdout)
+            return len(seen) >= 5 and seen[-1] == seen[-3] == seen[-5]
+        wait_for(is_at_rest, 'windows at rest')
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        path = PICTURES / f'{name}.png'
+        subprocess.run(['convert', 'ppm:-', '-strip', '-define', 'png:compression-level=9', str(path)],
+                       input=seen[-1], check=True)
+        print(path.relative_to(ROOT), flush=True)
+
+    def _frame(self, window):
+        told = subprocess.run(['xwininfo', '-id', window], env=self.screen.environment, capture_output=True, text=True,
+                              check=True).stdout
+        x, y, width, height = (int(re.search(label + r':\s+(-?\d+)', told)[1]) for label in
+                               ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height'))
+        extents = self.screen.property_of(window, '_NET_FRAME_EXTENTS')
+        left, right, top, bottom = map(int, re.findall(r'\d+', extents.split('=')[1]))
+        return f'{width + left + right}x{height + top + bottom}+{x - left}+{y - top}'
+
+
+class Photographer:
+    """A user of the programs who takes pictures on the way."""
+
+    def __init__(self, studio, programs):
+        self.studio = studio
+        self.programs = programs
+        self.session = DesktopSession(studio.screen, programs / 'ferrowind')
+        import accessible  # Not before there is a screen, whose bus it is to find.
+        self.story = OperatorStory(self.session, accessible, self.take_step)
+        self.steps_to_take = set(GUIDE_STEPS)
+
+    def arrange(self):
+        """The Calendars window at the size of the pictures."""
+        window = self.session.window(CALENDARS)
+        self.session.xdotool('windowmove', '--sync', window, 60, 60)
+        self.session.xdotool('windowsize', '--sync', window, *SIZE)
+
+    def take(self, name):
+        self.studio.take(name, self.session, CALENDARS)
+
+    def take_step(self, name):
+        """The window that the operator is in, at the first time of the step; a menu shows on the window below it."""
+        if name not in self.steps_to_take:
+            return
+        self.steps_to_take.remove(name)
+        self.studio.take(f'guide-{name}', self.session, self.session.active_title())
+
+    # Pictures ------------------------------------------------------------------------------------
+
+    def take_calendars(self, theme, name):
+        self.studio.use_frames(theme)
+        self.session.start('--open', '--theme', theme)
+        self.story.wait_active(CALENDARS)
+        self.arrange()
+        self.session.type('EUR')
+        self.session.keys('Right', 'Down')
+        self.story.wait_rows(CALENDARS, 365)
+        self.session.keys('Tab')
+        self.story.go_to_day('1 May 2026')
+        self.take(name)
+
+    def take_grouped(self, name):
+        """By month and type, with the holidays of April unfolded."""
+        month, day_type = 7, 1
+        self.session.keys('ctrl+g', 'Home', *['Right'] * month)
+        self.choose_in_column_menu('g')
+        self.session.keys('Down', *['Left'] * (month - day_type))
+        self.choose_in_column_menu('g')
+        self.choose_in_column_menu('o')
+        self.session.keys('ctrl+Home', 'Down', 'Down', 'Down', 'Right')
+        april_holidays = 8
+        self.session.keys('Down', 'Down', 'Right', *['Down'] * (april_holidays + 1), 'Right')
+        self.take(name)
+
+    def choose_in_column_menu(self, access_key):
+        self.session.keys('alt+Down')
+        wait_for(self.session.is_menu_open, 'the menu of the column')
+        self.session.keys(access_key)
+        wait_for(lambda: not self.session.is_menu_open(), 'the end of the menu')
+
+    def take_story(self):
+        database = self.session.home / 'story.sqlite'
+        subprocess.run([self.programs / 'ferrowindctl', 'init', f'sqlite:{database}', '--empty'], check=True)
+        self.studio.use_frames('light')
+        self.story.tell(database, arrange=self.arrange)
+
+
+def main():
+    programs = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ROOT / 'build' / 'release' / 'bin').resolve()
+    with tempfile.TemporaryDirectory(prefix='ferrowind-pictures-') as folder:
+        studio = Studio(pathlib.Path(folder))
+        try:
+            for take in (lambda user: user.take_calendars('dark', 'calendars-dark'),
+                         lambda user: (user.take_calendars('light', 'calendars-light'),
+                                       user.take_grouped('calendars-grouped')),
+                         lambda user: user.take_story()):
+                user = Photographer(studio, programs)
+                try:
+                    take(user)
+                finally:
+                    user.session.end()
+        finally:
+            studio.screen.end()
+
+
+if __name__ == '__main__':
+    main()
