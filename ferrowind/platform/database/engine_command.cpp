@@ -1,0 +1,124 @@
+#include "ferrowind/platform/database/engine_command.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::platform {
+namespace {
+
+using RecordSets = std::shared_ptr<const std::vector<std::shared_ptr<RecordSet>>>;
+
+/// The engines deliver all record sets at once, so the cursor only walks over them.
+class DeliveredResult : public ResultCursor {
+ public:
+  DeliveredResult(RecordSets record_sets, std::size_t position)
+      : record_sets_(std::move(record_sets)), position_(position) {}
+
+  [[nodiscard]] std::int32_t State() const override { return kStateOpen; }
+
+  [[nodiscard]] std::shared_ptr<RecordSet> CloneDetached(std::int32_t lock_type) override {
+    if (lock_type != kUnspecified) throw InvalidArgument();
+    return (*record_sets_)[position_]->Clone();
+  }
+
+  [[nodiscard]] std::unique_ptr<ResultCursor> NextRecordSet() override {
+    if (position_ + 1 == record_sets_->size()) return nullptr;
+    return std::make_unique<DeliveredResult>(record_sets_, position_ + 1);
+  }
+
+ private:
+  RecordSets record_sets_;
+  std::size_t position_;
+};
+
+class EngineCommand : public Command {
+ public:
+  explicit EngineCommand(const EngineRegistry& engines) : engines_(engines) {}
+
+  void SetType(std::int32_t type) override {
+    if (type != kStoredProcedureCommand) throw InvalidArgument();
+  }
+
+  void SetText(const std::string& text) override { procedure_ = text; }
+
+  void SetConnection(const std::string& connection_string) override {
+    connection_ = engines_.EngineFor(connection_string).Connect(connection_string);
+  }
+
+  void SetCursorLocation(std::int32_t location) override {
+    if (location != kClientSideCursor) throw InvalidArgument();
+  }
+
+  void RefreshParameters() override {
+    parameters_.clear();
+    for (auto& description : OpenConnection().DescribeProcedure(procedure_)) {
+      parameters_.push_back({FoldCase(description.name), std::move(description), {}});
+    }
+  }
+
+  void SetParameter(const std::string& name, const Value& value) override {
+    const std::string folded = FoldCase(name);
+    const auto found = std::find_if(parameters_.begin(), parameters_.end(),
+                                    [&](const auto& parameter) { return parameter.folded_name == folded; });
+    if (found == parameters_.end() || found->description.direction != ParameterDirection::kInput) {
+      throw Failure(failure_number::kUnknownField, procedure_ + " has no parameter " + name);
+    }
+    found->value = ConvertForParameter(found->description, value);
+  }
+
+  [[nodiscard]] std::unique_ptr<ResultCursor> Execute(std::int32_t options) override {
+    if (options != kUnspecified) throw InvalidArgument();
+    std::vector<Value> inputs;
+    for (const auto& parameter : parameters_) {
+      if (parameter.description.direction == ParameterDirection::kInput) inputs.push_back(parameter.value);
+    }
+    CallOutcome outcome = OpenConnection().Call(procedure_, inputs);
+    for (auto& parameter : parameters_) {
+      if (parameter.description.direction == ParameterDirection::kReturnValue) {
+        parameter.value = outcome.return_value;
+      }
+    }
+    if (outcome.record_sets.empty()) return nullptr;
+    return std::make_unique<DeliveredResult>(
+        std::make_shared<const std::vector<std::shared_ptr<RecordSet>>>(std::move(outcome.record_sets)), 0);
+  }
+
+  [[nodiscard]] Value ParameterAt(std::int32_t position) const override {
+    const auto found = std::find_if(parameters_.begin(), parameters_.end(), [&](const auto& parameter) {
+      return parameter.description.position == position;
+    });
+    if (found == parameters_.end()) throw SubscriptOutOfRange();
+    return found->value;
+  }
+
+ private:
+  struct Parameter {
+    std::string folded_name;
+    ParameterDescription description;
+    Value value;
+  };
+
+  [[nodiscard]] Connection& OpenConnection() const {
+    if (!connection_) {
+      throw Failure(failure_number::kObjectNotSet, "The command has no connection");
+    }
+    return *connection_;
+  }
+
+  const EngineRegistry& engines_;
+  std::string procedure_;
+  std::unique_ptr<Connection> connection_;
+  std::vector<Parameter> parameters_;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> EngineCommandFactory::CreateCommand() {
+  return std::make_unique<EngineCommand>(engines_);
+}
+
+}  // namespace ferrowind::platform

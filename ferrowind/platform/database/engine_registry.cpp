@@ -1,0 +1,43 @@
+#include "ferrowind/platform/database/engine_registry.h"
+
+#include <algorithm>
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::platform {
+namespace {
+
+bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+
+/// Whether `text` is written as the scheme of a URI. Anything else in front of a colon may be part of a
+/// password.
+bool IsScheme(const std::string& text) {
+  return !text.empty() && IsLetter(text.front()) && std::all_of(text.begin(), text.end(), [](char c) {
+    return IsLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
+  });
+}
+
+}  // namespace
+
+void EngineRegistry::Register(std::string scheme, std::shared_ptr<Engine> engine) {
+  std::erase_if(engines_, [&](const auto& entry) { return entry.first == scheme; });
+  engines_.emplace_back(std::move(scheme), std::move(engine));
+}
+
+Engine& EngineRegistry::EngineFor(const std::string& connection_string) const {
+  const auto colon = connection_string.find(':');
+  const std::string scheme = connection_string.substr(0, colon);
+  if (colon == std::string::npos || !IsScheme(scheme)) {
+    throw Failure(failure_number::kInvalidArgument,
+                  "The connection string has no scheme such as \"sqlite:\" in front");
+  }
+  const auto found = std::find_if(engines_.begin(), engines_.end(),
+                                  [&](const auto& entry) { return entry.first == scheme; });
+  if (found == engines_.end()) {
+    throw Failure(failure_number::kInvalidArgument,
+                  "There is no database engine for connection strings of the scheme \"" + scheme + ":\"");
+  }
+  return *found->second;
+}
+
+}  // namespace ferrowind::platform

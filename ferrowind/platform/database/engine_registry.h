@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ferrowind/platform/database/engine.h"
+
+namespace ferrowind::platform {
+
+/// The engines that a host has, each under the scheme that its connection strings begin with ("sqlite:").
+class EngineRegistry {
+ public:
+  /// `scheme` without its colon. A scheme registered before is taken over by the newer engine.
+  void Register(std::string scheme, std::shared_ptr<Engine> engine);
+
+  /// The engine for `connection_string`, never null; it lives at least as long as the registry. A connection
+  /// string of no known engine is a failure that names the scheme, never the rest, which may hold a password.
+  [[nodiscard]] Engine& EngineFor(const std::string& connection_string) const;
+
+ private:
+  std::vector<std::pair<std::string, std::shared_ptr<Engine>>> engines_;
+};
+
+}  // namespace ferrowind::platform

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace ferrowind::platform {
+
+/// The owned handle of one event subscription: dropping it unsubscribes.
+///
+/// Safe to drop at any time, also from inside the handler that it stands for and after the source of the
+/// event is gone. Empty when default-constructed or moved from.
+class Subscription {
+ public:
+  Subscription() = default;
+  /// `unsubscribe` is run once, when the handle is dropped or reset; it must not throw.
+  explicit Subscription(std::function<void()> unsubscribe) : unsubscribe_(std::move(unsubscribe)) {}
+  ~Subscription() { Reset(); }
+
+  Subscription(const Subscription&) = delete;
+  Subscription& operator=(const Subscription&) = delete;
+  Subscription(Subscription&& other) noexcept : unsubscribe_(std::exchange(other.unsubscribe_, nullptr)) {}
+  Subscription& operator=(Subscription&& other) noexcept {
+    if (this != &other) {
+      Reset();
+      unsubscribe_ = std::exchange(other.unsubscribe_, nullptr);
+    }
+    return *this;
+  }
+
+  /// Unsubscribes now; does nothing when there is nothing to unsubscribe.
+  void Reset() {
+    if (auto unsubscribe = std::exchange(unsubscribe_, nullptr)) unsubscribe();
+  }
+
+ private:
+  std::function<void()> unsubscribe_;
+};
+
+}  // namespace ferrowind::platform

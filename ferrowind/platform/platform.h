@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "ferrowind/platform/database/command.h"
+#include "ferrowind/platform/services/clock.h"
+#include "ferrowind/platform/services/dictionary.h"
+#include "ferrowind/platform/services/locale.h"
+#include "ferrowind/platform/services/object_factory.h"
+#include "ferrowind/platform/services/shared_services.h"
+#include "ferrowind/platform/toolkit/toolkit.h"
+
+namespace ferrowind::platform {
+
+/// The component's surroundings, put together by the host's composition root.
+///
+/// References only: everything must outlive the component's use on the thread that it was attached on.
+struct Platform {
+  ObjectFactory& objects;
+  CommandFactory& commands;
+  Toolkit& toolkit;
+  const Locale& locale;
+  const Clock& clock;
+  /// The folder that the component's own files lie in, such as the animation; UTF-8, without a trailing
+  /// separator.
+  std::string component_folder;
+};
+
+}  // namespace ferrowind::platform

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "ferrowind/platform/toolkit/control.h"
+
+namespace ferrowind::platform {
+
+/// Plays an animated image over and over; shows nothing while it does not play.
+class Animation : public Control {
+ public:
+  /// A file that is missing or no animated image is a failure that names it.
+  virtual void Open(const std::string& path) = 0;
+  /// Failure when no animation is open.
+  virtual void Play() = 0;
+  virtual void Stop() = 0;
+};
+
+}  // namespace ferrowind::platform

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ferrowind/platform/events/subscription.h"
+#include "ferrowind/platform/toolkit/control.h"
+
+namespace ferrowind::platform {
+
+class Button : public Control {
+ public:
+  /// Without the mark of its mnemonic.
+  [[nodiscard]] virtual std::string Caption() const = 0;
+  virtual void SetCaption(const std::string& caption) = 0;
+  /// The operator pressed the button, by mouse, key or as the form's default or cancel button.
+  [[nodiscard]] virtual Subscription OnClick(std::function<void()> handler) = 0;
+};
+
+}  // namespace ferrowind::platform

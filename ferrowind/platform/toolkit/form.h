@@ -1,0 +1,72 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ferrowind/platform/events/subscription.h"
+#include "ferrowind/platform/toolkit/control.h"
+#include "ferrowind/platform/toolkit/form_design.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::platform {
+
+/// A window: designed, then loaded once, shown, and unloaded once. Used on the user-interface thread.
+///
+/// Positions and sizes are single-precision numbers in twips (1440 an inch); a form's size is its outer size.
+/// The form and its controls live until the last reference to the form is dropped, also after it was
+/// unloaded; dropping it before that unloads nothing and raises nothing.
+class Form : public Element {
+ public:
+  [[nodiscard]] virtual std::string Caption() const = 0;
+  virtual void SetCaption(const std::string& caption) = 0;
+  [[nodiscard]] virtual float Left() const = 0;
+  virtual void SetLeft(float left) = 0;
+  [[nodiscard]] virtual float Top() const = 0;
+  virtual void SetTop(float top) = 0;
+  [[nodiscard]] virtual float Width() const = 0;
+  /// A negative width or height, or one that is not finite, is the failure Invalid argument.
+  virtual void SetWidth(float width) = 0;
+  [[nodiscard]] virtual float Height() const = 0;
+  virtual void SetHeight(float height) = 0;
+  /// The height of the area inside the frame.
+  [[nodiscard]] virtual float InnerHeight() const = 0;
+
+  /// The control of that name, never null; a name that the design does not have is the failure Element not
+  /// found (35601), which names both. `ControlOf` below also checks its kind.
+  [[nodiscard]] virtual Control& ControlNamed(const std::string& name) = 0;
+
+  /// Raises `OnLoad` when the form was not loaded before.
+  virtual void Load() = 0;
+  /// Loads the form where needed and shows it without an owner, beside the host's other windows.
+  virtual void Show() = 0;
+  /// Loads the form where needed, shows it in front of the active window and returns when it is hidden or
+  /// unloaded; no other window takes input meanwhile. May be nested. When the application ends while the form
+  /// is on show, that hides it and is a failure, since nobody has answered.
+  virtual void ShowModal() = 0;
+  virtual void Hide() = 0;
+  [[nodiscard]] virtual bool IsShown() const = 0;
+  /// Closes the form: raises `OnCloseQuery` when it was loaded and not yet unloaded, then hides it for good.
+  /// True when it is closed, false when a handler refused or the form is closing already.
+  /// After it, `Load`, `Show` and `ShowModal` do nothing.
+  virtual bool Unload() = 0;
+
+  [[nodiscard]] virtual Subscription OnLoad(std::function<void()> handler) = 0;
+  /// The form got another size, or is shown for the first time.
+  [[nodiscard]] virtual Subscription OnResize(std::function<void()> handler) = 0;
+  /// The form is asked to close, by the operator, the program or the end of the session; setting `cancel`
+  /// keeps it open.
+  [[nodiscard]] virtual Subscription OnCloseQuery(std::function<void(bool& cancel)> handler) = 0;
+};
+
+/// The failure of a control that is not there, or not of the kind asked for.
+[[nodiscard]] Failure NoSuchControl(const Form& form, const std::string& name);
+
+/// The control of that name as a `Kind`; another kind is the same failure as none.
+template <typename Kind>
+[[nodiscard]] Kind& ControlOf(Form& form, const std::string& name) {
+  auto* control = dynamic_cast<Kind*>(&form.ControlNamed(name));
+  if (control == nullptr) throw NoSuchControl(form, name);
+  return *control;
+}
+
+}  // namespace ferrowind::platform

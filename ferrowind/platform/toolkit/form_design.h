@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace ferrowind::platform {
+
+enum class ControlKind {
+  kLabel,
+  kButton,
+  kTextBox,
+  kDropDownList,
+  kDatePicker,
+  kUpDown,
+  kFrame,
+  kPanel,
+  kTree,
+  kGrid,
+  kToolBar,
+  kStatusBar,
+  kSplitter,
+  kAnimation,
+};
+
+/// A control as a view needs it. Where it stands is the adapter's layout.
+struct ControlDesign {
+  ControlKind kind;
+  std::string name;
+  /// The caption or first text; "" for none.
+  std::string text = {};
+  bool is_default_button = false;
+  bool is_cancel_button = false;
+};
+
+enum class FormBorder {
+  /// A window with a frame to resize it by, with minimise and maximise boxes and a window menu.
+  kSizable,
+  /// A dialog of fixed size without those boxes and without a window menu, so that only its buttons close it.
+  kFixedDialog,
+  /// A dialog of fixed size that its frame can close.
+  kClosableDialog,
+  /// A box without a title bar.
+  kNone,
+};
+
+enum class FormStart { kAsPlaced, kCenterOwner, kCenterScreen };
+
+/// A form as a view needs it: the toolkit makes the form of this name and gives it these texts.
+struct FormDesign {
+  std::string name;
+  std::string caption;
+  FormBorder border = FormBorder::kSizable;
+  FormStart start = FormStart::kAsPlaced;
+  /// The designed client area, in twips. Dialogs grow where their texts need it.
+  float client_width = 0;
+  float client_height = 0;
+  /// In tab order.
+  std::vector<ControlDesign> controls = {};
+};
+
+}  // namespace ferrowind::platform

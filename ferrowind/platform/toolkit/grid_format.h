@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "ferrowind/platform/values/value.h"
+
+namespace ferrowind::platform {
+
+struct Color {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  friend bool operator==(const Color&, const Color&) = default;
+};
+
+/// The operator code of a conditional format that applies where the cell equals the compared value.
+inline constexpr std::int32_t kFormatEqual = 0;
+
+/// A conditional format: how a whole row looks when the row's cell of one column compares as said.
+///
+/// The cell is compared as it is shown where the column has a value list, and by its value otherwise. Of
+/// several formats that apply, the one added first decides each attribute that it sets.
+struct GridFormat {
+  std::string key;
+  std::string column_key;
+  std::int32_t comparison = kFormatEqual;
+  Value compared;
+  /// Unset attributes are left as the row has them.
+  std::optional<Color> fore_color = std::nullopt;
+  std::optional<bool> bold = std::nullopt;
+  std::optional<bool> strike_through = std::nullopt;
+};
+
+}  // namespace ferrowind::platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "ferrowind/platform/events/subscription.h"
+#include "ferrowind/platform/toolkit/control.h"
+
+namespace ferrowind::platform {
+
+class TextBox : public Control {
+ public:
+  [[nodiscard]] virtual std::string Text() const = 0;
+  virtual void SetText(const std::string& text) = 0;
+  /// The most characters that the operator can type; 0 is no limit.
+  virtual void SetMaxLength(std::int32_t characters) = 0;
+  virtual void SelectAll() = 0;
+  /// The text changed, by the operator or the program; not raised when the same text is set again.
+  [[nodiscard]] virtual Subscription OnChange(std::function<void()> handler) = 0;
+  [[nodiscard]] virtual Subscription OnLostFocus(std::function<void()> handler) = 0;
+};
+
+}  // namespace ferrowind::platform

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ferrowind/platform/events/subscription.h"
+#include "ferrowind/platform/toolkit/control.h"
+
+namespace ferrowind::platform {
+
+enum class ToolKind { kButton, kTwoStateButton };
+
+/// A tool, known by its id, that stands on the bar, in a popup menu or both.
+struct ToolDesign {
+  std::string id;
+  std::string caption;
+  std::string category;
+  std::string description;
+  ToolKind kind = ToolKind::kButton;
+};
+
+/// The place of a separator in a list of tool ids.
+inline constexpr const char* kToolSeparator = "-";
+
+/// Tools identified by strings: a bar of them and popup menus of them. A method that takes the id of no tool
+/// fails with Element not found (35601) and names the id.
+class ToolBar : public Control {
+ public:
+  /// Adds a tool, enabled and not pressed; it is not shown until it is put on the bar or into a menu. An id
+  /// in use is the failure Key not unique (35602).
+  virtual void AddTool(const ToolDesign& tool) = 0;
+  /// Puts the tools of those ids on the bar, in that order, in place of what was there.
+  virtual void SetBar(const std::string& caption, const std::vector<std::string>& ids) = 0;
+  /// Adds the popup menu `id` of the tools of those ids, in that order.
+  virtual void AddPopupMenu(const std::string& id, const std::string& caption,
+                            const std::vector<std::string>& ids) = 0;
+
+  [[nodiscard]] virtual bool ToolEnabled(const std::string& id) const = 0;
+  virtual void SetToolEnabled(const std::string& id, bool enabled) = 0;
+  /// Whether a two-state button is pressed (state 1).
+  [[nodiscard]] virtual bool ToolPressed(const std::string& id) const = 0;
+  /// Raises no event.
+  virtual void SetToolPressed(const std::string& id, bool pressed) = 0;
+  [[nodiscard]] virtual std::string ToolDescription(const std::string& id) const = 0;
+
+  /// Shows the popup menu at the mouse position, or at the grid's current row when a key asked for it.
+  /// Returns once it is closed; a tool chosen in it has raised `OnToolClick` by then.
+  virtual void ShowPopupMenu(const std::string& id) = 0;
+
+  /// A tool was clicked, on the bar or in a menu; a two-state button has its new state already.
+  [[nodiscard]] virtual Subscription OnToolClick(std::function<void(const std::string& id)> handler) = 0;
+  /// The mouse, or the keyboard's selection in a menu, came to a tool; the tool may be disabled.
+  [[nodiscard]] virtual Subscription OnToolEnter(std::function<void(const std::string& id)> handler) = 0;
+  [[nodiscard]] virtual Subscription OnToolLeave(std::function<void(const std::string& id)> handler) = 0;
+};
+
+}  // namespace ferrowind::platform

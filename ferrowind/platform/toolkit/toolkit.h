@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+
+#include "ferrowind/platform/toolkit/animation.h"
+#include "ferrowind/platform/toolkit/button.h"
+#include "ferrowind/platform/toolkit/control.h"
+#include "ferrowind/platform/toolkit/control_site.h"
+#include "ferrowind/platform/toolkit/date_picker.h"
+#include "ferrowind/platform/toolkit/drop_down_list.h"
+#include "ferrowind/platform/toolkit/form.h"
+#include "ferrowind/platform/toolkit/form_design.h"
+#include "ferrowind/platform/toolkit/grid.h"
+#include "ferrowind/platform/toolkit/label.h"
+#include "ferrowind/platform/toolkit/status_bar.h"
+#include "ferrowind/platform/toolkit/text_box.h"
+#include "ferrowind/platform/toolkit/tool_bar.h"
+#include "ferrowind/platform/toolkit/tree.h"
+#include "ferrowind/platform/toolkit/up_down.h"
+
+namespace ferrowind::platform {
+
+/// A size on the screen, in twips.
+struct ScreenSize {
+  float width = 0;
+  float height = 0;
+};
+
+/// The user-interface toolkit of the host's thread.
+class Toolkit {
+ public:
+  virtual ~Toolkit() = default;
+
+  /// Makes the form of that name with the controls of the design, not loaded and not shown; never null. A
+  /// form that the toolkit has no layout for, or a layout that lacks a control of the design, is a failure
+  /// that names it.
+  [[nodiscard]] virtual std::shared_ptr<Form> CreateForm(const FormDesign& design) = 0;
+
+  /// The whole screen that new windows open on, with the areas that the desktop keeps for itself: half of it
+  /// is the middle, wherever those areas are.
+  [[nodiscard]] virtual ScreenSize Screen() const = 0;
+  /// 1440 divided by the screen's horizontal resolution in dots per inch.
+  [[nodiscard]] virtual float TwipsPerPixelX() const = 0;
+
+  /// Stops repainting of `element` and all in it until `UnlockUpdates`. Only one element can be locked at a
+  /// time: true when it is locked now, false when another lock was on already and this call did nothing.
+  virtual bool LockUpdates(Element& element) = 0;
+  /// Ends the lock and repaints once; does nothing without a lock, or when the locked element is gone.
+  virtual void UnlockUpdates() = 0;
+
+  /// Handles the user-interface messages that wait, and returns.
+  virtual void ProcessPendingEvents() = 0;
+  virtual void Beep() = 0;
+};
+
+}  // namespace ferrowind::platform

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <chrono>
+#include <compare>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ferrowind::platform {
+
+/// A day of the proleptic Gregorian calendar, years 1 to 9999, without a time of day or a time zone.
+class Date {
+ public:
+  /// Precondition: `IsValid(year, month, day)`.
+  Date(int year, int month, int day);
+  [[nodiscard]] static bool IsValid(int year, int month, int day);
+
+  /// The day `serial` days after 30 December 1899, the origin of the platform's date serials (so 1 is a
+  /// Sunday). A serial outside the years 1 to 9999 is the failure Overflow.
+  [[nodiscard]] static Date FromSerial(std::int32_t serial);
+  [[nodiscard]] std::int32_t Serial() const;
+
+  /// Reads "YYYY-MM-DD" (ISO 8601 calendar date, extended format), nothing else; empty when it is not a day.
+  [[nodiscard]] static std::optional<Date> FromIso(std::string_view text);
+  [[nodiscard]] std::string ToIso() const;
+
+  [[nodiscard]] int Year() const { return static_cast<int>(ymd_.year()); }
+  [[nodiscard]] int Month() const { return static_cast<int>(static_cast<unsigned>(ymd_.month())); }
+  [[nodiscard]] int Day() const { return static_cast<int>(static_cast<unsigned>(ymd_.day())); }
+  /// 1 to 366.
+  [[nodiscard]] int DayOfYear() const;
+  /// 1 Sunday to 7 Saturday.
+  [[nodiscard]] int Weekday() const;
+
+  /// The same day and month `years` later (earlier when negative); 29 February becomes 28 February in a
+  /// common year. A year outside 1 to 9999 is the failure Overflow.
+  [[nodiscard]] Date AddYears(int years) const;
+  [[nodiscard]] Date AddDays(int days) const;
+
+  friend bool operator==(const Date&, const Date&) = default;
+  friend auto operator<=>(const Date& left, const Date& right) { return left.ymd_ <=> right.ymd_; }
+
+ private:
+  explicit Date(std::chrono::year_month_day ymd) : ymd_(ymd) {}
+
+  std::chrono::year_month_day ymd_;
+};
+
+[[nodiscard]] bool IsLeapYear(int year);
+/// 365 or 366.
+[[nodiscard]] int DaysInYear(int year);
+
+}  // namespace ferrowind::platform

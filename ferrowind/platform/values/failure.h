@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace ferrowind::platform {
+
+/// The one exception type that crosses a port: a number and a description for the operator.
+///
+/// Adapters map the errors of their libraries to it and keep the native code and text in the description.
+class Failure : public std::exception {
+ public:
+  Failure(std::int32_t number, std::string description);
+
+  /// One of the numbers below, the component's own 0x80040258, or a native error number of an adapter.
+  [[nodiscard]] std::int32_t Number() const noexcept { return number_; }
+  /// UTF-8; never holds a password.
+  [[nodiscard]] const std::string& Description() const noexcept { return description_; }
+  [[nodiscard]] const char* what() const noexcept override { return description_.c_str(); }
+
+ private:
+  std::int32_t number_;
+  std::string description_;
+};
+
+/// Failure numbers that hosts know from the platform this component's interface was defined on.
+namespace failure_number {
+inline constexpr std::int32_t kInvalidArgument = 5;
+inline constexpr std::int32_t kOverflow = 6;
+inline constexpr std::int32_t kSubscriptOutOfRange = 9;
+inline constexpr std::int32_t kTypeMismatch = 13;
+inline constexpr std::int32_t kObjectNotSet = 91;
+inline constexpr std::int32_t kInvalidUseOfNull = 94;
+inline constexpr std::int32_t kCannotCreateObject = 429;
+inline constexpr std::int32_t kDuplicateKey = 457;
+inline constexpr std::int32_t kFilterNotUnderstood = 3001;
+inline constexpr std::int32_t kNoCurrentRecord = 3021;
+inline constexpr std::int32_t kUnknownField = 3265;
+inline constexpr std::int32_t kElementNotFound = 35601;
+inline constexpr std::int32_t kKeyNotUnique = 35602;
+}  // namespace failure_number
+
+/// The failures of the platform's collections and conversions, with the platform's own texts.
+[[nodiscard]] Failure DuplicateKey();
+[[nodiscard]] Failure InvalidArgument();
+[[nodiscard]] Failure SubscriptOutOfRange();
+[[nodiscard]] Failure TypeMismatch();
+[[nodiscard]] Failure Overflow();
+[[nodiscard]] Failure InvalidUseOfNull();
+
+}  // namespace ferrowind::platform
