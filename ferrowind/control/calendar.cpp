@@ -1,0 +1,109 @@
+#include "ferrowind/control/calendar.h"
+
+#include <exception>
+
+#include "ferrowind/control/component_error.h"
+#include "ferrowind/control/default_headers.h"
+#include "ferrowind/data/error_reporting.h"
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/runtime_failure.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/calendars/calendars_window.h"
+#include "ferrowind/views/calendars/fm_calendar.h"
+
+namespace ferrowind {
+namespace {
+
+constexpr float kSizeInPixels = 16;
+
+}  // namespace
+
+Calendar::Calendar(const platform::Platform& platform, platform::ControlSite* site)
+    : platform_(platform), site_(site) {
+  AttachPlatform(platform);
+  EnsureDictionary();
+  AddDefaultHolidayHeaders(*HolidayHeaders());
+  AddDefaultHeaders(*Headers());
+  if (site_ != nullptr) {
+    site_resized_ = site_->OnResize([this] { RunHandler([this] { SnapToSize(); }); });
+  }
+}
+
+// A window cannot outlive the control that it reports its closing to.
+Calendar::~Calendar() {
+  RunHandler([this] { ForceClosing(); });
+}
+
+bool Calendar::ForceClosing() {
+  if (!frmCalendar_) return true;
+  // Held here, because the window reports its closing, and the control then drops its reference, while this
+  // call runs.
+  const auto window = frmCalendar_;
+  if (!window->ForceClosing()) return false;
+  if (frmCalendar_ == window) frmCalendar_OnClosing();
+  return true;
+}
+
+void Calendar::Show() {
+  RunHandler([this] { OpenWindow(); });
+}
+
+void Calendar::OpenWindow() {
+  if (frmCalendar_) return;
+  const auto window = CreateCalendarsWindow();
+  const auto headers = Headers();
+  const auto holiday_headers = HolidayHeaders();
+  frmCalendar_ = window;
+  window_closing_ = window->OnClosing([this] { frmCalendar_OnClosing(); });
+  // A window that is not ready is not shown, and the reference stays until the window reports its closing, by
+  // intention.
+  if (window->Init(headers, holiday_headers)) window->Show();
+}
+
+void Calendar::frmCalendar_OnClosing() {
+  window_closing_.Reset();
+  frmCalendar_.reset();
+}
+
+std::shared_ptr<GridFields> Calendar::Headers() { return MapBeforeShow(headers_); }
+
+std::shared_ptr<GridFields> Calendar::HolidayHeaders() { return MapBeforeShow(holiday_headers_); }
+
+std::shared_ptr<GridFields> Calendar::MapBeforeShow(std::shared_ptr<GridFields>& map) const {
+  if (frmCalendar_) throw platform::Failure(kComponentError, "Property is accessed only before show method");
+  if (!map) map = std::make_shared<GridFields>();
+  return map;
+}
+
+std::array<platform::Value, 5> Calendar::Version() {
+  constexpr std::int16_t kMajor = 1;
+  constexpr std::int16_t kMinor = 2;
+  constexpr std::int16_t kRevision = 10;
+  return {"Ferrowind", kMajor, kMinor, kRevision, platform::Value()};
+}
+
+std::shared_ptr<CalendarsWindow> Calendar::CreateCalendarsWindow() { return fmCalendar::Create(platform_); }
+
+void Calendar::EnsureDictionary() {
+  try {
+    EnsureDictionaryObject();
+  } catch (const std::exception&) {
+    const platform::Failure failure = FailureBeingHandled();
+    RunHandler([&failure] {
+      SharedServicesObject().ShowMessage("Error activate dictionary object. Error Number " +
+                                             platform::ToText(failure.Number()) + ".\r\n" +
+                                             failure.Description(),
+                                         kInformationStyle, 1, 1, nullptr, "", true, true);
+    });
+  }
+}
+
+void Calendar::SnapToSize() {
+  // The horizontal factor serves the height too.
+  const float size = kSizeInPixels * platform_.toolkit.TwipsPerPixelX();
+  site_->SetSize(size, size);
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "ferrowind/control/grid_fields.h"
+#include "ferrowind/platform/events/subscription.h"
+#include "ferrowind/platform/platform.h"
+#include "ferrowind/platform/toolkit/control_site.h"
+#include "ferrowind/platform/values/value.h"
+
+namespace ferrowind {
+
+class CalendarsWindow;
+
+/// The component's one public class: a control, invisible at run time, that a host places on one of its
+/// windows.
+///
+/// Adjust the two column maps, call `Show`, and ask `ForceClosing` when the window has to go. Use it on one
+/// thread, the host's user-interface thread. Destroying it closes the window.
+class Calendar {
+ public:
+  /// Makes the surroundings those of the component on this thread, creates the thread's dictionary object
+  /// when there is none, and fills the maps with their default columns. A dictionary object that cannot be
+  /// created is shown to the operator, and the control goes on without it. `platform`, and `site` where the
+  /// host has one, must outlive the control.
+  explicit Calendar(const platform::Platform& platform, platform::ControlSite* site = nullptr);
+  virtual ~Calendar();
+  Calendar(const Calendar&) = delete;
+  Calendar& operator=(const Calendar&) = delete;
+
+  /// Asks the Calendars window to close. True when it is closed or was not open, false when it refuses.
+  bool ForceClosing();
+
+  /// Opens the Calendars window, without an owner and beside the host's windows. Does nothing while one is
+  /// open; it is not brought forward. What goes wrong is shown to the operator, and the window then stays
+  /// closed.
+  void Show();
+
+  /// The column map of the day grid, always the same object. While the Calendars window is open it is the
+  /// failure 0x80040258, "Property is accessed only before show method"; a map obtained before stays usable,
+  /// and changes of it reach the open window.
+  [[nodiscard]] std::shared_ptr<GridFields> Headers();
+  /// The column map of the holiday grid; as `Headers`.
+  [[nodiscard]] std::shared_ptr<GridFields> HolidayHeaders();
+
+  /// The title "Ferrowind", the major version, the minor version and the revision as 16-bit integers, and a
+  /// fifth element that is empty by intention.
+  [[nodiscard]] static std::array<platform::Value, 5> Version();
+
+ protected:
+  /// Makes the window that `Show` opens.
+  [[nodiscard]] virtual std::shared_ptr<CalendarsWindow> CreateCalendarsWindow();
+
+ private:
+  void EnsureDictionary();
+  void OpenWindow();
+  void frmCalendar_OnClosing();
+  void SnapToSize();
+  std::shared_ptr<GridFields> MapBeforeShow(std::shared_ptr<GridFields>& map) const;
+
+  const platform::Platform& platform_;
+  platform::ControlSite* site_;
+  std::shared_ptr<GridFields> headers_;
+  std::shared_ptr<GridFields> holiday_headers_;
+  std::shared_ptr<CalendarsWindow> frmCalendar_;
+  platform::Subscription window_closing_;
+  platform::Subscription site_resized_;
+};
+
+}  // namespace ferrowind

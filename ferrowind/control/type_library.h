@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+
+/// The identity of the public interface, kept for hosts that were built against it: class and interface
+/// identifiers in registry form, and the dispatch identifiers of the members in the order of their slots.
+namespace ferrowind::type_library {
+
+/// The name of the library and the prefix of the programmatic identifiers.
+inline constexpr const char* kName = "Ferrowind";
+inline constexpr const char* kCalendarProgrammaticIdentifier = "Ferrowind.Calendar";
+inline constexpr const char* kFileVersion = "1.2.0.10";
+
+struct Class {
+  const char* name;
+  const char* class_id;
+  const char* interface_name;
+  const char* interface_id;
+  /// Null for a class without events.
+  const char* events_name;
+  const char* events_id;
+  /// Whether the class is marked as a control. No class carries a creation flag: hosts obtain the maps from
+  /// the control.
+  bool is_control;
+};
+
+inline constexpr Class kClasses[] = {
+    {"Calendar", "{DED80419-449B-11D6-8AE6-0050228F1EE8}", "_Calendar",
+     "{03C0325A-44B4-11D6-8AE6-0050228F1EE8}", "__Calendar", "{03C0325B-44B4-11D6-8AE6-0050228F1EE8}", true},
+    {"GridFields", "{DED80413-449B-11D6-8AE6-0050228F1EE8}", "_GridFields",
+     "{03C03052-44B4-11D6-8AE6-0050228F1EE8}", nullptr, nullptr, false},
+    {"GridField", "{DED80410-449B-11D6-8AE6-0050228F1EE8}", "_GridField",
+     "{03C03050-44B4-11D6-8AE6-0050228F1EE8}", "__GridField", "{03C03051-44B4-11D6-8AE6-0050228F1EE8}",
+     false},
+};
+
+enum class MemberKind { kMethod, kPropertyGet, kPropertyGetPut, kEvent };
+
+struct Member {
+  const char* interface_name;
+  const char* name;
+  MemberKind kind;
+  std::uint32_t dispatch_id;
+};
+
+inline constexpr Member kMembers[] = {
+    {"_Calendar", "ForceClosing", MemberKind::kMethod, 0x60030002},
+    {"_Calendar", "Show", MemberKind::kMethod, 0x60030003},
+    {"_Calendar", "Headers", MemberKind::kPropertyGet, 0x68030001},
+    {"_Calendar", "HolidayHeaders", MemberKind::kPropertyGet, 0x68030000},
+    {"_Calendar", "Version", MemberKind::kPropertyGet, 0x68030004},
+    {"_GridFields", "Add", MemberKind::kMethod, 0x60030001},
+    {"_GridFields", "LocalNames", MemberKind::kMethod, 0x60030002},
+    {"_GridFields", "Fields", MemberKind::kMethod, 0x60030003},
+    {"_GridFields", "RemoveByLocalIndex", MemberKind::kMethod, 0x60030004},
+    {"_GridFields", "RemoveByFieldIndex", MemberKind::kMethod, 0x60030005},
+    {"_GridFields", "Clear", MemberKind::kMethod, 0x60030006},
+    {"_GridFields", "Count", MemberKind::kPropertyGet, 0x68030000},
+    {"_GridField", "FieldName", MemberKind::kPropertyGetPut, 0x40030002},
+    {"_GridField", "Visible", MemberKind::kPropertyGetPut, 0x40030003},
+    {"_GridField", "Caption", MemberKind::kPropertyGetPut, 0x40030004},
+    {"_GridField", "LocalName", MemberKind::kPropertyGetPut, 0x68030002},
+    {"_GridField", "Index", MemberKind::kPropertyGet, 0x68030001},
+    {"_GridField", "IsConst", MemberKind::kPropertyGet, 0x68030000},
+    {"__GridField", "GetIndex", MemberKind::kEvent, 1},
+};
+
+}  // namespace ferrowind::type_library
