@@ -1,0 +1,64 @@
+#include "ferrowind/views/calendars/calendar_tools.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::kToolSeparator;
+using platform::ToolKind;
+
+constexpr const char* kCategory = "General";
+
+struct ToolText {
+  const char* id;
+  const char* caption;
+  const char* description;
+  ToolKind kind = ToolKind::kButton;
+};
+
+constexpr ToolText kTools[] = {
+    {"ID_Refresh", "Refresh", "Refresh all"},
+    {"ID_New", "New", "Create new calendar"},
+    {"ID_Expand", "Expand", "Expand currency nodes"},
+    {"ID_Collapse", "Collapse", "Collapse currency nodes"},
+    {"ID_ShowHide", "Show or hide headers group", "Show or hide headers group", ToolKind::kTwoStateButton},
+    {"ID_ExpandGrid", "Expand all grid", "Expand all grid"},
+    {"ID_CollapseGrid", "Collapse all grid", "Collapse all grid"},
+    {"ID_ExpSel", "Expand selection", "Expand selection"},
+    {"ID_Copy", "Copy rows from grid to clipboard", "Copy rows from grid to clipboard"},
+    {"ID_AssignSingle", "Assign holiday for single day ...", "Assign holiday for single day"},
+    {"ID_AssignMany", "Assign group holidays for calendar ...", "Assign group holidays for calendar"},
+    {"ID_Except", "Except day from holidays list", "Except day from holidays list"},
+    {"ID_Except2", "Except day from holiday list with message ...",
+     "Except day from holiday list with message"},
+};
+
+constexpr const char* kTreeTools[] = {"ID_New", "ID_Expand", "ID_Collapse"};
+constexpr const char* kDayTools[] = {"ID_AssignSingle", "ID_AssignMany", "ID_Except", "ID_Except2"};
+constexpr const char* kGridTools[] = {"ID_Copy", "ID_ShowHide", "ID_ExpSel", "ID_ExpandGrid",
+                                      "ID_CollapseGrid"};
+
+}  // namespace
+
+void SetupCalendarTools(platform::ToolBar& tool_bar) {
+  for (const auto& tool : kTools) {
+    tool_bar.AddTool({tool.id, tool.caption, kCategory, tool.description, tool.kind});
+  }
+  tool_bar.SetBar("ToolBar", {"ID_Refresh", "ID_New", "ID_Expand", "ID_Collapse", kToolSeparator,
+                              "ID_ShowHide", "ID_ExpandGrid", "ID_CollapseGrid", "ID_ExpSel", "ID_Copy"});
+  tool_bar.AddPopupMenu(kDayMenu, "StatesMenu",
+                        {"ID_AssignSingle", "ID_AssignMany", kToolSeparator, "ID_Except", "ID_Except2"});
+}
+
+void RefreshCalendarTools(platform::ToolBar& tool_bar, const platform::Tree& tree,
+                          const platform::Grid& grid) {
+  const bool has_nodes = tree.Count() > 0;
+  for (const char* id : kTreeTools) tool_bar.SetToolEnabled(id, has_nodes);
+  const bool shows_calendar = grid.Enabled();
+  for (const char* id : kGridTools) tool_bar.SetToolEnabled(id, shows_calendar);
+}
+
+void EnableDayTools(platform::ToolBar& tool_bar, bool enabled) {
+  for (const char* id : kDayTools) tool_bar.SetToolEnabled(id, enabled);
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,103 @@
+#include "ferrowind/views/calendars/day_commands.h"
+
+#include <utility>
+
+#include "ferrowind/data/exec_proc.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/calendars/node_key.h"
+#include "ferrowind/views/common/holiday_types.h"
+#include "ferrowind/views/dialogs/fm_except_mess.h"
+#include "ferrowind/views/dialogs/fm_select_year.h"
+
+namespace ferrowind {
+namespace {
+
+/// The built-in rule of a working day by exception.
+constexpr std::int32_t kExceptionRule = 1;
+
+std::string SelectedKey(const platform::Tree& tree) {
+  const auto key = tree.Selected();
+  if (!key) throw platform::Failure(platform::failure_number::kObjectNotSet, "No calendar is selected");
+  return *key;
+}
+
+}  // namespace
+
+DayCommands::DayCommands(const platform::Platform& platform, Window window)
+    : platform_(platform), window_(std::move(window)) {}
+
+void DayCommands::SetHolidayHeaders(std::shared_ptr<GridFields> holiday_headers) {
+  holiday_headers_ = std::move(holiday_headers);
+}
+
+DayCommands::SelectedDay DayCommands::TakeSelectedDay() const {
+  platform::Value date = window_.grid.CellValue(window_.grid.CurrentRow(), "FullDate");
+  const std::int32_t day_of_year = platform::ToDate(date).DayOfYear();
+  const std::string node = SelectedKey(window_.tree);
+  return {std::move(date), day_of_year, platform::ToInt32(window_.tree.Text(node)),
+          node_key::CurrencyOfCalendarNode(node)};
+}
+
+void DayCommands::ExceptDay(const std::string& message) {
+  const SelectedDay day = TakeSelectedDay();
+  SourceValues params;
+  params.Add("TID1", holiday_type::kWorkingDay);
+  params.Add("ID1", day.currency_id);
+  params.Add("ID2", kExceptionRule);
+  params.Add("Year1", day.year);
+  params.Add("Day1", day.day_of_year);
+  params.Add("ODate", day.date);
+  if (!message.empty()) params.Add("Comment", message);
+  std::shared_ptr<SourceValues> results;
+  ExecProc("CldIUMain", &params, results);
+  window_.show_days_of_selected_node();
+}
+
+void DayCommands::ExceptDayWithMessage() {
+  fmExceptMess dialog(platform_.toolkit);
+  dialog.ShowModal();
+  if (dialog.Result() == 0) ExceptDay(dialog.Message());
+}
+
+void DayCommands::AssignHolidays(std::int32_t mode) {
+  holidays_window_ = window_.create_holidays_window();
+  // Held here, because the window can be closed and forgotten while it is open.
+  const auto window = holidays_window_;
+  try {
+    const SelectedDay day = TakeSelectedDay();
+    if (window->Init(holiday_headers_, mode, day.year, day.currency_id, day.day_of_year)) {
+      window->ShowModal();
+      if (window->Result() == 1) window_.show_days_of_selected_node();
+    } else {
+      window->Unload();
+    }
+  } catch (...) {
+    holidays_window_.reset();
+    throw;
+  }
+  holidays_window_.reset();
+}
+
+void DayCommands::CreateNewCalendar() {
+  const auto node = window_.tree.Selected();
+  if (!node) return;
+  fmSelectYear dialog(platform_);
+  const auto currency_node = window_.tree.Parent(*node);
+  dialog.SetCcyID(currency_node ? node_key::CurrencyOfCalendarNode(*node)
+                                : node_key::CurrencyOfCurrencyNode(*node));
+  const std::string currency = window_.tree.Text(currency_node.value_or(*node));
+  dialog.SetCaption(dialog.Caption() + " " + currency + " currency");
+  dialog.ShowModal();
+  if (dialog.Result() == 0) window_.refresh_and_select(dialog.CcyID(), dialog.EnterYear());
+}
+
+bool DayCommands::ForceCloseHolidaysWindow() {
+  const auto window = holidays_window_;
+  if (!window) return true;
+  if (!window->ForceClosing()) return false;
+  holidays_window_.reset();
+  return true;
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "ferrowind/control/grid_fields.h"
+#include "ferrowind/platform/platform.h"
+#include "ferrowind/views/common/grid_keys.h"
+#include "ferrowind/views/common/update_lock.h"
+
+namespace ferrowind {
+
+/// The grid of the days of one calendar. Sorting, grouping, current row and first visible row survive a
+/// refill.
+class DayGrid {
+ public:
+  /// The controls the day grid works on; all must outlive it. `on_fill` is called whenever the grid was
+  /// enabled or disabled.
+  struct Controls {
+    platform::Form& form;
+    platform::Tree& tree;
+    platform::Grid& grid;
+    /// Locked while the rows are replaced.
+    platform::Control& splitter;
+    std::function<void()> on_fill;
+  };
+
+  DayGrid(const platform::Platform& platform, Controls controls);
+
+  void SetHeaders(std::shared_ptr<GridFields> headers) { headers_ = std::move(headers); }
+
+  /// Shows the days of a calendar node; a currency node, or none, empties and disables the grid. When the
+  /// days cannot be read the grid stays as it was, and the gateway keeps the failure.
+  void ShowDaysOf(const std::optional<std::string>& node);
+
+  /// The tree node whose days the grid shows, or the node that was clicked last.
+  [[nodiscard]] const std::optional<std::string>& CurrentNode() const { return current_node_; }
+  void SetCurrentNode(const std::string& node) { current_node_ = node; }
+
+  /// The answer to the grid's question for a computed cell; columns that are not computed get none.
+  void ComputeCell(platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver);
+  /// The column's next sort order: none after ascending, ascending after descending, else descending.
+  void CycleSortOrder(platform::GridColumn& column);
+  void BeforeRegrouping();
+  void AfterRegrouping();
+
+ private:
+  void ShowNothing();
+  void ShowRecords(std::shared_ptr<platform::RecordSet> days);
+
+  const platform::Platform& platform_;
+  Controls controls_;
+  std::shared_ptr<GridFields> headers_;
+  std::shared_ptr<platform::RecordSet> days_;
+  std::optional<std::string> current_node_;
+  KeyStore sort_store_;
+  KeyStore group_store_;
+  std::unique_ptr<UpdateLock> regrouping_lock_;
+};
+
+}  // namespace ferrowind

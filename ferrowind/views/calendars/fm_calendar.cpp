@@ -1,0 +1,287 @@
+#include "ferrowind/views/calendars/fm_calendar.h"
+
+#include <exception>
+#include <utility>
+
+#include "ferrowind/data/confirm.h"
+#include "ferrowind/data/error_reporting.h"
+#include "ferrowind/data/error_table.h"
+#include "ferrowind/data/ignoring_failure.h"
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/runtime_failure.h"
+#include "ferrowind/views/calendars/calendar_tools.h"
+#include "ferrowind/views/common/grid_setup.h"
+#include "ferrowind/views/common/holiday_type_formats.h"
+#include "ferrowind/views/common/value_list.h"
+#include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/holidays/fm_enter_holidays.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::ControlKind;
+using platform::ControlOf;
+
+constexpr const char* kLayoutSection = "Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8";
+constexpr const char* kPlacementSuffix = "\\Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8\\Window Calendars";
+constexpr const char* kAnimationFile = "/Progress.pra";
+constexpr std::int32_t kDescriptionPanel = 1;
+
+platform::FormDesign Design() {
+  return {.name = "fmCalendar",
+          .caption = "Calendars",
+          .border = platform::FormBorder::kSizable,
+          .start = platform::FormStart::kAsPlaced,
+          .client_width = 16950,
+          .client_height = 9900,
+          .controls = {{ControlKind::kTree, "tvCalendar"},
+                       {ControlKind::kGrid, "gexCalendar"},
+                       {ControlKind::kToolBar, "ssatb"},
+                       {ControlKind::kPanel, "pctToolBar"},
+                       {ControlKind::kPanel, "ssspUp"},
+                       {ControlKind::kSplitter, "sssp"},
+                       {ControlKind::kStatusBar, "sbCalendar"},
+                       {ControlKind::kAnimation, "anim"}}};
+}
+
+}  // namespace
+
+std::shared_ptr<fmCalendar> fmCalendar::Create(const platform::Platform& platform) {
+  struct Creatable : fmCalendar {
+    explicit Creatable(const platform::Platform& surroundings) : fmCalendar(surroundings) {}
+  };
+  auto window = std::make_shared<Creatable>(platform);
+  window->Connect();
+  return window;
+}
+
+fmCalendar::fmCalendar(const platform::Platform& platform)
+    : platform_(platform),
+      form_(platform.toolkit.CreateForm(Design())),
+      tvCalendar_(ControlOf<platform::Tree>(*form_, "tvCalendar")),
+      gexCalendar_(ControlOf<platform::Grid>(*form_, "gexCalendar")),
+      ssatb_(ControlOf<platform::ToolBar>(*form_, "ssatb")),
+      sbCalendar_(ControlOf<platform::StatusBar>(*form_, "sbCalendar")),
+      anim_(ControlOf<platform::Animation>(*form_, "anim")),
+      ssspUp_(form_->ControlNamed("ssspUp")),
+      sssp_(form_->ControlNamed("sssp")),
+      currencies_(platform.toolkit, *form_, tvCalendar_, [this] { RefreshTools(); }),
+      day_grid_(platform, {*form_, tvCalendar_, gexCalendar_, sssp_, [this] { RefreshTools(); }}),
+      day_commands_(platform, {tvCalendar_, gexCalendar_, [this] { ShowDaysOfSelectedNode(); },
+                               [this](std::int32_t currency_id, std::int32_t year) {
+                                 RefreshAll(currency_id, year, "");
+                               },
+                               [this] { return CreateHolidaysWindow(); }}) {
+  SetupCalendarTools(ssatb_);
+  gexCalendar_.SetEnabled(false);
+}
+
+void fmCalendar::Connect() {
+  // A handler keeps the window alive while it runs: the control may drop its reference meanwhile.
+  const auto handler = [weak = weak_from_this()](auto member) {
+    return [weak, member](auto&&... arguments) {
+      if (const auto self = weak.lock()) RunHandler([&] { ((*self).*member)(arguments...); });
+    };
+  };
+  const auto subscribe = [this](platform::Subscription subscription) {
+    subscriptions_.push_back(std::move(subscription));
+  };
+  subscribe(form_->OnLoad(handler(&fmCalendar::Form_Load)));
+  subscribe(form_->OnResize(handler(&fmCalendar::Form_Resize)));
+  const auto query_unload = handler(&fmCalendar::Form_QueryUnload);
+  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(ssatb_.OnToolClick(handler(&fmCalendar::ssatb_ToolClick)));
+  subscribe(ssatb_.OnToolEnter(handler(&fmCalendar::ssatb_ToolEnter)));
+  const auto tool_leave = handler(&fmCalendar::ssatb_ToolLeave);
+  subscribe(ssatb_.OnToolLeave([tool_leave](const std::string&) { tool_leave(); }));
+  subscribe(tvCalendar_.OnNodeClick(handler(&fmCalendar::tvCalendar_NodeClick)));
+  const auto expanded_or_collapsed = handler(&fmCalendar::tvCalendar_ExpandedOrCollapsed);
+  subscribe(tvCalendar_.OnExpanded([expanded_or_collapsed](const NodeKey&) { expanded_or_collapsed(); }));
+  subscribe(tvCalendar_.OnCollapsed([expanded_or_collapsed](const NodeKey&) { expanded_or_collapsed(); }));
+  subscribe(gexCalendar_.OnUnboundValue(
+      [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver) {
+        // No message while the grid paints: a cell that cannot be computed stays empty.
+        IgnoringFailure([&] { day_grid_.ComputeCell(bookmark, column, receiver); });
+      }));
+  subscribe(gexCalendar_.OnHeaderClick(handler(&fmCalendar::gexCalendar_HeaderClick)));
+  subscribe(gexCalendar_.OnBeforeGroupChange(handler(&fmCalendar::gexCalendar_BeforeGroupChange)));
+  subscribe(gexCalendar_.OnAfterGroupChange(handler(&fmCalendar::gexCalendar_AfterGroupChange)));
+  subscribe(gexCalendar_.OnMouseUp(handler(&fmCalendar::gexCalendar_MouseUp)));
+}
+
+// Starting and closing
+// ------------------------------------------------------------------------------------------------
+
+bool fmCalendar::Init(std::shared_ptr<GridFields> headers, std::shared_ptr<GridFields> holiday_headers) {
+  // The control may drop its reference while a failed start unloads the window.
+  const auto self = shared_from_this();
+  try {
+    form_->Load();
+    const auto error_index = Start(std::move(headers), std::move(holiday_headers));
+    if (!error_index) return true;
+    FailStart(*error_index);
+  } catch (const std::exception&) {
+    const RuntimeFailureScope caught;
+    FailStart(error_index::kCannotLoadHolidayTypes);
+  }
+  return false;
+}
+
+std::optional<std::int32_t> fmCalendar::Start(std::shared_ptr<GridFields> headers,
+                                              std::shared_ptr<GridFields> holiday_headers) {
+  day_grid_.SetHeaders(headers);
+  IgnoringFailure([&] { anim_.Open(platform_.component_folder + kAnimationFile); });
+  if (!currencies_.LoadCurrencies()) return error_index::kCannotLoadCurrency;
+  if (!currencies_.LoadCalendars()) return error_index::kCannotLoadCalendars;
+  SetupGridColumns(gexCalendar_, *headers);
+  if (!FillColumnValueList(gexCalendar_, "HolidayType", *currencies_.HolidayTypes(), "Description1",
+                           "TID1")) {
+    return error_index::kCannotLoadHolidayTypes;
+  }
+  if (gexCalendar_.FormatCount() == 0) AddHolidayTypeFormats(gexCalendar_);
+  day_commands_.SetHolidayHeaders(std::move(holiday_headers));
+  SharedServicesObject().LoadGridLayout(gexCalendar_, kLayoutSection);
+  return std::nullopt;
+}
+
+void fmCalendar::FailStart(std::int32_t error_index) {
+  RunHandler([&] { ShowErrorMessage(error_index); });
+  is_closing_after_failed_start_ = true;
+  RunHandler([this] { form_->Unload(); });
+}
+
+void fmCalendar::Show() { form_->Show(); }
+
+bool fmCalendar::ForceClosing() {
+  const auto self = shared_from_this();
+  return day_commands_.ForceCloseHolidaysWindow() && form_->Unload();
+}
+
+std::shared_ptr<HolidaysWindow> fmCalendar::CreateHolidaysWindow() {
+  return std::make_shared<fmEnterHolidays>(platform_, [this](const auto& work) { WhileAnimated(work); });
+}
+
+platform::Subscription fmCalendar::OnClosing(std::function<void()> handler) {
+  return closing_.Subscribe(std::move(handler));
+}
+
+std::optional<bool> fmCalendar::AskToExit() {
+  if (is_closing_after_failed_start_) return std::nullopt;
+  return Confirm(platform_.toolkit, "Exit from calendars", "You wish exit calendars. Ok ?", 1) == 1;
+}
+
+void fmCalendar::Form_Load() {
+  placement_section_ = SharedServicesObject().SettingsRoot() + kPlacementSuffix;
+  RestoreWindowPlacement(platform_.toolkit, *form_, placement_section_);
+}
+
+// A minimised window, for one, has no room left for the panes: whatever fails here is ignored.
+void fmCalendar::Form_Resize() {
+  IgnoringFailure([&] { sssp_.SetHeight(form_->InnerHeight() - ssspUp_.Height()); });
+}
+
+void fmCalendar::Form_QueryUnload() {
+  closing_.Emit();
+  SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection);
+  SaveWindowPlacement(*form_, placement_section_);
+  platform_.toolkit.ProcessPendingEvents();
+}
+
+// Tree
+// ----------------------------------------------------------------------------------------------------------------
+
+void fmCalendar::RefreshAll(std::int32_t currency_id, std::int32_t year, const std::string& key) {
+  WhileAnimated([&] {
+    {
+      const UpdateLock lock(platform_.toolkit, sssp_);
+      currencies_.LoadCurrencies();
+      currencies_.LoadCalendars();
+      currencies_.SelectNode(currency_id, year, key);
+    }
+    ShowDaysOfSelectedNode();
+  });
+}
+
+void fmCalendar::WhileAnimated(const std::function<void()>& work) {
+  IgnoringFailure([&] { anim_.Play(); });
+  RunHandler(work);
+  IgnoringFailure([&] { anim_.Stop(); });
+}
+
+void fmCalendar::SetAllCurrenciesExpanded(bool expanded) {
+  if (tvCalendar_.Count() == 0) return;
+  currencies_.SetAllExpanded(expanded);
+  if (tvCalendar_.Selected()) ShowDaysOfSelectedNode();
+}
+
+void fmCalendar::tvCalendar_NodeClick(const NodeKey& node) {
+  day_grid_.SetCurrentNode(node);
+  day_grid_.ShowDaysOf(node);
+}
+
+void fmCalendar::tvCalendar_ExpandedOrCollapsed() {
+  if (tvCalendar_.Selected() != day_grid_.CurrentNode()) ShowDaysOfSelectedNode();
+}
+
+void fmCalendar::ShowDaysOfSelectedNode() { day_grid_.ShowDaysOf(tvCalendar_.Selected()); }
+
+// Tools
+// ---------------------------------------------------------------------------------------------------------------
+
+void fmCalendar::RefreshTools() { RefreshCalendarTools(ssatb_, tvCalendar_, gexCalendar_); }
+
+void fmCalendar::ssatb_ToolClick(const std::string& id) {
+  struct ToolAction {
+    const char* id;
+    void (*run)(fmCalendar& window);
+  };
+  static constexpr ToolAction kActions[] = {
+      {"ID_AssignSingle", [](fmCalendar& w) { w.day_commands_.AssignHolidays(kSingleDayMode); }},
+      {"ID_AssignMany", [](fmCalendar& w) { w.day_commands_.AssignHolidays(kWholeCalendarMode); }},
+      {"ID_Except", [](fmCalendar& w) { w.day_commands_.ExceptDay(""); }},
+      {"ID_Except2", [](fmCalendar& w) { w.day_commands_.ExceptDayWithMessage(); }},
+      {"ID_Expand", [](fmCalendar& w) { w.SetAllCurrenciesExpanded(true); }},
+      {"ID_Collapse", [](fmCalendar& w) { w.SetAllCurrenciesExpanded(false); }},
+      {"ID_ExpandGrid", [](fmCalendar& w) { w.gexCalendar_.ExpandAllGroups(); }},
+      {"ID_CollapseGrid", [](fmCalendar& w) { w.gexCalendar_.CollapseAllGroups(); }},
+      {"ID_New", [](fmCalendar& w) { w.day_commands_.CreateNewCalendar(); }},
+      {"ID_Refresh", [](fmCalendar& w) { w.RefreshAll(0, 0, w.tvCalendar_.Selected().value_or("")); }},
+      {"ID_Copy", [](fmCalendar& w) { SharedServicesObject().CopyGridRows(w.gexCalendar_, true); }},
+      {"ID_ExpSel", [](fmCalendar& w) { w.gexCalendar_.ExpandSelection(); }},
+      {"ID_ShowHide", [](fmCalendar& w) { w.ShowOrHideGroupByBox(); }},
+  };
+  for (const auto& action : kActions) {
+    if (id == action.id) {
+      action.run(*this);
+      return;
+    }
+  }
+}
+
+void fmCalendar::ShowOrHideGroupByBox() {
+  const UpdateLock lock(platform_.toolkit, *form_);
+  gexCalendar_.SetGroupByBoxVisible(ssatb_.ToolPressed("ID_ShowHide"));
+}
+
+void fmCalendar::ssatb_ToolEnter(const std::string& id) {
+  sbCalendar_.SetPanelText(kDescriptionPanel, ssatb_.ToolDescription(id));
+}
+
+void fmCalendar::ssatb_ToolLeave() { sbCalendar_.SetPanelText(kDescriptionPanel, ""); }
+
+void fmCalendar::gexCalendar_HeaderClick(platform::GridColumn& column) { day_grid_.CycleSortOrder(column); }
+
+void fmCalendar::gexCalendar_BeforeGroupChange() { day_grid_.BeforeRegrouping(); }
+
+void fmCalendar::gexCalendar_AfterGroupChange() { day_grid_.AfterRegrouping(); }
+
+void fmCalendar::gexCalendar_MouseUp(std::int32_t button) {
+  const std::int32_t row = gexCalendar_.CurrentRow();
+  if (button != platform::kRightButton || row == 0) return;
+  // A group row is no day.
+  EnableDayTools(ssatb_, gexCalendar_.RowBookmark(row) != 0);
+  ssatb_.ShowPopupMenu(kDayMenu);
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "ferrowind/platform/toolkit/toolkit.h"
+
+namespace ferrowind {
+
+/// Stores the window's position and outer size in the settings section, as it reports them now: a minimised
+/// or maximised window is not treated apart, by intention. A failure of the settings reaches the caller.
+void SaveWindowPlacement(const platform::Form& window, const std::string& section);
+
+/// Centres the window on the screen at its size and then takes what the settings section stores, each value
+/// for itself and without comparing it with the screen, by intention. Failures are ignored: a value that
+/// cannot be read or taken leaves the window as it was.
+void RestoreWindowPlacement(const platform::Toolkit& toolkit, platform::Form& window,
+                            const std::string& section);
+
+}  // namespace ferrowind

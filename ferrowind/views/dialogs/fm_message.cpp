@@ -1,0 +1,53 @@
+#include "ferrowind/views/dialogs/fm_message.h"
+
+#include "ferrowind/data/run_handler.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::Button;
+using platform::ControlKind;
+using platform::ControlOf;
+using platform::Label;
+
+platform::FormDesign Design() {
+  return {.name = "fmMessage",
+          .caption = "Caption",
+          .border = platform::FormBorder::kFixedDialog,
+          .start = platform::FormStart::kCenterOwner,
+          .client_width = 3945,
+          .client_height = 1320,
+          .controls = {{ControlKind::kButton, "cmdOk", "Ok"},
+                       {ControlKind::kButton, "cmdCancel", "Cancel"},
+                       {ControlKind::kLabel, "lblMessage", "Message"}}};
+}
+
+}  // namespace
+
+fmMessage::fmMessage(platform::Toolkit& toolkit) : toolkit_(toolkit), form_(toolkit.CreateForm(Design())) {
+  ok_clicked_ = ControlOf<Button>(*form_, "cmdOk").OnClick([this] { RunHandler([this] { Answer(0); }); });
+  cancel_clicked_ =
+      ControlOf<Button>(*form_, "cmdCancel").OnClick([this] { RunHandler([this] { Answer(1); }); });
+}
+
+void fmMessage::SetCaption(const std::string& caption) { form_->SetCaption(caption); }
+
+void fmMessage::SetMessage(const std::string& message) {
+  ControlOf<Label>(*form_, "lblMessage").SetText(message);
+}
+
+void fmMessage::SetState(std::int32_t state) {
+  if (state == 0 || state == 1) ControlOf<Button>(*form_, "cmdCancel").SetVisible(state == 1);
+}
+
+void fmMessage::ShowModal() { form_->ShowModal(); }
+
+void fmMessage::Unload() { form_->Unload(); }
+
+void fmMessage::Answer(std::int32_t result) {
+  result_ = result;
+  form_->Hide();
+  toolkit_.ProcessPendingEvents();
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,208 @@
+#include "ferrowind/views/holidays/fm_enter_holidays.h"
+
+#include <utility>
+
+#include "ferrowind/data/confirm.h"
+#include "ferrowind/data/error_reporting.h"
+#include "ferrowind/data/error_table.h"
+#include "ferrowind/data/ignoring_failure.h"
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/views/common/update_lock.h"
+#include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/editor/fm_add_holiday.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::Button;
+using platform::ControlKind;
+using platform::ControlOf;
+
+constexpr const char* kPlacementSuffix = "\\Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8\\Window Holidays";
+constexpr const char* kShowHideTool = "ID_ShowHide";
+
+/// The buttons by their index in the control array.
+enum ActionIndex : std::size_t { kAdd, kEdit, kRemove, kRestore, kFilter, kAssign };
+
+platform::FormDesign Design() {
+  return {.name = "fmEnterHolidays",
+          .caption = "Holidays",
+          .border = platform::FormBorder::kSizable,
+          .start = platform::FormStart::kAsPlaced,
+          .client_width = 12000,
+          .client_height = 7500,
+          .controls = {
+              {ControlKind::kGrid, "gexHolidays"},
+              {ControlKind::kToolBar, "ssatb"},
+              {ControlKind::kSplitter, "sssp"},
+              {ControlKind::kFrame, "frmEditors"},
+              {.kind = ControlKind::kButton, .name = "cmdAction0", .text = "Add", .is_default_button = true},
+              {ControlKind::kButton, "cmdAction1", "Edit"},
+              {ControlKind::kButton, "cmdAction2", "Remove"},
+              {ControlKind::kButton, "cmdAction3", "Restore"},
+              {ControlKind::kButton, "cmdAction4", "Show all"},
+              {ControlKind::kPanel, "pctAction"},
+              {ControlKind::kFrame, "Frame1"},
+              {ControlKind::kButton, "cmdAction5", "Assign"}}};
+}
+
+}  // namespace
+
+fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner run_busy)
+    : platform_(platform),
+      run_busy_(std::move(run_busy)),
+      form_(platform.toolkit.CreateForm(Design())),
+      gexHolidays_(ControlOf<platform::Grid>(*form_, "gexHolidays")),
+      ssatb_(ControlOf<platform::ToolBar>(*form_, "ssatb")),
+      list_(platform, gexHolidays_,
+            [this](const std::string& text) { cmdAction_[kFilter]->SetCaption(text); }) {
+  ssatb_.AddTool({kShowHideTool, "Show or hide headers group", "General", "Show or hide headers group",
+                  platform::ToolKind::kTwoStateButton});
+  ssatb_.SetBar("ToolBar", {kShowHideTool});
+
+  const auto subscribe = [this](platform::Subscription subscription) {
+    subscriptions_.push_back(std::move(subscription));
+  };
+  constexpr Command kCommands[] = {&fmEnterHolidays::Add,          &fmEnterHolidays::Edit,
+                                   &fmEnterHolidays::Remove,       &fmEnterHolidays::Restore,
+                                   &fmEnterHolidays::ToggleFilter, &fmEnterHolidays::Assign};
+  for (const Command command : kCommands) {
+    cmdAction_.push_back(&ControlOf<Button>(*form_, "cmdAction" + std::to_string(cmdAction_.size())));
+    subscribe(cmdAction_.back()->OnClick([this, command] { RunHandler([&] { (this->*command)(); }); }));
+  }
+  subscribe(form_->OnLoad([this] { RunHandler([this] { Form_Load(); }); }));
+  subscribe(form_->OnCloseQuery(
+      [this](bool&) { RunHandler([this] { SaveWindowPlacement(*form_, placement_section_); }); }));
+  subscribe(ssatb_.OnToolClick([this](const std::string& id) { RunHandler([&] { ssatb_ToolClick(id); }); }));
+  subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler([this] { RefreshButtons(); }); }));
+  subscribe(gexHolidays_.OnCellText(
+      [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text) {
+        // No message while the grid paints: a text that cannot be made stays as the grid has it.
+        IgnoringFailure([&] { list_.ComputeText(bookmark, column, text); });
+      }));
+}
+
+// Starting and closing
+// ------------------------------------------------------------------------------------------------
+
+bool fmEnterHolidays::Init(std::shared_ptr<GridFields> holiday_headers, std::int32_t mode, std::int32_t year,
+                           std::int32_t currency_id, std::int32_t day_of_year) {
+  bool is_ready = false;
+  RunHandler([&] {
+    form_->Load();
+    target_ = {.mode = mode, .year = year, .currency_id = currency_id, .day_of_year = day_of_year};
+    list_.SetHeaders(std::move(holiday_headers));
+    if (!list_.Load()) return;
+    SetMode(mode);
+    RefreshButtons();
+    is_ready = true;
+  });
+  return is_ready;
+}
+
+void fmEnterHolidays::SetMode(std::int32_t mode) {
+  if (mode == kSingleDayMode) form_->SetCaption("Assign holiday for single day");
+  if (mode == kWholeCalendarMode) form_->SetCaption("Assign groups holidays for calendar");
+  if (mode == kSingleDayMode || mode == kWholeCalendarMode)
+    gexHolidays_.SetMultiSelect(mode == kWholeCalendarMode);
+}
+
+void fmEnterHolidays::Form_Load() {
+  placement_section_ = SharedServicesObject().SettingsRoot() + kPlacementSuffix;
+  RestoreWindowPlacement(platform_.toolkit, *form_, placement_section_);
+}
+
+void fmEnterHolidays::ShowModal() { form_->ShowModal(); }
+
+void fmEnterHolidays::Unload() { form_->Unload(); }
+
+bool fmEnterHolidays::ForceClosing() {
+  form_->Unload();
+  return true;
+}
+
+// Commands
+// ------------------------------------------------------------------------------------------------------------
+
+void fmEnterHolidays::Assign() {
+  result_ = 1;
+  RunHandler([&] {
+    const auto rules = list_.SelectedRules();
+    run_busy_([&] {
+      for (const HolidayRule& rule : rules) {
+        // A rule that cannot be read is reported and does not keep the others from being stored.
+        RunHandler([&] { AssignRule(rule, target_); });
+      }
+    });
+  });
+  form_->Unload();
+}
+
+void fmEnterHolidays::Remove() {
+  if (Confirm(platform_.toolkit, "Remove holiday", "Are you sure ?", 1) != 0) return;
+  MarkSelectedRules(kRemovedMark, error_index::kCannotRemoveHoliday);
+}
+
+void fmEnterHolidays::Restore() { MarkSelectedRules(kRestoredMark, error_index::kCannotRestoreHoliday); }
+
+void fmEnterHolidays::MarkSelectedRules(std::int16_t mark, std::int32_t error_index) {
+  RunHandler([&] {
+    for (const HolidayRule& rule : list_.SelectedRules()) {
+      if (MarkRule(rule, mark) != 0) {
+        ShowErrorMessage(error_index);
+        break;
+      }
+    }
+  });
+  Reload();
+}
+
+void fmEnterHolidays::Add() { EditRule(kAddRule, nullptr, nullptr); }
+
+void fmEnterHolidays::Edit() {
+  const auto rows = list_.SelectedRows();
+  if (rows.size() != 1) {
+    if (gexHolidays_.MultiSelect()) ShowErrorMessage(error_index::kCannotEditMultiRows);
+    return;
+  }
+  // A record set of the editor's own: the list's moves with every cell that the grid paints.
+  EditRule(kEditRule, list_.RecordsAt(rows.front()), list_.Headers());
+}
+
+void fmEnterHolidays::EditRule(std::int32_t editor_mode, std::shared_ptr<platform::RecordSet> rule,
+                               std::shared_ptr<GridFields> column_map) {
+  fmAddHoliday editor(platform_);
+  if (!editor.Init(editor_mode, list_.HolidayTypes(), list_.FirstWeekday(), std::move(rule),
+                   std::move(column_map))) {
+    editor.Unload();
+    return;
+  }
+  editor.ShowModal();
+  if (editor.Result() == 0) Reload();
+}
+
+void fmEnterHolidays::ToggleFilter() {
+  list_.ToggleFilter();
+  Reload();
+}
+
+void fmEnterHolidays::Reload() {
+  list_.Load();
+  RefreshButtons();
+}
+
+void fmEnterHolidays::RefreshButtons() {
+  const bool has_rule = list_.HasCurrentRule();
+  const bool is_removed = has_rule && list_.IsCurrentRuleRemoved();
+  for (const auto index : {kEdit, kRemove, kAssign}) cmdAction_[index]->SetEnabled(has_rule && !is_removed);
+  cmdAction_[kRestore]->SetEnabled(is_removed);
+}
+
+void fmEnterHolidays::ssatb_ToolClick(const std::string& id) {
+  if (id != kShowHideTool) return;
+  const UpdateLock lock(platform_.toolkit, *form_);
+  gexHolidays_.SetGroupByBoxVisible(ssatb_.ToolPressed(kShowHideTool));
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ferrowind/platform/platform.h"
+#include "ferrowind/views/holidays/holiday_list.h"
+#include "ferrowind/views/holidays/holiday_rule.h"
+#include "ferrowind/views/holidays/holidays_window.h"
+
+namespace ferrowind {
+
+/// The Holidays window: the list of holiday rules, and the commands that assign, remove, restore, add and
+/// edit them.
+///
+/// A fresh one for each use. Whoever holds it must keep it until `ShowModal` has returned.
+class fmEnterHolidays : public HolidaysWindow {
+ public:
+  /// Runs work that may take long, and shows that it goes on.
+  using BusyRunner = std::function<void(const std::function<void()>& work)>;
+
+  /// `platform` must outlive the window. `run_busy` runs the assignment of rules; the work throws nothing.
+  explicit fmEnterHolidays(
+      const platform::Platform& platform, BusyRunner run_busy = [](const auto& work) { work(); });
+  fmEnterHolidays(const fmEnterHolidays&) = delete;
+  fmEnterHolidays& operator=(const fmEnterHolidays&) = delete;
+
+  bool Init(std::shared_ptr<GridFields> holiday_headers, std::int32_t mode, std::int32_t year,
+            std::int32_t currency_id, std::int32_t day_of_year) override;
+  void ShowModal() override;
+  [[nodiscard]] std::int32_t Result() const override { return result_; }
+  void Unload() override;
+  /// Never refuses.
+  bool ForceClosing() override;
+
+ private:
+  using Command = void (fmEnterHolidays::*)();
+
+  void SetMode(std::int32_t mode);
+  void Add();
+  void Edit();
+  void Remove();
+  void Restore();
+  void ToggleFilter();
+  void Assign();
+  void EditRule(std::int32_t editor_mode, std::shared_ptr<platform::RecordSet> rule,
+                std::shared_ptr<GridFields> column_map);
+  void MarkSelectedRules(std::int16_t mark, std::int32_t error_index);
+  void Reload();
+  void RefreshButtons();
+
+  void Form_Load();
+  void ssatb_ToolClick(const std::string& id);
+
+  const platform::Platform& platform_;
+  BusyRunner run_busy_;
+  std::shared_ptr<platform::Form> form_;
+  platform::Grid& gexHolidays_;
+  platform::ToolBar& ssatb_;
+  /// The control array of the six buttons.
+  std::vector<platform::Button*> cmdAction_;
+  HolidayList list_;
+  AssignmentTarget target_;
+  std::int32_t result_ = 0;
+  std::string placement_section_;
+  std::vector<platform::Subscription> subscriptions_;
+};
+
+}  // namespace ferrowind

@@ -1,0 +1,184 @@
+#include "ferrowind/views/holidays/holiday_list.h"
+
+#include <exception>
+#include <utility>
+
+#include "ferrowind/data/error_reporting.h"
+#include "ferrowind/data/error_table.h"
+#include "ferrowind/data/exec_proc.h"
+#include "ferrowind/data/record_set_in.h"
+#include "ferrowind/data/runtime_failure.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/common/grid_setup.h"
+#include "ferrowind/views/common/holiday_type_formats.h"
+#include "ferrowind/views/common/holiday_types.h"
+#include "ferrowind/views/common/update_lock.h"
+#include "ferrowind/views/common/value_list.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::RecordSet;
+using platform::Value;
+
+constexpr const char* kDelColumn = "Del";
+constexpr const char* kTypeColumn = "HolidayType";
+constexpr const char* kDateColumn = "FullDate";
+constexpr platform::Color kGrey = {128, 128, 128};
+
+bool Equals(const Value& value, std::int32_t number) {
+  return !value.IsEmpty() && platform::ToInt32(value) == number;
+}
+
+}  // namespace
+
+HolidayList::HolidayList(const platform::Platform& platform, platform::Grid& grid,
+                         std::function<void(const std::string&)> on_filter)
+    : platform_(platform), grid_(grid), on_filter_(std::move(on_filter)) {}
+
+void HolidayList::SetHeaders(std::shared_ptr<GridFields> headers) {
+  headers_ = std::move(headers);
+  SetupGridColumns(grid_, *headers_);
+  for (const char* column : {kDelColumn, kTypeColumn}) {
+    grid_.SortKeys().Add(grid_.ColumnByKey(column).Index(), platform::kSortAscending, 0);
+  }
+}
+
+// Loading
+// -------------------------------------------------------------------------------------------------------------
+
+bool HolidayList::Load() {
+  const SourceValues no_params;
+  std::shared_ptr<SourceValues> results;
+  ExecProc("CldAllInfo", &no_params, results);
+  if (!RecordSetIn(results, "1")) return false;
+  const auto holiday_types = RecordSetIn(results, "2");
+  if (!holiday_types) {
+    ShowErrorMessage(error_index::kCannotLoadHolidayTypes);
+    return false;
+  }
+  const auto holidays = RecordSetIn(results, "3");
+  if (!holidays) {
+    ShowErrorMessage(error_index::kCannotLoadHolidays);
+    return false;
+  }
+  const auto first_weekday = LoadFirstWeekday(RecordSetIn(results, platform::ToText(results->Count())));
+  if (!first_weekday) return false;
+  if (!FillColumnValueList(grid_, kTypeColumn, *holiday_types, "Description1", "TID1")) return false;
+  holiday_types_ = holiday_types;
+  first_weekday_ = *first_weekday;
+  FillGrid(holidays);
+  return true;
+}
+
+std::optional<std::int32_t> HolidayList::LoadFirstWeekday(const std::shared_ptr<RecordSet>& setting) {
+  try {
+    if (setting) return platform::ToInt32((*setting)["FirstDay"]);
+    ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
+  } catch (const std::exception&) {
+    const RuntimeFailureScope caught;
+    ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
+  }
+  return std::nullopt;
+}
+
+void HolidayList::FillGrid(const std::shared_ptr<RecordSet>& holidays) {
+  AddFormats();
+  if (!filter_) {
+    filter_.emplace(FieldNameOf(*headers_, kDelColumn), FieldNameOf(*headers_, kTypeColumn));
+    ToggleFilter();
+  }
+  holidays->SetFilter(filter_->Text());
+  const std::int32_t first_visible_row = grid_.FirstVisibleRow();
+  const std::int32_t current_row = grid_.CurrentRow();
+  const std::int32_t current_column = grid_.CurrentColumn();
+  const UpdateLock lock(platform_.toolkit, grid_);
+  SaveGridKeys(grid_, sort_store_, group_store_);
+  grid_.HoldColumns();
+  grid_.AttachRecords(holidays);
+  grid_.Rebind();
+  RestoreGridKeys(grid_, sort_store_, group_store_);
+  if (first_visible_row < grid_.RowCount()) grid_.SetFirstVisibleRow(first_visible_row);
+  if (current_row < grid_.RowCount()) grid_.SetCurrentRow(current_row);
+  grid_.SetCurrentColumn(current_column);
+}
+
+void HolidayList::AddFormats() {
+  grid_.AddFormat({.key = "FC_DeletedPoint",
+                   .column_key = kDelColumn,
+                   .comparison = platform::kFormatEqual,
+                   .compared = kRemovedMark,
+                   .fore_color = kGrey,
+                   .bold = false,
+                   .strike_through = true});
+  AddHolidayTypeFormats(grid_);
+}
+
+void HolidayList::ToggleFilter() {
+  filter_->Toggle();
+  on_filter_(filter_->ButtonText());
+}
+
+// Rules
+// ---------------------------------------------------------------------------------------------------------------
+
+bool HolidayList::HasCurrentRule() const { return grid_.RowBookmark(grid_.CurrentRow()) != 0; }
+
+bool HolidayList::IsCurrentRuleRemoved() const {
+  return Equals(grid_.CellValue(grid_.CurrentRow(), kDelColumn), kRemovedMark);
+}
+
+std::vector<RecordSet::Bookmark> HolidayList::SelectedRows() const {
+  std::vector<RecordSet::Bookmark> bookmarks;
+  const std::vector<std::int32_t> rows =
+      grid_.MultiSelect() ? grid_.SelectedRows() : std::vector<std::int32_t>{grid_.CurrentRow()};
+  for (const std::int32_t row : rows) {
+    // A group row is no rule.
+    if (const auto bookmark = grid_.RowBookmark(row); bookmark != 0) bookmarks.push_back(bookmark);
+  }
+  return bookmarks;
+}
+
+std::vector<HolidayRule> HolidayList::SelectedRules() const {
+  std::vector<HolidayRule> rules;
+  for (const auto bookmark : SelectedRows()) {
+    const RecordSet& rule = MoveTo(bookmark);
+    rules.push_back({FieldOf(rule, kTypeColumn), FieldOf(rule, "ID_Holiday"), FieldOf(rule, kDateColumn)});
+  }
+  return rules;
+}
+
+RecordSet& HolidayList::MoveTo(RecordSet::Bookmark row) const {
+  // The set that the grid shows, whatever was loaded since: its rows are the ones that bookmarks name.
+  const auto shown = grid_.Records();
+  if (!shown) throw platform::Failure(platform::failure_number::kObjectNotSet, "No holidays are shown");
+  shown->MoveTo(row);
+  return *shown;
+}
+
+const Value& HolidayList::FieldOf(const RecordSet& rule, const std::string& local_name) const {
+  return rule[FieldNameOf(*headers_, local_name)];
+}
+
+std::shared_ptr<RecordSet> HolidayList::RecordsAt(RecordSet::Bookmark row) const {
+  auto records = MoveTo(row).Clone();
+  records->MoveTo(row);
+  return records;
+}
+
+void HolidayList::ComputeText(RecordSet::Bookmark bookmark, std::int16_t column, std::string& text) {
+  if (grid_.ColumnAt(column).Key() != kDateColumn) return;
+  const RecordSet& rule = MoveTo(bookmark);
+  if (Equals(FieldOf(rule, kTypeColumn), holiday_type::kWeekday)) {
+    // The weekday number written as the day of that serial: 1 is a Sunday, by intention whatever the first
+    // weekday is.
+    const std::int32_t weekday = platform::ToInt32(FieldOf(rule, "DayOfWeek"));
+    text = platform_.locale.WeekdayName(platform::Date::FromSerial(weekday).Weekday());
+  } else {
+    const platform::Date date = platform::ToDate(FieldOf(rule, kDateColumn));
+    text = platform::ToText(date.Day()) + " " + platform_.locale.MonthName(date.Month());
+  }
+}
+
+}  // namespace ferrowind

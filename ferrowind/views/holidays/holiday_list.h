@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ferrowind/control/grid_fields.h"
+#include "ferrowind/platform/platform.h"
+#include "ferrowind/views/common/grid_keys.h"
+#include "ferrowind/views/holidays/holiday_filter.h"
+#include "ferrowind/views/holidays/holiday_rule.h"
+
+namespace ferrowind {
+
+/// The grid of the holiday rules of the database, filtered, sorted and coloured by type and removal.
+class HolidayList {
+ public:
+  /// `grid` must outlive the list. `on_filter` is called with the new text of the filter button.
+  HolidayList(const platform::Platform& platform, platform::Grid& grid,
+              std::function<void(const std::string& button_text)> on_filter);
+
+  /// Builds the columns and the initial sort; called once.
+  void SetHeaders(std::shared_ptr<GridFields> headers);
+  /// Loads the holiday types, the rules and the first weekday and fills the grid. False when something is
+  /// missing; that has been reported where there is a message for it.
+  bool Load();
+  void ToggleFilter();
+
+  [[nodiscard]] const std::shared_ptr<platform::RecordSet>& HolidayTypes() const { return holiday_types_; }
+  /// 1 Sunday to 7 Saturday.
+  [[nodiscard]] std::int32_t FirstWeekday() const { return first_weekday_; }
+  [[nodiscard]] const std::shared_ptr<GridFields>& Headers() const { return headers_; }
+
+  /// Whether the current row is a rule, and whether that rule is removed.
+  [[nodiscard]] bool HasCurrentRule() const;
+  [[nodiscard]] bool IsCurrentRuleRemoved() const;
+  /// The bookmarks of the selected rules in the order of the selection; without multiple selection the
+  /// current rule.
+  [[nodiscard]] std::vector<platform::RecordSet::Bookmark> SelectedRows() const;
+  [[nodiscard]] std::vector<HolidayRule> SelectedRules() const;
+  /// A record set of its own that stands on that row.
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> RecordsAt(platform::RecordSet::Bookmark row) const;
+
+  /// The answer to the grid's question for a text: a weekday rule shows its weekday in the column of the
+  /// date, every other rule its day and month.
+  void ComputeText(platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text);
+
+ private:
+  /// Nothing when it is missing, which has been reported.
+  [[nodiscard]] static std::optional<std::int32_t> LoadFirstWeekday(
+      const std::shared_ptr<platform::RecordSet>& setting);
+  void FillGrid(const std::shared_ptr<platform::RecordSet>& holidays);
+  void AddFormats();
+  /// The record set on show, on that row.
+  [[nodiscard]] platform::RecordSet& MoveTo(platform::RecordSet::Bookmark row) const;
+  [[nodiscard]] const platform::Value& FieldOf(const platform::RecordSet& rule,
+                                               const std::string& local_name) const;
+
+  const platform::Platform& platform_;
+  platform::Grid& grid_;
+  std::function<void(const std::string&)> on_filter_;
+  std::shared_ptr<GridFields> headers_;
+  std::shared_ptr<platform::RecordSet> holiday_types_;
+  std::int32_t first_weekday_ = 0;
+  /// Made at the first fill.
+  std::optional<HolidayFilter> filter_;
+  KeyStore sort_store_;
+  KeyStore group_store_;
+};
+
+}  // namespace ferrowind

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+
+#include "ferrowind/platform/values/value.h"
+
+namespace ferrowind {
+
+/// The removal marks of a rule.
+inline constexpr std::int16_t kRemovedMark = 2;
+inline constexpr std::int16_t kRestoredMark = 4;
+
+/// A rule as a row of the holiday list holds it; each value as stored, possibly empty.
+struct HolidayRule {
+  platform::Value type;
+  platform::Value id;
+  platform::Value full_date;
+};
+
+/// The calendar that rules are assigned to, and how.
+struct AssignmentTarget {
+  std::int32_t mode = 0;
+  std::int32_t year = 0;
+  std::int32_t currency_id = 0;
+  /// The day of the year that the window was opened for.
+  std::int32_t day_of_year = 0;
+};
+
+/// Stores the assignment of the rule; a rule of a type that cannot be assigned stores nothing. What the
+/// database answers is not examined, by intention. A rule whose values cannot be read is a failure.
+void AssignRule(const HolidayRule& rule, const AssignmentTarget& target);
+
+/// Sets the removal mark of the rule. The procedure's return value.
+[[nodiscard]] std::int32_t MarkRule(const HolidayRule& rule, std::int16_t mark);
+
+}  // namespace ferrowind
