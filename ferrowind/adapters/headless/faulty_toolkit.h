@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "ferrowind/adapters/headless/fault_plan.h"
+#include "ferrowind/platform/toolkit/toolkit.h"
+
+namespace ferrowind::headless {
+
+/// A toolkit of which making a form, the only operation of it that may fail, passes a plan first.
+class FaultyToolkit : public platform::Toolkit {
+ public:
+  /// Both must outlive this.
+  FaultyToolkit(platform::Toolkit& inner, FaultPlan& plan) : inner_(inner), plan_(plan) {}
+
+  [[nodiscard]] std::shared_ptr<platform::Form> CreateForm(const platform::FormDesign& design) override {
+    plan_.Pass("toolkit.CreateForm");
+    return inner_.CreateForm(design);
+  }
+  [[nodiscard]] platform::ScreenSize Screen() const override { return inner_.Screen(); }
+  [[nodiscard]] float TwipsPerPixelX() const override { return inner_.TwipsPerPixelX(); }
+  bool LockUpdates(platform::Element& element) override { return inner_.LockUpdates(element); }
+  void UnlockUpdates() override { inner_.UnlockUpdates(); }
+  void ProcessPendingEvents() override { inner_.ProcessPendingEvents(); }
+  void Beep() override { inner_.Beep(); }
+
+ private:
+  platform::Toolkit& inner_;
+  FaultPlan& plan_;
+};
+
+}  // namespace ferrowind::headless

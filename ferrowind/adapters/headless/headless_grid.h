@@ -1,0 +1,164 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ferrowind/adapters/headless/grid_arrangement.h"
+#include "ferrowind/adapters/headless/headless_control.h"
+#include "ferrowind/adapters/headless/headless_grid_column.h"
+#include "ferrowind/adapters/headless/headless_grid_key_list.h"
+#include "ferrowind/platform/toolkit/grid.h"
+
+namespace ferrowind::headless {
+
+/// How the conditional formats of a grid make a row look.
+struct GridRowStyle {
+  std::optional<platform::Color> fore_color;
+  bool bold = false;
+  bool strike_through = false;
+  friend bool operator==(const GridRowStyle&, const GridRowStyle&) = default;
+};
+
+/// A grid whose columns, keys, rows, groups and formats are real, only painted nowhere. Groups are expanded
+/// at first.
+class HeadlessGrid : public HeadlessControl<platform::Grid> {
+ public:
+  HeadlessGrid(ControlHost& host, std::string name);
+
+  platform::GridColumn& AddColumn(const std::string& caption, std::int32_t type, std::int32_t edit_type,
+                                  const std::string& key) override;
+  [[nodiscard]] std::int32_t ColumnCount() const override {
+    return static_cast<std::int32_t>(columns_.size());
+  }
+  [[nodiscard]] platform::GridColumn& ColumnByKey(const std::string& key) override { return ColumnOf(key); }
+  [[nodiscard]] platform::GridColumn& ColumnAt(std::int32_t index) override;
+
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> Records() const override { return records_; }
+  void AttachRecords(std::shared_ptr<platform::RecordSet> records) override;
+  void HoldColumns() override;
+  void Rebind() override;
+  void Refresh(bool recompute) override;
+  [[nodiscard]] platform::GridKeyList& SortKeys() override { return sort_keys_; }
+  [[nodiscard]] platform::GridKeyList& GroupKeys() override { return group_keys_; }
+
+  [[nodiscard]] std::int32_t RowCount() const override { return static_cast<std::int32_t>(rows_.size()); }
+  [[nodiscard]] std::int32_t CurrentRow() const override { return RowOf(current_); }
+  void SetCurrentRow(std::int32_t row) override;
+  [[nodiscard]] std::int32_t FirstVisibleRow() const override { return RowOf(top_); }
+  void SetFirstVisibleRow(std::int32_t row) override;
+  [[nodiscard]] std::int32_t CurrentColumn() const override { return current_column_; }
+  void SetCurrentColumn(std::int32_t column) override;
+  [[nodiscard]] platform::RecordSet::Bookmark RowBookmark(std::int32_t row) const override;
+  [[nodiscard]] platform::Value CellValue(std::int32_t row, const std::string& column_key) const override;
+  [[nodiscard]] bool MultiSelect() const override { return multi_select_; }
+  void SetMultiSelect(bool multi_select) override;
+  [[nodiscard]] std::vector<std::int32_t> SelectedRows() const override;
+
+  [[nodiscard]] std::int32_t FormatCount() const override {
+    return static_cast<std::int32_t>(formats_.size());
+  }
+  void AddFormat(const platform::GridFormat& format) override;
+  [[nodiscard]] bool GroupByBoxVisible() const override { return group_by_box_visible_; }
+  void SetGroupByBoxVisible(bool visible) override;
+  void ExpandAllGroups() override;
+  void CollapseAllGroups() override;
+  void ExpandSelection() override;
+
+  [[nodiscard]] platform::Subscription OnUnboundValue(UnboundValueHandler handler) override;
+  [[nodiscard]] platform::Subscription OnCellText(CellTextHandler handler) override;
+  [[nodiscard]] platform::Subscription OnHeaderClick(
+      std::function<void(platform::GridColumn& column)> handler) override;
+  [[nodiscard]] platform::Subscription OnBeforeGroupChange(std::function<void()> handler) override;
+  [[nodiscard]] platform::Subscription OnAfterGroupChange(std::function<void()> handler) override;
+  [[nodiscard]] platform::Subscription OnMouseUp(std::function<void(std::int32_t button)> handler) override;
+  [[nodiscard]] platform::Subscription OnCurrentRowChange(std::function<void()> handler) override;
+
+  // What a test can ask
+  // -----------------------------------------------------------------------------------------
+
+  [[nodiscard]] bool IsGroupRow(std::int32_t row) const;
+  /// The row on show; `row` must be between 1 and `RowCount`.
+  [[nodiscard]] const GridRow& RowAt(std::int32_t row) const {
+    return rows_[static_cast<std::size_t>(row) - 1];
+  }
+  /// The text that a cell shows; of a group row, whatever the column, the text of what its records have in
+  /// common.
+  [[nodiscard]] std::string CellText(std::int32_t row, const std::string& column_key) const;
+  [[nodiscard]] GridRowStyle RowStyle(std::int32_t row) const;
+  [[nodiscard]] const std::vector<platform::GridFormat>& Formats() const { return formats_; }
+  [[nodiscard]] HeadlessGridColumn& ColumnOf(const std::string& key) const;
+
+  // What the operator does; a row must be between 1 and `RowCount`
+  // -----------------------------------------------
+
+  /// Clicks a row: it becomes the current row and the only selected one; then the button is released.
+  void ClickRow(std::int32_t row);
+  /// As `ClickRow` with the right button.
+  void RightClickRow(std::int32_t row);
+  /// Clicks a row with the Ctrl key held: adds it to the selection or takes it out.
+  void ToggleRow(std::int32_t row);
+  /// Clicks the mark that expands or collapses a group row.
+  void ToggleGroup(std::int32_t row);
+  /// Releases a mouse button over the rows, with nothing else.
+  void ReleaseMouse(std::int32_t button);
+  void ClickHeader(const std::string& column_key);
+  /// Drags a header into the group-by box, behind the headers there; script error when the column is not
+  /// groupable.
+  void DragHeaderToGroups(const std::string& column_key);
+  /// Drags the header of the group key at the 1-based position out of the group-by box.
+  void DragGroupAway(std::int32_t position);
+
+ private:
+  [[nodiscard]] platform::Value ValueOf(platform::RecordSet::Bookmark bookmark,
+                                        const HeadlessGridColumn& column) const;
+  [[nodiscard]] std::string ShownText(const HeadlessGridColumn& column, const platform::Value& value) const;
+  [[nodiscard]] bool Applies(const platform::GridFormat& format, std::int32_t row) const;
+  [[nodiscard]] GridArrangement ShownArrangement() const;
+  void ApplyKeys();
+  void Rearrange();
+  [[nodiscard]] std::int32_t RowOf(const GridRowIdentity& identity) const;
+  [[nodiscard]] GridRowIdentity IdentityOf(std::int32_t row) const;
+  /// The row of `identity` or, when a collapsed group hides it, that group's.
+  [[nodiscard]] GridRowIdentity OnShow(const GridRowIdentity& identity) const;
+  void RequireRow(std::int32_t row) const;
+  void RequireShownRow(std::int32_t row);
+  void MakeCurrent(const GridRowIdentity& identity);
+  void ExpandAround(const GridRowIdentity& identity);
+  void ClickRowWith(std::int32_t row, std::int32_t button);
+
+  std::vector<std::unique_ptr<HeadlessGridColumn>> columns_;
+  /// Kept, since a column lives as long as the grid.
+  std::vector<std::unique_ptr<HeadlessGridColumn>> dropped_columns_;
+  std::size_t held_columns_ = 0;
+  std::shared_ptr<platform::RecordSet> records_;
+  std::vector<platform::RecordSet::Bookmark> bookmarks_;
+  HeadlessGridKeyList sort_keys_;
+  HeadlessGridKeyList group_keys_;
+  /// The keys that the rows on show follow; changes of the lists show after `Refresh`.
+  std::vector<platform::GridKey> shown_sorts_;
+  std::vector<platform::GridKey> shown_groups_;
+  std::set<std::string> collapsed_;
+  std::vector<GridRow> rows_;
+  GridRowIdentity current_;
+  GridRowIdentity top_;
+  std::vector<GridRowIdentity> selected_;
+  std::int32_t current_column_ = 0;
+  bool multi_select_ = false;
+  bool group_by_box_visible_ = false;
+  std::vector<platform::GridFormat> formats_;
+  mutable std::map<std::pair<platform::RecordSet::Bookmark, std::int16_t>, platform::Value> computed_;
+
+  platform::Signal<platform::RecordSet::Bookmark, std::int16_t, platform::Value&> unbound_value_;
+  platform::Signal<platform::RecordSet::Bookmark, std::int16_t, std::string&> cell_text_;
+  platform::Signal<platform::GridColumn&> header_clicked_;
+  platform::Signal<> before_group_change_;
+  platform::Signal<> after_group_change_;
+  platform::Signal<std::int32_t> mouse_up_;
+  platform::Signal<> current_row_changed_;
+};
+
+}  // namespace ferrowind::headless

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "ferrowind/adapters/headless/headless_control.h"
+#include "ferrowind/platform/toolkit/text_box.h"
+
+namespace ferrowind::headless {
+
+class HeadlessTextBox : public HeadlessControl<platform::TextBox> {
+ public:
+  HeadlessTextBox(ControlHost& host, std::string name, std::string text)
+      : HeadlessControl(host, std::move(name)), text_(std::move(text)) {}
+
+  [[nodiscard]] std::string Text() const override { return text_; }
+  void SetText(const std::string& text) override;
+  void SetMaxLength(std::int32_t characters) override;
+  void SelectAll() override;
+  [[nodiscard]] platform::Subscription OnChange(std::function<void()> handler) override {
+    return changed_.Subscribe(std::move(handler));
+  }
+  [[nodiscard]] platform::Subscription OnLostFocus(std::function<void()> handler) override {
+    return core_.lost_focus.Subscribe(std::move(handler));
+  }
+
+  [[nodiscard]] std::int32_t MaxLength() const { return max_length_; }
+
+  /// The operator goes to the box and types `text` behind what stands there, or in place of a selected text.
+  /// Characters beyond the greatest length are not taken. Every character that is taken raises `OnChange`.
+  void TypeText(const std::string& text);
+  /// The operator goes to the box, selects everything and types `text`; an empty one deletes what stands
+  /// there.
+  void ReplaceText(const std::string& text);
+
+ private:
+  void Change(std::string text);
+
+  std::string text_;
+  std::int32_t max_length_ = 0;
+  bool all_selected_ = false;
+  platform::Signal<> changed_;
+};
+
+}  // namespace ferrowind::headless

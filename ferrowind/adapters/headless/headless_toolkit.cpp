@@ -1,0 +1,75 @@
+#include "ferrowind/adapters/headless/headless_toolkit.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::headless {
+
+HeadlessToolkit::HeadlessToolkit(CallLog& log, const platform::Clock& clock, ScriptErrors& errors)
+    : state_(std::make_shared<ToolkitState>(ToolkitState{.log = log, .clock = clock, .errors = errors})) {}
+
+std::shared_ptr<platform::Form> HeadlessToolkit::CreateForm(const platform::FormDesign& design) {
+  state_->log.Record("toolkit.CreateForm(" + design.name + ")");
+  if (missing_layouts_.contains(design.name)) {
+    throw platform::Failure(platform::failure_number::kElementNotFound,
+                            "There is no layout for the form " + design.name);
+  }
+  auto form = std::make_shared<HeadlessForm>(state_, design);
+  made_forms_.push_back({design.name, form});
+  return form;
+}
+
+bool HeadlessToolkit::LockUpdates(platform::Element& element) {
+  const bool is_free = state_->locked == nullptr;
+  state_->log.Record("toolkit.LockUpdates(" + element.Name() + ")" + (is_free ? "" : " refused"));
+  if (is_free) state_->locked = &element;
+  return is_free;
+}
+
+void HeadlessToolkit::UnlockUpdates() {
+  state_->log.Record("toolkit.UnlockUpdates()");
+  state_->locked = nullptr;
+}
+
+void HeadlessToolkit::ProcessPendingEvents() { state_->log.Record("toolkit.ProcessPendingEvents()"); }
+
+void HeadlessToolkit::Beep() {
+  state_->log.Record("toolkit.Beep()");
+  ++beep_count_;
+}
+
+void HeadlessToolkit::PlaceInside(const std::string& form, const std::string& container,
+                                  const std::vector<std::string>& controls) {
+  for (const auto& control : controls) state_->containers[form][control] = container;
+}
+
+void HeadlessToolkit::ScriptModal(const std::string& form, ModalScript script) {
+  state_->modal_scripts[form].push_back(std::move(script));
+}
+
+HeadlessForm& HeadlessToolkit::FormNamed(const std::string& name) const {
+  const auto youngest = std::find_if(made_forms_.rbegin(), made_forms_.rend(), [&](const MadeForm& made) {
+    return made.name == name && !made.form.expired();
+  });
+  if (youngest == made_forms_.rend()) state_->errors.Raise("There is no form " + name);
+  return *youngest->form.lock();
+}
+
+std::size_t HeadlessToolkit::CountOfForms(const std::string& name) const {
+  return static_cast<std::size_t>(std::count_if(made_forms_.begin(), made_forms_.end(),
+                                                [&](const MadeForm& made) { return made.name == name; }));
+}
+
+std::string HeadlessToolkit::LockedElement() const {
+  return state_->locked == nullptr ? std::string() : state_->locked->Name();
+}
+
+std::size_t HeadlessToolkit::WaitingScripts() const {
+  std::size_t count = 0;
+  for (const auto& [form, scripts] : state_->modal_scripts) count += scripts.size();
+  return count;
+}
+
+}  // namespace ferrowind::headless

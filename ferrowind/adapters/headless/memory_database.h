@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ferrowind/adapters/headless/memory_tables.h"
+#include "ferrowind/platform/database/engine.h"
+
+namespace ferrowind::headless {
+
+/// A stored procedure in C++.
+struct MemoryProcedure {
+  /// Runs on the tables of a transaction; `inputs` are one value per input parameter, of its type or empty.
+  using Body =
+      std::function<platform::CallOutcome(MemoryTables& tables, const std::vector<platform::Value>& inputs)>;
+
+  std::string name;
+  /// The return value first, then the inputs by position.
+  std::vector<platform::ParameterDescription> parameters;
+  Body body;
+};
+
+/// A calendar database in memory, with the four procedures and what belongs to an empty one: currencies (a
+/// choice of them), holiday types, the built-in rule and the setting.
+class MemoryDatabase {
+ public:
+  MemoryDatabase();
+
+  /// The tables, for a test to look at and to change outside any transaction.
+  [[nodiscard]] MemoryTables& Tables() { return tables_; }
+  /// A procedure of that name is replaced. `inputs` by position, names with their "@".
+  void AddProcedure(const std::string& name,
+                    const std::vector<std::pair<std::string, platform::ParameterType>>& inputs,
+                    MemoryProcedure::Body body);
+  /// Found without regard to case; a failure that names it when there is none.
+  [[nodiscard]] const MemoryProcedure& ProcedureNamed(const std::string& name) const;
+  /// Calls it in a transaction, as `platform::Connection::Call` promises.
+  [[nodiscard]] platform::CallOutcome Call(const std::string& procedure,
+                                           const std::vector<platform::Value>& inputs);
+  /// The dictionary table "Ccy"; a failure that names any other.
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> Dictionary(const std::string& name) const;
+
+ private:
+  MemoryTables tables_;
+  std::vector<MemoryProcedure> procedures_;
+};
+
+}  // namespace ferrowind::headless

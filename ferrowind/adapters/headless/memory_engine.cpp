@@ -1,0 +1,55 @@
+#include "ferrowind/adapters/headless/memory_engine.h"
+
+#include <utility>
+#include <vector>
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::headless {
+namespace {
+
+class MemoryConnection : public platform::Connection {
+ public:
+  explicit MemoryConnection(std::shared_ptr<MemoryDatabase> database) : database_(std::move(database)) {}
+
+  [[nodiscard]] std::vector<platform::ParameterDescription> DescribeProcedure(
+      const std::string& procedure) override {
+    return database_->ProcedureNamed(procedure).parameters;
+  }
+  [[nodiscard]] platform::CallOutcome Call(const std::string& procedure,
+                                           const std::vector<platform::Value>& inputs) override {
+    return database_->Call(procedure, inputs);
+  }
+
+ private:
+  std::shared_ptr<MemoryDatabase> database_;
+};
+
+constexpr const char* kScheme = "memory:";
+
+}  // namespace
+
+MemoryDatabase& MemoryEngine::CreateDatabase(const std::string& name) {
+  return *(databases_[name] = std::make_shared<MemoryDatabase>());
+}
+
+std::unique_ptr<platform::Connection> MemoryEngine::Connect(const std::string& connection_string) {
+  return std::make_unique<MemoryConnection>(DatabaseOf(connection_string));
+}
+
+std::shared_ptr<platform::RecordSet> MemoryEngine::ReadDictionary(const std::string& connection_string,
+                                                                  const std::string& name) {
+  return DatabaseOf(connection_string)->Dictionary(name);
+}
+
+std::shared_ptr<MemoryDatabase> MemoryEngine::DatabaseOf(const std::string& connection_string) const {
+  const std::string scheme = kScheme;
+  if (connection_string.starts_with(scheme)) {
+    const auto found = databases_.find(connection_string.substr(scheme.size()));
+    if (found != databases_.end()) return found->second;
+  }
+  throw platform::Failure(platform::failure_number::kInvalidArgument,
+                          "There is no database in memory under that connection string");
+}
+
+}  // namespace ferrowind::headless

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "ferrowind/adapters/headless/call_log.h"
+#include "ferrowind/adapters/headless/script_errors.h"
+#include "ferrowind/platform/services/clock.h"
+#include "ferrowind/platform/toolkit/toolkit.h"
+
+namespace ferrowind::headless {
+
+class HeadlessForm;
+
+/// What the operator does with a modal form once it is shown.
+using ModalScript = std::function<void(HeadlessForm& form)>;
+
+/// What a toolkit and the forms that it made have in common.
+struct ToolkitState {
+  CallLog& log;
+  const platform::Clock& clock;
+  ScriptErrors& errors;
+  platform::ScreenSize screen{28800, 16200};
+  float twips_per_pixel = 15;
+  /// The element that is locked against repainting, null for none.
+  const platform::Element* locked = nullptr;
+  /// The modal forms on show, the innermost last.
+  std::vector<HeadlessForm*> modal_forms = {};
+  /// The scripts that wait, by the name of the form that they are for.
+  std::map<std::string, std::deque<ModalScript>> modal_scripts = {};
+  /// The paths that there is an animated image under.
+  std::set<std::string> animations = {};
+  /// The names of the containers that controls stand in, by form and control.
+  std::map<std::string, std::map<std::string, std::string>> containers = {};
+};
+
+}  // namespace ferrowind::headless

@@ -1,0 +1,31 @@
+#include "ferrowind/adapters/headless/world.h"
+
+#include "ferrowind/adapters/headless/faulty_dictionary.h"
+#include "ferrowind/adapters/headless/faulty_shared_services.h"
+
+namespace ferrowind::headless {
+
+World::World() {
+  engines_.Register("memory", memory_);
+  objects.Register(platform::kDictionaryIdentifier, [this] {
+    faults.Pass("objects.CreateObject");
+    return std::make_shared<FaultyDictionary>(dictionary, faults);
+  });
+  objects.Register(platform::kSharedServicesIdentifier, [this] {
+    faults.Pass("objects.CreateObject");
+    return std::make_shared<FaultySharedServices>(services, faults);
+  });
+}
+
+platform::Platform World::Platform() {
+  return {objects, faulty_commands_, faulty_toolkit_, locale, clock, "/component"};
+}
+
+platform::Platform World::PlatformOnMemory() {
+  database = &memory_->CreateDatabase("world");
+  dictionary->SetConnectionString("memory:world");
+  dictionary->SetTable("Ccy", database->Dictionary("Ccy"));
+  return {objects, faulty_engine_commands_, faulty_toolkit_, locale, clock, "/component"};
+}
+
+}  // namespace ferrowind::headless

@@ -1,0 +1,83 @@
+#include "ferrowind/adapters/postgres/connection_uri.h"
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+
+#include <libpq-fe.h>
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::postgres {
+namespace {
+
+platform::Failure NotUnderstood(const std::string& why) {
+  return {platform::failure_number::kInvalidArgument, "The connection string of the database server " + why};
+}
+
+/// What stands behind "postgresql://" or "postgres://".
+std::string_view BehindScheme(std::string_view text) {
+  for (const std::string_view scheme : {"postgresql://", "postgres://"}) {
+    if (text.starts_with(scheme)) return text.substr(scheme.size());
+  }
+  throw NotUnderstood("does not begin with postgresql://");
+}
+
+void RefuseMisplacedSigns(std::string_view text) {
+  const auto at = text.rfind('@');
+  if (at == std::string_view::npos) return;
+  if (text.find_first_of("@/?") != at) {
+    throw NotUnderstood(
+        "has an \"@\" too many, or a \"/\" or \"?\" in front of it: within a name or a password these are "
+        "written %40, %2F and %3F");
+  }
+}
+
+/// libpq would print a port that is none.
+void RefuseWrongPort(std::string_view ports) {
+  if (ports.find_first_not_of("0123456789,") != std::string_view::npos) {
+    throw NotUnderstood("has a port that is no number; a password stands between the user's name and \"@\"");
+  }
+}
+
+struct OptionsFree {
+  void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
+};
+
+}  // namespace
+
+ConnectionUri::ConnectionUri(const std::string& text) {
+  RefuseMisplacedSigns(BehindScheme(text));
+  if (text.find('\0') != std::string::npos) throw NotUnderstood("holds the character NUL");
+  char* error = nullptr;
+  const std::unique_ptr<PQconninfoOption, OptionsFree> options(PQconninfoParse(text.c_str(), &error));
+  // Its text may quote the whole string.
+  PQfreemem(error);
+  if (!options) throw NotUnderstood("is not a URI that the PostgreSQL library understands");
+  for (const PQconninfoOption* option = options.get(); option->keyword != nullptr; ++option) {
+    if (option->val == nullptr) continue;
+    if (std::string_view(option->keyword) == "port") RefuseWrongPort(option->val);
+    Set(option->keyword, option->val);
+  }
+  Set("client_encoding", "UTF8");
+  SetDefault("fallback_application_name", "Ferrowind");
+  // In seconds; the last one, which is for data that the server does not acknowledge, in milliseconds.
+  SetDefault("connect_timeout", "10");
+  SetDefault("keepalives_idle", "10");
+  SetDefault("keepalives_interval", "5");
+  SetDefault("keepalives_count", "4");
+  SetDefault("tcp_user_timeout", "30000");
+}
+
+void ConnectionUri::Set(const char* keyword, const char* value) {
+  std::erase_if(settings_, [&](const auto& setting) { return setting.first == keyword; });
+  settings_.emplace_back(keyword, value);
+}
+
+void ConnectionUri::SetDefault(const char* keyword, const char* value) {
+  const bool is_set = std::any_of(settings_.begin(), settings_.end(),
+                                  [&](const auto& setting) { return setting.first == keyword; });
+  if (!is_set) settings_.emplace_back(keyword, value);
+}
+
+}  // namespace ferrowind::postgres

@@ -1,0 +1,60 @@
+#include <string>
+#include <string_view>
+
+#include "ferrowind/adapters/postgres/database_objects.h"
+#include "ferrowind/adapters/postgres/delivered_objects.h"
+#include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres/server_connection.h"
+#include "ferrowind/adapters/postgres/transaction_engine.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+
+#include "database/postgres/embedded_sql.h"
+#include "database/seed/embedded_sql.h"
+
+namespace ferrowind::postgres {
+namespace {
+
+using platform::Failure;
+
+/// A text for each reason why the database cannot become a calendar database.
+constexpr const char* kObstacles =
+    "SELECT 'it stores texts as ' || current_setting('server_encoding') || ' instead of UTF8'"
+    " WHERE current_setting('server_encoding') <> 'UTF8'"
+    " UNION ALL SELECT 'it is not empty: there is ' || n.nspname || '.' || c.relname"
+    "  FROM pg_catalog.pg_class c JOIN pg_catalog.pg_namespace n ON n.oid = c.relnamespace"
+    "  WHERE n.nspname NOT LIKE 'pg\\_%' AND n.nspname <> 'information_schema'"
+    " UNION ALL SELECT 'it has a schema ferrowind already' FROM pg_catalog.pg_namespace WHERE nspname = "
+    "'ferrowind'"
+    " LIMIT 1";
+
+void RefuseObstacles(ServerConnection& connection) {
+  const auto obstacles = ReadRecordSet(connection.Query(kObstacles).get());
+  if (obstacles->Eof()) return;
+  throw Failure(platform::failure_number::kInvalidArgument,
+                connection.DatabaseName() + " cannot become a calendar database: " +
+                    platform::ToText(obstacles->Cell(obstacles->BookmarkAt(0), 0)));
+}
+
+}  // namespace
+
+void CreateDatabaseObjects(const std::string& connection_string, bool with_rules,
+                           const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill) {
+  platform::WithFailuresOnly([&] {
+    const auto connection = std::make_shared<ServerConnection>(connection_string);
+    RefuseObstacles(*connection);
+    connection->RunScript("BEGIN");
+    connection->RunScript(std::string(embedded::kPostgresRoles));
+    CreateDeliveredSchema(*connection);
+    for (const std::string_view script : {embedded::kBaseData, embedded::kCurrencies}) {
+      connection->RunScript(std::string(script));
+    }
+    if (with_rules) connection->RunScript(std::string(embedded::kRules));
+    if (fill) fill(std::make_shared<TransactionEngine>(connection));
+    GiveDeliveredRights(*connection);
+    connection->RunScript("COMMIT");
+  });
+}
+
+}  // namespace ferrowind::postgres

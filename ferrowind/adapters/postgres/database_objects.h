@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ferrowind/platform/database/engine.h"
+
+namespace ferrowind::postgres {
+
+/// Makes the existing empty database that `connection_string` names a calendar database: roles that the
+/// server does not have yet, the schema `ferrowind` with tables, procedures and views, currencies, holiday
+/// types, the built-in rule, the setting, and with `with_rules` the delivered rules. Then calls `fill`, when
+/// there is one, with an engine through which it may add more; whatever connection string that engine is
+/// given, it works in this creation, and only until `fill` returns.
+///
+/// All of it is one transaction: a creation that fails or is killed leaves the database and the server's
+/// roles as they were. The login must be allowed to create roles (unless they exist) and own the database, or
+/// be a superuser. A database that is not empty or does not store texts as UTF-8 is a failure. Fails only
+/// with `platform::Failure`, and with what `fill` throws.
+void CreateDatabaseObjects(const std::string& connection_string, bool with_rules,
+                           const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill = {});
+
+/// The problems of the calendar database, each a sentence that says what and where; none when it is sound:
+/// the schema is this program's version, tables, constraints, procedures, views and rights are this
+/// program's, every calendar is a currency's and has all days of its year with their dates, and every day's
+/// rule exists and is of the day's type. Changes nothing. The login must be one that could create the
+/// database. A database that cannot be read is a `platform::Failure`.
+[[nodiscard]] std::vector<std::string> CheckDatabase(const std::string& connection_string);
+
+}  // namespace ferrowind::postgres

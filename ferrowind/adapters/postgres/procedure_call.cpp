@@ -1,0 +1,103 @@
+#include "ferrowind/adapters/postgres/procedure_call.h"
+
+#include <charconv>
+#include <cstddef>
+#include <cstring>
+
+#include "ferrowind/adapters/postgres/call_script.h"
+#include "ferrowind/adapters/postgres/pipeline.h"
+#include "ferrowind/adapters/postgres/postgres_failure.h"
+#include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/platform/database/call_inputs.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::postgres {
+namespace {
+
+using platform::CallOutcome;
+using platform::Failure;
+using platform::Value;
+
+void RefuseWrongInputs(const ProcedureSignature& signature, const std::string& procedure,
+                       const std::vector<Value>& inputs) {
+  platform::RefuseWrongInputs(procedure, signature.parameters, inputs);
+  for (std::size_t i = 0; i < inputs.size(); ++i) {
+    const auto* const text = inputs[i].If<std::string>();
+    // The server has no such character, and libpq would end the text in front of it.
+    if (text != nullptr && text->find('\0') != std::string::npos) {
+      throw platform::RefusedInput(platform::failure_number::kInvalidArgument, procedure,
+                                   signature.parameters[i + 1],
+                                   "was given a text with the character NUL, which the server cannot store");
+    }
+  }
+}
+
+std::int32_t ReturnValueIn(const PGresult* result, const std::string& procedure) {
+  const char* const text = PQgetvalue(result, 0, 0);
+  std::int32_t value = 0;
+  const auto [end, error] = std::from_chars(text, text + std::strlen(text), value);
+  if (error != std::errc() || *end != '\0') {
+    throw Failure(platform::failure_number::kInvalidUseOfNull,
+                  "The procedure " + procedure + " gave no return value, so what it did was undone");
+  }
+  return value;
+}
+
+/// After this the connection takes the next call.
+void UndoFailedTransaction(ServerConnection& connection) {
+  if (!connection.IsAlive() || PQtransactionStatus(connection.Get()) == PQTRANS_IDLE) return;
+  try {
+    connection.RunScript("ROLLBACK");
+  } catch (const Failure&) {
+    // Then the server undoes it when the connection ends. What failed first is what is told.
+  }
+}
+
+}  // namespace
+
+CallOutcome CallProcedure(ServerConnection& connection, const ProcedureSignature& signature,
+                          const std::string& asked_name, const std::vector<Value>& inputs,
+                          CallTransaction transaction) {
+  RefuseWrongInputs(signature, asked_name, inputs);
+  const CallScript script(connection, signature, inputs);
+  const bool is_own = transaction == CallTransaction::kOwn;
+  const std::size_t record_sets = signature.RecordSetCount();
+  std::vector<QueryResult> answers;
+  std::size_t return_value_at = 0;
+  try {
+    Pipeline pipeline(connection);
+    if (is_own) pipeline.Add("BEGIN");
+    pipeline.Add(script.SetInputs(), script.InputTexts());
+    pipeline.Add(script.Block());
+    return_value_at = pipeline.Add(CallScript::ReadReturnValue());
+    for (std::size_t i = 0; i < record_sets; ++i) pipeline.Add(CallScript::FetchRecordSet(i));
+    if (is_own) {
+      pipeline.Add("COMMIT");
+    } else {
+      // The next call's cursors have the same names.
+      pipeline.Add("CLOSE ALL");
+    }
+    answers = pipeline.Run();
+  } catch (const Failure& failure) {
+    if (!connection.IsAlive()) {
+      throw Introduced(
+          "The procedure " + asked_name +
+              " was interrupted; it has done all of its work or nothing, so look before you call "
+              "it again. ",
+          failure);
+    }
+    if (is_own) UndoFailedTransaction(connection);
+    throw Introduced("The procedure " + asked_name + " failed: ", failure);
+  }
+
+  CallOutcome outcome;
+  outcome.return_value = ReturnValueIn(answers[return_value_at].get(), asked_name);
+  if (outcome.return_value != 0) return outcome;
+  for (std::size_t i = 0; i < record_sets; ++i) {
+    const PGresult* const rows = answers[return_value_at + 1 + i].get();
+    if (PQnfields(rows) > 0) outcome.record_sets.push_back(ReadRecordSet(rows));
+  }
+  return outcome;
+}
+
+}  // namespace ferrowind::postgres

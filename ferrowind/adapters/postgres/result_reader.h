@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include <libpq-fe.h>
+
+#include "ferrowind/platform/values/record_set.h"
+
+namespace ferrowind::postgres {
+
+/// The types of the server that cross into values.
+namespace type_id {
+inline constexpr Oid kInt8 = 20;
+inline constexpr Oid kInt2 = 21;
+inline constexpr Oid kInt4 = 23;
+inline constexpr Oid kText = 25;
+inline constexpr Oid kName = 19;
+inline constexpr Oid kVarchar = 1043;
+inline constexpr Oid kDate = 1082;
+inline constexpr Oid kRefCursor = 1790;
+}  // namespace type_id
+
+/// The rows of `result`, which is in the binary format. A column's type decides: smallint gives an int16,
+/// integer an int32, bigint an int64, date a date, text and varchar a text, and NULL an empty value. A column
+/// of another type, and a date outside the years 1 to 9999, are failures that name the column.
+[[nodiscard]] std::shared_ptr<platform::RecordSet> ReadRecordSet(const PGresult* result);
+
+}  // namespace ferrowind::postgres

@@ -1,0 +1,28 @@
+#include "ferrowind/adapters/qt/controls/qt_button.h"
+
+#include "ferrowind/adapters/qt/controls/caption_text.h"
+
+namespace ferrowind::qt {
+
+QtButton::QtButton(QPushButton& button) : QtControl(button), button_(button), caption_(button.text()) {
+  QObject::connect(&button_, &QPushButton::clicked, Context(), [this] { Raise(clicked_); });
+}
+
+std::string QtButton::Caption() const { return FromQt(caption_); }
+
+void QtButton::SetCaption(const std::string& caption) {
+  caption_ = ToQt(caption);
+  button_.setText(MarkedCaption(caption_, mnemonic_));
+  button_.setAccessibleName(caption_);
+}
+
+platform::Subscription QtButton::OnClick(std::function<void()> handler) {
+  return clicked_.Subscribe(std::move(handler));
+}
+
+void QtButton::SetMnemonic(QChar mnemonic) {
+  mnemonic_ = mnemonic;
+  button_.setText(MarkedCaption(caption_, mnemonic_));
+}
+
+}  // namespace ferrowind::qt

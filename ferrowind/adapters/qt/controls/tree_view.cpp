@@ -1,0 +1,157 @@
+#include "ferrowind/adapters/qt/controls/tree_view.h"
+
+#include <QEvent>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+#include <utility>
+
+namespace ferrowind::qt {
+namespace {
+
+bool IsBelow(QModelIndex index, const QModelIndex& ancestor) {
+  while (index.isValid()) {
+    index = index.parent();
+    if (index == ancestor) return true;
+  }
+  return false;
+}
+
+/// Rows with some room around their text.
+class RoomyRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    constexpr int kRoom = 6;
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRoom);
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // The quiet selection of a tree without the keyboard is no ground for an icon drawn for the strong one.
+    if (!option->state.testFlag(QStyle::State_Active)) option->icon = PlainWhenSelected(*option);
+  }
+
+ private:
+  static QIcon PlainWhenSelected(const QStyleOptionViewItem& option) {
+    const qreal scale = option.widget == nullptr ? 1 : option.widget->devicePixelRatioF();
+    const QPixmap plain = option.icon.pixmap(option.decorationSize, scale, QIcon::Normal);
+    QIcon icon;
+    icon.addPixmap(plain, QIcon::Normal);
+    icon.addPixmap(plain, QIcon::Selected);
+    return icon;
+  }
+};
+
+}  // namespace
+
+/// Puts toggles off until the work is done: in the middle of it the base class still uses nodes that a
+/// handler may have removed.
+class TreeView::Work {
+ public:
+  explicit Work(TreeView& view) : view_(view) { ++view_.works_under_way_; }
+  ~Work() {
+    if (--view_.works_under_way_ == 0) view_.RaiseToggles();
+  }
+  Work(const Work&) = delete;
+  Work& operator=(const Work&) = delete;
+
+ private:
+  TreeView& view_;
+};
+
+TreeView::TreeView(QWidget* parent) : QTreeView(parent) {
+  setHeaderHidden(true);
+  setUniformRowHeights(true);
+  setItemDelegate(new RoomyRows(this));
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  connect(this, &QAbstractItemView::clicked, this, [this] { was_clicked_ = true; });
+  connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) { NoteToggle(index, true); });
+  connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& index) { NoteToggle(index, false); });
+}
+
+QModelIndex TreeView::SelectedNode() const {
+  const QModelIndexList selected =
+      selectionModel() == nullptr ? QModelIndexList() : selectionModel()->selectedIndexes();
+  return selected.isEmpty() ? QModelIndex() : selected.first();
+}
+
+void TreeView::SelectNode(const QModelIndex& index) {
+  const Work work(*this);
+  const QScopedValueRollback<bool> by_program(is_selected_by_program_, true);
+  setCurrentIndex(index);
+  // A view that is not shown does not scroll to the node, and so expands nothing, by itself.
+  for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) expand(above);
+}
+
+void TreeView::SetNodeExpanded(const QModelIndex& index, bool is_expanded) {
+  const Work work(*this);
+  setExpanded(index, is_expanded);
+}
+
+void TreeView::keyPressEvent(QKeyEvent* event) {
+  has_moved_ = false;
+  was_clicked_ = false;
+  {
+    const Work work(*this);
+    QTreeView::keyPressEvent(event);
+  }
+  if (has_moved_) RaiseChosen();
+}
+
+void TreeView::mousePressEvent(QMouseEvent* event) {
+  const Work work(*this);
+  has_moved_ = false;
+  was_clicked_ = false;
+  QTreeView::mousePressEvent(event);
+}
+
+void TreeView::mouseReleaseEvent(QMouseEvent* event) {
+  {
+    const Work work(*this);
+    QTreeView::mouseReleaseEvent(event);
+  }
+  if (has_moved_ || was_clicked_) RaiseChosen();
+}
+
+void TreeView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const Work work(*this);
+  QTreeView::mouseDoubleClickEvent(event);
+}
+
+void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QTreeView::selectionChanged(selected, deselected);
+  if (!is_selected_by_program_) has_moved_ = true;
+}
+
+QItemSelectionModel::SelectionFlags TreeView::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* event) const {
+  // Otherwise Ctrl with a click or a key would leave nothing selected.
+  if (!index.isValid() || (event != nullptr && event->type() == QEvent::MouseButtonRelease)) {
+    return QItemSelectionModel::NoUpdate;
+  }
+  return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
+void TreeView::NoteToggle(const QModelIndex& index, bool is_expanded) {
+  const Work work(*this);
+  if (!is_expanded && IsBelow(SelectedNode(), index)) SelectNode(index);
+  toggles_.push_back({index, is_expanded});
+}
+
+void TreeView::RaiseToggles() {
+  for (const Toggle& toggle : std::exchange(toggles_, {})) {
+    const QModelIndex node = toggle.node;
+    if (node.isValid()) Q_EMIT Toggled(node, toggle.is_expanded);
+  }
+}
+
+void TreeView::RaiseChosen() {
+  has_moved_ = false;
+  was_clicked_ = false;
+  const QModelIndex selected = SelectedNode();
+  if (selected.isValid()) Q_EMIT Chosen(selected);
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,81 @@
+#include "ferrowind/adapters/qt/forms/control_maker.h"
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QSplitter>
+#include <utility>
+
+#include "ferrowind/adapters/qt/controls/qt_animation.h"
+#include "ferrowind/adapters/qt/controls/qt_button.h"
+#include "ferrowind/adapters/qt/controls/qt_date_picker.h"
+#include "ferrowind/adapters/qt/controls/qt_drop_down_list.h"
+#include "ferrowind/adapters/qt/controls/qt_label.h"
+#include "ferrowind/adapters/qt/controls/qt_status_bar.h"
+#include "ferrowind/adapters/qt/controls/qt_text_box.h"
+#include "ferrowind/adapters/qt/controls/qt_tool_bar.h"
+#include "ferrowind/adapters/qt/controls/qt_tree.h"
+#include "ferrowind/adapters/qt/controls/qt_up_down.h"
+#include "ferrowind/adapters/qt/grid/grid_widget.h"
+#include "ferrowind/adapters/qt/grid/qt_grid.h"
+
+namespace ferrowind::qt {
+
+using platform::ControlKind;
+
+namespace {
+
+template <typename Adapter, typename Widget>
+std::unique_ptr<platform::Control> MakeOver(QWidget& widget) {
+  auto* fitting = qobject_cast<Widget*>(&widget);
+  if (fitting == nullptr) return nullptr;
+  return std::make_unique<Adapter>(*fitting);
+}
+
+std::unique_ptr<platform::Control> MakePlain(QWidget& widget, bool is_of_kind) {
+  if (!is_of_kind) return nullptr;
+  return std::make_unique<QtControl<platform::Control>>(widget);
+}
+
+/// Frames and panels do nothing but hold other controls.
+bool IsHolder(const QWidget& widget) {
+  const QMetaObject* type = widget.metaObject();
+  return type == &QWidget::staticMetaObject || type == &QFrame::staticMetaObject ||
+         type == &QGroupBox::staticMetaObject;
+}
+
+}  // namespace
+
+std::unique_ptr<platform::Control> MakeControl(ControlKind kind, QWidget& widget) {
+  switch (kind) {
+    case ControlKind::kLabel:
+      return MakeOver<QtLabel, QLabel>(widget);
+    case ControlKind::kButton:
+      return MakeOver<QtButton, QPushButton>(widget);
+    case ControlKind::kTextBox:
+      return MakeOver<QtTextBox, QLineEdit>(widget);
+    case ControlKind::kDropDownList:
+      return MakeOver<QtDropDownList, QComboBox>(widget);
+    case ControlKind::kDatePicker:
+      return MakeOver<QtDatePicker, QDateEdit>(widget);
+    case ControlKind::kUpDown:
+      return MakeOver<QtUpDown, UpDownArrows>(widget);
+    case ControlKind::kFrame:
+    case ControlKind::kPanel:
+      return MakePlain(widget, IsHolder(widget));
+    case ControlKind::kSplitter:
+      return MakePlain(widget, qobject_cast<QSplitter*>(&widget) != nullptr);
+    case ControlKind::kTree:
+      return MakeOver<QtTree, TreeView>(widget);
+    case ControlKind::kGrid:
+      return MakeOver<QtGrid, GridWidget>(widget);
+    case ControlKind::kToolBar:
+      return MakeOver<QtToolBar, QToolBar>(widget);
+    case ControlKind::kStatusBar:
+      return MakeOver<QtStatusBar, QStatusBar>(widget);
+    case ControlKind::kAnimation:
+      return MakeOver<QtAnimation, QLabel>(widget);
+  }
+  return nullptr;
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "ferrowind/platform/toolkit/control.h"
+#include "ferrowind/platform/toolkit/form_design.h"
+
+namespace ferrowind::qt {
+
+/// The control of that kind over a widget of a form's layout, which must outlive it; null when the widget is
+/// not of that kind.
+[[nodiscard]] std::unique_ptr<platform::Control> MakeControl(platform::ControlKind kind, QWidget& widget);
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,82 @@
+#include "ferrowind/adapters/qt/forms/design_traits.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QSet>
+
+#include "ferrowind/adapters/qt/controls/captioned.h"
+#include "ferrowind/adapters/qt/forms/dialog_keys.h"
+#include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/platform/toolkit/button.h"
+#include "ferrowind/platform/toolkit/label.h"
+#include "ferrowind/platform/toolkit/text_box.h"
+
+namespace ferrowind::qt {
+namespace {
+
+QWidget* WidgetOf(const FormWindow& window, const platform::Control& control) {
+  return window.findChild<QWidget*>(ToQt(control.Name()));
+}
+
+void ApplyText(const FormWindow& window, const std::string& text, platform::Control& control) {
+  if (auto* label = dynamic_cast<platform::Label*>(&control)) label->SetText(text);
+  if (auto* button = dynamic_cast<platform::Button*>(&control)) button->SetCaption(text);
+  if (auto* box = dynamic_cast<platform::TextBox*>(&control)) box->SetText(text);
+  if (auto* frame = qobject_cast<QGroupBox*>(WidgetOf(window, control))) frame->setTitle(ToQt(text));
+}
+
+void ApplyButtonRole(const FormWindow& window, const platform::ControlDesign& design) {
+  auto* button = window.findChild<QPushButton*>(ToQt(design.name));
+  if (button == nullptr) return;
+  button->setAutoDefault(true);
+  button->setDefault(design.is_default_button);
+  if (design.is_cancel_button) SetCancelButton(*button);
+}
+
+void ApplyMnemonics(const FormControls& controls) {
+  QSet<QChar> taken;
+  for (const auto& made : controls) {
+    auto* captioned = dynamic_cast<Captioned*>(made.get());
+    if (captioned == nullptr || !captioned->TakesMnemonic()) continue;
+    for (const QChar character : captioned->PlainCaption()) {
+      const QChar key = character.toLower();
+      if (!key.isLetterOrNumber() || taken.contains(key)) continue;
+      taken.insert(key);
+      captioned->SetMnemonic(key);
+      break;
+    }
+  }
+}
+
+void ApplyTabOrder(const FormWindow& window, const FormControls& controls) {
+  QWidget* before = nullptr;
+  for (const auto& made : controls) {
+    QWidget* widget = WidgetOf(window, *made);
+    if (widget->focusPolicy() == Qt::NoFocus && widget->focusProxy() == nullptr) continue;
+    if (before != nullptr) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+}  // namespace
+
+void ApplyDesign(const FormWindow& window, const platform::FormDesign& design, const FormControls& controls) {
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    ApplyText(window, design.controls[i].text, *controls[i]);
+    ApplyButtonRole(window, design.controls[i]);
+  }
+  ApplyMnemonics(controls);
+  ApplyTabOrder(window, controls);
+}
+
+void FocusFirst(const FormWindow& window, const FormControls& controls) {
+  for (const auto& made : controls) {
+    QWidget* widget = WidgetOf(window, *made);
+    const bool takes_tab = (widget->focusPolicy() & Qt::TabFocus) != 0 || widget->focusProxy() != nullptr;
+    if (!takes_tab || !widget->isEnabled() || !widget->isVisibleTo(&window)) continue;
+    widget->setFocus(Qt::TabFocusReason);
+    return;
+  }
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,41 @@
+#include "ferrowind/adapters/qt/forms/dialog_keys.h"
+
+#include <QVariant>
+
+namespace ferrowind::qt {
+namespace {
+
+constexpr const char* kCancelProperty = "ferrowindCancelButton";
+
+QPushButton* CancelButton(const QDialog& dialog) {
+  for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    if (button->property(kCancelProperty).toBool()) return button;
+  }
+  return nullptr;
+}
+
+/// Qt makes the focused button the default one while it has the focus.
+QPushButton* EnterButton(const QDialog& dialog) {
+  for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    if (button->isDefault() && button->isVisibleTo(&dialog)) return button;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void SetCancelButton(QPushButton& button) { button.setProperty(kCancelProperty, true); }
+
+bool PressButtonOfKey(const QDialog& dialog, const QKeyEvent& event) {
+  const bool is_plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (!is_plain) return false;
+  QPushButton* button = nullptr;
+  if (event.key() == Qt::Key_Escape) button = CancelButton(dialog);
+  if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) button = EnterButton(dialog);
+  if (button == nullptr) return false;
+  // A disabled button takes the key and does nothing.
+  button->click();
+  return true;
+}
+
+}  // namespace ferrowind::qt

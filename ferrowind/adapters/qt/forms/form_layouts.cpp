@@ -1,0 +1,32 @@
+#include "ferrowind/adapters/qt/forms/form_layouts.h"
+
+#include "ui_fmAddHoliday.h"
+#include "ui_fmCalendar.h"
+#include "ui_fmEnterHolidays.h"
+#include "ui_fmExceptMess.h"
+#include "ui_fmMessage.h"
+#include "ui_fmSelectYear.h"
+#include "ui_fmWait.h"
+
+namespace ferrowind::qt {
+
+bool FormLayouts::Build(const std::string& form_name, QDialog& window) const {
+  const auto found = builders_.find(form_name);
+  if (found == builders_.end()) return false;
+  found->second(window);
+  return true;
+}
+
+FormLayouts ComponentLayouts() {
+  FormLayouts layouts;
+  layouts.AddGenerated<Ui::fmAddHoliday>("fmAddHoliday");
+  layouts.AddGenerated<Ui::fmCalendar>("fmCalendar");
+  layouts.AddGenerated<Ui::fmEnterHolidays>("fmEnterHolidays");
+  layouts.AddGenerated<Ui::fmExceptMess>("fmExceptMess");
+  layouts.AddGenerated<Ui::fmMessage>("fmMessage");
+  layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");
+  layouts.AddGenerated<Ui::fmWait>("fmWait");
+  return layouts;
+}
+
+}  // namespace ferrowind::qt

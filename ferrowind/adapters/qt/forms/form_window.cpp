@@ -1,0 +1,170 @@
+#include "ferrowind/adapters/qt/forms/form_window.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/adapters/qt/forms/dialog_keys.h"
+
+namespace ferrowind::qt {
+
+using platform::FormBorder;
+
+namespace {
+
+Qt::WindowFlags FlagsOf(FormBorder border) {
+  switch (border) {
+    case FormBorder::kSizable:
+      return Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+             Qt::WindowCloseButtonHint;
+    case FormBorder::kFixedDialog:
+      return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::MSWindowsFixedSizeDialogHint;
+    case FormBorder::kClosableDialog:
+      return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+             Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+    case FormBorder::kNone:
+      return Qt::Dialog | Qt::FramelessWindowHint;
+  }
+  return Qt::Window;
+}
+
+/// Null for everything but the windows that are no dialogs to the operator, which would be told as dialogs
+/// because of their class. The accessibility framework owns what is made.
+QAccessibleInterface* AccessibleWindow(const QString& class_name, QObject* object) {
+  auto* window = qobject_cast<FormWindow*>(object);
+  if (window == nullptr || class_name != QLatin1String(FormWindow::staticMetaObject.className()))
+    return nullptr;
+  if (window->Border() != FormBorder::kSizable) return nullptr;
+  return new QAccessibleWidget(window, QAccessible::Window);
+}
+
+/// The memory of a window grows with its area, so that a size from a damaged setting could end the host.
+QSize Affordable(const QSize& size) {
+  constexpr int kLargestSide = 8192;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QSize desktop = screen == nullptr ? QSize() : screen->virtualSize();
+  return size.boundedTo(desktop.expandedTo({kLargestSide, kLargestSide}));
+}
+
+}  // namespace
+
+FormWindow::FormWindow() {
+  // Does nothing when it is installed already.
+  QAccessible::installFactory(AccessibleWindow);
+  setSizeGripEnabled(false);
+}
+
+FormWindow::~FormWindow() {
+  callbacks_ = {};
+  // Before the widgets that it uses.
+  retired_form_.reset();
+}
+
+void FormWindow::SetBorder(FormBorder border) {
+  border_ = border;
+  setWindowFlags(FlagsOf(border));
+}
+
+void FormWindow::SetDesignedSize(const QSize& size) {
+  designed_size_ = size;
+  if (IsFixed()) {
+    FitToTexts();
+  } else if (!size.isEmpty()) {
+    resize(size.expandedTo(minimumSizeHint()));
+  }
+}
+
+QSize FormWindow::OuterSize() const {
+  if (!wanted_outer_size_.isEmpty() && !isVisible()) return wanted_outer_size_;
+  return frameGeometry().size();
+}
+
+void FormWindow::SetOuterSize(const QSize& size) {
+  if (IsFixed()) return SetDesignedSize(Affordable(size) - FrameExtents());
+  wanted_outer_size_ = Affordable(size);
+  extents_applied_ = FrameExtents();
+  resize((wanted_outer_size_ - extents_applied_).expandedTo({0, 0}));
+}
+
+void FormWindow::SetOuterPosition(const QPoint& position) {
+  is_placed_ = true;
+  move(position);
+}
+
+void FormWindow::RetireWith(std::shared_ptr<void> form) {
+  retired_form_ = std::move(form);
+  hide();
+  deleteLater();
+}
+
+void FormWindow::done(int /*result*/) {}
+
+void FormWindow::reject() {}
+
+bool FormWindow::event(QEvent* event) {
+  const bool is_handled = QDialog::event(event);
+  if (event->type() == QEvent::LayoutRequest && IsFixed()) FitToTexts();
+  if (event->type() == QEvent::Show) MakeUpForFrame();
+  return is_handled;
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  const auto close_asked = callbacks_.close_asked;
+  // A dialog without a window menu has no box to close it; a key of the desktop must not close it either.
+  if (border_ == FormBorder::kFixedDialog || border_ == FormBorder::kNone || !close_asked) return;
+  close_asked();
+  event->setAccepted(!isVisible());
+}
+
+void FormWindow::hideEvent(QHideEvent* event) {
+  QDialog::hideEvent(event);
+  // Minimising is told as a hiding too, but leaves the window shown.
+  const auto hidden = callbacks_.hidden;
+  if (!event->spontaneous() && hidden) hidden();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (!PressButtonOfKey(*this, *event)) event->ignore();
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+  QDialog::moveEvent(event);
+  MakeUpForFrame();
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (event->spontaneous()) wanted_outer_size_ = {};
+  const auto resized = callbacks_.resized;
+  if (resized) resized();
+}
+
+QSize FormWindow::FrameExtents() const { return frameGeometry().size() - size(); }
+
+void FormWindow::FitToTexts() {
+  if (layout() == nullptr) return;
+  layout()->activate();
+  const QSize needed = layout()->totalSizeHint();
+  QSize fitting = designed_size_.expandedTo(needed);
+  if (layout()->hasHeightForWidth()) {
+    fitting.setHeight(std::max(designed_size_.height(), layout()->totalHeightForWidth(fitting.width())));
+  }
+  if (fitting != size() || minimumSize() != fitting) setFixedSize(fitting);
+}
+
+void FormWindow::MakeUpForFrame() {
+  if (wanted_outer_size_.isEmpty() || !isVisible() || isMaximized() || isMinimized()) return;
+  if (FrameExtents() == extents_applied_) return;
+  extents_applied_ = FrameExtents();
+  resize((wanted_outer_size_ - extents_applied_).expandedTo({0, 0}));
+}
+
+}  // namespace ferrowind::qt

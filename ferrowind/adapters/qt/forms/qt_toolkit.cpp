@@ -1,0 +1,84 @@
+#include "ferrowind/adapters/qt/forms/qt_toolkit.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QSessionManager>
+#include <algorithm>
+
+#include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/controls/popup_place.h"
+#include "ferrowind/adapters/qt/forms/form_window.h"
+#include "ferrowind/adapters/qt/forms/qt_form.h"
+#include "ferrowind/adapters/qt/grid/qt_grid.h"
+#include "ferrowind/adapters/qt/values/twips.h"
+
+namespace ferrowind::qt {
+namespace {
+
+/// Null for an element of another toolkit.
+QWidget* WidgetOf(platform::Element& element) {
+  if (auto* grid = dynamic_cast<QtGrid*>(&element)) return &grid->Widget();
+  auto* holder = dynamic_cast<WidgetElement*>(&element);
+  return holder == nullptr ? nullptr : &holder->ElementWidget();
+}
+
+/// A dropped form's window lives on until the event loop deletes it.
+bool IsGone(const QPointer<QWidget>& widget) {
+  if (!widget) return true;
+  const auto* window = qobject_cast<FormWindow*>(widget->window());
+  return window != nullptr && window->IsRetired();
+}
+
+}  // namespace
+
+QtToolkit::QtToolkit(FormLayouts layouts) : layouts_(std::move(layouts)) {
+  NoticeKeys();
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &context_, [this](QSessionManager& session) {
+    if (!CloseForms() && session.allowsInteraction()) session.cancel();
+  });
+}
+
+std::shared_ptr<platform::Form> QtToolkit::CreateForm(const platform::FormDesign& design) {
+  auto form = QtForm::Create(design, layouts_);
+  std::erase_if(forms_, [](const auto& known) { return known.expired(); });
+  forms_.push_back(form);
+  return form;
+}
+
+platform::ScreenSize QtToolkit::Screen() const {
+  const QSize size = QGuiApplication::primaryScreen()->size();
+  return {TwipsX(size.width()), TwipsY(size.height())};
+}
+
+float QtToolkit::TwipsPerPixelX() const { return qt::TwipsPerPixelX(); }
+
+bool QtToolkit::LockUpdates(platform::Element& element) {
+  QWidget* widget = WidgetOf(element);
+  if (!IsGone(locked_) || widget == nullptr) return false;
+  locked_ = widget;
+  locked_->setUpdatesEnabled(false);
+  return true;
+}
+
+void QtToolkit::UnlockUpdates() {
+  if (locked_) locked_->setUpdatesEnabled(true);
+  locked_ = nullptr;
+}
+
+void QtToolkit::ProcessPendingEvents() { QCoreApplication::processEvents(); }
+
+void QtToolkit::Beep() { QApplication::beep(); }
+
+bool QtToolkit::CloseForms() {
+  std::vector<std::shared_ptr<QtForm>> forms;
+  for (const auto& known : forms_) {
+    if (auto form = known.lock()) forms.push_back(std::move(form));
+  }
+  if (std::any_of(forms.begin(), forms.end(), [](const auto& form) { return form->AwaitsAnswer(); })) {
+    return false;
+  }
+  return std::all_of(forms.rbegin(), forms.rend(),
+                     [](const auto& form) { return !form->IsShown() || form->Unload(); });
+}
+
+}  // namespace ferrowind::qt

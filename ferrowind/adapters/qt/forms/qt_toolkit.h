@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "ferrowind/adapters/qt/forms/form_layouts.h"
+#include "ferrowind/platform/toolkit/toolkit.h"
+
+namespace ferrowind::qt {
+
+class QtForm;
+
+/// The toolkit over Qt Widgets. Needs the QApplication, on whose thread it is used.
+///
+/// At the end of the desktop's session its forms on show are closed by `CloseForms`; one that stays open
+/// holds the end back where the desktop allows that.
+class QtToolkit : public platform::Toolkit {
+ public:
+  /// `layouts` may have more forms than the component's own.
+  explicit QtToolkit(FormLayouts layouts = ComponentLayouts());
+
+  [[nodiscard]] std::shared_ptr<platform::Form> CreateForm(const platform::FormDesign& design) override;
+  [[nodiscard]] platform::ScreenSize Screen() const override;
+  [[nodiscard]] float TwipsPerPixelX() const override;
+  bool LockUpdates(platform::Element& element) override;
+  void UnlockUpdates() override;
+  void ProcessPendingEvents() override;
+  void Beep() override;
+
+  /// Asks the forms on show to close, the newest first, until one refuses. Closes none while a dialog without
+  /// a close box is open: what waits for the operator's answer would take the closing for one. True when all
+  /// are closed.
+  [[nodiscard]] bool CloseForms();
+
+ private:
+  FormLayouts layouts_;
+  std::vector<std::weak_ptr<QtForm>> forms_;
+  QPointer<QWidget> locked_;
+  QObject context_;
+};
+
+}  // namespace ferrowind::qt

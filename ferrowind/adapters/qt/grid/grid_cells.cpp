@@ -1,0 +1,103 @@
+#include "ferrowind/adapters/qt/grid/grid_cells.h"
+
+#include <QLocale>
+
+#include "ferrowind/adapters/grid_engine/value_order.h"
+#include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::qt {
+
+using grid_engine::Record;
+using platform::Value;
+
+namespace {
+
+const Value& NoValue() {
+  static const Value none;
+  return none;
+}
+
+}  // namespace
+
+QString LocalizedText(const Value& value) {
+  if (const auto* text = value.If<std::string>()) return ToQt(*text);
+  if (const auto* date = value.If<platform::Date>())
+    return QLocale().toString(ToQt(*date), QLocale::ShortFormat);
+  if (const auto* fraction = value.If<double>()) {
+    return QLocale().toString(*fraction, 'g', QLocale::FloatingPointShortest);
+  }
+  if (value.IsEmpty() || value.IsObject()) return {};
+  return ToQt(platform::ToText(value));
+}
+
+GridCells::GridCells(std::string grid_name, const GridColumns& columns)
+    : grid_name_(std::move(grid_name)),
+      columns_(columns),
+      computed_([this](Record record, std::int16_t column, Value& receiver) {
+        if (is_muted_) return;
+        RunGuarded(grid_name_, [&] { unbound_value_.Emit(BookmarkOf(record), column, receiver); });
+      }) {}
+
+void GridCells::Attach(std::shared_ptr<platform::RecordSet> records) {
+  computed_.Forget();
+  records_ = std::move(records);
+  bookmarks_.clear();
+  record_count_ = records_ == nullptr ? 0 : static_cast<std::uint32_t>(records_->RowCount());
+  if (record_count_ > 0 && !records_->Filter().empty()) {
+    bookmarks_.reserve(record_count_);
+    for (std::uint32_t i = 0; i < record_count_; ++i) bookmarks_.push_back(records_->BookmarkAt(i));
+  }
+  BindFields();
+}
+
+void GridCells::BindFields() {
+  fields_.assign(static_cast<std::size_t>(columns_.Count()), std::nullopt);
+  if (records_ == nullptr) return;
+  for (std::int32_t index = 1; index <= columns_.Count(); ++index) {
+    fields_[static_cast<std::size_t>(index) - 1] = records_->FindField(columns_[index].BoundField());
+  }
+}
+
+const Value& GridCells::KeyValue(std::int16_t column, Record record) const {
+  if (columns_[column].Unbound()) return computed_.ValueOf(record, column);
+  const auto place = static_cast<std::size_t>(column) - 1;
+  if (place >= fields_.size() || !fields_[place]) return NoValue();
+  return records_->Cell(BookmarkOf(record), *fields_[place]);
+}
+
+QString GridCells::TextOfValue(std::int16_t column, const Value& value) const {
+  if (const QtGridValueList* values = columns_[column].Values()) {
+    if (const std::string* text = values->Find(value)) return ToQt(*text);
+  }
+  return LocalizedText(value);
+}
+
+bool GridCells::ShowsNumber(std::int16_t column, Record record) const {
+  return !columns_[column].HasValueList() &&
+         grid_engine::KindOf(KeyValue(column, record)) == grid_engine::ValueKind::kNumber;
+}
+
+QString GridCells::ShownText(std::int16_t column, Record record) const {
+  QString shown = TextOfValue(column, KeyValue(column, record));
+  if (!has_cell_text_handlers_ || is_muted_) return shown;
+  std::string text = FromQt(shown);
+  RunGuarded(grid_name_, [&] { cell_text_.Emit(BookmarkOf(record), column, text); });
+  return ToQt(text);
+}
+
+platform::Subscription GridCells::OnUnboundValue(
+    std::function<void(Bookmark, std::int16_t, Value&)> handler) {
+  // What nobody answered before may have an answer now.
+  ForgetComputed();
+  return unbound_value_.Subscribe(std::move(handler));
+}
+
+platform::Subscription GridCells::OnCellText(
+    std::function<void(Bookmark, std::int16_t, std::string&)> handler) {
+  has_cell_text_handlers_ = true;
+  return cell_text_.Subscribe(std::move(handler));
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace ferrowind::qt {
+
+/// The colours that a grid is painted in, made from the palette of its widget.
+struct GridColors {
+  explicit GridColors(const QPalette& palette);
+
+  bool is_dark = false;
+  bool is_enabled = true;
+  QColor base;
+  QColor alternate;
+  QColor text;
+  /// For what accompanies: captions and counts of groups, numbers of sort keys.
+  QColor muted;
+  QColor line;
+  QColor accent;
+  QColor selected;
+  QColor current;
+  QColor group;
+  QColor header;
+  QColor header_pressed;
+  QColor header_line;
+};
+
+/// Between the two colours, `share` of the way from `from` to `to`.
+[[nodiscard]] QColor Blend(const QColor& from, const QColor& to, double share);
+
+/// How well one colour is read on the other: 1 (not at all) to 21, as WCAG 2 defines the contrast ratio.
+[[nodiscard]] double Contrast(const QColor& left, const QColor& right);
+
+/// `color` as it is where it can be read on `background`, else the nearest lighter or darker shade of its hue
+/// that can.
+[[nodiscard]] QColor ReadableOn(const QColor& background, const QColor& color);
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,60 @@
+#include "ferrowind/adapters/qt/grid/grid_columns.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::qt {
+
+using platform::Failure;
+namespace failure_number = platform::failure_number;
+
+namespace {
+
+constexpr std::int32_t kTextColumn = 0;
+constexpr std::int32_t kNotEdited = 1;
+
+}  // namespace
+
+void GridColumns::RequireAddable(std::int32_t type, std::int32_t edit_type, const std::string& key) const {
+  if (type != kTextColumn || edit_type != kNotEdited) throw platform::InvalidArgument();
+  if (Find(key) != nullptr) {
+    throw Failure(failure_number::kKeyNotUnique,
+                  "The grid " + grid_name_ + " has a column " + key + " already");
+  }
+}
+
+QtGridColumn& GridColumns::Add(const std::string& caption, const std::string& key) {
+  const auto index = static_cast<std::int16_t>(columns_.size() + 1);
+  columns_.push_back(std::make_unique<QtGridColumn>(listener_, index, key, caption));
+  return *columns_.back();
+}
+
+QtGridColumn* GridColumns::Find(const std::string& key) const {
+  const std::string folded = platform::FoldCase(key);
+  const auto found = std::find_if(columns_.begin(), columns_.end(), [&](const auto& column) {
+    return platform::FoldCase(column->Key()) == folded;
+  });
+  return found == columns_.end() ? nullptr : found->get();
+}
+
+QtGridColumn& GridColumns::ByKey(const std::string& key) const {
+  if (QtGridColumn* column = Find(key)) return *column;
+  throw Failure(failure_number::kElementNotFound, "The grid " + grid_name_ + " has no column " + key);
+}
+
+QtGridColumn& GridColumns::At(std::int32_t index) const {
+  if (index < 1 || index > Count()) throw platform::SubscriptOutOfRange();
+  return *columns_[static_cast<std::size_t>(index) - 1];
+}
+
+void GridColumns::DropUnheld() {
+  const auto first_dropped = columns_.begin() + static_cast<std::ptrdiff_t>(held_count_);
+  std::move(first_dropped, columns_.end(), std::back_inserter(dropped_));
+  columns_.erase(first_dropped, columns_.end());
+  held_count_ = 0;
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ferrowind/adapters/qt/grid/qt_grid_column.h"
+
+namespace ferrowind::qt {
+
+/// The columns of a grid in the order of adding.
+class GridColumns {
+ public:
+  GridColumns(std::string grid_name, QtGridColumn::Listener listener)
+      : grid_name_(std::move(grid_name)), listener_(std::move(listener)) {}
+
+  /// Throws the failure of `platform::Grid` that such a column cannot be added for.
+  void RequireAddable(std::int32_t type, std::int32_t edit_type, const std::string& key) const;
+  /// Precondition: `RequireAddable`.
+  QtGridColumn& Add(const std::string& caption, const std::string& key);
+  [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(columns_.size()); }
+  [[nodiscard]] QtGridColumn& ByKey(const std::string& key) const;
+  /// Null when there is none.
+  [[nodiscard]] QtGridColumn* Find(const std::string& key) const;
+  [[nodiscard]] QtGridColumn& At(std::int32_t index) const;
+  /// Precondition: there is a column of that 1-based index.
+  [[nodiscard]] const QtGridColumn& operator[](std::int32_t index) const {
+    return *columns_[static_cast<std::size_t>(index) - 1];
+  }
+
+  /// The columns of now survive the next `DropUnheld`, which takes the hold off.
+  void Hold() { held_count_ = columns_.size(); }
+  void DropUnheld();
+
+ private:
+  std::string grid_name_;
+  QtGridColumn::Listener listener_;
+  std::vector<std::unique_ptr<QtGridColumn>> columns_;
+  /// Kept, since a column lives as long as its grid.
+  std::vector<std::unique_ptr<QtGridColumn>> dropped_;
+  std::size_t held_count_ = 0;
+};
+
+}  // namespace ferrowind::qt

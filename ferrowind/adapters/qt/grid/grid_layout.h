@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ferrowind::qt {
+
+/// What an operator made of a grid's columns, told by column keys.
+struct GridLayout {
+  struct Column {
+    std::string key;
+    /// In device-independent pixels.
+    int width = 0;
+    bool is_visible = true;
+  };
+  struct Key {
+    std::string column_key;
+    std::int32_t sort_order = 0;
+  };
+
+  /// From left to right.
+  std::vector<Column> columns;
+  std::vector<Key> sort_keys;
+  std::vector<Key> group_keys;
+};
+
+/// The layout as text, for a setting.
+[[nodiscard]] std::string EncodeLayout(const GridLayout& layout);
+/// Reads what `EncodeLayout` wrote. Nothing for any other text, for a column named twice, and for widths and
+/// orders that no grid has.
+[[nodiscard]] std::optional<GridLayout> DecodeLayout(const std::string& text);
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,79 @@
+#include "ferrowind/adapters/qt/grid/text_cache.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+namespace ferrowind::qt {
+
+namespace {
+
+/// More texts than a large screen shows in its cells; beyond it the oldest are not worth finding.
+constexpr std::size_t kMostLayouts = 8192;
+/// No cell is wide enough to show more, and laying out a text of megabytes would stall the painting.
+constexpr qsizetype kMostCharacters = 1000;
+
+QString SingleLine(const QString& text) {
+  QString line = text.left(kMostCharacters);
+  for (QChar& character : line) {
+    if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+        character == QChar::ParagraphSeparator) {
+      character = QLatin1Char(' ');
+    }
+  }
+  return line;
+}
+
+}  // namespace
+
+TextCache::TextCache(const QFont& font) : metrics_(font), bold_metrics_(font) { SetFont(font); }
+
+void TextCache::SetFont(const QFont& font) {
+  for (unsigned char style = 0; style < 4; ++style) {
+    fonts_[style] = font;
+    if ((style & kBold) != 0) fonts_[style].setBold(true);
+    if ((style & kStruckThrough) != 0) fonts_[style].setStrikeOut(true);
+  }
+  metrics_ = QFontMetrics(fonts_[kPlain]);
+  bold_metrics_ = QFontMetrics(fonts_[kBold]);
+  layouts_.clear();
+  widths_.clear();
+}
+
+int TextCache::WidthOf(const QString& text, unsigned char style) const {
+  if (text.isEmpty()) return 0;
+  const Key key{text, 0, style};
+  const auto known = widths_.find(key);
+  if (known != widths_.end()) return known->second;
+  if (widths_.size() >= kMostLayouts) widths_.clear();
+  const QFontMetrics& metrics = (style & kBold) != 0 ? bold_metrics_ : metrics_;
+  return widths_.emplace(key, metrics.horizontalAdvance(SingleLine(text))).first->second;
+}
+
+const TextCache::Layout& TextCache::LayoutOf(const QString& text, int width, unsigned char style) {
+  const Key key{text, width, style};
+  const auto known = layouts_.find(key);
+  if (known != layouts_.end()) return known->second;
+  if (layouts_.size() >= kMostLayouts) layouts_.clear();
+  const QFontMetrics& metrics = (style & kBold) != 0 ? bold_metrics_ : metrics_;
+  const QString elided = metrics.elidedText(SingleLine(text), Qt::ElideRight, width);
+  Layout layout{QStaticText(elided), metrics.horizontalAdvance(elided)};
+  layout.text.setTextFormat(Qt::PlainText);
+  layout.text.setPerformanceHint(QStaticText::AggressiveCaching);
+  layout.text.prepare(QTransform(), FontOf(style));
+  return layouts_.emplace(key, std::move(layout)).first->second;
+}
+
+int TextCache::Draw(QPainter& painter, const QRect& area, Qt::AlignmentFlag alignment, const QString& text,
+                    unsigned char style) {
+  if (text.isEmpty() || area.width() <= 0) return 0;
+  const Layout& layout = LayoutOf(text, area.width(), style);
+  painter.setFont(FontOf(style));
+  const int free = area.width() - layout.width;
+  const int left = area.left() + (alignment == Qt::AlignRight ? std::max(free, 0) : 0);
+  const int top = area.top() + (area.height() - metrics_.height()) / 2;
+  painter.drawStaticText(left, top, layout.text);
+  return std::min(layout.width, area.width());
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,242 @@
+#include "ferrowind/adapters/qt/grid/uniform_table_view.h"
+
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace ferrowind::qt {
+
+UniformTableView::UniformTableView(QWidget* parent) : QTableView(parent) {
+  verticalHeader()->hide();
+  // The button between the headers is laid out, and hidden, by a step of the base class that is replaced
+  // here.
+  if (auto* corner = findChild<QAbstractButton*>()) corner->hide();
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+}
+
+void UniformTableView::setModel(QAbstractItemModel* model) {
+  disconnect(rows_removed_);
+  QTableView::setModel(model);
+  verticalHeader()->setModel(&no_rows_);
+  if (model != nullptr) {
+    rows_removed_ =
+        connect(model, &QAbstractItemModel::rowsRemoved, this, &UniformTableView::RowCountChanged);
+  }
+}
+
+void UniformTableView::reset() {
+  QTableView::reset();
+  updateGeometries();
+}
+
+void UniformTableView::SetRowHeight(int height) {
+  row_height_ = std::max(height, 1);
+  RowCountChanged();
+}
+
+void UniformTableView::RowCountChanged() {
+  updateGeometries();
+  viewport()->update();
+}
+
+void UniformTableView::rowsInserted(const QModelIndex& parent, int first, int last) {
+  QTableView::rowsInserted(parent, first, last);
+  RowCountChanged();
+}
+
+// Places
+
+int UniformTableView::RowCount() const { return model() == nullptr ? 0 : model()->rowCount(); }
+int UniformTableView::FirstRow() const { return verticalScrollBar()->value(); }
+int UniformTableView::RowsPerPage() const { return std::max(viewport()->height() / row_height_, 1); }
+int UniformTableView::TopOf(int row) const { return (row - FirstRow()) * row_height_; }
+
+int UniformTableView::UnboundRowAt(int y) const {
+  const int rows = y >= 0 ? y / row_height_ : -((row_height_ - 1 - y) / row_height_);
+  return FirstRow() + rows;
+}
+
+int UniformTableView::RowAt(int y) const {
+  const int row = UnboundRowAt(y);
+  return row >= 0 && row < RowCount() ? row : -1;
+}
+
+// Offsets are those of scrolling, by which the base keeps track of where a press was: they need not be exact
+// far down.
+int UniformTableView::verticalOffset() const {
+  constexpr int kFarthest = 1 << 30;
+  return FirstRow() < kFarthest / row_height_ ? FirstRow() * row_height_ : kFarthest;
+}
+
+QRect UniformTableView::visualRect(const QModelIndex& index) const {
+  if (!index.isValid() || isColumnHidden(index.column())) return {};
+  // Rows far outside the viewport are told as just outside it: their places in pixels would overflow.
+  const int row = std::clamp(index.row(), FirstRow() - 100000, FirstRow() + 100000);
+  return {columnViewportPosition(index.column()), TopOf(row), columnWidth(index.column()), row_height_};
+}
+
+QModelIndex UniformTableView::indexAt(const QPoint& point) const {
+  const int row = RowAt(point.y());
+  const int column = columnAt(point.x());
+  if (row < 0 || column < 0) return {};
+  return model()->index(row, column);
+}
+
+bool UniformTableView::isIndexHidden(const QModelIndex& index) const {
+  return isColumnHidden(index.column());
+}
+
+QRegion UniformTableView::visualRegionForSelection(const QItemSelection& selection) const {
+  return selection.isEmpty() ? QRegion() : QRegion(viewport()->rect());
+}
+
+// Scrolling
+
+void UniformTableView::updateGeometries() {
+  // Margins and scroll bars change the viewport, which leads here again.
+  if (updates_geometries_) return;
+  const QScopedValueRollback<bool> updating(updates_geometries_, true);
+  QHeaderView* header = horizontalHeader();
+  const int header_height = header->isHidden() ? 0 : header->sizeHint().height();
+  setViewportMargins(0, header_height, 0, 0);
+  const QRect area = viewport()->geometry();
+  header->setGeometry(area.left(), area.top() - header_height, area.width(), header_height);
+
+  const int width = viewport()->width();
+  horizontalScrollBar()->setPageStep(width);
+  horizontalScrollBar()->setSingleStep(std::max(width / 20, 8));
+  horizontalScrollBar()->setRange(0, std::max(header->length() - width, 0));
+  verticalScrollBar()->setPageStep(RowsPerPage());
+  verticalScrollBar()->setSingleStep(1);
+  verticalScrollBar()->setRange(0, std::max(RowCount() - RowsPerPage(), 0));
+  QAbstractItemView::updateGeometries();
+}
+
+void UniformTableView::scrollContentsBy(int dx, int /*dy*/) {
+  if (dx != 0) horizontalHeader()->setOffset(horizontalScrollBar()->value());
+  viewport()->update();
+}
+
+void UniformTableView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  if (!index.isValid()) return;
+  const int last_full = FirstRow() + RowsPerPage() - 1;
+  if (hint == PositionAtTop || (hint == EnsureVisible && index.row() < FirstRow())) {
+    verticalScrollBar()->setValue(index.row());
+  } else if (hint == PositionAtBottom || (hint == EnsureVisible && index.row() > last_full)) {
+    verticalScrollBar()->setValue(index.row() - RowsPerPage() + 1);
+  } else if (hint == PositionAtCenter) {
+    verticalScrollBar()->setValue(index.row() - RowsPerPage() / 2);
+  }
+  if (isColumnHidden(index.column())) return;
+  const int left = columnViewportPosition(index.column());
+  const int width = columnWidth(index.column());
+  const bool is_wider = width > viewport()->width();
+  const int direction = isRightToLeft() ? -1 : 1;
+  if (left < 0 || is_wider) {
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + direction * left);
+  } else if (left + width > viewport()->width()) {
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
+                                    direction * (left + width - viewport()->width()));
+  }
+}
+
+// Keys and selection
+
+int UniformTableView::FirstColumnFrom(int visual, int step) const {
+  const QHeaderView* header = horizontalHeader();
+  for (; visual >= 0 && visual < header->count(); visual += step) {
+    const int column = header->logicalIndex(visual);
+    if (!header->isSectionHidden(column)) return column;
+  }
+  return -1;
+}
+
+int UniformTableView::NextColumn(int column, int step) const {
+  const int next = FirstColumnFrom(horizontalHeader()->visualIndex(column) + step, step);
+  return next < 0 ? column : next;
+}
+
+QModelIndex UniformTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  const int rows = RowCount();
+  const QHeaderView* header = horizontalHeader();
+  if (rows == 0 || header->count() == header->hiddenSectionCount()) return {};
+  const int first_column = FirstColumnFrom(0, 1);
+  const int last_column = FirstColumnFrom(header->count() - 1, -1);
+  const QModelIndex current = currentIndex();
+  if (!current.isValid()) return model()->index(0, first_column);
+
+  const bool is_far = modifiers.testFlag(Qt::ControlModifier);
+  const int step = isRightToLeft() ? -1 : 1;
+  int row = current.row();
+  int column = current.column();
+  switch (action) {
+    case MoveUp:
+      row = is_far ? 0 : row - 1;
+      break;
+    case MoveDown:
+      row = is_far ? rows - 1 : row + 1;
+      break;
+    case MovePageUp:
+      row -= RowsPerPage();
+      break;
+    case MovePageDown:
+      row += RowsPerPage();
+      break;
+    case MoveLeft:
+      column = NextColumn(column, -step);
+      break;
+    case MoveRight:
+      column = NextColumn(column, step);
+      break;
+    case MovePrevious:
+      column = NextColumn(column, -1);
+      break;
+    case MoveNext:
+      column = NextColumn(column, 1);
+      break;
+    case MoveHome:
+      if (is_far) row = 0;
+      column = first_column;
+      break;
+    case MoveEnd:
+      if (is_far) row = rows - 1;
+      column = last_column;
+      break;
+  }
+  return model()->index(std::clamp(row, 0, rows - 1), column);
+}
+
+QItemSelectionModel::SelectionFlags UniformTableView::selectionCommand(const QModelIndex& index,
+                                                                       const QEvent* event) const {
+  if (selectionMode() == ExtendedSelection && event != nullptr && event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    const bool is_to_an_end = key->key() == Qt::Key_Home || key->key() == Qt::Key_End ||
+                              key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
+    // The base takes Ctrl as "move, select nothing" even together with Shift.
+    if (is_to_an_end && key->modifiers().testFlag(Qt::ShiftModifier)) {
+      return QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows;
+    }
+  }
+  return QTableView::selectionCommand(index, event);
+}
+
+void UniformTableView::setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) {
+  const int rows = RowCount();
+  const int columns = model() == nullptr ? 0 : model()->columnCount();
+  if (rows == 0 || columns == 0) return;
+  const int first = UnboundRowAt(std::min(area.top(), area.bottom()));
+  const int last = UnboundRowAt(std::max(area.top(), area.bottom()));
+  QItemSelection selection;
+  if (first < rows && last >= 0) {
+    selection.select(model()->index(std::max(first, 0), 0),
+                     model()->index(std::min(last, rows - 1), columns - 1));
+  }
+  selectionModel()->select(selection, command);
+}
+
+}  // namespace ferrowind::qt

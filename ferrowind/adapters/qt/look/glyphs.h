@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ferrowind/adapters/qt/look/glyph.h"
+
+namespace ferrowind::qt {
+
+[[nodiscard]] Glyph RefreshGlyph();
+[[nodiscard]] Glyph NewCalendarGlyph();
+[[nodiscard]] Glyph ExpandTreeGlyph();
+[[nodiscard]] Glyph CollapseTreeGlyph();
+[[nodiscard]] Glyph GroupHeaderGlyph();
+[[nodiscard]] Glyph ExpandRowsGlyph();
+[[nodiscard]] Glyph CollapseRowsGlyph();
+[[nodiscard]] Glyph ExpandSelectionGlyph();
+[[nodiscard]] Glyph CopyGlyph();
+[[nodiscard]] Glyph AssignOneGlyph();
+[[nodiscard]] Glyph AssignManyGlyph();
+[[nodiscard]] Glyph ExceptGlyph();
+[[nodiscard]] Glyph ExceptWithTextGlyph();
+[[nodiscard]] Glyph CurrencyGlyph();
+[[nodiscard]] Glyph CalendarGlyph();
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,95 @@
+#include "ferrowind/adapters/qt/look/line_icon.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <utility>
+
+namespace ferrowind::qt {
+namespace {
+
+constexpr qreal kUnits = 24;
+constexpr qreal kLineWidth = 1.6;
+/// Below this a line would look grey rather than thin.
+constexpr qreal kThinnestPixels = 1.25;
+/// Of one icon, in all its sizes and modes.
+constexpr std::size_t kMostPixmaps = 32;
+
+struct Colors {
+  QColor line;
+  QColor accent;
+};
+
+Colors ColorsOf(QIcon::Mode mode) {
+  const QPalette palette = QGuiApplication::palette();
+  if (mode == QIcon::Disabled) {
+    const QColor faint = palette.color(QPalette::Disabled, QPalette::ButtonText);
+    return {faint, faint};
+  }
+  if (mode == QIcon::Selected) {
+    const QColor on_selection = palette.color(QPalette::Active, QPalette::HighlightedText);
+    return {on_selection, on_selection};
+  }
+  return {palette.color(QPalette::Active, QPalette::ButtonText),
+          palette.color(QPalette::Active, QPalette::Link)};
+}
+
+class LineIconEngine : public QIconEngine {
+ public:
+  explicit LineIconEngine(Glyph (*glyph)()) : make_glyph_(glyph), glyph_(glyph()) {}
+
+  [[nodiscard]] QIconEngine* clone() const override { return new LineIconEngine(make_glyph_); }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
+    const Colors colors = ColorsOf(mode);
+    const qreal side = std::min(rect.width(), rect.height());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(QRectF(rect).center() - QPointF(side / 2, side / 2));
+    painter->scale(side / kUnits, side / kUnits);
+    Draw(*painter, glyph_.lines, glyph_.solids, colors.line, side);
+    Draw(*painter, glyph_.accent_lines, glyph_.accent_solids, colors.accent, side);
+    painter->restore();
+  }
+
+  [[nodiscard]] QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    // Views ask for the same few pixmaps with every row that they paint.
+    if (const qint64 palette = QGuiApplication::palette().cacheKey(); palette != drawn_for_palette_) {
+      drawn_.clear();
+      drawn_for_palette_ = palette;
+    }
+    if (drawn_.size() > kMostPixmaps) drawn_.clear();
+    QPixmap& drawn = drawn_[{size.width(), size.height(), mode}];
+    if (drawn.isNull()) {
+      drawn = QPixmap(size);
+      drawn.fill(Qt::transparent);
+      QPainter painter(&drawn);
+      paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+    }
+    return drawn;
+  }
+
+ private:
+  static void Draw(QPainter& painter, const QPainterPath& lines, const QPainterPath& solids,
+                   const QColor& color, qreal side) {
+    const qreal width = std::max(kLineWidth, kThinnestPixels * kUnits / side);
+    painter.strokePath(lines, QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(solids, color);
+  }
+
+  Glyph (*make_glyph_)();
+  Glyph glyph_;
+  /// By width, height and mode.
+  std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> drawn_;
+  qint64 drawn_for_palette_ = 0;
+};
+
+}  // namespace
+
+QIcon LineIcon(Glyph (*glyph)()) { return QIcon(new LineIconEngine(glyph)); }
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,54 @@
+#include "ferrowind/adapters/qt/services/message_box.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "ferrowind/adapters/qt/services/application_end.h"
+
+namespace ferrowind::qt {
+namespace {
+
+constexpr qsizetype kLongestShown = 1200;
+
+void SetTexts(QMessageBox& box, const Message& message) {
+  box.setWindowTitle(message.title);
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  const bool is_long = message.text.size() > kLongestShown;
+  box.setText(is_long ? message.text.left(kLongestShown) + QChar(0x2026) : message.text);
+  if (is_long) box.setDetailedText(message.text);
+}
+
+void AddCopyButton(QMessageBox& box, const QString& text) {
+  const auto copy_text = [text] { QApplication::clipboard()->setText(text); };
+  QPushButton* copy = box.addButton(QMessageBox::tr("&Copy"), QMessageBox::ActionRole);
+  copy->setObjectName(QStringLiteral("cmdCopy"));
+  copy->setAutoDefault(false);
+  // The box's own connection would answer the message.
+  QObject::disconnect(copy, &QPushButton::clicked, nullptr, nullptr);
+  QObject::connect(copy, &QPushButton::clicked, &box, copy_text);
+  QObject::connect(new QShortcut(QKeySequence::Copy, &box), &QShortcut::activated, &box, copy_text);
+}
+
+}  // namespace
+
+void ShowMessageBox(const Message& message) {
+  if (IsApplicationEnding()) return;
+  QMessageBox box(message.owner != nullptr ? message.owner : QApplication::activeWindow());
+  box.setObjectName(QStringLiteral("fmSharedMessage"));
+  box.setIcon(message.is_error ? QMessageBox::Critical : QMessageBox::Information);
+  SetTexts(box, message);
+  AddCopyButton(box, message.text);
+  QPushButton* ok = box.addButton(QMessageBox::Ok);
+  ok->setText(QStringLiteral("&Ok"));
+  box.setDefaultButton(ok);
+  box.setEscapeButton(ok);
+  box.setWindowFlag(Qt::WindowStaysOnTopHint, message.is_on_top);
+  box.setWindowModality(message.is_modal ? Qt::ApplicationModal : Qt::NonModal);
+  box.exec();
+}
+
+}  // namespace ferrowind::qt

@@ -1,0 +1,19 @@
+#include "ferrowind/adapters/qt/services/qt_locale.h"
+
+#include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::qt {
+
+std::string QtLocale::MonthName(int month) const {
+  if (month < 1 || month > 12) throw platform::InvalidArgument();
+  return FromQt(locale_.standaloneMonthName(month, QLocale::LongFormat));
+}
+
+std::string QtLocale::WeekdayName(int weekday) const {
+  if (weekday < 1 || weekday > 7) throw platform::InvalidArgument();
+  // Qt counts from Monday and has Sunday as 7.
+  return FromQt(locale_.standaloneDayName(weekday == 1 ? 7 : weekday - 1, QLocale::LongFormat));
+}
+
+}  // namespace ferrowind::qt

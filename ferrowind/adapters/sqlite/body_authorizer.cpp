@@ -1,0 +1,60 @@
+#include "ferrowind/adapters/sqlite/body_authorizer.h"
+
+#include <string_view>
+
+#include <sqlite3.h>
+
+#include "ferrowind/platform/values/case_fold.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+bool IsOneOf(const char* name, std::string_view first, std::string_view second) {
+  return platform::CompareIgnoringCase(name, first) == 0 || platform::CompareIgnoringCase(name, second) == 0;
+}
+
+/// The schema itself and the procedures are not data.
+bool IsDataTable(const char* table) {
+  const std::string_view name(table);
+  return platform::CompareIgnoringCase(name.substr(0, 7), "sqlite_") != 0 &&
+         !IsOneOf(table, "ProcedureCatalogue", "ProcedureParameter");
+}
+
+int AuthorizeReading(void* /*context*/, int action, const char* /*first*/, const char* second,
+                     const char* /*schema*/, const char* /*trigger*/) {
+  switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_RECURSIVE:
+      return SQLITE_OK;
+    case SQLITE_FUNCTION:
+      return IsOneOf(second, "load_extension", "fts3_tokenizer") ? SQLITE_DENY : SQLITE_OK;
+    default:
+      return SQLITE_DENY;
+  }
+}
+
+int AuthorizeWriting(void* context, int action, const char* first, const char* second, const char* schema,
+                     const char* trigger) {
+  switch (action) {
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+      return IsDataTable(first) ? SQLITE_OK : SQLITE_DENY;
+    default:
+      return AuthorizeReading(context, action, first, second, schema, trigger);
+  }
+}
+
+}  // namespace
+
+BodyAuthorizer::BodyAuthorizer(const DatabaseHandle& database, bool may_write) : database_(database) {
+  if (sqlite3_set_authorizer(database_.Get(), may_write ? AuthorizeWriting : AuthorizeReading, nullptr) !=
+      SQLITE_OK) {
+    throw database_.LastFailure();
+  }
+}
+
+BodyAuthorizer::~BodyAuthorizer() { sqlite3_set_authorizer(database_.Get(), nullptr, nullptr); }
+
+}  // namespace ferrowind::sqlite

@@ -1,0 +1,169 @@
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <sqlite3.h>
+
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/delivered_schema.h"
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/transaction.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+using sql_script::ProcedureDefinition;
+
+/// A question to the data whose every row is a problem, told in the row's single text.
+constexpr std::string_view kDataProblems[] = {
+    "WITH Type (TID1) AS (VALUES (1), (2), (3), (4))"
+    " SELECT 'The holiday type ' || TID1 || ' is missing' FROM Type"
+    " WHERE TID1 NOT IN (SELECT TID1 FROM CldHolidayType)",
+
+    "SELECT 'The built-in rule 1, a rule of type 1, is missing'"
+    " WHERE NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = 1 AND TID1 = 1)",
+
+    "SELECT 'CldSetting has ' || count(*) || ' rows instead of one' FROM CldSetting HAVING count(*) <> 1",
+
+    "SELECT 'The calendar ' || ID1 || ' of ' || Year1 || ' is of no currency' FROM CldCalendar"
+    " WHERE ID1 NOT IN (SELECT CcyID FROM DicCcy WHERE CcyType = 0)",
+
+    "SELECT 'The calendar ' || c.ID1 || ' of ' || c.Year1 || ' has ' || count(d.Day1) || ' days instead of '"
+    "  || CAST(strftime('%j', c.Year1 || '-12-31') AS INTEGER)"
+    " FROM CldCalendar c LEFT JOIN CldDay d ON d.ID1 = c.ID1 AND d.Year1 = c.Year1 GROUP BY c.ID1, c.Year1"
+    " HAVING count(d.Day1) <> CAST(strftime('%j', c.Year1 || '-12-31') AS INTEGER)",
+
+    "SELECT 'The day ' || d.Day1 || ' of ' || d.Year1 || ' is of a calendar ' || d.ID1 || ' that does not "
+    "exist'"
+    " FROM CldDay d LEFT JOIN CldCalendar c ON c.ID1 = d.ID1 AND c.Year1 = d.Year1 WHERE c.ID1 IS NULL",
+
+    "SELECT 'The day ' || Day1 || ' of the calendar ' || ID1 || ' of ' || Year1 || ' has the date ' || ODate"
+    " FROM CldDay"
+    " WHERE ODate IS NOT date(Year1 || '-01-01', (Day1 - 1) || ' days') OR substr(ODate, 1, 4) <> Year1 || "
+    "''",
+
+    "SELECT 'The day ' || d.Day1 || ' of the calendar ' || d.ID1 || ' of ' || d.Year1 || ' has the type ' || "
+    "d.TID1 ||"
+    "  CASE WHEN d.ID2 IS NULL THEN ' without a rule'"
+    "    WHEN h.ID2 IS NULL THEN ' and the rule ' || d.ID2 || ', which does not exist'"
+    "    ELSE ' and the rule ' || d.ID2 || ' of type ' || h.TID1 END"
+    " FROM CldDay d LEFT JOIN CldHoliday h ON h.ID2 = d.ID2"
+    " WHERE CASE WHEN d.ID2 IS NULL THEN d.TID1 <> 1 ELSE h.TID1 IS NOT d.TID1 END",
+
+    "SELECT 'The table ' || \"table\" || ' has a row that refers to a missing row of ' || parent"
+    " FROM pragma_foreign_key_check",
+
+    "SELECT 'The file is damaged: ' || integrity_check FROM pragma_integrity_check WHERE integrity_check <> "
+    "'ok'",
+};
+
+class Check {
+ public:
+  explicit Check(const std::string& path)
+      : database_(path), catalogue_(database_), delivered_(DatabaseHandle::InMemory()) {
+    FillWithDeliveredSchema(delivered_);
+  }
+
+  std::vector<std::string> Run() {
+    const Transaction transaction(database_, Transaction::Kind::kReading);
+    Try([&] { CompareNumber("application_id", "mark"); });
+    Try([&] { CompareNumber("user_version", "schema version"); });
+    Try([&] { CompareSchema(); });
+    for (const auto& procedure : DeliveredProcedures()) Try([&] { CompareProcedure(procedure); });
+    for (const auto question : kDataProblems) Try([&] { AskForProblems(question); });
+    return std::move(problems_);
+  }
+
+ private:
+  /// A part of the check that cannot be made is a problem of its own; the others are made nevertheless.
+  template <typename Part>
+  void Try(const Part& part) {
+    try {
+      part();
+    } catch (const platform::Failure& failure) {
+      problems_.push_back(failure.Description());
+    }
+  }
+
+  void CompareNumber(const std::string& pragma, const std::string& name) {
+    const auto number_in = [&](const DatabaseHandle& database) {
+      Statement ask(database, "PRAGMA " + pragma);
+      return ask.Step() ? ask.Integer(0) : 0;
+    };
+    const std::int64_t found = number_in(database_);
+    const std::int64_t expected = number_in(delivered_);
+    if (found == expected) return;
+    problems_.push_back("The database has the " + name + " " + std::to_string(found) +
+                        "; this program's is " + std::to_string(expected));
+  }
+
+  void CompareSchema() {
+    const auto schema_of = [](const DatabaseHandle& database) {
+      Statement list(database,
+                     "SELECT type || ' ' || name, sql FROM sqlite_schema WHERE name NOT GLOB 'sqlite_stat*'");
+      std::map<std::string, std::string> schema;
+      while (list.Step()) schema.emplace(list.Text(0), list.Text(1));
+      return schema;
+    };
+    const auto found = schema_of(database_);
+    const auto expected = schema_of(delivered_);
+    for (const auto& [name, sql] : expected) {
+      const auto match = found.find(name);
+      if (match == found.end()) {
+        problems_.push_back("The " + name + " is missing");
+      } else if (match->second != sql) {
+        problems_.push_back("The " + name + " is not this program's");
+      }
+    }
+    for (const auto& [name, sql] : found) {
+      if (!expected.contains(name)) problems_.push_back("The " + name + " does not belong to the schema");
+    }
+  }
+
+  void CompareProcedure(const ProcedureDefinition& expected) {
+    const auto found = catalogue_.Find(expected.name);
+    if (!found) {
+      problems_.push_back("The procedure " + expected.name + " is missing");
+      return;
+    }
+    if (found->writes != expected.writes || found->body != expected.body ||
+        !HasParametersOf(*found, expected)) {
+      problems_.push_back("The procedure " + expected.name + " is not this program's");
+    }
+  }
+
+  static bool HasParametersOf(const ProcedureDefinition& found, const ProcedureDefinition& expected) {
+    if (found.parameters.size() != expected.parameters.size()) return false;
+    for (std::size_t i = 0; i < found.parameters.size(); ++i) {
+      const auto& left = found.parameters[i];
+      const auto& right = expected.parameters[i];
+      if (left.name != right.name || left.position != right.position || left.type != right.type) return false;
+    }
+    return true;
+  }
+
+  void AskForProblems(std::string_view question) {
+    Statement ask(database_, question);
+    while (ask.Step()) problems_.emplace_back(ask.Text(0));
+  }
+
+  DatabaseHandle database_;
+  ProcedureCatalogue catalogue_;
+  DatabaseHandle delivered_;
+  std::vector<std::string> problems_;
+};
+
+}  // namespace
+
+std::vector<std::string> CheckDatabase(const std::string& path) {
+  return platform::WithFailuresOnly([&] { return Check(path).Run(); });
+}
+
+}  // namespace ferrowind::sqlite

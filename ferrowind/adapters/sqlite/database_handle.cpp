@@ -1,0 +1,82 @@
+#include "ferrowind/adapters/sqlite/database_handle.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "ferrowind/adapters/sqlite/name_collation.h"
+#include "ferrowind/adapters/sqlite/sqlite_failure.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+/// Longer texts are refused rather than taken into memory.
+constexpr int kMostBytesOfACell = 64 * 1024 * 1024;
+
+/// The switches of a connection, all of which take effect without looking into the file.
+int Configure(sqlite3* database) {
+  constexpr std::pair<int, int> kSwitches[] = {
+      {SQLITE_DBCONFIG_ENABLE_FKEY, 1},
+      {SQLITE_DBCONFIG_DEFENSIVE, 1},
+      {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+      {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
+      // A name in double quotes that is no column shall be an error, not a text.
+      {SQLITE_DBCONFIG_DQS_DML, 0},
+      {SQLITE_DBCONFIG_DQS_DDL, 0},
+  };
+  for (const auto& [what, value] : kSwitches) {
+    int is_on = 0;
+    const int code = sqlite3_db_config(database, what, value, &is_on);
+    if (code != SQLITE_OK) return code;
+  }
+  sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kMostBytesOfACell);
+  sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
+  return AddNameCollation(database);
+}
+
+}  // namespace
+
+std::string AbsolutePath(const std::string& path) {
+  if (path.empty() || path.find('\0') != std::string::npos) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            path.empty() ? "The path of the database is empty"
+                                         : "The path of the database holds the character NUL");
+  }
+  std::error_code error;
+  const auto absolute = std::filesystem::absolute(path, error);
+  if (error)
+    throw platform::Failure(error.value(), "The path " + path + " is not usable: " + error.message());
+  return absolute.string();
+}
+
+DatabaseHandle::DatabaseHandle(const std::string& path, std::chrono::milliseconds busy_timeout)
+    : path_(AbsolutePath(path)) {
+  // An absolute path is never taken for ":memory:" or a URI with options of its own.
+  Open(path_.c_str(), SQLITE_OPEN_READWRITE, busy_timeout);
+}
+
+DatabaseHandle DatabaseHandle::InMemory() {
+  DatabaseHandle handle;
+  handle.path_ = "in memory";
+  handle.Open(":memory:", SQLITE_OPEN_READWRITE, kBusyTimeout);
+  return handle;
+}
+
+void DatabaseHandle::Open(const char* name, int flags, std::chrono::milliseconds busy_timeout) {
+  sqlite3* database = nullptr;
+  const int code =
+      sqlite3_open_v2(name, &database, flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+  database_.reset(database);
+  if (code != SQLITE_OK) throw LastFailure();
+  if (Configure(database) != SQLITE_OK ||
+      sqlite3_busy_timeout(database, static_cast<int>(busy_timeout.count())) != SQLITE_OK) {
+    throw LastFailure();
+  }
+}
+
+void DatabaseHandle::Execute(const char* sql) {
+  if (sqlite3_exec(Get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) throw LastFailure();
+}
+
+platform::Failure DatabaseHandle::LastFailure() const { return FailureOf(Get(), path_); }
+
+}  // namespace ferrowind::sqlite

@@ -1,0 +1,30 @@
+#include "ferrowind/adapters/sqlite/delivered_schema.h"
+
+#include <string>
+#include <string_view>
+
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+
+#include "database/seed/embedded_sql.h"
+#include "database/sqlite/embedded_sql.h"
+
+namespace ferrowind::sqlite {
+
+std::vector<sql_script::ProcedureDefinition> DeliveredProcedures() {
+  std::vector<sql_script::ProcedureDefinition> procedures;
+  for (const std::string_view source : {embedded::kSqliteCldAllInfo, embedded::kSqliteCldGetMain,
+                                        embedded::kSqliteCldIUMain, embedded::kSqliteCldIUCelebrate}) {
+    procedures.push_back(sql_script::ParseProcedureSource(source));
+  }
+  return procedures;
+}
+
+void FillWithDeliveredSchema(DatabaseHandle& database) {
+  for (const std::string_view script :
+       {embedded::kSqliteSchema, embedded::kBaseData, embedded::kCurrencies}) {
+    database.Execute(std::string(script).c_str());
+  }
+  for (const auto& procedure : DeliveredProcedures()) AddToCatalogue(database, procedure);
+}
+
+}  // namespace ferrowind::sqlite

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "ferrowind/adapters/sql_script/procedure_source.h"
+#include "ferrowind/adapters/sqlite/database_handle.h"
+
+namespace ferrowind::sqlite {
+
+/// The procedures that this program brings.
+[[nodiscard]] std::vector<sql_script::ProcedureDefinition> DeliveredProcedures();
+
+/// Fills the empty `database` with what every calendar database holds: tables, types, the built-in rule, the
+/// setting, currencies, procedures. In the transaction that is open, or one for each statement.
+void FillWithDeliveredSchema(DatabaseHandle& database);
+
+}  // namespace ferrowind::sqlite

@@ -1,0 +1,42 @@
+#include "ferrowind/adapters/sqlite/engine.h"
+
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/engine_connection.h"
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/adapters/sqlite/result_reader.h"
+#include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::sqlite {
+
+std::unique_ptr<platform::Connection> Engine::Connect(const std::string& connection_string) {
+  return platform::WithFailuresOnly([&]() -> std::unique_ptr<platform::Connection> {
+    return std::make_unique<EngineConnection>(PathIn(connection_string), busy_timeout_);
+  });
+}
+
+std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& connection_string,
+                                                            const std::string& name) {
+  return platform::WithFailuresOnly([&] {
+    if (platform::CompareIgnoringCase(name, "Ccy") != 0) {
+      throw platform::Failure(platform::failure_number::kInvalidArgument, "There is no dictionary " + name);
+    }
+    const DatabaseHandle database(PathIn(connection_string), busy_timeout_);
+    const ProcedureCatalogue must_be_a_calendar_database(database);
+    Statement currencies(database, "SELECT CcyID, Ccy, CcyType, Name FROM DicCcy ORDER BY Ccy");
+    return ReadRecordSet(currencies);
+  });
+}
+
+std::string PathIn(const std::string& connection_string) {
+  const std::string prefix = std::string(Engine::kScheme) + ":";
+  if (!connection_string.starts_with(prefix)) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            "The connection string of a database file begins with " + prefix);
+  }
+  return connection_string.substr(prefix.size());
+}
+
+}  // namespace ferrowind::sqlite

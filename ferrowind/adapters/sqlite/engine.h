@@ -1,0 +1,36 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include "ferrowind/adapters/sqlite/busy_timeout.h"
+#include "ferrowind/platform/database/engine.h"
+
+namespace ferrowind::sqlite {
+
+/// The engine of calendar databases that are SQLite files: connection strings "sqlite:PATH", PATH absolute or
+/// relative to the current folder. The files are made by `CreateDatabase` (database_file.h).
+///
+/// Every connection is a new one. Failures carry SQLite's extended result code as their number, and name the
+/// file.
+class Engine : public platform::Engine {
+ public:
+  /// The scheme of its connection strings.
+  static constexpr const char* kScheme = "sqlite";
+
+  /// A call waits up to `busy_timeout` for another program to release the database.
+  explicit Engine(std::chrono::milliseconds busy_timeout = kBusyTimeout) : busy_timeout_(busy_timeout) {}
+
+  [[nodiscard]] std::unique_ptr<platform::Connection> Connect(const std::string& connection_string) override;
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
+                                                                    const std::string& name) override;
+
+ private:
+  std::chrono::milliseconds busy_timeout_;
+};
+
+/// The path in a connection string "sqlite:PATH"; another scheme is a failure.
+[[nodiscard]] std::string PathIn(const std::string& connection_string);
+
+}  // namespace ferrowind::sqlite

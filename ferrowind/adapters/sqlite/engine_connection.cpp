@@ -1,0 +1,53 @@
+#include "ferrowind/adapters/sqlite/engine_connection.h"
+
+#include <utility>
+
+#include "ferrowind/adapters/sqlite/body_authorizer.h"
+#include "ferrowind/adapters/sqlite/procedure_interpreter.h"
+#include "ferrowind/adapters/sqlite/transaction.h"
+#include "ferrowind/platform/database/call_inputs.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+
+namespace ferrowind::sqlite {
+
+using platform::Failure;
+using platform::Value;
+
+EngineConnection::EngineConnection(const std::string& path, std::chrono::milliseconds busy_timeout)
+    : database_(path, busy_timeout), catalogue_(database_) {}
+
+std::vector<platform::ParameterDescription> EngineConnection::DescribeProcedure(
+    const std::string& procedure) {
+  return platform::WithFailuresOnly([&] {
+    LoadProcedure(procedure);
+    return procedure_->parameters;
+  });
+}
+
+platform::CallOutcome EngineConnection::Call(const std::string& procedure, const std::vector<Value>& inputs) {
+  return platform::WithFailuresOnly([&] {
+    if (!procedure_ || asked_name_ != procedure) LoadProcedure(procedure);
+    platform::RefuseWrongInputs(procedure_->name, procedure_->parameters, inputs);
+    Transaction transaction(database_,
+                            procedure_->writes ? Transaction::Kind::kWriting : Transaction::Kind::kReading);
+    platform::CallOutcome outcome;
+    {
+      const BodyAuthorizer authorizer(database_, procedure_->writes);
+      outcome = ProcedureInterpreter(database_, *procedure_, inputs).Run();
+    }
+    if (outcome.return_value == 0) transaction.Commit();
+    return outcome;
+  });
+}
+
+void EngineConnection::LoadProcedure(const std::string& name) {
+  auto found = catalogue_.Find(name);
+  if (!found) {
+    throw Failure(platform::failure_number::kInvalidArgument,
+                  "The database " + database_.Path() + " has no procedure " + name);
+  }
+  procedure_ = std::move(found);
+  asked_name_ = name;
+}
+
+}  // namespace ferrowind::sqlite

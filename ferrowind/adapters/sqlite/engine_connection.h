@@ -1,0 +1,35 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/platform/database/engine.h"
+
+namespace ferrowind::sqlite {
+
+/// A connection to a database file. What it reads of a procedure to describe it, a call right after uses
+/// again.
+class EngineConnection : public platform::Connection {
+ public:
+  EngineConnection(const std::string& path, std::chrono::milliseconds busy_timeout);
+
+  [[nodiscard]] std::vector<platform::ParameterDescription> DescribeProcedure(
+      const std::string& procedure) override;
+  [[nodiscard]] platform::CallOutcome Call(const std::string& procedure,
+                                           const std::vector<platform::Value>& inputs) override;
+
+ private:
+  void LoadProcedure(const std::string& name);
+
+  DatabaseHandle database_;
+  ProcedureCatalogue catalogue_;
+  /// The procedure that was described last, and the name that it was asked for by.
+  std::optional<sql_script::ProcedureDefinition> procedure_;
+  std::string asked_name_;
+};
+
+}  // namespace ferrowind::sqlite

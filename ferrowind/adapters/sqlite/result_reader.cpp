@@ -1,0 +1,96 @@
+#include "ferrowind/adapters/sqlite/result_reader.h"
+
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+using platform::Date;
+using platform::RecordRows;
+using platform::Value;
+
+template <typename Narrow>
+bool Fits(std::int64_t number) {
+  return number >= std::numeric_limits<Narrow>::min() && number <= std::numeric_limits<Narrow>::max();
+}
+
+Value WholeNumber(std::int64_t number, bool is_declared_int16) {
+  if (is_declared_int16 && Fits<std::int16_t>(number)) return static_cast<std::int16_t>(number);
+  if (Fits<std::int32_t>(number)) return static_cast<std::int32_t>(number);
+  return number;
+}
+
+/// In large steps: cells are costly to move, and most results are a year of days or a handful of rows.
+void MakeRoomForRow(std::vector<Value>& cells, std::size_t fields) {
+  constexpr std::size_t kFirstRows = 32;
+  constexpr std::size_t kGrowth = 4;
+  if (cells.capacity() - cells.size() >= fields) return;
+  cells.reserve(cells.empty() ? kFirstRows * fields : cells.capacity() * kGrowth);
+}
+
+}  // namespace
+
+ResultReader::ResultReader(const Statement& statement) : statement_(statement) {
+  const int count = statement.ColumnCount();
+  columns_.reserve(static_cast<std::size_t>(count));
+  for (int column = 0; column < count; ++column) {
+    const char* const declared = sqlite3_column_decltype(statement.Get(), column);
+    ColumnKind kind = ColumnKind::kAsStored;
+    if (declared != nullptr && platform::CompareIgnoringCase(declared, "SMALLINT") == 0) {
+      kind = ColumnKind::kInt16;
+    } else if (declared != nullptr && platform::CompareIgnoringCase(declared, "DATE") == 0) {
+      kind = ColumnKind::kDate;
+    }
+    columns_.push_back(kind);
+  }
+}
+
+Value ResultReader::Cell(int column) const {
+  const ColumnKind kind = columns_[static_cast<std::size_t>(column)];
+  const int stored = sqlite3_column_type(statement_.Get(), column);
+  if (stored == SQLITE_NULL) return {};
+  if (kind == ColumnKind::kDate) return DateCell(column);
+  switch (stored) {
+    case SQLITE_INTEGER:
+      return WholeNumber(statement_.Integer(column), kind == ColumnKind::kInt16);
+    case SQLITE_FLOAT:
+      return sqlite3_column_double(statement_.Get(), column);
+    case SQLITE_TEXT:
+      return std::string(statement_.Text(column));
+    default:
+      throw BadCell(column, "bytes that are no text");
+  }
+}
+
+Value ResultReader::DateCell(int column) const {
+  const auto date = Date::FromIso(statement_.Text(column));
+  if (!date) throw BadCell(column, "something that is no date");
+  return *date;
+}
+
+platform::Failure ResultReader::BadCell(int column, const char* what) const {
+  return {platform::failure_number::kTypeMismatch,
+          "The column " + std::string(statement_.ColumnName(column)) + " of the database " +
+              statement_.Database().Path() + " holds " + what};
+}
+
+std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement) {
+  const ResultReader reader(statement);
+  const int count = statement.ColumnCount();
+  auto rows = std::make_shared<RecordRows>();
+  for (int column = 0; column < count; ++column) rows->fields.emplace_back(statement.ColumnName(column));
+  while (statement.Step()) {
+    MakeRoomForRow(rows->cells, static_cast<std::size_t>(count));
+    for (int column = 0; column < count; ++column) rows->cells.push_back(reader.Cell(column));
+    ++rows->row_count;
+  }
+  return std::make_shared<platform::RecordSet>(std::move(rows));
+}
+
+}  // namespace ferrowind::sqlite

@@ -1,0 +1,68 @@
+#include "ferrowind/adapters/sqlite/sqlite_failure.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <unistd.h>
+
+namespace ferrowind::sqlite {
+namespace {
+
+std::string WhyItCannotBeOpened(const std::string& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  switch (status.type()) {
+    case std::filesystem::file_type::not_found:
+      return "there is no such file";
+    case std::filesystem::file_type::directory:
+      return "it is a directory";
+    case std::filesystem::file_type::none:
+      return error.message();
+    default:
+      break;
+  }
+  if (access(path.c_str(), R_OK) != 0) return std::error_code(errno, std::generic_category()).message();
+  return "the files that belong beside it cannot be opened or created";
+}
+
+std::string PlainWords(int code, const std::string& path) {
+  const std::string database = "The database " + path;
+  switch (code & 0xFF) {
+    case SQLITE_CANTOPEN:
+      return database + " cannot be opened: " + WhyItCannotBeOpened(path);
+    case SQLITE_NOTADB:
+      return "The file " + path + " is not a database";
+    case SQLITE_CORRUPT:
+      return database + " is damaged or cut short";
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return database + " is locked by another program";
+    case SQLITE_READONLY:
+      return database + " is read-only";
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+      return database + " does not permit this";
+    case SQLITE_FULL:
+      return "The disk that holds the database " + path + " is full";
+    case SQLITE_IOERR:
+      return database + " cannot be read or written";
+    case SQLITE_CONSTRAINT:
+      return database + " refuses a wrong row";
+    case SQLITE_TOOBIG:
+      return "A value is too long for the database " + path;
+    case SQLITE_NOMEM:
+      return "There is not enough memory for the database " + path;
+    default:
+      return database + " reports an error";
+  }
+}
+
+}  // namespace
+
+platform::Failure FailureOf(sqlite3* database, const std::string& path) {
+  const int code = database != nullptr ? sqlite3_extended_errcode(database) : SQLITE_NOMEM;
+  const char* const text = database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
+  return {code, PlainWords(code, path) + " (SQLite " + std::to_string(code) + ": " + text + ")"};
+}
+
+}  // namespace ferrowind::sqlite
