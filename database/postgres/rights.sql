@@ -1,0 +1,21 @@
+-- Who may do what: operators call the four procedures and read the dictionary, readers read the views of calendars and
+-- days, and nobody else has any right. The procedures run with their owner's rights, so operators need none on a table.
+
+REVOKE ALL ON SCHEMA ferrowind FROM PUBLIC;
+REVOKE ALL ON ALL TABLES IN SCHEMA ferrowind FROM PUBLIC;
+REVOKE ALL ON ALL ROUTINES IN SCHEMA ferrowind FROM PUBLIC;
+
+GRANT USAGE ON SCHEMA ferrowind TO ferrowind_operator, ferrowind_reader;
+GRANT EXECUTE ON PROCEDURE CldAllInfo, CldGetMain, CldIUMain, CldIUCelebrate TO ferrowind_operator;
+GRANT SELECT ON DictionaryCcy TO ferrowind_operator;
+GRANT SELECT ON CalendarList, CalendarDay TO ferrowind_reader;
+
+-- The database itself belongs to whoever created it.
+RESET ROLE;
+DO $$
+BEGIN
+  EXECUTE format('REVOKE ALL ON DATABASE %I FROM PUBLIC', current_database());
+  EXECUTE format('GRANT CONNECT ON DATABASE %I TO ferrowind_owner, ferrowind_operator, ferrowind_reader',
+                 current_database());
+END $$;
+REVOKE ALL ON SCHEMA public FROM PUBLIC;

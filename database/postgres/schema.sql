@@ -1,0 +1,113 @@
+-- The tables of a calendar database and the constraints that make a wrong row impossible. A column's type is the type
+-- that readers get: smallint a 16-bit and integer a 32-bit number, text, date. Everything is in one schema.
+
+CREATE SCHEMA ferrowind AUTHORIZATION ferrowind_owner;
+SET LOCAL ROLE ferrowind_owner;
+SET LOCAL search_path = ferrowind, pg_temp;
+
+-- One row: how often what follows here has changed.
+CREATE TABLE SchemaVersion (
+  Version integer NOT NULL CHECK (Version >= 1)
+);
+CREATE UNIQUE INDEX SchemaVersionHasOneRow ON SchemaVersion ((1));
+INSERT INTO SchemaVersion (Version) VALUES (1);
+
+CREATE TABLE DicCcy (
+  CcyID integer PRIMARY KEY,
+  Ccy text COLLATE "C" NOT NULL UNIQUE,
+  CcyType smallint NOT NULL CHECK (CcyType IN (0, 1)),
+  Name text NOT NULL
+);
+
+CREATE TABLE CldHolidayType (
+  TID1 integer PRIMARY KEY,
+  Description1 text NOT NULL UNIQUE
+);
+
+-- What two names have in common that differ in letter case and outer blanks alone, short enough for an index whatever the
+-- name's length. The letters are those of U+0041 to U+052F that have a small form, each above that form: the order of the
+-- server's locale must not matter, so lower() is for the basic Latin letters only.
+CREATE FUNCTION NameKey(name text) RETURNS bytea
+LANGUAGE sql IMMUTABLE STRICT PARALLEL SAFE
+AS $$
+  SELECT sha256(convert_to(
+    CASE WHEN octet_length(name) = length(name) THEN lower(btrim(name, ' ') COLLATE "C")
+      ELSE translate(lower(btrim(name, ' ') COLLATE "C"),
+        'µÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞĀĂĄĆĈĊČĎĐĒĔĖĘĚĜĞĠĢĤĦĨĪĬĮĲĴĶĹĻĽĿŁŃ'
+        'ŅŇŊŌŎŐŒŔŖŘŚŜŞŠŢŤŦŨŪŬŮŰŲŴŶŸŹŻŽſƁƂƄƆƇƉƊƋƎƏƐƑƓƔƖƗƘƜƝƟƠƢƤƦƧƩƬƮƯƱƲƳƵƷ'
+        'ƸƼǄǅǇǈǊǋǍǏǑǓǕǗǙǛǞǠǢǤǦǨǪǬǮǱǲǴǶǷǸǺǼǾȀȂȄȆȈȊȌȎȐȒȔȖȘȚȜȞȠȢȤȦȨȪȬȮȰȲȺȻȽȾ'
+        'ɁɃɄɅɆɈɊɌɎͅͰͲͶͿΆΈΉΊΌΎΏΑΒΓΔΕΖΗΘΙΚΛΜΝΞΟΠΡΣΤΥΦΧΨΩΪΫςϏϐϑϕϖϘϚϜϞϠϢϤϦϨϪϬ'
+        'ϮϰϱϴϵϷϹϺϽϾϿЀЁЂЃЄЅІЇЈЉЊЋЌЍЎЏАБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯѠѢѤѦѨ'
+        'ѪѬѮѰѲѴѶѸѺѼѾҀҊҌҎҐҒҔҖҘҚҜҞҠҢҤҦҨҪҬҮҰҲҴҶҸҺҼҾӀӁӃӅӇӉӋӍӐӒӔӖӘӚӜӞӠӢӤӦӨӪӬӮӰ'
+        'ӲӴӶӸӺӼӾԀԂԄԆԈԊԌԎԐԒԔԖԘԚԜԞԠԢԤԦԨԪԬԮ',
+        'μàáâãäåæçèéêëìíîïðñòóôõöøùúûüýþāăąćĉċčďđēĕėęěĝğġģĥħĩīĭįĳĵķĺļľŀłń'
+        'ņňŋōŏőœŕŗřśŝşšţťŧũūŭůűųŵŷÿźżžsɓƃƅɔƈɖɗƌǝəɛƒɠɣɩɨƙɯɲɵơƣƥʀƨʃƭʈưʊʋƴƶʒ'
+        'ƹƽǆǆǉǉǌǌǎǐǒǔǖǘǚǜǟǡǣǥǧǩǫǭǯǳǳǵƕƿǹǻǽǿȁȃȅȇȉȋȍȏȑȓȕȗșțȝȟƞȣȥȧȩȫȭȯȱȳⱥȼƚⱦ'
+        'ɂƀʉʌɇɉɋɍɏιͱͳͷϳάέήίόύώαβγδεζηθικλμνξοπρστυφχψωϊϋσϗβθφπϙϛϝϟϡϣϥϧϩϫϭ'
+        'ϯκρθεϸϲϻͻͼͽѐёђѓєѕіїјљњћќѝўџабвгдежзийклмнопрстуфхцчшщъыьэюяѡѣѥѧѩ'
+        'ѫѭѯѱѳѵѷѹѻѽѿҁҋҍҏґғҕҗҙқҝҟҡңҥҧҩҫҭүұҳҵҷҹһҽҿӏӂӄӆӈӊӌӎӑӓӕӗәӛӝӟӡӣӥӧөӫӭӯӱ'
+        'ӳӵӷӹӻӽӿԁԃԅԇԉԋԍԏԑԓԕԗԙԛԝԟԡԣԥԧԩԫԭԯ')
+    END, 'UTF8'))
+$$;
+
+-- A weekday rule (type 2) has WD alone; every other rule has a date, whose month and day stand in MY and MD as well.
+-- Rule 1 is the one rule of type 1, has neither, and cannot be removed. Del: 2 removed, 4 restored.
+CREATE TABLE CldHoliday (
+  ID2 integer PRIMARY KEY CHECK (ID2 >= 1),
+  Name1 text NOT NULL CHECK (btrim(Name1, ' ') <> ''),
+  Comment text,
+  TID1 integer NOT NULL REFERENCES CldHolidayType (TID1),
+  D1 date CHECK (D1 BETWEEN '0001-01-01' AND '9999-12-31'),
+  MY smallint CHECK (MY IS NOT DISTINCT FROM extract(month FROM D1)),
+  MD smallint CHECK (MD IS NOT DISTINCT FROM extract(day FROM D1)),
+  WD smallint CHECK (WD BETWEEN 1 AND 7),
+  Del smallint CHECK (Del IS NULL OR Del IN (2, 4) AND ID2 <> 1),
+  UNIQUE (ID2, TID1),
+  CHECK ((ID2 = 1) = (TID1 = 1)),
+  CHECK ((TID1 = 2) = (WD IS NOT NULL)),
+  CHECK ((TID1 IN (1, 2)) = (D1 IS NULL))
+);
+CREATE UNIQUE INDEX CldHolidayNamesDiffer ON CldHoliday (NameKey(Name1));
+
+CREATE TABLE CldCalendar (
+  ID1 integer NOT NULL REFERENCES DicCcy (CcyID),
+  Year1 integer NOT NULL CHECK (Year1 BETWEEN 1900 AND 3000),
+  PRIMARY KEY (ID1, Year1)
+);
+
+-- Day1 counts the days of the year and decides ODate. A day without a rule is an ordinary working day.
+CREATE TABLE CldDay (
+  ID1 integer NOT NULL,
+  Year1 integer NOT NULL,
+  Day1 integer NOT NULL CHECK (Day1 BETWEEN 1 AND 366),
+  ODate date NOT NULL,
+  TID1 integer NOT NULL REFERENCES CldHolidayType (TID1),
+  ID2 integer,
+  Comment text,
+  PRIMARY KEY (ID1, Year1, Day1),
+  FOREIGN KEY (ID1, Year1) REFERENCES CldCalendar (ID1, Year1),
+  FOREIGN KEY (ID2, TID1) REFERENCES CldHoliday (ID2, TID1),
+  CHECK (ODate = make_date(Year1, 1, 1) + (Day1 - 1) AND extract(year FROM ODate) = Year1),
+  CHECK (ID2 IS NOT NULL OR TID1 = 1)
+);
+
+-- One row. FirstDay: the weekday that a week begins with, 1 Sunday to 7 Saturday.
+CREATE TABLE CldSetting (
+  FirstDay integer NOT NULL CHECK (FirstDay BETWEEN 1 AND 7)
+);
+CREATE UNIQUE INDEX CldSettingHasOneRow ON CldSetting ((1));
+
+-- The dictionary, as operators read it.
+CREATE VIEW DictionaryCcy AS SELECT CcyID, Ccy, CcyType, Name FROM DicCcy;
+
+-- What others may read of the calendars.
+CREATE VIEW CalendarList AS
+SELECT c.Ccy, k.Year1 AS Year
+FROM CldCalendar k JOIN DicCcy c ON c.CcyID = k.ID1;
+
+CREATE VIEW CalendarDay AS
+SELECT c.Ccy, d.Year1 AS Year, d.ODate AS Date, d.TID1 = 1 AS IsWorkingDay, t.Description1 AS Type, h.Name1 AS Rule, d.Comment
+FROM CldDay d
+  JOIN DicCcy c ON c.CcyID = d.ID1
+  JOIN CldHolidayType t ON t.TID1 = d.TID1
+  LEFT JOIN CldHoliday h ON h.ID2 = d.ID2;

@@ -1,0 +1,63 @@
+-- procedure CldIUMain writes
+-- parameter @ID1 int32
+-- parameter @Year1 int32
+-- parameter @TID1 int32
+-- parameter @ID2 int32
+-- parameter @Day1 int32
+-- parameter @ODate date
+-- parameter @Comment text
+-- Without TID1 creates the calendar of the currency ID1 for Year1, every day an ordinary working day. With TID1 gives
+-- days of the calendar the rule ID2 of that type: the day Day1, or for a weekday rule (type 2) without Day1 every day
+-- of the year on its weekday. What a day carried before, its comment included, is replaced.
+-- Returns 0; 7 a value is missing or out of range; 3 unknown currency; 4 unknown rule (a removed one is not assigned
+-- either); 5 unknown calendar; 6 the calendar exists already.
+
+SELECT 7 AS "@return" WHERE :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000;
+
+-- Only money has calendars: the windows list no other currency that a calendar could stand under.
+SELECT 3 AS "@return" WHERE NOT EXISTS (SELECT 1 FROM DicCcy WHERE CcyID = :ID1 AND CcyType = 0);
+
+SELECT EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1) AS "@CalendarExists";
+
+-- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
+SELECT 7 AS "@return"
+WHERE :TID1 IS NULL AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL);
+
+SELECT 6 AS "@return" WHERE :TID1 IS NULL AND :CalendarExists;
+
+INSERT INTO CldCalendar (ID1, Year1) SELECT :ID1, :Year1 WHERE :TID1 IS NULL;
+
+WITH RECURSIVE DayOfYear (Day1, ODate) AS (
+  SELECT 1, date(:Year1 || '-01-01')
+  UNION ALL
+  SELECT Day1 + 1, date(ODate, '1 day') FROM DayOfYear WHERE ODate < :Year1 || '-12-31'
+)
+INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1)
+SELECT :ID1, :Year1, Day1, ODate, 1 FROM DayOfYear WHERE :TID1 IS NULL;
+
+SELECT 0 AS "@return" WHERE :TID1 IS NULL;
+
+-- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
+SELECT 7 AS "@return"
+WHERE :TID1 NOT BETWEEN 1 AND 4
+  OR :ID2 IS NULL
+  OR :Day1 IS NULL AND (:TID1 <> 2 OR :ODate IS NOT NULL)
+  OR :ODate IS NULL AND :TID1 IN (3, 4)
+  OR :Day1 NOT BETWEEN 1 AND CAST(strftime('%j', :Year1 || '-12-31') AS INTEGER)
+  OR :ODate <> date(:Year1 || '-01-01', (:Day1 - 1) || ' days');
+
+SELECT 5 AS "@return" WHERE NOT :CalendarExists;
+
+SELECT 4 AS "@return" WHERE NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND Del IS NOT 2);
+
+SELECT 7 AS "@return" WHERE NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND TID1 = :TID1);
+
+-- The weekday in question, 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
+SELECT (h.WD - 1 + s.FirstDay - 1) % 7 AS "@Weekday" FROM CldHoliday h, CldSetting s WHERE h.ID2 = :ID2;
+
+UPDATE CldDay SET TID1 = :TID1, ID2 = :ID2, Comment = :Comment
+WHERE ID1 = :ID1 AND Year1 = :Year1
+  AND (Day1 = :Day1
+    OR :Day1 IS NULL AND CAST(strftime('%w', ODate) AS INTEGER) = :Weekday
+      -- Exceptions and dated rules stand above weekday rules.
+      AND (TID1 = 2 OR ID2 IS NULL));

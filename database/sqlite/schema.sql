@@ -1,0 +1,84 @@
+-- The tables of a calendar database and the constraints that make a wrong row impossible. A column's declared type is
+-- the type that readers get: SMALLINT a 16-bit and INTEGER a 32-bit number, TEXT a text, DATE a date, which is stored
+-- as the text YYYY-MM-DD. FERROWIND_NAME compares names without regard to letter case and outer blanks; the engine
+-- supplies it to every connection.
+
+-- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here.
+PRAGMA application_id = 0x46657277;
+PRAGMA user_version = 1;
+
+CREATE TABLE DicCcy (
+  CcyID INTEGER PRIMARY KEY,
+  Ccy TEXT NOT NULL UNIQUE,
+  CcyType SMALLINT NOT NULL CHECK (CcyType IN (0, 1)),
+  Name TEXT NOT NULL
+);
+
+CREATE TABLE CldHolidayType (
+  TID1 INTEGER PRIMARY KEY,
+  Description1 TEXT NOT NULL UNIQUE
+);
+
+-- A weekday rule (type 2) has WD alone; every other rule has a date, whose month and day stand in MY and MD as well.
+-- Rule 1 is the one rule of type 1, has neither, and cannot be removed. Del: 2 removed, 4 restored.
+CREATE TABLE CldHoliday (
+  ID2 INTEGER PRIMARY KEY CHECK (ID2 BETWEEN 1 AND 2147483647),
+  Name1 TEXT NOT NULL COLLATE FERROWIND_NAME UNIQUE CHECK (typeof(Name1) = 'text' AND trim(Name1) <> ''),
+  Comment TEXT CHECK (typeof(Comment) IN ('text', 'null')),
+  TID1 INTEGER NOT NULL REFERENCES CldHolidayType (TID1),
+  D1 DATE CHECK (D1 IS date(D1, '0 days') AND D1 >= '0001'),
+  MY SMALLINT CHECK (MY IS CAST(strftime('%m', D1) AS INTEGER)),
+  MD SMALLINT CHECK (MD IS CAST(strftime('%d', D1) AS INTEGER)),
+  WD SMALLINT CHECK (WD BETWEEN 1 AND 7 AND typeof(WD) = 'integer' OR WD IS NULL),
+  Del SMALLINT CHECK (Del IN (2, 4) AND ID2 <> 1 OR Del IS NULL),
+  UNIQUE (ID2, TID1),
+  CHECK ((ID2 = 1) = (TID1 = 1)),
+  CHECK ((TID1 = 2) = (WD IS NOT NULL)),
+  CHECK ((TID1 IN (1, 2)) = (D1 IS NULL))
+);
+
+CREATE TABLE CldCalendar (
+  ID1 INTEGER NOT NULL REFERENCES DicCcy (CcyID),
+  Year1 INTEGER NOT NULL CHECK (Year1 BETWEEN 1900 AND 3000 AND typeof(Year1) = 'integer'),
+  PRIMARY KEY (ID1, Year1)
+) WITHOUT ROWID;
+
+-- Day1 counts the days of the year and decides ODate. A day without a rule is an ordinary working day.
+CREATE TABLE CldDay (
+  ID1 INTEGER NOT NULL,
+  Year1 INTEGER NOT NULL,
+  Day1 INTEGER NOT NULL CHECK (Day1 BETWEEN 1 AND 366 AND typeof(Day1) = 'integer'),
+  ODate DATE NOT NULL,
+  TID1 INTEGER NOT NULL REFERENCES CldHolidayType (TID1),
+  ID2 INTEGER,
+  Comment TEXT CHECK (typeof(Comment) IN ('text', 'null')),
+  PRIMARY KEY (ID1, Year1, Day1),
+  FOREIGN KEY (ID1, Year1) REFERENCES CldCalendar (ID1, Year1),
+  FOREIGN KEY (ID2, TID1) REFERENCES CldHoliday (ID2, TID1),
+  CHECK (ODate IS date(Year1 || '-01-01', (Day1 - 1) || ' days') AND ODate <= Year1 || '-12-31'),
+  CHECK (ID2 IS NOT NULL OR TID1 = 1)
+) WITHOUT ROWID;
+
+-- One row. FirstDay: the weekday that a week begins with, 1 Sunday to 7 Saturday.
+CREATE TABLE CldSetting (
+  FirstDay INTEGER NOT NULL CHECK (FirstDay BETWEEN 1 AND 7 AND typeof(FirstDay) = 'integer')
+);
+CREATE UNIQUE INDEX CldSettingHasOneRow ON CldSetting ((1));
+
+-- The stored procedures, which the engine finds and runs from here. A body is a script of SQL statements.
+CREATE TABLE ProcedureCatalogue (
+  Name TEXT NOT NULL COLLATE NOCASE PRIMARY KEY,
+  Writes INTEGER NOT NULL CHECK (Writes IN (0, 1)),
+  Body TEXT NOT NULL
+) WITHOUT ROWID;
+
+-- Position 0 is the return value; the inputs count from 1.
+CREATE TABLE ProcedureParameter (
+  ProcedureName TEXT NOT NULL COLLATE NOCASE REFERENCES ProcedureCatalogue (Name),
+  Position INTEGER NOT NULL CHECK (Position >= 0),
+  Name TEXT NOT NULL COLLATE NOCASE CHECK (Name GLOB '@?*'),
+  Type TEXT NOT NULL CHECK (Type IN ('int16', 'int32', 'text', 'date')),
+  Direction TEXT NOT NULL CHECK (Direction = CASE Position WHEN 0 THEN 'return' ELSE 'in' END),
+  PRIMARY KEY (ProcedureName, Position),
+  UNIQUE (ProcedureName, Name)
+) WITHOUT ROWID;
