@@ -1,0 +1,23 @@
+#include "host/admin/check_command.h"
+
+#include <ostream>
+
+#include "ferrowind/adapters/postgres/database_objects.h"
+#include "ferrowind/adapters/postgres/engine.h"
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+
+namespace ferrowind::host {
+
+ExitStatus CheckCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
+  // Says that there is no such engine, where an adapter can only say that it is not its own.
+  (void)engines.EngineFor(url);
+  const auto faults = postgres::IsConnectionString(url) ? postgres::CheckDatabase(url)
+                                                        : sqlite::CheckDatabase(sqlite::PathIn(url));
+  for (const std::string& fault : faults) out << fault << '\n';
+  if (!faults.empty()) return ExitStatus::kNotDone;
+  out << "The database is in order.\n";
+  return ExitStatus::kDone;
+}
+
+}  // namespace ferrowind::host

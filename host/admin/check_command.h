@@ -1,0 +1,21 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+#include "ferrowind/platform/database/engine_registry.h"
+
+#include "host/admin/exit_status.h"
+
+namespace ferrowind::host {
+
+/// `ferrowindctl check`: lists the faults of a database.
+struct CheckCommand {
+  std::string url;
+
+  /// One line per fault to `out`, or that there is none. A database that cannot be read is a
+  /// `platform::Failure`.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
+};
+
+}  // namespace ferrowind::host

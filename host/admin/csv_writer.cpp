@@ -1,0 +1,58 @@
+#include <ostream>
+
+#include "ferrowind/platform/values/conversion.h"
+
+#include "host/admin/outcome_writer.h"
+
+namespace ferrowind::host {
+namespace {
+
+constexpr const char* kLineEnd = "\r\n";
+
+std::string Quoted(const std::string& text) {
+  std::string quoted = "\"";
+  for (const char character : text) {
+    if (character == '"') quoted += '"';
+    quoted += character;
+  }
+  return quoted + '"';
+}
+
+/// Quotes where the text needs it to be read back, and around an empty text, which is not the same as no
+/// value.
+std::string CsvText(const std::string& text) {
+  const bool is_plain = !text.empty() && text.find_first_of("\",\r\n") == std::string::npos;
+  return is_plain ? text : Quoted(text);
+}
+
+/// Empty is nothing, except in a lonely cell: an empty line would end the table.
+std::string CsvCell(const platform::Value& value, bool is_alone) {
+  if (value.IsEmpty() && !is_alone) return {};
+  return CsvText(platform::ToTextOrEmpty(value));
+}
+
+template <typename Cell>
+void WriteLine(std::size_t count, const Cell& cell, std::ostream& out) {
+  for (std::size_t i = 0; i < count; ++i) out << (i == 0 ? "" : ",") << cell(i);
+  out << kLineEnd;
+}
+
+}  // namespace
+
+void WriteCsv(const ProcedureOutcome& outcome, std::ostream& out) {
+  out << "return" << kLineEnd << outcome.return_value << kLineEnd;
+  for (const auto& rows : outcome.record_sets) {
+    out << kLineEnd;
+    WriteLine(
+        rows->FieldCount(), [&](std::size_t field) { return CsvText(rows->FieldName(field)); }, out);
+    for (std::size_t i = 0; i < rows->RowCount(); ++i) {
+      const auto row = rows->BookmarkAt(i);
+      const bool is_alone = rows->FieldCount() == 1;
+      WriteLine(
+          rows->FieldCount(), [&](std::size_t field) { return CsvCell(rows->Cell(row, field), is_alone); },
+          out);
+    }
+  }
+}
+
+}  // namespace ferrowind::host

@@ -1,0 +1,52 @@
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "ferrowind/platform/values/conversion.h"
+
+#include "host/admin/outcome_writer.h"
+
+namespace ferrowind::host {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct ToJson {
+  Json operator()(std::monostate) const { return nullptr; }
+  Json operator()(const platform::Value::Object&) const { return nullptr; }
+  Json operator()(const platform::Date& date) const { return date.ToIso(); }
+  template <typename Plain>
+  Json operator()(const Plain& value) const {
+    return value;
+  }
+};
+
+Json RecordSetJson(const platform::RecordSet& rows) {
+  Json fields = Json::array();
+  for (std::size_t field = 0; field < rows.FieldCount(); ++field) fields.push_back(rows.FieldName(field));
+  Json row_list = Json::array();
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) {
+    Json cells = Json::array();
+    for (std::size_t field = 0; field < rows.FieldCount(); ++field) {
+      cells.push_back(std::visit(ToJson(), rows.Cell(rows.BookmarkAt(i), field).Get()));
+    }
+    row_list.push_back(std::move(cells));
+  }
+  Json record_set;
+  record_set["fields"] = std::move(fields);
+  record_set["rows"] = std::move(row_list);
+  return record_set;
+}
+
+}  // namespace
+
+void WriteJson(const ProcedureOutcome& outcome, std::ostream& out) {
+  Json results = Json::array();
+  for (const auto& rows : outcome.record_sets) results.push_back(RecordSetJson(*rows));
+  Json document;
+  document["return"] = outcome.return_value;
+  document["results"] = std::move(results);
+  // Bytes that are no UTF-8 cannot stand in JSON; they become U+FFFD.
+  out << document.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+}  // namespace ferrowind::host

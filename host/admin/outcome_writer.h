@@ -1,0 +1,26 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "host/session/procedure_session.h"
+
+namespace ferrowind::host {
+
+/// The forms in which `ferrowindctl call` prints what a procedure gave.
+enum class OutputFormat { kTable, kJson, kCsv };
+
+/// For people: the return value, then each record set as aligned columns; texts over 60 columns are cut.
+void WriteTable(const ProcedureOutcome& outcome, std::ostream& out);
+
+/// One line `{"return": 0, "results": [{"fields": [...], "rows": [[...]]}]}`: dates as YYYY-MM-DD, empty as
+/// null.
+void WriteJson(const ProcedureOutcome& outcome, std::ostream& out);
+
+/// RFC 4180 tables with a header line, with an empty line between: one with the single field "return", then
+/// one per record set. Empty is nothing between the commas, an empty text is ""; in a table of one field both
+/// are "".
+void WriteCsv(const ProcedureOutcome& outcome, std::ostream& out);
+
+void WriteOutcome(const ProcedureOutcome& outcome, OutputFormat format, std::ostream& out);
+
+}  // namespace ferrowind::host

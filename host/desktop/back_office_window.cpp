@@ -1,0 +1,92 @@
+#include "host/desktop/back_office_window.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "ferrowind/control/calendar.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::host {
+namespace {
+
+QString VersionText() {
+  const auto version = Calendar::Version();
+  return QStringLiteral("%1 %2.%3.%4")
+      .arg(QString::fromStdString(platform::ToText(version[0])))
+      .arg(platform::ToInt16(version[1]))
+      .arg(platform::ToInt16(version[2]))
+      .arg(platform::ToInt16(version[3]));
+}
+
+}  // namespace
+
+BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QString& database)
+    : control_(new qt::CalendarWidget(platform)) {
+  setObjectName(QStringLiteral("backOffice"));
+  setWindowTitle(tr("Back office"));
+
+  auto* const title = new QLabel(tr("Business-day calendars"));
+  QFont title_font = title->font();
+  title_font.setPointSizeF(title_font.pointSizeF() * 1.4);
+  title_font.setBold(true);
+  title->setFont(title_font);
+  auto* const version = new QLabel(VersionText());
+  version->setObjectName(QStringLiteral("version"));
+  version->setForegroundRole(QPalette::PlaceholderText);
+
+  auto* const heading = new QHBoxLayout;
+  heading->addWidget(control_);
+  heading->addWidget(title);
+  heading->addStretch();
+  heading->addWidget(version);
+
+  auto* const open = new QPushButton(tr("&Open calendars"));
+  open->setObjectName(QStringLiteral("openCalendars"));
+  open->setDefault(true);
+  connect(open, &QPushButton::clicked, this, &BackOfficeWindow::OpenCalendars);
+  auto* const close = new QPushButton(tr("&Close calendars"));
+  close->setObjectName(QStringLiteral("closeCalendars"));
+  connect(close, &QPushButton::clicked, this, &BackOfficeWindow::CloseCalendars);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(open);
+  buttons->addWidget(close);
+  buttons->addStretch();
+
+  auto* const place = new QLabel(database);
+  place->setObjectName(QStringLiteral("database"));
+  place->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  place->setWordWrap(true);
+
+  auto* const content = new QWidget;
+  auto* const layout = new QVBoxLayout(content);
+  layout->setContentsMargins(20, 20, 20, 20);
+  layout->setSpacing(16);
+  layout->addLayout(heading);
+  layout->addWidget(place);
+  layout->addStretch();
+  layout->addLayout(buttons);
+  setCentralWidget(content);
+  resize(520, 200);
+  open->setFocus();
+}
+
+void BackOfficeWindow::OpenCalendars() { control_->Control().Show(); }
+
+void BackOfficeWindow::CloseCalendars() {
+  if (!control_->Control().ForceClosing())
+    statusBar()->showMessage(tr("The Calendars window is busy."), 5000);
+}
+
+void BackOfficeWindow::closeEvent(QCloseEvent* event) {
+  if (control_->Control().ForceClosing()) {
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace ferrowind::host

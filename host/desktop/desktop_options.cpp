@@ -1,0 +1,54 @@
+#include "host/desktop/desktop_options.h"
+
+#include <QCommandLineParser>
+#include <QTextStream>
+#include <cstdlib>
+
+namespace ferrowind::host {
+namespace {
+
+[[noreturn]] void Refuse(const QString& problem) {
+  QTextStream(stderr) << "ferrowind: " << problem << "\nTry: ferrowind --help\n";
+  std::exit(EXIT_FAILURE);
+}
+
+qt::Theme ThemeNamed(const QString& name) {
+  if (name == QLatin1String("system")) return qt::Theme::kSystem;
+  if (name == QLatin1String("light")) return qt::Theme::kLight;
+  if (name == QLatin1String("dark")) return qt::Theme::kDark;
+  Refuse(QStringLiteral("there is no theme \"%1\": choose system, light or dark").arg(name));
+}
+
+}  // namespace
+
+DesktopOptions ReadOptions(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      QStringLiteral("Keeps the business-day calendars of a foreign-exchange back office."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  const QCommandLineOption database(
+      QStringLiteral("database"),
+      QStringLiteral("Work on the database URL, for example sqlite:/path/to/file or "
+                     "postgresql://user@host/name. Without it, on the user's own, which "
+                     "is created with currencies, rules and calendars at the first start."),
+      QStringLiteral("URL"));
+  const QCommandLineOption trace(QStringLiteral("trace"),
+                                 QStringLiteral("Append a trace of every procedure call to FILE."),
+                                 QStringLiteral("FILE"));
+  const QCommandLineOption open(QStringLiteral("open"), QStringLiteral("Open the Calendars window at once."));
+  const QCommandLineOption theme(QStringLiteral("theme"),
+                                 QStringLiteral("The look of the windows: system, light or dark."),
+                                 QStringLiteral("NAME"), QStringLiteral("system"));
+  parser.addOptions({database, trace, open, theme});
+  parser.process(arguments);
+  if (!parser.positionalArguments().isEmpty()) {
+    Refuse(QStringLiteral("\"%1\" was not expected").arg(parser.positionalArguments().first()));
+  }
+  return {.database = parser.value(database).toStdString(),
+          .trace_file = parser.value(trace),
+          .open = parser.isSet(open),
+          .theme = ThemeNamed(parser.value(theme))};
+}
+
+}  // namespace ferrowind::host

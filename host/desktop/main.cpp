@@ -1,0 +1,52 @@
+#include <QApplication>
+#include <QMessageBox>
+
+#include "ferrowind/adapters/qt/look/theme.h"
+#include "ferrowind/adapters/services/password_free.h"
+#include "ferrowind/platform/values/failure.h"
+
+#include "host/desktop/back_office_window.h"
+#include "host/desktop/desktop_options.h"
+#include "host/desktop/desktop_surroundings.h"
+#include "host/desktop/user_database.h"
+
+namespace {
+
+using ferrowind::host::DesktopOptions;
+using ferrowind::host::DesktopSurroundings;
+
+/// Runs a step of the start; the operator is told when it fails, and the program goes on without it.
+template <typename Step>
+void TellWhenFailing(const Step& step) {
+  try {
+    step();
+  } catch (const ferrowind::platform::Failure& failure) {
+    QMessageBox::critical(nullptr, QStringLiteral("Ferrowind"),
+                          QString::fromStdString(failure.Description()));
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setOrganizationName(QStringLiteral("Tessaro"));
+  QApplication::setApplicationName(QStringLiteral("ferrowind"));
+  QApplication::setApplicationVersion(QStringLiteral(FERROWIND_VERSION));
+  const DesktopOptions options = ferrowind::host::ReadOptions(QApplication::arguments());
+  ferrowind::qt::ApplyTheme(application, options.theme);
+
+  DesktopSurroundings surroundings;
+  if (!options.trace_file.isEmpty()) TellWhenFailing([&] { surroundings.TraceTo(options.trace_file); });
+  std::string database = options.database;
+  if (database.empty()) {
+    TellWhenFailing([&] { database = ferrowind::host::UserDatabase(surroundings.Engines()); });
+  }
+  surroundings.UseDatabase(database);
+
+  ferrowind::host::BackOfficeWindow window(surroundings.Get(),
+                                           QString::fromStdString(ferrowind::PasswordFree(database)));
+  window.show();
+  if (options.open) window.OpenCalendars();
+  return QApplication::exec();
+}
