@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Checks that every header of the house compiles as the only include of a source, and twice in the same one.
+
+usage: headers_alone.py ROOT BUILD_FOLDER
+
+The flags are those of a source in the header's own folder, as the build recorded them in compile_commands.json; a
+folder without sources needs none but the repository's root and the language standard. Nothing is written.
+"""
+
+import concurrent.futures
+import json
+import os
+import pathlib
+import shlex
+import subprocess
+import sys
+
+HOUSE = ("ferrowind", "host")
+WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
+
+
+def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[str, list[str]]]:
+    """The compiler, and for each folder with sources the flags of one of them."""
+    commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    compiler = ""
+    flags: dict[str, list[str]] = {}
+    for command in commands:
+        words = shlex.split(command["command"])
+        if pathlib.Path(words[0]).name == "ccache":
+            words = words[1:]
+        compiler = words[0]
+        path = pathlib.Path(command["file"])
+        if not path.is_relative_to(root) or path.is_relative_to(build):
+            continue
+        kept = []
+        skip = False
+        for word in words[1:]:
+            if skip:
+                skip = False
+            elif word in ("-o", "-c", "-MF", "-MT"):
+                skip = True
+            elif word != "-MD":
+                kept.append(word)
+        flags.setdefault(path.relative_to(root).parent.as_posix(), kept)
+    return compiler, flags
+
+
+def compile_alone(root: pathlib.Path, header: str, compiler: str, flags: list[str]) -> str:
+    """What the compiler had to say; nothing when it was content."""
+    source = f'#include "{header}"\n#include "{header}"\n'
+    run = subprocess.run(
+        [compiler, *flags, "-fsyntax-only", "-x", "c++", "-"],
+        input=source, cwd=root, capture_output=True, text=True, check=False)
+    if run.returncode == 0:
+        return ""
+    return f"{header} does not compile alone:\n{run.stderr}"
+
+
+def check(root: pathlib.Path, build: pathlib.Path) -> tuple[int, list[str]]:
+    """How many headers there are, and what is wrong with them."""
+    compiler, flags = recorded_flags(root, build)
+    if not compiler:
+        return 0, [f"{build}/compile_commands.json names no compiler"]
+    headers = sorted(path.relative_to(root).as_posix() for top in HOUSE for path in (root / top).rglob("*.h"))
+    bare = ["-std=c++20", f"-I{root}", *WARNINGS]
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        complaints = pool.map(
+            lambda header: compile_alone(root, header, compiler, flags.get(os.path.dirname(header), bare)), headers)
+        return len(headers), [complaint for complaint in complaints if complaint]
+
+
+def main(arguments: list[str]) -> int:
+    if len(arguments) != 2:
+        print(__doc__, file=sys.stderr)
+        return 2
+    count, errors = check(pathlib.Path(arguments[0]).resolve(), pathlib.Path(arguments[1]).resolve())
+    if count == 0:
+        errors.append("no header found: this is not the repository's root")
+    print("\n".join(errors) if errors else f"Each of the {count} headers compiles alone.")
+    return 1 if errors else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,212 @@
+#!/usr/bin/env python3
+"""Proves that each architecture check refuses what it is there to refuse, on small examples of its own."""
+
+import json
+import pathlib
+import shutil
+import tempfile
+import unittest
+
+import core_only
+import format as format_check
+import headers_alone
+import include_graph
+
+
+class TemporaryTree(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = pathlib.Path(folder.name).resolve()
+
+    def write(self, path, text):
+        file = self.root / path
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(text, encoding="utf-8")
+        return file
+
+
+class IncludeGraph(TemporaryTree):
+    def setUp(self):
+        super().setUp()
+        self.write("ferrowind/platform/values/value.h", "#pragma once\n#include <string>\n")
+        self.write("ferrowind/data/cell.h", '#pragma once\n#include "ferrowind/platform/values/value.h"\n')
+        self.write("ferrowind/adapters/qt/form.cpp", '#include <QWidget>\n#include "ui_form.h"\n')
+        self.arrows = ["ferrowind/data -> ferrowind/platform/values", "ferrowind/adapters/qt -> <qt>"]
+
+    def errors(self):
+        return include_graph.check(self.root, self.write("allowed.txt", "\n".join(self.arrows)))
+
+    def assert_refused(self, *words):
+        errors = self.errors()
+        self.assertEqual(len(errors), 1, errors)
+        for word in words:
+            self.assertIn(word, errors[0])
+
+    def test_accepts_a_tree_that_follows_its_list(self):
+        self.assertEqual(self.errors(), [])
+
+    def test_refuses_an_arrow_that_is_not_listed_and_names_the_place(self):
+        self.write("ferrowind/platform/values/value.h", '#pragma once\n\n#include "ferrowind/data/cell.h"\n')
+        self.assert_refused("ferrowind/platform/values/value.h:3", "ferrowind/platform/values -> ferrowind/data")
+
+    def test_refuses_an_arrow_of_the_list_that_nothing_needs(self):
+        self.arrows.append("ferrowind/views/common -> ferrowind/data")
+        self.assert_refused("allowed.txt:3", "ferrowind/views/common -> ferrowind/data")
+
+    def test_refuses_an_outside_header_in_the_component_even_when_listed(self):
+        self.write("ferrowind/data/cell.cpp", "#include <QString>\n")
+        self.arrows.append("ferrowind/data -> <qt>")
+        self.assert_refused("ferrowind/data/cell.cpp:1", "only the standard library")
+
+    def test_refuses_a_c_header_in_the_component(self):
+        self.write("ferrowind/views/common/wait.cpp", "#include <unistd.h>\n")
+        self.assert_refused("ferrowind/views/common/wait.cpp:1", "only the standard library")
+
+    def test_refuses_a_library_that_the_list_does_not_give_an_adapter(self):
+        self.write("ferrowind/adapters/qt/form.h", "#pragma once\n#include <sqlite3.h>\n")
+        self.assert_refused("ferrowind/adapters/qt -> <sqlite>")
+
+    def test_refuses_an_unknown_library(self):
+        self.write("ferrowind/adapters/qt/form.h", "#pragma once\n#include <boost/any.hpp>\n")
+        self.assert_refused("<boost/any.hpp>")
+
+    def test_refuses_an_include_that_does_not_start_at_the_root(self):
+        self.write("ferrowind/data/cell.cpp", '#include "cell.h"\n')
+        self.assert_refused("ferrowind/data/cell.cpp:1", '"cell.h"')
+
+    def test_refuses_an_include_whose_header_a_macro_names(self):
+        self.write("ferrowind/data/cell.cpp", "#include HEADER\n")
+        self.assert_refused("ferrowind/data/cell.cpp:1", "HEADER")
+
+    def test_ignores_an_include_inside_a_comment_or_a_text(self):
+        self.write("ferrowind/data/cell.cpp", '/*\n#include <QString>\n*/\nconst char* text = R"(\n#include "x.h"\n)";\n')
+        self.assertEqual(self.errors(), [])
+
+    def test_refuses_a_line_of_the_list_that_is_no_arrow(self):
+        self.arrows.append("ferrowind/data <- ferrowind/views")
+        self.assert_refused("allowed.txt:3", "not an arrow")
+
+    def test_refuses_an_arrow_listed_twice(self):
+        self.arrows.append(self.arrows[0])
+        self.assert_refused("allowed.txt:3", "listed before")
+
+    def test_refuses_a_folder_without_the_house(self):
+        shutil.rmtree(self.root / "ferrowind")
+        self.arrows = []
+        self.assert_refused("not the repository's root")
+
+
+class HeadersAlone(TemporaryTree):
+    def setUp(self):
+        super().setUp()
+        self.write("ferrowind/data/cell.h", "#pragma once\n#include <string>\nstruct Cell { std::string name; };\n")
+        source = self.write("ferrowind/data/cell.cpp", '#include "ferrowind/data/cell.h"\n')
+        self.write("build/compile_commands.json", json.dumps([{
+            "directory": str(self.root / "build"), "file": str(source),
+            "command": f"/usr/bin/ccache /usr/bin/c++ -I{self.root} -DCELL=int -std=c++20 -MD -MF a.d -o a.o -c {source}"}]))
+
+    def errors(self):
+        return headers_alone.check(self.root, self.root / "build")[1]
+
+    def test_accepts_headers_that_include_what_they_use(self):
+        self.assertEqual(self.errors(), [])
+
+    def test_uses_the_flags_of_the_folder(self):
+        self.write("ferrowind/data/row.h", "#pragma once\nstruct Row { CELL cell; };\n")
+        self.assertEqual(self.errors(), [])
+        self.write("ferrowind/views/row.h", "#pragma once\nstruct Row { CELL cell; };\n")
+        self.assertEqual(len(self.errors()), 1)
+
+    def test_refuses_a_header_that_lacks_an_include(self):
+        self.write("ferrowind/data/row.h", "#pragma once\nstruct Row { std::string name; };\n")
+        errors = self.errors()
+        self.assertEqual(len(errors), 1)
+        self.assertIn("ferrowind/data/row.h does not compile alone", errors[0])
+
+    def test_refuses_a_header_without_a_guard(self):
+        self.write("ferrowind/data/row.h", "struct Row {};\n")
+        self.assertIn("redefinition", "".join(self.errors()))
+
+    def test_refuses_a_build_that_recorded_no_compiler(self):
+        self.write("build/compile_commands.json", "[]")
+        self.assertIn("names no compiler", self.errors()[0])
+
+
+class Format(TemporaryTree):
+    def setUp(self):
+        super().setUp()
+        self.write(".clang-format", "BasedOnStyle: Google\n")
+        self.write("ferrowind/cell.h", "int Cell();\n")
+
+    def test_accepts_formatted_files(self):
+        self.assertEqual(format_check.check(self.root), (1, ""))
+
+    def test_refuses_a_file_that_is_not_formatted_and_names_it(self):
+        self.write("tests/cell_test.cpp", "int  Cell( );\n")
+        self.assertIn("tests/cell_test.cpp", format_check.check(self.root)[1])
+
+    def test_refuses_a_tree_without_files(self):
+        shutil.rmtree(self.root / "ferrowind")
+        self.assertIn("no C++ file", format_check.check(self.root)[1])
+
+
+class CoreOnly(TemporaryTree):
+    """A component of one program, which a test runs."""
+
+    SOURCE = "int main() { return 0; }\n"
+    LISTS = """cmake_minimum_required(VERSION 3.25)
+project(Example LANGUAGES CXX)
+enable_testing()
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+add_executable(example main.cpp)
+add_test(NAME example COMMAND example)
+set_tests_properties(example PROPERTIES LABELS unit)
+"""
+
+    def setUp(self):
+        super().setUp()
+        self.write("CMakePresets.json", json.dumps({
+            "version": 5, "configurePresets": [{"name": "core-only", "generator": "Ninja", "binaryDir": "${sourceDir}/x"}]}))
+        self.write("main.cpp", self.SOURCE)
+        self.write("CMakeLists.txt", self.LISTS)
+
+    def check(self):
+        return core_only.check(self.root, self.root / "build")
+
+    def assert_refused(self, words):
+        with self.assertRaisesRegex(RuntimeError, words):
+            self.check()
+
+    def test_accepts_a_component_on_the_standard_library(self):
+        self.assertEqual(self.check(), 1)
+
+    def test_refuses_a_package_that_must_not_be_found(self):
+        for package in ("Qt6 COMPONENTS Widgets", "SQLite3", "PostgreSQL"):
+            with self.subTest(package):
+                self.write("CMakeLists.txt", self.LISTS + f"find_package({package} REQUIRED)\n")
+                self.assert_refused("configuring core-only failed")
+
+    def test_refuses_a_header_that_must_be_out_of_reach(self):
+        for header in ("sqlite3.h", "libpq-fe.h", "QWidget", "QtCore/QObject"):
+            with self.subTest(header):
+                self.write("main.cpp", f"#include <{header}>\n{self.SOURCE}")
+                self.assert_refused("out of reach")
+
+    def test_refuses_a_library_that_is_linked_by_its_path(self):
+        self.write("main.cpp", "extern \"C\" int sqlite3_libversion_number();\n"
+                   "int main() { return sqlite3_libversion_number() > 0 ? 0 : 1; }\n")
+        self.write("CMakeLists.txt", self.LISTS + "target_link_libraries(example PRIVATE sqlite3)\n")
+        self.assert_refused("example needs libsqlite3")
+
+    def test_refuses_a_failing_test(self):
+        self.write("main.cpp", "int main() { return 1; }\n")
+        self.assert_refused("testing core-only failed")
+
+    def test_refuses_a_component_without_tests(self):
+        self.write("CMakeLists.txt", self.LISTS.replace("LABELS unit", "LABELS other"))
+        self.assert_refused("testing core-only failed")
+
+
+if __name__ == "__main__":
+    unittest.main()

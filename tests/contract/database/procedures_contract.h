@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/platform/values/date.h"
+
+#include "tests/contract/database/database_under_test.h"
+#include "tests/contract/database/procedure_caller.h"
+
+namespace ferrowind::contract {
+
+inline constexpr std::int32_t kEuro = 978;
+inline constexpr std::int32_t kDollar = 840;
+inline constexpr std::int32_t kGold = 959;
+inline constexpr std::int32_t kNoCurrency = 1;
+
+/// What the four procedures do, on every engine. An engine's test program compiles the files of
+/// FERROWIND_PROCEDURES_CONTRACT and instantiates this suite with its own kind of database.
+class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<CalendarDatabaseUnderTest>> {
+ protected:
+  void SetUp() override {
+    database_ = GetParam().make();
+    caller_.emplace(*database_);
+  }
+  void TearDown() override { EXPECT_TRUE(database_->IsSound()); }
+
+  [[nodiscard]] CalendarDatabaseUnderTest& database() { return *database_; }
+  [[nodiscard]] ProcedureCaller& caller() { return *caller_; }
+
+  int CreateCalendar(std::int32_t currency, std::int32_t year) {
+    return caller().Return("CldIUMain", {{"ID1", currency}, {"Year1", year}});
+  }
+  /// The days of the euro's calendar of `year`.
+  std::vector<Row> Days(std::int32_t year) {
+    return RowsOf(*caller().Call("CldGetMain", {{"ID1", kEuro}, {"Year1", year}}).record_sets.at(0));
+  }
+  /// The rules in the order of their numbers.
+  std::vector<Row> Rules() { return RowsOf(*caller().Call("CldAllInfo").record_sets.at(2)); }
+
+  /// Adds a rule, which must be possible, and returns its number.
+  std::int32_t AddWeekdayRule(const std::string& name, int weekday) {
+    return Add({{"Name1", name}, {"TID1", 2}, {"WD", weekday}});
+  }
+  std::int32_t AddDatedRule(const std::string& name, int type, platform::Date date) {
+    return Add({{"Name1", name}, {"TID1", type}, {"D1", date}, {"MY", date.Month()}, {"MD", date.Day()}});
+  }
+
+ private:
+  std::int32_t Add(const Arguments& arguments) {
+    EXPECT_EQ(caller().Return("CldIUCelebrate", arguments), 0);
+    return *Rules().back().at(0).If<std::int32_t>();
+  }
+
+  std::unique_ptr<CalendarDatabaseUnderTest> database_;
+  std::optional<ProcedureCaller> caller_;
+};
+
+}  // namespace ferrowind::contract

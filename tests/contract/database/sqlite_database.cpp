@@ -1,0 +1,68 @@
+#include "tests/contract/database/sqlite_database.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include "ferrowind/adapters/sql_script/procedure_source.h"
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+
+namespace ferrowind::contract {
+
+TemporaryFolder::TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "ferrowind-XXXXXX") {
+  if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder " + path_);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+SqliteDatabase::SqliteDatabase() { sqlite::CreateDatabase(Path(), false); }
+
+void SqliteDatabase::SetFirstDay(int first_day) {
+  Execute("UPDATE CldSetting SET FirstDay = " + std::to_string(first_day));
+}
+
+bool SqliteDatabase::IsSound() {
+  const auto problems = sqlite::CheckDatabase(Path());
+  for (const auto& problem : problems) ADD_FAILURE() << problem;
+  return problems.empty();
+}
+
+void SqliteDatabase::Execute(const std::string& sql) { sqlite::DatabaseHandle(Path()).Execute(sql.c_str()); }
+
+void SqliteDatabase::AddProcedure(const std::string& source) {
+  sqlite::AddToCatalogue(sqlite::DatabaseHandle(Path()), sql_script::ParseProcedureSource(source));
+}
+
+std::unique_ptr<DatabaseUnderTest> MakeSqliteProbes() {
+  auto database = std::make_unique<SqliteDatabase>();
+  database->Execute("CREATE TABLE Probe (Small SMALLINT, Number INTEGER, Text TEXT, Day DATE)");
+  database->AddProcedure(R"(-- procedure ProbeStore writes
+-- parameter @Small int16
+-- parameter @Number int32
+-- parameter @Text text
+-- parameter @Day date
+INSERT INTO Probe (Small, Number, Text, Day) VALUES (:Small, :Number, :Text, :Day);)");
+  database->AddProcedure(R"(-- procedure ProbeLoad reads
+SELECT Small, Number, Text, Day FROM Probe ORDER BY rowid;
+SELECT count(*) AS Count FROM Probe;)");
+  database->AddProcedure(R"(-- procedure ProbeStoreAndReturn writes
+-- parameter @Number int32
+-- parameter @Outcome int32
+INSERT INTO Probe (Number) VALUES (:Number);
+SELECT Number FROM Probe;
+SELECT :Outcome AS "@return";)");
+  database->AddProcedure(R"(-- procedure ProbeStoreAndFail writes
+-- parameter @Number int32
+INSERT INTO Probe (Number) VALUES (:Number);
+INSERT INTO NoSuchTable (Number) VALUES (:Number);)");
+  return database;
+}
+
+}  // namespace ferrowind::contract

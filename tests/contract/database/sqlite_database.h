@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "ferrowind/adapters/sqlite/engine.h"
+
+#include "tests/contract/database/database_under_test.h"
+
+namespace ferrowind::contract {
+
+/// A folder of its own for one test, removed with all its files at the end.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder();
+
+  [[nodiscard]] const std::string& Path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+/// A new SQLite file without delivered rules.
+class SqliteDatabase : public CalendarDatabaseUnderTest {
+ public:
+  SqliteDatabase();
+
+  [[nodiscard]] platform::Engine& Engine() override { return engine_; }
+  [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
+  void SetFirstDay(int first_day) override;
+  [[nodiscard]] bool IsSound() override;
+
+  [[nodiscard]] std::string Path() const { return folder_.Path() + "/calendars.db"; }
+  /// Runs SQL as a program does that opens the file by itself.
+  void Execute(const std::string& sql);
+  /// Adds a procedure from its source.
+  void AddProcedure(const std::string& source);
+
+ private:
+  TemporaryFolder folder_;
+  sqlite::Engine engine_;
+};
+
+/// A SQLite database with the probe procedures.
+[[nodiscard]] std::unique_ptr<DatabaseUnderTest> MakeSqliteProbes();
+
+}  // namespace ferrowind::contract

@@ -1,0 +1,25 @@
+// The PostgreSQL engine under the suites of the database port.
+
+#include "tests/contract/database/engine_contract.h"
+#include "tests/contract/database/procedures_contract.h"
+#include "tests/contract/postgres/postgres_database.h"
+
+namespace ferrowind::contract {
+namespace {
+
+template <typename Suite>
+std::string KindName(const ::testing::TestParamInfo<Suite>& info) {
+  return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, EngineContract,
+                         ::testing::Values(DatabaseKind<DatabaseUnderTest>{"Postgres", MakePostgresProbes}),
+                         KindName<DatabaseKind<DatabaseUnderTest>>);
+
+INSTANTIATE_TEST_SUITE_P(Engines, ProceduresContract,
+                         ::testing::Values(DatabaseKind<CalendarDatabaseUnderTest>{
+                             "Postgres", [] { return std::make_unique<PostgresDatabase>(); }}),
+                         KindName<DatabaseKind<CalendarDatabaseUnderTest>>);
+
+}  // namespace
+}  // namespace ferrowind::contract

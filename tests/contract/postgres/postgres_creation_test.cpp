@@ -1,0 +1,171 @@
+// Making a calendar database on a server, and finding what is wrong with one.
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/adapters/postgres/database_objects.h"
+#include "ferrowind/platform/values/failure.h"
+
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/postgres/postgres_database.h"
+#include "tests/contract/postgres/postgres_server.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using platform::Failure;
+using ::testing::Contains;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::UnorderedElementsAre;
+
+class EmptyDatabase {
+ public:
+  EmptyDatabase() : name_(postgres_server::CreateEmptyDatabase()) {}
+  EmptyDatabase(const EmptyDatabase&) = delete;
+  EmptyDatabase& operator=(const EmptyDatabase&) = delete;
+  ~EmptyDatabase() { postgres_server::DropDatabase(name_); }
+
+  [[nodiscard]] std::string Uri() const { return postgres_server::SuperuserUri(name_); }
+  [[nodiscard]] const std::string& Name() const { return name_; }
+  [[nodiscard]] bool IsUntouched() const {
+    return postgres_server::Ask(name_, "SELECT coalesce(to_regnamespace('ferrowind')::text, 'none')") ==
+           "none";
+  }
+
+ private:
+  std::string name_;
+};
+
+TEST(PostgresCreation, TheDeliveredRulesComeOnDemand) {
+  const EmptyDatabase database;
+  postgres::CreateDatabaseObjects(database.Uri(), true);
+  EXPECT_EQ(postgres_server::Ask(database.Name(), "SELECT (count(*) > 40)::text FROM ferrowind.CldHoliday"),
+            "true");
+  EXPECT_THAT(postgres::CheckDatabase(database.Uri()), IsEmpty());
+}
+
+TEST(PostgresCreation, WhatFillsItIsPartOfTheCreation) {
+  const EmptyDatabase database;
+  postgres::CreateDatabaseObjects(database.Uri(), false, [](const std::shared_ptr<platform::Engine>& engine) {
+    const auto connection = engine->Connect("postgresql://anywhere");
+    EXPECT_EQ(connection->DescribeProcedure("CldIUMain").size(), 8U);
+    const std::vector<platform::Value> inputs = {
+        platform::Value(978), platform::Value(2026), {}, {}, {}, {}, {}};
+    EXPECT_EQ(connection->Call("CldIUMain", inputs).return_value, 0);
+    EXPECT_EQ(engine->Connect("")->Call("CldIUMain", inputs).return_value, 6);
+    EXPECT_EQ(engine->Connect("")->Call("CldAllInfo", {}).record_sets.size(), 4U);
+    EXPECT_EQ(connection->Call("CldAllInfo", {}).record_sets.at(0)->RowCount(), 1U);
+    EXPECT_GT(engine->ReadDictionary("", "Ccy")->RowCount(), 150U);
+  });
+  EXPECT_EQ(postgres_server::Ask(database.Name(), "SELECT count(*)::text FROM ferrowind.CldDay"), "365");
+  EXPECT_THAT(postgres::CheckDatabase(database.Uri()), IsEmpty());
+}
+
+TEST(PostgresCreation, ACreationThatFailsLeavesTheDatabaseEmpty) {
+  const EmptyDatabase database;
+  EXPECT_THROW(postgres::CreateDatabaseObjects(
+                   database.Uri(), true,
+                   [](const std::shared_ptr<platform::Engine>&) { throw Failure(5, "no more"); }),
+               Failure);
+  EXPECT_TRUE(database.IsUntouched());
+  postgres::CreateDatabaseObjects(database.Uri(), true);
+}
+
+TEST(PostgresCreation, ADatabaseThatIsNotEmptyIsRefusedAndStaysAsItIs) {
+  const EmptyDatabase database;
+  postgres_server::Execute(database.Name(), "CREATE TABLE public.orders (a integer)");
+  EXPECT_THAT(FailureTextOf([&] { postgres::CreateDatabaseObjects(database.Uri(), false); }),
+              HasSubstr("public.orders"));
+  EXPECT_TRUE(database.IsUntouched());
+
+  PostgresDatabase calendars;
+  EXPECT_THAT(FailureTextOf([&] {
+                postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(calendars.Name()), false);
+              }),
+              HasSubstr("not empty"));
+  EXPECT_TRUE(calendars.IsSound());
+}
+
+TEST(PostgresCreation, ADatabaseOfAnotherEncodingIsRefused) {
+  postgres_server::Execute("postgres",
+                           "CREATE DATABASE test_latin ENCODING 'LATIN1' LOCALE 'C' TEMPLATE template0");
+  EXPECT_THAT(FailureTextOf([] {
+                postgres::CreateDatabaseObjects(postgres_server::SuperuserUri("test_latin"), false);
+              }),
+              HasSubstr("LATIN1"));
+  postgres_server::DropDatabase("test_latin");
+}
+
+TEST(PostgresCreation, ALoginThatOwnsTheDatabaseAndMayCreateRolesIsEnough) {
+  const EmptyDatabase database;
+  postgres_server::Execute("postgres",
+                           "CREATE ROLE administrator LOGIN CREATEROLE PASSWORD 'adm'; ALTER DATABASE " +
+                               database.Name() + " OWNER TO administrator");
+  const std::string uri = postgres_server::Uri("administrator", "adm", database.Name());
+  postgres::CreateDatabaseObjects(uri, true);
+  EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
+  postgres_server::Execute(
+      "postgres",
+      "ALTER DATABASE " + database.Name() +
+          " OWNER TO postgres; REVOKE ferrowind_owner FROM administrator; DROP ROLE administrator");
+}
+
+TEST(PostgresCheck, ADatabaseWithoutTheSchemaIsNoCalendarDatabase) {
+  const EmptyDatabase database;
+  EXPECT_THAT(FailureTextOf([&] { static_cast<void>(postgres::CheckDatabase(database.Uri())); }),
+              HasSubstr("no calendar database"));
+}
+
+TEST(PostgresCheck, EveryChangeOfTheSchemaIsFound) {
+  const std::vector<std::pair<std::string, std::string>> changes = {
+      {"DROP INDEX ferrowind.CldHolidayNamesDiffer", "index cldholidaynamesdiffer is missing"},
+      {"ALTER TABLE ferrowind.CldDay DROP CONSTRAINT cldday_day1_check",
+       "constraint cldday.cldday_day1_check is missing"},
+      {"ALTER TABLE ferrowind.CldDay ADD Extra integer", "column cldday.extra does not belong"},
+      {"ALTER TABLE ferrowind.CldDay ALTER ODate DROP NOT NULL", "column cldday.odate is not this program's"},
+      {"CREATE TABLE ferrowind.Stray (a integer)", "table stray does not belong"},
+      {"DROP VIEW ferrowind.CalendarDay", "view calendarday is missing"},
+      {"DROP PROCEDURE ferrowind.CldGetMain", "routine cldgetmain"},
+      {"ALTER PROCEDURE ferrowind.CldIUMain SECURITY INVOKER", "routine cldiumain"},
+      {"ALTER PROCEDURE ferrowind.CldIUMain RESET search_path", "routine cldiumain"},
+      {"GRANT SELECT ON ferrowind.CldDay TO PUBLIC", "table cldday is not this program's"},
+      {"GRANT EXECUTE ON PROCEDURE ferrowind.CldAllInfo TO ferrowind_reader", "routine cldallinfo"},
+      {"GRANT CREATE ON SCHEMA ferrowind TO ferrowind_operator", "schema ferrowind is not this program's"},
+      {"ALTER TABLE ferrowind.CldDay OWNER TO postgres", "table cldday is not this program's"},
+      {"UPDATE ferrowind.SchemaVersion SET Version = 2", "schema version 2"},
+  };
+  for (const auto& [change, problem] : changes) {
+    PostgresDatabase database;
+    database.Execute(change);
+    EXPECT_THAT(postgres::CheckDatabase(postgres_server::SuperuserUri(database.Name())),
+                Contains(HasSubstr(problem)))
+        << change;
+  }
+}
+
+TEST(PostgresCheck, EveryWrongRowIsFound) {
+  PostgresDatabase database;
+  ProcedureCaller caller(database);
+  for (const int year : {2025, 2026}) {
+    ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", year}}), 0);
+  }
+  database.Execute(
+      "SET session_replication_role = replica;"
+      "DELETE FROM ferrowind.CldDay WHERE Year1 = 2025 AND Day1 = 100;"
+      "UPDATE ferrowind.CldDay SET ID2 = 77 WHERE Year1 = 2026 AND Day1 = 5;"
+      "INSERT INTO ferrowind.CldDay VALUES (840, 2026, 1, '2026-01-01', 1, NULL, NULL);"
+      "DELETE FROM ferrowind.CldHolidayType WHERE TID1 = 4");
+  EXPECT_THAT(postgres::CheckDatabase(postgres_server::SuperuserUri(database.Name())),
+              UnorderedElementsAre(HasSubstr("calendar 978 of 2025 has 364 days instead of 365"),
+                                   HasSubstr("rule 77, which does not exist"),
+                                   HasSubstr("calendar 840 that does not exist"),
+                                   HasSubstr("holiday type 4 is missing")));
+}
+
+}  // namespace
+}  // namespace ferrowind::contract

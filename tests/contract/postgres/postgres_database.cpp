@@ -1,0 +1,83 @@
+#include "tests/contract/postgres/postgres_database.h"
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/postgres/database_objects.h"
+
+#include "tests/contract/postgres/postgres_server.h"
+
+namespace ferrowind::contract {
+
+PostgresDatabase::PostgresDatabase() : name_(postgres_server::CreateEmptyDatabase()) {
+  postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(name_), false);
+  postgres_server::EnsureOperator();
+}
+
+PostgresDatabase::~PostgresDatabase() {
+  try {
+    postgres_server::DropDatabase(name_);
+  } catch (const std::exception& error) {
+    ADD_FAILURE() << error.what();
+  }
+}
+
+std::string PostgresDatabase::ConnectionString() { return postgres_server::OperatorUri(name_); }
+
+void PostgresDatabase::SetFirstDay(int first_day) {
+  Execute("UPDATE ferrowind.CldSetting SET FirstDay = " + std::to_string(first_day));
+}
+
+bool PostgresDatabase::IsSound() {
+  const auto problems = postgres::CheckDatabase(postgres_server::SuperuserUri(name_));
+  for (const auto& problem : problems) ADD_FAILURE() << problem;
+  return problems.empty();
+}
+
+void PostgresDatabase::Execute(const std::string& sql) { postgres_server::Execute(name_, sql); }
+
+std::unique_ptr<DatabaseUnderTest> MakePostgresProbes() {
+  auto database = std::make_unique<PostgresDatabase>();
+  database->Execute(R"(
+SET search_path = ferrowind;
+CREATE TABLE Probe (Position integer GENERATED ALWAYS AS IDENTITY, Small smallint, Number integer, Text text, Day date);
+
+CREATE PROCEDURE ProbeStore("Small" smallint, "Number" integer, "Text" text, "Day" date, INOUT "RETURN_VALUE" integer)
+LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp AS $$
+BEGIN
+  INSERT INTO Probe (Small, Number, Text, Day) VALUES ("Small", "Number", "Text", "Day");
+  "RETURN_VALUE" := 0;
+END $$;
+
+CREATE PROCEDURE ProbeLoad(INOUT "RETURN_VALUE" integer, INOUT "Rows" refcursor, INOUT "Counts" refcursor)
+LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp AS $$
+BEGIN
+  OPEN "Rows" FOR
+    SELECT Small AS "Small", Number AS "Number", Text AS "Text", Day AS "Day" FROM Probe ORDER BY Position;
+  OPEN "Counts" FOR SELECT count(*)::integer AS "Count" FROM Probe;
+  "RETURN_VALUE" := 0;
+END $$;
+
+CREATE PROCEDURE ProbeStoreAndReturn("Number" integer, "Outcome" integer, INOUT "RETURN_VALUE" integer,
+  INOUT "Rows" refcursor)
+LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp AS $$
+BEGIN
+  INSERT INTO Probe (Number) VALUES ("Number");
+  OPEN "Rows" FOR SELECT Number AS "Number" FROM Probe;
+  "RETURN_VALUE" := "Outcome";
+END $$;
+
+CREATE PROCEDURE ProbeStoreAndFail("Number" integer, INOUT "RETURN_VALUE" integer)
+LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp AS $$
+BEGIN
+  INSERT INTO Probe (Number) VALUES ("Number");
+  INSERT INTO NoSuchTable (Number) VALUES ("Number");
+  "RETURN_VALUE" := 0;
+END $$;
+
+REVOKE ALL ON ALL ROUTINES IN SCHEMA ferrowind FROM PUBLIC;
+GRANT EXECUTE ON PROCEDURE ProbeStore, ProbeLoad, ProbeStoreAndReturn, ProbeStoreAndFail TO ferrowind_operator;
+)");
+  return database;
+}
+
+}  // namespace ferrowind::contract

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "ferrowind/adapters/postgres/engine.h"
+
+#include "tests/contract/database/database_under_test.h"
+
+namespace ferrowind::contract {
+
+/// A new calendar database without delivered rules on the server of the test, dropped at the end. Calls log
+/// in as an operator.
+class PostgresDatabase : public CalendarDatabaseUnderTest {
+ public:
+  PostgresDatabase();
+  PostgresDatabase(const PostgresDatabase&) = delete;
+  PostgresDatabase& operator=(const PostgresDatabase&) = delete;
+  ~PostgresDatabase() override;
+
+  [[nodiscard]] platform::Engine& Engine() override { return engine_; }
+  [[nodiscard]] std::string ConnectionString() override;
+  void SetFirstDay(int first_day) override;
+  [[nodiscard]] bool IsSound() override;
+
+  [[nodiscard]] const std::string& Name() const { return name_; }
+  /// Runs SQL as the superuser.
+  void Execute(const std::string& sql);
+
+ private:
+  std::string name_;
+  postgres::Engine engine_;
+};
+
+/// A database on the server with the probe procedures.
+[[nodiscard]] std::unique_ptr<DatabaseUnderTest> MakePostgresProbes();
+
+}  // namespace ferrowind::contract

@@ -1,0 +1,127 @@
+#include <utility>
+
+#include "ferrowind/adapters/headless/headless_animation.h"
+#include "ferrowind/adapters/headless/headless_button.h"
+#include "ferrowind/adapters/headless/headless_date_picker.h"
+#include "ferrowind/adapters/headless/headless_drop_down_list.h"
+#include "ferrowind/adapters/headless/headless_grid.h"
+#include "ferrowind/adapters/headless/headless_text_box.h"
+#include "ferrowind/adapters/headless/headless_tool_bar.h"
+#include "ferrowind/adapters/headless/headless_tree.h"
+#include "ferrowind/adapters/headless/headless_up_down.h"
+#include "ferrowind/adapters/headless/world.h"
+
+#include "tests/contract/toolkit/toolkit_under_test.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using namespace headless;  // NOLINT: every second word here is one of its names.
+
+/// The headless control behind a port.
+template <typename Kind, typename Port>
+Kind& As(Port& port) {
+  return dynamic_cast<Kind&>(port);
+}
+
+class HeadlessToolkitUnderTest : public ToolkitUnderTest {
+ public:
+  HeadlessToolkitUnderTest() {
+    world_.toolkit.PlaceInside("fmContract", "fraBox", {"txtInside"});
+    world_.toolkit.RemoveLayout("fmNowhere");
+    world_.toolkit.AddAnimation("/component/Progress.pra");
+  }
+
+  [[nodiscard]] platform::Toolkit& Toolkit() override { return world_.toolkit; }
+  [[nodiscard]] std::string AnimatedImage() override { return "/component/Progress.pra"; }
+
+  void ShowModal(platform::Form& form, std::function<void()> operator_script) override {
+    world_.toolkit.ScriptModal(form.Name(),
+                               [script = std::move(operator_script)](HeadlessForm&) { script(); });
+    form.ShowModal();
+  }
+  void CloseByFrame(platform::Form& form) override { As<HeadlessForm>(form).CloseByOperator(); }
+  void ResizeByFrame(platform::Form& form, float width, float height) override {
+    As<HeadlessForm>(form).ResizeByOperator(width, height);
+  }
+  void PressEnter(platform::Form& form) override { As<HeadlessForm>(form).PressEnter(); }
+  void PressEscape(platform::Form& form) override { As<HeadlessForm>(form).PressEscape(); }
+
+  void Click(platform::Button& button) override {
+    // The headless operator refuses what a real one tries in vain.
+    if (button.Enabled()) As<HeadlessButton>(button).Click();
+  }
+  void TypeText(platform::TextBox& text_box, const std::string& text) override {
+    As<HeadlessTextBox>(text_box).TypeText(text);
+  }
+  void Choose(platform::DropDownList& list, const std::string& item) override {
+    As<HeadlessDropDownList>(list).ChooseByOperator(item);
+  }
+  void PickDate(platform::DatePicker& picker, const platform::Date& date) override {
+    As<HeadlessDatePicker>(picker).PickDate(date);
+  }
+  void StepUp(platform::UpDown& up_down) override { As<HeadlessUpDown>(up_down).StepUp(); }
+  void StepDown(platform::UpDown& up_down) override { As<HeadlessUpDown>(up_down).StepDown(); }
+
+  void ClickNode(platform::Tree& tree, const std::string& key) override {
+    As<HeadlessTree>(tree).ClickNode(key);
+  }
+  void ToggleNode(platform::Tree& tree, const std::string& key) override {
+    As<HeadlessTree>(tree).ToggleNode(key);
+  }
+
+  void ClickTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    As<HeadlessToolBar>(tool_bar).ClickTool(id);
+  }
+  void EnterTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    As<HeadlessToolBar>(tool_bar).EnterTool(id);
+  }
+  void LeaveTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    As<HeadlessToolBar>(tool_bar).LeaveTool(id);
+  }
+  void ShowPopupAndChoose(platform::ToolBar& tool_bar, const std::string& menu_id,
+                          const std::string& tool_id) override {
+    if (!tool_id.empty()) As<HeadlessToolBar>(tool_bar).ChooseFromNextPopup(tool_id);
+    tool_bar.ShowPopupMenu(menu_id);
+  }
+
+  void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) override {
+    if (button == platform::kRightButton) {
+      As<HeadlessGrid>(grid).RightClickRow(row);
+    } else {
+      As<HeadlessGrid>(grid).ClickRow(row);
+    }
+  }
+  void ToggleRow(platform::Grid& grid, std::int32_t row) override { As<HeadlessGrid>(grid).ToggleRow(row); }
+  void ToggleGroup(platform::Grid& grid, std::int32_t row) override {
+    As<HeadlessGrid>(grid).ToggleGroup(row);
+  }
+  void ClickHeader(platform::Grid& grid, const std::string& column_key) override {
+    As<HeadlessGrid>(grid).ClickHeader(column_key);
+  }
+  void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) override {
+    As<HeadlessGrid>(grid).DragHeaderToGroups(column_key);
+  }
+  void DragGroupAway(platform::Grid& grid, std::int32_t position) override {
+    As<HeadlessGrid>(grid).DragGroupAway(position);
+  }
+  [[nodiscard]] std::string CellText(platform::Grid& grid, std::int32_t row,
+                                     const std::string& column_key) override {
+    return As<HeadlessGrid>(grid).CellText(row, column_key);
+  }
+  [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
+    const GridRowStyle style = As<HeadlessGrid>(grid).RowStyle(row);
+    return {style.fore_color, style.bold, style.strike_through};
+  }
+
+ private:
+  World world_;
+};
+
+}  // namespace
+
+std::unique_ptr<ToolkitUnderTest> MakeToolkitUnderTest() {
+  return std::make_unique<HeadlessToolkitUnderTest>();
+}
+
+}  // namespace ferrowind::contract

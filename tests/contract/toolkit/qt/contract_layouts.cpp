@@ -1,0 +1,69 @@
+#include "tests/contract/toolkit/qt/contract_layouts.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "ferrowind/adapters/qt/controls/tree_view.h"
+#include "ferrowind/adapters/qt/controls/up_down_arrows.h"
+#include "ferrowind/adapters/qt/grid/grid_widget.h"
+
+namespace ferrowind::contract {
+namespace {
+
+template <typename Widget>
+Widget* Named(const char* name) {
+  auto* widget = new Widget;
+  widget->setObjectName(QLatin1String(name));
+  return widget;
+}
+
+void BuildContract(QDialog& window) {
+  auto* layout = new QVBoxLayout(&window);
+  layout->addWidget(Named<QToolBar>("ssatbTools"));
+  layout->addWidget(Named<QLineEdit>("txtText"));
+  layout->addWidget(Named<QLineEdit>("txtOther"));
+  layout->addWidget(Named<QPushButton>("cmdPush"));
+  layout->addWidget(Named<QLabel>("lblText"));
+  layout->addWidget(Named<QComboBox>("cmbList"));
+  layout->addWidget(Named<QDateEdit>("dtpDay"));
+  layout->addWidget(Named<qt::UpDownArrows>("udNumber"));
+  auto* frame = Named<QGroupBox>("fraBox");
+  (new QVBoxLayout(frame))->addWidget(Named<QLineEdit>("txtInside"));
+  layout->addWidget(frame);
+  layout->addWidget(Named<QFrame>("pctArea"));
+  auto* splitter = Named<QSplitter>("sssp");
+  splitter->addWidget(Named<qt::TreeView>("tvNodes"));
+  splitter->addWidget(Named<qt::GridWidget>("gexRows"));
+  splitter->setSizes({200, 600});
+  layout->addWidget(splitter, 1);
+  layout->addWidget(Named<QLabel>("anim"));
+  layout->addWidget(Named<QStatusBar>("sbLine"));
+}
+
+void BuildFixed(QDialog& window) {
+  auto* layout = new QVBoxLayout(&window);
+  layout->addWidget(Named<QLineEdit>("txtText"));
+  for (const char* name : {"cmdFirst", "cmdOk", "cmdCancel"}) layout->addWidget(Named<QPushButton>(name));
+}
+
+void BuildClosable(QDialog& window) { (new QVBoxLayout(&window))->addWidget(Named<QPushButton>("cmdOk")); }
+
+}  // namespace
+
+qt::FormLayouts ContractLayouts() {
+  qt::FormLayouts layouts;
+  layouts.Add("fmContract", BuildContract);
+  layouts.Add("fmContractFixed", BuildFixed);
+  layouts.Add("fmContractClosable", BuildClosable);
+  return layouts;
+}
+
+}  // namespace ferrowind::contract

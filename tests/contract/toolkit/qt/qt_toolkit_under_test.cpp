@@ -1,0 +1,210 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/controls/tree_model.h"
+#include "ferrowind/adapters/qt/controls/tree_view.h"
+#include "ferrowind/adapters/qt/forms/qt_toolkit.h"
+#include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/adapters/qt/values/twips.h"
+
+#include "tests/contract/toolkit/qt/contract_layouts.h"
+#include "tests/contract/toolkit/qt/grid_operator.h"
+#include "tests/contract/toolkit/toolkit_under_test.h"
+
+namespace ferrowind::contract {
+namespace {
+
+constexpr int kPollMilliseconds = 5;
+constexpr int kPatienceMilliseconds = 20000;
+
+template <typename Widget>
+Widget& WidgetOf(platform::Element& element) {
+  return dynamic_cast<Widget&>(dynamic_cast<qt::WidgetElement&>(element).ElementWidget());
+}
+
+/// Runs `action` in the event loop as soon as `is_ready`; gives up, with `give_up`, when that takes too long.
+class WhenReady {
+ public:
+  WhenReady(std::function<bool()> is_ready, std::function<void()> action, std::function<void()> give_up) {
+    poll_.setInterval(kPollMilliseconds);
+    QObject::connect(&poll_, &QTimer::timeout, [=, this] {
+      if (is_ready()) {
+        poll_.stop();
+        action();
+      } else if (++polls_ > kPatienceMilliseconds / kPollMilliseconds) {
+        poll_.stop();
+        ADD_FAILURE() << "What the operator waited for did not appear";
+        give_up();
+      }
+    });
+    poll_.start();
+  }
+
+ private:
+  QTimer poll_;
+  int polls_ = 0;
+};
+
+class QtToolkitUnderTest : public ToolkitUnderTest {
+ public:
+  QtToolkitUnderTest() : toolkit_(ContractLayouts()) {}
+  ~QtToolkitUnderTest() override {
+    // The windows of dropped forms go from the event loop, which a test does not return to.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  [[nodiscard]] platform::Toolkit& Toolkit() override { return toolkit_; }
+  [[nodiscard]] std::string AnimatedImage() override { return FERROWIND_ANIMATION; }
+
+  void ShowModal(platform::Form& form, std::function<void()> operator_script) override {
+    const WhenReady ready([&] { return form.IsShown(); }, std::move(operator_script), [&] { form.Hide(); });
+    form.ShowModal();
+  }
+  void CloseByFrame(platform::Form& form) override { WidgetOf<QWidget>(form).close(); }
+  void ResizeByFrame(platform::Form& form, float width, float height) override {
+    auto& window = WidgetOf<QWidget>(form);
+    const QSize frame = window.frameGeometry().size() - window.size();
+    window.resize(QSize(qt::PixelsX(width), qt::PixelsY(height)) - frame);
+  }
+  void PressEnter(platform::Form& form) override { PressKey(form, Qt::Key_Return); }
+  void PressEscape(platform::Form& form) override { PressKey(form, Qt::Key_Escape); }
+
+  void Click(platform::Button& button) override {
+    auto& widget = WidgetOf<QWidget>(button);
+    Activate(widget);
+    QTest::mouseClick(&widget, Qt::LeftButton);
+  }
+  void TypeText(platform::TextBox& text_box, const std::string& text) override {
+    auto& line = WidgetOf<QLineEdit>(text_box);
+    Activate(line);
+    line.setFocus();
+    if (!line.hasSelectedText()) line.end(false);
+    // By Unicode characters, for which the keyboard simulation has no key codes.
+    for (const QChar character : qt::ToQt(text))
+      QTest::sendKeyEvent(QTest::Click, &line, Qt::Key_unknown, character, {});
+  }
+  void Choose(platform::DropDownList& list, const std::string& item) override {
+    auto& box = WidgetOf<QComboBox>(list);
+    Activate(box);
+    box.setFocus();
+    QTest::keyClicks(&box, qt::ToQt(item));
+  }
+  void PickDate(platform::DatePicker& picker, const platform::Date& date) override {
+    auto& edit = WidgetOf<QDateEdit>(picker);
+    Activate(edit);
+    edit.setFocus();
+    edit.setSelectedSection(QDateTimeEdit::DaySection);
+    const int days = date.Day() - edit.date().day();
+    for (int day = 0; day < days; ++day) QTest::keyClick(&edit, Qt::Key_Up);
+  }
+  void StepUp(platform::UpDown& up_down) override {
+    QTest::mouseClick(Arrows(up_down).at(0), Qt::LeftButton);
+  }
+  void StepDown(platform::UpDown& up_down) override {
+    QTest::mouseClick(Arrows(up_down).at(1), Qt::LeftButton);
+  }
+
+  void ClickNode(platform::Tree& tree, const std::string& key) override {
+    auto& view = WidgetOf<qt::TreeView>(tree);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(NodeOf(view, key)).center());
+  }
+  void ToggleNode(platform::Tree& tree, const std::string& key) override {
+    auto& view = WidgetOf<qt::TreeView>(tree);
+    const QRect text = view.visualRect(NodeOf(view, key));
+    const QPoint decoration(text.left() - view.indentation() / 2, text.center().y());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, decoration);
+  }
+
+  void ClickTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    QTest::mouseClick(ToolButton(tool_bar, id), Qt::LeftButton);
+  }
+  void EnterTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QCoreApplication::sendEvent(ToolButton(tool_bar, id), &enter);
+  }
+  void LeaveTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(ToolButton(tool_bar, id), &leave);
+  }
+  void ShowPopupAndChoose(platform::ToolBar& tool_bar, const std::string& menu_id,
+                          const std::string& tool_id) override {
+    const auto menu = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+    const WhenReady ready([&] { return menu() != nullptr; }, [&] { ChooseInMenu(*menu(), tool_id); }, [] {});
+    tool_bar.ShowPopupMenu(menu_id);
+  }
+
+  void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) override {
+    GridOperator(grid).ClickRow(row, button == platform::kRightButton ? Qt::RightButton : Qt::LeftButton, {});
+  }
+  void ToggleRow(platform::Grid& grid, std::int32_t row) override {
+    GridOperator(grid).ClickRow(row, Qt::LeftButton, Qt::ControlModifier);
+  }
+  void ToggleGroup(platform::Grid& grid, std::int32_t row) override { GridOperator(grid).ToggleGroup(row); }
+  void ClickHeader(platform::Grid& grid, const std::string& column_key) override {
+    GridOperator(grid).ClickHeader(column_key);
+  }
+  void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) override {
+    GridOperator(grid).DragHeaderToGroups(column_key);
+  }
+  void DragGroupAway(platform::Grid& grid, std::int32_t position) override {
+    GridOperator(grid).DragGroupAway(position);
+  }
+  [[nodiscard]] std::string CellText(platform::Grid& grid, std::int32_t row,
+                                     const std::string& column_key) override {
+    return GridOperator(grid).CellText(row, column_key);
+  }
+  [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
+    return GridOperator(grid).LookOf(row);
+  }
+
+ private:
+  static void Activate(QWidget& widget) {
+    widget.window()->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(widget.window()));
+  }
+  static void PressKey(platform::Form& form, Qt::Key key) {
+    auto& window = WidgetOf<QWidget>(form);
+    Activate(window);
+    QWidget* focused = window.focusWidget();
+    QTest::keyClick(focused != nullptr ? focused : &window, key);
+  }
+  static QList<QToolButton*> Arrows(platform::UpDown& up_down) {
+    return WidgetOf<QWidget>(up_down).findChildren<QToolButton*>();
+  }
+  static QModelIndex NodeOf(const qt::TreeView& view, const std::string& key) {
+    return dynamic_cast<const qt::TreeModel&>(*view.model()).Find(key);
+  }
+  static QToolButton* ToolButton(platform::ToolBar& tool_bar, const std::string& id) {
+    return WidgetOf<QWidget>(tool_bar).findChild<QToolButton*>(qt::ToQt(id));
+  }
+  static void ChooseInMenu(QMenu& menu, const std::string& tool_id) {
+    if (tool_id.empty()) {
+      QTest::keyClick(&menu, Qt::Key_Escape);
+      return;
+    }
+    for (QAction* action : menu.actions()) {
+      if (action->objectName() != qt::ToQt(tool_id)) continue;
+      QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+      return;
+    }
+  }
+
+  qt::QtToolkit toolkit_;
+};
+
+}  // namespace
+
+std::unique_ptr<ToolkitUnderTest> MakeToolkitUnderTest() { return std::make_unique<QtToolkitUnderTest>(); }
+
+}  // namespace ferrowind::contract

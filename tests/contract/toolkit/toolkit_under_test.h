@@ -1,0 +1,96 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "ferrowind/platform/toolkit/animation.h"
+#include "ferrowind/platform/toolkit/button.h"
+#include "ferrowind/platform/toolkit/date_picker.h"
+#include "ferrowind/platform/toolkit/drop_down_list.h"
+#include "ferrowind/platform/toolkit/form.h"
+#include "ferrowind/platform/toolkit/grid.h"
+#include "ferrowind/platform/toolkit/label.h"
+#include "ferrowind/platform/toolkit/status_bar.h"
+#include "ferrowind/platform/toolkit/text_box.h"
+#include "ferrowind/platform/toolkit/tool_bar.h"
+#include "ferrowind/platform/toolkit/toolkit.h"
+#include "ferrowind/platform/toolkit/tree.h"
+#include "ferrowind/platform/toolkit/up_down.h"
+
+namespace ferrowind::contract {
+
+/// How a row of a grid looks because of its conditional formats.
+struct RowLook {
+  /// Nothing while no format sets one.
+  std::optional<platform::Color> fore_color;
+  bool bold = false;
+  bool strike_through = false;
+};
+
+/// One adapter of the toolkit port, and an operator who uses it. A new one is made for every test.
+///
+/// The adapter has layouts for the forms of contract_forms.h. The operator's methods play real input as far
+/// as the adapter can; the form that they touch is shown and takes input. They return once the input is
+/// handled.
+class ToolkitUnderTest {
+ public:
+  virtual ~ToolkitUnderTest() = default;
+
+  [[nodiscard]] virtual platform::Toolkit& Toolkit() = 0;
+  /// The path of an animated image that the adapter can play.
+  [[nodiscard]] virtual std::string AnimatedImage() = 0;
+
+  /// Calls `ShowModal` of the form and runs `operator_script` while the form is on show. The script hides or
+  /// unloads it, or makes the component do so. May be called by such a script for another form.
+  virtual void ShowModal(platform::Form& form, std::function<void()> operator_script) = 0;
+  /// Closes the form by its frame, or tries to where the frame offers no closing.
+  virtual void CloseByFrame(platform::Form& form) = 0;
+  /// Gives the form another outer size, in twips, by its frame.
+  virtual void ResizeByFrame(platform::Form& form, float width, float height) = 0;
+  virtual void PressEnter(platform::Form& form) = 0;
+  virtual void PressEscape(platform::Form& form) = 0;
+
+  /// Clicks the button, whether it is enabled or not.
+  virtual void Click(platform::Button& button) = 0;
+  /// Goes to the text box and types behind its text, or in place of the selected text.
+  virtual void TypeText(platform::TextBox& text_box, const std::string& text) = 0;
+  virtual void Choose(platform::DropDownList& list, const std::string& item) = 0;
+  virtual void PickDate(platform::DatePicker& picker, const platform::Date& date) = 0;
+  virtual void StepUp(platform::UpDown& up_down) = 0;
+  virtual void StepDown(platform::UpDown& up_down) = 0;
+
+  virtual void ClickNode(platform::Tree& tree, const std::string& key) = 0;
+  /// Expands a collapsed node and collapses an expanded one; the node has children.
+  virtual void ToggleNode(platform::Tree& tree, const std::string& key) = 0;
+
+  virtual void ClickTool(platform::ToolBar& tool_bar, const std::string& id) = 0;
+  /// Moves the mouse onto the tool of the bar and away again.
+  virtual void EnterTool(platform::ToolBar& tool_bar, const std::string& id) = 0;
+  virtual void LeaveTool(platform::ToolBar& tool_bar, const std::string& id) = 0;
+  /// Calls `ShowPopupMenu` and chooses that tool, or dismisses the menu where `tool_id` is empty.
+  virtual void ShowPopupAndChoose(platform::ToolBar& tool_bar, const std::string& menu_id,
+                                  const std::string& tool_id) = 0;
+
+  /// Clicks a row with `kLeftButton` or `kRightButton`.
+  virtual void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) = 0;
+  /// Clicks a row with the left button while the Ctrl key is held.
+  virtual void ToggleRow(platform::Grid& grid, std::int32_t row) = 0;
+  /// Expands a collapsed group row and collapses an expanded one.
+  virtual void ToggleGroup(platform::Grid& grid, std::int32_t row) = 0;
+  virtual void ClickHeader(platform::Grid& grid, const std::string& column_key) = 0;
+  /// Drags a column's header into the group-by box, which is on show, behind the headers there.
+  virtual void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) = 0;
+  /// Drags the header at the 1-based position out of the group-by box.
+  virtual void DragGroupAway(platform::Grid& grid, std::int32_t position) = 0;
+  /// What stands in a cell of a record's row.
+  [[nodiscard]] virtual std::string CellText(platform::Grid& grid, std::int32_t row,
+                                             const std::string& column_key) = 0;
+  [[nodiscard]] virtual RowLook LookOf(platform::Grid& grid, std::int32_t row) = 0;
+};
+
+/// Supplied by each adapter that the suite is built for.
+[[nodiscard]] std::unique_ptr<ToolkitUnderTest> MakeToolkitUnderTest();
+
+}  // namespace ferrowind::contract

@@ -1,0 +1,76 @@
+"""Runs the built ferrowindctl as its users do, in a folder of its own."""
+
+import json
+import os
+import pathlib
+import shutil
+import sqlite3
+import subprocess
+import tempfile
+import unittest
+
+PROGRAM = os.environ["FERROWINDCTL"]
+
+DONE, NOT_DONE, RETURNED_NON_ZERO, CALL_FAILED = range(4)
+
+
+def run(*arguments, **options):
+    return subprocess.run([PROGRAM, *map(str, arguments)], stdout=options.pop("stdout", subprocess.PIPE),
+                          stderr=subprocess.PIPE, timeout=120, **options)
+
+
+class InAFolder(unittest.TestCase):
+    """A test with an empty folder, and what every test of the program asks again and again."""
+
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="ferrowindctl-"))
+        self.addCleanup(shutil.rmtree, self.folder)
+
+    def path(self, name="a.db"):
+        return self.folder / name
+
+    def url(self, name="a.db"):
+        return f"sqlite:{self.path(name)}"
+
+    def assert_run(self, status, *arguments, **options):
+        """Runs the program, which must end with that status; its output as text without decoding its line ends."""
+        result = run(*arguments, **options)
+        errors = result.stderr.decode()
+        self.assertEqual(result.returncode, status, errors)
+        self.assertNotIn("Sanitizer", errors)
+        # A failed call still prints its return value; a check that found faults prints them and nothing else.
+        says_why = status == CALL_FAILED or (status == NOT_DONE and not result.stdout)
+        self.assertEqual(bool(errors), says_why, errors)
+        return (result.stdout or b"").decode(), errors
+
+    def call(self, procedure, *arguments, name="a.db"):
+        """The record sets of a call that returns 0, each a list of dictionaries."""
+        output, _ = self.assert_run(DONE, "call", self.url(name), procedure, *arguments, "--format", "json")
+        document = json.loads(output)
+        self.assertEqual(document["return"], 0)
+        return [[dict(zip(rows["fields"], row)) for row in rows["rows"]] for rows in document["results"]]
+
+    def open_from_outside(self, name="a.db"):
+        """The database without the program's rules, for a test that looks into it or damages it."""
+        database = sqlite3.connect(self.path(name), isolation_level=None)
+        self.addCleanup(database.close)
+        # Good enough for names that differ: the tests do not depend on how the program orders them.
+        database.create_collation("FERROWIND_NAME", lambda left, right: (left > right) - (left < right))
+        return database
+
+
+class WithADeliveredDatabase(InAFolder):
+    """A test on a copy of one database that the program delivered."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.original = pathlib.Path(tempfile.mkdtemp(prefix="ferrowindctl-")) / "delivered.db"
+        cls.addClassCleanup(shutil.rmtree, cls.original.parent)
+        result = run("init", f"sqlite:{cls.original}")
+        if result.returncode != DONE:
+            raise AssertionError(result.stderr.decode())
+
+    def setUp(self):
+        super().setUp()
+        shutil.copy2(self.original, self.path())

@@ -1,0 +1,102 @@
+#include "ferrowind/adapters/qt/services/settings_store.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::qt {
+namespace {
+
+using platform::Value;
+
+class SettingsStoreTest : public ::testing::Test {
+ protected:
+  void WriteFile(const QByteArray& content) {
+    QFile file(path_);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+  [[nodiscard]] SettingsStore Store() const { return SettingsStore(path_.toStdString()); }
+
+  QTemporaryDir folder_;
+  QString path_ = folder_.filePath("settings.ini");
+};
+
+TEST_F(SettingsStoreTest, KeepsAValueForLaterStores) {
+  Store().Write("\\Tessaro\\Calendar\\Window", "Left", 1500.0F);
+  EXPECT_EQ(Store().Read("\\Tessaro\\Calendar\\Window", "Left"), Value(1500.0F));
+}
+
+TEST_F(SettingsStoreTest, HasNothingUnderANameThatWasNeverWritten) {
+  Store().Write("Section", "Left", "x");
+  EXPECT_EQ(Store().Read("Section", "Top"), std::nullopt);
+  EXPECT_EQ(Store().Read("Other", "Left"), std::nullopt);
+}
+
+TEST_F(SettingsStoreTest, IgnoresOuterBackslashesOfASection) {
+  Store().Write("\\Tessaro\\Calendar", "Left", "x");
+  EXPECT_EQ(Store().Read("Tessaro\\Calendar\\", "Left"), Value("x"));
+}
+
+TEST_F(SettingsStoreTest, TellsSectionsApartWhoseNamesHoldSlashes) {
+  Store().Write("A/B", "Left", "slash");
+  Store().Write("A\\B", "Left", "levels");
+  EXPECT_EQ(Store().Read("A/B", "Left"), Value("slash"));
+  EXPECT_EQ(Store().Read("A\\B", "Left"), Value("levels"));
+}
+
+TEST_F(SettingsStoreTest, KeepsAnyText) {
+  using namespace std::string_literals;
+  const std::string text = "line\r\nnext, \"quoted\"; \\ \0 \xC3\xA4 \xE2\x82\xAC"s;
+  Store().Write("Section", "Text", text);
+  EXPECT_EQ(Store().Read("Section", "Text"), Value(text));
+}
+
+TEST_F(SettingsStoreTest, ReadsATextWithCommasThatWasWrittenByHand) {
+  WriteFile("[Section]\nText=a, b\n");
+  EXPECT_EQ(Store().Read("Section", "Text"), Value("a,b"));
+}
+
+TEST_F(SettingsStoreTest, ReadsANumberThatWasWrittenByHandAsText) {
+  WriteFile("[Section]\nLeft=300\n");
+  EXPECT_EQ(Store().Read("Section", "Left"), Value("300"));
+}
+
+TEST_F(SettingsStoreTest, HasNothingWhereTheStoredValueIsNoText) {
+  WriteFile(
+      "[Section]\nLeft=@ByteArray(\\0\\x1)\nTop=@Variant(\\0\\0\\0\\x7f\\0)\nWidth=@Rect(1 2 3 "
+      "4)\nHeight=@Invalid()\n");
+  for (const char* name : {"Left", "Top", "Width", "Height"}) {
+    EXPECT_EQ(Store().Read("Section", name), std::nullopt) << name;
+  }
+}
+
+TEST_F(SettingsStoreTest, LivesWithDamagedFiles) {
+  for (const QByteArray& content :
+       {QByteArrayLiteral("\x00\xff\xfe garbage ]][[\n=\n@Variant("), QByteArray("[Section\nLeft"),
+        QByteArray(100000, '['), QByteArray("[Section]\nLeft=@Variant(\\0\\0\\0")}) {
+    WriteFile(content);
+    EXPECT_NO_THROW(static_cast<void>(Store().Read("Section", "Left")));
+    Store().Write("Section", "Left", "again");
+    EXPECT_EQ(Store().Read("Section", "Left"), Value("again"));
+  }
+}
+
+TEST_F(SettingsStoreTest, NamesItselfWhenItCannotBeWritten) {
+  // A folder in the file's place cannot be written by anyone, root included.
+  ASSERT_TRUE(QDir().mkpath(path_));
+  try {
+    Store().Write("Section", "Left", "x");
+    ADD_FAILURE() << "A setting was written into a folder";
+  } catch (const platform::Failure& failure) {
+    EXPECT_NE(failure.Description().find(path_.toStdString()), std::string::npos) << failure.Description();
+    EXPECT_NE(failure.Description().find("Left"), std::string::npos) << failure.Description();
+  }
+}
+
+}  // namespace
+}  // namespace ferrowind::qt

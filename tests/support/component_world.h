@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ferrowind/adapters/headless/world.h"
+#include "ferrowind/data/module_state.h"
+
+namespace ferrowind::testing {
+
+/// The component started in a headless world, with its outside objects made. Make one on a fresh thread.
+class ComponentWorld {
+ public:
+  ComponentWorld() {
+    AttachPlatform(platform);
+    EnsureDictionaryObject();
+    static_cast<void>(SharedServicesObject());
+    world.log.Clear();
+  }
+
+  /// The messages and the reported failures, as the log writes them, in the order in which the operator saw
+  /// them.
+  [[nodiscard]] std::vector<std::string> SeenByOperator() const {
+    std::vector<std::string> seen;
+    for (const auto& call : world.log.Calls()) {
+      if (call.starts_with("services.ShowMessage(") || call.starts_with("services.ReportError(")) {
+        seen.push_back(call);
+      }
+    }
+    return seen;
+  }
+
+  headless::World world;
+  const platform::Platform platform = world.Platform();
+};
+
+/// A numbered message as `SeenByOperator` writes it.
+[[nodiscard]] inline std::string NumberedMessage(const std::string& message) {
+  return "services.ShowMessage(\"Tessaro Calendar. " + message + R"(", 3, 1, 1, none, "", True, True))";
+}
+
+}  // namespace ferrowind::testing

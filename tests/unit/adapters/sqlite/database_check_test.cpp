@@ -1,0 +1,115 @@
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/sqlite/database_file.h"
+
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/database/sqlite_database.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+using contract::ProcedureCaller;
+using contract::SqliteDatabase;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+class DatabaseCheckTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_EQ(ProcedureCaller(database_).Return("CldIUMain", {{"ID1", 978}, {"Year1", 2024}}), 0);
+    ASSERT_THAT(CheckDatabase(database_.Path()), IsEmpty());
+  }
+
+  /// The problems after the database was changed by someone who turned off its constraints.
+  std::vector<std::string> ProblemsAfter(const std::string& sql) {
+    database_.Execute("PRAGMA foreign_keys = OFF; PRAGMA ignore_check_constraints = ON; " + sql);
+    return CheckDatabase(database_.Path());
+  }
+
+  SqliteDatabase database_;
+};
+
+TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 2"),
+              ElementsAre("The database has the schema version 2; this program's is 1"));
+}
+
+TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {
+  EXPECT_THAT(
+      ProblemsAfter("DELETE FROM ProcedureParameter WHERE ProcedureName = 'CldGetMain';"
+                    "DELETE FROM ProcedureCatalogue WHERE Name = 'CldGetMain';"
+                    "UPDATE ProcedureCatalogue SET Body = 'SELECT 1' WHERE Name = 'CldAllInfo';"
+                    "UPDATE ProcedureParameter SET Type = 'int16' WHERE Name = '@TID1' AND "
+                    "ProcedureName = 'CldIUMain'"),
+      ElementsAre("The procedure CldAllInfo is not this program's", "The procedure CldGetMain is missing",
+                  "The procedure CldIUMain is not this program's"));
+}
+
+TEST_F(DatabaseCheckTest, FindsMissingAndForeignPartsOfTheSchema) {
+  const auto problems = ProblemsAfter(
+      "DROP INDEX CldSettingHasOneRow; CREATE TRIGGER Extra AFTER INSERT ON CldDay BEGIN SELECT 1; END");
+  EXPECT_THAT(problems, ElementsAre("The index CldSettingHasOneRow is missing",
+                                    "The trigger Extra does not belong to the schema"));
+}
+
+TEST_F(DatabaseCheckTest, GoesOnWhenATableIsMissing) {
+  const auto problems = ProblemsAfter("DROP TABLE CldSetting; DELETE FROM CldDay WHERE Day1 = 60");
+  EXPECT_THAT(problems, Contains("The table CldSetting is missing"));
+  EXPECT_THAT(problems, Contains("The calendar 978 of 2024 has 365 days instead of 366"));
+}
+
+TEST_F(DatabaseCheckTest, FindsMissingTypesAndRules) {
+  EXPECT_THAT(
+      ProblemsAfter("DELETE FROM CldHolidayType WHERE TID1 = 3; DELETE FROM CldHoliday"),
+      ElementsAre("The holiday type 3 is missing", "The built-in rule 1, a rule of type 1, is missing"));
+}
+
+TEST_F(DatabaseCheckTest, FindsAMissingSetting) {
+  EXPECT_THAT(ProblemsAfter("DELETE FROM CldSetting"), ElementsAre("CldSetting has 0 rows instead of one"));
+}
+
+TEST_F(DatabaseCheckTest, FindsACalendarWithoutItsDays) {
+  EXPECT_THAT(ProblemsAfter("DELETE FROM CldDay WHERE Day1 = 366"),
+              ElementsAre("The calendar 978 of 2024 has 365 days instead of 366"));
+  EXPECT_THAT(ProblemsAfter("DELETE FROM CldDay"),
+              ElementsAre("The calendar 978 of 2024 has 0 days instead of 366"));
+}
+
+TEST_F(DatabaseCheckTest, FindsACalendarOfNoCurrency) {
+  EXPECT_THAT(ProblemsAfter("UPDATE DicCcy SET CcyType = 1 WHERE CcyID = 978"),
+              ElementsAre("The calendar 978 of 2024 is of no currency"));
+}
+
+TEST_F(DatabaseCheckTest, FindsDaysOfNoCalendar) {
+  EXPECT_THAT(ProblemsAfter("DELETE FROM CldCalendar"),
+              Contains("The day 366 of 2024 is of a calendar 978 that does not exist"));
+}
+
+TEST_F(DatabaseCheckTest, FindsADayWithAnotherDate) {
+  EXPECT_THAT(ProblemsAfter("UPDATE CldDay SET ODate = '2024-03-01' WHERE Day1 = 60"),
+              Contains("The day 60 of the calendar 978 of 2024 has the date 2024-03-01"));
+}
+
+TEST_F(DatabaseCheckTest, FindsADayWhoseRuleDoesNotExistOrIsOfAnotherType) {
+  EXPECT_THAT(
+      ProblemsAfter("UPDATE CldDay SET TID1 = 2, ID2 = 99 WHERE Day1 = 5"),
+      Contains("The day 5 of the calendar 978 of 2024 has the type 2 and the rule 99, which does not exist"));
+  EXPECT_THAT(ProblemsAfter("UPDATE CldDay SET TID1 = 3, ID2 = 1 WHERE Day1 = 5"),
+              Contains("The day 5 of the calendar 978 of 2024 has the type 3 and the rule 1 of type 1"));
+  EXPECT_THAT(ProblemsAfter("UPDATE CldDay SET TID1 = 4, ID2 = NULL WHERE Day1 = 5"),
+              Contains("The day 5 of the calendar 978 of 2024 has the type 4 without a rule"));
+}
+
+TEST_F(DatabaseCheckTest, FindsWhatTheConstraintsWouldHaveRefused) {
+  EXPECT_THAT(ProblemsAfter("UPDATE CldHoliday SET Del = 2"),
+              Contains(HasSubstr("CHECK constraint failed in CldHoliday")));
+}
+
+}  // namespace
+}  // namespace ferrowind::sqlite

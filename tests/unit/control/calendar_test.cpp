@@ -1,0 +1,416 @@
+#include "ferrowind/control/calendar.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/headless/headless_form.h"
+#include "ferrowind/adapters/headless/world.h"
+#include "ferrowind/data/module_state.h"
+
+#include "tests/support/expect_failure.h"
+#include "tests/support/run_in_fresh_thread.h"
+#include "tests/unit/control/fake_control_surroundings.h"
+
+namespace ferrowind {
+namespace {
+
+using headless::World;
+using platform::Failure;
+using platform::Value;
+using testing::CalendarOfFakeWindows;
+using testing::ExpectFailure;
+using testing::FakeSite;
+using testing::FakeWindow;
+using testing::RunInFreshThread;
+
+constexpr std::int32_t kComponentErrorNumber = -2147220904;
+constexpr const char* kTooLate = "Property is accessed only before show method";
+
+struct ControlWorld {
+  ControlWorld() {
+    world.dictionary->SetCurrencies({{978, "EUR"}});
+    world.commands.Answer("CldAllInfo")
+        .Gives({"ID1", "Year1"}, {{978, 2026}})
+        .Gives({"TID1", "Description1"},
+               {{1, "Working day"}, {2, "Holiday"}, {3, "Celebration"}, {4, "Holiday point"}});
+  }
+  [[nodiscard]] headless::HeadlessForm& Window() const { return world.toolkit.FormNamed("fmCalendar"); }
+  World world;
+  platform::Platform platform = world.Platform();
+};
+
+void ExpectMapsClosed(Calendar& calendar) {
+  ExpectFailure([&] { static_cast<void>(calendar.Headers()); }, kComponentErrorNumber, kTooLate);
+  ExpectFailure([&] { static_cast<void>(calendar.HolidayHeaders()); }, kComponentErrorNumber, kTooLate);
+}
+
+// Start
+// ---------------------------------------------------------------------------------------------------------
+
+TEST(Calendar, FillsBothMapsWithNineConstantColumns) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    for (const auto& map : {calendar.Headers(), calendar.HolidayHeaders()}) {
+      ASSERT_EQ(map->Count(), 9);
+      for (std::int32_t i = 1; i <= 9; ++i) EXPECT_TRUE(map->Fields(i)->IsConst());
+    }
+    EXPECT_EQ(calendar.Headers()->Fields(1)->FieldName(), "ODate");
+    EXPECT_EQ(calendar.HolidayHeaders()->Fields(1)->FieldName(), "Name1");
+  });
+}
+
+TEST(Calendar, GivesTheSameMapsEachTimeAndEachControlItsOwn) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar first(control.platform);
+    Calendar second(control.platform);
+    EXPECT_EQ(first.Headers(), first.Headers());
+    EXPECT_EQ(first.HolidayHeaders(), first.HolidayHeaders());
+    EXPECT_NE(first.Headers(), first.HolidayHeaders());
+    EXPECT_NE(first.Headers(), second.Headers());
+  });
+}
+
+TEST(Calendar, CreatesTheDictionaryObjectOncePerThreadAndNeverReleasesIt) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    { const Calendar first(control.platform); }
+    EXPECT_NE(Module().dictionary, nullptr);
+    const Calendar second(control.platform);
+    EXPECT_EQ(control.world.log.CountOf(R"(objects.CreateObject("TessaroDicInProc.DictionaryClass"))"), 1u);
+  });
+}
+
+TEST(Calendar, ShowsThatTheDictionaryObjectCannotBeCreatedAndGoesOn) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.objects.RegisterFailing(platform::kDictionaryIdentifier,
+                                          Failure(462, "Server unavailable"));
+    Calendar calendar(control.platform);
+    EXPECT_THAT(control.world.log.StartingWith("services."),
+                ::testing::ElementsAre(
+                    R"(services.ShowMessage("Error activate dictionary object. Error Number 462.\r\n)"
+                    R"(Server unavailable", 1, 1, 1, none, "", True, True))"));
+    EXPECT_EQ(control.world.services->Messages().at(0).text,
+              "Error activate dictionary object. Error Number 462.\r\nServer unavailable");
+    EXPECT_EQ(Module().dictionary, nullptr);
+    EXPECT_EQ(calendar.Headers()->Count(), 9);
+    EXPECT_EQ(calendar.HolidayHeaders()->Count(), 9);
+  });
+}
+
+TEST(Calendar, TriesTheDictionaryObjectAgainForTheNextControl) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.faults.FailAtCall(1);
+    const Calendar first(control.platform);
+    EXPECT_EQ(Module().dictionary, nullptr);
+    const Calendar second(control.platform);
+    EXPECT_NE(Module().dictionary, nullptr);
+  });
+}
+
+TEST(Calendar, SurvivesAStartWithoutAnyOutsideObject) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.objects.Unregister(platform::kDictionaryIdentifier);
+    control.world.objects.Unregister(platform::kSharedServicesIdentifier);
+    Calendar calendar(control.platform);
+    calendar.Show();
+    EXPECT_TRUE(calendar.ForceClosing());
+  });
+}
+
+TEST(Calendar, VersionHasFiveElementsOfWhichTheLastIsEmpty) {
+  const auto version = Calendar::Version();
+  ASSERT_EQ(version.size(), 5u);
+  EXPECT_EQ(version[0], Value("Ferrowind"));
+  EXPECT_EQ(version[1], Value(std::int16_t{1}));
+  EXPECT_EQ(version[2], Value(std::int16_t{2}));
+  EXPECT_EQ(version[3], Value(std::int16_t{10}));
+  EXPECT_TRUE(version[4].IsEmpty());
+}
+
+// Show
+// ----------------------------------------------------------------------------------------------------------
+
+TEST(Calendar, ShowHandsOverTheDayMapFirstAndShowsTheWindowThatIsReady) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    const auto headers = calendar.Headers();
+    const auto holiday_headers = calendar.HolidayHeaders();
+    calendar.Show();
+    ASSERT_EQ(calendar.windows.size(), 1u);
+    const auto window = calendar.windows[0].lock();
+    EXPECT_EQ(window->headers, headers);
+    EXPECT_EQ(window->holiday_headers, holiday_headers);
+    EXPECT_EQ(window->show_count, 1);
+  });
+}
+
+TEST(Calendar, ShowTwiceOpensOneWindowAndDoesNotBringItForward) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    calendar.Show();
+    calendar.Show();
+    ASSERT_EQ(calendar.windows.size(), 1u);
+    EXPECT_EQ(calendar.windows[0].lock()->show_count, 1);
+  });
+}
+
+TEST(Calendar, KeepsTheWindowBeforeItsInitSoThatTheMapsAreClosedThen) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    bool has_run = false;
+    calendar.prepare = [&](FakeWindow& window) {
+      window.on_init = [&] {
+        has_run = true;
+        ExpectMapsClosed(calendar);
+        calendar.Show();
+      };
+    };
+    calendar.Show();
+    EXPECT_TRUE(has_run);
+    EXPECT_EQ(calendar.windows.size(), 1u);
+  });
+}
+
+TEST(Calendar, AWindowThatIsNotReadyIsNotShownAndKeptUntilItReportsItsClosing) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    calendar.prepare = [](FakeWindow& window) { window.is_ready = false; };
+    calendar.Show();
+    calendar.Show();
+    ASSERT_EQ(calendar.windows.size(), 1u);
+    EXPECT_EQ(calendar.windows[0].lock()->show_count, 0);
+    ExpectMapsClosed(calendar);
+
+    calendar.windows[0].lock()->closing.Emit();
+    EXPECT_TRUE(calendar.windows[0].expired());
+    EXPECT_EQ(calendar.Headers()->Count(), 9);
+    calendar.Show();
+    EXPECT_EQ(calendar.windows.size(), 2u);
+  });
+}
+
+TEST(Calendar, AWindowWhoseInitFailsWithAFailureIsReportedAndNotShown) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    calendar.prepare = [](FakeWindow& window) { window.on_init = [] { throw Failure(5, "Init"); }; };
+    calendar.Show();
+    EXPECT_EQ(control.world.services->Reports(), (std::vector<headless::ReportedError>{{5, "Init"}}));
+    EXPECT_EQ(calendar.windows[0].lock()->show_count, 0);
+  });
+}
+
+TEST(Calendar, AWindowThatCannotBeMadeIsReportedAndTheControlStaysUsable) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    control.world.faults.FailAtCall(1);
+    calendar.Show();
+    EXPECT_EQ(control.world.faults.FailedCall(), "toolkit.CreateForm");
+    EXPECT_EQ(control.world.services->Reports().size(), 1u);
+    EXPECT_EQ(calendar.Headers()->Count(), 9);
+    calendar.Show();
+    EXPECT_TRUE(control.Window().IsShown());
+  });
+}
+
+TEST(Calendar, OpensTheRealWindowBesideTheHostsOwn) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    calendar.Show();
+    EXPECT_TRUE(control.Window().IsShown());
+    EXPECT_EQ(control.world.log.CountOf("fmCalendar.Show()"), 1u);
+    EXPECT_FALSE(control.world.log.Contains("fmCalendar.ShowModal()"));
+    ExpectMapsClosed(calendar);
+  });
+}
+
+TEST(Calendar, AFailedStartOfTheRealWindowLeavesTheControlReadyForTheNextShow) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    const auto headers = calendar.Headers();
+    control.world.commands.Forget("CldAllInfo");
+    calendar.Show();
+    EXPECT_FALSE(control.world.log.Contains("fmCalendar.Show()"));
+    EXPECT_EQ(calendar.Headers(), headers);
+    calendar.Show();
+    EXPECT_EQ(control.world.toolkit.CountOfForms("fmCalendar"), 2u);
+  });
+}
+
+// Closing
+// -------------------------------------------------------------------------------------------------------
+
+TEST(Calendar, ForceClosingWithoutAWindowIsTrue) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    EXPECT_TRUE(calendar.ForceClosing());
+  });
+}
+
+TEST(Calendar, ForceClosingDropsTheWindowThatAgrees) {
+  for (const bool reports_closing : {true, false}) {
+    RunInFreshThread([reports_closing] {
+      ControlWorld control;
+      CalendarOfFakeWindows calendar(control.platform);
+      calendar.prepare = [&](FakeWindow& window) { window.reports_closing = reports_closing; };
+      const auto headers = calendar.Headers();
+      calendar.Show();
+      EXPECT_TRUE(calendar.ForceClosing());
+      EXPECT_TRUE(calendar.windows[0].expired());
+      EXPECT_EQ(calendar.Headers(), headers);
+      EXPECT_TRUE(calendar.ForceClosing());
+    });
+  }
+}
+
+TEST(Calendar, ForceClosingKeepsTheWindowThatRefuses) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    calendar.prepare = [](FakeWindow& window) { window.agrees_to_close = false; };
+    calendar.Show();
+    EXPECT_FALSE(calendar.ForceClosing());
+    EXPECT_FALSE(calendar.ForceClosing());
+    EXPECT_EQ(calendar.windows[0].lock()->force_closing_count, 2);
+    ExpectMapsClosed(calendar);
+    calendar.windows[0].lock()->agrees_to_close = true;
+    EXPECT_TRUE(calendar.ForceClosing());
+  });
+}
+
+TEST(Calendar, TheMapsAreReadableAgainAfterClosingAndTheSameObjects) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    const auto headers = calendar.Headers();
+    const auto holiday_headers = calendar.HolidayHeaders();
+    calendar.Show();
+    ExpectMapsClosed(calendar);
+    control.Window().CloseByOperator();
+    EXPECT_EQ(calendar.Headers(), headers);
+    EXPECT_EQ(calendar.HolidayHeaders(), holiday_headers);
+  });
+}
+
+TEST(Calendar, ShowOpensANewWindowAfterTheOperatorClosedTheFirst) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    Calendar calendar(control.platform);
+    calendar.Show();
+    control.Window().CloseByOperator();
+    calendar.Show();
+    EXPECT_EQ(control.world.toolkit.CountOfForms("fmCalendar"), 2u);
+    EXPECT_TRUE(control.Window().IsShown());
+  });
+}
+
+TEST(Calendar, AMapObtainedBeforeShowReachesTheOpenWindow) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    const auto headers = calendar.Headers();
+    calendar.Show();
+    headers->LocalNames("FullDate")->SetFieldName("OtherDate");
+    EXPECT_EQ(calendar.windows[0].lock()->headers->LocalNames("FullDate")->FieldName(), "OtherDate");
+  });
+}
+
+TEST(Calendar, DestroyingItClosesItsWindow) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    {
+      Calendar calendar(control.platform);
+      calendar.Show();
+      control.world.log.Clear();
+    }
+    EXPECT_EQ(control.world.log.CountOf("fmCalendar.Unload()"), 1u);
+    EXPECT_FALSE(control.world.log.StartingWith("services.SaveGridLayout").empty());
+  });
+}
+
+TEST(Calendar, CanBeDestroyedWhileItsWindowRefuses) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    std::weak_ptr<FakeWindow> window;
+    {
+      CalendarOfFakeWindows calendar(control.platform);
+      calendar.prepare = [](FakeWindow& fake) { fake.agrees_to_close = false; };
+      calendar.Show();
+      window = calendar.windows[0];
+      EXPECT_FALSE(window.expired());
+    }
+    EXPECT_TRUE(window.expired());
+  });
+}
+
+TEST(Calendar, CanBeDestroyedByTheHostWhenItsWindowCloses) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    auto calendar = std::make_unique<CalendarOfFakeWindows>(control.platform);
+    calendar->Show();
+    const auto window = calendar->windows[0].lock();
+    calendar.reset();
+    window->closing.Emit();
+    EXPECT_EQ(window->force_closing_count, 1);
+  });
+}
+
+// Size
+// ----------------------------------------------------------------------------------------------------------
+
+TEST(Calendar, SnapsBackToSixteenPixelsOfTheHorizontalFactorAfterAnyResize) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.toolkit.SetTwipsPerPixelX(12);
+    FakeSite site;
+    const Calendar calendar(control.platform, &site);
+    site.ResizeByHost(900, 30);
+    EXPECT_EQ(site.now, std::pair(192.0F, 192.0F));
+    site.ResizeByHost(0, 0);
+    EXPECT_EQ(site.now, std::pair(192.0F, 192.0F));
+  });
+}
+
+TEST(Calendar, TakesTheFactorOfTheScreenAtEachResize) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    FakeSite site;
+    const Calendar calendar(control.platform, &site);
+    site.ResizeByHost(900, 30);
+    EXPECT_EQ(site.now, std::pair(240.0F, 240.0F));
+    control.world.toolkit.SetTwipsPerPixelX(7.5F);
+    site.ResizeByHost(900, 30);
+    EXPECT_EQ(site.now, std::pair(120.0F, 120.0F));
+  });
+}
+
+TEST(Calendar, LeavesItsPlaceAloneOnceItIsDestroyed) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    FakeSite site;
+    { const Calendar calendar(control.platform, &site); }
+    site.ResizeByHost(900, 30);
+    EXPECT_TRUE(site.sizes.empty());
+  });
+}
+
+}  // namespace
+}  // namespace ferrowind

@@ -1,0 +1,86 @@
+// The recording of a failure that fails itself. The allocation functions of this program are replaced by ones
+// of which a single allocation can be made to fail.
+#include <cstdlib>
+#include <new>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/data/pending_failure.h"
+
+#include "tests/support/expect_failure.h"
+#include "tests/support/run_in_fresh_thread.h"
+
+namespace {
+
+thread_local bool next_allocation_fails = false;
+
+void* Allocate(std::size_t size) {
+  if (next_allocation_fails) {
+    next_allocation_fails = false;
+    throw std::bad_alloc();
+  }
+  void* const memory = std::malloc(size == 0 ? 1 : size);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+}  // namespace
+
+void* operator new(std::size_t size) { return Allocate(size); }
+void* operator new[](std::size_t size) { return Allocate(size); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace ferrowind {
+namespace {
+
+using testing::ExpectFailure;
+using testing::RunInFreshThread;
+
+constexpr std::int32_t kTypeMismatch = 13;
+
+const std::string& LongDescription() {
+  static const std::string text(4096, 'x');
+  return text;
+}
+
+TEST(SetPendingFailureWithoutMemory, FailsWithTypeMismatchAndLeavesTheNumber666AndTheOldDescription) {
+  RunInFreshThread([] {
+    SetPendingFailure(5, "old text");
+    Module().pending_failure_count = 0;
+    const std::string& description = LongDescription();
+    ExpectFailure(
+        [&] {
+          next_allocation_fails = true;
+          SetPendingFailure(3146, description);
+        },
+        kTypeMismatch, "Type mismatch");
+    EXPECT_FALSE(next_allocation_fails) << "the recording allocated nothing, so that nothing failed";
+    EXPECT_EQ(Module().pending_failure_count, 1);
+    EXPECT_EQ(Module().pending_failures[0].number, 666);
+    EXPECT_EQ(Module().pending_failures[0].description, "old text");
+  });
+}
+
+TEST(SetPendingFailureWithoutMemory, IsFollowedByRecordingsThatSucceed) {
+  RunInFreshThread([] {
+    const std::string& description = LongDescription();
+    ExpectFailure(
+        [&] {
+          next_allocation_fails = true;
+          SetPendingFailure(3146, description);
+        },
+        kTypeMismatch);
+    SetPendingFailure(3146, description);
+    EXPECT_EQ(Module().pending_failure_count, 1);
+    EXPECT_EQ(Module().pending_failures[0].number, 3146);
+    EXPECT_EQ(Module().pending_failures[0].description, description);
+  });
+}
+
+}  // namespace
+}  // namespace ferrowind

@@ -1,0 +1,92 @@
+#include "host/admin/outcome_writer.h"
+
+#include <memory>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace ferrowind::host {
+namespace {
+
+using platform::Date;
+using platform::RecordSet;
+using platform::Value;
+
+using Rows = std::vector<std::vector<Value>>;
+
+ProcedureOutcome Outcome(std::vector<std::string> fields, Rows rows) {
+  return {0, {std::make_shared<RecordSet>(std::move(fields), std::move(rows))}, {}};
+}
+
+std::string Written(const ProcedureOutcome& outcome, OutputFormat format) {
+  std::ostringstream out;
+  WriteOutcome(outcome, format, out);
+  return out.str();
+}
+
+TEST(JsonWriter, WritesTheReturnValueAndEachRecordSetInOrder) {
+  ProcedureOutcome outcome = Outcome({"ODate", "ID2", "Comment"},
+                                     {{Date(2026, 1, 2), std::int32_t{7}, Value()}, {Value(), Value(), ""}});
+  outcome.record_sets.push_back(std::make_shared<RecordSet>(std::vector<std::string>{"FirstDay"}, Rows{}));
+  EXPECT_EQ(Written(outcome, OutputFormat::kJson),
+            R"({"return":0,"results":[{"fields":["ODate","ID2","Comment"],)"
+            R"("rows":[["2026-01-02",7,null],[null,null,""]]},{"fields":["FirstDay"],"rows":[]}]})"
+            "\n");
+}
+
+TEST(JsonWriter, WritesAReturnValueWithoutRecordSets) {
+  EXPECT_EQ(Written({5, {}, {}}, OutputFormat::kJson), "{\"return\":5,\"results\":[]}\n");
+}
+
+TEST(JsonWriter, EscapesTextsAndKeepsUnicode) {
+  EXPECT_EQ(Written(Outcome({"N"}, {{"\"q\"\n祝日"}}), OutputFormat::kJson),
+            "{\"return\":0,\"results\":[{\"fields\":[\"N\"],\"rows\":[[\"\\\"q\\\"\\n祝日\"]]}]}\n");
+}
+
+TEST(JsonWriter, ReplacesBytesThatAreNoUtf8) {
+  EXPECT_EQ(Written(Outcome({"N"}, {{"a\xff"}}), OutputFormat::kJson),
+            "{\"return\":0,\"results\":[{\"fields\":[\"N\"],\"rows\":[[\"a\uFFFD\"]]}]}\n");
+}
+
+TEST(CsvWriter, WritesTablesWithAnEmptyLineBetween) {
+  EXPECT_EQ(Written(Outcome({"ODate", "ID2"}, {{Date(2026, 1, 2), std::int16_t{7}}}), OutputFormat::kCsv),
+            "return\r\n0\r\n\r\nODate,ID2\r\n2026-01-02,7\r\n");
+}
+
+TEST(CsvWriter, QuotesSeparatorsQuotesAndLineBreaks) {
+  EXPECT_EQ(Written(Outcome({"A", "B", "C"}, {{"a,b", "say \"x\"", "1\r\n2"}}), OutputFormat::kCsv),
+            "return\r\n0\r\n\r\nA,B,C\r\n\"a,b\",\"say \"\"x\"\"\",\"1\r\n2\"\r\n");
+}
+
+TEST(CsvWriter, TellsAnEmptyTextFromNoValue) {
+  EXPECT_EQ(Written(Outcome({"A", "B"}, {{"", Value()}}), OutputFormat::kCsv),
+            "return\r\n0\r\n\r\nA,B\r\n\"\",\r\n");
+}
+
+TEST(CsvWriter, WritesNoEmptyLineInsideATable) {
+  EXPECT_EQ(Written(Outcome({"A"}, {{Value()}, {"x"}}), OutputFormat::kCsv),
+            "return\r\n0\r\n\r\nA\r\n\"\"\r\nx\r\n");
+}
+
+TEST(TableWriter, AlignsTextsLeftAndNumbersRightByTheirColumns) {
+  EXPECT_EQ(Written(Outcome({"Name1", "ID2", "Comment"},
+                            {{"祝日", std::int32_t{7}, "x"}, {"Zürich", std::int32_t{117}, Value()}}),
+                    OutputFormat::kTable),
+            "Return value: 0\n\nRecord set 1, 2 rows\n"
+            "Name1   ID2  Comment\n"
+            "------  ---  -------\n"
+            "祝日      7  x\n"
+            "Zürich  117  \n");
+}
+
+TEST(TableWriter, ShowsTheReturnValueAlone) {
+  EXPECT_EQ(Written({-1, {}, {}}, OutputFormat::kTable), "Return value: -1\n");
+}
+
+TEST(TableWriter, ShowsTheFieldsOfAnEmptyRecordSet) {
+  EXPECT_EQ(Written(Outcome({"ID1"}, {}), OutputFormat::kTable),
+            "Return value: 0\n\nRecord set 1, 0 rows\nID1\n---\n");
+}
+
+}  // namespace
+}  // namespace ferrowind::host
