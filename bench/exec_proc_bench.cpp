@@ -1,0 +1,145 @@
+// A procedure call with everything that belongs to it, from opening the database to the detached record set,
+// against the calls of the database's own library that open the file, run the same statement and read all
+// cells.
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include <sqlite3.h>
+#include <stdlib.h>
+
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/data/exec_proc.h"
+#include "ferrowind/data/source_values.h"
+#include "ferrowind/platform/database/engine_registry.h"
+#include "ferrowind/platform/values/record_set.h"
+
+#include "bench/measurement.h"
+#include "host/session/procedure_session.h"
+
+namespace {
+
+using ferrowind::ExecProc;
+using ferrowind::SourceValues;
+using ferrowind::bench::Benchmark;
+using ferrowind::bench::KeepResult;
+
+constexpr int kEuro = 978;
+constexpr int kYear = 2026;
+constexpr int kCallsPerRun = 50;
+
+class TemporaryFolder {
+ public:
+  TemporaryFolder() {
+    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("cannot make " + path_);
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  [[nodiscard]] std::string File() const { return path_ + "/calendars.db"; }
+
+ private:
+  std::string path_ = std::filesystem::temp_directory_path() / "ferrowind-bench-XXXXXX";
+};
+
+void Store(const std::string& procedure, const SourceValues& parameters) {
+  std::shared_ptr<SourceValues> results;
+  if (ExecProc(procedure, &parameters, results) != 0) throw std::runtime_error(procedure + " failed");
+}
+
+SourceValues CalendarParameters() {
+  SourceValues parameters;
+  parameters.Add("ID1", kEuro);
+  parameters.Add("Year1", kYear);
+  return parameters;
+}
+
+void CreateCalendarWithWeekends() {
+  Store("CldIUMain", CalendarParameters());
+  // The delivered rules 2 and 3 are Saturday and Sunday.
+  for (const int rule : {2, 3}) {
+    SourceValues parameters = CalendarParameters();
+    parameters.Add("TID1", 2);
+    parameters.Add("ID2", rule);
+    Store("CldIUMain", parameters);
+  }
+}
+
+/// The number of cells.
+std::size_t CallOurs() {
+  const SourceValues parameters = CalendarParameters();
+  std::shared_ptr<SourceValues> results;
+  if (ExecProc("CldGetMain", &parameters, results) != 0) throw std::runtime_error("CldGetMain failed");
+  const auto days = results->Values("1");
+  const auto* const record_set = days ? days->Value.If<ferrowind::platform::Value::Object>() : nullptr;
+  if (record_set == nullptr || !*record_set) throw std::runtime_error("CldGetMain gave no record set");
+  return (*record_set)->RowCount() * (*record_set)->FieldCount();
+}
+
+void Require(bool is_true, sqlite3* database) {
+  if (!is_true) throw std::runtime_error(sqlite3_errmsg(database));
+}
+
+/// The number of cells.
+std::size_t CallPeer(const std::string& path) {
+  sqlite3* database = nullptr;
+  Require(sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK, database);
+  sqlite3_stmt* statement = nullptr;
+  Require(
+      sqlite3_prepare_v2(database,
+                         "SELECT d.ODate, d.TID1, h.Name1, h.Comment AS Comment2, d.Comment, d.ID2, d.Day1"
+                         " FROM CldDay d LEFT JOIN CldHoliday h ON h.ID2 = d.ID2 WHERE d.ID1 = ?1 AND "
+                         "d.Year1 = ?2 ORDER BY d.Day1",
+                         -1, &statement, nullptr) == SQLITE_OK,
+      database);
+  sqlite3_bind_int(statement, 1, kEuro);
+  sqlite3_bind_int(statement, 2, kYear);
+  std::size_t cells = 0;
+  std::size_t sum = 0;
+  while (sqlite3_step(statement) == SQLITE_ROW) {
+    for (int column = 0; column < sqlite3_column_count(statement); ++column, ++cells) {
+      if (sqlite3_column_type(statement, column) == SQLITE_INTEGER) {
+        sum += static_cast<std::size_t>(sqlite3_column_int64(statement, column));
+      } else if (sqlite3_column_text(statement, column) != nullptr) {
+        sum += static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+      }
+    }
+  }
+  KeepResult(sum);
+  sqlite3_finalize(statement);
+  sqlite3_close(database);
+  return cells;
+}
+
+void MeasureGetMain(const Benchmark& benchmark, const std::string& path) {
+  CreateCalendarWithWeekends();
+  if (CallOurs() != CallPeer(path)) throw std::logic_error("the two do not read the same cells");
+  const auto repeated = [](const auto& call) {
+    return [call] {
+      for (int i = 0; i < kCallsPerRun; ++i) KeepResult(call());
+    };
+  };
+  benchmark.Compare("50 calls of CldGetMain, peer: raw sqlite3 calls", 1.6,
+                    {repeated([] { return CallOurs(); })}, {repeated([&] { return CallPeer(path); })}, 31);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return ferrowind::bench::RunBenchmark(argc, argv, [](const Benchmark& benchmark) {
+    const TemporaryFolder folder;
+    ferrowind::sqlite::CreateDatabase(folder.File(), true);
+    ferrowind::platform::EngineRegistry engines;
+    engines.Register(ferrowind::sqlite::Engine::kScheme, std::make_shared<ferrowind::sqlite::Engine>());
+    ferrowind::host::RunWithDatabase(engines,
+                                     std::string(ferrowind::sqlite::Engine::kScheme) + ":" + folder.File(),
+                                     [&] { MeasureGetMain(benchmark, folder.File()); });
+  });
+}

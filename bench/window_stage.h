@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <QTreeView>
+#include <QWidget>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "ferrowind/adapters/qt/grid/grid_view.h"
+#include "ferrowind/control/calendar.h"
+
+#include "host/desktop/desktop_surroundings.h"
+
+namespace ferrowind::bench {
+
+/// Milliseconds from the making of the watch.
+class Watch {
+ public:
+  [[nodiscard]] double Milliseconds() const {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start_).count();
+  }
+
+ private:
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+/// Tells whether a widget has been painted since the watch was made, and lets events run until it has.
+class PaintWatch : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget);
+  /// An error after ten seconds.
+  void WaitUntilPainted() const;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool is_painted_ = false;
+};
+
+/// The component's windows as the desktop program puts them together, over a database in a temporary folder.
+class WindowStage {
+ public:
+  /// `fill` is SQL that is run on the database, which has no delivered rules.
+  explicit WindowStage(const std::string& fill);
+  ~WindowStage();
+
+  [[nodiscard]] std::string DatabasePath() const { return folder_.filePath("calendars.db").toStdString(); }
+  [[nodiscard]] const platform::Platform& Platform() const { return surroundings_.Get(); }
+
+  /// Opens the Calendars window and selects the first calendar of the currency. Called once; a stage on which
+  /// it was called before must be gone.
+  void OpenCalendars(const std::string& currency);
+  [[nodiscard]] QWidget& Calendars() const;
+  [[nodiscard]] QTreeView& Tree() const;
+
+  /// Opens the Holidays window for the whole calendar as the day's menu does, and has `work` done as soon as
+  /// its grid is painted. The window is closed after that; returns when it is. What `work` throws is passed
+  /// on.
+  void InHolidays(const std::function<void(QWidget& holidays)>& work) const;
+
+ private:
+  QTemporaryDir folder_;
+  host::DesktopSurroundings surroundings_;
+  std::unique_ptr<Calendar> control_;
+};
+
+/// The window of that name on show; none is an error.
+[[nodiscard]] QWidget& WindowNamed(const std::string& name);
+[[nodiscard]] qt::GridView& GridIn(const QWidget& window);
+void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = {});
+
+}  // namespace ferrowind::bench
