@@ -3,9 +3,10 @@
 -- as the text YYYY-MM-DD. FERROWIND_NAME compares names without regard to letter case and outer blanks; the engine
 -- supplies it to every connection.
 
--- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here.
+-- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here and of the
+-- procedures. A change comes with a script in upgrade/ that brings older databases to the same state.
 PRAGMA application_id = 0x46657277;
-PRAGMA user_version = 1;
+PRAGMA user_version = 2;
 
 CREATE TABLE DicCcy (
   CcyID INTEGER PRIMARY KEY,
@@ -64,6 +65,31 @@ CREATE TABLE CldSetting (
   FirstDay INTEGER NOT NULL CHECK (FirstDay BETWEEN 1 AND 7 AND typeof(FirstDay) = 'integer')
 );
 CREATE UNIQUE INDEX CldSettingHasOneRow ON CldSetting ((1));
+
+-- An entry for every call of a procedure that writes and returned 0, added by the engine in the call's own transaction:
+-- when (UTC), the operating system's user, what was called with which values (a JSON object with every parameter by name,
+-- null for none), and how many rows of other tables it added or changed. ID1 and Year1 name the calendar that the call was
+-- for, when it was for one. Entries are only ever added.
+CREATE TABLE CldHistory (
+  EntryID INTEGER PRIMARY KEY,
+  Moment TEXT NOT NULL DEFAULT (strftime('%Y-%m-%dT%H:%M:%fZ', 'now'))
+    CHECK (Moment IS strftime('%Y-%m-%dT%H:%M:%fZ', Moment)),
+  UserName TEXT NOT NULL,
+  ProcedureName TEXT NOT NULL,
+  ID1 INTEGER,
+  Year1 INTEGER,
+  Parameters TEXT NOT NULL,
+  ReturnValue INTEGER NOT NULL,
+  RowsChanged INTEGER NOT NULL CHECK (RowsChanged >= 0)
+);
+CREATE TRIGGER CldHistoryKeepsItsEntries BEFORE UPDATE ON CldHistory
+BEGIN
+  SELECT RAISE(ABORT, 'an entry of the history is not changed');
+END;
+CREATE TRIGGER CldHistoryLosesNoEntry BEFORE DELETE ON CldHistory
+BEGIN
+  SELECT RAISE(ABORT, 'an entry of the history is not removed');
+END;
 
 -- The stored procedures, which the engine finds and runs from here. A body is a script of SQL statements.
 CREATE TABLE ProcedureCatalogue (

@@ -22,6 +22,7 @@ DECLARE
   first_date date;
   rule CldHoliday;
   weekday integer;
+  rows_changed bigint;
 BEGIN
   "RETURN_VALUE" := 7;
   IF "ID1" IS NULL OR "Year1" IS NULL OR "Year1" NOT BETWEEN 1900 AND 3000 THEN
@@ -52,48 +53,55 @@ BEGIN
     INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1)
     SELECT "ID1", "Year1", day, first_date + (day - 1), 1
     FROM generate_series(1, make_date("Year1" + 1, 1, 1) - first_date) AS day;
-    "RETURN_VALUE" := 0;
-    RETURN;
-  END IF;
-
-  -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
-  IF "TID1" NOT BETWEEN 1 AND 4
-    OR "ID2" IS NULL
-    OR "Day1" IS NULL AND ("TID1" <> 2 OR "ODate" IS NOT NULL)
-    OR "ODate" IS NULL AND "TID1" IN (3, 4)
-    OR "Day1" NOT BETWEEN 1 AND make_date("Year1" + 1, 1, 1) - first_date
-  THEN
-    RETURN;
-  END IF;
-  IF "ODate" <> first_date + ("Day1" - 1) THEN
-    RETURN;
-  END IF;
-
-  IF NOT calendar_exists THEN
-    "RETURN_VALUE" := 5;
-    RETURN;
-  END IF;
-
-  SELECT * INTO rule FROM CldHoliday WHERE ID2 = "ID2" AND Del IS DISTINCT FROM 2;
-  IF NOT FOUND THEN
-    "RETURN_VALUE" := 4;
-    RETURN;
-  END IF;
-  IF rule.TID1 <> "TID1" THEN
-    RETURN;
-  END IF;
-
-  IF "Day1" IS NOT NULL THEN
-    UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
-    WHERE ID1 = "ID1" AND Year1 = "Year1" AND Day1 = "Day1";
+    GET DIAGNOSTICS rows_changed = ROW_COUNT;
+    rows_changed := rows_changed + 1;
   ELSE
-    -- 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
-    SELECT (rule.WD - 1 + FirstDay - 1) % 7 INTO weekday FROM CldSetting;
-    UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
-    WHERE ID1 = "ID1" AND Year1 = "Year1" AND extract(dow FROM ODate) = weekday
-      -- Exceptions and dated rules stand above weekday rules.
-      AND (TID1 = 2 OR ID2 IS NULL);
+    -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
+    IF "TID1" NOT BETWEEN 1 AND 4
+      OR "ID2" IS NULL
+      OR "Day1" IS NULL AND ("TID1" <> 2 OR "ODate" IS NOT NULL)
+      OR "ODate" IS NULL AND "TID1" IN (3, 4)
+      OR "Day1" NOT BETWEEN 1 AND make_date("Year1" + 1, 1, 1) - first_date
+    THEN
+      RETURN;
+    END IF;
+    IF "ODate" <> first_date + ("Day1" - 1) THEN
+      RETURN;
+    END IF;
+
+    IF NOT calendar_exists THEN
+      "RETURN_VALUE" := 5;
+      RETURN;
+    END IF;
+
+    SELECT * INTO rule FROM CldHoliday WHERE ID2 = "ID2" AND Del IS DISTINCT FROM 2;
+    IF NOT FOUND THEN
+      "RETURN_VALUE" := 4;
+      RETURN;
+    END IF;
+    IF rule.TID1 <> "TID1" THEN
+      RETURN;
+    END IF;
+
+    IF "Day1" IS NOT NULL THEN
+      UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
+      WHERE ID1 = "ID1" AND Year1 = "Year1" AND Day1 = "Day1";
+    ELSE
+      -- 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
+      SELECT (rule.WD - 1 + FirstDay - 1) % 7 INTO weekday FROM CldSetting;
+      UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
+      WHERE ID1 = "ID1" AND Year1 = "Year1" AND extract(dow FROM ODate) = weekday
+        -- Exceptions and dated rules stand above weekday rules.
+        AND (TID1 = 2 OR ID2 IS NULL);
+    END IF;
+    GET DIAGNOSTICS rows_changed = ROW_COUNT;
   END IF;
+
+  INSERT INTO CldHistory (ProcedureName, ID1, Year1, Parameters, ReturnValue, RowsChanged)
+  VALUES ('CldIUMain', "ID1", "Year1",
+    json_build_object('ID1', "ID1", 'Year1', "Year1", 'TID1', "TID1", 'ID2', "ID2", 'Day1', "Day1", 'ODate', "ODate",
+      'Comment', "Comment"),
+    0, rows_changed);
   "RETURN_VALUE" := 0;
 END
 $$;

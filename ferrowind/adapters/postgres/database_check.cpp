@@ -15,7 +15,7 @@
 namespace ferrowind::postgres {
 namespace {
 
-constexpr std::string_view kSchemaVersion = "1";
+constexpr std::string_view kSchemaVersion = "2";
 
 /// A question to the data whose every row is a problem, told in the row's single text.
 constexpr const char* kDataProblems[] = {

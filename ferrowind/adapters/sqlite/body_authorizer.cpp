@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/sqlite/body_authorizer.h"
 
+#include <algorithm>
+#include <initializer_list>
 #include <string_view>
 
 #include <sqlite3.h>
@@ -9,15 +11,17 @@
 namespace ferrowind::sqlite {
 namespace {
 
-bool IsOneOf(const char* name, std::string_view first, std::string_view second) {
-  return platform::CompareIgnoringCase(name, first) == 0 || platform::CompareIgnoringCase(name, second) == 0;
+bool IsOneOf(const char* name, std::initializer_list<std::string_view> names) {
+  return std::any_of(names.begin(), names.end(), [&](std::string_view candidate) {
+    return platform::CompareIgnoringCase(name, candidate) == 0;
+  });
 }
 
-/// The schema itself and the procedures are not data.
+/// The schema itself and the procedures are not data, and the history is the engine's to write.
 bool IsDataTable(const char* table) {
   const std::string_view name(table);
   return platform::CompareIgnoringCase(name.substr(0, 7), "sqlite_") != 0 &&
-         !IsOneOf(table, "ProcedureCatalogue", "ProcedureParameter");
+         !IsOneOf(table, {"ProcedureCatalogue", "ProcedureParameter", "CldHistory"});
 }
 
 int AuthorizeReading(void* /*context*/, int action, const char* /*first*/, const char* second,
@@ -28,7 +32,7 @@ int AuthorizeReading(void* /*context*/, int action, const char* /*first*/, const
     case SQLITE_RECURSIVE:
       return SQLITE_OK;
     case SQLITE_FUNCTION:
-      return IsOneOf(second, "load_extension", "fts3_tokenizer") ? SQLITE_DENY : SQLITE_OK;
+      return IsOneOf(second, {"load_extension", "fts3_tokenizer"}) ? SQLITE_DENY : SQLITE_OK;
     default:
       return SQLITE_DENY;
   }

@@ -6,8 +6,8 @@ namespace ferrowind::sqlite {
 
 /// While it lives, statements prepared on the database may read tables and call functions and, for a
 /// procedure that writes, change the rows of the data tables; nothing else. ATTACH, DETACH, PRAGMA,
-/// transactions, changes of the schema or of the procedure catalogue, and loading code are refused when a
-/// statement is prepared.
+/// transactions, changes of the schema, of the procedure catalogue or of the history, and loading code are
+/// refused when a statement is prepared.
 class BodyAuthorizer {
  public:
   /// `database` must outlive the authorizer.

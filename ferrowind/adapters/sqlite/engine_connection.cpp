@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/sqlite/body_authorizer.h"
+#include "ferrowind/adapters/sqlite/call_history.h"
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/call_inputs.h"
@@ -31,11 +32,18 @@ platform::CallOutcome EngineConnection::Call(const std::string& procedure, const
     Transaction transaction(database_,
                             procedure_->writes ? Transaction::Kind::kWriting : Transaction::Kind::kReading);
     platform::CallOutcome outcome;
+    const auto changes_before = sqlite3_total_changes64(database_.Get());
     {
       const BodyAuthorizer authorizer(database_, procedure_->writes);
       outcome = ProcedureInterpreter(database_, *procedure_, inputs).Run();
     }
-    if (outcome.return_value == 0) transaction.Commit();
+    if (outcome.return_value == 0) {
+      if (procedure_->writes) {
+        AddToHistory(database_, *procedure_, inputs,
+                     sqlite3_total_changes64(database_.Get()) - changes_before);
+      }
+      transaction.Commit();
+    }
     return outcome;
   });
 }

@@ -137,7 +137,12 @@ TEST(PostgresCheck, EveryChangeOfTheSchemaIsFound) {
       {"GRANT EXECUTE ON PROCEDURE ferrowind.CldAllInfo TO ferrowind_reader", "routine cldallinfo"},
       {"GRANT CREATE ON SCHEMA ferrowind TO ferrowind_operator", "schema ferrowind is not this program's"},
       {"ALTER TABLE ferrowind.CldDay OWNER TO postgres", "table cldday is not this program's"},
-      {"UPDATE ferrowind.SchemaVersion SET Version = 2", "schema version 2"},
+      {"DROP TABLE ferrowind.CldHistory", "table cldhistory is missing"},
+      {"ALTER TABLE ferrowind.CldHistory ALTER UserName DROP DEFAULT",
+       "column cldhistory.username is not this program's"},
+      {"GRANT INSERT ON ferrowind.CldHistory TO ferrowind_operator",
+       "table cldhistory is not this program's"},
+      {"UPDATE ferrowind.SchemaVersion SET Version = 3", "schema version 3"},
   };
   for (const auto& [change, problem] : changes) {
     PostgresDatabase database;

@@ -57,6 +57,8 @@ TEST_F(BodyAuthorizerTest, RefusesInABodyWhatReachesBeyondItsTables) {
         std::string("SELECT load_extension('x')"),
         std::string("UPDATE ProcedureCatalogue SET Body = ''"),
         std::string("DELETE FROM procedureparameter"),
+        std::string("INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
+                    " VALUES ('somebody', 'CldIUMain', '{}', 0, 1)"),
         std::string("INSERT INTO sqlite_schema (type) VALUES ('table')")}) {
     EXPECT_THAT(FailureOfBody("writes", statement), HasSubstr("SQLite ")) << statement;
   }

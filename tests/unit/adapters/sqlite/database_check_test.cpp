@@ -36,8 +36,8 @@ class DatabaseCheckTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 2"),
-              ElementsAre("The database has the schema version 2; this program's is 1"));
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 3"),
+              ElementsAre("The database has the schema version 3; this program's is 2"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {
@@ -56,6 +56,13 @@ TEST_F(DatabaseCheckTest, FindsMissingAndForeignPartsOfTheSchema) {
       "DROP INDEX CldSettingHasOneRow; CREATE TRIGGER Extra AFTER INSERT ON CldDay BEGIN SELECT 1; END");
   EXPECT_THAT(problems, ElementsAre("The index CldSettingHasOneRow is missing",
                                     "The trigger Extra does not belong to the schema"));
+}
+
+TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherHistory) {
+  EXPECT_THAT(ProblemsAfter("DROP TRIGGER CldHistoryLosesNoEntry; ALTER TABLE CldHistory ADD Extra INTEGER"),
+              ElementsAre("The table CldHistory is not this program's",
+                          "The trigger CldHistoryLosesNoEntry is missing"));
+  EXPECT_THAT(ProblemsAfter("DROP TABLE CldHistory"), Contains("The table CldHistory is missing"));
 }
 
 TEST_F(DatabaseCheckTest, GoesOnWhenATableIsMissing) {

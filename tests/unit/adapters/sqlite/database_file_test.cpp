@@ -66,7 +66,7 @@ TEST_F(DatabaseFileTest, ANewDatabaseIsItsOwnersOnly) {
 TEST_F(DatabaseFileTest, ANewDatabaseKeepsAWriteAheadLogAndItsVersion) {
   CreateDatabase(Path(), false);
   EXPECT_EQ(Ask("PRAGMA journal_mode"), "wal");
-  EXPECT_EQ(Ask("PRAGMA user_version"), "1");
+  EXPECT_EQ(Ask("PRAGMA user_version"), "2");
   EXPECT_EQ(Ask("PRAGMA application_id"), std::to_string(0x46657277));
 }
 

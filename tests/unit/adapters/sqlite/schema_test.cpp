@@ -89,6 +89,14 @@ TEST_F(SchemaTest, ThereIsOneSettingWithAWeekday) {
   ExpectRefused("UPDATE CldSetting SET FirstDay = NULL");
 }
 
+TEST_F(SchemaTest, TheHistoryIsOnlyAddedTo) {
+  ExpectRefused("UPDATE CldHistory SET UserName = 'nobody'");
+  ExpectRefused("DELETE FROM CldHistory");
+  ExpectRefused(
+      "INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters, ReturnValue, RowsChanged) "
+      "VALUES ('yesterday', 'x', 'x', '{}', 0, 1)");
+}
+
 TEST_F(SchemaTest, ACatalogueRowIsWhatTheEngineCanRead) {
   ExpectRefused("INSERT INTO ProcedureCatalogue VALUES ('cldgetmain', 0, 'SELECT 1')");
   ExpectRefused("INSERT INTO ProcedureParameter VALUES ('CldGetMain', 3, '@New', 'int64', 'in')");
