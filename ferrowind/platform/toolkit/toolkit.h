@@ -42,10 +42,12 @@ class Toolkit {
   /// 1440 divided by the screen's horizontal resolution in dots per inch.
   [[nodiscard]] virtual float TwipsPerPixelX() const = 0;
 
-  /// Stops repainting of `element` and all in it until `UnlockUpdates`. Only one element can be locked at a
-  /// time: true when it is locked now, false when another lock was on already and this call did nothing.
+  /// Stops repainting of `element` and all in it until `UnlockUpdates`; the rest of its form may stand still
+  /// as well. Only one element can be locked at a time: true when it is locked now, false when another lock
+  /// was on already and this call did nothing.
   virtual bool LockUpdates(Element& element) = 0;
-  /// Ends the lock and repaints once; does nothing without a lock, or when the locked element is gone.
+  /// Ends the lock and repaints once what has changed; does nothing without a lock, or when the locked
+  /// element is gone.
   virtual void UnlockUpdates() = 0;
 
   /// Handles the user-interface messages that wait, and returns.

@@ -60,6 +60,20 @@ FormDesign Design(FormBorder border) {
                        {ControlKind::kLabel, "lblMessage", "Message"}}};
 }
 
+/// Counts how often a widget paints itself.
+class PaintCounter : public QObject {
+ public:
+  explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+  [[nodiscard]] int Count() const { return count_; }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count_;
+    return false;
+  }
+
+ private:
+  int count_ = 0;
+};
+
 class FormWindowTest : public ::testing::Test {
  protected:
   ~FormWindowTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
@@ -272,13 +286,44 @@ TEST_F(FormWindowTest, RaisesNoResizeBeforeItIsLoadedAndAfterItIsUnloaded) {
   EXPECT_EQ(resizes, 0);
 }
 
-TEST_F(FormWindowTest, RepaintsNothingWhileItIsLocked) {
+TEST_F(FormWindowTest, RepaintsNothingWhileItIsLockedAndOnceAfterwardsWhatHasChanged) {
   const auto form = toolkit_.CreateForm(Design(FormBorder::kSizable));
   form->Show();
+  auto& message = *WindowOf(*form).findChild<QLabel*>("lblMessage");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&WindowOf(*form)));
+  toolkit_.ProcessPendingEvents();
+  const PaintCounter message_paints(message);
+  const PaintCounter title_paints(*WindowOf(*form).findChild<QLabel*>("lblTitle"));
+  EXPECT_FALSE(toolkit_.UpdatesAreLocked());
   ASSERT_TRUE(toolkit_.LockUpdates(*form));
-  EXPECT_FALSE(WindowOf(*form).findChild<QLabel*>("lblMessage")->updatesEnabled());
+  EXPECT_TRUE(toolkit_.UpdatesAreLocked());
+  for (const char* text : {"One", "Two"}) {
+    message.setText(QLatin1String(text));
+    toolkit_.ProcessPendingEvents();
+  }
+  message.repaint();
+  EXPECT_EQ(message_paints.Count(), 0);
   toolkit_.UnlockUpdates();
-  EXPECT_TRUE(WindowOf(*form).findChild<QLabel*>("lblMessage")->updatesEnabled());
+  EXPECT_FALSE(toolkit_.UpdatesAreLocked());
+  toolkit_.ProcessPendingEvents();
+  EXPECT_EQ(message_paints.Count(), 1);
+  EXPECT_EQ(title_paints.Count(), 0);
+  message.setText(QStringLiteral("Three"));
+  toolkit_.ProcessPendingEvents();
+  EXPECT_EQ(message_paints.Count(), 2);
+}
+
+TEST_F(FormWindowTest, PaintsNothingMoreAfterALockInWhichNothingChanged) {
+  const auto form = toolkit_.CreateForm(Design(FormBorder::kSizable));
+  form->Show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&WindowOf(*form)));
+  toolkit_.ProcessPendingEvents();
+  const PaintCounter paints(*WindowOf(*form).findChild<QLabel*>("lblMessage"));
+  ASSERT_TRUE(toolkit_.LockUpdates(*form));
+  toolkit_.ProcessPendingEvents();
+  toolkit_.UnlockUpdates();
+  toolkit_.ProcessPendingEvents();
+  EXPECT_EQ(paints.Count(), 0);
 }
 
 TEST_F(FormWindowTest, IsNoDialogToAnAssistiveToolWhenItCanBeResized) {

@@ -96,7 +96,7 @@ TEST_F(CalendarsWindowTest, SurvivesFiveHundredRapidRefreshes) {
   EXPECT_THAT(SelectedNode(Tree()), ElementsAre("USD", "2028"));
   EXPECT_EQ(RowsOf(Days()), 366);
   EXPECT_EQ(Days().currentIndex().row(), 200);
-  EXPECT_TRUE(Window().updatesEnabled());
+  EXPECT_FALSE(desk_.Toolkit().UpdatesAreLocked());
 }
 
 TEST_F(CalendarsWindowTest, ExpandsAndCollapsesAllCurrencies) {

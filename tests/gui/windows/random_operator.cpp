@@ -250,13 +250,7 @@ void RandomOperator::FreeDatabase() {
 // Between actions
 
 void RandomOperator::ExpectNothingLocked() const {
-  const QWidget* window = WindowOnShow("fmCalendar");
-  if (window == nullptr) return;
-  EXPECT_TRUE(window->updatesEnabled()) << "after " << actions_ << " actions";
-  for (const QWidget* widget : window->findChildren<QWidget*>()) {
-    EXPECT_TRUE(widget->updatesEnabled())
-        << widget->objectName().toStdString() << " after " << actions_ << " actions";
-  }
+  EXPECT_FALSE(desk_.Toolkit().UpdatesAreLocked()) << "after " << actions_ << " actions";
 }
 
 void RandomOperator::CloseAll() {

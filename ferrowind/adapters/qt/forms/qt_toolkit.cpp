@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/qt/controls/popup_place.h"
 #include "ferrowind/adapters/qt/forms/form_window.h"
 #include "ferrowind/adapters/qt/forms/qt_form.h"
+#include "ferrowind/adapters/qt/forms/update_hold.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 
@@ -38,6 +39,8 @@ QtToolkit::QtToolkit(FormLayouts layouts) : layouts_(std::move(layouts)) {
   });
 }
 
+QtToolkit::~QtToolkit() = default;
+
 std::shared_ptr<platform::Form> QtToolkit::CreateForm(const platform::FormDesign& design) {
   auto form = QtForm::Create(design, layouts_);
   std::erase_if(forms_, [](const auto& known) { return known.expired(); });
@@ -54,16 +57,18 @@ float QtToolkit::TwipsPerPixelX() const { return qt::TwipsPerPixelX(); }
 
 bool QtToolkit::LockUpdates(platform::Element& element) {
   QWidget* widget = WidgetOf(element);
-  if (!IsGone(locked_) || widget == nullptr) return false;
+  if (UpdatesAreLocked() || widget == nullptr) return false;
   locked_ = widget;
-  locked_->setUpdatesEnabled(false);
+  hold_ = std::make_unique<UpdateHold>(*widget->window());
   return true;
 }
 
 void QtToolkit::UnlockUpdates() {
-  if (locked_) locked_->setUpdatesEnabled(true);
+  hold_.reset();
   locked_ = nullptr;
 }
+
+bool QtToolkit::UpdatesAreLocked() const { return !IsGone(locked_); }
 
 void QtToolkit::ProcessPendingEvents() { QCoreApplication::processEvents(); }
 

@@ -12,6 +12,7 @@
 namespace ferrowind::qt {
 
 class QtForm;
+class UpdateHold;
 
 /// The toolkit over Qt Widgets. Needs the QApplication, on whose thread it is used.
 ///
@@ -21,12 +22,15 @@ class QtToolkit : public platform::Toolkit {
  public:
   /// `layouts` may have more forms than the component's own.
   explicit QtToolkit(FormLayouts layouts = ComponentLayouts());
+  ~QtToolkit() override;
 
   [[nodiscard]] std::shared_ptr<platform::Form> CreateForm(const platform::FormDesign& design) override;
   [[nodiscard]] platform::ScreenSize Screen() const override;
   [[nodiscard]] float TwipsPerPixelX() const override;
   bool LockUpdates(platform::Element& element) override;
   void UnlockUpdates() override;
+  /// Whether a lock is on, of an element that is still there.
+  [[nodiscard]] bool UpdatesAreLocked() const;
   void ProcessPendingEvents() override;
   void Beep() override;
 
@@ -39,6 +43,7 @@ class QtToolkit : public platform::Toolkit {
   FormLayouts layouts_;
   std::vector<std::weak_ptr<QtForm>> forms_;
   QPointer<QWidget> locked_;
+  std::unique_ptr<UpdateHold> hold_;
   QObject context_;
 };
 
