@@ -56,6 +56,21 @@ TEST_F(GridComfortTest, MakesRoomForAllTextsOfAValueListBeforeTheyAreShown) {
   EXPECT_GT(Header().sectionSize(1), narrow);
 }
 
+TEST_F(GridComfortTest, MakesRoomForTheWidestTextWhereverItStandsAndWhateverItsLetters) {
+  const QString wide_letters(16, QLatin1Char('W'));
+  const QString letters_of_two_units = QStringLiteral("\U0001D56E\U0001D56F").repeated(8);
+  const QString ideographs = QStringLiteral("\u65E5\u672C").repeated(8);
+  for (const QString& widest : {wide_letters, letters_of_two_units, ideographs}) {
+    const int room = QFontMetrics(View().font()).horizontalAdvance(widest);
+    for (const bool stands_first : {true, false}) {
+      std::vector<Row> rows(10, Row{std::string(20, 'i'), 1, Value(), Value()});
+      rows.insert(stands_first ? rows.begin() : rows.end(), Row{widest.toStdString(), 1, Value(), Value()});
+      Attach(rows);
+      EXPECT_GE(WidthOfName(), room) << widest.toStdString();
+    }
+  }
+}
+
 TEST_F(GridComfortTest, SelectsTheRowThatTheKeyboardComesTo) {
   Attach(Rows({{"One", 1}, {"Two", 1}}));
   grid_->SetMultiSelect(true);

@@ -5,6 +5,8 @@
 #include <QStyledItemDelegate>
 #include <utility>
 
+#include "ferrowind/adapters/qt/look/flat_scroll_bar.h"
+
 namespace ferrowind::qt {
 namespace {
 
@@ -61,6 +63,8 @@ class TreeView::Work {
 };
 
 TreeView::TreeView(QWidget* parent) : QTreeView(parent) {
+  setVerticalScrollBar(new FlatScrollBar(Qt::Vertical));
+  setHorizontalScrollBar(new FlatScrollBar(Qt::Horizontal));
   setHeaderHidden(true);
   setUniformRowHeights(true);
   setItemDelegate(new RoomyRows(this));

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ferrowind/adapters/qt/look/blend.h"
+
 namespace ferrowind::qt {
 
 namespace {
@@ -22,11 +24,6 @@ double Luminance(const QColor& color) {
 }
 
 }  // namespace
-
-QColor Blend(const QColor& from, const QColor& to, double share) {
-  const auto mix = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
-  return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
-}
 
 double Contrast(const QColor& left, const QColor& right) {
   const auto [darker, lighter] = std::minmax({Luminance(left), Luminance(right)});

@@ -26,9 +26,6 @@ struct GridColors {
   QColor header_line;
 };
 
-/// Between the two colours, `share` of the way from `from` to `to`.
-[[nodiscard]] QColor Blend(const QColor& from, const QColor& to, double share);
-
 /// How well one colour is read on the other: 1 (not at all) to 21, as WCAG 2 defines the contrast ratio.
 [[nodiscard]] double Contrast(const QColor& left, const QColor& right);
 

@@ -102,7 +102,7 @@ QSize GridHeader::sizeHint() const {
 // Painting
 
 void GridHeader::paintEvent(QPaintEvent* event) {
-  const GridColors colors(palette());
+  const GridColors& colors = view_->Colors();
   {
     QPainter painter(viewport());
     painter.fillRect(event->rect(), colors.header);
@@ -119,7 +119,7 @@ void GridHeader::paintEvent(QPaintEvent* event) {
 void GridHeader::paintSection(QPainter* painter, const QRect& area, int column) const {
   const GridModel* grid = view_->Model();
   if (grid == nullptr || !area.isValid()) return;
-  const GridColors colors(palette());
+  const GridColors& colors = view_->Colors();
   painter->save();
   painter->setClipRect(area);
   painter->fillRect(area, column == pressed_column_ ? colors.header_pressed : colors.header);

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/grid/grid_header.h"
+#include "ferrowind/adapters/qt/look/flat_scroll_bar.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
 namespace ferrowind::qt {
@@ -32,6 +33,8 @@ bool IsMove(int key) { return (key >= Qt::Key_Home && key <= Qt::Key_PageDown) |
 GridView::GridView(QWidget* parent)
     : UniformTableView(parent), header_(new GridHeader(this)), colors_(palette()), texts_(font()) {
   setHorizontalHeader(header_);
+  setVerticalScrollBar(new FlatScrollBar(Qt::Vertical));
+  setHorizontalScrollBar(new FlatScrollBar(Qt::Horizontal));
   setFrameShape(QFrame::NoFrame);
   setShowGrid(false);
   setWordWrap(false);
@@ -168,6 +171,7 @@ int GridView::FittingWidth(int column) const {
   // What the operator does next may give any row another format and another text of the list.
   const unsigned char style = content.Formats().CanBeBold() ? TextCache::kBold : TextCache::kPlain;
   const auto make_room = [&](const QString& text) {
+    if (texts_.FitsByLetters(text, width - kCellMargins, style)) return;
     width = std::max(width, texts_.WidthOf(text, style) + kCellMargins);
   };
   if (const QtGridValueList* values = content.Columns()[index].Values()) {

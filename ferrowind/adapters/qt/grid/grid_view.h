@@ -24,6 +24,7 @@ class GridView final : public UniformTableView {
   void setModel(QAbstractItemModel* model) override;
   [[nodiscard]] GridModel* Model() const { return model_; }
   [[nodiscard]] GridHeader& Header() const { return *header_; }
+  [[nodiscard]] const GridColors& Colors() const { return colors_; }
 
   /// The column that the keyboard acts on, 1-based; 0 for none. Kept while no row is current.
   [[nodiscard]] int CurrentColumn() const;

@@ -7,6 +7,7 @@
 
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
 #include "ferrowind/adapters/qt/grid/group_chip.h"
+#include "ferrowind/adapters/qt/look/blend.h"
 
 namespace ferrowind::qt {
 

@@ -8,6 +8,7 @@
 
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
 #include "ferrowind/adapters/qt/grid/row_painter.h"
+#include "ferrowind/adapters/qt/look/blend.h"
 
 namespace ferrowind::qt {
 

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QPolygonF>
 
+#include "ferrowind/adapters/qt/look/blend.h"
+
 namespace ferrowind::qt {
 
 using grid_engine::GroupId;

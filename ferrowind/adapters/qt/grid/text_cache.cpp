@@ -37,17 +37,25 @@ void TextCache::SetFont(const QFont& font) {
   metrics_ = QFontMetrics(fonts_[kPlain]);
   bold_metrics_ = QFontMetrics(fonts_[kBold]);
   layouts_.clear();
-  widths_.clear();
+  for (auto& widths : letter_widths_) widths.clear();
 }
 
 int TextCache::WidthOf(const QString& text, unsigned char style) const {
-  if (text.isEmpty()) return 0;
-  const Key key{text, 0, style};
-  const auto known = widths_.find(key);
-  if (known != widths_.end()) return known->second;
-  if (widths_.size() >= kMostLayouts) widths_.clear();
-  const QFontMetrics& metrics = (style & kBold) != 0 ? bold_metrics_ : metrics_;
-  return widths_.emplace(key, metrics.horizontalAdvance(SingleLine(text))).first->second;
+  return MetricsOf(style).horizontalAdvance(SingleLine(text));
+}
+
+bool TextCache::FitsByLetters(const QString& text, int width, unsigned char style) const {
+  auto& known = letter_widths_[(style & kBold) != 0 ? 1 : 0];
+  int needed = 0;
+  for (const QChar letter : text) {
+    // Half of a character has no width of its own.
+    if (letter.isSurrogate()) return false;
+    const auto [place, is_new] = known.try_emplace(letter.unicode());
+    if (is_new) place->second = MetricsOf(style).horizontalAdvance(letter);
+    needed += place->second;
+    if (needed > width) return false;
+  }
+  return true;
 }
 
 const TextCache::Layout& TextCache::LayoutOf(const QString& text, int width, unsigned char style) {
@@ -55,7 +63,7 @@ const TextCache::Layout& TextCache::LayoutOf(const QString& text, int width, uns
   const auto known = layouts_.find(key);
   if (known != layouts_.end()) return known->second;
   if (layouts_.size() >= kMostLayouts) layouts_.clear();
-  const QFontMetrics& metrics = (style & kBold) != 0 ? bold_metrics_ : metrics_;
+  const QFontMetrics& metrics = MetricsOf(style);
   const QString elided = metrics.elidedText(SingleLine(text), Qt::ElideRight, width);
   Layout layout{QStaticText(elided), metrics.horizontalAdvance(elided)};
   layout.text.setTextFormat(Qt::PlainText);
