@@ -1,5 +1,6 @@
 #include "bench/window_stage.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
@@ -53,6 +54,14 @@ void PaintWatch::WaitUntilPainted() const {
   while (!is_painted_) {
     if (watch.Milliseconds() > kPatience) throw std::runtime_error("nothing was painted");
     QCoreApplication::processEvents();
+  }
+}
+
+void LetWindowsRest() {
+  auto* dispatcher = QAbstractEventDispatcher::instance();
+  const Watch watch;
+  while (dispatcher->processEvents(QEventLoop::AllEvents)) {
+    if (watch.Milliseconds() > kPatience) throw std::runtime_error("the windows never rest");
   }
 }
 

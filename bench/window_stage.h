@@ -39,6 +39,10 @@ class PaintWatch : public QObject {
   bool is_painted_ = false;
 };
 
+/// Lets events run until none is left: what one side of a comparison leaves over must not fall into the other
+/// one's time. An error after ten seconds.
+void LetWindowsRest();
+
 /// The component's windows as the desktop program puts them together, over a database in a temporary folder.
 class WindowStage {
  public:

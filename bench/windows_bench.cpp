@@ -26,6 +26,7 @@ namespace {
 
 using ferrowind::bench::Benchmark;
 using ferrowind::bench::GridIn;
+using ferrowind::bench::LetWindowsRest;
 using ferrowind::bench::PaintWatch;
 using ferrowind::bench::PressKey;
 using ferrowind::bench::Watch;
@@ -112,6 +113,7 @@ void MeasureSelection(const Benchmark& benchmark) {
     PressKey(stage.Tree(), year == 2028 ? Qt::Key_Down : Qt::Key_Up);
     painted.WaitUntilPainted();
     const double time = watch.Milliseconds();
+    LetWindowsRest();
     year = year == 2028 ? 2029 : 2028;
     RequireRows(days.Model()->rowCount(), year == 2028 ? 366 : 365);
     return time;
@@ -137,6 +139,7 @@ void MeasureSelection(const Benchmark& benchmark) {
     while (model.canFetchMore()) model.fetchMore();
     painted.WaitUntilPainted();
     const double time = watch.Milliseconds();
+    LetWindowsRest();
     RequireRows(proxy.rowCount(), peer_year == 2028 ? 366 : 365);
     return time;
   };
@@ -212,7 +215,9 @@ void MeasureAssignment(const Benchmark& benchmark) {
       holidays.findChild<QAbstractButton*>(QStringLiteral("cmdAction5"))->click();
     });
     painted.WaitUntilPainted();
-    return watch->Milliseconds();
+    const double time = watch->Milliseconds();
+    LetWindowsRest();
+    return time;
   };
   const WindowStage other(fill);
   const auto statements = AssigningStatements(other.DatabasePath());
@@ -242,6 +247,7 @@ void MeasureOpening(const Benchmark& benchmark) {
       RequireRows(GridIn(holidays).Model()->rowCount(), kRules);
       size = holidays.size();
     });
+    LetWindowsRest();
     return time;
   };
   const QtDatabase database(stage);
@@ -257,6 +263,7 @@ void MeasureOpening(const Benchmark& benchmark) {
     view.show();
     painted.WaitUntilPainted();
     const double time = watch.Milliseconds();
+    LetWindowsRest();
     RequireRows(model.rowCount(), kRules);
     return time;
   };
@@ -300,6 +307,7 @@ void MeasureToggle(const Benchmark& benchmark) {
       toggle->click();
       painted.WaitUntilPainted();
       const double time = watch.Milliseconds();
+      LetWindowsRest();
       RequireRows(rules.Model()->rowCount(), kRules + 7 - (are_shown ? 0 : kRemoved));
       return time;
     };
@@ -324,6 +332,7 @@ void MeasureToggle(const Benchmark& benchmark) {
       view.viewport()->update();
       painted.WaitUntilPainted();
       const double time = watch.Milliseconds();
+      LetWindowsRest();
       RequireRows(proxy.rowCount(), kRules + 7 - (are_peers_shown ? 0 : kRemoved));
       return time;
     };
