@@ -201,6 +201,11 @@ class DesktopSession:
         self.xdotool('windowactivate', '--sync', window)
         return window
 
+    def activate_if_open(self, title):
+        """As `focus`, for a window that may be closing."""
+        for window in self.windows(title):
+            self.xdotool('windowactivate', window)
+
     def keys(self, *keys):
         for key in keys:
             self.xdotool('key', '--clearmodifiers', key)
