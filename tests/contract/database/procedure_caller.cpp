@@ -8,8 +8,12 @@
 namespace ferrowind::contract {
 
 platform::CallOutcome ProcedureCaller::Call(const std::string& procedure, const Arguments& arguments) {
-  const auto connection = database_.Engine().Connect(database_.ConnectionString());
-  const auto parameters = connection->DescribeProcedure(procedure);
+  return CallOver(*database_.Engine().Connect(database_.ConnectionString()), procedure, arguments);
+}
+
+platform::CallOutcome CallOver(platform::Connection& connection, const std::string& procedure,
+                               const Arguments& arguments) {
+  const auto parameters = connection.DescribeProcedure(procedure);
   std::vector<platform::Value> inputs(parameters.size() - 1);
   for (const auto& [name, value] : arguments) {
     bool is_known = false;
@@ -20,7 +24,7 @@ platform::CallOutcome ProcedureCaller::Call(const std::string& procedure, const 
     }
     if (!is_known) throw std::logic_error(procedure + " has no parameter " + name);
   }
-  return connection->Call(procedure, inputs);
+  return connection.Call(procedure, inputs);
 }
 
 std::vector<std::string> FieldsOf(const platform::RecordSet& record_set) {

@@ -15,13 +15,17 @@ namespace ferrowind::contract {
 using Arguments = std::vector<std::pair<std::string, platform::Value>>;
 using Row = std::vector<platform::Value>;
 
+/// Calls a procedure. What is not given stays empty; a name that is no parameter fails the test by
+/// std::logic_error.
+[[nodiscard]] platform::CallOutcome CallOver(platform::Connection& connection, const std::string& procedure,
+                                             const Arguments& arguments = {});
+
 /// Calls procedures of one database, each call on a connection of its own.
 class ProcedureCaller {
  public:
   /// `database` must outlive the caller.
   explicit ProcedureCaller(DatabaseUnderTest& database) : database_(database) {}
 
-  /// What is not given stays empty; a name that is no parameter fails the test by std::logic_error.
   platform::CallOutcome Call(const std::string& procedure, const Arguments& arguments = {});
   /// The return value alone.
   int Return(const std::string& procedure, const Arguments& arguments = {}) {
