@@ -7,7 +7,9 @@
 
 #include "host/admin/call_command.h"
 #include "host/admin/check_command.h"
+#include "host/admin/copy_command.h"
 #include "host/admin/init_command.h"
+#include "host/admin/status_command.h"
 
 namespace ferrowind::host {
 namespace {
@@ -19,15 +21,18 @@ constexpr const char* kManual = R"(DATABASES
   password written %40, %2F, %3F and %25. The URL is never printed.
 
 EXIT STATUS
-  0  done: the database was created, is in order, or the procedure returned 0
+  0  done: the database was created, copied, is in order, or the procedure
+     returned 0
   1  not done: the reason is on standard error. A check found faults, a
-     database could not be created, or the command line is wrong
+     database could not be created or copied, or the command line is wrong
   2  the procedure returned another value than 0
   3  the call failed; the failure's number and text are on standard error
 
 EXAMPLES
   ferrowindctl init sqlite:calendars.db
   ferrowindctl check sqlite:calendars.db
+  ferrowindctl status sqlite:calendars.db --format json
+  ferrowindctl copy sqlite:calendars.db postgresql://anna@server/calendars
   ferrowindctl call sqlite:calendars.db CldGetMain ID1=978 Year1=2026
   ferrowindctl call sqlite:calendars.db CldAllInfo --format json
   ferrowindctl call sqlite:calendars.db CldIUMain ID1=840 Year1=2028
@@ -72,6 +77,30 @@ FORMATS
          "return", then one for each record set. No value is an empty field,
          an empty text is ""; in a table of a single field both are "")";
 
+constexpr const char* kCopyManual =
+    R"(Everything goes along: currencies, holiday types and rules (removed ones too), the setting, calendars,
+days and the history. FROM is read as it is at one moment, and others may go on working with it. What was
+written is compared with it, and only then do others see it, all at once: a copy that fails, differs or is
+stopped leaves TO as it was.
+
+TO must be empty: a file that does not exist, a database on a server that has nothing in it, or a calendar
+database that holds what "init --empty" delivers and nothing else, not even an entry in its history. Roles and
+rights of a server are not copied; TO has its own. Both must be of this program's schema version ("upgrade"
+brings an older one there). On a server the user must be one who could create the database.
+
+How far it is stands on standard error while that is a terminal.)";
+
+constexpr const char* kStatusManual =
+    R"(Prints two tables: the version of the schema, the engine and its version, and how many currencies, rules
+(all of them, and those removed), calendars, days and entries of the history there are; and for each year the
+number of its calendars. A database of an older schema has an empty cell for what it does not know. On a
+server the user must be one who could create the database.
+
+FORMATS
+  table  columns, for people
+  json   {"results": [{"fields": [...], "rows": [[...]]}]} on one line
+  csv    as RFC 4180, an empty line between the tables)";
+
 const std::map<std::string, OutputFormat> kFormats = {
     {"table", OutputFormat::kTable}, {"json", OutputFormat::kJson}, {"csv", OutputFormat::kCsv}};
 
@@ -90,13 +119,19 @@ class CommandLine {
     check_->footer(kCheckManual);
     check_->add_option("URL", check_command_.url, "The database to check")->required();
 
+    copy_->footer(kCopyManual);
+    copy_->add_option("FROM", copy_command_.from, "The URL of the database to copy")->required();
+    copy_->add_option("TO", copy_command_.to, "The URL of the database that it is copied to")->required();
+
+    status_->footer(kStatusManual);
+    status_->add_option("URL", status_command_.url, "The database to look at")->required();
+    AddFormat(*status_);
+
     call_->footer(kCallManual);
     call_->add_option("URL", call_command_.url, "The database to call it in")->required();
     call_->add_option("PROCEDURE", call_command_.procedure, "The name of the procedure")->required();
     call_->add_option("NAME=VALUE", call_command_.arguments, "Its parameters");
-    call_->add_option("--format", format_, "table (the default), json or csv")
-        ->check(CLI::IsMember(kFormats))
-        ->option_text("FORMAT");
+    AddFormat(*call_);
   }
 
   ExitStatus Run(std::vector<std::string> arguments, const platform::EngineRegistry& engines,
@@ -123,11 +158,22 @@ class CommandLine {
     }
     if (init_->parsed()) return init_command_.Run(engines);
     if (check_->parsed()) return check_command_.Run(engines, out);
+    if (copy_->parsed()) return copy_command_.Run(engines, out, errors);
+    if (status_->parsed()) {
+      status_command_.format = kFormats.at(format_);
+      return status_command_.Run(engines, out);
+    }
     call_command_.format = kFormats.at(format_);
     return call_command_.Run(engines, out, errors);
   }
 
  private:
+  void AddFormat(CLI::App& command) {
+    command.add_option("--format", format_, "table (the default), json or csv")
+        ->check(CLI::IsMember(kFormats))
+        ->option_text("FORMAT");
+  }
+
   /// Names unknown options, but no other argument: that may be a URL in the wrong place.
   std::string UnexpectedArguments() const {
     std::string options;
@@ -143,13 +189,17 @@ class CommandLine {
     return ExitStatus::kNotDone;
   }
 
-  CLI::App app_{"Creates and checks the calendar databases of Ferrowind, and calls their procedures.",
+  CLI::App app_{"Creates, checks and copies the calendar databases of Ferrowind, and calls their procedures.",
                 "ferrowindctl"};
   CLI::App* init_ = app_.add_subcommand("init", "Create a database");
   CLI::App* check_ = app_.add_subcommand("check", "Look for faults in a database");
+  CLI::App* copy_ = app_.add_subcommand("copy", "Copy a database to another one, of any engine");
+  CLI::App* status_ = app_.add_subcommand("status", "Tell what a database is and holds");
   CLI::App* call_ = app_.add_subcommand("call", "Call a procedure and print what it gives");
   InitCommand init_command_;
   CheckCommand check_command_;
+  CopyCommand copy_command_;
+  StatusCommand status_command_;
   CallCommand call_command_;
   std::string format_ = "table";
 };

@@ -37,21 +37,31 @@ void WriteLine(std::size_t count, const Cell& cell, std::ostream& out) {
   out << kLineEnd;
 }
 
+void WriteRecordSet(const platform::RecordSet& rows, std::ostream& out) {
+  WriteLine(
+      rows.FieldCount(), [&](std::size_t field) { return CsvText(rows.FieldName(field)); }, out);
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) {
+    const auto row = rows.BookmarkAt(i);
+    const bool is_alone = rows.FieldCount() == 1;
+    WriteLine(
+        rows.FieldCount(), [&](std::size_t field) { return CsvCell(rows.Cell(row, field), is_alone); }, out);
+  }
+}
+
 }  // namespace
 
 void WriteCsv(const ProcedureOutcome& outcome, std::ostream& out) {
   out << "return" << kLineEnd << outcome.return_value << kLineEnd;
   for (const auto& rows : outcome.record_sets) {
     out << kLineEnd;
-    WriteLine(
-        rows->FieldCount(), [&](std::size_t field) { return CsvText(rows->FieldName(field)); }, out);
-    for (std::size_t i = 0; i < rows->RowCount(); ++i) {
-      const auto row = rows->BookmarkAt(i);
-      const bool is_alone = rows->FieldCount() == 1;
-      WriteLine(
-          rows->FieldCount(), [&](std::size_t field) { return CsvCell(rows->Cell(row, field), is_alone); },
-          out);
-    }
+    WriteRecordSet(*rows, out);
+  }
+}
+
+void WriteCsvRows(const RecordSets& record_sets, std::ostream& out) {
+  for (std::size_t i = 0; i < record_sets.size(); ++i) {
+    if (i != 0) out << kLineEnd;
+    WriteRecordSet(*record_sets[i], out);
   }
 }
 

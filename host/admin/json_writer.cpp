@@ -37,16 +37,30 @@ Json RecordSetJson(const platform::RecordSet& rows) {
   return record_set;
 }
 
+Json RecordSetsJson(const RecordSets& record_sets) {
+  Json results = Json::array();
+  for (const auto& rows : record_sets) results.push_back(RecordSetJson(*rows));
+  return results;
+}
+
+void WriteLine(const Json& document, std::ostream& out) {
+  // Bytes that are no UTF-8 cannot stand in JSON; they become U+FFFD.
+  out << document.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
 }  // namespace
 
 void WriteJson(const ProcedureOutcome& outcome, std::ostream& out) {
-  Json results = Json::array();
-  for (const auto& rows : outcome.record_sets) results.push_back(RecordSetJson(*rows));
   Json document;
   document["return"] = outcome.return_value;
-  document["results"] = std::move(results);
-  // Bytes that are no UTF-8 cannot stand in JSON; they become U+FFFD.
-  out << document.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+  document["results"] = RecordSetsJson(outcome.record_sets);
+  WriteLine(document, out);
+}
+
+void WriteJsonRows(const RecordSets& record_sets, std::ostream& out) {
+  Json document;
+  document["results"] = RecordSetsJson(record_sets);
+  WriteLine(document, out);
 }
 
 }  // namespace ferrowind::host

@@ -13,4 +13,15 @@ void WriteOutcome(const ProcedureOutcome& outcome, OutputFormat format, std::ost
   }
 }
 
+void WriteRows(const RecordSets& record_sets, OutputFormat format, std::ostream& out) {
+  switch (format) {
+    case OutputFormat::kTable:
+      return WriteTableRows(record_sets, out);
+    case OutputFormat::kJson:
+      return WriteJsonRows(record_sets, out);
+    case OutputFormat::kCsv:
+      return WriteCsvRows(record_sets, out);
+  }
+}
+
 }  // namespace ferrowind::host

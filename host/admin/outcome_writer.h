@@ -1,12 +1,16 @@
 #pragma once
 
 #include <iosfwd>
+#include <memory>
+#include <vector>
+
+#include "ferrowind/platform/values/record_set.h"
 
 #include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 
-/// The forms in which `ferrowindctl call` prints what a procedure gave.
+/// The forms in which ferrowindctl prints rows.
 enum class OutputFormat { kTable, kJson, kCsv };
 
 /// For people: the return value, then each record set as aligned columns; texts over 60 columns are cut.
@@ -22,5 +26,15 @@ void WriteJson(const ProcedureOutcome& outcome, std::ostream& out);
 void WriteCsv(const ProcedureOutcome& outcome, std::ostream& out);
 
 void WriteOutcome(const ProcedureOutcome& outcome, OutputFormat format, std::ostream& out);
+
+using RecordSets = std::vector<std::shared_ptr<platform::RecordSet>>;
+
+/// What is no outcome of a procedure, in the same three forms without a return value: the columns alone, one
+/// line `{"results": [...]}`, and the tables of CSV alone, with an empty line between each two.
+void WriteTableRows(const RecordSets& record_sets, std::ostream& out);
+void WriteJsonRows(const RecordSets& record_sets, std::ostream& out);
+void WriteCsvRows(const RecordSets& record_sets, std::ostream& out);
+
+void WriteRows(const RecordSets& record_sets, OutputFormat format, std::ostream& out);
 
 }  // namespace ferrowind::host

@@ -85,4 +85,11 @@ void WriteTable(const ProcedureOutcome& outcome, std::ostream& out) {
   }
 }
 
+void WriteTableRows(const RecordSets& record_sets, std::ostream& out) {
+  for (std::size_t i = 0; i < record_sets.size(); ++i) {
+    if (i != 0) out << '\n';
+    WriteRecordSet(*record_sets[i], out);
+  }
+}
+
 }  // namespace ferrowind::host

@@ -1,3 +1,5 @@
+#include "ferrowind/adapters/postgres/database_creation.h"
+
 #include <string>
 #include <string_view>
 
@@ -39,21 +41,27 @@ void RefuseObstacles(ServerConnection& connection) {
 
 }  // namespace
 
+void CreateObjects(ServerConnection& connection, bool with_rules, const std::function<void()>& fill) {
+  RefuseObstacles(connection);
+  connection.RunScript("BEGIN");
+  connection.RunScript(std::string(embedded::kPostgresRoles));
+  CreateDeliveredSchema(connection);
+  for (const std::string_view script : {embedded::kBaseData, embedded::kCurrencies}) {
+    connection.RunScript(std::string(script));
+  }
+  if (with_rules) connection.RunScript(std::string(embedded::kRules));
+  if (fill) fill();
+  GiveDeliveredRights(connection);
+  connection.RunScript("COMMIT");
+}
+
 void CreateDatabaseObjects(const std::string& connection_string, bool with_rules,
                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill) {
   platform::WithFailuresOnly([&] {
     const auto connection = std::make_shared<ServerConnection>(connection_string);
-    RefuseObstacles(*connection);
-    connection->RunScript("BEGIN");
-    connection->RunScript(std::string(embedded::kPostgresRoles));
-    CreateDeliveredSchema(*connection);
-    for (const std::string_view script : {embedded::kBaseData, embedded::kCurrencies}) {
-      connection->RunScript(std::string(script));
-    }
-    if (with_rules) connection->RunScript(std::string(embedded::kRules));
-    if (fill) fill(std::make_shared<TransactionEngine>(connection));
-    GiveDeliveredRights(*connection);
-    connection->RunScript("COMMIT");
+    CreateObjects(*connection, with_rules, [&] {
+      if (fill) fill(std::make_shared<TransactionEngine>(connection));
+    });
   });
 }
 

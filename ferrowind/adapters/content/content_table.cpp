@@ -1,0 +1,42 @@
+#include "ferrowind/adapters/content/content_table.h"
+
+namespace ferrowind::content {
+namespace {
+
+std::string Listed(const std::vector<std::string_view>& names, std::size_t count,
+                   std::string (*written)(std::string_view name)) {
+  std::string list;
+  for (std::size_t i = 0; i < count; ++i) list.append(i == 0 ? "" : ", ").append(written(names[i]));
+  return list;
+}
+
+std::string AsItIs(std::string_view name) { return std::string(name); }
+
+}  // namespace
+
+const std::vector<Table>& Tables() {
+  static const std::vector<Table> tables = {
+      {"DicCcy", "currencies", {"CcyID", "Ccy", "CcyType", "Name"}, 1},
+      {"CldHolidayType", "holiday types", {"TID1", "Description1"}, 1},
+      {"CldHoliday", "holiday rules", {"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, 1},
+      {"CldSetting", "settings", {"FirstDay"}, 1},
+      {"CldCalendar", "calendars", {"ID1", "Year1"}, 2},
+      {"CldDay", "days", {"ID1", "Year1", "Day1", "ODate", "TID1", "ID2", "Comment"}, 3},
+      {"CldHistory",
+       "entries of the history",
+       {"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters", "ReturnValue",
+        "RowsChanged"},
+       1},
+  };
+  return tables;
+}
+
+std::string ColumnList(const Table& table, std::string (*written)(std::string_view column)) {
+  return Listed(table.columns, table.columns.size(), written);
+}
+
+std::string ColumnList(const Table& table) { return ColumnList(table, AsItIs); }
+
+std::string KeyList(const Table& table) { return Listed(table.columns, table.key_size, AsItIs); }
+
+}  // namespace ferrowind::content

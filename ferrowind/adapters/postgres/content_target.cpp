@@ -1,0 +1,168 @@
+#include "ferrowind/adapters/postgres/content_target.h"
+
+#include <cstddef>
+#include <string_view>
+#include <variant>
+
+#include "ferrowind/adapters/postgres/postgres_failure.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+#include "ferrowind/platform/values/failure.h"
+
+#include "database/seed/embedded_sql.h"
+
+namespace ferrowind::postgres {
+namespace {
+
+using platform::Failure;
+
+constexpr const char* kSchema = "ferrowind";
+
+/// Appends the value that it is called with as the text form of COPY has it.
+struct CopyText {
+  std::string& line;
+
+  void operator()(std::monostate) const { line += "\\N"; }
+  void operator()(platform::Date date) const { line += date.ToIso(); }
+  void operator()(const std::string& text) const {
+    for (const char c : text) {
+      switch (c) {
+        case '\0':
+          throw Failure(platform::failure_number::kInvalidArgument,
+                        "A text holds the character NUL, which no text on a server can hold");
+        case '\\':
+          line += "\\\\";
+          break;
+        case '\t':
+          line += "\\t";
+          break;
+        case '\n':
+          line += "\\n";
+          break;
+        case '\r':
+          line += "\\r";
+          break;
+        default:
+          line += c;
+      }
+    }
+  }
+  void operator()(std::int16_t number) const { line += std::to_string(number); }
+  void operator()(std::int32_t number) const { line += std::to_string(number); }
+  void operator()(std::int64_t number) const { line += std::to_string(number); }
+  template <typename Other>
+  void operator()(const Other& /*value*/) const {
+    throw platform::TypeMismatch();
+  }
+};
+
+/// Sends rows by COPY, many at a time.
+class CopyWriter : public content::RowWriter {
+ public:
+  CopyWriter(ServerConnection& connection, const content::Table& table) : connection_(connection) {
+    const std::string sql = std::string("COPY ") + kSchema + "." + std::string(table.name) + " (" +
+                            ColumnList(table) + ") FROM STDIN";
+    const QueryResult result(PQexec(connection_.Get(), sql.c_str()));
+    if (PQresultStatus(result.get()) != PGRES_COPY_IN) throw ResultFailure(connection_.Get(), result.get());
+  }
+
+  void Add(const content::Row& row) override {
+    platform::WithFailuresOnly([&] {
+      bool is_first = true;
+      for (const platform::Value& value : row) {
+        if (!is_first) lines_ += '\t';
+        std::visit(CopyText{lines_}, value.Get());
+        is_first = false;
+      }
+      lines_ += '\n';
+      if (lines_.size() >= kEnough) Send();
+    });
+  }
+
+  void Finish() override {
+    platform::WithFailuresOnly([&] {
+      Send();
+      if (PQputCopyEnd(connection_.Get(), nullptr) != 1) throw LinkFailure(connection_.Get());
+      const QueryResult result(PQgetResult(connection_.Get()));
+      if (PQresultStatus(result.get()) != PGRES_COMMAND_OK) throw Refusal(result.get());
+      while (const QueryResult more{PQgetResult(connection_.Get())}) {
+      }
+    });
+  }
+
+ private:
+  static constexpr std::size_t kEnough = std::size_t{64} * 1024;
+
+  void Send() {
+    if (PQputCopyData(connection_.Get(), lines_.data(), static_cast<int>(lines_.size())) != 1) {
+      throw LinkFailure(connection_.Get());
+    }
+    lines_.clear();
+  }
+
+  /// With the place that the server names: "COPY cldday, line 5".
+  Failure Refusal(const PGresult* result) const {
+    const Failure failure = ResultFailure(connection_.Get(), result);
+    const char* const context = PQresultErrorField(result, PG_DIAG_CONTEXT);
+    if (context == nullptr) return failure;
+    const std::string_view place(context);
+    return Introduced(std::string(place.substr(0, place.find(':'))) + ": ", failure);
+  }
+
+  ServerConnection& connection_;
+  std::string lines_;
+};
+
+}  // namespace
+
+ServerTarget::ServerTarget(ServerConnection& connection, Kind kind)
+    : connection_(connection), content_(connection, kSchema), kind_(kind) {}
+
+content::Source* ServerTarget::Delivered() {
+  return platform::WithFailuresOnly([&]() -> content::Source* {
+    if (kind_ == Kind::kNew) return nullptr;
+    if (delivered_) return delivered_.get();
+    // The delivered rows in tables that only this transaction has, and that hide those of the schema.
+    std::string tables;
+    for (const content::Table& table : content::Tables()) {
+      const std::string name(table.name);
+      tables += "CREATE TEMPORARY TABLE " + name + " (LIKE ferrowind." + name + ") ON COMMIT DROP;";
+    }
+    connection_.RunScript("SET LOCAL search_path = pg_temp;" + tables);
+    connection_.RunScript(std::string(embedded::kBaseData));
+    connection_.RunScript(std::string(embedded::kCurrencies));
+    delivered_ = std::make_unique<ServerSource>(connection_, "pg_temp");
+    return delivered_.get();
+  });
+}
+
+void ServerTarget::Clear(const content::Table& table) {
+  platform::WithFailuresOnly(
+      [&] { connection_.RunScript(std::string("DELETE FROM ") + kSchema + "." + std::string(table.name)); });
+}
+
+std::unique_ptr<content::RowWriter> ServerTarget::Writer(const content::Table& table) {
+  return platform::WithFailuresOnly([&] { return std::make_unique<CopyWriter>(connection_, table); });
+}
+
+void ContinueIdentifiers(ServerConnection& connection) {
+  // Not by setval, which would stay when the transaction is undone.
+  connection.RunScript(R"sql(
+DO $$
+DECLARE
+  identity record;
+  last bigint;
+BEGIN
+  FOR identity IN
+    SELECT a.attrelid::regclass AS of_table, a.attname AS name FROM pg_catalog.pg_attribute a
+      JOIN pg_catalog.pg_class c ON c.oid = a.attrelid
+    WHERE c.relnamespace = 'ferrowind'::regnamespace AND c.relkind = 'r' AND a.attidentity <> ''
+  LOOP
+    EXECUTE format('SELECT max(%I) FROM %s', identity.name, identity.of_table) INTO last;
+    IF last IS NOT NULL THEN
+      EXECUTE format('ALTER TABLE %s ALTER COLUMN %I RESTART WITH %s', identity.of_table, identity.name, last + 1);
+    END IF;
+  END LOOP;
+END $$)sql");
+}
+
+}  // namespace ferrowind::postgres

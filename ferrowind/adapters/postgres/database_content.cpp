@@ -1,0 +1,121 @@
+#include "ferrowind/adapters/postgres/database_content.h"
+
+#include <cstdint>
+
+#include "ferrowind/adapters/postgres/content_source.h"
+#include "ferrowind/adapters/postgres/content_target.h"
+#include "ferrowind/adapters/postgres/database_creation.h"
+#include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres/server_connection.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::postgres {
+namespace {
+
+constexpr std::int64_t kSchemaVersion = 2;
+
+platform::Value Answer(ServerConnection& connection, const std::string& question) {
+  const auto rows = ReadRecordSet(connection.Query(question).get());
+  return rows->Eof() ? platform::Value() : rows->Cell(rows->CurrentBookmark(), 0);
+}
+
+bool Exists(ServerConnection& connection, const std::string& kind, const std::string& name) {
+  return !Answer(connection, "SELECT to_reg" + kind + "('" + name + "')::text").IsEmpty();
+}
+
+bool IsCalendarDatabase(ServerConnection& connection) { return Exists(connection, "namespace", "ferrowind"); }
+
+void RequireCalendarDatabase(ServerConnection& connection) {
+  if (IsCalendarDatabase(connection)) return;
+  throw platform::Failure(platform::failure_number::kInvalidArgument,
+                          connection.DatabaseName() + " is no calendar database");
+}
+
+std::int64_t SchemaVersionOf(ServerConnection& connection) {
+  return platform::ToInt32(Answer(connection, "SELECT Version FROM ferrowind.SchemaVersion"));
+}
+
+void RequireThisVersion(ServerConnection& connection) {
+  content::RequireSchemaVersion(connection.DatabaseName(), SchemaVersionOf(connection), kSchemaVersion);
+}
+
+constexpr const char* kBeginSnapshot = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
+
+/// A connection and the transaction that all content is read in.
+class SnapshotSource : public content::Source {
+ public:
+  explicit SnapshotSource(const std::string& connection_string)
+      : connection_(connection_string), content_(connection_, "ferrowind") {
+    connection_.RunScript(kBeginSnapshot);
+    RequireCalendarDatabase(connection_);
+    RequireThisVersion(connection_);
+  }
+
+  std::string Name() override { return content_.Name(); }
+  std::string Identity() override { return content_.Identity(); }
+  std::int64_t CountRows(const content::Table& table) override { return content_.CountRows(table); }
+  std::unique_ptr<content::RowReader> Rows(const content::Table& table) override {
+    return content_.Rows(table);
+  }
+
+ private:
+  ServerConnection connection_;
+  ServerSource content_;
+};
+
+void Fill(ServerConnection& connection, ServerTarget::Kind kind,
+          const std::function<void(content::Target& target)>& fill) {
+  ServerTarget target(connection, kind);
+  fill(target);
+  ContinueIdentifiers(connection);
+}
+
+/// Others may go on reading.
+void KeepWritersOut(ServerConnection& connection) {
+  std::string tables;
+  for (const content::Table& table : content::Tables()) {
+    tables += (tables.empty() ? "ferrowind." : ", ferrowind.") + std::string(table.name);
+  }
+  connection.RunScript("LOCK TABLE " + tables + " IN SHARE ROW EXCLUSIVE MODE");
+}
+
+}  // namespace
+
+std::unique_ptr<content::Source> OpenContent(const std::string& connection_string) {
+  return platform::WithFailuresOnly([&] { return std::make_unique<SnapshotSource>(connection_string); });
+}
+
+void FillDatabase(const std::string& connection_string,
+                  const std::function<void(content::Target& target)>& fill) {
+  platform::WithFailuresOnly([&] {
+    ServerConnection connection(connection_string);
+    if (!IsCalendarDatabase(connection)) {
+      return CreateObjects(connection, false, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
+    }
+    connection.RunScript("BEGIN");
+    RequireThisVersion(connection);
+    KeepWritersOut(connection);
+    Fill(connection, ServerTarget::Kind::kExisting, fill);
+    connection.RunScript("COMMIT");
+  });
+}
+
+content::DatabaseStatus ReadStatus(const std::string& connection_string) {
+  return platform::WithFailuresOnly([&] {
+    ServerConnection connection(connection_string);
+    connection.RunScript(kBeginSnapshot);
+    RequireCalendarDatabase(connection);
+    connection.RunScript("SET LOCAL search_path = ferrowind, pg_temp");
+    content::DatabaseStatus status;
+    status.schema_version = SchemaVersionOf(connection);
+    status.engine = "PostgreSQL";
+    status.engine_version = platform::ToText(Answer(connection, "SELECT current_setting('server_version')"));
+    const auto ask = [&](const std::string& query) { return ReadRecordSet(connection.Query(query).get()); };
+    content::CountContent(ask, Exists(connection, "class", "ferrowind.CldHistory"), status);
+    return status;
+  });
+}
+
+}  // namespace ferrowind::postgres

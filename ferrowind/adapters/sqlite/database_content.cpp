@@ -1,0 +1,125 @@
+#include "ferrowind/adapters/sqlite/database_content.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
+
+#include <sqlite3.h>
+
+#include "ferrowind/adapters/sqlite/content_source.h"
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/delivered_schema.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/adapters/sqlite/result_reader.h"
+#include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/transaction.h"
+#include "ferrowind/platform/database/failure_boundary.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+/// In a transaction, so that the version stays what it is.
+void RequireThisVersion(DatabaseHandle& database) {
+  content::RequireSchemaVersion("The database " + database.Path(), SchemaVersionOf(database),
+                                DeliveredUpgrades().back().version);
+}
+
+/// An open calendar database and the transaction that all of its content is read in.
+class Snapshot {
+ public:
+  explicit Snapshot(const std::string& path)
+      : database_(path),
+        must_be_a_calendar_database_(database_),
+        transaction_(database_, Transaction::Kind::kReading) {}
+
+  [[nodiscard]] DatabaseHandle& Database() { return database_; }
+
+ private:
+  DatabaseHandle database_;
+  ProcedureCatalogue must_be_a_calendar_database_;
+  Transaction transaction_;
+};
+
+class SnapshotSource : public content::Source {
+ public:
+  explicit SnapshotSource(const std::string& path) : snapshot_(path), content_(snapshot_.Database()) {
+    RequireThisVersion(snapshot_.Database());
+  }
+
+  std::string Name() override { return content_.Name(); }
+  std::string Identity() override { return content_.Identity(); }
+  std::int64_t CountRows(const content::Table& table) override { return content_.CountRows(table); }
+  std::unique_ptr<content::RowReader> Rows(const content::Table& table) override {
+    return content_.Rows(table);
+  }
+
+ private:
+  Snapshot snapshot_;
+  FileSource content_;
+};
+
+enum class Target { kExisting, kNew };
+
+void FillExisting(const std::string& path, Target kind,
+                  const std::function<void(content::Target& target)>& fill) {
+  DatabaseHandle database(path);
+  const ProcedureCatalogue must_be_a_calendar_database(database);
+  Transaction transaction(database, Transaction::Kind::kWriting);
+  RequireThisVersion(database);
+  {
+    FileTarget target(database, kind == Target::kNew);
+    fill(target);
+  }
+  transaction.Commit();
+}
+
+bool IsMissingOrEmpty(const std::string& path) {
+  std::error_code error;
+  if (std::filesystem::symlink_status(path, error).type() == std::filesystem::file_type::not_found)
+    return true;
+  return std::filesystem::is_regular_file(path, error) && std::filesystem::file_size(path, error) == 0 &&
+         !error;
+}
+
+bool HasTable(const DatabaseHandle& database, const char* name) {
+  const platform::Value wanted(name);
+  Statement ask(database, "SELECT 1 FROM sqlite_schema WHERE type = 'table' AND name = ?1");
+  ask.Bind(1, wanted);
+  return ask.Step();
+}
+
+}  // namespace
+
+std::unique_ptr<content::Source> OpenContent(const std::string& path) {
+  return platform::WithFailuresOnly([&] { return std::make_unique<SnapshotSource>(path); });
+}
+
+void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill) {
+  platform::WithFailuresOnly([&] {
+    if (!IsMissingOrEmpty(AbsolutePath(path))) return FillExisting(path, Target::kExisting, fill);
+    CreateDatabase(path, false, [&](const std::string& unfinished) {
+      FillExisting(PathIn(unfinished), Target::kNew, fill);
+    });
+  });
+}
+
+content::DatabaseStatus ReadStatus(const std::string& path) {
+  return platform::WithFailuresOnly([&] {
+    Snapshot snapshot(path);
+    const DatabaseHandle& database = snapshot.Database();
+    content::DatabaseStatus status;
+    status.schema_version = SchemaVersionOf(database);
+    status.engine = "SQLite";
+    status.engine_version = sqlite3_libversion();
+    const auto ask = [&](const std::string& query) {
+      Statement statement(database, query);
+      return ReadRecordSet(statement);
+    };
+    content::CountContent(ask, HasTable(database, "CldHistory"), status);
+    return status;
+  });
+}
+
+}  // namespace ferrowind::sqlite

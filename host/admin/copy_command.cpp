@@ -1,0 +1,52 @@
+#include "host/admin/copy_command.h"
+
+#include <ostream>
+
+#include <unistd.h>
+
+#include "ferrowind/adapters/content/content_copy.h"
+
+#include "host/admin/database_content.h"
+#include "host/admin/interruption.h"
+#include "host/admin/progress_line.h"
+
+namespace ferrowind::host {
+namespace {
+
+void Copy(const platform::EngineRegistry& engines, content::Source& source, const std::string& to) {
+  const Interruption stops_where_nothing_stays_behind;
+  ProgressLine line(STDERR_FILENO);
+  const auto observe = [&](const content::CopyProgress& progress) {
+    Interruption::ThrowIfAsked();
+    const bool is_copying = progress.step == content::CopyProgress::Step::kCopying;
+    line.Show((is_copying ? "Copying " : "Comparing ") + std::string(progress.rows), progress.done,
+              progress.total);
+  };
+  FillDatabase(engines, to, [&](content::Target& target) { content::CopyContent(source, target, observe); });
+}
+
+std::string Summary(content::Source& source) {
+  std::string summary;
+  for (const content::Table& table : content::Tables()) {
+    summary += "  " + std::string(table.rows) + ": " + std::to_string(source.CountRows(table)) + "\n";
+  }
+  return summary;
+}
+
+}  // namespace
+
+ExitStatus CopyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out,
+                            std::ostream& errors) const {
+  const auto source = OpenContent(engines, from);
+  const std::string summary = Summary(*source);
+  try {
+    Copy(engines, *source, to);
+  } catch (const Interrupted& interrupted) {
+    errors << "ferrowindctl: " << interrupted.Description() << std::endl;
+    EndBySignal(interrupted.Signal());
+  }
+  out << "The copy is complete and equal to the original:\n" << summary;
+  return ExitStatus::kDone;
+}
+
+}  // namespace ferrowind::host

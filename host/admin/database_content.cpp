@@ -1,0 +1,34 @@
+#include "host/admin/database_content.h"
+
+#include "ferrowind/adapters/postgres/database_content.h"
+#include "ferrowind/adapters/postgres/engine.h"
+#include "ferrowind/adapters/sqlite/database_content.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+
+namespace ferrowind::host {
+namespace {
+
+/// Says that there is no such engine, where an adapter can only say that it is not its own.
+bool IsOnServer(const platform::EngineRegistry& engines, const std::string& url) {
+  (void)engines.EngineFor(url);
+  return postgres::IsConnectionString(url);
+}
+
+}  // namespace
+
+std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines,
+                                             const std::string& url) {
+  return IsOnServer(engines, url) ? postgres::OpenContent(url) : sqlite::OpenContent(sqlite::PathIn(url));
+}
+
+void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
+                  const std::function<void(content::Target& target)>& fill) {
+  if (IsOnServer(engines, url)) return postgres::FillDatabase(url, fill);
+  sqlite::FillDatabase(sqlite::PathIn(url), fill);
+}
+
+content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines, const std::string& url) {
+  return IsOnServer(engines, url) ? postgres::ReadStatus(url) : sqlite::ReadStatus(sqlite::PathIn(url));
+}
+
+}  // namespace ferrowind::host

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "ferrowind/adapters/content/content_source.h"
+#include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/platform/database/engine_registry.h"
+
+/// What the engines offer of the same kind, by the URL of the database. A URL of no engine in `engines` is a
+/// `platform::Failure`, as is whatever the engine cannot do.
+namespace ferrowind::host {
+
+/// The content of the database as it is now, whatever others write meanwhile.
+[[nodiscard]] std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines,
+                                                           const std::string& url);
+
+/// Calls `fill` with the database, which is created without rules and calendars where there is none. What
+/// `fill` wrote is there when it has returned; when it throws, the database is as it was.
+void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
+                  const std::function<void(content::Target& target)>& fill);
+
+[[nodiscard]] content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines,
+                                                 const std::string& url);
+
+}  // namespace ferrowind::host

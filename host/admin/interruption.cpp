@@ -1,0 +1,54 @@
+#include "host/admin/interruption.h"
+
+#include <csignal>
+#include <cstdlib>
+
+namespace ferrowind::host {
+namespace {
+
+constexpr int kSignals[] = {SIGHUP, SIGINT, SIGTERM};
+
+/// 0 while there was none.
+volatile std::sig_atomic_t received = 0;
+
+void Remember(int signal) { received = signal; }
+
+}  // namespace
+
+Interrupted::Interrupted(int signal)
+    : Failure(platform::failure_number::kInvalidArgument, "Stopped; nothing was changed"), signal_(signal) {}
+
+Interruption::Interruption() {
+  received = 0;
+  for (const int number : kSignals) {
+    struct sigaction action {};
+    sigaction(number, nullptr, &action);
+    // Whoever started the program with a signal ignored, as nohup does, wants it to stay so.
+    if (action.sa_handler == SIG_IGN) continue;
+    action = {};
+    action.sa_handler = Remember;
+    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
+    sigaction(number, &action, nullptr);
+  }
+}
+
+Interruption::~Interruption() {
+  for (const int number : kSignals) {
+    struct sigaction action {};
+    sigaction(number, nullptr, &action);
+    if (action.sa_handler == Remember) std::signal(number, SIG_DFL);
+  }
+}
+
+void Interruption::ThrowIfAsked() {
+  if (received != 0) throw Interrupted(received);
+}
+
+void EndBySignal(int signal) {
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+  // Only when something outside keeps the signal from arriving.
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace ferrowind::host

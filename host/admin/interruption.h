@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::host {
+
+/// That the user stopped a work by a signal.
+class Interrupted : public platform::Failure {
+ public:
+  explicit Interrupted(int signal);
+  [[nodiscard]] int Signal() const noexcept { return signal_; }
+
+ private:
+  int signal_;
+};
+
+/// While it lives, the signals that ask a program to end (Ctrl+C among them) wait until the work is where it
+/// can stop without leaving anything behind. A second one ends the program at once. One object at a time.
+class Interruption {
+ public:
+  Interruption();
+  Interruption(const Interruption&) = delete;
+  Interruption& operator=(const Interruption&) = delete;
+  ~Interruption();
+
+  /// Throws `Interrupted` when there was a signal.
+  static void ThrowIfAsked();
+};
+
+/// Ends the program as `signal` would have, so that a shell sees what happened.
+[[noreturn]] void EndBySignal(int signal);
+
+}  // namespace ferrowind::host

@@ -1,0 +1,399 @@
+// Copies of calendar databases from each engine to each: everything goes along, or nothing happens.
+
+#include "ferrowind/adapters/content/content_copy.h"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/adapters/content/content_comparison.h"
+#include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/platform/database/engine_registry.h"
+#include "ferrowind/platform/values/failure.h"
+
+#include "host/admin/database_content.h"
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/postgres/copy_end.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using platform::Date;
+using platform::Value;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::Pair;
+
+platform::EngineRegistry Engines() {
+  platform::EngineRegistry engines;
+  engines.Register(sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>());
+  engines.Register(postgres::Engine::kScheme, std::make_shared<postgres::Engine>());
+  return engines;
+}
+
+void CopyTo(content::Source& source, CopyEnd& to, const content::CopyObserver& observe = {}) {
+  host::FillDatabase(Engines(), to.ConnectionString(),
+                     [&](content::Target& target) { content::CopyContent(source, target, observe); });
+}
+
+void Copy(CopyEnd& from, CopyEnd& to, const content::CopyObserver& observe = {}) {
+  CopyTo(*host::OpenContent(Engines(), from.ConnectionString()), to, observe);
+}
+
+/// Every table whose rows the two do not have alike.
+std::string Differences(CopyEnd& left, CopyEnd& right) {
+  const auto left_content = host::OpenContent(Engines(), left.ConnectionString());
+  const auto right_content = host::OpenContent(Engines(), right.ConnectionString());
+  std::string differences;
+  for (const content::Table& table : content::Tables()) {
+    const auto row = content::FirstDifference(*left_content, *right_content, table);
+    if (row) differences += std::string(table.name) + " row " + std::to_string(*row) + "\n";
+  }
+  return differences;
+}
+
+/// What the procedures tell of a database, so what its users see.
+std::vector<std::vector<Row>> EverythingToldOf(CopyEnd& database) {
+  ProcedureCaller caller(database);
+  std::vector<std::vector<Row>> told;
+  const auto info = caller.Call("CldAllInfo");
+  for (const auto& rows : info.record_sets) told.push_back(RowsOf(*rows));
+  for (const Row& calendar : told.at(0)) {
+    const auto days = caller.Call("CldGetMain", {{"ID1", calendar.at(0)}, {"Year1", calendar.at(1)}});
+    told.push_back(RowsOf(*days.record_sets.at(0)));
+  }
+  return told;
+}
+
+void FillWithTrickyContent(CopyEnd& database) {
+  ProcedureCaller caller(database);
+  const std::vector<std::string> names = {"Größe ΣΑΣ Работа 祝日 🎌 e\u0301",
+                                          "O'Brien; DROP TABLE CldDay; --",
+                                          "\"quoted\", and, commas",
+                                          "\\N",
+                                          "\\.",
+                                          "tab\there",
+                                          "line\nbreak\r\n",
+                                          "back\\slash \\x41",
+                                          std::string(10000, 'x') + "ü"};
+  for (const std::string& name : names) {
+    ASSERT_EQ(caller.Return("CldIUCelebrate", {{"Name1", name}, {"TID1", 2}, {"WD", 1}, {"Comment", name}}),
+              0)
+        << name;
+  }
+  const auto add_dated = [&](const std::string& name, const Date& date, const Value& comment) {
+    ASSERT_EQ(caller.Return("CldIUCelebrate", {{"Name1", name},
+                                               {"TID1", 3},
+                                               {"D1", date},
+                                               {"MY", date.Month()},
+                                               {"MD", date.Day()},
+                                               {"Comment", comment}}),
+              0);
+  };
+  add_dated("first day", Date(1900, 1, 1), {});
+  add_dated("last day", Date(3000, 12, 31), "");
+  add_dated("leap day", Date(2024, 2, 29), " ");
+  ASSERT_EQ(caller.Return("CldIUCelebrate", {{"ID2", 3}, {"Del", 2}}), 0);
+  ASSERT_EQ(caller.Return("CldIUCelebrate", {{"ID2", 4}, {"Del", 2}}), 0);
+  ASSERT_EQ(caller.Return("CldIUCelebrate", {{"ID2", 4}, {"Del", 4}}), 0);
+  for (const int year : {1900, 2024, 3000}) {
+    ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", year}}), 0);
+    ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", year}, {"TID1", 2}, {"ID2", 2}}), 0);
+  }
+  ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 8}, {"Year1", 2024}}), 0);
+  const auto assign = [&](int year, int day, int type, int rule, const Value& comment) {
+    ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978},
+                                          {"Year1", year},
+                                          {"TID1", type},
+                                          {"ID2", rule},
+                                          {"Day1", day},
+                                          {"ODate", Date(year, 1, 1).AddDays(day - 1)},
+                                          {"Comment", comment}}),
+              0);
+  };
+  assign(1900, 1, 3, 11, {});
+  assign(3000, 365, 3, 12, "");
+  assign(2024, 60, 1, 1, "excepted: 祝日\t\\N\n" + std::string(10000, 'y'));
+  assign(2024, 366, 1, 1, {});
+  database.Execute("UPDATE CldSetting SET FirstDay = 7");
+  database.Execute("INSERT INTO DicCcy VALUES (9001, 'ÄÖÜ', 1, 'a unit of the administrator''s own')");
+}
+
+struct Direction {
+  std::string name;
+  std::function<std::unique_ptr<CopyEnd>()> from;
+  std::function<std::unique_ptr<CopyEnd>()> to;
+};
+
+void PrintTo(const Direction& direction, std::ostream* stream) { *stream << direction.name; }
+
+std::vector<Direction> Directions() {
+  const auto file = [] { return std::make_unique<FileEnd>(); };
+  const auto server = [] { return std::make_unique<ServerEnd>(); };
+  return {{"FileToFile", file, file},
+          {"FileToServer", file, server},
+          {"ServerToFile", server, file},
+          {"ServerToServer", server, server}};
+}
+
+class ContentCopy : public ::testing::TestWithParam<Direction> {
+ protected:
+  ContentCopy() : from_owner_(GetParam().from()), to_owner_(GetParam().to()) { from_owner_->Create(); }
+
+  std::unique_ptr<CopyEnd> from_owner_;
+  std::unique_ptr<CopyEnd> to_owner_;
+  CopyEnd& from_ = *from_owner_;
+  CopyEnd& to_ = *to_owner_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, ContentCopy, ::testing::ValuesIn(Directions()),
+                         [](const auto& test) { return test.param.name; });
+
+TEST_P(ContentCopy, MakesTheDatabaseAndTakesEverythingAlong) {
+  FillWithTrickyContent(from_);
+  const auto told = EverythingToldOf(from_);
+  Copy(from_, to_);
+  EXPECT_EQ(Differences(from_, to_), "");
+  EXPECT_EQ(EverythingToldOf(to_), told);
+  EXPECT_EQ(EverythingToldOf(from_), told);
+  EXPECT_TRUE(to_.IsSound());
+}
+
+TEST_P(ContentCopy, GoesIntoADatabaseThatHoldsWhatItWasCreatedWith) {
+  FillWithTrickyContent(from_);
+  to_.Create();
+  Copy(from_, to_);
+  EXPECT_EQ(Differences(from_, to_), "");
+  EXPECT_TRUE(to_.IsSound());
+}
+
+TEST_P(ContentCopy, IsEqualAfterAWayThereAndBack) {
+  FillWithTrickyContent(from_);
+  const auto back = GetParam().from();
+  Copy(from_, to_);
+  Copy(to_, *back);
+  EXPECT_EQ(Differences(from_, *back), "");
+}
+
+TEST_P(ContentCopy, GoesOnAsTheOriginalWould) {
+  FillWithTrickyContent(from_);
+  to_.Create();
+  Copy(from_, to_);
+  const Arguments rule = {{"Name1", "one more"}, {"TID1", 2}, {"WD", 5}};
+  const Arguments taken_name = {{"Name1", "LAST DAY "}, {"TID1", 2}, {"WD", 5}};
+  for (CopyEnd* end : {&from_, &to_}) {
+    ProcedureCaller caller(*end);
+    EXPECT_EQ(caller.Return("CldIUCelebrate", rule), 0);
+    EXPECT_EQ(caller.Return("CldIUCelebrate", taken_name), 2);
+    EXPECT_EQ(caller.Return("CldIUMain", {{"ID1", 840}, {"Year1", 2030}}), 0);
+    // The next identifiers are the original's too; when and by whom the calls were made is not.
+    end->Execute("CREATE TABLE LastEntries AS SELECT EntryID FROM CldHistory ORDER BY EntryID DESC LIMIT 2");
+  }
+  EXPECT_EQ(EverythingToldOf(to_), EverythingToldOf(from_));
+  const content::Table last{"LastEntries", "last entries", {"EntryID"}, 1};
+  const auto left = host::OpenContent(Engines(), from_.ConnectionString());
+  const auto right = host::OpenContent(Engines(), to_.ConnectionString());
+  EXPECT_EQ(left->CountRows(last), 2);
+  EXPECT_FALSE(content::FirstDifference(*left, *right, last));
+}
+
+TEST_P(ContentCopy, RefusesATargetThatHoldsAnythingAndSaysWhat) {
+  const std::vector<std::pair<std::string, std::string>> holdings = {
+      {"UPDATE CldSetting SET FirstDay = 3", "changed settings"},
+      {"UPDATE DicCcy SET Name = 'mine' WHERE CcyID = 978", "changed currencies"},
+      {"INSERT INTO DicCcy VALUES (9001, 'mine', 1, 'mine')", "182 currencies"},
+      {"INSERT INTO CldHoliday (ID2, Name1, TID1, WD) VALUES (2, 'mine', 2, 1)", "2 holiday rules"},
+      {"INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
+       " VALUES ('me', 'CldIUMain', '{}', 0, 0)",
+       "1 entries of the history"},
+  };
+  for (const auto& [statement, what] : holdings) {
+    const auto full = GetParam().to();
+    full->Create();
+    full->Execute(statement);
+    const auto differences = Differences(from_, *full);
+    ASSERT_NE(differences, "") << statement;
+    EXPECT_THAT(FailureTextOf([&] { Copy(from_, *full); }), AllOf(HasSubstr("not empty"), HasSubstr(what)));
+    EXPECT_EQ(Differences(from_, *full), differences);
+  }
+  to_.Create();
+  ASSERT_EQ(ProcedureCaller(to_).Return("CldIUMain", {{"ID1", 978}, {"Year1", 2024}}), 0);
+  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }),
+              AllOf(HasSubstr("1 calendars"), HasSubstr("366 days"), Not(HasSubstr("currencies"))));
+}
+
+TEST_P(ContentCopy, ThatIsStoppedLeavesTheTargetAsItWas) {
+  FillWithTrickyContent(from_);
+  int observed = 0;
+  const auto vacant = GetParam().to();
+  Copy(from_, *vacant, [&](const content::CopyProgress&) { ++observed; });
+  ASSERT_GT(observed, 10);
+
+  const auto created = GetParam().to();
+  const auto reference = GetParam().to();
+  created->Create();
+  reference->Create();
+  for (const int last : {1, observed / 2, observed}) {
+    const auto stopped_copy_to = [&](CopyEnd& target) {
+      int seen = 0;
+      return FailureTextOf([&] {
+        Copy(from_, target, [&](const content::CopyProgress&) {
+          if (++seen == last) throw platform::Failure(4711, "stopped");
+        });
+      });
+    };
+    EXPECT_EQ(stopped_copy_to(to_), "stopped");
+    EXPECT_TRUE(to_.IsVacant());
+    EXPECT_EQ(stopped_copy_to(*created), "stopped");
+    EXPECT_EQ(Differences(*created, *reference), "");
+  }
+  // And nothing is in the way of the next one.
+  Copy(from_, to_);
+  Copy(from_, *created);
+  EXPECT_EQ(Differences(to_, *created), "");
+}
+
+TEST_P(ContentCopy, TellsHowFarItIs) {
+  FillWithTrickyContent(from_);
+  std::vector<content::CopyProgress> told;
+  Copy(from_, to_, [&](const content::CopyProgress& progress) { told.push_back(progress); });
+  ASSERT_GT(told.size(), 2U);
+  for (std::size_t i = 1; i < told.size(); ++i) EXPECT_GT(told[i].done, told[i - 1].done);
+  EXPECT_EQ(told.front().step, content::CopyProgress::Step::kCopying);
+  EXPECT_EQ(told.front().rows, "currencies");
+  EXPECT_EQ(told.back().step, content::CopyProgress::Step::kComparing);
+  EXPECT_LE(told.back().done, told.back().total);
+  EXPECT_LT(told.back().total - told.back().done, 128);
+}
+
+TEST_P(ContentCopy, ThatDiffersIsNotKept) {
+  FillWithTrickyContent(from_);
+  to_.Create();
+  const auto reference = GetParam().to();
+  reference->Create();
+  to_.SpoilDays();
+  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }), HasSubstr("row 1 of CldDay"));
+  EXPECT_EQ(Differences(to_, *reference), "");
+}
+
+TEST_P(ContentCopy, NamesTheRowThatTheTargetRefuses) {
+  for (const char* name : {"one", "two"}) {
+    ASSERT_EQ(ProcedureCaller(from_).Return("CldIUCelebrate", {{"Name1", name}, {"TID1", 2}, {"WD", 1}}), 0);
+  }
+  to_.Create();
+  const auto reference = GetParam().to();
+  reference->Create();
+  // A rule of the target alone, which no database of this program has.
+  to_.Execute("CREATE UNIQUE INDEX Strict ON CldHoliday (TID1) WHERE TID1 = 2");
+  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }),
+              AllOf(HasSubstr("CldHoliday"), ::testing::AnyOf(HasSubstr("row 3"), HasSubstr("line 3"))));
+  EXPECT_EQ(Differences(to_, *reference), "");
+}
+
+TEST_P(ContentCopy, TakesTheSourceAsItIsAtOneMoment) {
+  FillWithTrickyContent(from_);
+  const auto told = EverythingToldOf(from_);
+  const auto source = host::OpenContent(Engines(), from_.ConnectionString());
+  bool has_written = false;
+  CopyTo(*source, to_, [&](const content::CopyProgress&) {
+    if (std::exchange(has_written, true)) return;
+    EXPECT_EQ(ProcedureCaller(from_).Return("CldIUMain", {{"ID1", 840}, {"Year1", 2030}}), 0);
+  });
+  EXPECT_TRUE(has_written);
+  EXPECT_EQ(EverythingToldOf(to_), told);
+}
+
+TEST_P(ContentCopy, KeepsOthersFromWritingIntoItsTarget) {
+  FillWithTrickyContent(from_);
+  to_.Create();
+  bool has_tried = false;
+  Copy(from_, to_, [&](const content::CopyProgress&) {
+    if (std::exchange(has_tried, true)) return;
+    const bool is_file = to_.ConnectionString().starts_with("sqlite:");
+    EXPECT_ANY_THROW(to_.Execute(std::string(is_file ? "" : "SET lock_timeout = 200; ") +
+                                 "UPDATE CldSetting SET FirstDay = 4"));
+  });
+  EXPECT_TRUE(has_tried);
+  EXPECT_EQ(Differences(from_, to_), "");
+}
+
+TEST_P(ContentCopy, RefusesAnotherVersionOfTheSchemaOnEitherSide) {
+  from_.SetSchemaVersion(1);
+  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }),
+              AllOf(HasSubstr("schema version 1"), HasSubstr("ferrowindctl upgrade")));
+  EXPECT_TRUE(to_.IsVacant());
+  from_.SetSchemaVersion(1000);
+  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }), AllOf(HasSubstr("1000"), HasSubstr("newer")));
+  EXPECT_TRUE(to_.IsVacant());
+
+  const auto sound = GetParam().from();
+  sound->Create();
+  to_.Create();
+  to_.SetSchemaVersion(1);
+  EXPECT_THAT(FailureTextOf([&] { Copy(*sound, to_); }), HasSubstr("ferrowindctl upgrade"));
+}
+
+class OneEnd : public ::testing::TestWithParam<Direction> {};
+
+INSTANTIATE_TEST_SUITE_P(Engines, OneEnd, ::testing::Values(Directions().at(0), Directions().at(3)),
+                         [](const auto& test) { return test.param.name; });
+
+TEST_P(OneEnd, IsNotCopiedToItselfUnderAnyName) {
+  const auto end = GetParam().from();
+  end->Create();
+  EXPECT_THAT(FailureTextOf([&] { Copy(*end, *end); }), HasSubstr("to itself"));
+  const auto source = host::OpenContent(Engines(), end->OtherConnectionString());
+  EXPECT_THAT(FailureTextOf([&] { CopyTo(*source, *end); }), HasSubstr("to itself"));
+}
+
+TEST_P(OneEnd, ThatIsNoCalendarDatabaseIsNoSource) {
+  const auto end = GetParam().from();
+  const auto target = GetParam().to();
+  EXPECT_NE(FailureTextOf([&] { Copy(*end, *target); }), "");
+  EXPECT_TRUE(end->IsVacant());
+  EXPECT_TRUE(target->IsVacant());
+}
+
+TEST_P(OneEnd, TellsItsStatus) {
+  const auto end = GetParam().from();
+  end->Create();
+  FillWithTrickyContent(*end);
+  const auto status = host::ReadStatus(Engines(), end->ConnectionString());
+  EXPECT_GE(status.schema_version, 2);
+  EXPECT_EQ(status.engine, end->ConnectionString().starts_with("sqlite:") ? "SQLite" : "PostgreSQL");
+  EXPECT_NE(status.engine_version, "");
+  EXPECT_EQ(status.currencies, 182);
+  EXPECT_EQ(status.rules, 13);
+  EXPECT_EQ(status.removed_rules, 1);
+  EXPECT_EQ(status.calendars, 4);
+  EXPECT_EQ(status.days, 365 + 366 + 365 + 366);
+  EXPECT_EQ(status.history_entries, 26);
+  EXPECT_THAT(status.calendars_by_year, ElementsAre(Pair(1900, 1), Pair(2024, 2), Pair(3000, 1)));
+
+  end->SetSchemaVersion(1);
+  end->Execute("DROP TABLE CldHistory");
+  const auto old = host::ReadStatus(Engines(), end->ConnectionString());
+  EXPECT_EQ(old.schema_version, 1);
+  EXPECT_EQ(old.history_entries, std::nullopt);
+  EXPECT_EQ(old.rules, 13);
+}
+
+TEST(FileToServer, ATextThatNoServerCanHoldIsNamed) {
+  FileEnd from;
+  ServerEnd to;
+  from.Create();
+  from.Execute("UPDATE CldHoliday SET Comment = 'a' || char(0) || 'b'");
+  EXPECT_THAT(FailureTextOf([&] { Copy(from, to); }),
+              AllOf(HasSubstr("CldHoliday, row 1"), HasSubstr("NUL")));
+  EXPECT_TRUE(to.IsVacant());
+}
+
+}  // namespace
+}  // namespace ferrowind::contract
