@@ -88,5 +88,33 @@ TEST(TableWriter, ShowsTheFieldsOfAnEmptyRecordSet) {
             "Return value: 0\n\nRecord set 1, 0 rows\nID1\n---\n");
 }
 
+RecordSets TwoRecordSets() {
+  return {
+      std::make_shared<RecordSet>(std::vector<std::string>{"A", "B"}, Rows{{std::int64_t{1}, "x"}}),
+      std::make_shared<RecordSet>(std::vector<std::string>{"Year"}, Rows{{std::int32_t{2026}}, {Value()}})};
+}
+
+std::string WrittenRows(const RecordSets& record_sets, OutputFormat format) {
+  std::ostringstream out;
+  WriteRows(record_sets, format, out);
+  return out.str();
+}
+
+TEST(RowWriters, WriteNoReturnValue) {
+  EXPECT_EQ(WrittenRows(TwoRecordSets(), OutputFormat::kTable),
+            "A  B\n-  -\n1  x\n\nYear\n----\n2026\n    \n");
+  EXPECT_EQ(
+      WrittenRows(TwoRecordSets(), OutputFormat::kJson),
+      R"({"results":[{"fields":["A","B"],"rows":[[1,"x"]]},{"fields":["Year"],"rows":[[2026],[null]]}]})"
+      "\n");
+  EXPECT_EQ(WrittenRows(TwoRecordSets(), OutputFormat::kCsv), "A,B\r\n1,x\r\n\r\nYear\r\n2026\r\n\"\"\r\n");
+}
+
+TEST(RowWriters, WriteNothingOfNothing) {
+  EXPECT_EQ(WrittenRows({}, OutputFormat::kTable), "");
+  EXPECT_EQ(WrittenRows({}, OutputFormat::kJson), "{\"results\":[]}\n");
+  EXPECT_EQ(WrittenRows({}, OutputFormat::kCsv), "");
+}
+
 }  // namespace
 }  // namespace ferrowind::host

@@ -1,0 +1,74 @@
+#include "host/admin/interruption.h"
+
+#include <csignal>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+namespace ferrowind::host {
+namespace {
+
+TEST(Interruption, LetsTheWorkStopWhereItAsks) {
+  const Interruption interruption;
+  Interruption::ThrowIfAsked();
+  std::raise(SIGINT);
+  try {
+    Interruption::ThrowIfAsked();
+    FAIL() << "was not interrupted";
+  } catch (const Interrupted& interrupted) {
+    EXPECT_EQ(interrupted.Signal(), SIGINT);
+  }
+}
+
+TEST(Interruption, BeginsAnewWithEachWork) {
+  {
+    const Interruption interruption;
+    std::raise(SIGTERM);
+    EXPECT_THROW(Interruption::ThrowIfAsked(), Interrupted);
+  }
+  const Interruption interruption;
+  EXPECT_NO_THROW(Interruption::ThrowIfAsked());
+}
+
+TEST(InterruptionDeathTest, ASecondSignalEndsTheProgramAtOnce) {
+  EXPECT_EXIT(
+      {
+        const Interruption interruption;
+        std::raise(SIGINT);
+        std::raise(SIGINT);
+        std::_Exit(0);
+      },
+      ::testing::KilledBySignal(SIGINT), "");
+}
+
+TEST(InterruptionDeathTest, SignalsEndTheProgramAsEverAfterTheWork) {
+  EXPECT_EXIT(
+      {
+        { const Interruption interruption; }
+        std::raise(SIGTERM);
+        std::_Exit(0);
+      },
+      ::testing::KilledBySignal(SIGTERM), "");
+}
+
+TEST(InterruptionDeathTest, ASignalThatWasIgnoredStaysSo) {
+  EXPECT_EXIT(
+      {
+        std::signal(SIGHUP, SIG_IGN);
+        {
+          const Interruption interruption;
+          std::raise(SIGHUP);
+          Interruption::ThrowIfAsked();
+        }
+        std::raise(SIGHUP);
+        std::_Exit(0);
+      },
+      ::testing::ExitedWithCode(0), "");
+}
+
+TEST(InterruptionDeathTest, EndsTheProgramAsTheSignalWouldHave) {
+  EXPECT_EXIT(EndBySignal(SIGTERM), ::testing::KilledBySignal(SIGTERM), "");
+}
+
+}  // namespace
+}  // namespace ferrowind::host
