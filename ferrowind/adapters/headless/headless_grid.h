@@ -74,6 +74,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
       std::function<void(platform::GridColumn& column)> handler) override;
   [[nodiscard]] platform::Subscription OnBeforeGroupChange(std::function<void()> handler) override;
   [[nodiscard]] platform::Subscription OnAfterGroupChange(std::function<void()> handler) override;
+  [[nodiscard]] platform::Subscription OnGroupByBoxChange(std::function<void(bool visible)> handler) override;
   [[nodiscard]] platform::Subscription OnMouseUp(std::function<void(std::int32_t button)> handler) override;
   [[nodiscard]] platform::Subscription OnCurrentRowChange(std::function<void()> handler) override;
 
@@ -111,6 +112,8 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   void DragHeaderToGroups(const std::string& column_key);
   /// Drags the header of the group key at the 1-based position out of the group-by box.
   void DragGroupAway(std::int32_t position);
+  /// Shows or hides the group-by box from the menu of the headers.
+  void ToggleGroupByBox();
 
  private:
   [[nodiscard]] platform::Value ValueOf(platform::RecordSet::Bookmark bookmark,
@@ -157,6 +160,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   platform::Signal<platform::GridColumn&> header_clicked_;
   platform::Signal<> before_group_change_;
   platform::Signal<> after_group_change_;
+  platform::Signal<bool> group_by_box_changed_;
   platform::Signal<std::int32_t> mouse_up_;
   platform::Signal<> current_row_changed_;
 };

@@ -21,6 +21,10 @@ platform::Subscription HeadlessGrid::OnBeforeGroupChange(std::function<void()> h
 platform::Subscription HeadlessGrid::OnAfterGroupChange(std::function<void()> handler) {
   return after_group_change_.Subscribe(std::move(handler));
 }
+platform::Subscription HeadlessGrid::OnGroupByBoxChange(std::function<void(bool visible)> handler) {
+  return group_by_box_changed_.Subscribe(std::move(handler));
+}
+
 platform::Subscription HeadlessGrid::OnMouseUp(std::function<void(std::int32_t button)> handler) {
   return mouse_up_.Subscribe(std::move(handler));
 }
@@ -100,6 +104,12 @@ void HeadlessGrid::DragGroupAway(std::int32_t position) {
   before_group_change_.Emit();
   group_keys_.DropAt(position);
   after_group_change_.Emit();
+}
+
+void HeadlessGrid::ToggleGroupByBox() {
+  const auto keep = core_.BeginAction("ToggleGroupByBox", {});
+  group_by_box_visible_ = !group_by_box_visible_;
+  group_by_box_changed_.Emit(group_by_box_visible_);
 }
 
 void HeadlessGrid::RequireShownRow(std::int32_t row) {

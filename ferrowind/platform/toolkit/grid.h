@@ -116,6 +116,8 @@ class Grid : public Control {
   /// The operator is about to change the grouping, and has changed it. Always raised as a pair.
   [[nodiscard]] virtual Subscription OnBeforeGroupChange(std::function<void()> handler) = 0;
   [[nodiscard]] virtual Subscription OnAfterGroupChange(std::function<void()> handler) = 0;
+  /// The operator showed or hid the group-by box by the grid's own means; not raised for the program's doing.
+  [[nodiscard]] virtual Subscription OnGroupByBoxChange(std::function<void(bool visible)> handler) = 0;
   /// A mouse button was released over the grid's rows. The context-menu key counts as `kRightButton`.
   [[nodiscard]] virtual Subscription OnMouseUp(std::function<void(std::int32_t button)> handler) = 0;
   /// Another record or group became the current row, or none is any more; not raised when the same one moves.

@@ -107,6 +107,8 @@ void fmCalendar::Connect() {
   subscribe(gexCalendar_.OnHeaderClick(handler(&fmCalendar::gexCalendar_HeaderClick)));
   subscribe(gexCalendar_.OnBeforeGroupChange(handler(&fmCalendar::gexCalendar_BeforeGroupChange)));
   subscribe(gexCalendar_.OnAfterGroupChange(handler(&fmCalendar::gexCalendar_AfterGroupChange)));
+  subscribe(gexCalendar_.OnGroupByBoxChange(
+      [this](bool visible) { ssatb_.SetToolPressed("ID_ShowHide", visible); }));
   subscribe(gexCalendar_.OnMouseUp(handler(&fmCalendar::gexCalendar_MouseUp)));
 }
 

@@ -75,6 +75,8 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner 
   subscribe(form_->OnCloseQuery(
       [this](bool&) { RunHandler([this] { SaveWindowPlacement(*form_, placement_section_); }); }));
   subscribe(ssatb_.OnToolClick([this](const std::string& id) { RunHandler([&] { ssatb_ToolClick(id); }); }));
+  subscribe(gexHolidays_.OnGroupByBoxChange(
+      [this](bool visible) { ssatb_.SetToolPressed(kShowHideTool, visible); }));
   subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler([this] { RefreshButtons(); }); }));
   subscribe(gexHolidays_.OnCellText(
       [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text) {

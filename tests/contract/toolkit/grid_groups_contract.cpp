@@ -132,6 +132,18 @@ TEST_F(GridGroupsContract, TellBeforeAndAfterTheOperatorChangesThem) {
   EXPECT_THAT(notes, ElementsAre("before 1", "after 0"));
 }
 
+TEST_F(GridGroupsContract, TellWhenTheOperatorShowsOrHidesTheirBoxAndNotWhenTheProgramDoes) {
+  const Subscription changed = grid.OnGroupByBoxChange(
+      [this](bool visible) { notes.push_back(visible && grid.GroupByBoxVisible() ? "shown" : "hidden"); });
+  under_test->ToggleGroupByBox(grid);
+  EXPECT_THAT(notes, ElementsAre("shown"));
+  under_test->ToggleGroupByBox(grid);
+  EXPECT_THAT(notes, ElementsAre("shown", "hidden"));
+  EXPECT_FALSE(grid.GroupByBoxVisible());
+  grid.SetGroupByBoxVisible(true);
+  EXPECT_EQ(notes.size(), 2U);
+}
+
 TEST_F(GridGroupsContract, TellNothingWhenTheProgramChangesThem) {
   const Subscription before = grid.OnBeforeGroupChange(Note("before"));
   const Subscription after = grid.OnAfterGroupChange(Note("after"));

@@ -84,6 +84,8 @@ class ToolkitUnderTest {
   virtual void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) = 0;
   /// Drags the header at the 1-based position out of the group-by box.
   virtual void DragGroupAway(platform::Grid& grid, std::int32_t position) = 0;
+  /// Shows or hides the group-by box from the menu of the headers.
+  virtual void ToggleGroupByBox(platform::Grid& grid) = 0;
   /// What stands in a cell of a record's row.
   [[nodiscard]] virtual std::string CellText(platform::Grid& grid, std::int32_t row,
                                              const std::string& column_key) = 0;

@@ -72,6 +72,7 @@ class QtGrid final : public QtControl<platform::Grid> {
       std::function<void(platform::GridColumn& column)> handler) override;
   [[nodiscard]] platform::Subscription OnBeforeGroupChange(std::function<void()> handler) override;
   [[nodiscard]] platform::Subscription OnAfterGroupChange(std::function<void()> handler) override;
+  [[nodiscard]] platform::Subscription OnGroupByBoxChange(std::function<void(bool visible)> handler) override;
   [[nodiscard]] platform::Subscription OnMouseUp(std::function<void(std::int32_t button)> handler) override;
   [[nodiscard]] platform::Subscription OnCurrentRowChange(std::function<void()> handler) override;
 
@@ -123,6 +124,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   platform::Signal<platform::GridColumn&> header_clicked_;
   platform::Signal<> before_group_change_;
   platform::Signal<> after_group_change_;
+  platform::Signal<bool> group_by_box_changed_;
   platform::Signal<std::int32_t> mouse_up_;
   platform::Signal<> current_row_changed_;
 };

@@ -41,6 +41,9 @@ platform::Subscription QtGrid::OnBeforeGroupChange(std::function<void()> handler
 platform::Subscription QtGrid::OnAfterGroupChange(std::function<void()> handler) {
   return after_group_change_.Subscribe(std::move(handler));
 }
+platform::Subscription QtGrid::OnGroupByBoxChange(std::function<void(bool visible)> handler) {
+  return group_by_box_changed_.Subscribe(std::move(handler));
+}
 platform::Subscription QtGrid::OnMouseUp(std::function<void(std::int32_t button)> handler) {
   return mouse_up_.Subscribe(std::move(handler));
 }
@@ -105,7 +108,10 @@ void QtGrid::ShowHeaderMenu(int column, const QPoint& global) {
   HeaderMenuActions actions;
   actions.expand_all = [this] { ExpandAllGroups(); };
   actions.collapse_all = [this] { CollapseAllGroups(); };
-  actions.show_group_panel = [this](bool visible) { SetGroupByBoxVisible(visible); };
+  actions.show_group_panel = [this](bool visible) {
+    SetGroupByBoxVisible(visible);
+    Raise(group_by_box_changed_, visible);
+  };
   actions.is_group_panel_visible = GroupByBoxVisible();
   MakeHeaderMenu(&view_, context_.get(), content_, operations_, column + 1, actions)->popup(global);
 }

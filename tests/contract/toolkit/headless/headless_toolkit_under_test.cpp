@@ -102,6 +102,7 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
   void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) override {
     As<HeadlessGrid>(grid).DragHeaderToGroups(column_key);
   }
+  void ToggleGroupByBox(platform::Grid& grid) override { As<HeadlessGrid>(grid).ToggleGroupByBox(); }
   void DragGroupAway(platform::Grid& grid, std::int32_t position) override {
     As<HeadlessGrid>(grid).DragGroupAway(position);
   }

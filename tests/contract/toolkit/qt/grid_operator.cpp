@@ -1,5 +1,8 @@
 #include "tests/contract/toolkit/qt/grid_operator.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
 #include <QTest>
 #include <algorithm>
 
@@ -55,6 +58,14 @@ void GridOperator::DragGroupAway(int position) {
   const QWidget& rows = *grid_.Widget().View().viewport();
   Drag(chip, QPoint(chip.height() / 2, chip.height() / 2),
        chip.mapFromGlobal(rows.mapToGlobal(rows.rect().center())));
+}
+
+void GridOperator::ToggleGroupByBox() {
+  qt::GridView& view = grid_.Widget().View();
+  QTest::keyClick(&view, Qt::Key_Down, Qt::AltModifier);
+  auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+  menu.setActiveAction(menu.findChild<QAction*>(QStringLiteral("showGroupPanel")));
+  QTest::keyClick(&menu, Qt::Key_Return);
 }
 
 std::string GridOperator::CellText(int row, const std::string& column_key) {

@@ -18,6 +18,7 @@ class GridOperator {
   void ClickHeader(const std::string& column_key);
   void DragHeaderToGroups(const std::string& column_key);
   void DragGroupAway(int position);
+  void ToggleGroupByBox();
   [[nodiscard]] std::string CellText(int row, const std::string& column_key);
   [[nodiscard]] RowLook LookOf(int row);
 

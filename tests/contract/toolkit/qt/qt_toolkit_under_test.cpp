@@ -157,6 +157,7 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) override {
     GridOperator(grid).DragHeaderToGroups(column_key);
   }
+  void ToggleGroupByBox(platform::Grid& grid) override { GridOperator(grid).ToggleGroupByBox(); }
   void DragGroupAway(platform::Grid& grid, std::int32_t position) override {
     GridOperator(grid).DragGroupAway(position);
   }

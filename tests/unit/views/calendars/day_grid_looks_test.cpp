@@ -198,6 +198,31 @@ TEST(DayGridRegrouping, LocksTheWindowBeforeAndRefreshesAndUnlocksAfter) {
   });
 }
 
+TEST(DayGridRegrouping, UnlocksTheWindowWhenTheRefreshFails) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.OpenAt("K978_2026");
+    calendars.Click("ID_ShowHide");
+    const auto failing = calendars.Grid().OnUnboundValue(
+        [](auto, auto, auto&) { throw platform::Failure(7777, "cannot compute"); });
+    calendars.Grid().DragHeaderToGroups("Month");
+    EXPECT_EQ(calendars.world.toolkit.LockedElement(), "");
+    EXPECT_EQ(calendars.SeenByOperator(), Texts{R"(services.ReportError(7777, "cannot compute"))"});
+  });
+}
+
+TEST(DayGridRegrouping, BoxShownFromTheHeadersMovesTheToolWithIt) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.OpenAt("K978_2026");
+    calendars.Grid().ToggleGroupByBox();
+    EXPECT_TRUE(calendars.Tools().ToolPressed("ID_ShowHide"));
+    calendars.Click("ID_ShowHide");
+    EXPECT_FALSE(calendars.Grid().GroupByBoxVisible());
+    EXPECT_FALSE(calendars.Tools().ToolPressed("ID_ShowHide"));
+  });
+}
+
 // Context menu
 // --------------------------------------------------------------------------------------------------
 

@@ -392,6 +392,8 @@ TEST(HolidaysWindow, TheToolShowsAndHidesTheGroupByHeader) {
       EXPECT_TRUE(world.Grid().GroupByBoxVisible());
       tools.ClickTool("ID_ShowHide");
       EXPECT_FALSE(world.Grid().GroupByBoxVisible());
+      world.Grid().ToggleGroupByBox();
+      EXPECT_TRUE(tools.ToolPressed("ID_ShowHide"));
     });
   });
 }
