@@ -102,6 +102,20 @@ TEST_F(GridColumnsTest, ShowDatesInTheShortFormatOfTheLocaleAndNumbersToTheRight
   EXPECT_TRUE(Model().data(Model().index(0, 0), Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
 }
 
+TEST_F(GridColumnsTest, HaveCaptionsAlignedWithTheirFirstValue) {
+  const auto alignment = [&](int column) {
+    return Model().headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt() &
+           Qt::AlignHorizontal_Mask;
+  };
+  EXPECT_EQ(alignment(1), Qt::AlignLeft);
+  Attach({{"a", Value(), Value(), Value()}, {"b", 7, Value(), Value()}});
+  EXPECT_EQ(alignment(0), Qt::AlignLeft);
+  EXPECT_EQ(alignment(1), Qt::AlignRight);
+  EXPECT_EQ(alignment(2), Qt::AlignLeft);
+  grid_->ColumnByKey("Type").SetHasValueList(true);
+  EXPECT_EQ(alignment(1), Qt::AlignLeft);
+}
+
 TEST_F(GridColumnsTest, ThatAreUnboundAskForEachCellOnceUntilARecomputation) {
   int asked = 0;
   const auto subscription = grid_->OnUnboundValue(

@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/grid/grid_cells.h"
 
 #include <QLocale>
+#include <algorithm>
 
 #include "ferrowind/adapters/grid_engine/value_order.h"
 #include "ferrowind/adapters/qt/controls/element.h"
@@ -77,6 +78,15 @@ QString GridCells::TextOfValue(std::int16_t column, const Value& value) const {
 bool GridCells::ShowsNumber(std::int16_t column, Record record) const {
   return !columns_[column].HasValueList() &&
          grid_engine::KindOf(KeyValue(column, record)) == grid_engine::ValueKind::kNumber;
+}
+
+bool GridCells::IsNumberColumn(std::int16_t column) const {
+  // Enough to pass the rows that leave the column empty, and few enough to ask at each paint.
+  constexpr std::uint32_t kRecordsAsked = 50;
+  for (Record record = 0; record < std::min(record_count_, kRecordsAsked); ++record) {
+    if (!KeyValue(column, record).IsEmpty()) return ShowsNumber(column, record);
+  }
+  return false;
 }
 
 QString GridCells::ShownText(std::int16_t column, Record record) const {

@@ -44,6 +44,8 @@ class GridCells final : public grid_engine::KeyValues {
   [[nodiscard]] QString ShownText(std::int16_t column, grid_engine::Record record) const;
   /// Whether the cell shows a number as such, not a text that stands for it.
   [[nodiscard]] bool ShowsNumber(std::int16_t column, grid_engine::Record record) const;
+  /// Whether the first cell of the column that is not empty shows a number.
+  [[nodiscard]] bool IsNumberColumn(std::int16_t column) const;
   /// The text that the column shows for a value, before any handler of `CellText` has a say.
   [[nodiscard]] QString TextOfValue(std::int16_t column, const platform::Value& value) const;
 

@@ -52,7 +52,6 @@ SortPlace PlaceInSort(const GridContent& content, std::int16_t column) {
 GridHeader::GridHeader(GridView* view) : QHeaderView(Qt::Horizontal, view), view_(view) {
   setSectionResizeMode(QHeaderView::Interactive);
   setMinimumSectionSize(kLeastWidth);
-  setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   // Clicks and drags are this class's own: the base would not let a header be dragged out of itself.
   setSectionsClickable(false);
   setSectionsMovable(false);
@@ -146,7 +145,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& area, int column) 
   painter->setFont(font());
   painter->setPen(isEnabled() ? palette().color(QPalette::ButtonText) : colors.muted);
   const QString caption = ToQt(content.Columns()[column + 1].Caption());
-  painter->drawText(text_area, static_cast<int>(Qt::AlignVCenter | defaultAlignment()),
+  painter->drawText(text_area, grid->headerData(column, orientation(), Qt::TextAlignmentRole).toInt(),
                     fontMetrics().elidedText(caption, Qt::ElideRight, text_area.width()));
   painter->restore();
 }

@@ -7,6 +7,14 @@ namespace ferrowind::qt {
 using grid_engine::GroupId;
 using grid_engine::VisibleRow;
 
+namespace {
+
+QVariant AlignmentOf(bool is_number) {
+  return {Qt::AlignVCenter | (is_number ? Qt::AlignRight : Qt::AlignLeft)};
+}
+
+}  // namespace
+
 GridModel::GridModel(GridContent& content, QObject* parent)
     : QAbstractTableModel(parent), content_(content) {}
 
@@ -28,10 +36,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
       return content_.Cells().ShownText(column, record);
-    case Qt::TextAlignmentRole: {
-      const bool is_number = content_.Cells().ShowsNumber(column, record);
-      return QVariant(Qt::AlignVCenter | (is_number ? Qt::AlignRight : Qt::AlignLeft));
-    }
+    case Qt::TextAlignmentRole:
+      return AlignmentOf(content_.Cells().ShowsNumber(column, record));
     default:
       return {};
   }
@@ -67,6 +73,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
       return ToQt(column.Caption());
+    case Qt::TextAlignmentRole:
+      return AlignmentOf(content_.Cells().IsNumberColumn(static_cast<std::int16_t>(section + 1)));
     case Qt::AccessibleDescriptionRole: {
       const std::int32_t order = column.SortOrder();
       if (order == platform::kSortAscending) return tr("sorted ascending");
