@@ -16,5 +16,7 @@ extern const std::string_view kPostgresCldIUMain;
 extern const std::string_view kPostgresCldIUCelebrate;
 /// Who may do what.
 extern const std::string_view kPostgresRights;
+/// The scripts that bring older databases here, by version.
+extern const std::string_view kPostgresUpgradeToHistory;
 
 }  // namespace ferrowind::embedded

@@ -12,5 +12,7 @@ extern const std::string_view kSqliteCldAllInfo;
 extern const std::string_view kSqliteCldGetMain;
 extern const std::string_view kSqliteCldIUMain;
 extern const std::string_view kSqliteCldIUCelebrate;
+/// The scripts that bring older databases here, by version.
+extern const std::string_view kSqliteUpgradeToHistory;
 
 }  // namespace ferrowind::embedded

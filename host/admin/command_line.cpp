@@ -8,8 +8,10 @@
 #include "host/admin/call_command.h"
 #include "host/admin/check_command.h"
 #include "host/admin/copy_command.h"
+#include "host/admin/history_command.h"
 #include "host/admin/init_command.h"
 #include "host/admin/status_command.h"
+#include "host/admin/upgrade_command.h"
 
 namespace ferrowind::host {
 namespace {
@@ -33,6 +35,8 @@ EXAMPLES
   ferrowindctl check sqlite:calendars.db
   ferrowindctl status sqlite:calendars.db --format json
   ferrowindctl copy sqlite:calendars.db postgresql://anna@server/calendars
+  ferrowindctl upgrade sqlite:calendars.db
+  ferrowindctl history sqlite:calendars.db --since 2026-11-01 --calendar USD/2026
   ferrowindctl call sqlite:calendars.db CldGetMain ID1=978 Year1=2026
   ferrowindctl call sqlite:calendars.db CldAllInfo --format json
   ferrowindctl call sqlite:calendars.db CldIUMain ID1=840 Year1=2028
@@ -101,6 +105,32 @@ FORMATS
   json   {"results": [{"fields": [...], "rows": [[...]]}]} on one line
   csv    as RFC 4180, an empty line between the tables)";
 
+constexpr const char* kUpgradeManual =
+    R"(Brings a database that an older version of this program made to this program's
+version: schema, procedures and, on a server, rights. Calendars and rules stay
+as they are. It happens in one transaction: an upgrade that fails or is stopped
+leaves the database as it was. A database of this version is left alone, and a
+newer one is refused. Back up the database first all the same, and upgrade when
+no operator is at work. On a server the user must be one who could create the
+database.)";
+
+constexpr const char* kHistoryManual =
+    R"(Lists the calls that changed something, the oldest first: when, by whom, the
+procedure and its parameters, the calendar that it was for, if it was for one,
+what it returned and how many rows it changed. "By whom" is the login on a
+server, and the operating system's user in a file. On a server the user must be
+one who could create the database.
+
+--since takes a date YYYY-MM-DD or a date and time YYYY-MM-DDTHH:MM:SS. All
+times are UTC.
+
+FORMATS
+  table  columns, for people: parameters as NAME=VALUE, without those that had
+         no value; texts over 60 columns are cut
+  json   {"results": [{"fields": [...], "rows": [[...]]}]} on one line, the
+         parameters as the text of a JSON object
+  csv    as RFC 4180, the parameters as the text of a JSON object)";
+
 const std::map<std::string, OutputFormat> kFormats = {
     {"table", OutputFormat::kTable}, {"json", OutputFormat::kJson}, {"csv", OutputFormat::kCsv}};
 
@@ -126,6 +156,17 @@ class CommandLine {
     status_->footer(kStatusManual);
     status_->add_option("URL", status_command_.url, "The database to look at")->required();
     AddFormat(*status_);
+
+    upgrade_->footer(kUpgradeManual);
+    upgrade_->add_option("URL", upgrade_command_.url, "The database to upgrade")->required();
+
+    history_->footer(kHistoryManual);
+    history_->add_option("URL", history_command_.url, "The database to look into")->required();
+    history_->add_option("--since", history_command_.since, "Entries from then on")
+        ->option_text("DATE-OR-TIME");
+    history_->add_option("--calendar", history_command_.calendar, "Changes of this calendar alone")
+        ->option_text("USD/2026");
+    AddFormat(*history_);
 
     call_->footer(kCallManual);
     call_->add_option("URL", call_command_.url, "The database to call it in")->required();
@@ -163,6 +204,11 @@ class CommandLine {
       status_command_.format = kFormats.at(format_);
       return status_command_.Run(engines, out);
     }
+    if (upgrade_->parsed()) return upgrade_command_.Run(engines, out);
+    if (history_->parsed()) {
+      history_command_.format = kFormats.at(format_);
+      return history_command_.Run(engines, out);
+    }
     call_command_.format = kFormats.at(format_);
     return call_command_.Run(engines, out, errors);
   }
@@ -195,11 +241,15 @@ class CommandLine {
   CLI::App* check_ = app_.add_subcommand("check", "Look for faults in a database");
   CLI::App* copy_ = app_.add_subcommand("copy", "Copy a database to another one, of any engine");
   CLI::App* status_ = app_.add_subcommand("status", "Tell what a database is and holds");
+  CLI::App* upgrade_ = app_.add_subcommand("upgrade", "Bring an older database to this version");
+  CLI::App* history_ = app_.add_subcommand("history", "List who changed what, and when");
   CLI::App* call_ = app_.add_subcommand("call", "Call a procedure and print what it gives");
   InitCommand init_command_;
   CheckCommand check_command_;
   CopyCommand copy_command_;
   StatusCommand status_command_;
+  UpgradeCommand upgrade_command_;
+  HistoryCommand history_command_;
   CallCommand call_command_;
   std::string format_ = "table";
 };

@@ -7,6 +7,7 @@
 #include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/delivered_objects.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres/schema_version.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -14,8 +15,6 @@
 
 namespace ferrowind::postgres {
 namespace {
-
-constexpr std::string_view kSchemaVersion = "2";
 
 /// A question to the data whose every row is a problem, told in the row's single text.
 constexpr const char* kDataProblems[] = {
@@ -99,10 +98,7 @@ class Check {
   std::vector<std::string> Run() {
     // One check of a database at a time. What it changes below is undone by the end of the connection.
     connection_.RunScript("BEGIN; SELECT pg_advisory_xact_lock(4266537)");
-    if (FirstText("SELECT to_regnamespace('ferrowind')::text").empty()) {
-      throw platform::Failure(platform::failure_number::kInvalidArgument,
-                              connection_.DatabaseName() + " is no calendar database");
-    }
+    RequireCalendarDatabase(connection_);
     connection_.RunScript("SET LOCAL search_path = ferrowind, pg_temp");
     Try([&] { CompareVersion(); });
     for (const auto* const question : kDataProblems) {
@@ -138,16 +134,11 @@ class Check {
     return texts;
   }
 
-  std::string FirstText(const char* question) {
-    const auto texts = Texts(question);
-    return texts.empty() ? std::string() : texts.front();
-  }
-
   void CompareVersion() {
-    const std::string found = FirstText("SELECT Version::text FROM SchemaVersion");
-    if (found == kSchemaVersion) return;
-    problems_.push_back("The database has the schema version " + found + "; this program's is " +
-                        std::string(kSchemaVersion));
+    const std::int64_t found = SchemaVersionOf(connection_);
+    if (found == DeliveredVersion()) return;
+    problems_.push_back("The database has the schema version " + std::to_string(found) +
+                        "; this program's is " + std::to_string(DeliveredVersion()));
   }
 
   std::map<std::string, std::string> Objects() {

@@ -1,20 +1,16 @@
 #include "ferrowind/adapters/postgres/database_content.h"
 
-#include <cstdint>
-
 #include "ferrowind/adapters/postgres/content_source.h"
 #include "ferrowind/adapters/postgres/content_target.h"
 #include "ferrowind/adapters/postgres/database_creation.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres/schema_version.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/conversion.h"
-#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::postgres {
 namespace {
-
-constexpr std::int64_t kSchemaVersion = 2;
 
 platform::Value Answer(ServerConnection& connection, const std::string& question) {
   const auto rows = ReadRecordSet(connection.Query(question).get());
@@ -27,20 +23,6 @@ bool Exists(ServerConnection& connection, const std::string& kind, const std::st
 
 bool IsCalendarDatabase(ServerConnection& connection) { return Exists(connection, "namespace", "ferrowind"); }
 
-void RequireCalendarDatabase(ServerConnection& connection) {
-  if (IsCalendarDatabase(connection)) return;
-  throw platform::Failure(platform::failure_number::kInvalidArgument,
-                          connection.DatabaseName() + " is no calendar database");
-}
-
-std::int64_t SchemaVersionOf(ServerConnection& connection) {
-  return platform::ToInt32(Answer(connection, "SELECT Version FROM ferrowind.SchemaVersion"));
-}
-
-void RequireThisVersion(ServerConnection& connection) {
-  content::RequireSchemaVersion(connection.DatabaseName(), SchemaVersionOf(connection), kSchemaVersion);
-}
-
 constexpr const char* kBeginSnapshot = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
 
 /// A connection and the transaction that all content is read in.
@@ -50,7 +32,7 @@ class SnapshotSource : public content::Source {
       : connection_(connection_string), content_(connection_, "ferrowind") {
     connection_.RunScript(kBeginSnapshot);
     RequireCalendarDatabase(connection_);
-    RequireThisVersion(connection_);
+    RequireDeliveredVersion(connection_);
   }
 
   std::string Name() override { return content_.Name(); }
@@ -95,7 +77,7 @@ void FillDatabase(const std::string& connection_string,
       return CreateObjects(connection, false, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
     }
     connection.RunScript("BEGIN");
-    RequireThisVersion(connection);
+    RequireDeliveredVersion(connection);
     KeepWritersOut(connection);
     Fill(connection, ServerTarget::Kind::kExisting, fill);
     connection.RunScript("COMMIT");

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/content/schema_upgrade.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::postgres {
@@ -28,5 +29,11 @@ void CreateDatabaseObjects(const std::string& connection_string, bool with_rules
 /// rule exists and is of the day's type. Changes nothing. The login must be one that could create the
 /// database. A database that cannot be read is a `platform::Failure`.
 [[nodiscard]] std::vector<std::string> CheckDatabase(const std::string& connection_string);
+
+/// Brings the calendar database to this program's version: schema, procedures and rights, and the server's
+/// roles. All of it is one transaction, so an upgrade that fails or is killed leaves the database as it was;
+/// others see it before or after. A database of this version is left alone. The login must be one that could
+/// create the database. A newer database, and one that cannot be changed, are a `platform::Failure`.
+content::UpgradeOutcome UpgradeDatabase(const std::string& connection_string);
 
 }  // namespace ferrowind::postgres

@@ -9,6 +9,10 @@ namespace ferrowind::postgres {
 /// until the rights are given.
 void CreateDeliveredSchema(ServerConnection& connection);
 
+/// Puts this program's procedures in the place of those that the schema has. Runs as the owner, with the
+/// schema as its search path.
+void ReplaceProcedures(ServerConnection& connection);
+
 /// Gives the rights on the schema and on the database, and makes the connection's login act for itself again.
 void GiveDeliveredRights(ServerConnection& connection);
 

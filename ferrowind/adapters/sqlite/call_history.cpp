@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/parameters_json.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/system_user.h"
@@ -21,13 +23,11 @@ Statement PrepareEntry(const DatabaseHandle& database) {
     return Statement(database,
                      "INSERT INTO CldHistory (UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue,"
                      " RowsChanged) VALUES (?1, ?2, ?3, ?4, ?5, 0, ?6)");
-  } catch (const platform::Failure& failure) {
-    if (failure.Number() != SQLITE_ERROR) throw;
-    throw platform::Failure(failure.Number(),
-                            "The database " + database.Path() +
-                                " is of an older version without a history of changes, so nothing was "
-                                "changed. \"ferrowindctl upgrade\" brings it to this program's version: " +
-                                failure.Description());
+  } catch (const platform::Failure&) {
+    // A database of another version has none, or another one.
+    content::RequireSchemaVersion("The database " + database.Path(), SchemaVersionOf(database),
+                                  DeliveredUpgrades().back().version);
+    throw;
   }
 }
 

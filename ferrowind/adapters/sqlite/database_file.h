@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "ferrowind/adapters/content/schema_upgrade.h"
 
 namespace ferrowind::sqlite {
 
@@ -24,5 +27,15 @@ void CreateDatabase(const std::string& path, bool with_rules,
 /// type, the file is intact. Changes nothing. A file that cannot be read or is no calendar database is a
 /// `platform::Failure`.
 [[nodiscard]] std::vector<std::string> CheckDatabase(const std::string& path);
+
+/// Brings the calendar database at `path` to this program's version: schema and procedures. All of it is one
+/// transaction, so an upgrade that fails or is killed leaves the database as it was; others see it before or
+/// after. A database of this version is left alone, and so may be read-only. A newer one, and a file that
+/// cannot be changed or is no calendar database, are a `platform::Failure`.
+content::UpgradeOutcome UpgradeDatabase(const std::string& path);
+
+/// The version of the schema of the calendar database at `path`. A file that cannot be read or is no calendar
+/// database is a `platform::Failure`.
+[[nodiscard]] std::int64_t ReadSchemaVersion(const std::string& path);
 
 }  // namespace ferrowind::sqlite

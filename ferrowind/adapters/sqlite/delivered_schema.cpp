@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/adapters/sqlite/statement.h"
 
 #include "database/seed/embedded_sql.h"
 #include "database/sqlite/embedded_sql.h"
@@ -25,6 +26,16 @@ void FillWithDeliveredSchema(DatabaseHandle& database) {
     database.Execute(std::string(script).c_str());
   }
   for (const auto& procedure : DeliveredProcedures()) AddToCatalogue(database, procedure);
+}
+
+const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
+  static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kSqliteUpgradeToHistory}};
+  return scripts;
+}
+
+std::int64_t SchemaVersionOf(const DatabaseHandle& database) {
+  Statement ask(database, "PRAGMA user_version");
+  return ask.Step() ? ask.Integer(0) : 0;
 }
 
 }  // namespace ferrowind::sqlite

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
+#include "ferrowind/adapters/content/schema_upgrade.h"
 #include "ferrowind/adapters/sql_script/procedure_source.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
 
@@ -13,5 +15,11 @@ namespace ferrowind::sqlite {
 /// Fills the empty `database` with what every calendar database holds: tables, types, the built-in rule, the
 /// setting, currencies, procedures. In the transaction that is open, or one for each statement.
 void FillWithDeliveredSchema(DatabaseHandle& database);
+
+/// The scripts that bring databases of older versions to this program's.
+[[nodiscard]] const std::vector<content::UpgradeScript>& DeliveredUpgrades();
+
+/// The version of the schema of `database`.
+[[nodiscard]] std::int64_t SchemaVersionOf(const DatabaseHandle& database);
 
 }  // namespace ferrowind::sqlite

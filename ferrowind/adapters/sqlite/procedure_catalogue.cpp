@@ -85,4 +85,14 @@ void AddToCatalogue(const DatabaseHandle& database, const ProcedureDefinition& p
   }
 }
 
+void RemoveFromCatalogue(const DatabaseHandle& database, const std::string& name) {
+  const platform::Value removed(name);
+  for (const std::string_view sql : {"DELETE FROM ProcedureParameter WHERE ProcedureName = ?1",
+                                     "DELETE FROM ProcedureCatalogue WHERE Name = ?1"}) {
+    Statement remove(database, sql);
+    remove.Bind(1, removed);
+    remove.Step();
+  }
+}
+
 }  // namespace ferrowind::sqlite

@@ -31,4 +31,7 @@ class ProcedureCatalogue {
 /// Adds `procedure` to the catalogue of `database`, whose tables exist. A name in use is a failure.
 void AddToCatalogue(const DatabaseHandle& database, const sql_script::ProcedureDefinition& procedure);
 
+/// Takes the procedure of that name out of the catalogue of `database`, if it is there.
+void RemoveFromCatalogue(const DatabaseHandle& database, const std::string& name);
+
 }  // namespace ferrowind::sqlite

@@ -4,11 +4,14 @@
 #include <stdexcept>
 
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include "ferrowind/adapters/sql_script/procedure_source.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/history_query.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 
 namespace ferrowind::contract {
@@ -33,6 +36,12 @@ bool SqliteDatabase::IsSound() {
   for (const auto& problem : problems) ADD_FAILURE() << problem;
   return problems.empty();
 }
+
+std::shared_ptr<platform::RecordSet> SqliteDatabase::ReadHistory(const content::HistoryFilter& filter) {
+  return sqlite::ReadHistory(Path(), filter);
+}
+
+std::string SqliteDatabase::UserName() { return getpwuid(getuid())->pw_name; }
 
 void SqliteDatabase::Execute(const std::string& sql) { sqlite::DatabaseHandle(Path()).Execute(sql.c_str()); }
 

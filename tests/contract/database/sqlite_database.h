@@ -5,7 +5,7 @@
 
 #include "ferrowind/adapters/sqlite/engine.h"
 
-#include "tests/contract/database/database_under_test.h"
+#include "tests/contract/database/database_with_history.h"
 
 namespace ferrowind::contract {
 
@@ -24,7 +24,7 @@ class TemporaryFolder {
 };
 
 /// A new SQLite file without delivered rules.
-class SqliteDatabase : public CalendarDatabaseUnderTest {
+class SqliteDatabase : public DatabaseWithHistoryUnderTest {
  public:
   SqliteDatabase();
 
@@ -32,6 +32,9 @@ class SqliteDatabase : public CalendarDatabaseUnderTest {
   [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
   void SetFirstDay(int first_day) override;
   [[nodiscard]] bool IsSound() override;
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(
+      const content::HistoryFilter& filter) override;
+  [[nodiscard]] std::string UserName() override;
 
   [[nodiscard]] std::string Path() const { return folder_.Path() + "/calendars.db"; }
   /// Runs SQL as a program does that opens the file by itself.

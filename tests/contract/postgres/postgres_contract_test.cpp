@@ -1,6 +1,7 @@
 // The PostgreSQL engine under the suites of the database port.
 
 #include "tests/contract/database/engine_contract.h"
+#include "tests/contract/database/history_contract.h"
 #include "tests/contract/database/procedures_contract.h"
 #include "tests/contract/postgres/postgres_database.h"
 
@@ -20,6 +21,11 @@ INSTANTIATE_TEST_SUITE_P(Engines, ProceduresContract,
                          ::testing::Values(DatabaseKind<CalendarDatabaseUnderTest>{
                              "Postgres", [] { return std::make_unique<PostgresDatabase>(); }}),
                          KindName<DatabaseKind<CalendarDatabaseUnderTest>>);
+
+INSTANTIATE_TEST_SUITE_P(Engines, HistoryContract,
+                         ::testing::Values(DatabaseKind<DatabaseWithHistoryUnderTest>{
+                             "Postgres", [] { return std::make_unique<PostgresDatabase>(); }}),
+                         KindName<DatabaseKind<DatabaseWithHistoryUnderTest>>);
 
 }  // namespace
 }  // namespace ferrowind::contract

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/postgres/database_objects.h"
+#include "ferrowind/adapters/postgres/history_query.h"
 
 #include "tests/contract/postgres/postgres_server.h"
 
@@ -32,6 +33,12 @@ bool PostgresDatabase::IsSound() {
   for (const auto& problem : problems) ADD_FAILURE() << problem;
   return problems.empty();
 }
+
+std::shared_ptr<platform::RecordSet> PostgresDatabase::ReadHistory(const content::HistoryFilter& filter) {
+  return postgres::ReadHistory(postgres_server::SuperuserUri(name_), filter);
+}
+
+std::string PostgresDatabase::UserName() { return postgres_server::kOperator; }
 
 void PostgresDatabase::Execute(const std::string& sql) { postgres_server::Execute(name_, sql); }
 

@@ -5,13 +5,13 @@
 
 #include "ferrowind/adapters/postgres/engine.h"
 
-#include "tests/contract/database/database_under_test.h"
+#include "tests/contract/database/database_with_history.h"
 
 namespace ferrowind::contract {
 
 /// A new calendar database without delivered rules on the server of the test, dropped at the end. Calls log
 /// in as an operator.
-class PostgresDatabase : public CalendarDatabaseUnderTest {
+class PostgresDatabase : public DatabaseWithHistoryUnderTest {
  public:
   PostgresDatabase();
   PostgresDatabase(const PostgresDatabase&) = delete;
@@ -22,6 +22,9 @@ class PostgresDatabase : public CalendarDatabaseUnderTest {
   [[nodiscard]] std::string ConnectionString() override;
   void SetFirstDay(int first_day) override;
   [[nodiscard]] bool IsSound() override;
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(
+      const content::HistoryFilter& filter) override;
+  [[nodiscard]] std::string UserName() override;
 
   [[nodiscard]] const std::string& Name() const { return name_; }
   /// Runs SQL as the superuser.

@@ -1,5 +1,7 @@
 -- A calendar database as version 1 of the schema had it, empty. What upgrades from there are tested on; it stays as it is.
 PRAGMA application_id = 1181053559;
+-- Rows stand before those that they refer to.
+PRAGMA foreign_keys = OFF;
 PRAGMA user_version = 1;
 BEGIN TRANSACTION;
 CREATE TABLE CldCalendar (

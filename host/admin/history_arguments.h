@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "ferrowind/adapters/content/history_filter.h"
+
+namespace ferrowind::host {
+
+/// The moment that `text` names, as `content::HistoryFilter` has it: a date YYYY-MM-DD, its midnight, or a
+/// date and a time YYYY-MM-DDTHH:MM, with :SS and a fraction of up to three digits if wanted, a blank instead
+/// of the "T", and a "Z" behind it or not. All of it is UTC. Anything else is an `ArgumentError`.
+[[nodiscard]] std::string ReadMoment(const std::string& text);
+
+/// The calendar that `text` names, "USD/2026", the currency in any letter case. Anything else is an
+/// `ArgumentError`; whether there is such a currency is not looked up here.
+[[nodiscard]] content::HistoryFilter::Calendar ReadCalendar(const std::string& text);
+
+}  // namespace ferrowind::host

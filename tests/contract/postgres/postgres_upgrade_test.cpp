@@ -1,0 +1,169 @@
+// Bringing a calendar database of an older version on a server to this one.
+
+#include <string>
+#include <thread>
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/adapters/postgres/database_objects.h"
+#include "ferrowind/adapters/postgres/history_query.h"
+#include "ferrowind/adapters/postgres/server_connection.h"
+
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/database/version_1/version_1.h"
+#include "tests/contract/postgres/postgres_database.h"
+#include "tests/contract/postgres/postgres_server.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::SizeIs;
+
+const Arguments kWeekdayRule = {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}};
+
+/// A database as version 1 made it, with a calendar and a rule.
+class OldDatabase : public DatabaseUnderTest {
+ public:
+  OldDatabase() : name_(postgres_server::CreateEmptyDatabase()) {
+    Execute("BEGIN;" + VersionOneScript("postgres") + "COMMIT");
+    Execute("SET search_path = ferrowind;" + std::string(kVersionOneContent));
+    Execute(
+        "INSERT INTO ferrowind.CldDay SELECT 978, 2026, n, date '2026-01-01' + (n - 1), 1"
+        " FROM generate_series(1, 365) AS n");
+    postgres_server::EnsureOperator();
+  }
+  OldDatabase(const OldDatabase&) = delete;
+  OldDatabase& operator=(const OldDatabase&) = delete;
+  ~OldDatabase() override { postgres_server::DropDatabase(name_); }
+
+  [[nodiscard]] platform::Engine& Engine() override { return engine_; }
+  [[nodiscard]] std::string ConnectionString() override { return postgres_server::OperatorUri(name_); }
+  [[nodiscard]] std::string Uri() const { return postgres_server::SuperuserUri(name_); }
+  void Execute(const std::string& sql) { postgres_server::Execute(name_, sql); }
+  [[nodiscard]] std::string Ask(const std::string& query) const { return postgres_server::Ask(name_, query); }
+
+ private:
+  std::string name_;
+  postgres::Engine engine_;
+};
+
+/// What the server itself says of the columns, constraints, routines and rights of the schema.
+constexpr const char* kSchema = R"sql(
+SELECT string_agg(line, E'\n' ORDER BY line) FROM (
+  SELECT concat_ws(' ', table_name, column_name, ordinal_position, data_type, column_default, is_nullable, is_identity)
+  FROM information_schema.columns WHERE table_schema = 'ferrowind'
+  UNION ALL SELECT concat_ws(' ', conrelid::regclass, conname, pg_get_constraintdef(oid))
+  FROM pg_constraint WHERE connamespace = 'ferrowind'::regnamespace
+  UNION ALL SELECT concat_ws(' ', pg_get_functiondef(oid), proacl)
+  FROM pg_proc WHERE pronamespace = 'ferrowind'::regnamespace
+  UNION ALL SELECT concat_ws(' ', relname, relkind, relowner::regrole, relacl)
+  FROM pg_class WHERE relnamespace = 'ferrowind'::regnamespace
+  UNION ALL SELECT concat('version ', Version) FROM ferrowind.SchemaVersion
+) AS lines (line))sql";
+
+constexpr const char* kData = R"sql(
+SELECT concat(
+  (SELECT string_agg(d::text, ',' ORDER BY d) FROM ferrowind.CldDay d),
+  (SELECT string_agg(h::text, ',' ORDER BY h) FROM ferrowind.CldHoliday h),
+  (SELECT string_agg(c::text, ',' ORDER BY c) FROM ferrowind.CldCalendar c),
+  (SELECT string_agg(c::text, ',' ORDER BY c) FROM ferrowind.DicCcy c)))sql";
+
+TEST(PostgresUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
+  const OldDatabase old;
+  const PostgresDatabase fresh;
+  const std::string data = old.Ask(kData);
+  ASSERT_THAT(data, HasSubstr("Sunday"));
+  ASSERT_NE(old.Ask(kSchema), postgres_server::Ask(fresh.Name(), kSchema));
+  const auto outcome = postgres::UpgradeDatabase(old.Uri());
+  EXPECT_EQ(outcome.from, 1);
+  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(old.Ask(kSchema), postgres_server::Ask(fresh.Name(), kSchema));
+  EXPECT_EQ(old.Ask(kData), data);
+  EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
+}
+
+TEST(PostgresUpgrade, OperatorsWorkBeforeAndAfterIt) {
+  OldDatabase old;
+  ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
+  EXPECT_THAT(FailureTextOf([&] { (void)postgres::ReadHistory(old.Uri(), {}); }),
+              AllOf(HasSubstr("has the schema version 1; this program's is 2"), HasSubstr("upgrade")));
+  postgres::UpgradeDatabase(old.Uri());
+  EXPECT_THAT(RowsOf(*postgres::ReadHistory(old.Uri(), {})), IsEmpty());
+  ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
+  EXPECT_THAT(RowsOf(*postgres::ReadHistory(old.Uri(), {})), SizeIs(1));
+  EXPECT_THAT(FailureTextOf([&] { (void)postgres::ReadHistory(old.ConnectionString(), {}); }),
+              HasSubstr("permission denied"));
+}
+
+TEST(PostgresUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
+  const PostgresDatabase fresh;
+  const std::string uri = postgres_server::SuperuserUri(fresh.Name());
+  const std::string oids =
+      "SELECT string_agg(oid::text, ',' ORDER BY oid) FROM pg_proc WHERE pronamespace = "
+      "'ferrowind'::regnamespace";
+  const std::string before = postgres_server::Ask(fresh.Name(), oids);
+  const auto outcome = postgres::UpgradeDatabase(uri);
+  EXPECT_EQ(outcome.from, 2);
+  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(postgres_server::Ask(fresh.Name(), oids), before);
+}
+
+TEST(PostgresUpgrade, ADatabaseOfANewerVersionIsRefused) {
+  PostgresDatabase fresh;
+  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 3");
+  EXPECT_THAT(FailureTextOf([&] { postgres::UpgradeDatabase(postgres_server::SuperuserUri(fresh.Name())); }),
+              AllOf(HasSubstr("has the schema version 3; this program's is 2"), HasSubstr("newer")));
+}
+
+TEST(PostgresUpgrade, AScriptThatFailsAtTheEndLeavesTheDatabaseAsItWas) {
+  OldDatabase old;
+  // The rights on it are given last.
+  old.Execute("DROP VIEW ferrowind.CalendarList");
+  const std::string schema = old.Ask(kSchema);
+  const std::string data = old.Ask(kData);
+  EXPECT_THAT(
+      FailureTextOf([&] { postgres::UpgradeDatabase(old.Uri()); }),
+      AllOf(HasSubstr("The upgrade failed, and the database is as it was"), HasSubstr("calendarlist")));
+  EXPECT_EQ(old.Ask(kSchema), schema);
+  EXPECT_THAT(schema, Not(HasSubstr("cldhistory")));
+  EXPECT_EQ(old.Ask(kData), data);
+  EXPECT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
+}
+
+TEST(PostgresUpgrade, ProceduresAndRightsAreRenewed) {
+  OldDatabase old;
+  old.Execute(
+      "CREATE PROCEDURE ferrowind.CldGetMain(INOUT \"RETURN_VALUE\" integer) LANGUAGE plpgsql AS $$ BEGIN "
+      "\"RETURN_VALUE\" := 0; END $$;"
+      "REVOKE EXECUTE ON PROCEDURE ferrowind.CldIUMain FROM ferrowind_operator;"
+      "GRANT USAGE ON SCHEMA ferrowind TO PUBLIC");
+  postgres::UpgradeDatabase(old.Uri());
+  EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
+}
+
+TEST(PostgresUpgrade, OfTwoUpgradesAtTheSameTimeOneDoesTheWork) {
+  const OldDatabase old;
+  content::UpgradeOutcome outcomes[2];
+  {
+    std::thread first([&] { outcomes[0] = postgres::UpgradeDatabase(old.Uri()); });
+    outcomes[1] = postgres::UpgradeDatabase(old.Uri());
+    first.join();
+  }
+  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + 2);
+  EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
+}
+
+TEST(PostgresUpgrade, AnOperatorMayNotAndADatabaseOfSomethingElseCannot) {
+  OldDatabase old;
+  EXPECT_THAT(FailureTextOf([&] { postgres::UpgradeDatabase(old.ConnectionString()); }),
+              HasSubstr("permission denied"));
+  EXPECT_THAT(FailureTextOf([] { postgres::UpgradeDatabase(postgres_server::SuperuserUri()); }),
+              HasSubstr("is no calendar database"));
+}
+
+}  // namespace
+}  // namespace ferrowind::contract

@@ -1,0 +1,200 @@
+// Bringing a database of an older version to this one.
+
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <thread>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/adapters/sqlite/history_query.h"
+#include "ferrowind/adapters/sqlite/statement.h"
+
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/database/sqlite_database.h"
+#include "tests/contract/database/version_1/version_1.h"
+
+namespace ferrowind::sqlite {
+namespace {
+
+using contract::Arguments;
+using contract::FailureTextOf;
+using contract::ProcedureCaller;
+using contract::RowsOf;
+using contract::SqliteDatabase;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+const Arguments kWeekdayRule = {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}};
+
+/// A database as version 1 made it, with a calendar and a rule.
+class OldDatabase : public contract::DatabaseUnderTest {
+ public:
+  OldDatabase() {
+    std::ofstream(Path()).close();
+    Execute(contract::VersionOneScript("sqlite"));
+    Execute("PRAGMA journal_mode = WAL");
+    Execute(contract::kVersionOneContent);
+    Execute(
+        "WITH RECURSIVE Day (N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Day WHERE N < 365)"
+        " INSERT INTO CldDay SELECT 978, 2026, N, date('2026-01-01', (N - 1) || ' days'), 1, NULL, NULL FROM "
+        "Day");
+  }
+
+  [[nodiscard]] platform::Engine& Engine() override { return engine_; }
+  [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
+  [[nodiscard]] std::string Path() const { return folder_.Path() + "/old.db"; }
+  void Execute(const std::string& sql) { DatabaseHandle(Path()).Execute(sql.c_str()); }
+
+ private:
+  contract::TemporaryFolder folder_;
+  sqlite::Engine engine_;
+};
+
+/// All cells of the rows of `query`.
+std::string Answer(const std::string& path, const std::string& query) {
+  const DatabaseHandle database(path);
+  Statement ask(database, query);
+  std::string cells;
+  while (ask.Step()) {
+    for (int column = 0; column < ask.ColumnCount(); ++column) cells += std::string(ask.Text(column)) + "|";
+    cells += "\n";
+  }
+  return cells;
+}
+
+/// Everything but the rows of the tables of data.
+std::string SchemaOf(const std::string& path) {
+  return Answer(path, "PRAGMA user_version") + Answer(path, "PRAGMA application_id") +
+         Answer(path, "SELECT type, name, tbl_name, sql FROM sqlite_schema ORDER BY type, name") +
+         Answer(path, "SELECT * FROM ProcedureCatalogue ORDER BY Name") +
+         Answer(path, "SELECT * FROM ProcedureParameter ORDER BY ProcedureName, Position");
+}
+
+std::string DataOf(const std::string& path) {
+  std::string data;
+  for (const char* table :
+       {"DicCcy", "CldHolidayType", "CldHoliday", "CldCalendar", "CldDay", "CldSetting"}) {
+    data += Answer(path, std::string("SELECT * FROM ") + table);
+  }
+  return data;
+}
+
+std::string ContentOfFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+TEST(DatabaseUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
+  OldDatabase old;
+  const SqliteDatabase fresh;
+  const std::string data = DataOf(old.Path());
+  ASSERT_NE(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
+  ASSERT_EQ(ReadSchemaVersion(old.Path()), 1);
+  const auto outcome = UpgradeDatabase(old.Path());
+  EXPECT_EQ(outcome.from, 1);
+  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(ReadSchemaVersion(old.Path()), 2);
+  EXPECT_EQ(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
+  EXPECT_EQ(DataOf(old.Path()), data);
+  EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+}
+
+TEST(DatabaseUpgrade, AnUpgradedDatabaseKeepsAHistory) {
+  OldDatabase old;
+  UpgradeDatabase(old.Path());
+  EXPECT_THAT(RowsOf(*ReadHistory(old.Path(), {})), IsEmpty());
+  ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
+  EXPECT_THAT(RowsOf(*ReadHistory(old.Path(), {})), SizeIs(1));
+}
+
+TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
+  OldDatabase old;
+  const std::string data = DataOf(old.Path());
+  EXPECT_EQ(ProcedureCaller(old).Call("CldGetMain", {{"ID1", 978}, {"Year1", 2026}}).record_sets.size(), 1U);
+  const auto says_how = AllOf(HasSubstr("old.db has the schema version 1; this program's is 2"),
+                              HasSubstr("ferrowindctl upgrade"));
+  EXPECT_THAT(FailureTextOf([&] { (void)ProcedureCaller(old).Call("CldIUMain", kWeekdayRule); }), says_how);
+  EXPECT_THAT(FailureTextOf([&] { (void)ReadHistory(old.Path(), {}); }), says_how);
+  EXPECT_EQ(DataOf(old.Path()), data);
+}
+
+TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
+  const SqliteDatabase fresh;
+  const std::string before = ContentOfFile(fresh.Path());
+  const auto outcome = UpgradeDatabase(fresh.Path());
+  EXPECT_EQ(outcome.from, 2);
+  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(ContentOfFile(fresh.Path()), before);
+}
+
+TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
+  SqliteDatabase fresh;
+  fresh.Execute("PRAGMA user_version = 3");
+  const std::string before = SchemaOf(fresh.Path());
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }),
+              AllOf(HasSubstr("has the schema version 3; this program's is 2"), HasSubstr("newer")));
+  EXPECT_EQ(SchemaOf(fresh.Path()), before);
+  fresh.Execute("PRAGMA user_version = 0");
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }), HasSubstr("schema version 0"));
+}
+
+TEST(DatabaseUpgrade, AScriptThatFailsAtItsEndLeavesTheDatabaseAsItWas) {
+  OldDatabase old;
+  // In the way of the last object that the script makes.
+  old.Execute("CREATE TRIGGER CldHistoryLosesNoEntry AFTER DELETE ON CldDay BEGIN SELECT 1; END");
+  const std::string schema = SchemaOf(old.Path());
+  const std::string data = DataOf(old.Path());
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(old.Path()); }),
+              AllOf(HasSubstr("The upgrade failed, and the database is as it was"),
+                    HasSubstr("CldHistoryLosesNoEntry")));
+  EXPECT_EQ(SchemaOf(old.Path()), schema);
+  EXPECT_EQ(DataOf(old.Path()), data);
+  old.Execute("DROP TRIGGER CldHistoryLosesNoEntry");
+  EXPECT_EQ(UpgradeDatabase(old.Path()).to, 2);
+  EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+}
+
+TEST(DatabaseUpgrade, ProceduresAreRenewedAndThoseOfOthersStay) {
+  OldDatabase old;
+  old.Execute(
+      "UPDATE ProcedureCatalogue SET Body = 'SELECT 1' WHERE Name = 'CldGetMain';"
+      "INSERT INTO ProcedureCatalogue VALUES ('Mine', 0, 'SELECT 7 AS Seven');"
+      "INSERT INTO ProcedureParameter VALUES ('Mine', 0, '@RETURN_VALUE', 'int32', 'return')");
+  UpgradeDatabase(old.Path());
+  EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+  EXPECT_EQ(ProcedureCaller(old).Call("Mine").record_sets.size(), 1U);
+}
+
+TEST(DatabaseUpgrade, OfTwoUpgradesAtTheSameTimeOneDoesTheWork) {
+  OldDatabase old;
+  content::UpgradeOutcome outcomes[2];
+  {
+    std::thread first([&] { outcomes[0] = UpgradeDatabase(old.Path()); });
+    outcomes[1] = UpgradeDatabase(old.Path());
+    first.join();
+  }
+  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + 2);
+  EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+}
+
+TEST(DatabaseUpgrade, WhatIsNoCalendarDatabaseIsRefused) {
+  const contract::TemporaryFolder folder;
+  const std::string path = folder.Path() + "/other.db";
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(path); }), HasSubstr("there is no such file"));
+  std::ofstream(path).close();
+  DatabaseHandle(path).Execute("CREATE TABLE Orders (N)");
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(path); }), HasSubstr("is not a calendar database"));
+  EXPECT_THAT(FailureTextOf([&] { (void)ReadSchemaVersion(path); }), HasSubstr("is not a calendar database"));
+}
+
+}  // namespace
+}  // namespace ferrowind::sqlite
