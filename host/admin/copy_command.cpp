@@ -13,18 +13,6 @@
 namespace ferrowind::host {
 namespace {
 
-void Copy(const platform::EngineRegistry& engines, content::Source& source, const std::string& to) {
-  const Interruption stops_where_nothing_stays_behind;
-  ProgressLine line(STDERR_FILENO);
-  const auto observe = [&](const content::CopyProgress& progress) {
-    Interruption::ThrowIfAsked();
-    const bool is_copying = progress.step == content::CopyProgress::Step::kCopying;
-    line.Show((is_copying ? "Copying " : "Comparing ") + std::string(progress.rows), progress.done,
-              progress.total);
-  };
-  FillDatabase(engines, to, [&](content::Target& target) { content::CopyContent(source, target, observe); });
-}
-
 std::string Summary(content::Source& source) {
   std::string summary;
   for (const content::Table& table : content::Tables()) {
@@ -33,20 +21,34 @@ std::string Summary(content::Source& source) {
   return summary;
 }
 
+/// Copies, and tells what. No connection is left open when it fails.
+std::string Copy(const platform::EngineRegistry& engines, const std::string& from, const std::string& to) {
+  const Interruption stops_where_nothing_stays_behind;
+  const auto source = OpenContent(engines, from);
+  const std::string summary = Summary(*source);
+  ProgressLine line(STDERR_FILENO);
+  const auto observe = [&](const content::CopyProgress& progress) {
+    Interruption::ThrowIfAsked();
+    const bool is_copying = progress.step == content::CopyProgress::Step::kCopying;
+    line.Show((is_copying ? "Copying " : "Comparing ") + std::string(progress.rows), progress.done,
+              progress.total);
+  };
+  FillDatabase(engines, to, [&](content::Target& target) { content::CopyContent(*source, target, observe); });
+  return summary;
+}
+
 }  // namespace
 
 ExitStatus CopyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out,
                             std::ostream& errors) const {
-  const auto source = OpenContent(engines, from);
-  const std::string summary = Summary(*source);
   try {
-    Copy(engines, *source, to);
+    const std::string copied = Copy(engines, from, to);
+    out << "The copy is complete and equal to the original:\n" << copied;
+    return ExitStatus::kDone;
   } catch (const Interrupted& interrupted) {
     errors << "ferrowindctl: " << interrupted.Description() << std::endl;
     EndBySignal(interrupted.Signal());
   }
-  out << "The copy is complete and equal to the original:\n" << summary;
-  return ExitStatus::kDone;
 }
 
 }  // namespace ferrowind::host
