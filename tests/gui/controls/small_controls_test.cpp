@@ -1,4 +1,6 @@
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QMovie>
 #include <QTest>
 #include <QToolButton>
@@ -115,6 +117,27 @@ TEST(QtDatePickerTest, ShowsItsDateInItsFormat) {
   picker.SetCustomFormat("d  MMMM");
   picker.SetDate(platform::Date(2026, 12, 25));
   EXPECT_EQ(edit.text(), "25  December");
+}
+
+TEST(QtDatePickerTest, OpensItsCalendarByTheKeysOfADropDownListAndTakesTheChosenDay) {
+  QDateEdit edit;
+  QtDatePicker picker(edit);
+  picker.SetDate({2028, 7, 4});
+  edit.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&edit));
+  const std::pair<Qt::Key, Qt::KeyboardModifier> keys[] = {{Qt::Key_Down, Qt::AltModifier},
+                                                           {Qt::Key_F4, Qt::NoModifier}};
+  for (const auto& [key, modifier] : keys) {
+    picker.SetDate({2028, 7, 4});
+    QTest::keyClick(&edit, key, modifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(edit.calendarWidget()->findChild<QAbstractItemView*>(), Qt::Key_Right);
+    QTest::keyClick(edit.calendarWidget()->findChild<QAbstractItemView*>(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(picker.Date(), platform::Date(2028, 7, 5));
+  }
+  QTest::keyClick(&edit, Qt::Key_Down);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST(QtDatePickerTest, KeepsAYearThatItCannotShow) {

@@ -5,6 +5,8 @@
 #include <QSignalBlocker>
 #include <array>
 
+#include "ferrowind/adapters/qt/controls/calendar_popup_keys.h"
+
 namespace ferrowind::qt {
 namespace {
 
@@ -45,6 +47,7 @@ QtDatePicker::QtDatePicker(QDateEdit& edit)
   edit_.setLocale(QLocale::system());
   edit_.setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   edit_.setCalendarPopup(true);
+  new CalendarPopupKeys(edit_);
   edit_.setDate(ToQt(date_));
   QObject::connect(&edit_, &QDateEdit::dateChanged, Context(),
                    [this](const QDate& date) { date_ = FromQt(date); });
