@@ -145,11 +145,13 @@ class CommandLine(ferrowindctl.InAFolder):
 
     def test_help_tells_of_every_command_and_exit_status(self):
         output, _ = self.assert_run(DONE, "--help")
-        for word in ("init", "check", "call", "EXIT STATUS", "EXAMPLES"):
+        for word in ("init", "check", "copy", "status", "call", "EXIT STATUS", "EXAMPLES"):
             self.assertIn(word, output)
         self.assertIn("--format", self.assert_run(DONE, "call", "--help")[0])
         self.assertIn("--empty", self.assert_run(DONE, "init", "--help")[0])
         self.assertIn("URL", self.assert_run(DONE, "check", "--help")[0])
+        self.assertIn("FROM", self.assert_run(DONE, "copy", "--help")[0])
+        self.assertIn("--format", self.assert_run(DONE, "status", "--help")[0])
 
     def test_version_is_told(self):
         self.assertRegex(self.assert_run(DONE, "--version")[0], r"\Aferrowindctl \d+\.\d+\.\d+\n\Z")
