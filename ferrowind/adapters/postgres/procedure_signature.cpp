@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <optional>
 
+#include "ferrowind/adapters/postgres/binary_value.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/platform/values/case_fold.h"
-#include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::postgres {
@@ -17,23 +17,18 @@ using platform::ParameterDirection;
 using platform::ParameterType;
 using Argument = ProcedureSignature::Argument;
 
-/// A row per parameter of every procedure of the name; a procedure without parameters has one row without
-/// one.
+/// A row per procedure of the name, with its parameters' names, modes and types: all null without parameters,
+/// the modes and the first list of types null when all are inputs. The arrays come as they are stored, since
+/// on a new connection every cast, function and sorting costs a server that must look it up first.
 constexpr const char* kSignatureQuery =
-    "SELECT p.oid::int8 AS procedure, a.name, a.mode::text AS mode, a.type::int8 AS type"
-    " FROM pg_catalog.pg_proc p"
-    " LEFT JOIN LATERAL unnest(p.proargnames, p.proargmodes,"
-    "  coalesce(p.proallargtypes, p.proargtypes::oid[])) WITH ORDINALITY AS a (name, mode, type, position) "
-    "ON "
-    "true"
-    " WHERE p.proname = $1 AND p.prokind = 'p' AND p.pronamespace = pg_catalog.to_regnamespace('ferrowind')"
-    " ORDER BY p.oid, a.position";
+    "SELECT proargnames, proargmodes, proallargtypes, proargtypes FROM pg_catalog.pg_proc"
+    " WHERE proname = $1 AND prokind = 'p' AND pronamespace = pg_catalog.to_regnamespace('ferrowind')";
 
 Failure Unusable(const std::string& procedure, const std::string& why) {
   return {platform::failure_number::kInvalidArgument, "The procedure " + procedure + " " + why};
 }
 
-std::optional<ParameterType> InputTypeOf(std::int64_t type) {
+std::optional<ParameterType> InputTypeOf(Oid type) {
   switch (type) {
     case type_id::kInt2:
       return ParameterType::kInt16;
@@ -48,7 +43,7 @@ std::optional<ParameterType> InputTypeOf(std::int64_t type) {
   }
 }
 
-Argument ArgumentOf(const std::string& procedure, const std::string& mode, std::int64_t type) {
+Argument ArgumentOf(const std::string& procedure, const std::string& mode, Oid type) {
   if (mode.empty() || mode == "i") return Argument::kInput;
   if (mode == "b" && type == type_id::kInt4) return Argument::kReturnValue;
   if (mode == "b" && type == type_id::kRefCursor) return Argument::kRecordSet;
@@ -56,22 +51,32 @@ Argument ArgumentOf(const std::string& procedure, const std::string& mode, std::
                  "has a parameter that is neither an input nor a return value nor a record set's cursor");
 }
 
-/// The signature but for its name. `rows` has a row for each parameter.
-ProcedureSignature SignatureIn(platform::RecordSet& rows, const std::string& procedure) {
+std::vector<std::string> ArrayIn(const PGresult* result, int column) {
+  return ReadArray(PQgetvalue(result, 0, column), static_cast<std::size_t>(PQgetlength(result, 0, column)));
+}
+
+/// The signature but for its name. `result` has the one row of the procedure.
+ProcedureSignature SignatureIn(const PGresult* result, const std::string& procedure) {
   ProcedureSignature signature;
   signature.parameters.push_back(
       {"@RETURN_VALUE", 0, ParameterType::kInt32, ParameterDirection::kReturnValue});
-  for (; !rows.Eof(); rows.MoveNext()) {
-    if (rows["type"].IsEmpty()) continue;
-    const std::int64_t type = *rows["type"].If<std::int64_t>();
-    signature.arguments.push_back(ArgumentOf(procedure, platform::ToTextOrEmpty(rows["mode"]), type));
+  auto types = ArrayIn(result, 2);
+  if (types.empty()) types = ArrayIn(result, 3);
+  // Parameters at the end may have no names.
+  auto names = ArrayIn(result, 0);
+  names.resize(types.size());
+  auto modes = ArrayIn(result, 1);
+  modes.resize(types.size());
+  for (std::size_t i = 0; i < types.size(); ++i) {
+    const auto type = ReadNumber<Oid>(types[i].data());
+    signature.arguments.push_back(ArgumentOf(procedure, modes[i], type));
     if (signature.arguments.back() != Argument::kInput) continue;
-    const std::string name = platform::ToTextOrEmpty(rows["name"]);
     const auto input_type = InputTypeOf(type);
-    if (name.empty() || !input_type) {
-      throw Unusable(procedure, "has an input without a name or of a type that is not supported: " + name);
+    if (names[i].empty() || !input_type) {
+      throw Unusable(procedure,
+                     "has an input without a name or of a type that is not supported: " + names[i]);
     }
-    signature.parameters.push_back({"@" + name, static_cast<std::int32_t>(signature.parameters.size()),
+    signature.parameters.push_back({"@" + names[i], static_cast<std::int32_t>(signature.parameters.size()),
                                     *input_type, ParameterDirection::kInput});
   }
   if (std::count(signature.arguments.begin(), signature.arguments.end(), Argument::kReturnValue) != 1) {
@@ -90,16 +95,16 @@ ProcedureSignature ReadSignature(ServerConnection& connection, const std::string
   // The server keeps names that are not in quotes in small letters.
   const std::string folded = platform::FoldCase(name);
   if (name.empty() || name.find('\0') != std::string::npos) throw Unusable(name, "has no possible name");
-  const auto rows = ReadRecordSet(connection.Query(kSignatureQuery, {folded}).get());
-  if (rows->Eof()) {
+  const QueryResult result = connection.Query(kSignatureQuery, {folded});
+  const int count = PQntuples(result.get());
+  if (count == 0) {
     throw Failure(platform::failure_number::kInvalidArgument,
                   connection.DatabaseName() + " has no procedure " + name);
   }
-  const std::size_t count = rows->RowCount();
-  if (rows->Cell(rows->BookmarkAt(0), 0) != rows->Cell(rows->BookmarkAt(count - 1), 0)) {
+  if (count > 1) {
     throw Unusable(name, "exists more than once, with different parameters, in " + connection.DatabaseName());
   }
-  ProcedureSignature signature = SignatureIn(*rows, name);
+  ProcedureSignature signature = SignatureIn(result.get(), name);
   signature.name = folded;
   return signature;
 }

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <limits>
 #include <string>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "ferrowind/adapters/postgres/binary_value.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::postgres {
@@ -19,16 +19,6 @@ using platform::Value;
 
 platform::Failure BadColumn(const char* name, const char* what) {
   return {platform::failure_number::kTypeMismatch, "The column " + std::string(name) + " " + what};
-}
-
-/// A number as it comes over the line, the most significant byte first.
-template <typename Number>
-Number ReadNumber(const char* bytes) {
-  std::make_unsigned_t<Number> number = 0;
-  for (std::size_t i = 0; i < sizeof(Number); ++i) {
-    number = static_cast<std::make_unsigned_t<Number>>(number << 8 | static_cast<unsigned char>(bytes[i]));
-  }
-  return static_cast<Number>(number);
 }
 
 /// Days count from 1 January 2000, which is the serial 36526.
