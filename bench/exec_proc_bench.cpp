@@ -13,24 +13,18 @@
 
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
-#include "ferrowind/data/exec_proc.h"
-#include "ferrowind/data/source_values.h"
 #include "ferrowind/platform/database/engine_registry.h"
-#include "ferrowind/platform/values/record_set.h"
 
+#include "bench/calendar_calls.h"
 #include "bench/measurement.h"
 #include "host/session/procedure_session.h"
 
 namespace {
 
-using ferrowind::ExecProc;
-using ferrowind::SourceValues;
 using ferrowind::bench::Benchmark;
 using ferrowind::bench::KeepResult;
-
-constexpr int kEuro = 978;
-constexpr int kYear = 2026;
-constexpr int kCallsPerRun = 50;
+using ferrowind::bench::kEuro;
+using ferrowind::bench::kYear;
 
 class TemporaryFolder {
  public:
@@ -48,40 +42,6 @@ class TemporaryFolder {
  private:
   std::string path_ = std::filesystem::temp_directory_path() / "ferrowind-bench-XXXXXX";
 };
-
-void Store(const std::string& procedure, const SourceValues& parameters) {
-  std::shared_ptr<SourceValues> results;
-  if (ExecProc(procedure, &parameters, results) != 0) throw std::runtime_error(procedure + " failed");
-}
-
-SourceValues CalendarParameters() {
-  SourceValues parameters;
-  parameters.Add("ID1", kEuro);
-  parameters.Add("Year1", kYear);
-  return parameters;
-}
-
-void CreateCalendarWithWeekends() {
-  Store("CldIUMain", CalendarParameters());
-  // The delivered rules 2 and 3 are Saturday and Sunday.
-  for (const int rule : {2, 3}) {
-    SourceValues parameters = CalendarParameters();
-    parameters.Add("TID1", 2);
-    parameters.Add("ID2", rule);
-    Store("CldIUMain", parameters);
-  }
-}
-
-/// The number of cells.
-std::size_t CallOurs() {
-  const SourceValues parameters = CalendarParameters();
-  std::shared_ptr<SourceValues> results;
-  if (ExecProc("CldGetMain", &parameters, results) != 0) throw std::runtime_error("CldGetMain failed");
-  const auto days = results->Values("1");
-  const auto* const record_set = days ? days->Value.If<ferrowind::platform::Value::Object>() : nullptr;
-  if (record_set == nullptr || !*record_set) throw std::runtime_error("CldGetMain gave no record set");
-  return (*record_set)->RowCount() * (*record_set)->FieldCount();
-}
 
 void Require(bool is_true, sqlite3* database) {
   if (!is_true) throw std::runtime_error(sqlite3_errmsg(database));
@@ -119,15 +79,10 @@ std::size_t CallPeer(const std::string& path) {
 }
 
 void MeasureGetMain(const Benchmark& benchmark, const std::string& path) {
-  CreateCalendarWithWeekends();
-  if (CallOurs() != CallPeer(path)) throw std::logic_error("the two do not read the same cells");
-  const auto repeated = [](const auto& call) {
-    return [call] {
-      for (int i = 0; i < kCallsPerRun; ++i) KeepResult(call());
-    };
-  };
-  benchmark.Compare("50 calls of CldGetMain, peer: raw sqlite3 calls", 1.6,
-                    {repeated([] { return CallOurs(); })}, {repeated([&] { return CallPeer(path); })}, 31);
+  ferrowind::bench::CreateCalendarWithWeekends(kEuro, kYear);
+  CompareReading(
+      benchmark, "50 calls of CldGetMain, peer: raw sqlite3 calls", 1.6, 50, [&] { return CallPeer(path); },
+      31);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // A procedure call on a server with everything that belongs to it, from connecting to the detached record
 // set, against the calls of the server's own client library that connect, run the same statement and read all
-// cells. Without a server to measure on, the program starts one of its own for itself.
+// cells; and many operators who make such calls, against the server's own load generator. Without a server to
+// measure on, the program starts one of its own for itself.
 
+#include <chrono>
 #include <cstddef>
 #include <cstdlib>
 #include <memory>
@@ -14,58 +16,24 @@
 
 #include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/engine.h"
-#include "ferrowind/data/exec_proc.h"
-#include "ferrowind/data/source_values.h"
 #include "ferrowind/platform/database/engine_registry.h"
-#include "ferrowind/platform/values/record_set.h"
 
+#include "bench/calendar_calls.h"
+#include "bench/delaying_proxy.h"
 #include "bench/measurement.h"
+#include "bench/operators.h"
 #include "host/session/procedure_session.h"
 
 namespace {
 
-using ferrowind::ExecProc;
-using ferrowind::SourceValues;
 using ferrowind::bench::Benchmark;
 using ferrowind::bench::KeepResult;
+using ferrowind::bench::kEuro;
+using ferrowind::bench::kYear;
+using ferrowind::host::RunWithDatabase;
+using ferrowind::platform::EngineRegistry;
 
-constexpr int kEuro = 978;
-constexpr int kYear = 2026;
-constexpr int kCallsPerRun = 20;
 constexpr const char* kServerVariable = "FERROWIND_POSTGRES";
-
-SourceValues CalendarParameters() {
-  SourceValues parameters;
-  parameters.Add("ID1", kEuro);
-  parameters.Add("Year1", kYear);
-  return parameters;
-}
-
-void CreateCalendarWithWeekends() {
-  const auto store = [](const SourceValues& parameters) {
-    std::shared_ptr<SourceValues> results;
-    if (ExecProc("CldIUMain", &parameters, results) != 0) throw std::runtime_error("CldIUMain failed");
-  };
-  store(CalendarParameters());
-  // The delivered rules 2 and 3 are Saturday and Sunday.
-  for (const int rule : {2, 3}) {
-    SourceValues parameters = CalendarParameters();
-    parameters.Add("TID1", 2);
-    parameters.Add("ID2", rule);
-    store(parameters);
-  }
-}
-
-/// The number of cells.
-std::size_t CallOurs() {
-  const SourceValues parameters = CalendarParameters();
-  std::shared_ptr<SourceValues> results;
-  if (ExecProc("CldGetMain", &parameters, results) != 0) throw std::runtime_error("CldGetMain failed");
-  const auto days = results->Values("1");
-  const auto* const record_set = days ? days->Value.If<ferrowind::platform::Value::Object>() : nullptr;
-  if (record_set == nullptr || !*record_set) throw std::runtime_error("CldGetMain gave no record set");
-  return (*record_set)->RowCount() * (*record_set)->FieldCount();
-}
 
 /// The number of cells.
 std::size_t CallPeer(const std::string& uri) {
@@ -94,16 +62,36 @@ std::size_t CallPeer(const std::string& uri) {
   return cells;
 }
 
-void MeasureGetMain(const Benchmark& benchmark, const std::string& uri) {
-  CreateCalendarWithWeekends();
-  if (CallOurs() != CallPeer(uri)) throw std::logic_error("the two do not read the same cells");
-  const auto repeated = [](const auto& call) {
-    return [call] {
-      for (int i = 0; i < kCallsPerRun; ++i) KeepResult(call());
-    };
-  };
-  benchmark.Compare("20 calls of CldGetMain on a server, peer: raw libpq", 1.35,
-                    {repeated([] { return CallOurs(); })}, {repeated([&] { return CallPeer(uri); })}, 31);
+/// The value that libpq reads in the URI for `keyword`.
+std::string SettingIn(const std::string& uri, const std::string& keyword) {
+  PQconninfoOption* const options = PQconninfoParse(uri.c_str(), nullptr);
+  std::string value;
+  for (const PQconninfoOption* option = options; option != nullptr && option->keyword != nullptr; ++option) {
+    if (option->keyword == keyword && option->val != nullptr) value = option->val;
+  }
+  PQconninfoFree(options);
+  return value;
+}
+
+void MeasureOnLoopback(const Benchmark& benchmark, const std::string& uri) {
+  ferrowind::bench::CreateCalendarWithWeekends(kEuro, kYear);
+  CompareReading(
+      benchmark, "20 calls of CldGetMain on a server, peer: raw libpq", 1.35, 20,
+      [&] { return CallPeer(uri); }, 31);
+}
+
+void MeasureOverDistance(const Benchmark& benchmark, const std::string& uri) {
+  CompareReading(
+      benchmark, "10 calls over 1 ms each way, peer: raw libpq", 1.5, 10, [&] { return CallPeer(uri); }, 15);
+}
+
+/// As long as a call of theirs takes one of ours may take a ninth longer: nine calls in the time of ten.
+void MeasureOperators(const Benchmark& benchmark, const EngineRegistry& engines, const std::string& uri) {
+  constexpr int kCalls = 30 * ferrowind::bench::kOperators;
+  benchmark.CompareTimes(
+      "a call of 16 operators at work, peer: pgbench -C", 1 / 0.9,
+      [&] { return ferrowind::bench::WorkOfOperators(engines, uri, kCalls); },
+      [&] { return ferrowind::bench::WorkOfLoadGenerator(uri, kCalls); }, 9);
 }
 
 /// Runs this program again beside a server of its own; returns only when that cannot be done.
@@ -130,8 +118,15 @@ int main(int argc, char** argv) {
     const char* const uri = std::getenv(kServerVariable);
     if (uri == nullptr) throw std::runtime_error("no server of its own could be started");
     ferrowind::postgres::CreateDatabaseObjects(uri, true);
-    ferrowind::platform::EngineRegistry engines;
+    EngineRegistry engines;
     engines.Register(ferrowind::postgres::Engine::kScheme, std::make_shared<ferrowind::postgres::Engine>());
-    ferrowind::host::RunWithDatabase(engines, uri, [&] { MeasureGetMain(benchmark, uri); });
+    RunWithDatabase(engines, uri, [&] { MeasureOnLoopback(benchmark, uri); });
+    {
+      const ferrowind::bench::DelayingProxy proxy(SettingIn(uri, "port"), std::chrono::milliseconds(1));
+      const std::string distant = std::string(uri) + "?port=" + proxy.Port();
+      RunWithDatabase(engines, distant, [&] { MeasureOverDistance(benchmark, distant); });
+    }
+    RunWithDatabase(engines, uri, [] { ferrowind::bench::CreateCalendarsOfOperators(); });
+    MeasureOperators(benchmark, engines, uri);
   });
 }

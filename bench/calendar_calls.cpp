@@ -1,0 +1,70 @@
+#include "bench/calendar_calls.h"
+
+#include <memory>
+#include <stdexcept>
+
+#include "ferrowind/data/exec_proc.h"
+#include "ferrowind/data/source_values.h"
+#include "ferrowind/platform/values/record_set.h"
+
+namespace ferrowind::bench {
+namespace {
+
+std::shared_ptr<SourceValues> Call(const std::string& procedure, const SourceValues& parameters) {
+  std::shared_ptr<SourceValues> results;
+  if (ExecProc(procedure, &parameters, results) != 0) throw std::runtime_error(procedure + " failed");
+  return results;
+}
+
+SourceValues CalendarParameters(int currency, int year) {
+  SourceValues parameters;
+  parameters.Add("ID1", currency);
+  parameters.Add("Year1", year);
+  return parameters;
+}
+
+}  // namespace
+
+void CreateCalendarWithWeekends(int currency, int year) {
+  Call("CldIUMain", CalendarParameters(currency, year));
+  // The delivered rules 2 and 3 are Saturday and Sunday.
+  for (const int rule : {2, 3}) {
+    SourceValues parameters = CalendarParameters(currency, year);
+    parameters.Add("TID1", 2);
+    parameters.Add("ID2", rule);
+    Call("CldIUMain", parameters);
+  }
+}
+
+std::size_t ReadCalendar(int currency, int year) {
+  const auto results = Call("CldGetMain", CalendarParameters(currency, year));
+  const auto days = results->Values("1");
+  const auto* const record_set = days ? days->Value.If<platform::Value::Object>() : nullptr;
+  if (record_set == nullptr || !*record_set) throw std::runtime_error("CldGetMain gave no record set");
+  return (*record_set)->RowCount() * (*record_set)->FieldCount();
+}
+
+void ReadAllInfo() { KeepResult(static_cast<std::size_t>(Call("CldAllInfo", {})->Count())); }
+
+void MarkDay(int currency, int year, int day) {
+  SourceValues parameters = CalendarParameters(currency, year);
+  parameters.Add("TID1", 1);
+  parameters.Add("ID2", 1);
+  parameters.Add("Day1", day);
+  parameters.Add("Comment", std::string("Stock-taking"));
+  Call("CldIUMain", parameters);
+}
+
+void CompareReading(const Benchmark& benchmark, const std::string& name, double limit, int calls,
+                    const std::function<std::size_t()>& read_by_peer, std::size_t runs) {
+  const auto read_by_us = [] { return ReadCalendar(kEuro, kYear); };
+  if (read_by_us() != read_by_peer()) throw std::logic_error("the two do not read the same cells");
+  const auto repeated = [calls](const std::function<std::size_t()>& read) {
+    return [calls, read] {
+      for (int i = 0; i < calls; ++i) KeepResult(read());
+    };
+  };
+  benchmark.Compare(name, limit, {repeated(read_by_us)}, {repeated(read_by_peer)}, runs);
+}
+
+}  // namespace ferrowind::bench

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+#include "bench/measurement.h"
+
+/// The calls whose time counts: what the component's gateway does on whatever database the calling thread
+/// works on (host/session/procedure_session.h), as every window does it.
+namespace ferrowind::bench {
+
+inline constexpr int kEuro = 978;
+inline constexpr int kDollar = 840;
+inline constexpr int kYear = 2026;
+
+/// Creates the calendar and makes its Saturdays and Sundays holidays by delivered rules.
+void CreateCalendarWithWeekends(int currency, int year);
+
+/// Calls `CldGetMain`. Returns the number of cells that it gave.
+[[nodiscard]] std::size_t ReadCalendar(int currency, int year);
+
+/// Calls `CldAllInfo`.
+void ReadAllInfo();
+
+/// Calls `CldIUMain` to make a day an exception with a comment.
+void MarkDay(int currency, int year, int day);
+
+/// Measures `ReadCalendar` of the euro's calendar, which exists, against `read_by_peer`, which returns the
+/// number of cells as well and must find as many. `calls` is how many calls make up a run.
+void CompareReading(const Benchmark& benchmark, const std::string& name, double limit, int calls,
+                    const std::function<std::size_t()>& read_by_peer, std::size_t runs);
+
+}  // namespace ferrowind::bench
