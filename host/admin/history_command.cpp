@@ -17,7 +17,7 @@ namespace {
 using platform::RecordSet;
 using platform::Value;
 
-/// The values of a call as "ferrowindctl call" takes them, without those that were not given.
+/// The values of a call as "ferrowindctl call" takes them from a shell, without those that were not given.
 std::string AsArguments(const std::string& parameters) {
   const auto object = nlohmann::ordered_json::parse(parameters, nullptr, false);
   // Nobody but a program that went around the procedures writes anything else; it is shown as it is.
@@ -26,7 +26,9 @@ std::string AsArguments(const std::string& parameters) {
   for (const auto& [name, value] : object.items()) {
     if (value.is_null()) continue;
     if (!arguments.empty()) arguments += ' ';
-    arguments += name + "=" + (value.is_string() ? value.get<std::string>() : value.dump());
+    const std::string argument = name + "=" + (value.is_string() ? value.get<std::string>() : value.dump());
+    const bool has_blank = argument.find(' ') != std::string::npos;
+    arguments += has_blank ? '"' + argument + '"' : argument;
   }
   return arguments;
 }

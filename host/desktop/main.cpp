@@ -5,6 +5,7 @@
 #include "ferrowind/adapters/services/password_free.h"
 #include "ferrowind/platform/values/failure.h"
 
+#include "host/delivery/database_version.h"
 #include "host/desktop/back_office_window.h"
 #include "host/desktop/desktop_options.h"
 #include "host/desktop/desktop_surroundings.h"
@@ -41,6 +42,9 @@ int main(int argc, char** argv) {
   std::string database = options.database;
   if (database.empty()) {
     TellWhenFailing([&] { database = ferrowind::host::UserDatabase(surroundings.Engines()); });
+    TellWhenFailing([&] { ferrowind::host::UpgradeOwnDatabase(database); });
+  } else {
+    TellWhenFailing([&] { ferrowind::host::RequireThisVersion(database); });
   }
   surroundings.UseDatabase(database);
 

@@ -23,7 +23,7 @@ void RequireSchemaVersion(const std::string& name, std::int64_t found, std::int6
                           name + " has the schema version " + std::to_string(found) + "; this program's is " +
                               std::to_string(expected) + ". " +
                               (found < expected ? "Bring it there with \"ferrowindctl upgrade\" first"
-                                                : "It takes the newer ferrowindctl that made it"));
+                                                : "It takes a newer version of this program"));
 }
 
 void CountContent(const std::function<std::shared_ptr<platform::RecordSet>(const std::string& query)>& ask,

@@ -38,4 +38,8 @@ content::UpgradeOutcome UpgradeDatabase(const std::string& path);
 /// database is a `platform::Failure`.
 [[nodiscard]] std::int64_t ReadSchemaVersion(const std::string& path);
 
+/// A failure that says what to do when the calendar database at `path` is of another version than this
+/// program's. A file that cannot be read or is no calendar database is a `platform::Failure`, too.
+void RequireThisVersion(const std::string& path);
+
 }  // namespace ferrowind::sqlite

@@ -1,5 +1,6 @@
 #include <string>
 
+#include "ferrowind/adapters/content/database_status.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
@@ -58,6 +59,11 @@ std::int64_t ReadSchemaVersion(const std::string& path) {
     const ProcedureCatalogue must_be_a_calendar_database(database);
     return SchemaVersionOf(database);
   });
+}
+
+void RequireThisVersion(const std::string& path) {
+  content::RequireSchemaVersion("The database " + path, ReadSchemaVersion(path),
+                                DeliveredUpgrades().back().version);
 }
 
 }  // namespace ferrowind::sqlite

@@ -1,0 +1,34 @@
+#include "host/delivery/database_version.h"
+
+#include <optional>
+
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::host {
+namespace {
+
+/// The path of the file with a calendar database in it that `url` names, or nothing.
+std::optional<std::string> ReadableFile(const std::string& url) {
+  if (!url.starts_with(std::string(sqlite::Engine::kScheme) + ":")) return std::nullopt;
+  const std::string path = sqlite::PathIn(url);
+  try {
+    (void)sqlite::ReadSchemaVersion(path);
+  } catch (const platform::Failure&) {
+    return std::nullopt;
+  }
+  return path;
+}
+
+}  // namespace
+
+void UpgradeOwnDatabase(const std::string& url) {
+  if (const auto path = ReadableFile(url)) (void)sqlite::UpgradeDatabase(*path);
+}
+
+void RequireThisVersion(const std::string& url) {
+  if (const auto path = ReadableFile(url)) sqlite::RequireThisVersion(*path);
+}
+
+}  // namespace ferrowind::host
