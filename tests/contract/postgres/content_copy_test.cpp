@@ -38,6 +38,10 @@ platform::EngineRegistry Engines() {
   return engines;
 }
 
+constexpr const char* kAddHistoryEntry =
+    "INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
+    " VALUES ('me', 'CldIUMain', '{}', 0, 0)";
+
 void CopyTo(content::Source& source, CopyEnd& to, const content::CopyObserver& observe = {}) {
   host::FillDatabase(Engines(), to.ConnectionString(),
                      [&](content::Target& target) { content::CopyContent(source, target, observe); });
@@ -210,9 +214,7 @@ TEST_P(ContentCopy, RefusesATargetThatHoldsAnythingAndSaysWhat) {
       {"UPDATE DicCcy SET Name = 'mine' WHERE CcyID = 978", "changed currencies"},
       {"INSERT INTO DicCcy VALUES (9001, 'mine', 1, 'mine')", "182 currencies"},
       {"INSERT INTO CldHoliday (ID2, Name1, TID1, WD) VALUES (2, 'mine', 2, 1)", "2 holiday rules"},
-      {"INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
-       " VALUES ('me', 'CldIUMain', '{}', 0, 0)",
-       "1 entries of the history"},
+      {kAddHistoryEntry, "1 entries of the history"},
   };
   for (const auto& [statement, what] : holdings) {
     const auto full = GetParam().to();
@@ -317,8 +319,8 @@ TEST_P(ContentCopy, KeepsOthersFromWritingIntoItsTarget) {
   Copy(from_, to_, [&](const content::CopyProgress&) {
     if (std::exchange(has_tried, true)) return;
     const bool is_file = to_.ConnectionString().starts_with("sqlite:");
-    EXPECT_ANY_THROW(to_.Execute(std::string(is_file ? "" : "SET lock_timeout = 200; ") +
-                                 "UPDATE CldSetting SET FirstDay = 4"));
+    // A row that has nothing to do with any that the copy writes.
+    EXPECT_ANY_THROW(to_.Execute(std::string(is_file ? "" : "SET lock_timeout = 200; ") + kAddHistoryEntry));
   });
   EXPECT_TRUE(has_tried);
   EXPECT_EQ(Differences(from_, to_), "");

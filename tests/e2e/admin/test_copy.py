@@ -76,6 +76,23 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
         self.assert_run(DONE, "check", database.uri)
         self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "3650")
 
+    def test_whoever_could_create_a_database_may_copy_to_and_from_it(self):
+        database, other = server.Database(self), server.Database(self)
+        server.ask("postgres", "CREATE ROLE e2e_administrator LOGIN CREATEROLE PASSWORD 'sesame'")
+        self.addCleanup(lambda: server.ask("postgres", "REVOKE ferrowind_owner FROM e2e_administrator;"
+                                                       "DROP ROLE e2e_administrator"))
+        urls = []
+        for owned in (database, other):
+            server.ask("postgres", f"ALTER DATABASE {owned.name} OWNER TO e2e_administrator")
+            self.addCleanup(lambda name=owned.name: server.ask("postgres", f"ALTER DATABASE {name} OWNER TO postgres"))
+            urls.append("postgresql://e2e_administrator:sesame@" + owned.uri.split("@")[1])
+        self.assert_run(DONE, "copy", self.url(), urls[0])
+        self.assert_run(DONE, "init", urls[1], "--empty")
+        self.assert_run(DONE, "copy", urls[0], urls[1])
+        for url in urls:
+            self.assert_run(DONE, "check", url)
+            self.assert_run(DONE, "status", url)
+
     def test_only_its_owner_may_read_a_new_file(self):
         self.assert_run(DONE, "copy", self.url(), self.url("b.db"), preexec_fn=lambda: os.umask(0))
         self.assertEqual(self.path("b.db").stat().st_mode & 0o777, 0o600)
