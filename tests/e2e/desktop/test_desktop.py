@@ -2,6 +2,7 @@
 
 import contextlib
 import os
+import pathlib
 import sqlite3
 import stat
 import subprocess
@@ -12,6 +13,7 @@ import unittest
 from desktop_session import DesktopSession, Screen, rows_of, wait_for
 
 PROGRAM = os.environ['FERROWIND_PROGRAM']
+VERSION_1 = pathlib.Path(__file__).parents[2] / 'contract' / 'database' / 'version_1' / 'sqlite.sql'
 SCREEN = None
 
 
@@ -97,6 +99,34 @@ class DesktopTest(unittest.TestCase):
         app = self.session.start('--databse', 'x')
         self.assertEqual(app.wait(30), 1)
         self.assertIn('databse', self.session.printed())
+
+    # A database of an older version --------------------------------------------------------------
+
+    def make_old_database(self, path):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        with contextlib.closing(sqlite3.connect(path)) as database:
+            database.create_collation('FERROWIND_NAME', lambda left, right: (left > right) - (left < right))
+            database.executescript(VERSION_1.read_text())
+
+    def test_its_own_database_is_upgraded_at_start(self):
+        self.make_old_database(self.session.database)
+        self.open_calendars()
+        self.assertEqual(self.session.windows('Ferrowind'), [])
+        self.assertEqual(rows_of(self.session.database, 'SELECT count(*) FROM CldHistory'), [(0,)])
+        self.assert_sound(self.session.database)
+
+    def test_another_older_database_is_told_and_stays_as_it_is(self):
+        old = self.session.home / 'old.sqlite'
+        self.make_old_database(old)
+        self.session.start('--open', '--database', f'sqlite:{old}')
+        message = self.accessible.wait_find(self.accessible.wait_window('Ferrowind'), 'label')
+        self.assertIn('old.sqlite has the schema version 1', message.name)
+        self.assertIn('ferrowindctl upgrade', message.name)
+        self.session.focus('Ferrowind')
+        self.session.keys('Return')
+        self.session.wait_until_gone('Ferrowind')
+        self.session.window('Calendars')
+        self.assertEqual(rows_of(old, 'PRAGMA user_version'), [(1,)])
 
     # The Calendars window ------------------------------------------------------------------------
 
