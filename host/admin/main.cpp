@@ -5,14 +5,16 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 
 #include "host/admin/command_line.h"
+#include "host/session/private_arguments.h"
 
 int main(int argc, char** argv) {
+  const ferrowind::host::PrivateArguments arguments(argc, argv);
   ferrowind::platform::EngineRegistry engines;
   engines.Register(ferrowind::sqlite::Engine::kScheme, std::make_shared<ferrowind::sqlite::Engine>());
   for (const char* scheme :
        {ferrowind::postgres::Engine::kScheme, ferrowind::postgres::Engine::kShortScheme}) {
     engines.Register(scheme, std::make_shared<ferrowind::postgres::Engine>());
   }
-  return static_cast<int>(ferrowind::host::RunCommandLine({argv + (argc > 0 ? 1 : 0), argv + argc}, engines,
-                                                          std::cout, std::cerr));
+  return static_cast<int>(
+      ferrowind::host::RunCommandLine(arguments.BehindName(), engines, std::cout, std::cerr));
 }

@@ -10,6 +10,7 @@
 #include "host/desktop/desktop_options.h"
 #include "host/desktop/desktop_surroundings.h"
 #include "host/desktop/user_database.h"
+#include "host/session/private_arguments.h"
 
 namespace {
 
@@ -30,7 +31,8 @@ void TellWhenFailing(const Step& step) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+  ferrowind::host::PrivateArguments arguments(argc, argv);
+  QApplication application(arguments.Count(), arguments.Values());
   QApplication::setOrganizationName(QStringLiteral("Tessaro"));
   QApplication::setApplicationName(QStringLiteral("ferrowind"));
   QApplication::setApplicationVersion(QStringLiteral(FERROWIND_VERSION));
