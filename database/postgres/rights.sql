@@ -19,3 +19,12 @@ BEGIN
                  current_database());
 END $$;
 REVOKE ALL ON SCHEMA public FROM PUBLIC;
+
+-- Anyone who may connect may otherwise fill the disk with large objects. Only a superuser can forbid it.
+DO $$
+BEGIN
+  IF (SELECT rolsuper FROM pg_roles WHERE rolname = current_user) THEN
+    REVOKE EXECUTE ON FUNCTION pg_catalog.lo_creat(integer), pg_catalog.lo_create(oid),
+      pg_catalog.lo_from_bytea(oid, bytea) FROM PUBLIC;
+  END IF;
+END $$;
