@@ -197,7 +197,7 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       return Refuse(error.what(), errors);
     }
-    if (init_->parsed()) return init_command_.Run(engines);
+    if (init_->parsed()) return init_command_.Run(engines, errors);
     if (check_->parsed()) return check_command_.Run(engines, out);
     if (copy_->parsed()) return copy_command_.Run(engines, out, errors);
     if (status_->parsed()) {

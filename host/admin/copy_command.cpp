@@ -23,7 +23,6 @@ std::string Summary(content::Source& source) {
 
 /// Copies, and tells what. No connection is left open when it fails.
 std::string Copy(const platform::EngineRegistry& engines, const std::string& from, const std::string& to) {
-  const Interruption stops_where_nothing_stays_behind;
   const auto source = OpenContent(engines, from);
   const std::string summary = Summary(*source);
   ProgressLine line(STDERR_FILENO);
@@ -41,14 +40,10 @@ std::string Copy(const platform::EngineRegistry& engines, const std::string& fro
 
 ExitStatus CopyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out,
                             std::ostream& errors) const {
-  try {
-    const std::string copied = Copy(engines, from, to);
-    out << "The copy is complete and equal to the original:\n" << copied;
-    return ExitStatus::kDone;
-  } catch (const Interrupted& interrupted) {
-    errors << "ferrowindctl: " << interrupted.Description() << std::endl;
-    EndBySignal(interrupted.Signal());
-  }
+  std::string copied;
+  RunInterruptibly([&] { copied = Copy(engines, from, to); }, errors);
+  out << "The copy is complete and equal to the original:\n" << copied;
+  return ExitStatus::kDone;
 }
 
 }  // namespace ferrowind::host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <iosfwd>
 #include <string>
 
 #include "ferrowind/platform/database/engine_registry.h"
@@ -14,8 +15,10 @@ struct InitCommand {
   /// Without holiday rules and calendars.
   bool is_empty = false;
 
-  /// What cannot be done is a `platform::Failure`.
-  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines) const;
+  /// Tells meanwhile how far it is on the terminal of standard error. What cannot be done is a
+  /// `platform::Failure`. A signal to end does end the process, after `errors` has said that nothing was
+  /// changed.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& errors) const;
 };
 
 }  // namespace ferrowind::host

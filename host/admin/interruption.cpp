@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <ostream>
 
 namespace ferrowind::host {
 namespace {
@@ -49,6 +50,16 @@ void EndBySignal(int signal) {
   std::raise(signal);
   // Only when something outside keeps the signal from arriving.
   std::_Exit(EXIT_FAILURE);
+}
+
+void RunInterruptibly(const std::function<void()>& work, std::ostream& errors) {
+  try {
+    const Interruption interruption;
+    work();
+  } catch (const Interrupted& interrupted) {
+    errors << "ferrowindctl: " << interrupted.Description() << std::endl;
+    EndBySignal(interrupted.Signal());
+  }
 }
 
 }  // namespace ferrowind::host

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <iosfwd>
+
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::host {
@@ -29,5 +32,9 @@ class Interruption {
 
 /// Ends the program as `signal` would have, so that a shell sees what happened.
 [[noreturn]] void EndBySignal(int signal);
+
+/// Runs `work` during an `Interruption`: it asks now and then whether it shall stop, and leaves nothing
+/// behind. When a signal has stopped it, `errors` gets to know, and the program ends by that signal.
+void RunInterruptibly(const std::function<void()>& work, std::ostream& errors);
 
 }  // namespace ferrowind::host

@@ -131,10 +131,12 @@ void DeliveredCalendars::AddLine(std::string_view line) {
   calendars_.back().holidays.push_back({*date, std::string(line)});
 }
 
-void DeliveredCalendars::Create() const {
+void DeliveredCalendars::Create(const CreationObserver& observe) const {
   const auto currencies = ReadCurrencies();
   const auto rules = ReadRules();
+  std::size_t done = 0;
   for (const Calendar& calendar : calendars_) {
+    if (observe) observe(done++, calendars_.size());
     const std::string name =
         "Creating the calendar " + calendar.currency + " " + std::to_string(calendar.year);
     const std::int32_t currency_id = Named(currencies, calendar.currency, "currency");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +9,9 @@
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::host {
+
+/// Is called with the number of calendars that are finished, and of all; what it throws ends the work.
+using CreationObserver = std::function<void(std::size_t done, std::size_t total)>;
 
 /// The calendars that a new database gets: weekends, and the dated holidays of each currency and year.
 class DeliveredCalendars {
@@ -21,7 +26,7 @@ class DeliveredCalendars {
   /// Creates the calendars in the calling thread's database through the component's procedures, which must
   /// know the currencies and the rules by name. A call that fails or does not return 0 is a failure that
   /// names the calendar and the day; what was created before it stays.
-  void Create() const;
+  void Create(const CreationObserver& observe = {}) const;
 
  private:
   struct DatedHoliday {

@@ -4,6 +4,8 @@
 
 #include "ferrowind/platform/database/engine_registry.h"
 
+#include "host/delivery/delivered_calendars.h"
+
 namespace ferrowind::host {
 
 enum class DatabaseContent {
@@ -21,8 +23,9 @@ enum class DatabaseContent {
 /// first start finds none and starts over. `engines` must know the connection string's engine and be safe to
 /// use on another thread; the calling thread's state of the component stays as it is. Fails with a
 /// `platform::Failure` that names the database: when something exists there, which then stays as it is, and
-/// when anything cannot be written; no database is there then.
+/// when anything cannot be written; no database is there then. `observe` is called as the calendars are made,
+/// on another thread, while the calling one waits.
 void CreateFirstDatabase(const platform::EngineRegistry& engines, const std::string& connection_string,
-                         DatabaseContent content);
+                         DatabaseContent content, const CreationObserver& observe = {});
 
 }  // namespace ferrowind::host

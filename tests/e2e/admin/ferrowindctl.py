@@ -3,10 +3,13 @@
 import json
 import os
 import pathlib
+import pty
+import select
 import shutil
 import sqlite3
 import subprocess
 import tempfile
+import time
 import unittest
 
 PROGRAM = os.environ["FERROWINDCTL"]
@@ -57,6 +60,26 @@ class InAFolder(unittest.TestCase):
         # Good enough for names that differ: the tests do not depend on how the program orders them.
         database.create_collation("FERROWIND_NAME", lambda left, right: (left > right) - (left < right))
         return database
+
+    def start_on_a_terminal(self, *arguments):
+        """The program with standard error on a terminal, whose other end is returned too."""
+        screen, terminal = pty.openpty()
+        self.addCleanup(os.close, screen)
+        process = subprocess.Popen([PROGRAM, *arguments], stdout=subprocess.DEVNULL, stderr=terminal)
+        os.close(terminal)
+        return process, screen
+
+    def read_until(self, screen, text, seen=""):
+        """What the terminal shows until the text is among it, or until the program has closed it."""
+        deadline = time.monotonic() + 60
+        while text not in seen and time.monotonic() < deadline:
+            if not select.select([screen], [], [], 1)[0]:
+                continue
+            try:
+                seen += os.read(screen, 65536).decode()
+            except OSError:
+                break
+        return seen
 
 
 class WithADeliveredDatabase(InAFolder):

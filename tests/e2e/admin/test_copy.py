@@ -2,11 +2,7 @@
 
 import json
 import os
-import pty
-import select
 import signal
-import subprocess
-import time
 import unittest
 
 import ferrowindctl
@@ -136,26 +132,6 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
         # The runner fails on anything on standard error of a command that is done.
         self.add_many_calendars()
         self.assert_run(DONE, "copy", self.url(), self.url("b.db"))
-
-    def start_on_a_terminal(self, *arguments):
-        """The program with standard error on a terminal, whose other end is returned too."""
-        screen, terminal = pty.openpty()
-        self.addCleanup(os.close, screen)
-        process = subprocess.Popen([ferrowindctl.PROGRAM, *arguments], stdout=subprocess.DEVNULL, stderr=terminal)
-        os.close(terminal)
-        return process, screen
-
-    def read_until(self, screen, text, seen=""):
-        """What the terminal shows until the text is among it, or until the program has closed it."""
-        deadline = time.monotonic() + 60
-        while text not in seen and time.monotonic() < deadline:
-            if not select.select([screen], [], [], 1)[0]:
-                continue
-            try:
-                seen += os.read(screen, 65536).decode()
-            except OSError:
-                break
-        return seen
 
     def test_tells_a_terminal_how_far_it_is_in_one_line(self):
         self.add_many_calendars()

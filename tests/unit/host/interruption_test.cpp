@@ -2,6 +2,8 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <iostream>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -64,6 +66,24 @@ TEST(InterruptionDeathTest, ASignalThatWasIgnoredStaysSo) {
         std::_Exit(0);
       },
       ::testing::ExitedWithCode(0), "");
+}
+
+TEST(InterruptionDeathTest, AWorkThatWasStoppedIsToldOfBeforeTheProgramEnds) {
+  EXPECT_EXIT(RunInterruptibly(
+                  [] {
+                    std::raise(SIGINT);
+                    Interruption::ThrowIfAsked();
+                  },
+                  std::cerr),
+              ::testing::KilledBySignal(SIGINT), "nothing was changed");
+}
+
+TEST(Interruption, LetsAWorkThatNobodyStoppedGoOn) {
+  std::ostringstream errors;
+  bool is_done = false;
+  RunInterruptibly([&] { is_done = true; }, errors);
+  EXPECT_TRUE(is_done);
+  EXPECT_EQ(errors.str(), "");
 }
 
 TEST(InterruptionDeathTest, EndsTheProgramAsTheSignalWouldHave) {
