@@ -112,6 +112,19 @@ TEST_F(SharedServicesTest, AnswersAMessageByEscape) {
   OnMessage([&] { Show("text", 1); }, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
 }
 
+TEST_F(SharedServicesTest, EndsAMessageWithTheWindowThatItStandsOn) {
+  auto owner = std::make_unique<QWidget>();
+  owner->show();
+  owner->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(owner.get()));
+  OnMessage([&] { Show("text", 16); },
+            [&](QMessageBox& box) {
+              EXPECT_EQ(box.parentWidget(), owner.get());
+              owner.reset();
+            });
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(SharedServicesTest, ShowsTheBeginningOfAnEndlessMessageAndKeepsTheRestAtHand) {
   const std::string endless(1000000, 'x');
   OnMessage([&] { Show(endless, 3); },

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -37,18 +38,21 @@ void AddCopyButton(QMessageBox& box, const QString& text) {
 
 void ShowMessageBox(const Message& message) {
   if (IsApplicationEnding()) return;
-  QMessageBox box(message.owner != nullptr ? message.owner : QApplication::activeWindow());
-  box.setObjectName(QStringLiteral("fmSharedMessage"));
-  box.setIcon(message.is_error ? QMessageBox::Critical : QMessageBox::Information);
-  SetTexts(box, message);
-  AddCopyButton(box, message.text);
-  QPushButton* ok = box.addButton(QMessageBox::Ok);
+  QWidget* owner = message.owner != nullptr ? message.owner : QApplication::activeWindow();
+  // Not on the stack: the owner takes the box with it when it is deleted while the message is open.
+  const QPointer<QMessageBox> box = new QMessageBox(owner);
+  box->setObjectName(QStringLiteral("fmSharedMessage"));
+  box->setIcon(message.is_error ? QMessageBox::Critical : QMessageBox::Information);
+  SetTexts(*box, message);
+  AddCopyButton(*box, message.text);
+  QPushButton* ok = box->addButton(QMessageBox::Ok);
   ok->setText(QStringLiteral("&Ok"));
-  box.setDefaultButton(ok);
-  box.setEscapeButton(ok);
-  box.setWindowFlag(Qt::WindowStaysOnTopHint, message.is_on_top);
-  box.setWindowModality(message.is_modal ? Qt::ApplicationModal : Qt::NonModal);
-  box.exec();
+  box->setDefaultButton(ok);
+  box->setEscapeButton(ok);
+  box->setWindowFlag(Qt::WindowStaysOnTopHint, message.is_on_top);
+  box->setWindowModality(message.is_modal ? Qt::ApplicationModal : Qt::NonModal);
+  box->exec();
+  delete box;
 }
 
 }  // namespace ferrowind::qt
