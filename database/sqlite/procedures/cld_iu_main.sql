@@ -12,20 +12,49 @@
 -- Returns 0; 7 a value is missing or out of range; 3 unknown currency; 4 unknown rule (a removed one is not assigned
 -- either); 5 unknown calendar; 6 the calendar exists already.
 
-SELECT 7 AS "@return" WHERE :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000;
+-- The first reason against the call.
+SELECT Code AS "@return"
+FROM (
+  SELECT CASE
+    WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 THEN 7
+    -- Only money has calendars: the windows list no other currency that a calendar could stand under.
+    WHEN NOT EXISTS (SELECT 1 FROM DicCcy WHERE CcyID = :ID1 AND CcyType = 0) THEN 3
 
--- Only money has calendars: the windows list no other currency that a calendar could stand under.
-SELECT 3 AS "@return" WHERE NOT EXISTS (SELECT 1 FROM DicCcy WHERE CcyID = :ID1 AND CcyType = 0);
+    -- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
+    WHEN :TID1 IS NULL
+      AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL) THEN 7
+    WHEN :TID1 IS NULL
+      THEN CASE WHEN EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1) THEN 6 END
 
-SELECT EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1) AS "@CalendarExists";
+    -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
+    WHEN :TID1 NOT BETWEEN 1 AND 4
+      OR :ID2 IS NULL
+      OR :Day1 IS NULL AND (:TID1 <> 2 OR :ODate IS NOT NULL)
+      OR :ODate IS NULL AND :TID1 IN (3, 4)
+      OR :Day1 NOT BETWEEN 1 AND CAST(strftime('%j', :Year1 || '-12-31') AS INTEGER)
+      OR :ODate <> date(:Year1 || '-01-01', (:Day1 - 1) || ' days') THEN 7
+    WHEN NOT EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1) THEN 5
+    WHEN NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND Del IS NOT 2) THEN 4
+    WHEN NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND TID1 = :TID1) THEN 7
+  END AS Code
+)
+WHERE Code IS NOT NULL;
 
--- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
-SELECT 7 AS "@return"
-WHERE :TID1 IS NULL AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL);
+-- The assignment; a calendar that is new has no days yet.
+UPDATE CldDay SET TID1 = :TID1, ID2 = :ID2, Comment = :Comment
+WHERE ID1 = :ID1 AND Year1 = :Year1
+  AND (Day1 = :Day1
+    OR :Day1 IS NULL
+      -- The weekday, 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
+      AND CAST(strftime('%w', ODate) AS INTEGER) =
+        (SELECT (h.WD - 1 + s.FirstDay - 1) % 7 FROM CldHoliday h, CldSetting s WHERE h.ID2 = :ID2)
+      -- Exceptions and dated rules stand above weekday rules.
+      AND (TID1 = 2 OR ID2 IS NULL));
 
-SELECT 6 AS "@return" WHERE :TID1 IS NULL AND :CalendarExists;
+SELECT 0 AS "@return" WHERE :TID1 IS NOT NULL;
 
-INSERT INTO CldCalendar (ID1, Year1) SELECT :ID1, :Year1 WHERE :TID1 IS NULL;
+-- The new calendar.
+INSERT INTO CldCalendar (ID1, Year1) VALUES (:ID1, :Year1);
 
 WITH RECURSIVE DayOfYear (Day1, ODate) AS (
   SELECT 1, date(:Year1 || '-01-01')
@@ -33,31 +62,4 @@ WITH RECURSIVE DayOfYear (Day1, ODate) AS (
   SELECT Day1 + 1, date(ODate, '1 day') FROM DayOfYear WHERE ODate < :Year1 || '-12-31'
 )
 INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1)
-SELECT :ID1, :Year1, Day1, ODate, 1 FROM DayOfYear WHERE :TID1 IS NULL;
-
-SELECT 0 AS "@return" WHERE :TID1 IS NULL;
-
--- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
-SELECT 7 AS "@return"
-WHERE :TID1 NOT BETWEEN 1 AND 4
-  OR :ID2 IS NULL
-  OR :Day1 IS NULL AND (:TID1 <> 2 OR :ODate IS NOT NULL)
-  OR :ODate IS NULL AND :TID1 IN (3, 4)
-  OR :Day1 NOT BETWEEN 1 AND CAST(strftime('%j', :Year1 || '-12-31') AS INTEGER)
-  OR :ODate <> date(:Year1 || '-01-01', (:Day1 - 1) || ' days');
-
-SELECT 5 AS "@return" WHERE NOT :CalendarExists;
-
-SELECT 4 AS "@return" WHERE NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND Del IS NOT 2);
-
-SELECT 7 AS "@return" WHERE NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND TID1 = :TID1);
-
--- The weekday in question, 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
-SELECT (h.WD - 1 + s.FirstDay - 1) % 7 AS "@Weekday" FROM CldHoliday h, CldSetting s WHERE h.ID2 = :ID2;
-
-UPDATE CldDay SET TID1 = :TID1, ID2 = :ID2, Comment = :Comment
-WHERE ID1 = :ID1 AND Year1 = :Year1
-  AND (Day1 = :Day1
-    OR :Day1 IS NULL AND CAST(strftime('%w', ODate) AS INTEGER) = :Weekday
-      -- Exceptions and dated rules stand above weekday rules.
-      AND (TID1 = 2 OR ID2 IS NULL));
+SELECT :ID1, :Year1, Day1, ODate, 1 FROM DayOfYear;
