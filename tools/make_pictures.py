@@ -169,8 +169,8 @@ class Photographer:
         wait_for(lambda: not self.session.is_menu_open(), 'the end of the menu')
 
     def take_story(self):
-        database = self.session.home / 'story.sqlite'
-        subprocess.run([self.programs / 'ferrowindctl', 'init', f'sqlite:{database}', '--empty'], check=True)
+        database = f'sqlite:{self.session.home / "story.sqlite"}'
+        subprocess.run([self.programs / 'ferrowindctl', 'init', database, '--empty'], check=True)
         self.studio.use_frames('light')
         self.story.tell(database, arrange=self.arrange)
 

@@ -1,7 +1,14 @@
 """Databases on the PostgreSQL server that tools/with_postgres.sh started for the tests."""
 
+import json
 import os
 import subprocess
+import urllib.parse
+
+
+def control(action):
+    """Starts, stops or restarts the server; stopping cuts its connections."""
+    subprocess.run([os.environ["FERROWIND_POSTGRES_CONTROL"], action], check=True, timeout=120)
 
 
 def uri(database):
@@ -35,6 +42,22 @@ class Database:
 
     def ask(self, statement):
         return ask(self.name, statement)
+
+    def rows(self, query):
+        """The rows of a query, tuples of numbers, texts and None; dates are texts. The tables need no schema's name."""
+        answer = self.ask(f"SET search_path = ferrowind; SELECT coalesce(json_agg(r), '[]') FROM ({query}) AS r")
+        return [tuple(value for _, value in row) for row in json.loads(answer, object_pairs_hook=list)]
+
+    def login(self, test, name, password, role=None):
+        """Makes a login, a member of the role if one is given, until the end of the test; its URI for this database. The
+        role must exist."""
+        ask("postgres", f"CREATE ROLE {name} LOGIN PASSWORD '{password}'" + (f" IN ROLE {role}" if role else ""))
+        test.addCleanup(lambda: ask("postgres", f"DROP ROLE {name}"))
+        return self.uri_of(name, password)
+
+    def uri_of(self, name, password):
+        """The URI for this database of a login, whose name needs no encoding."""
+        return f"postgresql://{name}:{urllib.parse.quote(password, safe='')}@{self.uri.split('@')[1]}"
 
     def is_vacant(self):
         return self.ask("SELECT count(*) FROM pg_namespace WHERE nspname = 'ferrowind'") == "0"

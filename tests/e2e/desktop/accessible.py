@@ -99,7 +99,8 @@ class GridReader:
 
     def texts(self, row):
         """The texts of a row by the captions of their columns."""
-        return {caption: self.text(row, caption) for caption in self.captions()}
+        return {caption: _quietly(lambda column=column: self.cell(row, column).name)
+                for column, caption in enumerate(self.captions())}
 
     def selected_rows(self):
         return list(_quietly(self.cells.getSelectedRows, []))

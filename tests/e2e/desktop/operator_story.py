@@ -28,9 +28,10 @@ class OperatorStory:
         self.accessible = accessible
         self.picture = picture
 
-    def tell(self, database, arrange=lambda: None):
-        """All chapters; `arrange()` may place the window before the first one."""
-        self.open(database)
+    def tell(self, url, arrange=lambda: None):
+        """All chapters, on the empty calendar database of that URL; `arrange()` may place the window before the first
+        one."""
+        self.open(url)
         arrange()
         self.create_calendar()
         self.add_rules()
@@ -64,8 +65,8 @@ class OperatorStory:
 
     # Chapters ------------------------------------------------------------------------------------
 
-    def open(self, database):
-        self.session.start('--open', '--database', f'sqlite:{database}')
+    def open(self, url):
+        self.session.start('--open', '--database', url)
         self.wait_active(CALENDARS)
 
     def create_calendar(self):
@@ -190,8 +191,8 @@ class OperatorStory:
         self.session.keys('alt+F4')
         return self.session.app.wait(60)
 
-    def reopen(self, database):
-        self.open(database)
+    def reopen(self, url):
+        self.open(url)
         self.session.type('USD')
         self.session.keys('Right', 'Down')
         self.wait_rows(CALENDARS, 366)
