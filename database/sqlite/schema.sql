@@ -69,18 +69,18 @@ CREATE UNIQUE INDEX CldSettingHasOneRow ON CldSetting ((1));
 -- An entry for every call of a procedure that writes and returned 0, added by the engine in the call's own transaction:
 -- when (UTC), the operating system's user, what was called with which values (a JSON object with every parameter by name,
 -- null for none), and how many rows of other tables it added or changed. ID1 and Year1 name the calendar that the call was
--- for, when it was for one. Entries are only ever added.
+-- for, when it was for one. Entries are only ever added. Little is checked and computed here, because every connection
+-- compiles what stands here anew.
 CREATE TABLE CldHistory (
   EntryID INTEGER PRIMARY KEY,
-  Moment TEXT NOT NULL DEFAULT (strftime('%Y-%m-%dT%H:%M:%fZ', 'now'))
-    CHECK (Moment IS strftime('%Y-%m-%dT%H:%M:%fZ', Moment)),
+  Moment TEXT NOT NULL CHECK (Moment LIKE '____-__-__T__:__:__.___Z'),
   UserName TEXT NOT NULL,
   ProcedureName TEXT NOT NULL,
   ID1 INTEGER,
   Year1 INTEGER,
   Parameters TEXT NOT NULL,
   ReturnValue INTEGER NOT NULL,
-  RowsChanged INTEGER NOT NULL CHECK (RowsChanged >= 0)
+  RowsChanged INTEGER NOT NULL
 );
 CREATE TRIGGER CldHistoryKeepsItsEntries BEFORE UPDATE ON CldHistory
 BEGIN

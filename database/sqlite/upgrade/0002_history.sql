@@ -2,15 +2,14 @@
 
 CREATE TABLE CldHistory (
   EntryID INTEGER PRIMARY KEY,
-  Moment TEXT NOT NULL DEFAULT (strftime('%Y-%m-%dT%H:%M:%fZ', 'now'))
-    CHECK (Moment IS strftime('%Y-%m-%dT%H:%M:%fZ', Moment)),
+  Moment TEXT NOT NULL CHECK (Moment LIKE '____-__-__T__:__:__.___Z'),
   UserName TEXT NOT NULL,
   ProcedureName TEXT NOT NULL,
   ID1 INTEGER,
   Year1 INTEGER,
   Parameters TEXT NOT NULL,
   ReturnValue INTEGER NOT NULL,
-  RowsChanged INTEGER NOT NULL CHECK (RowsChanged >= 0)
+  RowsChanged INTEGER NOT NULL
 );
 CREATE TRIGGER CldHistoryKeepsItsEntries BEFORE UPDATE ON CldHistory
 BEGIN

@@ -1,6 +1,9 @@
 #include "ferrowind/adapters/sqlite/call_history.h"
 
+#include <array>
+#include <chrono>
 #include <cstddef>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -22,13 +25,29 @@ Statement PrepareEntry(const DatabaseHandle& database) {
   try {
     return Statement(database,
                      "INSERT INTO CldHistory (UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue,"
-                     " RowsChanged) VALUES (?1, ?2, ?3, ?4, ?5, 0, ?6)");
+                     " RowsChanged, Moment) VALUES (?1, ?2, ?3, ?4, ?5, 0, ?6, ?7)");
   } catch (const platform::Failure&) {
     // A database of another version has none, or another one.
     content::RequireSchemaVersion("The database " + database.Path(), SchemaVersionOf(database),
                                   DeliveredUpgrades().back().version);
     throw;
   }
+}
+
+/// In UTC, YYYY-MM-DDTHH:MM:SS.sssZ.
+std::string Now() {
+  using namespace std::chrono;
+  const auto now = floor<milliseconds>(system_clock::now());
+  const auto midnight = floor<days>(now);
+  const year_month_day date(midnight);
+  const hh_mm_ss time(now - midnight);
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ",
+                static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+                static_cast<unsigned>(date.day()), static_cast<int>(time.hours().count()),
+                static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()),
+                static_cast<int>(time.subseconds().count()));
+  return text.data();
 }
 
 /// Empty when the procedure has no such parameter.
@@ -47,6 +66,7 @@ Value InputNamed(std::string_view name, const ProcedureDefinition& procedure,
 
 void AddToHistory(const DatabaseHandle& database, const ProcedureDefinition& procedure,
                   const std::vector<Value>& inputs, std::int64_t rows_changed) {
+  const Value moment(Now());
   const Value user(SystemUserName());
   const Value name(procedure.name);
   const Value currency = InputNamed("@ID1", procedure, inputs);
@@ -59,6 +79,7 @@ void AddToHistory(const DatabaseHandle& database, const ProcedureDefinition& pro
   entry.Bind(4, year);
   entry.Bind(5, parameters);
   entry.Bind(6, rows_changed);
+  entry.Bind(7, moment);
   entry.Step();
 }
 
