@@ -1,5 +1,6 @@
 -- Who may do what: operators call the four procedures and read the dictionary, readers read the views of calendars and
 -- days, and nobody else has any right. The procedures run with their owner's rights, so operators need none on a table.
+-- The history names people: it is for administrators, who are members of the owner, and no view of it is for readers.
 
 REVOKE ALL ON SCHEMA ferrowind FROM PUBLIC;
 REVOKE ALL ON ALL TABLES IN SCHEMA ferrowind FROM PUBLIC;
