@@ -143,18 +143,20 @@ void fmEnterHolidays::Assign() {
 
 void fmEnterHolidays::Remove() {
   if (Confirm(platform_.toolkit, "Remove holiday", "Are you sure ?", 1) != 0) return;
-  MarkSelectedRules(kRemovedMark, error_index::kCannotRemoveHoliday);
+  MarkSelectedRules(kRemovedMark, error_index::kCannotRemoveHoliday, AtRefusal::kStop);
 }
 
-void fmEnterHolidays::Restore() { MarkSelectedRules(kRestoredMark, error_index::kCannotRestoreHoliday); }
+// A rule that cannot be restored does not keep the others from it, unlike with "Remove", by intention.
+void fmEnterHolidays::Restore() {
+  MarkSelectedRules(kRestoredMark, error_index::kCannotRestoreHoliday, AtRefusal::kGoOn);
+}
 
-void fmEnterHolidays::MarkSelectedRules(std::int16_t mark, std::int32_t error_index) {
+void fmEnterHolidays::MarkSelectedRules(std::int16_t mark, std::int32_t error_index, AtRefusal at_refusal) {
   RunHandler([&] {
     for (const HolidayRule& rule : list_.SelectedRules()) {
-      if (MarkRule(rule, mark) != 0) {
-        ShowErrorMessage(error_index);
-        break;
-      }
+      if (MarkRule(rule, mark) == 0) continue;
+      ShowErrorMessage(error_index);
+      if (at_refusal == AtRefusal::kStop) break;
     }
   });
   Reload();

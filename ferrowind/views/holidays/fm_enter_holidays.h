@@ -37,6 +37,8 @@ class fmEnterHolidays : public HolidaysWindow {
 
  private:
   using Command = void (fmEnterHolidays::*)();
+  /// What becomes of the rules after one that the database refuses to mark.
+  enum class AtRefusal { kStop, kGoOn };
 
   void SetMode(std::int32_t mode);
   void Add();
@@ -47,7 +49,7 @@ class fmEnterHolidays : public HolidaysWindow {
   void Assign();
   void EditRule(std::int32_t editor_mode, std::shared_ptr<platform::RecordSet> rule,
                 std::shared_ptr<GridFields> column_map);
-  void MarkSelectedRules(std::int16_t mark, std::int32_t error_index);
+  void MarkSelectedRules(std::int16_t mark, std::int32_t error_index, AtRefusal at_refusal);
   void Reload();
   void RefreshButtons();
 

@@ -160,18 +160,6 @@ TEST(HolidaysWindow, AWeekdayRuleShowsItsWeekdayAndEveryOtherRuleItsDayAndMonth)
   });
 }
 
-TEST(HolidaysWindow, ARuleWithoutDateOrWeekdayShowsAnEmptyDateAndSaysNothing) {
-  RunInFreshThread([] {
-    HolidaysWorld world;
-    world.SetRules(
-        {HolidaysWorld::Rule(2, "No weekday", 2, {}, {}), HolidaysWorld::Rule(3, "No date", 3, {}, {})});
-    ASSERT_TRUE(world.Init(0));
-    EXPECT_EQ(world.Grid().CellText(1, "FullDate"), "");
-    EXPECT_EQ(world.Grid().CellText(2, "FullDate"), "");
-    EXPECT_TRUE(world.world.services->Reports().empty());
-  });
-}
-
 TEST(HolidaysWindow, FormatsRowsByRemovalFirstAndThenByType) {
   RunInFreshThread([] {
     HolidaysWorld world;
