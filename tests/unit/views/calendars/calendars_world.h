@@ -117,11 +117,19 @@ class CalendarsWorld : public ComponentWorld {
   }
 
   /// From now on the start information has these calendars, and these types.
-  void AnswerAllInfo(const Rows& calendars, const Rows& types = UsualTypes()) {
+  headless::ProcedureScript& AnswerAllInfo(const Rows& calendars, const Rows& types = UsualTypes()) {
     world.commands.Forget("CldAllInfo");
-    world.commands.Answer("CldAllInfo")
+    return world.commands.Answer("CldAllInfo")
         .Gives({"ID1", "Year1"}, calendars)
         .Gives({"TID1", "Description1"}, types);
+  }
+  /// As `AnswerAllInfo` with the usual calendars and types, and with what the Holidays window needs: the rule
+  /// 2, Saturday, and the first weekday.
+  void AnswerAllInfoWithARule() {
+    AnswerAllInfo(UsualCalendars())
+        .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"},
+               {{2, "Saturday", {}, 2, {}, {}, {}, std::int16_t{7}, {}}})
+        .Gives({"FirstDay"}, {{1}});
   }
   /// From now on every calendar has these days.
   void AnswerDays(const Rows& days) {

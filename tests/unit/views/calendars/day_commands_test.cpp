@@ -262,13 +262,7 @@ TEST(AssignHolidays, OpensTheRealHolidaysWindowModally) {
   RunInFreshThread([] {
     CalendarsWorld calendars;
     calendars.OpenAt("K978_2026");
-    calendars.world.commands.Forget("CldAllInfo");
-    calendars.world.commands.Answer("CldAllInfo")
-        .Gives({"ID1", "Year1"}, CalendarsWorld::UsualCalendars())
-        .Gives({"TID1", "Description1"}, CalendarsWorld::UsualTypes())
-        .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"},
-               {{2, "Saturday", {}, 2, {}, {}, {}, std::int16_t{7}, {}}})
-        .Gives({"FirstDay"}, {{1}});
+    calendars.AnswerAllInfoWithARule();
     bool was_shown = false;
     calendars.world.toolkit.ScriptModal("fmEnterHolidays", [&](HeadlessForm& form) {
       was_shown = true;
@@ -277,6 +271,22 @@ TEST(AssignHolidays, OpensTheRealHolidaysWindowModally) {
     calendars.ChooseForDay(1, "ID_AssignMany");
     EXPECT_TRUE(was_shown);
     EXPECT_TRUE(calendars.SeenByOperator().empty());
+  });
+}
+
+TEST(AssignHolidays, PlaysTheAnimationWhileTheRulesAreStored) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.OpenAt("K978_2026");
+    calendars.AnswerAllInfoWithARule();
+    calendars.world.toolkit.ScriptModal("fmEnterHolidays", [](HeadlessForm& form) {
+      form.Part<headless::HeadlessGrid>("gexHolidays").ClickRow(1);
+      form.Part<HeadlessButton>("cmdAction5").Click();
+    });
+    calendars.ChooseForDay(1, "ID_AssignMany");
+    ExpectInOrder(calendars.world.log, {"anim.Play()", R"(command.SetText("CldIUMain"))", "anim.Stop()",
+                                        "fmEnterHolidays.Unload()", R"(command.SetText("CldGetMain"))"});
+    EXPECT_FALSE(calendars.Animation().IsPlaying());
   });
 }
 

@@ -25,16 +25,6 @@ void ClickIn(CalendarsWorld& calendars, const std::string& form, const std::stri
       form, [button](HeadlessForm& shown) { shown.Part<HeadlessButton>(button).Click(); });
 }
 
-void AnswerWithRules(CalendarsWorld& calendars) {
-  calendars.world.commands.Forget("CldAllInfo");
-  calendars.world.commands.Answer("CldAllInfo")
-      .Gives({"ID1", "Year1"}, CalendarsWorld::UsualCalendars())
-      .Gives({"TID1", "Description1"}, CalendarsWorld::UsualTypes())
-      .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"},
-             {{2, "Saturday", {}, 2, {}, {}, {}, std::int16_t{7}, {}}})
-      .Gives({"FirstDay"}, {{1}});
-}
-
 void ExpectUsableAndClosable(CalendarsWorld& calendars) {
   EXPECT_EQ(calendars.world.toolkit.LockedElement(), "");
   EXPECT_FALSE(calendars.Animation().IsPlaying());
@@ -54,7 +44,7 @@ void FailEachCallOf(const std::function<void(CalendarsWorld& calendars)>& scenar
   for (bool has_fired = true; has_fired && call < kMostCalls; ++call) {
     RunInFreshThread([&] {
       CalendarsWorld calendars;
-      AnswerWithRules(calendars);
+      calendars.AnswerAllInfoWithARule();
       calendars.OpenAt("K978_2026");
       calendars.world.faults.FailAtCall(call);
       EXPECT_NO_THROW(scenario(calendars));

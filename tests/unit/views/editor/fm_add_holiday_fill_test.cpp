@@ -239,6 +239,16 @@ TEST(HolidayEditor, ToEditARuleWithoutNameOrCommentFillsTheRest) {
   });
 }
 
+TEST(HolidayEditor, ToEditARuleNamedByBlanksKeepsOkDisabledUntilItHasAName) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    ASSERT_TRUE(world.InitToEdit({8, "   ", "", 3, Date(2026, 5, 1), 5, 1, {}, {}}));
+    EXPECT_FALSE(world.IsEnabled("cmdOk"));
+    world.NameBox().SetText("May Day");
+    EXPECT_TRUE(world.IsEnabled("cmdOk"));
+  });
+}
+
 TEST(HolidayEditor, ToEditARuleWithoutADateLeavesThePickersAtTodayAndDisabled) {
   RunInFreshThread([] {
     EditorWorld world;
