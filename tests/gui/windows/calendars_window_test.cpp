@@ -1,3 +1,6 @@
+#include <QApplication>
+#include <QTest>
+
 #include "tests/gui/windows/windows_fixture.h"
 
 namespace ferrowind::gui {
@@ -218,6 +221,40 @@ TEST_F(CalendarsWindowTest, IsClosedByTheHostTogetherWithItsHolidaysWindow) {
     EXPECT_FALSE(holidays.isVisible());
   });
   EXPECT_FALSE(IsOpen());
+  OpenDollar2028();
+}
+
+TEST_F(CalendarsWindowTest, IsClosedByTheHostWhileTheMessageOfAnExceptedDayIsTyped) {
+  OpenDollar2028();
+  WalkToRow(Days(), 10);
+  script_.Expect("ID_StatesMenu", [](QWidget& menu) { PickFromMenu(menu, "ID_Except2"); });
+  script_.Expect("fmExceptMess", [this](QWidget& dialog) {
+    EXPECT_TRUE(ForceClosing());
+    EXPECT_FALSE(IsOpen());
+    TypeInto(dialog, "txtMessage", "too late");
+    Press(*QApplication::focusWidget(), Qt::Key_Escape);
+  });
+  RightClickRow(Days(), 10);
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldDay WHERE Comment = 'too late'"), "0");
+  OpenDollar2028();
+}
+
+TEST_F(CalendarsWindowTest, IsClosedByTheHostWhileTheEditorOfARuleIsOpenThatIsThenSaved) {
+  OpenDollar2028();
+  InHolidays("ID_AssignMany", 10, [this](QWidget& holidays) {
+    script_.Expect("fmAddHoliday", [this](QWidget& editor) {
+      EXPECT_TRUE(ForceClosing());
+      EXPECT_FALSE(IsOpen());
+      ChooseItem(editor, "cmbHolidayType", "Celebration");
+      TypeInto(editor, "txtName", "Typed to its end");
+      ClickButton(editor, "cmdOk");
+    });
+    ClickButton(holidays, "cmdAction0");
+    EXPECT_FALSE(holidays.isVisible());
+  });
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldHoliday WHERE Name1 = 'Typed to its end'"), "1");
   OpenDollar2028();
 }
 
