@@ -29,12 +29,14 @@ void ShowErrorMessage(const std::int32_t& index) {
 void ShowPendingFailures() {
   ModuleState& module = Module();
   for (std::int32_t i = 0; i < module.pending_failure_count; ++i) {
-    const FailureRecord& pending = module.pending_failures[static_cast<std::size_t>(i)];
+    // Copied, because a call that another handler makes while the report is on show replaces the record.
+    const FailureRecord pending = module.pending_failures[static_cast<std::size_t>(i)];
     SharedServicesObject().ReportError(pending.number, pending.description);
   }
   module.pending_failure_count = 0;
-  if (!platform::Trim(module.runtime_failure.description).empty()) {
-    SharedServicesObject().ReportError(module.runtime_failure.number, module.runtime_failure.description);
+  const FailureRecord runtime = module.runtime_failure;
+  if (!platform::Trim(runtime.description).empty()) {
+    SharedServicesObject().ReportError(runtime.number, runtime.description);
   }
   module.runtime_failure = {};
 }

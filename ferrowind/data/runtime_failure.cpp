@@ -1,9 +1,9 @@
 #include "ferrowind/data/runtime_failure.h"
 
 #include <new>
+#include <utility>
 
 #include "ferrowind/data/ignoring_failure.h"
-#include "ferrowind/data/module_state.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind {
@@ -36,9 +36,9 @@ void TraceFailureBeingHandled() noexcept {
 
 RuntimeFailureScope::RuntimeFailureScope() {
   const platform::Failure failure = FailureBeingHandled();
-  Module().runtime_failure = {failure.Number(), failure.Description()};
+  previous_ = std::exchange(Module().runtime_failure, {failure.Number(), failure.Description()});
 }
 
-RuntimeFailureScope::~RuntimeFailureScope() { Module().runtime_failure = {}; }
+RuntimeFailureScope::~RuntimeFailureScope() { Module().runtime_failure = std::move(previous_); }
 
 }  // namespace ferrowind

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind {
@@ -14,13 +15,17 @@ void TraceFailureBeingHandled() noexcept;
 
 /// Makes the exception that is being handled the current runtime failure of the thread, for as long as the
 /// handler of it runs: create one first thing in a catch block. An error report inside the block then shows
-/// that failure first.
+/// that failure first. A handler that runs and fails while another one's report waits for its answer gives
+/// way to the other's failure again when it ends.
 class RuntimeFailureScope {
  public:
   RuntimeFailureScope();
   ~RuntimeFailureScope();
   RuntimeFailureScope(const RuntimeFailureScope&) = delete;
   RuntimeFailureScope& operator=(const RuntimeFailureScope&) = delete;
+
+ private:
+  FailureRecord previous_;
 };
 
 }  // namespace ferrowind

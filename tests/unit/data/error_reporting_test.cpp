@@ -1,13 +1,16 @@
 #include "ferrowind/data/error_reporting.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/pending_failure.h"
+#include "ferrowind/data/run_handler.h"
 
 #include "tests/support/component_world.h"
 #include "tests/support/expect_failure.h"
@@ -25,6 +28,25 @@ using testing::RunInFreshThread;
 
 constexpr std::int32_t kSubscriptOutOfRange = 9;
 using Texts = std::vector<std::string>;
+
+/// Shared services whose next report lets another handler run before the operator has answered it, as a
+/// message box does that waits in an event loop.
+class InterruptedServices : public headless::HeadlessSharedServices {
+ public:
+  using HeadlessSharedServices::HeadlessSharedServices;
+  void ReportError(std::int32_t number, const std::string& description) override {
+    if (const auto interruption = std::exchange(during_report, nullptr)) interruption();
+    HeadlessSharedServices::ReportError(number, description);
+  }
+  std::function<void()> during_report;
+};
+
+/// Puts such services in the place of the component's own.
+InterruptedServices& Interrupt(ComponentWorld& component) {
+  const auto services = std::make_shared<InterruptedServices>(component.world.log);
+  Module().shared_services = services;
+  return *services;
+}
 
 TEST(ShowErrorMessage, ShowsOneLineOfTheComponentAndTheMessageWithTheErrorStyle) {
   RunInFreshThread([] {
@@ -58,6 +80,17 @@ TEST(ShowErrorMessage, FillsTheTableAtTheFirstReportOfTheThread) {
     ShowErrorMessage(0);
     EXPECT_TRUE(Module().is_error_table_filled);
     EXPECT_EQ(Module().error_table[5].message, "Can't load currency");
+  });
+}
+
+TEST(ShowErrorMessage, FillsTheTableBeforeItReportsWhatIsPending) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    SetPendingFailure(1, "pending");
+    component.world.faults.FailAtCall(1);
+    ExpectFailure([] { ShowErrorMessage(0); }, headless::FaultPlan::kFaultNumber,
+                  "Planned fault in services.ReportError");
+    EXPECT_TRUE(Module().is_error_table_filled);
   });
 }
 
@@ -183,6 +216,45 @@ TEST(ShowPendingFailures, ReportsTheDescriptionOfTheRuntimeFailureUntrimmed) {
     Module().runtime_failure = {91, " text "};
     ShowPendingFailures();
     EXPECT_EQ(component.world.services->Reports(), (std::vector<headless::ReportedError>{{91, " text "}}));
+  });
+}
+
+TEST(ShowPendingFailures, AFailureOnShowKeepsItsTextWhileAnotherHandlerReplacesTheRecord) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    InterruptedServices& services = Interrupt(component);
+    SetPendingFailure(1, "the first one, longer than a text that is kept in place");
+    services.during_report = [] { SetPendingFailure(2, "second"); };
+    ShowPendingFailures();
+    EXPECT_EQ(services.Reports(), (std::vector<headless::ReportedError>{
+                                      {1, "the first one, longer than a text that is kept in place"}}));
+  });
+}
+
+TEST(ShowPendingFailures, ARuntimeFailureIsStillReportedWhenAnotherHandlerFailsBeforeItsTurn) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    InterruptedServices& services = Interrupt(component);
+    SetPendingFailure(1, "pending");
+    services.during_report = [] {
+      Module().pending_failure_count = 0;
+      RunHandler([] { throw Failure(3, "in another handler"); });
+    };
+    RunHandler([] { throw Failure(2, "runtime"); });
+    EXPECT_EQ(services.Reports(), (std::vector<headless::ReportedError>{
+                                      {3, "in another handler"}, {1, "pending"}, {2, "runtime"}}));
+    EXPECT_EQ(Module().runtime_failure.description, "");
+  });
+}
+
+TEST(ShowPendingFailures, ARuntimeFailureOnShowKeepsItsTextWhileAnotherHandlerClearsIt) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    InterruptedServices& services = Interrupt(component);
+    services.during_report = [] { Module().runtime_failure = {}; };
+    Module().runtime_failure = {2, "runtime"};
+    ShowPendingFailures();
+    EXPECT_EQ(services.Reports(), (std::vector<headless::ReportedError>{{2, "runtime"}}));
   });
 }
 
