@@ -17,14 +17,17 @@ class CalendarsWindow;
 /// windows.
 ///
 /// Adjust the two column maps, call `Show`, and ask `ForceClosing` when the window has to go. Use it on one
-/// thread, the host's user-interface thread. Destroying it closes the window.
+/// thread, the host's user-interface thread. Destroying it closes the window, or drops one that refuses.
 class Calendar {
  public:
   /// Makes the surroundings those of the component on this thread, creates the thread's dictionary object
   /// when there is none, and fills the maps with their default columns. A dictionary object that cannot be
-  /// created is shown to the operator, and the control goes on without it. `platform`, and `site` where the
-  /// host has one, must outlive the control.
+  /// created is shown to the operator, and the control goes on without it. The outside objects that are
+  /// created serve every control of the thread until the thread ends. `platform`, and `site` where the host
+  /// has one, must outlive the control.
   explicit Calendar(const platform::Platform& platform, platform::ControlSite* site = nullptr);
+  /// The control keeps a reference, which a temporary would leave dangling.
+  explicit Calendar(const platform::Platform&& platform, platform::ControlSite* site = nullptr) = delete;
   virtual ~Calendar();
   Calendar(const Calendar&) = delete;
   Calendar& operator=(const Calendar&) = delete;

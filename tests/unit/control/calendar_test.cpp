@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -127,6 +128,12 @@ TEST(Calendar, SurvivesAStartWithoutAnyOutsideObject) {
   });
 }
 
+TEST(Calendar, RefusesSurroundingsThatWouldBeGoneAtOnce) {
+  EXPECT_TRUE((std::is_constructible_v<Calendar, const platform::Platform&>));
+  EXPECT_FALSE((std::is_constructible_v<Calendar, platform::Platform>));
+  EXPECT_FALSE((std::is_constructible_v<Calendar, const platform::Platform>));
+}
+
 TEST(Calendar, VersionHasFiveElementsOfWhichTheLastIsEmpty) {
   const auto version = Calendar::Version();
   ASSERT_EQ(version.size(), 5u);
@@ -200,6 +207,25 @@ TEST(Calendar, AWindowThatIsNotReadyIsNotShownAndKeptUntilItReportsItsClosing) {
     EXPECT_EQ(calendar.Headers()->Count(), 9);
     calendar.Show();
     EXPECT_EQ(calendar.windows.size(), 2u);
+  });
+}
+
+TEST(Calendar, AWindowThatReportsItsClosingWhileItStartsLivesUntilItsInitHasReturned) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    CalendarOfFakeWindows calendar(control.platform);
+    bool lived_on = false;
+    calendar.prepare = [&](FakeWindow& window) {
+      window.is_ready = false;
+      window.on_init = [&] {
+        calendar.windows[0].lock()->closing.Emit();
+        lived_on = !calendar.windows[0].expired();
+      };
+    };
+    calendar.Show();
+    EXPECT_TRUE(lived_on);
+    EXPECT_TRUE(calendar.windows[0].expired());
+    EXPECT_EQ(calendar.Headers()->Count(), 9);
   });
 }
 
@@ -361,6 +387,20 @@ TEST(Calendar, CanBeDestroyedWhileItsWindowRefuses) {
   });
 }
 
+TEST(Calendar, AFailureOfTheClosingDoesNotLeaveItsDestructor) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    {
+      CalendarOfFakeWindows calendar(control.platform);
+      calendar.prepare = [](FakeWindow& window) {
+        window.on_force_closing = [] { throw Failure(5, "Closing"); };
+      };
+      calendar.Show();
+    }
+    EXPECT_EQ(control.world.services->Reports(), (std::vector<headless::ReportedError>{{5, "Closing"}}));
+  });
+}
+
 TEST(Calendar, CanBeDestroyedByTheHostWhenItsWindowCloses) {
   RunInFreshThread([] {
     ControlWorld control;
@@ -399,6 +439,17 @@ TEST(Calendar, TakesTheFactorOfTheScreenAtEachResize) {
     control.world.toolkit.SetTwipsPerPixelX(7.5F);
     site.ResizeByHost(900, 30);
     EXPECT_EQ(site.now, std::pair(120.0F, 120.0F));
+  });
+}
+
+TEST(Calendar, APlaceThatCannotBeResizedIsReportedAndDoesNotReachTheHostsEvents) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    FakeSite site;
+    const Calendar calendar(control.platform, &site);
+    site.is_stuck = true;
+    site.ResizeByHost(900, 30);
+    EXPECT_EQ(control.world.services->Reports().size(), 1u);
   });
 }
 

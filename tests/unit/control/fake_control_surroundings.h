@@ -7,6 +7,7 @@
 
 #include "ferrowind/control/calendar.h"
 #include "ferrowind/platform/events/signal.h"
+#include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/calendars/calendars_window.h"
 
 namespace ferrowind::testing {
@@ -24,6 +25,7 @@ class FakeWindow : public CalendarsWindow {
   void Show() override { ++show_count; }
   bool ForceClosing() override {
     ++force_closing_count;
+    if (on_force_closing) on_force_closing();
     if (agrees_to_close && reports_closing) closing.Emit();
     return agrees_to_close;
   }
@@ -34,6 +36,7 @@ class FakeWindow : public CalendarsWindow {
   std::shared_ptr<GridFields> headers;
   std::shared_ptr<GridFields> holiday_headers;
   std::function<void()> on_init;
+  std::function<void()> on_force_closing;
   bool is_ready = true;
   bool agrees_to_close = true;
   bool reports_closing = true;
@@ -62,6 +65,7 @@ class CalendarOfFakeWindows : public Calendar {
 class FakeSite : public platform::ControlSite {
  public:
   void SetSize(float width, float height) override {
+    if (is_stuck) throw platform::InvalidArgument();
     const std::pair size(width, height);
     sizes.push_back(size);
     if (size == now) return;
@@ -76,6 +80,7 @@ class FakeSite : public platform::ControlSite {
     resized.Emit();
   }
 
+  bool is_stuck = false;
   std::pair<float, float> now{0.0F, 0.0F};
   std::vector<std::pair<float, float>> sizes;
   platform::Signal<> resized;

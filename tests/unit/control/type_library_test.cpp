@@ -48,31 +48,33 @@ TEST(TypeLibrary, IsTheOneThatHostsWereBuiltAgainst) {
   EXPECT_EQ(identifiers, expected);
 }
 
-TEST(TypeLibrary, MembersKeepTheirDispatchIdentifiersAndSlots) {
-  using Slot = std::tuple<std::string, std::string, std::uint32_t>;
+TEST(TypeLibrary, MembersKeepTheirKindsDispatchIdentifiersAndSlots) {
+  using enum MemberKind;
+  using Slot = std::tuple<std::string, std::string, MemberKind, std::uint32_t>;
   std::vector<Slot> slots;
-  for (const auto& member : kMembers)
-    slots.emplace_back(member.interface_name, member.name, member.dispatch_id);
+  for (const auto& member : kMembers) {
+    slots.emplace_back(member.interface_name, member.name, member.kind, member.dispatch_id);
+  }
   const std::vector<Slot> expected = {
-      {"_Calendar", "ForceClosing", 0x60030002},
-      {"_Calendar", "Show", 0x60030003},
-      {"_Calendar", "Headers", 0x68030001},
-      {"_Calendar", "HolidayHeaders", 0x68030000},
-      {"_Calendar", "Version", 0x68030004},
-      {"_GridFields", "Add", 0x60030001},
-      {"_GridFields", "LocalNames", 0x60030002},
-      {"_GridFields", "Fields", 0x60030003},
-      {"_GridFields", "RemoveByLocalIndex", 0x60030004},
-      {"_GridFields", "RemoveByFieldIndex", 0x60030005},
-      {"_GridFields", "Clear", 0x60030006},
-      {"_GridFields", "Count", 0x68030000},
-      {"_GridField", "FieldName", 0x40030002},
-      {"_GridField", "Visible", 0x40030003},
-      {"_GridField", "Caption", 0x40030004},
-      {"_GridField", "LocalName", 0x68030002},
-      {"_GridField", "Index", 0x68030001},
-      {"_GridField", "IsConst", 0x68030000},
-      {"__GridField", "GetIndex", 1},
+      {"_Calendar", "ForceClosing", kMethod, 0x60030002},
+      {"_Calendar", "Show", kMethod, 0x60030003},
+      {"_Calendar", "Headers", kPropertyGet, 0x68030001},
+      {"_Calendar", "HolidayHeaders", kPropertyGet, 0x68030000},
+      {"_Calendar", "Version", kPropertyGet, 0x68030004},
+      {"_GridFields", "Add", kMethod, 0x60030001},
+      {"_GridFields", "LocalNames", kMethod, 0x60030002},
+      {"_GridFields", "Fields", kMethod, 0x60030003},
+      {"_GridFields", "RemoveByLocalIndex", kMethod, 0x60030004},
+      {"_GridFields", "RemoveByFieldIndex", kMethod, 0x60030005},
+      {"_GridFields", "Clear", kMethod, 0x60030006},
+      {"_GridFields", "Count", kPropertyGet, 0x68030000},
+      {"_GridField", "FieldName", kPropertyGetPut, 0x40030002},
+      {"_GridField", "Visible", kPropertyGetPut, 0x40030003},
+      {"_GridField", "Caption", kPropertyGetPut, 0x40030004},
+      {"_GridField", "LocalName", kPropertyGetPut, 0x68030002},
+      {"_GridField", "Index", kPropertyGet, 0x68030001},
+      {"_GridField", "IsConst", kPropertyGet, 0x68030000},
+      {"__GridField", "GetIndex", kEvent, 1},
   };
   EXPECT_EQ(slots, expected);
 }
