@@ -53,6 +53,20 @@ TEST(SetupGridColumns, FollowsTheFieldOrderOfTheMap) {
   });
 }
 
+TEST(SetupGridColumns, TakesAColumnThatTheMapHoldsAmongItsFieldsAlone) {
+  RunInFreshThread([] {
+    GridWorld world;
+    GridFields map;
+    AddDefaultHeaders(map);
+    constexpr std::int32_t kInvalidArgument = 5;
+    ExpectFailure([&] { map.RemoveByLocalIndex("FullDate"); }, kInvalidArgument);
+    EXPECT_TRUE(SetupGridColumns(world.grid, map));
+    EXPECT_EQ(world.grid.ColumnCount(), 8);
+    EXPECT_EQ(world.grid.ColumnAt(1).Key(), "FullDate");
+    EXPECT_EQ(world.grid.ColumnAt(8).Key(), "Month");
+  });
+}
+
 TEST(SetupGridColumns, AnEmptyMapGivesNoColumnsAndTrue) {
   RunInFreshThread([] {
     GridWorld world;

@@ -95,6 +95,15 @@ TEST(FillColumnValueList, WithoutARowIsFalseAndChangesNothing) {
   });
 }
 
+TEST(FillColumnValueList, WithoutARowDoesNotLookForTheColumn) {
+  RunInFreshThread([] {
+    GridWorld world;
+    RecordSet types = Types({});
+    EXPECT_FALSE(FillColumnValueList(world.grid, "Missing", types, "Description1", "TID1"));
+    EXPECT_TRUE(world.SeenByOperator().empty());
+  });
+}
+
 TEST(FillColumnValueList, ASecondCallAddsNothingAndIsTrue) {
   RunInFreshThread([] {
     TypesWorld world;

@@ -47,6 +47,10 @@ TEST(MessageDialog, IsDesignedWithItsTextsAsAFixedDialogOverItsOwner) {
     EXPECT_EQ(message.Form().Part<HeadlessLabel>("lblMessage").Text(), "Message");
     EXPECT_EQ(message.Form().Part<HeadlessButton>("cmdOk").Caption(), "Ok");
     EXPECT_EQ(message.Form().Part<HeadlessButton>("cmdCancel").Caption(), "Cancel");
+    for (const auto& control : design.controls) {
+      EXPECT_FALSE(control.is_default_button) << control.name;
+      EXPECT_FALSE(control.is_cancel_button) << control.name;
+    }
   });
 }
 

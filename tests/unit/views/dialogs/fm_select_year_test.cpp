@@ -110,6 +110,19 @@ TEST(SelectYear, StartsAtTheCurrentYearFieldFirstAndThenTheSpinner) {
   });
 }
 
+TEST(SelectYear, ACurrentYearBeyondTheSpinnersRangeIsReportedAndCanStillBeStored) {
+  RunInFreshThread([] {
+    SelectYearWorld year;
+    year.world.clock.SetToday(platform::Date(3001, 1, 1));
+    year.Show([](HeadlessForm& form) {
+      EXPECT_EQ(YearIn(form), "3001");
+      Create(form);
+    });
+    EXPECT_EQ(year.world.services->Reports().size(), 1u);
+    EXPECT_EQ(year.dialog.EnterYear(), 3001);
+  });
+}
+
 TEST(SelectYear, CreateStoresTheCurrencyAndTheYearInThisOrderAsIntegers) {
   RunInFreshThread([] {
     SelectYearWorld year;
@@ -265,7 +278,7 @@ TEST(SelectYear, ACallThatFailsBeepsAndLeavesTheFailurePending) {
 }
 
 TEST(SelectYear, AFieldThatHoldsNoNumberIsRefusedBeforeAnythingIsStored) {
-  for (const char* text : {"", "year", "20x6", "    "}) {
+  for (const char* text : {"", "year", "20x6", "    ", "9e99"}) {
     RunInFreshThread([text] {
       SCOPED_TRACE(text);
       SelectYearWorld year;
