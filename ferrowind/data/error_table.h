@@ -31,6 +31,7 @@ struct ErrorEntry {
 
 using ErrorTable = std::array<ErrorEntry, 12>;
 
+/// Writes the twelve messages into the table.
 void FillErrorTable(ErrorTable& table);
 
 }  // namespace ferrowind

@@ -17,9 +17,10 @@ namespace ferrowind::platform {
 /// An ordered list of elements, each under a key; the platform's collection.
 ///
 /// Keys are compared without regard to case. Positions are 1-based and follow the order of insertion. An
-/// index is a key when it is text and a position when it is a number. Failures: Duplicate key (457) for a key
-/// in use, Invalid argument (5) for an unknown key, Subscript out of range (9) for a position that is none,
-/// Type mismatch (13) for an index that is neither text nor number. A failed operation changes nothing.
+/// index is a key when it is text and a position when it is a number (a boolean is one: -1 or 0). Failures:
+/// Duplicate key (457) for a key in use, Invalid argument (5) for an unknown key, Subscript out of range (9)
+/// for a position that is none, Type mismatch (13) for an index that is neither text nor number. A failed
+/// operation changes nothing.
 template <typename T>
 class KeyedCollection {
  public:
