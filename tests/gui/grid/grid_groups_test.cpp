@@ -255,6 +255,19 @@ TEST_F(GridGroupsTest, AreMadeAndEndedFromTheHeaderMenuByKeyboard) {
   EXPECT_FALSE(grid_->GroupByBoxVisible());
 }
 
+TEST_F(GridGroupsTest, RunOverTheLinesBetweenTheColumnsOfRecords) {
+  GroupBy(2);
+  const QImage shown = View().viewport()->grab().toImage();
+  const int line = View().columnViewportPosition(0) + View().columnWidth(0) - 1;
+  std::vector<bool> have_line;
+  for (int row = 0; row < Model().rowCount(); ++row) {
+    const int middle = View().visualRect(Model().index(row, 0)).center().y();
+    have_line.push_back(shown.pixelColor(line, middle) == View().Colors().line);
+  }
+  EXPECT_EQ(have_line, (std::vector<bool>{false, true, true, false, true, true, true}));
+  EXPECT_NE(shown.pixelColor(line, shown.height() - 1), View().Colors().line);
+}
+
 TEST_F(GridGroupsTest, TellAssistiveToolsWhetherTheyAreExpanded) {
   GroupBy(2);
   const QModelIndex group = Model().index(0, 2);

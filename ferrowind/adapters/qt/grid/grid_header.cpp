@@ -94,9 +94,8 @@ void GridHeader::SetKeptWidth(int column, int width) {
   resizeSection(column, width);
 }
 
-QSize GridHeader::sizeHint() const {
-  return {QHeaderView::sizeHint().width(), fontMetrics().height() + kHeightPadding};
-}
+// Not the base's, which measures every caption.
+QSize GridHeader::sizeHint() const { return {length(), fontMetrics().height() + kHeightPadding}; }
 
 // Painting
 

@@ -211,6 +211,10 @@ void GridView::paintEvent(QPaintEvent* event) {
   const std::vector<ShownColumn> columns = ColumnsWithin(area);
   const QModelIndex current = currentIndex();
   int row = std::max(RowAt(area.top()), 0);
+  int records_top = TopOf(row);
+  const auto finish_records = [&](int bottom) {
+    if (bottom > records_top) rows.PaintColumnLines(painter, columns, records_top, bottom - records_top);
+  };
   for (; row < model_->rowCount(); ++row) {
     const QRect row_area = RowArea(row);
     if (row_area.top() > area.bottom()) break;
@@ -221,11 +225,14 @@ void GridView::paintEvent(QPaintEvent* event) {
     if (state.is_current && hasFocus()) state.focus_column = static_cast<std::int16_t>(current.column() + 1);
     const VisibleRow shown = model_->Content().Rows().RowAt(static_cast<std::uint32_t>(row));
     if (shown.is_group) {
+      finish_records(row_area.top());
       rows.PaintGroup(painter, row_area, shown.group, state);
+      records_top = row_area.top() + row_area.height();
     } else {
       rows.PaintRecord(painter, row_area, columns, model_->Content().Rows().RecordAt(shown.position), state);
     }
   }
+  finish_records(TopOf(row));
 }
 
 // The operator

@@ -74,13 +74,19 @@ void RowPainter::PaintRecord(QPainter& painter, const QRect& row, const std::vec
   for (const ShownColumn& column : columns) {
     const QRect cell(column.left, row.top(), column.width, row.height());
     PaintCell(painter, cell.adjusted(kCellPadding, 0, -kCellPadding, -1), column.index, record, style);
-    painter.fillRect(QRect(cell.right(), row.top(), 1, row.height()), colors_.line);
   }
   painter.fillRect(QRect(row.left(), row.bottom(), row.width(), 1), colors_.line);
   for (const ShownColumn& column : columns) {
     if (column.index != state.focus_column) continue;
     painter.setPen(colors_.accent);
     painter.drawRect(QRect(column.left, row.top(), column.width - 2, row.height() - 2));
+  }
+}
+
+void RowPainter::PaintColumnLines(QPainter& painter, const std::vector<ShownColumn>& columns, int top,
+                                  int height) const {
+  for (const ShownColumn& column : columns) {
+    painter.fillRect(QRect(column.left + column.width - 1, top, 1, height), colors_.line);
   }
 }
 

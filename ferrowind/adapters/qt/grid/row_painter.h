@@ -35,8 +35,13 @@ class RowPainter {
   RowPainter(const GridContent& content, const GridColors& colors, TextCache& texts)
       : content_(content), colors_(colors), texts_(texts) {}
 
+  /// All of a record's row but the lines between its columns.
   void PaintRecord(QPainter& painter, const QRect& row, const std::vector<ShownColumn>& columns,
                    grid_engine::Record record, const RowState& state) const;
+  /// The lines between the columns of rows of records that follow one another: one for all of them, as each
+  /// stroke has its price.
+  void PaintColumnLines(QPainter& painter, const std::vector<ShownColumn>& columns, int top,
+                        int height) const;
   void PaintGroup(QPainter& painter, const QRect& row, grid_engine::GroupId group,
                   const RowState& state) const;
 
