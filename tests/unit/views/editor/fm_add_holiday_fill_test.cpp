@@ -44,6 +44,16 @@ TEST(HolidayEditor, WithoutHolidayTypesReportsErrorThreeAndIsNotReady) {
   });
 }
 
+TEST(HolidayEditor, WithoutARecordSetOfTypesReportsErrorThreeAndIsNotReady) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.types = nullptr;
+    EXPECT_FALSE(world.InitToAdd());
+    EXPECT_EQ(world.Messages(),
+              std::vector<std::string>{"Tessaro Calendar. Can't load holiday types from database"});
+  });
+}
+
 TEST(HolidayEditor, ATypeCodeThatIsNoNumberEndsTheLoadWithErrorThree) {
   RunInFreshThread([] {
     EditorWorld world;
@@ -236,6 +246,8 @@ TEST(HolidayEditor, ToEditARuleWithoutNameOrCommentFillsTheRest) {
     EXPECT_EQ(world.CommentBox().Text(), "");
     EXPECT_EQ(world.FullDate().Date(), Date(2026, 5, 1));
     EXPECT_FALSE(world.IsEnabled("cmdOk"));
+    EXPECT_TRUE(world.Messages().empty());
+    EXPECT_TRUE(world.world.services->Reports().empty());
   });
 }
 
@@ -282,6 +294,30 @@ TEST(HolidayEditor, ToEditARuleOfAWeekdayThatIsNoneReportsErrorNine) {
       EXPECT_FALSE(world.IsEnabled("cmbHolidayType")) << "the type was filled before";
     });
   }
+}
+
+TEST(HolidayEditor, ToEditARuleOfWhichFieldsAreMissingOrNoDateFillsTheRestAndSaysNothing) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.row = std::make_shared<platform::RecordSet>(std::vector<std::string>{"Name1", "TID1"},
+                                                      std::vector<std::vector<Value>>{{"Short", 3}});
+    EXPECT_TRUE(world.editor->Init(kEditRule, world.types, 1, world.row, world.column_map));
+    EXPECT_EQ(world.NameBox().Text(), "Short");
+    for (const char* control : {"cmbHolidayType", "cmbDayOfWeek", "dtpFullDate", "dtpHolidayPoint"}) {
+      EXPECT_FALSE(world.IsEnabled(control)) << control;
+    }
+    EXPECT_TRUE(world.Messages().empty());
+    EXPECT_TRUE(world.world.services->Reports().empty());
+  });
+  RunInFreshThread([] {
+    EditorWorld world;
+    EXPECT_TRUE(world.InitToEdit({8, "Undated", "", 3, "no date", 5, 1, {}, {}}));
+    EXPECT_EQ(world.FullDate().Date(), Date(2026, 1, 15));
+    EXPECT_FALSE(world.IsEnabled("dtpFullDate"));
+    EXPECT_FALSE(world.IsEnabled("dtpHolidayPoint"));
+    EXPECT_TRUE(world.Messages().empty());
+    EXPECT_TRUE(world.world.services->Reports().empty());
+  });
 }
 
 TEST(HolidayEditor, ToEditWithoutARowReportsErrorEight) {

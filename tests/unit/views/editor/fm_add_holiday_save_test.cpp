@@ -113,6 +113,20 @@ TEST(HolidayEditorSave, AnEditedRuleIsNamedByItsIdentifierLast) {
   });
 }
 
+TEST(HolidayEditorSave, AnEditedRuleWithoutAnIdentifierIsSavedWithoutOne) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.row = std::make_shared<platform::RecordSet>(std::vector<std::string>{"Name1", "TID1"},
+                                                      std::vector<std::vector<Value>>{{"Short", 3}});
+    ASSERT_TRUE(world.editor->Init(kEditRule, world.types, 1, world.row, world.column_map));
+    world.ClickOk();
+    ASSERT_EQ(world.world.commands.CallsOf("CldIUCelebrate").size(), 1u);
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUCelebrate")[0].parameters.back().first, "@MD");
+    EXPECT_TRUE(world.Messages().empty());
+    EXPECT_TRUE(world.Form().HasUnloaded());
+  });
+}
+
 TEST(HolidayEditorSave, ReturnValuesTwoAndTenReportTheDuplicateName) {
   for (const std::int32_t value : {2, 10}) {
     RunInFreshThread([&] {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/headless/headless_drop_down_list.h"
+
 #include "tests/support/run_in_fresh_thread.h"
 #include "tests/unit/views/holidays/holidays_world.h"
 
@@ -182,6 +184,24 @@ TEST(AddHoliday, OpensAnEmptyEditorAndReloadsWhenItReportsZero) {
       EXPECT_EQ(world.world.commands.CallsOf("CldAllInfo").size(), cancel ? 1u : 2u);
     });
   }
+}
+
+TEST(AddHoliday, OffersTheWeekdaysFromTheFirstOneOfTheDatabase) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    world.world.commands.Answer("CldAllInfo")
+        .Gives({"ID1", "Year1"}, {{978, 2026}})
+        .Gives({"TID1", "Description1"}, {{2, "Holiday"}, {3, "Celebration"}, {4, "Holiday point"}})
+        .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, {})
+        .Gives({"FirstDay"}, {{std::int16_t{4}}});
+    ASSERT_TRUE(world.Init(1));
+    world.world.toolkit.ScriptModal("fmAddHoliday", [](headless::HeadlessForm& form) {
+      EXPECT_EQ(form.Part<headless::HeadlessDropDownList>("cmbDayOfWeek").ItemText(0), "Wednesday");
+      form.Part<headless::HeadlessButton>("cmdCancel").Click();
+    });
+    world.Show([&] { world.Action(0).Click(); });
+    EXPECT_EQ(world.world.toolkit.WaitingScripts(), 0u);
+  });
 }
 
 TEST(AddHoliday, AnEditorThatIsNotReadyIsUnloadedUnseen) {

@@ -239,9 +239,12 @@ TEST(HolidaysWindow, ARowEqualToTheRowCountIsNotPutBack) {
       world.SetRules(
           {HolidaysWorld::Rule(2, "Saturday", 2, {}, 7), HolidaysWorld::Rule(3, "Monday", 2, {}, 2)});
       world.Grid().ClickRow(2);
+      world.Grid().SetFirstVisibleRow(2);
+      world.world.log.Clear();
       world.Action(4).Click();
       EXPECT_EQ(world.Grid().RowCount(), 2);
       EXPECT_EQ(world.Grid().CurrentRow(), 0);
+      EXPECT_TRUE(world.world.log.StartingWith("gexHolidays.SetFirstVisibleRow").empty());
       world.Grid().ClickRow(1);
       world.Action(4).Click();
       EXPECT_EQ(world.Grid().CurrentRow(), 1) << "a row below it is";
@@ -378,6 +381,9 @@ TEST(HolidaysWindow, TheToolShowsAndHidesTheGroupByHeader) {
     world.Show([&] {
       tools.ClickTool("ID_ShowHide");
       EXPECT_TRUE(world.Grid().GroupByBoxVisible());
+      EXPECT_EQ(world.world.log.Between("toolkit.LockUpdates(fmEnterHolidays)", "toolkit.UnlockUpdates()"),
+                (Names{"toolkit.LockUpdates(fmEnterHolidays)", "gexHolidays.SetGroupByBoxVisible(True)",
+                       "toolkit.UnlockUpdates()"}));
       tools.ClickTool("ID_ShowHide");
       EXPECT_FALSE(world.Grid().GroupByBoxVisible());
       world.Grid().ToggleGroupByBox();

@@ -12,6 +12,7 @@ using testing::HolidaysWorld;
 using testing::RunInFreshThread;
 using testing::Value;
 using Names = std::vector<std::string>;
+using Parameters = std::vector<std::pair<std::string, Value>>;
 
 TEST(HolidaysWindow, ARuleWithoutDateOrWeekdayShowsAnEmptyDateAndSaysNothing) {
   RunInFreshThread([] {
@@ -64,6 +65,96 @@ TEST(HolidaysWindow, ARuleWithNothingButAnIdentifierAndATypeIsListedAndCanBeUsed
       EXPECT_TRUE(world.world.services->Reports().empty());
     });
   }
+}
+
+TEST(HolidaysWindow, AWeekdayIsReadAsADaysSerialWhateverTheNumber) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    world.SetRules({HolidaysWorld::Rule(2, "Zero", 2, {}, 0), HolidaysWorld::Rule(3, "One", 2, {}, 1),
+                    HolidaysWorld::Rule(4, "Seven", 2, {}, 7), HolidaysWorld::Rule(5, "Eight", 2, {}, 8)});
+    ASSERT_TRUE(world.Init(0));
+    EXPECT_EQ(world.Grid().CellText(world.RowOf("Zero"), "FullDate"), "Saturday");
+    EXPECT_EQ(world.Grid().CellText(world.RowOf("One"), "FullDate"), "Sunday");
+    EXPECT_EQ(world.Grid().CellText(world.RowOf("Seven"), "FullDate"), "Saturday");
+    EXPECT_EQ(world.Grid().CellText(world.RowOf("Eight"), "FullDate"), "Sunday");
+  });
+}
+
+TEST(HolidaysWindow, FollowsTheFieldsThatTheMapGives) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    const std::pair<const char*, const char*> fields[] = {{"Del", "Mark"},
+                                                          {"HolidayType", "Kind"},
+                                                          {"FullDate", "Falls"},
+                                                          {"DayOfWeek", "Weekday"},
+                                                          {"ID_Holiday", "Number"}};
+    for (const auto& [column, field] : fields) world.headers->LocalNames(column)->SetFieldName(field);
+    world.world.commands.Answer("CldAllInfo")
+        .Gives({"ID1", "Year1"}, {{978, 2026}})
+        .Gives({"TID1", "Description1"},
+               {{1, "Working day"}, {2, "Holiday"}, {3, "Celebration"}, {4, "Holiday point"}})
+        .Gives({"Number", "Name1", "Comment", "Kind", "Falls", "MY", "MD", "Weekday", "Mark"},
+               HolidaysWorld::UsualRules())
+        .Gives({"FirstDay"}, {{1}});
+    ASSERT_TRUE(world.Init(1));
+    EXPECT_EQ(world.Grid().Records()->Filter(), "(Mark <> 2 and Kind <> 1) or (Mark = NULL and Kind <> 1)");
+    EXPECT_EQ(world.Grid().CellText(world.RowOf("Monday"), "FullDate"), "Monday");
+    EXPECT_EQ(world.Grid().CellText(world.RowOf("Christmas Day"), "FullDate"), "25 December");
+    world.Show([&] {
+      world.Grid().ClickRow(world.RowOf("Christmas Day"));
+      world.Action(5).Click();
+    });
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUMain").at(0).parameters,
+              (Parameters{{"@TID1", 3},
+                          {"@ID1", 978},
+                          {"@ID2", 4},
+                          {"@Year1", 2026},
+                          {"@ODate", Date(2026, 12, 25)},
+                          {"@Day1", 359}}));
+  });
+}
+
+TEST(HolidaysWindow, RulesThatCannotBeReadAreReportedAndTheCommandStillEnds) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    world.headers->LocalNames("ID_Holiday")->SetFieldName("Absent");
+    ASSERT_TRUE(world.InitWithUsualRules(1));
+    world.Show([&] {
+      world.Grid().ClickRow(1);
+      world.Answer("fmMessage", "cmdOk");
+      world.Action(2).Click();
+      EXPECT_EQ(world.world.services->Reports().size(), 1u);
+      EXPECT_EQ(world.world.commands.CallsOf("CldAllInfo").size(), 2u) << "reloaded all the same";
+      world.Grid().ClickRow(1);
+      world.Action(5).Click();
+      EXPECT_EQ(world.world.services->Reports().size(), 2u);
+    });
+    EXPECT_EQ(world.window->Result(), 1);
+    EXPECT_TRUE(world.Form().HasUnloaded());
+    EXPECT_TRUE(world.world.commands.CallsOf("CldIUCelebrate").empty());
+    EXPECT_TRUE(world.world.commands.CallsOf("CldIUMain").empty());
+  });
+}
+
+TEST(HolidaysWindow, AGroupRowIsNoRule) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    ASSERT_TRUE(world.InitWithUsualRules(1));
+    world.Show([&] {
+      world.Grid().GroupKeys().Add(world.Grid().ColumnByKey("HolidayType").Index(), platform::kSortAscending,
+                                   0);
+      world.Grid().Refresh(true);
+      ASSERT_TRUE(world.Grid().IsGroupRow(1));
+      ASSERT_EQ(world.Grid().CellText(2, "Name"), "Saturday");
+      world.Grid().ClickRow(1);
+      for (int i : {1, 2, 3, 5}) EXPECT_FALSE(world.Action(i).Enabled()) << i;
+      world.Grid().ToggleRow(2);
+      world.Action(5).Click();
+    });
+    ASSERT_EQ(world.world.commands.CallsOf("CldIUMain").size(), 1u);
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUMain")[0].Parameter("@ID2"), Value(2));
+    EXPECT_TRUE(world.world.services->Reports().empty());
+  });
 }
 
 }  // namespace

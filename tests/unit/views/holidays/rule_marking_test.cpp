@@ -123,5 +123,41 @@ TEST(RestoreHoliday, ARefusalIsReportedForEachRuleAndTheOthersAreStillMarkedBefo
   });
 }
 
+TEST(RestoreHoliday, EnablesTheButtonsThatTheRuleAllowsAfterIt) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    world.SetRules({HolidaysWorld::Rule(6, "Old holiday", 3, Date(1999, 7, 4), {}, std::int16_t{2}),
+                    HolidaysWorld::Rule(7, "Older holiday", 3, Date(1999, 8, 1), {}, std::int16_t{2})});
+    ASSERT_TRUE(world.Init(0));
+    world.Show([&] {
+      world.Action(4).Click();
+      world.Grid().ClickRow(1);
+      EXPECT_FALSE(world.Action(1).Enabled());
+      world.SetRules({HolidaysWorld::Rule(6, "Old holiday", 3, Date(1999, 7, 4), {}, std::int16_t{4}),
+                      HolidaysWorld::Rule(7, "Older holiday", 3, Date(1999, 8, 1), {}, std::int16_t{4})});
+      world.Action(3).Click();
+      ASSERT_EQ(world.Grid().CurrentRow(), 1);
+      for (int i : {1, 2, 5}) EXPECT_TRUE(world.Action(i).Enabled()) << i;
+      EXPECT_FALSE(world.Action(3).Enabled());
+    });
+  });
+}
+
+TEST(RemoveHoliday, OfTheLastRuleLeavesOnlyAddAndTheFilterEnabled) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    world.SetRules({HolidaysWorld::Rule(2, "Saturday", 2, {}, 7)});
+    ASSERT_TRUE(world.Init(0));
+    world.Show([&] {
+      world.Grid().ClickRow(1);
+      world.SetRules({HolidaysWorld::Rule(2, "Saturday", 2, {}, 7, std::int16_t{2})});
+      world.Answer("fmMessage", "cmdOk");
+      world.Action(2).Click();
+      EXPECT_TRUE(world.Names().empty());
+      for (int i : {1, 2, 3, 5}) EXPECT_FALSE(world.Action(i).Enabled()) << i;
+    });
+  });
+}
+
 }  // namespace
 }  // namespace ferrowind
