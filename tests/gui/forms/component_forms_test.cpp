@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
@@ -213,6 +214,11 @@ TEST_P(ComponentFormsTest, ShowsTheCalendarsWindow) {
   Examine(*window, "fmCalendar");
   EXPECT_TRUE(control.Control().ForceClosing());
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST(CalendarWidget, RefusesSurroundingsThatWouldBeGoneAtOnce) {
+  EXPECT_TRUE((std::is_constructible_v<CalendarWidget, const platform::Platform&>));
+  EXPECT_FALSE((std::is_constructible_v<CalendarWidget, platform::Platform>));
 }
 
 TEST_P(ComponentFormsTest, SnapsTheControlBackToItsSize) {

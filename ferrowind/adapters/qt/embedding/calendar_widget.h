@@ -18,6 +18,8 @@ class CalendarWidget : public QWidget, private platform::ControlSite {
  public:
   /// `platform` must outlive the widget.
   explicit CalendarWidget(const platform::Platform& platform, QWidget* parent = nullptr);
+  /// A temporary would be gone before the widget's first use of it.
+  explicit CalendarWidget(const platform::Platform&& platform, QWidget* parent = nullptr) = delete;
   ~CalendarWidget() override;
 
   /// The component's public interface.
