@@ -50,22 +50,26 @@ constexpr const char* kDataProblems[] = {
 };
 
 /// Everything that the schema `ferrowind` consists of and who may do what with it: a name, unique, and what
-/// decides whether two of that name are the same.
+/// decides whether two of that name are the same. Rights that were never given or taken are those that the
+/// server gives by itself, and a restored backup has no others where the original had the same ones written
+/// down.
 constexpr const char* kObjects = R"sql(
 WITH schema AS (SELECT oid, nspowner, nspacl FROM pg_namespace WHERE nspname = 'ferrowind')
 SELECT 'schema ferrowind', concat_ws(' ', nspowner::regrole,
-  (SELECT string_agg(acl::text, ',' ORDER BY acl::text) FROM unnest(nspacl) AS acl)) FROM schema
+  (SELECT string_agg(acl::text, ',' ORDER BY acl::text) FROM unnest(coalesce(nspacl, acldefault('n', nspowner))) AS acl))
+FROM schema
 UNION ALL
 SELECT 'right to use the database', coalesce(
   (SELECT string_agg(concat_ws(' ', CASE grantee WHEN 0 THEN 'public' ELSE grantee::regrole::text END, privilege_type),
                      ',' ORDER BY grantee, privilege_type)
-   FROM aclexplode(datacl)
+   FROM aclexplode(coalesce(datacl, acldefault('d', datdba)))
    WHERE grantee IN (0, 'ferrowind_owner'::regrole, 'ferrowind_operator'::regrole, 'ferrowind_reader'::regrole)), 'default')
 FROM pg_database WHERE datname = current_database()
 UNION ALL
 SELECT CASE c.relkind WHEN 'r' THEN 'table ' WHEN 'v' THEN 'view ' WHEN 'i' THEN 'index ' ELSE 'object ' END || c.relname,
   concat_ws(' ', c.relkind, c.relpersistence, c.relrowsecurity, c.relowner::regrole, c.reloptions,
-    (SELECT string_agg(acl::text, ',' ORDER BY acl::text) FROM unnest(c.relacl) AS acl),
+    (SELECT string_agg(acl::text, ',' ORDER BY acl::text)
+     FROM unnest(coalesce(c.relacl, acldefault(CASE c.relkind WHEN 'S' THEN 's'::"char" ELSE 'r' END, c.relowner))) AS acl),
     CASE c.relkind WHEN 'v' THEN pg_get_viewdef(c.oid) WHEN 'i' THEN pg_get_indexdef(c.oid) END)
 FROM pg_class c JOIN schema ON schema.oid = c.relnamespace
 UNION ALL
@@ -87,7 +91,8 @@ UNION ALL
 SELECT concat('routine ', p.proname, '(', pg_get_function_identity_arguments(p.oid), ')'),
   concat_ws(' ', p.prokind, p.prosecdef, p.provolatile, p.proisstrict, p.proconfig, p.proowner::regrole,
     pg_get_function_arguments(p.oid), pg_get_function_result(p.oid), p.prolang,
-    (SELECT string_agg(acl::text, ',' ORDER BY acl::text) FROM unnest(p.proacl) AS acl), p.prosrc)
+    (SELECT string_agg(acl::text, ',' ORDER BY acl::text)
+     FROM unnest(coalesce(p.proacl, acldefault('f', p.proowner))) AS acl), p.prosrc)
 FROM pg_proc p JOIN schema ON schema.oid = p.pronamespace
 )sql";
 
