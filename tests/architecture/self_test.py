@@ -8,6 +8,7 @@ import tempfile
 import unittest
 
 import core_only
+import failure_texts
 import format as format_check
 import headers_alone
 import include_graph
@@ -206,6 +207,37 @@ set_tests_properties(example PROPERTIES LABELS unit)
     def test_refuses_a_component_without_tests(self):
         self.write("CMakeLists.txt", self.LISTS.replace("LABELS unit", "LABELS other"))
         self.assert_refused("testing core-only failed")
+
+
+class FailureTexts(unittest.TestCase):
+    SOURCE = """
+        // "a comment"
+        #include "a/file.h"
+        throw Failure("The file " + path + " is "
+                      "gone: \\"why\\"" + reason);
+        """
+    ROW = '| `The file … is gone: "why" …` | moved away | bring it back |\n'
+
+    def corpus(self):
+        return "\n".join(failure_texts.literals(self.SOURCE))
+
+    def test_reads_texts_out_of_a_source(self):
+        self.assertEqual(failure_texts.literals(self.SOURCE), ["The file ", ' is gone: "why"'])
+
+    def test_accepts_a_listed_text_that_the_programs_have(self):
+        self.assertEqual(failure_texts.unknown_texts(self.ROW, self.corpus()), [])
+        self.assertEqual(failure_texts.missing_texts(self.ROW, self.SOURCE), [])
+
+    def test_refuses_a_listed_text_that_no_program_has(self):
+        row = self.ROW.replace("gone", "lost")
+        self.assertEqual(failure_texts.unknown_texts(row, self.corpus()), ['The file … is lost: "why" …'])
+
+    def test_refuses_a_text_that_is_not_listed(self):
+        self.assertEqual(failure_texts.missing_texts("| `The file …` | | |\n", self.SOURCE), [' is gone: "why"'])
+
+    def test_knows_texts_that_come_from_a_library(self):
+        table = "| in the bracket | cause |\n|---|---|\n| `no such user` | |\n\n" + self.ROW
+        self.assertEqual(failure_texts.listed(table), ['The file … is gone: "why" …'])
 
 
 if __name__ == "__main__":

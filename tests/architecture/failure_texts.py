@@ -1,0 +1,82 @@
+"""Checks that the administrator's guide lists failure texts that the programs have, and all texts of some sources.
+usage: failure_texts.py ROOT"""
+
+import pathlib
+import re
+import sys
+
+FOLDERS = ("ferrowind/adapters", "ferrowind/control", "ferrowind/data", "ferrowind/platform", "host")
+# Sources whose every text of several words is told to people, and so is in the guide.
+COMPLETE = ("ferrowind/adapters/content/content_copy.cpp", "ferrowind/adapters/content/schema_upgrade.cpp",
+            "ferrowind/adapters/postgres/connection_uri.cpp", "ferrowind/adapters/postgres/postgres_failure.cpp",
+            "ferrowind/adapters/sqlite/sqlite_failure.cpp", "ferrowind/data/error_table.cpp",
+            "host/admin/history_arguments.cpp", "host/admin/interruption.cpp")
+FOREIGN = "| in the bracket |"  # The header of the table of texts that come from a library.
+_LITERAL = re.compile(r'"(?:[^"\\\n]|\\.)*"')
+_JOINED = re.compile(r'"\s*\n\s*"')
+_NO_TEXT = re.compile(r"^\s*(//|#include).*$", re.MULTILINE)
+_SHORTEST_PART = 6
+
+
+def literals(source):
+    """The texts of a C++ source, those that stand behind each other as one."""
+    joined = _JOINED.sub("", _NO_TEXT.sub("", source))
+    return [re.sub(r"\\(.)", r"\1", text[1:-1]) for text in _LITERAL.findall(joined)]
+
+
+def listed(guide):
+    """The failure texts of the guide: what is in backticks in the first column of a table."""
+    texts = []
+    foreign = False
+    for line in guide.splitlines():
+        if not line.startswith("|"):
+            foreign = False
+            continue
+        foreign |= line.startswith(FOREIGN)
+        if not foreign:
+            texts += re.findall(r"`([^`]+)`", line.split(" | ")[0])
+    return texts
+
+
+def is_in(corpus, fragment):
+    """Whether the programs have the fragment, in one piece or put together from two."""
+    if fragment in corpus:
+        return True
+    cuts = range(_SHORTEST_PART, len(fragment) - _SHORTEST_PART + 1)
+    return any(fragment[:cut] in corpus and fragment[cut:] in corpus for cut in cuts)
+
+
+def unknown_texts(guide, corpus):
+    """Listed texts that no program has."""
+    unknown = []
+    for text in listed(guide):
+        fragments = [fragment.strip(" .") for fragment in text.split("…")]
+        if not all(is_in(corpus, fragment) for fragment in fragments if fragment):
+            unknown.append(text)
+    return unknown
+
+
+def missing_texts(guide, source):
+    """Texts of several words of a source that are not in the guide."""
+    plain = guide.replace("`", "")
+    return [text for text in literals(source) if len(text.split()) > 1 and text.strip(" .:;") not in plain]
+
+
+def main(root):
+    guide = (root / "docs/admin/failures.md").read_text(encoding="utf-8")
+    sources = {path.relative_to(root).as_posix(): path.read_text(encoding="utf-8")
+               for folder in FOLDERS for path in sorted((root / folder).rglob("*.[ch]*")) if path.suffix in (".cpp", ".h")}
+    corpus = "\n".join(text for source in sources.values() for text in literals(source))
+    problems = [f"docs/admin/failures.md: no program says \"{text}\"" for text in unknown_texts(guide, corpus)]
+    for name in COMPLETE:
+        problems += [f"{name}: \"{text}\" is not in docs/admin/failures.md" for text in missing_texts(guide, sources[name])]
+    for problem in problems:
+        print(problem)
+    if len(listed(guide)) < 50:
+        print("docs/admin/failures.md: its tables are not found")
+        return 1
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1])))
