@@ -25,7 +25,7 @@ QString VersionText() {
 }  // namespace
 
 BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QString& database)
-    : control_(new qt::CalendarWidget(platform)) {
+    : control_(new qt::CalendarWidget(platform)), trouble_(new TroubleBar) {
   setObjectName(QStringLiteral("backOffice"));
   setWindowTitle(tr("Back office"));
 
@@ -67,6 +67,7 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   layout->setSpacing(16);
   layout->addLayout(heading);
   layout->addWidget(place);
+  layout->addWidget(trouble_);
   layout->addStretch();
   layout->addLayout(buttons);
   setCentralWidget(content);
@@ -75,6 +76,13 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
 }
 
 void BackOfficeWindow::OpenCalendars() { control_->Control().Show(); }
+
+void BackOfficeWindow::TellTrouble(const QString& text) {
+  trouble_->Tell(text);
+  const QWidget& content = *centralWidget();
+  const int missing = content.layout()->totalHeightForWidth(content.width()) - content.height();
+  if (missing > 0) resize(width(), height() + missing);
+}
 
 void BackOfficeWindow::CloseCalendars() {
   if (!control_->Control().ForceClosing())

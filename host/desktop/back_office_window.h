@@ -4,6 +4,8 @@
 
 #include "ferrowind/adapters/qt/embedding/calendar_widget.h"
 
+#include "host/desktop/trouble_bar.h"
+
 namespace ferrowind::host {
 
 /// A small back-office window with the calendar control on it.
@@ -15,6 +17,8 @@ class BackOfficeWindow : public QMainWindow {
   BackOfficeWindow(const platform::Platform& platform, const QString& database);
 
   void OpenCalendars();
+  /// Shows what is wrong with the database; an empty text when nothing is.
+  void TellTrouble(const QString& text);
 
  protected:
   /// Stays open when the Calendars window refuses to close.
@@ -24,6 +28,7 @@ class BackOfficeWindow : public QMainWindow {
   void CloseCalendars();
 
   qt::CalendarWidget* control_;
+  TroubleBar* trouble_;
 };
 
 }  // namespace ferrowind::host

@@ -1,6 +1,7 @@
 #include "host/desktop/desktop_surroundings.h"
 
 #include <QCoreApplication>
+#include <utility>
 
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
@@ -16,13 +17,18 @@
 namespace ferrowind::host {
 
 struct DesktopSurroundings::Parts {
-  Parts() {
-    engines.Register(sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>());
+  explicit Parts(DatabaseObserver& observer) {
     const auto server = std::make_shared<postgres::Engine>();
-    engines.Register(postgres::Engine::kScheme, server);
-    engines.Register(postgres::Engine::kShortScheme, server);
+    const std::pair<const char*, std::shared_ptr<platform::Engine>> all[] = {
+        {sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>()},
+        {postgres::Engine::kScheme, server},
+        {postgres::Engine::kShortScheme, server}};
+    for (const auto& [scheme, engine] : all) {
+      engines.Register(scheme, engine);
+      watched_engines.Register(scheme, std::make_shared<WatchedEngine>(engine, observer));
+    }
     objects.Register(platform::kDictionaryIdentifier,
-                     [this] { return std::make_shared<DesktopDictionary>(engines, database); });
+                     [this] { return std::make_shared<DesktopDictionary>(watched_engines, database); });
     objects.Register(platform::kSharedServicesIdentifier,
                      [this] { return std::make_shared<qt::QtSharedServices>(qt::SettingsStore(), trace); });
   }
@@ -30,7 +36,8 @@ struct DesktopSurroundings::Parts {
   std::string database;
   std::shared_ptr<TraceSink> trace;
   platform::EngineRegistry engines;
-  platform::EngineCommandFactory commands{engines};
+  platform::EngineRegistry watched_engines;
+  platform::EngineCommandFactory commands{watched_engines};
   ObjectMakers objects;
   qt::QtToolkit toolkit;
   qt::QtLocale locale;
@@ -39,7 +46,8 @@ struct DesktopSurroundings::Parts {
                               locale,  clock,    QCoreApplication::applicationDirPath().toStdString()};
 };
 
-DesktopSurroundings::DesktopSurroundings() : parts_(std::make_unique<Parts>()) {}
+DesktopSurroundings::DesktopSurroundings(DatabaseObserver& observer)
+    : parts_(std::make_unique<Parts>(observer)) {}
 
 DesktopSurroundings::~DesktopSurroundings() = default;
 

@@ -7,13 +7,16 @@
 
 #include "host/delivery/database_version.h"
 #include "host/desktop/back_office_window.h"
+#include "host/desktop/database_trouble.h"
 #include "host/desktop/desktop_options.h"
 #include "host/desktop/desktop_surroundings.h"
+#include "host/desktop/trouble_overlay.h"
 #include "host/desktop/user_database.h"
 #include "host/session/private_arguments.h"
 
 namespace {
 
+using ferrowind::host::DatabaseTrouble;
 using ferrowind::host::DesktopOptions;
 using ferrowind::host::DesktopSurroundings;
 
@@ -39,19 +42,27 @@ int main(int argc, char** argv) {
   const DesktopOptions options = ferrowind::host::ReadOptions(QApplication::arguments());
   ferrowind::qt::ApplyTheme(application, options.theme);
 
-  DesktopSurroundings surroundings;
+  DatabaseTrouble trouble;
+  DesktopSurroundings surroundings(trouble);
   if (!options.trace_file.isEmpty()) TellWhenFailing([&] { surroundings.TraceTo(options.trace_file); });
   std::string database = options.database;
   if (database.empty()) {
     TellWhenFailing([&] { database = ferrowind::host::UserDatabase(surroundings.Engines()); });
     TellWhenFailing([&] { ferrowind::host::UpgradeOwnDatabase(database); });
   } else {
-    TellWhenFailing([&] { ferrowind::host::RequireThisVersion(database); });
+    TellWhenFailing([&] {
+      (void)surroundings.Engines().EngineFor(database);
+      ferrowind::host::RequireThisVersion(database);
+    });
   }
   surroundings.UseDatabase(database);
 
   ferrowind::host::BackOfficeWindow window(surroundings.Get(),
                                            QString::fromStdString(ferrowind::PasswordFree(database)));
+  ferrowind::host::TroubleOverlay overlay(window);
+  QObject::connect(&trouble, &DatabaseTrouble::Changed, &window,
+                   &ferrowind::host::BackOfficeWindow::TellTrouble);
+  QObject::connect(&trouble, &DatabaseTrouble::Changed, &overlay, &ferrowind::host::TroubleOverlay::Tell);
   window.show();
   if (options.open) window.OpenCalendars();
   return QApplication::exec();

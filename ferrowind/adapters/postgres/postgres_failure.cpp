@@ -30,6 +30,7 @@ std::string PlainWords(std::string_view sqlstate, const std::string& database) {
       {"25006", " is read-only"},
       {"40", " was busy with another call that got in the way; nothing was done"},
       {"42501", " does not permit this"},
+      {"42P01", " is no calendar database, or lacks a part of one"},
       {"53100", " is on a server whose disk is full"},
       {"53300", " is on a server that has no connection free"},
       {"53", " is on a server that is short of something"},
