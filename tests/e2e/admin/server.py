@@ -3,6 +3,7 @@
 import json
 import os
 import subprocess
+import time
 import urllib.parse
 
 
@@ -58,6 +59,14 @@ class Database:
     def uri_of(self, name, password):
         """The URI for this database of a login, whose name needs no encoding."""
         return f"postgresql://{name}:{urllib.parse.quote(password, safe='')}@{self.uri.split('@')[1]}"
+
+    def wait_until_unused(self):
+        """The server learns of a client that was killed a little later; what it did not commit is gone then."""
+        deadline = time.monotonic() + 60
+        while ask("postgres", f"SELECT 1 FROM pg_stat_activity WHERE datname = '{self.name}' LIMIT 1"):
+            if time.monotonic() > deadline:
+                raise AssertionError(f"{self.name} is still in use")
+            time.sleep(0.05)
 
     def is_vacant(self):
         return self.ask("SELECT count(*) FROM pg_namespace WHERE nspname = 'ferrowind'") == "0"
