@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include <gtest/gtest.h>
+
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::contract {
@@ -48,6 +50,12 @@ struct DatabaseKind {
 template <typename Database>
 void PrintTo(const DatabaseKind<Database>& kind, std::ostream* stream) {
   *stream << kind.name;
+}
+
+/// Names the tests of a suite after its kind of database.
+template <typename Kind>
+std::string KindName(const ::testing::TestParamInfo<Kind>& info) {
+  return info.param.name;
 }
 
 }  // namespace ferrowind::contract

@@ -8,11 +8,6 @@
 namespace ferrowind::contract {
 namespace {
 
-template <typename Suite>
-std::string KindName(const ::testing::TestParamInfo<Suite>& info) {
-  return info.param.name;
-}
-
 INSTANTIATE_TEST_SUITE_P(Engines, EngineContract,
                          ::testing::Values(DatabaseKind<DatabaseUnderTest>{"Sqlite", MakeSqliteProbes}),
                          KindName<DatabaseKind<DatabaseUnderTest>>);
