@@ -20,15 +20,15 @@ namespace {
 
 using platform::Failure;
 
-/// A text for each reason why the database cannot become a calendar database.
+/// A text for each reason why the database cannot become a calendar database, the plainest first.
 constexpr const char* kObstacles =
     "SELECT 'it stores texts as ' || current_setting('server_encoding') || ' instead of UTF8'"
     " WHERE current_setting('server_encoding') <> 'UTF8'"
+    " UNION ALL SELECT 'it has a schema ferrowind already' FROM pg_catalog.pg_namespace WHERE nspname = "
+    "'ferrowind'"
     " UNION ALL SELECT 'it is not empty: there is ' || n.nspname || '.' || c.relname"
     "  FROM pg_catalog.pg_class c JOIN pg_catalog.pg_namespace n ON n.oid = c.relnamespace"
     "  WHERE n.nspname NOT LIKE 'pg\\_%' AND n.nspname <> 'information_schema'"
-    " UNION ALL SELECT 'it has a schema ferrowind already' FROM pg_catalog.pg_namespace WHERE nspname = "
-    "'ferrowind'"
     " LIMIT 1";
 
 void RefuseObstacles(ServerConnection& connection) {

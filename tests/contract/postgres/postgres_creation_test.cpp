@@ -87,7 +87,7 @@ TEST(PostgresCreation, ADatabaseThatIsNotEmptyIsRefusedAndStaysAsItIs) {
   EXPECT_THAT(FailureTextOf([&] {
                 postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(calendars.Name()), false);
               }),
-              HasSubstr("not empty"));
+              HasSubstr("has a schema ferrowind already"));
   EXPECT_TRUE(calendars.IsSound());
 }
 
