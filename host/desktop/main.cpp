@@ -10,7 +10,7 @@
 #include "host/desktop/database_trouble.h"
 #include "host/desktop/desktop_options.h"
 #include "host/desktop/desktop_surroundings.h"
-#include "host/desktop/trouble_overlay.h"
+#include "host/desktop/trouble_footer.h"
 #include "host/desktop/user_database.h"
 #include "host/session/private_arguments.h"
 
@@ -59,10 +59,10 @@ int main(int argc, char** argv) {
 
   ferrowind::host::BackOfficeWindow window(surroundings.Get(),
                                            QString::fromStdString(ferrowind::PasswordFree(database)));
-  ferrowind::host::TroubleOverlay overlay(window);
+  ferrowind::host::TroubleFooter footer(window);
   QObject::connect(&trouble, &DatabaseTrouble::Changed, &window,
                    &ferrowind::host::BackOfficeWindow::TellTrouble);
-  QObject::connect(&trouble, &DatabaseTrouble::Changed, &overlay, &ferrowind::host::TroubleOverlay::Tell);
+  QObject::connect(&trouble, &DatabaseTrouble::Changed, &footer, &ferrowind::host::TroubleFooter::Tell);
   window.show();
   if (options.open) window.OpenCalendars();
   return QApplication::exec();

@@ -83,7 +83,8 @@ class Check(ferrowindctl.InAFolder):
 
     def faults_after(self, *statements):
         """The lines that the check prints once the statements of a superuser have damaged the database."""
-        self.database.ask("SET search_path = ferrowind; SET session_replication_role = replica; " + "; ".join(statements))
+        self.database.ask("SET search_path = ferrowind; SET session_replication_role = replica; "
+                          + "; ".join(statements))
         return self.assert_run(NOT_DONE, "check", self.database.uri)[0].splitlines()
 
     def test_says_that_a_sound_database_is_in_order(self):

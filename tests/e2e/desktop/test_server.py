@@ -1,5 +1,5 @@
-"""The built desktop program on a PostgreSQL server that gets into trouble while an operator is at work: each trouble is told
-where the operator looks, nothing that was done is lost, and the work goes on when the trouble is over."""
+"""The built desktop program on a PostgreSQL server that gets into trouble while an operator is at work: each trouble is
+told where the operator looks, nothing that was done is lost, and the work goes on when the trouble is over."""
 
 import os
 import subprocess
@@ -121,6 +121,17 @@ class ServerTest(unittest.TestCase):
         wait_for(lambda: self.first_day() == (1, 1), 'the exception in the database')
         self.wait_untold('Calendars')
 
+    def test_the_windows_close_while_they_tell_of_a_trouble(self):
+        self.open_calendar()
+        self.stop_server()
+        self.session.keys('F5')
+        self.wait_told('Calendars', 'cannot be connected to')
+        self.session.close('Calendars')
+        self.session.wait_until_gone('Calendars')
+        self.wait_told('Back office', 'cannot be connected to')
+        self.session.close('Back office')
+        self.assertEqual(self.session.app.wait(60), 0, self.session.printed())
+
     def test_the_window_takes_no_notice_of_a_restart(self):
         self.open_calendar()
         server.control('restart')
@@ -158,9 +169,12 @@ class ServerTest(unittest.TestCase):
         self.wait_active('Ferrowind')
         self.wait_told('Ferrowind', 'Error 373249', 'cannot be connected to')
         self.session.keys('Return')
-        wait_for(lambda: "Tessaro Calendar. Can't add holiday to database" in self.texts('Ferrowind'), 'what was not done')
+        wait_for(lambda: "Tessaro Calendar. Can't add holiday to database" in self.texts('Ferrowind'),
+                 'what was not done')
         self.dismiss_messages(RULES)
         self.wait_told(RULES, 'cannot be connected to')
+        self.assert_nothing_is_covered(RULES, 'Assign')
+        self.hide_trouble(RULES)
         self.start_server()
         self.type_rule('Founding Day', '3 May')
         self.session.keys('Return')
@@ -168,6 +182,22 @@ class ServerTest(unittest.TestCase):
         self.assertEqual(self.database.rows("SELECT TID1, MY, MD FROM CldHoliday WHERE Name1 = 'Founding Day'"),
                          [(3, 5, 3)])
         self.wait_untold(RULES)
+
+    def assert_nothing_is_covered(self, title, lowest_button):
+        window = self.accessible.wait_window(title)
+        button = self.accessible.wait_find(window, 'push button', lowest_button)
+        told = next(node for node in self.accessible.descendants(window) if 'did not do what was asked' in node.name)
+        wait_for(lambda: self.extents(button).y + self.extents(button).height < self.extents(told).y,
+                 f'the button "{lowest_button}" above the trouble')
+
+    def extents(self, node):
+        import pyatspi
+        return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+
+    def hide_trouble(self, title):
+        hide = self.accessible.wait_find(self.accessible.wait_window(title), 'push button', 'Hide')
+        hide.queryAction().doAction(0)
+        self.wait_untold(title)
 
     def type_rule(self, name, date):
         """Into the editor, up to where Return adds it."""

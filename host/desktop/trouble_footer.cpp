@@ -1,4 +1,4 @@
-#include "host/desktop/trouble_overlay.h"
+#include "host/desktop/trouble_footer.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -17,26 +17,23 @@ bool HasRoomFor(const TroubleBar& bar, const QWidget& window) {
 
 }  // namespace
 
-TroubleOverlay::TroubleOverlay(QWidget& own_window) : own_window_(own_window) {
+TroubleFooter::TroubleFooter(QWidget& own_window) : own_window_(own_window) {
   // The application learns which window is active just after the signal.
-  connect(qApp, &QGuiApplication::focusWindowChanged, this, &TroubleOverlay::Follow, Qt::QueuedConnection);
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, &TroubleFooter::Follow, Qt::QueuedConnection);
 }
 
-TroubleOverlay::~TroubleOverlay() { delete bar_.data(); }
+TroubleFooter::~TroubleFooter() { Leave(); }
 
-void TroubleOverlay::Tell(const QString& text) {
+void TroubleFooter::Tell(const QString& text) {
   text_ = text;
-  if (text_.isEmpty()) {
-    delete bar_.data();
-    return;
-  }
+  if (text_.isEmpty()) return Leave();
   Follow();
   if (!bar_) return;
   bar_->Tell(text_);
   Place();
 }
 
-void TroubleOverlay::Follow() {
+void TroubleFooter::Follow() {
   QWidget* const window = QApplication::activeWindow();
   if (text_.isEmpty() || window == nullptr || window == &own_window_ ||
       qobject_cast<QMessageBox*>(window) != nullptr)
@@ -48,22 +45,31 @@ void TroubleOverlay::Follow() {
     delete bar;
     return;
   }
-  delete bar_.data();
+  Leave();
   bar_ = bar;
+  margins_ = window->contentsMargins();
   connect(
       bar, &TroubleBar::Dismissed, this, [this] { Tell({}); }, Qt::QueuedConnection);
   window->installEventFilter(this);
   Place();
 }
 
-void TroubleOverlay::Place() {
-  const QWidget& window = *bar_->parentWidget();
+void TroubleFooter::Place() {
+  QWidget& window = *bar_->parentWidget();
   const int height = bar_->heightForWidth(window.width());
+  window.setContentsMargins(margins_ + QMargins(0, 0, 0, height));
   bar_->setGeometry(0, window.height() - height, window.width(), height);
   bar_->raise();
 }
 
-bool TroubleOverlay::eventFilter(QObject* object, QEvent* event) {
+void TroubleFooter::Leave() {
+  if (!bar_) return;
+  bar_->parentWidget()->removeEventFilter(this);
+  bar_->parentWidget()->setContentsMargins(margins_);
+  delete bar_.data();
+}
+
+bool TroubleFooter::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::Resize && bar_ && bar_->parentWidget() == object) Place();
   return QObject::eventFilter(object, event);
 }
