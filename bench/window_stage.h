@@ -65,8 +65,16 @@ class WindowStage {
   void InHolidays(const std::function<void(QWidget& holidays)>& work) const;
 
  private:
+  /// Nobody looks at what the observed database tells.
+  class NoObserver : public host::DatabaseObserver {
+   public:
+    void DatabaseAnswered() override {}
+    void DatabaseFailed(const platform::Failure& /*failure*/) override {}
+  };
+
   QTemporaryDir folder_;
-  host::DesktopSurroundings surroundings_;
+  NoObserver observer_;
+  host::DesktopSurroundings surroundings_{observer_};
   std::unique_ptr<Calendar> control_;
 };
 
