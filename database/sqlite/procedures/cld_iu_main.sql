@@ -13,40 +13,40 @@
 -- either); 5 unknown calendar; 6 the calendar exists already.
 
 -- The first reason against the call.
-SELECT Code AS "@return"
-FROM (
-  SELECT CASE
-    WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 THEN 7
-    -- Only money has calendars: the windows list no other currency that a calendar could stand under.
-    WHEN NOT EXISTS (SELECT 1 FROM DicCcy WHERE CcyID = :ID1 AND CcyType = 0) THEN 3
+SELECT CASE
+  WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 THEN 7
+  -- Only money has calendars: the windows list no other currency that a calendar could stand under.
+  WHEN c.CcyType IS NOT 0 THEN 3
 
-    -- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
-    WHEN :TID1 IS NULL
-      AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL) THEN 7
-    WHEN :TID1 IS NULL
-      THEN CASE WHEN EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1) THEN 6 END
+  -- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
+  WHEN :TID1 IS NULL
+    AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL) THEN 7
+  WHEN :TID1 IS NULL THEN iif(k.ID1 IS NULL, NULL, 6)
 
-    -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
-    WHEN :TID1 NOT BETWEEN 1 AND 4
-      OR :ID2 IS NULL
-      OR :Day1 IS NULL AND (:TID1 <> 2 OR :ODate IS NOT NULL)
-      OR :ODate IS NULL AND :TID1 IN (3, 4)
-      OR :Day1 NOT BETWEEN 1 AND CAST(strftime('%j', :Year1 || '-12-31') AS INTEGER)
-      OR :ODate <> date(:Year1 || '-01-01', (:Day1 - 1) || ' days') THEN 7
-    WHEN NOT EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1) THEN 5
-    WHEN NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND Del IS NOT 2) THEN 4
-    WHEN NOT EXISTS (SELECT 1 FROM CldHoliday WHERE ID2 = :ID2 AND TID1 = :TID1) THEN 7
-  END AS Code
-)
-WHERE Code IS NOT NULL;
+  -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
+  WHEN :TID1 NOT BETWEEN 1 AND 4
+    OR :ID2 IS NULL
+    OR :Day1 IS NULL AND (:TID1 <> 2 OR :ODate IS NOT NULL)
+    OR :ODate IS NULL AND :TID1 IN (3, 4)
+    OR :Day1 NOT BETWEEN 1 AND CAST(strftime('%j', :Year1 || '-12-31') AS INTEGER)
+    OR :ODate <> date(:Year1 || '-01-01', (:Day1 - 1) || ' days') THEN 7
+  WHEN k.ID1 IS NULL THEN 5
+  WHEN h.ID2 IS NULL OR h.Del = 2 THEN 4
+  WHEN h.TID1 <> :TID1 THEN 7
+END AS "@Refusal"
+FROM (SELECT 1)
+LEFT JOIN DicCcy c ON c.CcyID = :ID1
+LEFT JOIN CldCalendar k ON k.ID1 = :ID1 AND k.Year1 = :Year1
+LEFT JOIN CldHoliday h ON h.ID2 = :ID2;
+
+SELECT :Refusal AS "@return" WHERE :Refusal IS NOT NULL;
 
 -- The assignment; a calendar that is new has no days yet.
 UPDATE CldDay SET TID1 = :TID1, ID2 = :ID2, Comment = :Comment
-WHERE ID1 = :ID1 AND Year1 = :Year1
-  AND (Day1 = :Day1
-    OR :Day1 IS NULL
-      -- The weekday, 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
-      AND CAST(strftime('%w', ODate) AS INTEGER) =
+WHERE ID1 = :ID1 AND Year1 = :Year1 AND Day1 BETWEEN ifnull(:Day1, 1) AND ifnull(:Day1, 366)
+  AND (:Day1 IS NOT NULL
+    -- The weekday, 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
+    OR CAST(strftime('%w', ODate) AS INTEGER) =
         (SELECT (h.WD - 1 + s.FirstDay - 1) % 7 FROM CldHoliday h, CldSetting s WHERE h.ID2 = :ID2)
       -- Exceptions and dated rules stand above weekday rules.
       AND (TID1 = 2 OR ID2 IS NULL));
