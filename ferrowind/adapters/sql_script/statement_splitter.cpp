@@ -44,8 +44,12 @@ class Splitter {
 
   static bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-  /// A quote, or one character of anything else; either belongs to a statement. A doubled quote inside quotes
-  /// reads as two quoted texts in a row, which splits alike.
+  static bool IsOfAWord(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+  }
+
+  /// A quote, a word, or one character of anything else; each belongs to a statement. A doubled quote inside
+  /// quotes reads as two quoted texts in a row, which splits alike.
   void TakeWord(char c) {
     const std::size_t start = place_;
     if (c == '\'' || c == '"' || c == '`') {
@@ -54,6 +58,10 @@ class Splitter {
       SkipBehind("]", 1, "a bracket that does not end");
     } else {
       ++place_;
+      // Every call splits its procedure's body, most of which is words.
+      if (IsOfAWord(c)) {
+        while (place_ < script_.size() && IsOfAWord(script_[place_])) ++place_;
+      }
     }
     if (!in_statement_) first_ = start;
     in_statement_ = true;
