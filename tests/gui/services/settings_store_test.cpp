@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -84,6 +85,19 @@ TEST_F(SettingsStoreTest, LivesWithDamagedFiles) {
     Store().Write("Section", "Left", "again");
     EXPECT_EQ(Store().Read("Section", "Left"), Value("again"));
   }
+}
+
+TEST_F(SettingsStoreTest, LeavesTheFileAloneWhereTheValueIsThereAlready) {
+  Store().Write("Section", "Left", 1500.0F);
+  const QFileInfo before(path_);
+  QFile file(path_);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.setFileTime(before.lastModified().addDays(-1), QFileDevice::FileModificationTime));
+  file.close();
+  Store().Write("Section", "Left", 1500.0F);
+  EXPECT_EQ(QFileInfo(path_).lastModified(), before.lastModified().addDays(-1));
+  Store().Write("Section", "Left", "1500");
+  EXPECT_EQ(Store().Read("Section", "Left"), Value("1500"));
 }
 
 TEST_F(SettingsStoreTest, NamesItselfWhenItCannotBeWritten) {

@@ -48,7 +48,11 @@ std::optional<Value> SettingsStore::Read(const std::string& section, const std::
 
 void SettingsStore::Write(const std::string& section, const std::string& name, const Value& value) {
   const auto settings = Open();
-  settings->setValue(KeyOf(section, name), ToQt(SettingText(value)));
+  const QString key = KeyOf(section, name);
+  const QString text = ToQt(SettingText(value));
+  // Most windows close where they opened, and each writing costs a new file.
+  if (settings->value(key) == QVariant(text)) return;
+  settings->setValue(key, text);
   settings->sync();
   if (settings->status() == QSettings::AccessError) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
