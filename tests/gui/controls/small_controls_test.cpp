@@ -131,6 +131,7 @@ TEST(QtDatePickerTest, OpensItsCalendarByTheKeysOfADropDownListAndTakesTheChosen
     picker.SetDate({2028, 7, 4});
     QTest::keyClick(&edit, key, modifier);
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_FALSE(edit.calendarWidget()->isDateEditEnabled());
     QTest::keyClick(edit.calendarWidget()->findChild<QAbstractItemView*>(), Qt::Key_Right);
     QTest::keyClick(edit.calendarWidget()->findChild<QAbstractItemView*>(), Qt::Key_Return);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);

@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/qt/controls/calendar_popup_keys.h"
 
+#include <QCalendarWidget>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -13,7 +14,11 @@ CalendarPopupKeys::CalendarPopupKeys(QDateEdit& edit) : QObject(&edit), edit_(ed
 }
 
 bool CalendarPopupKeys::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != &edit_ || event->type() != QEvent::KeyPress) return false;
+  if (watched != &edit_) return false;
+  // Made by the first press. Its own editor for typed dates is never freed when a window closes over it, and
+  // the edit below takes them anyway.
+  if (event->type() == QEvent::MouseButtonPress) edit_.calendarWidget()->setDateEditEnabled(false);
+  if (event->type() != QEvent::KeyPress) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
   const bool is_alt_down = key->key() == Qt::Key_Down && key->modifiers().testFlag(Qt::AltModifier);
   const bool is_f4 = key->key() == Qt::Key_F4 && key->modifiers() == Qt::NoModifier;
