@@ -51,15 +51,30 @@ bool IsEmptyFileAt(const std::string& path) {
   return true;
 }
 
+/// The path of a file that SQLite put beside the database and left there; empty without one.
+std::string CompanionOf(const std::string& path) {
+  for (const auto companion : kCompanions) {
+    std::string leftover = path + std::string(companion);
+    std::error_code error;
+    if (std::filesystem::exists(leftover, error)) return leftover;
+  }
+  return {};
+}
+
 /// SQLite would take them for the new database's own and destroy it.
 void RefuseLeftovers(const std::string& path) {
-  for (const auto companion : kCompanions) {
-    const std::string leftover = path + std::string(companion);
-    std::error_code error;
-    if (std::filesystem::exists(leftover, error)) {
-      throw InTheWay(path, "there is a file " + leftover + " of a database that is gone; move it away first");
-    }
+  const std::string leftover = CompanionOf(path);
+  if (!leftover.empty()) {
+    throw InTheWay(path, "there is a file " + leftover + " of a database that is gone; move it away first");
   }
+}
+
+/// Has everything in the one file. SQLite tells no error of what it does when it closes a database, as on a
+/// full disk; it does the rest, or tells, when the database is used again.
+void GatherInOneFile(const std::string& path) {
+  if (CompanionOf(path).empty()) return;
+  DatabaseHandle(path).Execute("SELECT count(*) FROM sqlite_schema");
+  RefuseLeftovers(path);
 }
 
 /// A new file in the folder of the database to be, which is removed unless it takes that database's place.
@@ -136,8 +151,7 @@ void CreateDatabase(const std::string& path, bool with_rules,
   NewFile file(target);
   WriteDelivered(file.Path(), with_rules);
   if (fill) fill(std::string(Engine::kScheme) + ":" + file.Path());
-  // Everything must be in the one file that moves.
-  RefuseLeftovers(file.Path());
+  GatherInOneFile(file.Path());
   file.TakePlace(replaces_empty_file);
 }
 
