@@ -39,8 +39,8 @@ platform::EngineRegistry Engines() {
 }
 
 constexpr const char* kAddHistoryEntry =
-    "INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
-    " VALUES ('me', 'CldIUMain', '{}', 0, 0)";
+    "INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
+    " VALUES ('2028-01-02T03:04:05.678Z', 'me', 'CldIUMain', '{}', 0, 0)";
 
 void CopyTo(content::Source& source, CopyEnd& to, const content::CopyObserver& observe = {}) {
   host::FillDatabase(Engines(), to.ConnectionString(),
