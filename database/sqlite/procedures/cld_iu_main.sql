@@ -12,7 +12,7 @@
 -- Returns 0; 7 a value is missing or out of range; 3 unknown currency; 4 unknown rule (a removed one is not assigned
 -- either); 5 unknown calendar; 6 the calendar exists already.
 
--- The first reason against the call.
+-- The first reason against the call, or 0.
 SELECT CASE
   WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 THEN 7
   -- Only money has calendars: the windows list no other currency that a calendar could stand under.
@@ -21,7 +21,7 @@ SELECT CASE
   -- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
   WHEN :TID1 IS NULL
     AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL) THEN 7
-  WHEN :TID1 IS NULL THEN iif(k.ID1 IS NULL, NULL, 6)
+  WHEN :TID1 IS NULL THEN iif(k.ID1 IS NULL, 0, 6)
 
   -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
   WHEN :TID1 NOT BETWEEN 1 AND 4
@@ -33,23 +33,22 @@ SELECT CASE
   WHEN k.ID1 IS NULL THEN 5
   WHEN h.ID2 IS NULL OR h.Del = 2 THEN 4
   WHEN h.TID1 <> :TID1 THEN 7
-END AS "@Refusal"
-FROM (SELECT 1)
+  ELSE 0
+END AS "@Refusal",
+-- Of a weekday rule, 0 for Sunday to 6 for Saturday: its WD counts from the setting's first weekday.
+CAST((h.WD - 1 + s.FirstDay - 1) % 7 AS TEXT) AS "@Weekday"
+FROM CldSetting s
 LEFT JOIN DicCcy c ON c.CcyID = :ID1
 LEFT JOIN CldCalendar k ON k.ID1 = :ID1 AND k.Year1 = :Year1
 LEFT JOIN CldHoliday h ON h.ID2 = :ID2;
 
-SELECT :Refusal AS "@return" WHERE :Refusal IS NOT NULL;
+SELECT ifnull(:Refusal, 7) AS "@return" WHERE :Refusal IS NOT 0;
 
 -- The assignment; a calendar that is new has no days yet.
 UPDATE CldDay SET TID1 = :TID1, ID2 = :ID2, Comment = :Comment
 WHERE ID1 = :ID1 AND Year1 = :Year1 AND Day1 BETWEEN ifnull(:Day1, 1) AND ifnull(:Day1, 366)
-  AND (:Day1 IS NOT NULL
-    -- The weekday, 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
-    OR CAST(strftime('%w', ODate) AS INTEGER) =
-        (SELECT (h.WD - 1 + s.FirstDay - 1) % 7 FROM CldHoliday h, CldSetting s WHERE h.ID2 = :ID2)
-      -- Exceptions and dated rules stand above weekday rules.
-      AND (TID1 = 2 OR ID2 IS NULL));
+  -- Exceptions and dated rules stand above weekday rules.
+  AND (:Day1 IS NOT NULL OR strftime('%w', ODate) = :Weekday AND (TID1 = 2 OR ID2 IS NULL));
 
 SELECT 0 AS "@return" WHERE :TID1 IS NOT NULL;
 
