@@ -157,12 +157,21 @@ void Run(sqlite3* database, const char* sql) {
   throw std::runtime_error(text);
 }
 
-/// One call: opens the file, assigns the rule in a transaction of its own, closes the file.
+/// What a call adds to the history.
+constexpr const char* kHistoryEntry =
+    "INSERT INTO CldHistory (Moment, UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue, "
+    "RowsChanged)"
+    " VALUES ('2028-01-02T03:04:05.678Z', 'clerk', 'CldIUMain', 840, 2028,"
+    " '{\"ID1\": 840, \"Year1\": 2028, \"TID1\": 3, \"ID2\": 5, \"Day1\": 20}', 0, 1)";
+
+/// What one call does: opens the file, assigns the rule and notes that in a transaction of its own, closes
+/// the file.
 void AssignBySqlite(const std::string& path, const std::string& statement) {
   sqlite3* database = nullptr;
   sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
   Run(database, "PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON; BEGIN IMMEDIATE");
   Run(database, statement.c_str());
+  Run(database, kHistoryEntry);
   Run(database, "COMMIT");
   sqlite3_close(database);
 }
