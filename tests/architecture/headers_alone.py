@@ -3,8 +3,9 @@
 
 usage: headers_alone.py ROOT BUILD_FOLDER
 
-The flags are those of a source in the header's own folder, as the build recorded them in compile_commands.json; a
-folder without sources needs none but the repository's root and the language standard. Nothing is written.
+The flags are those of the header's own source or, without one, of a source in its folder, as the build recorded them
+in compile_commands.json; a folder without sources needs none but the repository's root and the language standard.
+Nothing is written.
 """
 
 import concurrent.futures
@@ -20,7 +21,8 @@ WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 
 
 def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[str, list[str]]]:
-    """The compiler, and for each folder with sources the flags of one of them."""
+    """The compiler, for each source its flags under its path without the ending, and for each folder with sources the
+    flags of one of them."""
     commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     compiler = ""
     flags: dict[str, list[str]] = {}
@@ -41,7 +43,9 @@ def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[s
                 skip = True
             elif word != "-MD":
                 kept.append(word)
-        flags.setdefault(path.relative_to(root).parent.as_posix(), kept)
+        source = path.relative_to(root)
+        flags[source.with_suffix("").as_posix()] = kept
+        flags.setdefault(source.parent.as_posix(), kept)
     return compiler, flags
 
 
@@ -63,9 +67,11 @@ def check(root: pathlib.Path, build: pathlib.Path) -> tuple[int, list[str]]:
         return 0, [f"{build}/compile_commands.json names no compiler"]
     headers = sorted(path.relative_to(root).as_posix() for top in HOUSE for path in (root / top).rglob("*.h"))
     bare = ["-std=c++20", f"-I{root}", *WARNINGS]
+
+    def flags_of(header: str) -> list[str]:
+        return flags.get(os.path.splitext(header)[0]) or flags.get(os.path.dirname(header), bare)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        complaints = pool.map(
-            lambda header: compile_alone(root, header, compiler, flags.get(os.path.dirname(header), bare)), headers)
+        complaints = pool.map(lambda header: compile_alone(root, header, compiler, flags_of(header)), headers)
         return len(headers), [complaint for complaint in complaints if complaint]
 
 
