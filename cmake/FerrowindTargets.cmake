@@ -1,15 +1,21 @@
-# How every target of this repository is built: C++20, includes from the repository's root, warnings as errors,
-# the preset's sanitizers. Headers of other projects are system headers and keep their own warnings.
+# How every target of this repository is built: C++20, includes from the repository's root, warnings, the preset's
+# sanitizers. Headers of other projects are system headers and keep their own warnings.
+
+# For those who change the sources. Whoever only builds them may have a newer compiler with warnings of its own.
+option(FERROWIND_WARNINGS_AS_ERRORS "Let a warning of the compiler end the build" OFF)
+set(FERROWIND_LINKER "" CACHE STRING "Linker of the programs, as -fuse-ld= takes it; empty for the compiler's own")
 
 add_library(ferrowind_build_options INTERFACE)
 target_compile_features(ferrowind_build_options INTERFACE cxx_std_20)
 target_compile_options(ferrowind_build_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-  # Optimising, GCC 12 reports null dereferences that cannot happen, in the standard library's own headers.
-  $<$<NOT:$<CONFIG:Release>>:-Wnull-dereference> -Wformat=2 -Werror)
+  -fPIC -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2
+  $<$<BOOL:${FERROWIND_WARNINGS_AS_ERRORS}>:-Werror>)
+if(FERROWIND_LINKER)
+  target_link_options(ferrowind_build_options INTERFACE -fuse-ld=${FERROWIND_LINKER})
+endif()
 if(FERROWIND_SANITIZE)
   target_compile_options(ferrowind_build_options INTERFACE
-    -fsanitize=${FERROWIND_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-null-dereference)
+    -fsanitize=${FERROWIND_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(ferrowind_build_options INTERFACE -fsanitize=${FERROWIND_SANITIZE})
 endif()
 if(FERROWIND_FUZZ)
@@ -17,11 +23,14 @@ if(FERROWIND_FUZZ)
   target_link_options(ferrowind_build_options INTERFACE -fsanitize=address,undefined)
 endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
+include(FerrowindPrecompiled)
 
-# ferrowind_add_library(NAME SOURCES a.cpp ... HEADERS a.h ... [DEPENDS target ...] [PRIVATE_DEPENDS target ...])
-# One leaf of the house: target ferrowind_NAME, for other projects Ferrowind::NAME.
+# ferrowind_add_library(NAME SOURCES a.cpp ... HEADERS a.h ... [DEPENDS target ...] [PRIVATE_DEPENDS target ...]
+#                       [PRECOMPILED set])
+# One leaf of the house: target ferrowind_NAME, for other projects Ferrowind::NAME. The set of precompiled headers is
+# `standard` unless said.
 function(ferrowind_add_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
   set(target ferrowind_${name})
   if(ARG_SOURCES)
     add_library(${target} STATIC ${ARG_SOURCES})
@@ -30,6 +39,10 @@ function(ferrowind_add_library name)
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_link_libraries(${target} PUBLIC ${ARG_DEPENDS}
       PRIVATE $<BUILD_INTERFACE:ferrowind_build_options> ${ARG_PRIVATE_DEPENDS})
+    if(NOT ARG_PRECOMPILED)
+      set(ARG_PRECOMPILED standard)
+    endif()
+    ferrowind_use_precompiled(${target} ${ARG_PRECOMPILED})
   else()
     add_library(${target} INTERFACE)
     target_include_directories(${target} INTERFACE
@@ -44,19 +57,29 @@ function(ferrowind_add_library name)
   install(FILES ${ARG_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
 endfunction()
 
-# ferrowind_add_executable(NAME SOURCES a.cpp ... [DEPENDS target ...])
+# ferrowind_add_executable(NAME SOURCES a.cpp ... [DEPENDS target ...] [PRECOMPILED set])
+# Without PRECOMPILED nothing is.
 function(ferrowind_add_executable name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;DEPENDS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ferrowind_build_options ${ARG_DEPENDS})
+  if(ARG_PRECOMPILED)
+    ferrowind_use_precompiled(${name} ${ARG_PRECOMPILED})
+  endif()
 endfunction()
 
-# ferrowind_add_test(NAME LABEL label SOURCES a.cpp ... [DEPENDS target ...] [ENVIRONMENT VAR=value ...] [TIMEOUT s])
-# A GoogleTest program, registered with CTest under its own name and the label that `./test LABEL` selects.
+# ferrowind_add_test(NAME LABEL label SOURCES a.cpp ... [DEPENDS target ...] [ENVIRONMENT VAR=value ...] [TIMEOUT s]
+#                    [PRECOMPILED set])
+# A GoogleTest program, registered with CTest under its own name and the label that `./test LABEL` selects. The set of
+# precompiled headers is `test` unless said.
 function(ferrowind_add_test name)
-  cmake_parse_arguments(ARG "" "LABEL;TIMEOUT" "SOURCES;DEPENDS;ENVIRONMENT" ${ARGN})
-  ferrowind_add_executable(${name} SOURCES ${ARG_SOURCES} DEPENDS ${ARG_DEPENDS} GTest::gmock GTest::gtest_main)
+  cmake_parse_arguments(ARG "" "LABEL;PRECOMPILED;TIMEOUT" "SOURCES;DEPENDS;ENVIRONMENT" ${ARGN})
+  if(NOT ARG_PRECOMPILED)
+    set(ARG_PRECOMPILED test)
+  endif()
+  ferrowind_add_executable(${name}
+    SOURCES ${ARG_SOURCES} DEPENDS ${ARG_DEPENDS} GTest::gmock GTest::gtest_main PRECOMPILED ${ARG_PRECOMPILED})
   add_test(NAME ${name} COMMAND ${name})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)

@@ -8,6 +8,9 @@ preset=$1
 target=$2
 shift 2
 
+# What the cache has to overlook to keep objects that use precompiled headers.
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+
 log=$(mktemp)
 trap 'rm -f -- "$log"' EXIT
 # Presets are found in the current folder.

@@ -14,9 +14,9 @@ using platform::Value;
 using ::testing::HasSubstr;
 
 Arguments With(Arguments arguments, const Arguments& more) {
-  for (const auto& [name, value] : more) {
-    std::erase_if(arguments, [&](const auto& argument) { return argument.first == name; });
-    arguments.emplace_back(name, value);
+  for (const auto& replacement : more) {
+    std::erase_if(arguments, [&](const auto& argument) { return argument.first == replacement.first; });
+    arguments.push_back(replacement);
   }
   return arguments;
 }

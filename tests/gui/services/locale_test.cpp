@@ -10,7 +10,7 @@ namespace ferrowind::qt {
 namespace {
 
 TEST(QtLocale, NamesMonthsInFull) {
-  const QtLocale english(QLocale(QLocale::English));
+  const QtLocale english{QLocale(QLocale::English)};
   EXPECT_EQ(english.MonthName(1), "January");
   EXPECT_EQ(english.MonthName(12), "December");
 }
@@ -20,7 +20,7 @@ TEST(QtLocale, NamesMonthsAsTheyStandAlone) {
 }
 
 TEST(QtLocale, CountsWeekdaysFromSunday) {
-  const QtLocale english(QLocale(QLocale::English));
+  const QtLocale english{QLocale(QLocale::English)};
   EXPECT_EQ(english.WeekdayName(1), "Sunday");
   EXPECT_EQ(english.WeekdayName(2), "Monday");
   EXPECT_EQ(english.WeekdayName(7), "Saturday");

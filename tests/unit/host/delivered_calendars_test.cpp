@@ -80,7 +80,7 @@ TEST(DeliveredCalendars, RefuseALineWithoutARule) {
 }
 
 TEST(DeliveredCalendars, AreCarriedByTheProgramInAFormThatItReads) {
-  EXPECT_NO_THROW(DeliveredCalendars::Embedded());
+  EXPECT_NO_THROW(static_cast<void>(DeliveredCalendars::Embedded()));
 }
 
 TEST_F(DeliveredCalendarsInADatabase, AreCreatedByTheCallsThatTheWindowsMake) {

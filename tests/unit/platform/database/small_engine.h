@@ -45,9 +45,9 @@ class SmallEngine : public Engine {
               {"@Name1", 2, ParameterType::kText, ParameterDirection::kInput}};
     }
 
-    [[nodiscard]] CallOutcome Call(const std::string& procedure, const std::vector<Value>& inputs) override {
+    [[nodiscard]] CallOutcome Call(const std::string& procedure, const std::vector<Value>& values) override {
       engine_.called.push_back(procedure);
-      engine_.inputs = inputs;
+      engine_.inputs = values;
       return engine_.outcome;
     }
 
