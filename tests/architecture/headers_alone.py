@@ -1,28 +1,33 @@
 #!/usr/bin/env python3
-"""Checks that every header of the house compiles as the only include of a source, and twice in the same one.
+"""Checks that every header of the house compiles as the only include of a source, and may be included twice.
 
 usage: headers_alone.py ROOT BUILD_FOLDER
 
-The flags are those of the header's own source or, without one, of a source in its folder, as the build recorded them
-in compile_commands.json; a folder without sources needs none but the repository's root and the language standard.
-Nothing is written.
+A header with a source of its own is compiled by that one, which has to include it first; build_types.py compiles all
+sources without precompiled headers. The others are compiled here, with the flags of a source in their folder, as the
+build recorded them in compile_commands.json; a folder without sources needs none but the repository's root and the
+language standard. Nothing is written.
 """
 
 import concurrent.futures
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
 
 HOUSE = ("ferrowind", "host")
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
+GUARD = "#pragma once"
+INCLUDE = re.compile(r'^#include\s+(["<][^">]+[">])', re.MULTILINE)
+# What the build adds for its own speed: headers that would be there without an include.
+PRECOMPILED = ("-Xclang", "-include", "-include-pch", "-Winvalid-pch", "-fpch-instantiate-templates")
 
 
 def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[str, list[str]]]:
-    """The compiler, for each source its flags under its path without the ending, and for each folder with sources the
-    flags of one of them."""
+    """The compiler, and for each folder with sources the flags of one of them."""
     commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     compiler = ""
     flags: dict[str, list[str]] = {}
@@ -41,17 +46,31 @@ def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[s
                 skip = False
             elif word in ("-o", "-c", "-MF", "-MT"):
                 skip = True
+            elif word in PRECOMPILED:
+                skip = word in ("-Xclang", "-include")
             elif word != "-MD":
                 kept.append(word)
-        source = path.relative_to(root)
-        flags[source.with_suffix("").as_posix()] = kept
-        flags.setdefault(source.parent.as_posix(), kept)
+        flags.setdefault(path.relative_to(root).parent.as_posix(), kept)
     return compiler, flags
+
+
+def order_complaint(root: pathlib.Path, header: str, source: pathlib.Path) -> str:
+    """What is wrong with the first include of the header's own source; nothing when it is the header."""
+    first = INCLUDE.search(source.read_text(encoding="utf-8"))
+    if first is not None and first.group(1) == f'"{header}"':
+        return ""
+    return f"{source.relative_to(root).as_posix()} does not include {header} first, so nothing proves that it compiles alone"
+
+
+def guard_complaint(root: pathlib.Path, header: str) -> str:
+    if (root / header).read_text(encoding="utf-8").startswith(f"{GUARD}\n"):
+        return ""
+    return f"{header} does not begin with {GUARD}"
 
 
 def compile_alone(root: pathlib.Path, header: str, compiler: str, flags: list[str]) -> str:
     """What the compiler had to say; nothing when it was content."""
-    source = f'#include "{header}"\n#include "{header}"\n'
+    source = f'#include "{header}"\n'
     run = subprocess.run(
         [compiler, *flags, "-fsyntax-only", "-x", "c++", "-"],
         input=source, cwd=root, capture_output=True, text=True, check=False)
@@ -68,11 +87,15 @@ def check(root: pathlib.Path, build: pathlib.Path) -> tuple[int, list[str]]:
     headers = sorted(path.relative_to(root).as_posix() for top in HOUSE for path in (root / top).rglob("*.h"))
     bare = ["-std=c++20", f"-I{root}", *WARNINGS]
 
-    def flags_of(header: str) -> list[str]:
-        return flags.get(os.path.splitext(header)[0]) or flags.get(os.path.dirname(header), bare)
+    def complaint_about(header: str) -> str:
+        if complaint := guard_complaint(root, header):
+            return complaint
+        source = (root / header).with_suffix(".cpp")
+        if source.exists():
+            return order_complaint(root, header, source)
+        return compile_alone(root, header, compiler, flags.get(os.path.dirname(header), bare))
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        complaints = pool.map(lambda header: compile_alone(root, header, compiler, flags_of(header)), headers)
-        return len(headers), [complaint for complaint in complaints if complaint]
+        return len(headers), [complaint for complaint in pool.map(complaint_about, headers) if complaint]
 
 
 def main(arguments: list[str]) -> int:
