@@ -143,7 +143,7 @@ void DeliveredCalendars::Create(const CreationObserver& observe) const {
 
     RequireDone(CallProcedure("CldIUMain", CalendarParameters(currency_id, calendar.year)), name);
 
-    for (const char* rule_name : kWeekendRules) {
+    for (const std::string rule_name : kWeekendRules) {
       const Rule& rule = Named(rules, rule_name, "holiday rule");
       SourceValues parameters = CalendarParameters(currency_id, calendar.year);
       parameters.Add("TID1", rule.type);
