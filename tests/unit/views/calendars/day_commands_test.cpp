@@ -192,8 +192,9 @@ TEST(ExceptDayWithMessage, AsksBeforeItTakesTheDay) {
 TEST(AssignHolidays, OpensTheHolidaysWindowForTheDayInTheModeOfTheTool) {
   const std::pair<const char*, const char*> tools[] = {{"ID_AssignSingle", "holidays.Init(0, 2026, 978, 93)"},
                                                        {"ID_AssignMany", "holidays.Init(1, 2026, 978, 93)"}};
-  for (const auto& [tool, init] : tools) {
-    RunInFreshThread([tool = tool, init = init] {
+  for (const auto& expected : tools) {
+    RunInFreshThread([&expected] {
+      const auto& [tool, init] = expected;
       CalendarsWorld calendars;
       calendars.OpenAt("K978_2026");
       const auto& holidays = calendars.UseFakeHolidaysWindow();
