@@ -7,12 +7,14 @@ import shutil
 import tempfile
 import unittest
 
+import brought_programs
 import build_types
 import core_only
 import failure_texts
 import format as format_check
 import headers_alone
 import include_graph
+import shell_programs
 
 
 class TemporaryTree(unittest.TestCase):
@@ -291,6 +293,140 @@ class FailureTexts(unittest.TestCase):
     def test_knows_texts_that_come_from_a_library(self):
         table = "| in the bracket | cause |\n|---|---|\n| `no such user` | |\n\n" + self.ROW
         self.assertEqual(failure_texts.listed(table), ['The file … is gone: "why" …'])
+
+
+class ShellPrograms(unittest.TestCase):
+
+    def assert_named(self, script, *words):
+        self.assertEqual([named.word for named in shell_programs.named_in(script)], list(words), script)
+
+    def test_names_what_stands_in_front_of_a_command(self):
+        self.assert_named("ls -l | sort && wc <a >b; ! grep x || exit 1\n(tail f) &", "ls", "sort", "wc", "grep", "tail")
+        self.assert_named("LC_ALL=C sed p; a=1 b=2\nif test -e x; then cut -d: ; else { head; }; fi", "sed", "cut", "head")
+        self.assert_named("for file in one two; do cat $file; done <list\nwhile read -r x; do od; done", "cat", "od")
+        self.assert_named("tail 2>&1 >/dev/null log\nls -d x 2>/dev/null | tail", "tail", "ls", "tail")
+
+    def test_names_what_a_substitution_runs(self):
+        self.assert_named('a=$(id -u) b="x $(date +%F)" diff <(sort a) b', "id", "date", "sort", "diff")
+        self.assert_named('echo $((1 + 2)) "${a:-none}" $# $1', )
+
+    def test_passes_over_comments_quotes_and_documents(self):
+        self.assert_named("# rm\ncat <<'END' >file  # mv\nrm a\nEND\nprintf 'cp; mv' \"ln; tr\"\ntouch a", "cat", "touch")
+
+    def test_passes_over_patterns_and_functions(self):
+        self.assert_named('case $1 in\n  start | stop) mkdir a ;;\n  *)\n    rmdir a\nesac\ncp b', "mkdir", "rmdir", "cp")
+        self.assert_named("fail() {\n  tail log\n}\nfail now\n[[ $a = cp && $b ]] && mv", "tail", "mv")
+
+    def test_names_what_other_commands_start(self):
+        self.assert_named("xargs -0 -n 1 clang-tidy --quiet", "xargs", "clang-tidy")
+        self.assert_named("runuser -u anna -- psql", "runuser", "anna", "psql")
+        self.assert_named("exec xvfb-run sh -eu -c 'xprop -root; exec \"$@\"' name", "xvfb-run", "sh", "xprop", "name")
+        self.assert_named('trap \'rm -f -- "$log"\' EXIT\nbuild=(cmake --build "x/$preset")\n"${build[@]}"', "rm", "cmake")
+        self.assert_named('"$programs/initdb" -D x', "initdb")
+
+    def test_tells_whether_it_is_certain(self):
+        self.assertEqual(shell_programs.named_in("env psql"), [
+            shell_programs.Named("env", True), shell_programs.Named("psql", False)])
+
+
+class BroughtPrograms(TemporaryTree):
+    """A machine of a few packages, on which everything is installed that anybody may need."""
+
+    PACKAGES = {"dash": ("required", ""), "apt": ("important", ""), "psmisc": ("optional", ""), "systemd": ("important", ""),
+                "cmake": ("optional", "nothing-here | make-it"), "make-it": ("optional", ""), "xvfb": ("optional", "xauth"),
+                "xauth": ("optional", ""), "openbox": ("optional", ""), "sql-15": ("optional", "")}
+    PROGRAMS = {"sh": "dash", "cmake": "cmake", "make": "make-it", "Xvfb": "xvfb", "xauth": "xauth", "openbox": "openbox",
+                "fuser": "psmisc", "systemctl": "systemd"}
+
+    def setUp(self):
+        super().setUp()
+        self.write("tools/packages.txt", "build cmake # a\ntest xvfb # b\nremote openbox # c\nbench cmake #\nfuzz cmake #\n"
+                   "tidy cmake #\n")
+        for entry, groups in (("run", "remote"), ("test", "test"), ("bench.sh", "bench"), ("tools/fuzz.sh", "fuzz"),
+                              ("tools/tidy.sh", "tidy")):
+            self.write(entry, f'tools/install_packages.sh build {groups}\n"$root/tools/build.sh"\n')
+        self.write("tools/build.sh", "cmake && make\n")
+        self.write("tools/install_packages.sh", "sh\n")
+        for script in brought_programs.BESIDE_TESTS:
+            self.write(script, "")
+        self.packages = {name: brought_programs.Package(
+            name, priority, ((tuple(depends.split(" | ")),) if depends else ()), ("sql",) if name == "sql-15" else ())
+            for name, (priority, depends) in self.PACKAGES.items()}
+        self.bin = self.root / "bin"
+        self.files = {str(self.bin / program): package for program, package in self.PROGRAMS.items()}
+
+    def problems(self):
+        machine = brought_programs.Machine(list(self.packages.values()), self.files, [str(self.bin)])
+        return brought_programs.check(self.root, machine)[1]
+
+    def assert_refused(self, *words):
+        problems = self.problems()
+        self.assertEqual(len(problems), 1, problems)
+        for word in words:
+            self.assertIn(word, problems[0])
+
+    def test_accepts_programs_that_the_groups_or_every_debian_bring(self):
+        self.write("tests/a.py", "import subprocess\nsubprocess.run(['Xvfb'])\nsubprocess.run(['sh', '-c', 'xauth'])\n")
+        self.assertEqual(self.problems(), [])
+
+    def test_refuses_a_program_of_another_group_and_names_script_and_package(self):
+        self.write("tests/a.sh", "openbox --sm-disable &\n")
+        self.assert_refused("tests/a.sh", "openbox", "build, test")
+
+    def test_refuses_a_program_that_a_python_script_starts(self):
+        for text in ("import subprocess\nsubprocess.Popen(['openbox'])\n", "server = ['openbox', '-x']\n",
+                     "run(['sh', '-c', 'exec openbox'])\n", "self.start('sh; openbox')\n", "shutil.which('openbox')\n"):
+            with self.subTest(text):
+                self.write("tests/a.py", text)
+                self.assert_refused("tests/a.py", "openbox")
+
+    def test_refuses_a_program_that_one_of_two_callers_does_not_bring(self):
+        self.write("tools/serve.py", "import display\n")
+        self.write("tools/display.py", "frames = ['openbox']\n")
+        self.write("run", 'groups=(build)\ngroups+=(remote)\ntools/install_packages.sh "${groups[@]}"\n'
+                   '"$root/tools/serve.py"\n')
+        self.assertEqual(self.problems(), [])
+        self.write("tests/CMakeLists.txt", "add_test(NAME a COMMAND ${PROJECT_SOURCE_DIR}/tools/serve.py)\n")
+        self.assert_refused("tools/display.py", "openbox", "build, test")
+
+    def test_refuses_a_script_that_nothing_runs(self):
+        self.write("tools/forgotten.sh", "sh\n")
+        self.assert_refused("tools/forgotten.sh")
+
+    def test_refuses_an_installer_that_needs_a_package(self):
+        self.write("tools/install_packages.sh", "cmake\n")
+        self.assert_refused("tools/install_packages.sh", "cmake", "every Debian")
+
+    def test_refuses_a_program_that_no_package_brings(self):
+        self.write("tests/a.sh", "homemade\n")
+        self.assert_refused("homemade", "no package")
+
+    def test_cannot_judge_a_program_when_packages_of_its_group_are_not_here(self):
+        self.write("tests/a.sh", "homemade\n")
+        del self.packages["xvfb"]
+        self.assertEqual(self.problems(), [])
+
+    def test_knows_a_program_behind_links_and_a_package_by_what_it_provides(self):
+        self.bin.mkdir()
+        (self.bin / "psql").symlink_to(self.bin / "psql-15")
+        self.files[str(self.bin / "psql-15")] = "sql-15"
+        self.write("tests/a.sh", "psql\n")
+        self.assert_refused("psql", "sql-15")
+        self.write("tools/packages.txt", (self.root / "tools/packages.txt").read_text() + "test sql #\n")
+        self.assertEqual(self.problems(), [])
+
+    def test_refuses_a_program_that_a_guide_does_not_name_the_package_of(self):
+        page = "```sh\n# as root\nfuser a && systemctl b\n```\n"
+        self.write("docs/admin/a.md", page)
+        self.assert_refused("docs/admin/a.md", "fuser", "psmisc")
+        for told in ("Needs it (package `psmisc`).\n", "```sh\n# as root\napt-get install psmisc\n```\n"):
+            with self.subTest(told):
+                self.write("docs/admin/a.md", told + page)
+                self.assertEqual(self.problems(), [])
+
+    def test_refuses_a_program_of_a_guide_that_the_tests_do_not_bring(self):
+        self.write("docs/a.md", "```sh\n# as root\napt-get install openbox\n```\n\n```sh\nopenbox\n```\n")
+        self.assert_refused("docs/a.md", "openbox", "./test")
 
 
 if __name__ == "__main__":
