@@ -23,8 +23,8 @@ from operator_story import CALENDARS, OperatorStory  # noqa: E402  pylint: disab
 PICTURES = ROOT / 'docs' / 'pictures'
 SIZE = (1350, 780)
 
-GUIDE_STEPS = ('new-calendar', 'day-menu', 'new-rule', 'rules', 'assigned', 'except-message', 'excepted', 'remove',
-               'removed', 'edit-rule')
+GUIDE_STEPS = ('year-before', 'new-calendar', 'day-menu', 'rules', 'new-point', 'assigned', 'except-message', 'excepted',
+               'remove', 'removed', 'edit-rule')
 
 # Frames of the pictures: quiet, in the colours of the theme, and without boxes that a dialog would not have.
 FRAME_COLORS = {
@@ -154,24 +154,18 @@ class Photographer:
         """By month and type, with the holidays of April unfolded."""
         month, day_type = 7, 1
         self.session.keys('ctrl+g', 'Home', *['Right'] * month)
-        self.choose_in_column_menu('g')
+        self.story.choose_in_column_menu('g')
         self.session.keys('Down', *['Left'] * (month - day_type))
-        self.choose_in_column_menu('g')
-        self.choose_in_column_menu('o')
+        self.story.choose_in_column_menu('g')
+        self.story.choose_in_column_menu('o')
         self.session.keys('ctrl+Home', 'Down', 'Down', 'Down', 'Right')
         april_holidays = 8
         self.session.keys('Down', 'Down', 'Right', *['Down'] * (april_holidays + 1), 'Right')
         self.take(name)
 
-    def choose_in_column_menu(self, access_key):
-        self.session.keys('alt+Down')
-        wait_for(self.session.is_menu_open, 'the menu of the column')
-        self.session.keys(access_key)
-        wait_for(lambda: not self.session.is_menu_open(), 'the end of the menu')
-
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
-        subprocess.run([self.programs / 'ferrowindctl', 'init', database, '--empty'], check=True)
+        subprocess.run([self.programs / 'ferrowindctl', 'init', database], check=True)
         self.studio.use_frames('light')
         self.story.tell(database, arrange=self.arrange)
 

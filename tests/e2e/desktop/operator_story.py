@@ -1,21 +1,27 @@
-"""An operator's first day with the windows, told by key presses alone: the mouse is never touched."""
+"""How an operator prepares the euro's calendar of the next year on a delivered database, as the user's guide tells it. By
+key presses alone: the mouse is never touched."""
 
 from desktop_session import wait_for
 
 CALENDARS = 'Calendars'
 RULES = 'Assign groups holidays for calendar'
 
-# Name, comment, and what the operator types for the weekday.
-WEEKDAY_RULES = (('Saturday', 'Weekend', 'Saturday'), ('Sunday', 'Weekend', 'Sunday'))
-# Name, comment, and what the operator types for the day and month.
-DATE_RULES = (("New Year's Day", 'First day of the year', '1 January'),
-              ('Independence Day', 'Declared in 1776', '4 July'),
-              ('Christmas Day', 'Bank holiday', '25 December'))
-RULE_COUNT = len(WEEKDAY_RULES) + len(DATE_RULES)
+DELIVERED_RULE_COUNT = 48
+# The euro's rules that hold for every year, as they stand one below the other in the list.
+YEARLY_RULES = ('Saturday', 'Sunday', "New Year's Day", 'Labour Day (1 May)', 'Christmas Day', "St Stephen's Day")
+# The other ones of the year before: their dates are those of one year.
+OLD_POINTS = ('Good Friday', 'Easter Monday')
+# Name, what the operator types for the day and month, and comment.
+NEW_POINTS = (('Good Friday 2028', '14 April', 'Friday before Easter Sunday'),
+              ('Easter Monday 2028', '17 April', 'Monday after Easter Sunday'))
+# A point of a past year, of another currency.
+PAST_POINT = 'Whit Monday'
 MESSAGE = 'Year-end processing'
-NEW_COMMENT = 'Federal holiday'
+NEW_COMMENT = 'Bank holiday'
 
-# The tools of the day menu, by how often Down is pressed; the separator is passed over.
+# The columns of the days that the operator goes to, and tools of the day menu by how often Down is pressed; the separator
+# is passed over.
+HOLIDAY_NAME_COLUMN = 2
 ASSIGN_MANY, EXCEPT_WITH_MESSAGE = 2, 4
 
 
@@ -29,13 +35,15 @@ class OperatorStory:
         self.picture = picture
 
     def tell(self, url, arrange=lambda: None):
-        """All chapters, on the empty calendar database of that URL; `arrange()` may place the window before the first
+        """All chapters, on the delivered calendar database of that URL; `arrange()` may place the window before the first
         one."""
         self.open(url)
         arrange()
+        self.look_at_the_year_before()
         self.create_calendar()
-        self.add_rules()
-        self.assign_all_rules()
+        self.assign_yearly_rules()
+        self.write_points()
+        self.assign_points()
         self.except_day_with_message()
         self.remove_rule()
         self.restore_rule()
@@ -69,10 +77,35 @@ class OperatorStory:
         self.session.start('--open', '--database', url)
         self.wait_active(CALENDARS)
 
+    def look_at_the_year_before(self):
+        """Returns the names of the rules that its days have."""
+        self.session.type('EUR')
+        self.session.keys('Right', 'Down', 'Down')
+        self.wait_rows(CALENDARS, 365)
+        self.session.keys('Tab')
+        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2027')
+        self.session.keys('Home', *['Right'] * HOLIDAY_NAME_COLUMN)
+        self.choose_in_column_menu('g')
+        self.choose_in_column_menu('o')
+        # The working days are a group, too.
+        wait_for(lambda: self.grid(CALENDARS).row_count() == len(YEARLY_RULES + OLD_POINTS) + 1, 'the groups alone')
+        grid = self.grid(CALENDARS)
+        groups = [grid.text(row, 'Date') for row in range(grid.row_count())]
+        self.picture('year-before')
+        self.choose_in_column_menu('u')
+        self.wait_rows(CALENDARS, 365)
+        self.session.keys('shift+Tab')
+        return groups
+
+    def choose_in_column_menu(self, access_key):
+        self.session.keys('alt+Down')
+        wait_for(self.session.is_menu_open, 'the menu of the column')
+        self.session.keys(access_key)
+        wait_for(lambda: not self.session.is_menu_open(), 'the end of the menu')
+
     def create_calendar(self):
-        self.session.type('USD')
         self.session.keys('ctrl+n')
-        self.wait_active('Select year USD currency')
+        self.wait_active('Select year EUR currency')
         self.session.keys('alt+r')
         self.session.type('2028')
         self.picture('new-calendar')
@@ -92,40 +125,56 @@ class OperatorStory:
         self.picture('day-menu')
         self.session.keys('Return')
 
-    def add_rules(self):
+    def assign_yearly_rules(self):
         self.session.keys('Tab')
         self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028')
         self.open_rules()
-        for name, comment, weekday in WEEKDAY_RULES:
-            self.add_rule('Holiday', name, weekday, comment)
-        for name, comment, date in DATE_RULES:
-            self.add_rule('Celebration', name, date, comment)
+        self.wait_rows(RULES, DELIVERED_RULE_COUNT)
+        self.select_rules(YEARLY_RULES)
+        self.picture('rules')
+        self.assign()
 
-    def add_rule(self, holiday_type, name, when, comment):
+    def write_points(self):
+        self.open_rules()
+        for name, date, comment in NEW_POINTS:
+            self.add_point(name, date, comment)
+
+    def assign_points(self):
+        self.select_rules([name for name, _, _ in NEW_POINTS])
+        self.assign()
+        self.go_to_day('17 Apr 2028')
+        self.picture('assigned')
+
+    def add_point(self, name, when, comment):
         rows = self.grid(RULES).row_count()
         self.session.keys('alt+a')
         self.wait_active('Add holiday')
-        self.session.type(holiday_type)
-        self.session.keys('Tab')
+        # The last one of the types.
+        self.session.keys('End', 'Tab')
         self.session.type(name)
         self.session.keys('Tab')
         self.session.type(when)
         self.session.keys('Tab')
         self.session.type(comment)
-        if name == 'Independence Day':
-            self.picture('new-rule')
+        self.picture('new-point')
         self.session.keys('Return')
         self.wait_active(RULES)
         self.wait_rows(RULES, rows + 1)
 
-    def assign_all_rules(self):
-        self.session.keys('ctrl+a')
-        wait_for(lambda: len(self.grid(RULES).selected_rows()) == RULE_COUNT, 'every rule selected')
-        self.picture('rules')
+    def select_rules(self, names):
+        """Rules that stand one below the other, and no others."""
+        self.go_to_rule(names[0])
+        self.session.keys(*['shift+Down'] * (len(names) - 1))
+
+        def are_selected():
+            grid = self.grid(RULES)
+            return [grid.text(row, 'Name') for row in sorted(grid.selected_rows())] == list(names)
+        wait_for(are_selected, f'the selected rules {names}')
+
+    def assign(self):
         self.session.keys('alt+i')
         self.wait_active(CALENDARS)
         self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028')
-        self.picture('assigned')
 
     def except_day_with_message(self):
         self.go_to_day('23 Dec 2028')
@@ -146,30 +195,33 @@ class OperatorStory:
 
     def remove_rule(self):
         self.open_rules()
-        self.go_to_rule('Independence Day')
+        rows = self.grid(RULES).row_count()
+        self.go_to_rule(PAST_POINT)
         self.session.keys('alt+r')
         self.wait_active('Remove holiday')
         self.picture('remove')
         self.session.keys('Return')
         self.wait_active(RULES)
-        self.wait_rows(RULES, RULE_COUNT - 1)
+        self.wait_rows(RULES, rows - 1)
 
     def restore_rule(self):
         """Removed rules are shown for it."""
+        rows = self.grid(RULES).row_count()
         self.session.keys('alt+h')
-        self.wait_rows(RULES, RULE_COUNT)
-        self.go_to_rule('Independence Day')
+        self.wait_rows(RULES, rows + 1)
+        self.go_to_rule(PAST_POINT)
         self.picture('removed')
         self.session.keys('alt+s', 'alt+h')
-        self.wait_rows(RULES, RULE_COUNT)
+        self.wait_rows(RULES, rows + 1)
 
     def go_to_rule(self, name):
+        """Finds the rule by typing its name in the column of names."""
         self.session.keys('Home', 'ctrl+Home')
         self.session.type(name)
         self.wait_in_grid(RULES, 'Name', name)
 
     def edit_comment(self):
-        self.go_to_rule('Christmas Day')
+        self.go_to_rule('Labour Day (1 May)')
         self.session.keys('alt+e')
         self.wait_active('Edit holiday')
         self.session.keys('alt+c', 'ctrl+a')
@@ -193,6 +245,6 @@ class OperatorStory:
 
     def reopen(self, url):
         self.open(url)
-        self.session.type('USD')
-        self.session.keys('Right', 'Down')
+        self.session.type('EUR')
+        self.session.keys('Right', 'Down', 'Down', 'Down')
         self.wait_rows(CALENDARS, 366)

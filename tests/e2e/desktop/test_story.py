@@ -1,23 +1,27 @@
-"""An operator's first day on an empty database, from outside and by keyboard alone: what the windows show and what the
-tables hold after each chapter. The same day on a file and on the server that tools/with_postgres.sh started."""
+"""The day of an operator who prepares the euro's next year on a delivered database, from outside and by keyboard alone:
+what the windows show after it, and what ferrowindctl reads from the database after each chapter, day by day. The same day
+on a file and on the server that tools/with_postgres.sh started."""
 
 import datetime
 import getpass
+import json
 import os
 import subprocess
 import sys
 import unittest
 
+import bank_holidays
 import server
 from desktop_session import DesktopSession, Screen, rows_of
-from operator_story import CALENDARS, MESSAGE, NEW_COMMENT, RULES, OperatorStory
+from operator_story import (CALENDARS, DELIVERED_RULE_COUNT, MESSAGE, NEW_COMMENT, NEW_POINTS, OLD_POINTS, PAST_POINT,
+                            YEARLY_RULES, OperatorStory)
 
-USD = 840
-WORKING_DAY, HOLIDAY, CELEBRATION = 1, 2, 3
-EXCEPTION_RULE = 1
+EUR = 978
+YEAR = 2028
+WORKING_DAY, HOLIDAY, CELEBRATION, HOLIDAY_POINT = 1, 2, 3, 4
+EXCEPTION = 'Working day by exception'
 REMOVED, RESTORED = 2, 4
-
-RULE_DATES = {"New Year's Day": (1, 1), 'Independence Day': (7, 4), 'Christmas Day': (12, 25)}
+TYPES = {WORKING_DAY: 'Working day', HOLIDAY: 'Holiday', CELEBRATION: 'Celebration', HOLIDAY_POINT: 'Holiday point'}
 
 SCREEN = None
 
@@ -31,9 +35,14 @@ def tearDownModule():
     SCREEN.end()
 
 
-class FirstDay:
-    """The day, and what must be in the tables after it. An engine's class makes an empty database and tells its URL, what
-    a query gives there, and who the operator is."""
+def ferrowindctl(*arguments):
+    return subprocess.run([os.environ['FERROWINDCTL_PROGRAM'], *arguments], check=True, capture_output=True, text=True,
+                          timeout=120).stdout
+
+
+class NextYear:
+    """The day, and what must be in the database after it. An engine's class makes a delivered database and tells its URL,
+    what a query gives there, and who the operator is."""
 
     def setUp(self):
         self.session = DesktopSession(SCREEN, os.environ['FERROWIND_PROGRAM'])
@@ -43,109 +52,126 @@ class FirstDay:
         import accessible
         self.story = OperatorStory(self.session, accessible)
 
-    def init(self, url):
-        subprocess.run([os.environ['FERROWINDCTL_PROGRAM'], 'init', url, '--empty'], check=True)
+    def call(self, procedure, *arguments):
+        """The record sets of a call, each a list of dictionaries."""
+        document = json.loads(ferrowindctl('call', self.url, procedure, *arguments, '--format', 'json'))
+        self.assertEqual(document['return'], 0)
+        return [[dict(zip(rows['fields'], row)) for row in rows['rows']] for rows in document['results']]
+
+    def calendars(self):
+        return {(row['ID1'], row['Year1']) for row in self.call('CldAllInfo')[0]}
 
     def rules_by_name(self):
-        rows = self.rows('SELECT Name1, ID2, TID1, WD, MY, MD, Comment, Del FROM CldHoliday WHERE ID2 <> 1')
-        return {row[0]: row[1:] for row in rows}
+        return {row['Name1']: row for row in self.call('CldAllInfo')[2]}
 
-    def days(self):
-        """Type, rule and comment of each day by its date."""
-        rows = self.rows(f'SELECT ODate, TID1, ID2, Comment FROM CldDay WHERE ID1 = {USD} AND Year1 = 2028')
-        return {datetime.date.fromisoformat(row[0]): row[1:] for row in rows}
+    def days(self, year=YEAR):
+        """Type, the rule's name and the day's comment of each day by its date."""
+        return {datetime.date.fromisoformat(row['ODate']): (row['TID1'], row['Name1'], row['Comment'])
+                for row in self.call('CldGetMain', f'ID1={EUR}', f'Year1={year}')[0]}
 
-    def expected_days(self):
-        """The calendar as the five rules make it: a date rule stands above the weekend that it falls on."""
-        rules = self.rules_by_name()
+    def expected_days(self, with_points):
+        """The closing days as the bank's own rule has them; a date stands above the weekend that it falls on."""
+        points = dict(zip(OLD_POINTS, (name for name, _, _ in NEW_POINTS)))
+        closing_days = bank_holidays.euro(YEAR)
         expected = {}
-        date = datetime.date(2028, 1, 1)
-        while date.year == 2028:
+        date = datetime.date(YEAR, 1, 1)
+        while date.year == YEAR:
             expected[date] = (WORKING_DAY, None, None)
             if date.isoweekday() >= 6:
-                expected[date] = (HOLIDAY, rules['Saturday' if date.isoweekday() == 6 else 'Sunday'][0], None)
-            for name, month_and_day in RULE_DATES.items():
-                if (date.month, date.day) == month_and_day:
-                    expected[date] = (CELEBRATION, rules[name][0], None)
+                expected[date] = (HOLIDAY, f'{date:%A}', None)
+            name = closing_days.get(date)
+            if name in YEARLY_RULES:
+                expected[date] = (CELEBRATION, name, None)
+            elif name is not None and with_points:
+                expected[date] = (HOLIDAY_POINT, points[name], None)
             date += datetime.timedelta(days=1)
         return expected
 
-    def test_a_first_day_by_keyboard_alone_leaves_what_was_done_on_screen_and_in_the_tables(self):
+    def test_a_new_year_by_keyboard_alone_has_the_days_that_the_publisher_announces_and_no_others(self):
         story = self.story
+        delivered_rules = self.rules_by_name()
+        delivered_calendars = self.calendars()
+        year_before = self.days(YEAR - 1)
+        last_entry = self.rows('SELECT max(EntryID) FROM CldHistory')[0][0]
         story.open(self.url)
 
+        groups = story.look_at_the_year_before()
+        for name in YEARLY_RULES + OLD_POINTS:
+            self.assertTrue(any(group.startswith(f'Holiday name: {name} (') for group in groups), (name, groups))
+        self.assertEqual(len(groups), len(YEARLY_RULES + OLD_POINTS) + 1)
+
         story.create_calendar()
-        self.assertEqual(self.rows('SELECT ID1, Year1 FROM CldCalendar'), [(USD, 2028)])
+        self.assertEqual(self.calendars() - delivered_calendars, {(EUR, YEAR)})
         self.assertEqual(set(self.days().values()), {(WORKING_DAY, None, None)})
 
-        story.add_rules()
-        rules = self.rules_by_name()
-        self.assertEqual({name: rule[1:5] for name, rule in rules.items()},
-                         {'Saturday': (HOLIDAY, 7, None, None), 'Sunday': (HOLIDAY, 1, None, None),
-                          "New Year's Day": (CELEBRATION, None, 1, 1),
-                          'Independence Day': (CELEBRATION, None, 7, 4),
-                          'Christmas Day': (CELEBRATION, None, 12, 25)})
+        self.assertEqual(len(delivered_rules) - 1, DELIVERED_RULE_COUNT)
+        story.assign_yearly_rules()
+        self.assertEqual(self.days(), self.expected_days(with_points=False))
 
-        story.assign_all_rules()
-        expected = self.expected_days()
+        story.write_points()
+        rules = self.rules_by_name()
+        self.assertEqual({name: (rule['TID1'], rule['MD'], rule['MY'], rule['Comment']) for name, rule in rules.items()
+                          if name not in delivered_rules},
+                         {name: (HOLIDAY_POINT, int(when.split()[0]), 4, comment) for name, when, comment in NEW_POINTS})
+        story.assign_points()
+        expected = self.expected_days(with_points=True)
         self.assertEqual(self.days(), expected)
 
         story.except_day_with_message()
-        expected[datetime.date(2028, 12, 23)] = (WORKING_DAY, EXCEPTION_RULE, MESSAGE)
+        expected[datetime.date(YEAR, 12, 23)] = (WORKING_DAY, EXCEPTION, MESSAGE)
         self.assertEqual(self.days(), expected)
 
         story.remove_rule()
-        self.assertEqual(self.rules_by_name()['Independence Day'][-1], REMOVED)
+        rules[PAST_POINT]['Del'] = REMOVED
+        self.assertEqual(self.rules_by_name(), rules)
         story.restore_rule()
-        self.assertEqual(self.rules_by_name()['Independence Day'][-1], RESTORED)
+        rules[PAST_POINT]['Del'] = RESTORED
+        self.assertEqual(self.rules_by_name(), rules)
 
         story.edit_comment()
-        rules['Christmas Day'] = (*rules['Christmas Day'][:5], NEW_COMMENT, None)
-        rules['Independence Day'] = (*rules['Independence Day'][:6], RESTORED)
+        rules['Labour Day (1 May)']['Comment'] = NEW_COMMENT
         self.assertEqual(self.rules_by_name(), rules)
 
         self.assertEqual(story.close_everything(), 0, self.session.printed())
         story.reopen(self.url)
         self.assert_shown(expected, rules)
         self.assertEqual(self.days(), expected)
+        self.assertEqual(self.days(YEAR - 1), year_before)
         self.assertEqual(self.rules_by_name(), rules)
-        self.assertEqual(self.rows('SELECT DISTINCT UserName FROM CldHistory'), [(self.operator,)])
+        self.assertEqual(self.rows(f'SELECT DISTINCT UserName FROM CldHistory WHERE EntryID > {last_entry}'),
+                         [(self.operator,)])
 
     def assert_shown(self, expected_days, rules):
-        """The Calendars window shows each day as the tables have it."""
-        names = {rule[0]: name for name, rule in rules.items()} | {EXCEPTION_RULE: 'Working day by exception',
-                                                                     None: ''}
-        comments = {rule[0]: rule[5] for rule in rules.values()}
-        types = {WORKING_DAY: 'Working day', HOLIDAY: 'Holiday', CELEBRATION: 'Celebration'}
+        """The Calendars window shows each day as the database has it."""
         grid = self.story.grid(CALENDARS)
         for row, (date, (day_type, rule, comment)) in enumerate(sorted(expected_days.items())):
             self.assertEqual(
                 grid.texts(row),
-                {'Date': f'{date.day} {date:%b} {date.year}', 'Day type': types[day_type],
-                 'Holiday name': names[rule], 'Description': comments.get(rule, ''), 'Comment': comment or '',
+                {'Date': f'{date.day} {date:%b} {date.year}', 'Day type': TYPES[day_type], 'Holiday name': rule or '',
+                 'Description': rules[rule]['Comment'] or '' if rule else '', 'Comment': comment or '',
                  'Day of year': f'{date:%j}'.lstrip('0'), 'Day of month': str(date.day), 'Month': str(date.month),
                  'Month name': f'{date:%B}'})
 
 
-class FirstDayOnAFile(FirstDay, unittest.TestCase):
+class NextYearOnAFile(NextYear, unittest.TestCase):
 
     def make_database(self):
-        self.file = self.session.home / 'empty.sqlite'
+        self.file = self.session.home / 'calendars.sqlite'
         self.url = f'sqlite:{self.file}'
         self.operator = getpass.getuser()
-        self.init(self.url)
+        ferrowindctl('init', self.url)
 
     def rows(self, query):
         return rows_of(self.file, query)
 
 
-class FirstDayOnAServer(FirstDay, unittest.TestCase):
+class NextYearOnAServer(NextYear, unittest.TestCase):
     """The operator has no right but an operator's."""
 
     def make_database(self):
         self.database = server.Database(self)
         self.operator = 'anna'
-        self.init(self.database.uri)
+        ferrowindctl('init', self.database.uri)
         self.url = self.database.login(self, self.operator, 'Ans%wer;42', role='ferrowind_operator')
 
     def rows(self, query):

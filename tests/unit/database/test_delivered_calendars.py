@@ -88,6 +88,15 @@ class DeliveredCalendars(unittest.TestCase):
                 for month in range(1, 13))
             self.assertIn(f"| {year} | EUR | USD | GBP | JPY | CHF |\n|---|---|---|---|---|---|\n{table}\n", text)
 
+    def test_have_the_rules_that_the_users_guide_tells_to_select(self):
+        guide = (delivered_data.REPOSITORY / "docs" / "users-guide.md").read_text(encoding="utf-8")
+        types = (delivered_data.FIXED_DATE_RULE, delivered_data.HOLIDAY_POINT_RULE)
+        for currency in bank_holidays.BY_CURRENCY:
+            used = {entry.rule for entry in self.dates if entry.currency == currency}
+            [row] = [line.strip("| ").split(" | ") for line in guide.splitlines() if line.startswith(f"| {currency} | ")]
+            self.assertEqual([set(cell.split("; ")) for cell in row[1:]],
+                             [{rule for rule in used if self.rules[rule]["TID1"] == each} for each in types], currency)
+
 
 class DeliveredRules(unittest.TestCase):
 
