@@ -1,4 +1,4 @@
-"""The commands of the administrator's guide, and what it says they print."""
+"""The commands of the guides, and what these say they print."""
 
 import dataclasses
 import pathlib
@@ -7,12 +7,12 @@ import re
 FOLDER = pathlib.Path(__file__).parents[3] / "docs"
 _FENCE = re.compile(r"^```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 _PERSON = re.compile(r"# as (.*)\n")
-_PAGE = re.compile(r"\]\(admin/([\w-]+\.md)")
+_PAGE = re.compile(r"\]\((admin/[\w-]+\.md)")
 
 
 @dataclasses.dataclass(frozen=True)
 class Block:
-    """Commands as they stand in a page, by whom they are typed, and how they end."""
+    """Commands as they stand in a page of docs/, by whom they are typed, and how they end."""
     page: str
     line: int
     person: str
@@ -22,17 +22,17 @@ class Block:
 
     @property
     def place(self):
-        return f"docs/admin/{self.page}:{self.line}"
+        return f"docs/{self.page}:{self.line}"
 
 
 def pages():
-    """The names of the pages in the order of the table of contents."""
+    """The pages of the administrator's guide in the order of the table of contents."""
     return list(dict.fromkeys(_PAGE.findall((FOLDER / "admin.md").read_text())))
 
 
 def blocks(page, text=None):
     """The page's blocks of commands, in order; what stands in a block of text right behind one is what it prints."""
-    text = text if text is not None else (FOLDER / "admin" / page).read_text()
+    text = text if text is not None else (FOLDER / page).read_text()
     found = []
     end_of_last = -1
     for fence in _FENCE.finditer(text):
@@ -48,6 +48,11 @@ def blocks(page, text=None):
             found[-1] = dataclasses.replace(found[-1], expected=content)
         end_of_last = fence.end()
     return found
+
+
+def code(page, language):
+    """What stands in the page's blocks of that language, in order."""
+    return [content for kind, content in _FENCE.findall((FOLDER / page).read_text()) if kind == language]
 
 
 def prints(expected, output):

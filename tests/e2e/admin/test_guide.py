@@ -30,13 +30,13 @@ PASSWORD = "sesame:open"
 PASSWORD_LINE = "db.bank.example:*:{}:{}:" + PASSWORD.replace(":", "\\:") + "\n"
 # Page, whose file, its name, to whom, under which name.
 CARRIED = [
-    ("tls.md", "user", "server.crt", "postgres on the server", "server.crt"),
-    ("tls.md", "user", "server.key", "postgres on the server", "server.key"),
-    ("tls.md", "user", "ca.crt", "anna on her machine", "ferrowind-ca.crt"),
-    ("tls.md", "user", "ca.crt", "otto on his machine", "ferrowind-ca.crt"),
-    ("backup.md", "postgres on the server", "calendars.dump", "postgres on the new server", "calendars.dump"),
-    ("backup.md", "postgres on the server", "roles.sql", "postgres on the new server", "roles.sql"),
-    ("copy.md", "user", "calendars.db", "postgres on the server", "calendars.db"),
+    ("admin/tls.md", "user", "server.crt", "postgres on the server", "server.crt"),
+    ("admin/tls.md", "user", "server.key", "postgres on the server", "server.key"),
+    ("admin/tls.md", "user", "ca.crt", "anna on her machine", "ferrowind-ca.crt"),
+    ("admin/tls.md", "user", "ca.crt", "otto on his machine", "ferrowind-ca.crt"),
+    ("admin/backup.md", "postgres on the server", "calendars.dump", "postgres on the new server", "calendars.dump"),
+    ("admin/backup.md", "postgres on the server", "roles.sql", "postgres on the new server", "roles.sql"),
+    ("admin/copy.md", "user", "calendars.db", "postgres on the server", "calendars.db"),
 ]
 
 
@@ -247,7 +247,7 @@ class Reading(unittest.TestCase):
                 self.assertEqual(guide.prints(expected, output), is_expected)
 
     def test_all_pages_are_in_the_table_of_contents(self):
-        self.assertEqual(sorted(guide.pages()), sorted(page.name for page in (guide.FOLDER / "admin").glob("*.md")))
+        self.assertEqual(sorted(guide.pages()), sorted(f"admin/{page.name}" for page in (guide.FOLDER / "admin").glob("*.md")))
 
 
 if __name__ == "__main__":

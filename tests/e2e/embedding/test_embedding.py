@@ -1,0 +1,133 @@
+"""The guide to embedding, followed word for word by somebody with a new home and a copy of the source tree: each of its
+commands as it stands and in order, and its example with the guide's own columns. The windows are read as an assistive tool
+reads them.
+
+The packages that it has root install are those of the tests, too. Of the environment two things are the test's own: a
+screen, and the compiler's cache, which changes nothing but the time that it takes."""
+
+import contextlib
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import unittest
+
+import guide
+from desktop_session import DesktopSession, Screen, end_process, wait_for
+
+ROOT = pathlib.Path(__file__).parents[3]
+PAGE = 'embedding.md'
+EXAMPLE = pathlib.Path('docs/examples/minimal_host')
+HOST = 'minimal_host'
+BUILD_SECONDS = 1200
+COMPILER_SETTINGS = ('CC', 'CXX', 'CFLAGS', 'CXXFLAGS', 'CPPFLAGS', 'LDFLAGS')
+SCREEN = None
+
+
+def setUpModule():
+    global SCREEN
+    SCREEN = Screen()
+
+
+def tearDownModule():
+    SCREEN.end()
+
+
+class Embedding(unittest.TestCase):
+
+    def setUp(self):
+        self.session = DesktopSession(SCREEN, HOST)
+        self.addCleanup(self.session.end)
+        home = self.session.home
+        # A name that commands must quote.
+        self.tree = home / 'source tree'
+        shutil.copytree(ROOT, self.tree, symlinks=True, ignore=self.not_of_the_tree)
+        # What a user has set for the compiler of the tests is not for the one of the guide.
+        self.environment = {name: value for name, value in self.session.environment.items()
+                            if name not in COMPILER_SETTINGS and not name.startswith('CMAKE')}
+        self.environment |= {'CMAKE_CXX_COMPILER_LAUNCHER': 'ccache', 'CCACHE_BASEDIR': str(home)}
+        # Not before there is a screen, whose bus it is to find.
+        import accessible
+        self.accessible = accessible
+
+    @staticmethod
+    def not_of_the_tree(folder, names):
+        return {'build', '.git', '.cache'}.intersection(names) if pathlib.Path(folder) == ROOT else set()
+
+    def start(self, commands):
+        process = subprocess.Popen(['bash', '-e', '-o', 'pipefail', '-c', commands], cwd=self.tree, env=self.environment,
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                                   start_new_session=True)
+        self.addCleanup(self.end, process)
+        return process
+
+    @staticmethod
+    def end(process):
+        with contextlib.suppress(ProcessLookupError):
+            os.killpg(process.pid, signal.SIGKILL)
+        end_process(process)
+        process.stdout.close()
+
+    def follow(self, block):
+        process = self.start(block.commands)
+        output = process.communicate(timeout=BUILD_SECONDS)[0]
+        self.assertEqual(process.returncode, block.status, f'{block.place}:\n{block.commands}\n{output}')
+        if block.expected is not None:
+            self.assertTrue(guide.prints(block.expected, output), f'{block.place}:\n{output}')
+
+    def captions_shown_by(self, commands):
+        """The captions of a calendar's days in the windows that the commands open and that are closed again."""
+        process = self.start(commands)
+        self.wait_active(process, 'Calendars')
+        self.session.type('EUR')
+        self.session.keys('Right', 'Down')
+        grid = self.accessible.GridReader(self.accessible.application(HOST))
+        wait_for(lambda: grid.row_count() == 365, 'the days of a calendar')
+        captions = grid.captions()
+        self.session.keys('alt+F4')
+        self.wait_active(process, HOST)
+        self.session.keys('alt+F4')
+        output = process.communicate(timeout=60)[0]
+        self.assertEqual(process.returncode, 0, output)
+        return captions
+
+    def wait_active(self, process, title):
+        def is_active():
+            self.assertIsNone(process.poll(), 'the host has ended')
+            return self.session.active_title() == title
+        wait_for(is_active, f'the window "{title}"')
+
+    def put_in_columns(self, code):
+        """The fragment instead of the line that it stands for."""
+        source = self.tree / EXAMPLE / 'main.cpp'
+        before = source.read_text()
+        [line] = [line for line in before.splitlines(keepends=True) if 'SetCaption' in line]
+        source.write_text(before.replace(line, code))
+
+    def test_every_block_does_what_the_guide_says(self):
+        blocks = [block for block in guide.blocks(PAGE) if block.person != 'root']
+        [starting] = [block for block in blocks if f'/{HOST} ' in block.commands]
+        [building] = [block for block in blocks if f'--build build/{HOST}' in block.commands]
+        before_start, open_host = starting.commands.rstrip('\n').rsplit('\n', 1)
+        self.assertEqual(guide.code(PAGE, 'cmake'), [(self.tree / EXAMPLE / 'CMakeLists.txt').read_text()])
+        for block in blocks[:blocks.index(starting)]:
+            self.follow(block)
+
+        self.follow(guide.Block(PAGE, starting.line, starting.person, before_start, 0, None))
+        captions = self.captions_shown_by(open_host)
+        self.assertIn('Remark', captions)
+        self.assertNotIn('Rule number', captions)
+
+        [columns] = guide.code(PAGE, 'cpp')
+        self.put_in_columns(columns)
+        self.follow(building)
+        captions = self.captions_shown_by(open_host)
+        self.assertIn('Remark', captions)
+        self.assertIn('Rule number', captions)
+        self.assertEqual(blocks[-1], starting, 'blocks behind the start of the host are not followed')
+
+
+if __name__ == '__main__':
+    unittest.main(argv=[sys.argv[0], '-v', *sys.argv[1:]])
