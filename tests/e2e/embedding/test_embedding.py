@@ -108,7 +108,7 @@ class Embedding(unittest.TestCase):
 
     def test_every_block_does_what_the_guide_says(self):
         blocks = [block for block in guide.blocks(PAGE) if block.person != 'root']
-        [starting] = [block for block in blocks if f'/{HOST} ' in block.commands]
+        [starting] = [block for block in blocks if f'build/{HOST}/{HOST} ' in block.commands]
         [building] = [block for block in blocks if f'--build build/{HOST}' in block.commands]
         before_start, open_host = starting.commands.rstrip('\n').rsplit('\n', 1)
         self.assertEqual(guide.code(PAGE, 'cmake'), [(self.tree / EXAMPLE / 'CMakeLists.txt').read_text()])
