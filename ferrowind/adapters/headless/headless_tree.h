@@ -20,6 +20,9 @@ class HeadlessTree : public HeadlessControl<platform::Tree> {
   void AddChild(const std::string& parent_key, const platform::TreeNode& node) override;
   [[nodiscard]] std::int32_t Count() const override { return static_cast<std::int32_t>(nodes_.size()); }
   [[nodiscard]] std::string Text(const std::string& key) const override { return NodeOf(key).design.text; }
+  [[nodiscard]] std::string Description(const std::string& key) const override {
+    return NodeOf(key).design.description;
+  }
   [[nodiscard]] std::optional<std::string> Parent(const std::string& key) const override {
     return NodeOf(key).parent;
   }

@@ -16,8 +16,8 @@ class Dictionary : public OutsideObject {
 
   /// The rows of the dictionary `name` that pass `filter` (a record-set filter, row_filter.h), in the
   /// dictionary's own order. "Ccy" has the fields `CcyID` (int32), `Ccy` and `Name` (text), `CcyType`
-  /// (int16). Never null; an unknown dictionary, a filter that does not parse and a failing database are
-  /// failures.
+  /// (int16); a host's own one may lack `Name`. Never null; an unknown dictionary, a filter that does not
+  /// parse and a failing database are failures.
   [[nodiscard]] virtual std::shared_ptr<RecordSet> dic_GetDicRecByFilter(const std::string& name,
                                                                          const std::string& filter) = 0;
 };

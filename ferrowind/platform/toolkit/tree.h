@@ -17,6 +17,8 @@ struct TreeNode {
   std::string text;
   /// The key of an image of the form's image list; an unknown one shows no image.
   std::string image;
+  /// What the node stands for, which a tooltip shows and assistive tools read; "" for nothing to add.
+  std::string description = {};
 };
 
 /// A tree of nodes, each known by its key alone, so that no reference outlives a node. Keys are
@@ -35,6 +37,7 @@ class Tree : public Control {
 
   [[nodiscard]] virtual std::int32_t Count() const = 0;
   [[nodiscard]] virtual std::string Text(const std::string& key) const = 0;
+  [[nodiscard]] virtual std::string Description(const std::string& key) const = 0;
   /// Nothing for a root node.
   [[nodiscard]] virtual std::optional<std::string> Parent(const std::string& key) const = 0;
   /// The first root node; nothing in an empty tree.

@@ -18,6 +18,17 @@ namespace {
 constexpr const char* kCurrencyImage = "Currency";
 constexpr const char* kCalendarImage = "Calendar";
 
+/// The name of the current row's currency. A host's dictionary may lack it, which is no failure: the tree
+/// then has one explanation less.
+std::string CurrencyName(const platform::RecordSet& currencies) {
+  std::string name;
+  IgnoringFailure([&] {
+    if (const auto field = currencies.FindField("Name"))
+      name = platform::ToTextOrEmpty(currencies.Cell(currencies.CurrentBookmark(), *field));
+  });
+  return name;
+}
+
 }  // namespace
 
 CurrencyTree::CurrencyTree(platform::Toolkit& toolkit, platform::Form& form, platform::Tree& tree,
@@ -30,7 +41,7 @@ bool CurrencyTree::LoadCurrencies() {
     tree_.Clear();
     for (; !currencies->Eof(); currencies->MoveNext()) {
       tree_.AddRoot({node_key::OfCurrency(platform::ToText((*currencies)["CcyID"])),
-                     platform::ToText((*currencies)["Ccy"]), kCurrencyImage});
+                     platform::ToText((*currencies)["Ccy"]), kCurrencyImage, CurrencyName(*currencies)});
     }
     on_reload_();
     return true;

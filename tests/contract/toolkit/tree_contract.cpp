@@ -46,6 +46,14 @@ TEST_F(TreeContract, KnowsTextsAndParents) {
   EXPECT_EQ(tree.Parent("K978_2027"), "K978");
 }
 
+TEST_F(TreeContract, TellsWhatANodeStandsForWhereItWasToldSo) {
+  tree.AddRoot({"K756", "CHF", "Currency", "Swiss franc"});
+  tree.AddChild("K756", {"K756_2026", "2026", "Calendar", "Swiss franc, 2026"});
+  EXPECT_EQ(tree.Description("K756"), "Swiss franc");
+  EXPECT_EQ(tree.Description("K756_2026"), "Swiss franc, 2026");
+  EXPECT_EQ(tree.Description("K978"), "");
+}
+
 TEST_F(TreeContract, IsEmptyAfterClear) {
   tree.Select("K978_2026");
   const auto subscriptions = NoteEverything();
@@ -88,6 +96,7 @@ TEST_F(TreeContract, NamesAKeyOfNoNode) {
   };
   expect([&] { tree.AddChild(key, {"K2", "two", ""}); });
   expect([&] { static_cast<void>(tree.Text(key)); });
+  expect([&] { static_cast<void>(tree.Description(key)); });
   expect([&] { static_cast<void>(tree.Parent(key)); });
   expect([&] { static_cast<void>(tree.NextSibling(key)); });
   expect([&] { static_cast<void>(tree.Expanded(key)); });

@@ -127,6 +127,24 @@ TEST_F(TreeTest, ShowsTheImagesOfCurrenciesAndCalendars) {
   EXPECT_FALSE(static_cast<const TreeModel*>(model)->Find("other").data(Qt::DecorationRole).isValid());
 }
 
+TEST_F(TreeTest, ShowsWhatANodeStandsForAsItsTooltipAndToAssistiveTools) {
+  tree_.AddRoot({"JPY", "JPY", "Currency", "Yen"});
+  const auto told = [this](const char* key, int role) {
+    return static_cast<TreeModel*>(view_.model())->Find(key).data(role);
+  };
+  EXPECT_EQ(told("JPY", Qt::ToolTipRole).toString(), "Yen");
+  EXPECT_EQ(told("JPY", Qt::AccessibleDescriptionRole).toString(), "Yen");
+  EXPECT_FALSE(told("EUR", Qt::ToolTipRole).isValid());
+  EXPECT_FALSE(told("EUR", Qt::AccessibleDescriptionRole).isValid());
+}
+
+TEST_F(TreeTest, ShowsADescriptionThatLooksLikeMarkupAsItIs) {
+  tree_.AddRoot({"XXX", "XXX", "Currency", "<b>none</b>"});
+  const QModelIndex node = static_cast<TreeModel*>(view_.model())->Find("XXX");
+  EXPECT_TRUE(node.data(Qt::ToolTipRole).toString().contains("&lt;b&gt;none"));
+  EXPECT_EQ(node.data(Qt::AccessibleDescriptionRole).toString(), "<b>none</b>");
+}
+
 TEST_F(TreeTest, LivesWhenAHandlerClearsAndRefillsItOnEveryEvent) {
   const auto refill = [this](const std::string&) {
     tree_.Clear();

@@ -164,6 +164,14 @@ TEST_F(CalendarsWindowTest, KeepsWhatItHasWhenARefreshFindsACalendarOfACurrencyT
   EXPECT_EQ(RowsOf(Days()), 366);
 }
 
+TEST_F(CalendarsWindowTest, ExplainsTheCurrenciesByTheirNames) {
+  OpenCalendars();
+  const QAbstractItemModel& nodes = *Tree().model();
+  const QModelIndex euro = nodes.match(nodes.index(0, 0), Qt::DisplayRole, "EUR").first();
+  EXPECT_EQ(euro.data(Qt::ToolTipRole).toString(), "Euro");
+  EXPECT_EQ(euro.data(Qt::AccessibleDescriptionRole).toString(), "Euro");
+}
+
 TEST_F(CalendarsWindowTest, OpensAgainAfterItsFrameWasClosed) {
   for (int i = 0; i < 3; ++i) {
     OpenDollar2028();

@@ -45,6 +45,10 @@ std::string QtTree::Text(const std::string& key) const {
   return FromQt(NodeOf(key).data(Qt::DisplayRole).toString());
 }
 
+std::string QtTree::Description(const std::string& key) const {
+  return FromQt(NodeOf(key).data(Qt::AccessibleDescriptionRole).toString());
+}
+
 std::optional<std::string> QtTree::Parent(const std::string& key) const {
   return KeyOrNone(NodeOf(key).parent());
 }

@@ -18,6 +18,7 @@ class QtTree : public QtControl<platform::Tree> {
 
   [[nodiscard]] std::int32_t Count() const override;
   [[nodiscard]] std::string Text(const std::string& key) const override;
+  [[nodiscard]] std::string Description(const std::string& key) const override;
   [[nodiscard]] std::optional<std::string> Parent(const std::string& key) const override;
   [[nodiscard]] std::optional<std::string> First() const override;
   [[nodiscard]] std::optional<std::string> NextSibling(const std::string& key) const override;

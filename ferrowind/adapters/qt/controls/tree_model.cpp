@@ -1,15 +1,25 @@
 #include "ferrowind/adapters/qt/controls/tree_model.h"
 
+#include <QTextDocument>
 #include <utility>
 
 #include "ferrowind/adapters/qt/look/tree_images.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
 namespace ferrowind::qt {
+namespace {
+
+/// Tooltips take what looks like markup for markup.
+QString AsPlainToolTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+}
+
+}  // namespace
 
 struct TreeModel::Node {
   std::string key;
   QString text;
+  QString description;
   const QIcon* icon = nullptr;
   Node* parent = nullptr;
   int row = 0;
@@ -25,8 +35,8 @@ bool TreeModel::Append(const QModelIndex& parent, const platform::TreeNode& node
   Node& above = NodeAt(parent);
   const int row = static_cast<int>(above.children.size());
   beginInsertRows(parent, row, row);
-  auto& added = above.children.emplace_back(
-      std::make_unique<Node>(Node{node.key, ToQt(node.text), IconOf(node.image), &above, row}));
+  auto& added = above.children.emplace_back(std::make_unique<Node>(
+      Node{node.key, ToQt(node.text), ToQt(node.description), IconOf(node.image), &above, row}));
   nodes_by_key_.emplace(added->key, added.get());
   endInsertRows();
   return true;
@@ -70,6 +80,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const Node& node = NodeAt(index);
   if (role == Qt::DisplayRole) return node.text;
+  if (role == Qt::AccessibleDescriptionRole && !node.description.isEmpty()) return node.description;
+  if (role == Qt::ToolTipRole && !node.description.isEmpty()) return AsPlainToolTip(node.description);
   if (role == Qt::DecorationRole && node.icon != nullptr) return *node.icon;
   return {};
 }

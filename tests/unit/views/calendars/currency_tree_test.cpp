@@ -15,6 +15,7 @@ using ::testing::ElementsAre;
 using testing::ExpectDaysAsked;
 using testing::ExpectInOrder;
 using testing::RunInFreshThread;
+using Rows = std::vector<std::vector<platform::Value>>;
 using Texts = std::vector<std::string>;
 
 TEST(CurrencyTree, ListsTheCurrenciesInTheOrderOfTheDictionaryWithTheirCalendarsBelow) {
@@ -36,6 +37,43 @@ TEST(CurrencyTree, ShowsCodesAndYearsWithTheirImages) {
     EXPECT_EQ(calendars.Tree().Image("K840"), "Currency");
     EXPECT_EQ(calendars.Tree().Text("K840_2026"), "2026");
     EXPECT_EQ(calendars.Tree().Image("K840_2026"), "Calendar");
+  });
+}
+
+TEST(CurrencyTree, ExplainsACurrencyByItsNameInTheDictionary) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.Open();
+    EXPECT_EQ(calendars.Tree().Description("K840"), "Name of USD");
+    EXPECT_EQ(calendars.Tree().Description("K840_2026"), "");
+  });
+}
+
+TEST(CurrencyTree, DoesWithoutExplanationsWhenTheDictionaryHasNoNames) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.world.dictionary->SetTable("Ccy", std::make_shared<platform::RecordSet>(
+                                                    Texts{"CcyID", "Ccy", "CcyType"},
+                                                    Rows{{978, "EUR", 0}, {840, "USD", 0}, {392, "JPY", 0}}));
+    calendars.Open();
+    EXPECT_EQ(calendars.Tree().Roots(), (Texts{"K978", "K840", "K392"}));
+    EXPECT_EQ(calendars.Tree().Description("K978"), "");
+  });
+}
+
+TEST(CurrencyTree, StartsWithACurrencyWhoseNameIsEmptyOrNoText) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    const auto no_text = std::make_shared<platform::RecordSet>(Texts{}, Rows{});
+    calendars.world.dictionary->SetTable(
+        "Ccy", std::make_shared<platform::RecordSet>(
+                   Texts{"CcyID", "Ccy", "CcyType", "Name"},
+                   Rows{{978, "EUR", 0, {}}, {840, "USD", 0, no_text}, {392, "JPY", 0, "Yen"}}));
+    calendars.Open();
+    EXPECT_EQ(calendars.Tree().Roots(), (Texts{"K978", "K840", "K392"}));
+    EXPECT_EQ(calendars.Tree().Description("K978"), "");
+    EXPECT_EQ(calendars.Tree().Description("K840"), "");
+    EXPECT_EQ(calendars.Tree().Description("K392"), "Yen");
   });
 }
 
