@@ -75,7 +75,7 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   open->setFocus();
 }
 
-void BackOfficeWindow::OpenCalendars() { control_->Control().Show(); }
+void BackOfficeWindow::OpenCalendars() { control_->ShowInFront(); }
 
 void BackOfficeWindow::TellTrouble(const QString& text) {
   trouble_->Tell(text);

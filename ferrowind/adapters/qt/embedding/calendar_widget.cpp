@@ -1,6 +1,8 @@
 #include "ferrowind/adapters/qt/embedding/calendar_widget.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <utility>
 
 #include "ferrowind/adapters/qt/controls/element.h"
@@ -12,17 +14,55 @@ namespace {
 
 constexpr int kSide = 16;
 
+/// The window of the form of that name that is none of those; null without one.
+QWidget* WindowOfForm(const QString& form_name, const QWidgetList& but_none_of) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == form_name && !but_none_of.contains(window)) return window;
+  }
+  return nullptr;
+}
+
 }  // namespace
+
+/// Remembers which window is its Calendars window, of which there may be one for each control.
+class CalendarWidget::WidgetsCalendar : public Calendar {
+ public:
+  using Calendar::Calendar;
+
+  [[nodiscard]] QWidget* Window() const { return window_; }
+
+ protected:
+  [[nodiscard]] std::shared_ptr<CalendarsWindow> CreateCalendarsWindow() override {
+    const QWidgetList before = QApplication::topLevelWidgets();
+    auto created = Calendar::CreateCalendarsWindow();
+    window_ = WindowOfForm(QStringLiteral("fmCalendar"), before);
+    return created;
+  }
+
+ private:
+  QPointer<QWidget> window_;
+};
 
 CalendarWidget::CalendarWidget(const platform::Platform& platform, QWidget* parent) : QWidget(parent) {
   setAccessibleName(QStringLiteral("Ferrowind calendar"));
   setAccessibleDescription(QStringLiteral("Holiday calendars of currencies"));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   resize(kSide, kSide);
-  calendar_ = std::make_unique<Calendar>(platform, static_cast<platform::ControlSite*>(this));
+  calendar_ = std::make_unique<WidgetsCalendar>(platform, static_cast<platform::ControlSite*>(this));
 }
 
 CalendarWidget::~CalendarWidget() = default;
+
+Calendar& CalendarWidget::Control() const { return *calendar_; }
+
+void CalendarWidget::ShowInFront() {
+  calendar_->Show();
+  QWidget* window = calendar_->Window();
+  if (window == nullptr || !window->isVisible()) return;
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->raise();
+  window->activateWindow();
+}
 
 QSize CalendarWidget::sizeHint() const { return {kSide, kSide}; }
 

@@ -23,7 +23,10 @@ class CalendarWidget : public QWidget, private platform::ControlSite {
   ~CalendarWidget() override;
 
   /// The component's public interface.
-  [[nodiscard]] Calendar& Control() const { return *calendar_; }
+  [[nodiscard]] Calendar& Control() const;
+  /// As `Control().Show()`; but a Calendars window that is open comes back from the task bar and to the
+  /// front, with the keyboard.
+  void ShowInFront();
 
   [[nodiscard]] QSize sizeHint() const override;
 
@@ -32,11 +35,13 @@ class CalendarWidget : public QWidget, private platform::ControlSite {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  class WidgetsCalendar;
+
   void SetSize(float width, float height) override;
   [[nodiscard]] platform::Subscription OnResize(std::function<void()> handler) override;
 
   platform::Signal<> resized_;
-  std::unique_ptr<Calendar> calendar_;
+  std::unique_ptr<WidgetsCalendar> calendar_;
 };
 
 }  // namespace ferrowind::qt
