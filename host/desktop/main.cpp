@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "ferrowind/adapters/qt/look/program_icon.h"
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/adapters/services/password_free.h"
 #include "ferrowind/platform/values/failure.h"
@@ -41,6 +42,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(QStringLiteral(FERROWIND_VERSION));
   const DesktopOptions options = ferrowind::host::ReadOptions(QApplication::arguments());
   ferrowind::qt::ApplyTheme(application, options.theme);
+  QApplication::setWindowIcon(ferrowind::qt::ProgramIcon());
 
   DatabaseTrouble trouble;
   DesktopSurroundings surroundings(trouble);

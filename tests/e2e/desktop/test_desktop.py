@@ -3,6 +3,7 @@
 import contextlib
 import os
 import pathlib
+import re
 import sqlite3
 import stat
 import subprocess
@@ -172,6 +173,41 @@ class DesktopTest(unittest.TestCase):
         self.session.focus('Back office')
         self.session.keys('alt+o')
         self.assertEqual(self.settled_place(self.session.window('Calendars')), place)
+
+    def test_open_calendars_of_the_host_brings_a_covered_window_to_the_front(self):
+        self.open_calendars()
+        window = self.session.window('Calendars')
+        self.session.focus('Back office')
+        self.session.xdotool('windowraise', self.session.window('Back office'))
+        self.session.keys('alt+o')
+        wait_for(lambda: self.session.active_title() == 'Calendars', 'the keyboard in the Calendars window')
+        wait_for(lambda: self.topmost() == int(window), 'the Calendars window in front')
+
+    def test_open_calendars_of_the_host_restores_a_minimised_window(self):
+        self.open_calendars()
+        window = self.session.window('Calendars')
+        place = self.settled_place(window)
+        self.session.xdotool('windowminimize', window)
+        wait_for(lambda: 'Iconic' in SCREEN.property_of(window, 'WM_STATE'), 'the minimised window')
+        self.session.focus('Back office')
+        self.session.keys('alt+o')
+        wait_for(lambda: 'Normal' in SCREEN.property_of(window, 'WM_STATE'), 'the restored window')
+        wait_for(lambda: self.session.active_title() == 'Calendars', 'the keyboard in the Calendars window')
+        self.assertEqual(self.session.windows('Calendars'), [window])
+        self.assertEqual(self.settled_place(window), place)
+
+    def topmost(self):
+        """The window in front of all others, by its number."""
+        stacking = SCREEN.property_of(None, '_NET_CLIENT_LIST_STACKING')
+        return int(stacking.split()[-1], 16)
+
+    def test_windows_have_an_icon_for_each_place_of_the_desktop(self):
+        self.open_calendars()
+        for title in ('Back office', 'Calendars'):
+            icons = SCREEN.property_of(self.session.window(title), '_NET_WM_ICON')
+            sides = set(map(int, re.findall(r'Icon \((\d+) x', icons)))
+            # The larger ones are more than xprop reads.
+            self.assertLessEqual({16, 24, 32, 48, 64, 128}, sides, title)
 
     def test_close_calendars_of_the_host_closes_the_window(self):
         self.open_calendars()

@@ -1,14 +1,16 @@
 #include <QApplication>
 #include <QImage>
 #include <QPalette>
-#include <algorithm>
-#include <cmath>
+#include <array>
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/qt/look/program_icon.h"
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/adapters/qt/look/tool_looks.h"
 #include "ferrowind/adapters/qt/look/tree_images.h"
+
+#include "tests/gui/controls/contrast.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -80,25 +82,52 @@ TEST(LineIcon, IsDrawnAnewForAHighResolution) {
   EXPECT_EQ(pixmap.devicePixelRatio(), 2.0);
 }
 
+constexpr std::array kProgramIconSides = {16, 20, 22, 24, 32, 48, 64, 128, 256};
+
+TEST(ProgramIcon, HasNoBlurredEdgeAtAnySize) {
+  for (const int side : kProgramIconSides) {
+    const QImage image = ImageOf(ProgramIcon(), side);
+    ASSERT_EQ(image.size(), QSize(side, side));
+    // Rounded corners apart, whatever is drawn is of the few colours of the design.
+    QList<QColor> colors;
+    for (int y = side * 6 / 16; y < side * 12 / 16; ++y) {
+      for (int x = side * 4 / 16; x < side * 12 / 16; ++x) {
+        const QColor color = image.pixelColor(x, y);
+        EXPECT_EQ(color.alpha(), 255) << side;
+        if (!colors.contains(color)) colors << color;
+      }
+    }
+    EXPECT_EQ(colors.size(), 3) << side;
+  }
+}
+
+TEST(ProgramIcon, OffersEachSizeThatDesktopsAskFor) {
+  const QList<QSize> sizes = ProgramIcon().availableSizes();
+  for (const int side : kProgramIconSides) EXPECT_TRUE(sizes.contains(QSize(side, side))) << side;
+}
+
+TEST(ProgramIcon, IsReadableOnLightAndDarkBars) {
+  const QImage image = ImageOf(ProgramIcon(), 32);
+  const QColor tile = image.pixelColor(2, 16);
+  const QColor sheet = image.pixelColor(16, 12);
+  EXPECT_GT(Contrast(tile, sheet), 3);
+  for (const QColor bar : {QColor(0xff, 0xff, 0xff), QColor(0x1e, 0x1e, 0x1e)})
+    EXPECT_GT(Contrast(tile, bar), 3) << bar.name().toStdString();
+}
+
+TEST(ProgramIcon, IsTheSameInEachTheme) {
+  ApplyTheme(*qApp, Theme::kLight);
+  const QImage on_light = ImageOf(ProgramIcon(), 32);
+  ApplyTheme(*qApp, Theme::kDark);
+  EXPECT_EQ(ImageOf(ProgramIcon(), 32), on_light);
+}
+
 TEST(ThemeTest, FollowsTheDesktopUnlessToldOtherwise) {
   // The desktop of tests is light.
   ApplyTheme(*qApp, Theme::kDark);
   EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
   ApplyTheme(*qApp, Theme::kSystem);
   EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 128);
-}
-
-/// The contrast of WCAG 2: 1 to 21.
-double Contrast(const QColor& one, const QColor& other) {
-  const auto luminance = [](const QColor& color) {
-    const auto linear = [](double part) {
-      return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-  };
-  const double lighter = std::max(luminance(one), luminance(other));
-  const double darker = std::min(luminance(one), luminance(other));
-  return (lighter + 0.05) / (darker + 0.05);
 }
 
 TEST(ThemeTest, IsReadableInBothThemes) {

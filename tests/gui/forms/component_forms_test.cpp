@@ -101,6 +101,7 @@ class ComponentFormsTest : public ::testing::TestWithParam<Theme> {
     if (!folder.isEmpty())
       picture.save(QStringLiteral("%1/%2-%3.png").arg(folder, name.c_str(), theme.c_str()));
     ExpectTextsInFull(window);
+    ExpectFitsASmallScreen(window);
     ExpectBackground(picture.toImage());
   }
 
@@ -115,6 +116,12 @@ class ComponentFormsTest : public ::testing::TestWithParam<Theme> {
       EXPECT_TRUE(window.rect().contains(QRect(button->mapTo(&window, QPoint(0, 0)), button->size())))
           << button->objectName().toStdString();
     }
+  }
+  static void ExpectFitsASmallScreen(const QWidget& window) {
+    constexpr QSize kSmallScreen(800, 600);
+    constexpr QSize kFrame(10, 30);
+    const QSize smallest = window.minimumSizeHint().expandedTo(window.minimumSize()) + kFrame;
+    EXPECT_EQ(smallest.boundedTo(kSmallScreen), smallest);
   }
   static void ExpectBackground(const QImage& picture) {
     const QColor corner = picture.pixelColor(3, picture.height() - 3);
@@ -221,6 +228,79 @@ TEST(CalendarWidget, RefusesSurroundingsThatWouldBeGoneAtOnce) {
   EXPECT_FALSE((std::is_constructible_v<CalendarWidget, platform::Platform>));
 }
 
+class ShowInFrontTest : public ComponentFormsTest {
+ protected:
+  ~ShowInFrontTest() override { EXPECT_TRUE(control_.Control().ForceClosing()); }
+
+  /// The Calendars windows that are open.
+  static QWidgetList Windows() {
+    QWidgetList windows;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == "fmCalendar" && window->isVisible()) windows << window;
+    }
+    return windows;
+  }
+  /// Opens the control's window and returns it.
+  static QWidget& Open(CalendarWidget& control) {
+    const QWidgetList before = Windows();
+    control.ShowInFront();
+    QWidgetList now = Windows();
+    now.removeIf([&](QWidget* window) { return before.contains(window); });
+    EXPECT_EQ(now.size(), 1);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(now.first()));
+    return *now.first();
+  }
+
+  CalendarWidget control_{platform_};
+};
+
+TEST_P(ShowInFrontTest, OpensTheWindowOnce) {
+  const QWidget& window = Open(control_);
+  control_.ShowInFront();
+  EXPECT_EQ(Windows(), QWidgetList{const_cast<QWidget*>(&window)});
+}
+
+TEST_P(ShowInFrontTest, GivesTheOpenWindowTheKeyboard) {
+  QWidget& window = Open(control_);
+  QWidget host;
+  host.show();
+  host.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
+  control_.Control().Show();
+  EXPECT_FALSE(window.isActiveWindow());
+  control_.ShowInFront();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+TEST_P(ShowInFrontTest, BringsTheWindowBackFromTheTaskBarAsLargeAsItWas) {
+  QWidget& window = Open(control_);
+  window.showMaximized();
+  window.showMinimized();
+  control_.Control().Show();
+  EXPECT_TRUE(window.isMinimized());
+  control_.ShowInFront();
+  EXPECT_FALSE(window.isMinimized());
+  EXPECT_TRUE(window.isMaximized());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+TEST_P(ShowInFrontTest, FindsTheWindowOfItsOwnControl) {
+  CalendarWidget other(platform_);
+  QWidget& window = Open(control_);
+  QWidget& others_window = Open(other);
+  control_.ShowInFront();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  other.ShowInFront();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&others_window));
+  EXPECT_TRUE(other.Control().ForceClosing());
+}
+
+TEST_P(ShowInFrontTest, OpensAgainAfterTheWindowWasClosed) {
+  EXPECT_TRUE(Open(control_).close());
+  EXPECT_TRUE(Windows().isEmpty());
+  EXPECT_TRUE(Open(control_).isActiveWindow());
+}
+
 TEST_P(ComponentFormsTest, SnapsTheControlBackToItsSize) {
   CalendarWidget control(platform_);
   control.show();
@@ -230,6 +310,8 @@ TEST_P(ComponentFormsTest, SnapsTheControlBackToItsSize) {
   EXPECT_FALSE(control.accessibleName().isEmpty());
 }
 
+INSTANTIATE_TEST_SUITE_P(Themes, ShowInFrontTest, ::testing::Values(Theme::kLight),
+                         [](const auto& /*theme*/) { return "Light"; });
 INSTANTIATE_TEST_SUITE_P(Themes, ComponentFormsTest, ::testing::Values(Theme::kLight, Theme::kDark),
                          [](const auto& theme) { return theme.param == Theme::kDark ? "Dark" : "Light"; });
 

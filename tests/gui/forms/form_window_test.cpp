@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -168,6 +169,35 @@ TEST_F(FormWindowTest, HasItsDesignedClientSizeWhereTheTextsFit) {
   design.client_height = 7500;
   const auto form = toolkit_.CreateForm(design);
   EXPECT_EQ(WindowOf(*form).size(), QSize(PixelsX(9000), PixelsY(7500)));
+}
+
+TEST_F(FormWindowTest, IsDesignedNoLargerThanTheScreenButTakesAnySizeThatItIsGiven) {
+  FormDesign design = Design(FormBorder::kSizable);
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  const QSize larger = screen + QSize(100, 200);
+  design.client_width = TwipsX(larger.width());
+  design.client_height = TwipsY(larger.height());
+  const auto form = toolkit_.CreateForm(design);
+  EXPECT_EQ(WindowOf(*form).size(), screen);
+  form->SetWidth(design.client_width);
+  form->SetHeight(design.client_height);
+  EXPECT_EQ(WindowOf(*form).frameGeometry().size(), larger);
+  design.client_width = TwipsX(300);
+  design.client_height = TwipsY(200);
+  EXPECT_EQ(WindowOf(*toolkit_.CreateForm(design)).size(), QSize(300, 200));
+}
+
+TEST_F(FormWindowTest, HasAnIconOfItsOwnWhereTheHostHasNone) {
+  const auto icon_of = [this] {
+    return WindowOf(*toolkit_.CreateForm(Design(FormBorder::kSizable))).windowIcon();
+  };
+  ASSERT_TRUE(QApplication::windowIcon().isNull());
+  EXPECT_FALSE(icon_of().isNull());
+  QPixmap red(16, 16);
+  red.fill(Qt::red);
+  QApplication::setWindowIcon(red);
+  EXPECT_EQ(icon_of().pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
+  QApplication::setWindowIcon({});
 }
 
 TEST_F(FormWindowTest, GrowsWithALongText) {

@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 
+#include "ferrowind/adapters/qt/controls/space_in_type_ahead.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
@@ -9,6 +10,7 @@ namespace ferrowind::qt {
 QtDropDownList::QtDropDownList(QComboBox& box) : QtControl(box), box_(box) {
   box_.setEditable(false);
   box_.clear();
+  new SpaceInTypeAhead(box_);
   QObject::connect(&box_, &QComboBox::currentIndexChanged, Context(), [this] { Raise(chosen_); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -12,6 +13,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/qt/forms/dialog_keys.h"
+#include "ferrowind/adapters/qt/look/program_icon.h"
 
 namespace ferrowind::qt {
 
@@ -53,12 +55,25 @@ QSize Affordable(const QSize& size) {
   return size.boundedTo(desktop.expandedTo({kLargestSide, kLargestSide}));
 }
 
+/// The largest size that a window centred on the screen may have without leaving what of the screen is free.
+QSize CentredRoom() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+  const QRect all = screen->geometry();
+  const QRect room = screen->availableGeometry();
+  const int beside = std::max({0, room.left() - all.left(), all.right() - room.right()});
+  const int above = std::max({0, room.top() - all.top(), all.bottom() - room.bottom()});
+  return all.size() - 2 * QSize(beside, above);
+}
+
 }  // namespace
 
 FormWindow::FormWindow() {
   // Does nothing when it is installed already.
   QAccessible::installFactory(AccessibleWindow);
   setSizeGripEnabled(false);
+  // A host's own icon tells the operator where the window belongs.
+  if (QApplication::windowIcon().isNull()) setWindowIcon(ProgramIcon());
 }
 
 FormWindow::~FormWindow() {
@@ -77,7 +92,7 @@ void FormWindow::SetDesignedSize(const QSize& size) {
   if (IsFixed()) {
     FitToTexts();
   } else if (!size.isEmpty()) {
-    resize(size.expandedTo(minimumSizeHint()));
+    resize(size.boundedTo(CentredRoom()).expandedTo(minimumSizeHint()));
   }
 }
 

@@ -29,7 +29,8 @@ class FormWindow : public QDialog {
   /// Sets the window's frame; to be called before it is first shown, with its controls in place.
   void SetBorder(platform::FormBorder border);
   [[nodiscard]] platform::FormBorder Border() const { return border_; }
-  /// The size of the client area, in pixels. Dialogs of fixed size grow beyond it as far as their texts need.
+  /// The size of the client area, in pixels. Dialogs of fixed size grow beyond it as far as their texts need;
+  /// other windows are no larger than what is free of the screen around its middle.
   void SetDesignedSize(const QSize& size);
 
   /// The outer geometry. The frame is only known once the window is shown: until then a size that is set is

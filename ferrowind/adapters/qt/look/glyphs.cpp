@@ -194,4 +194,37 @@ Glyph CalendarGlyph() {
   return glyph;
 }
 
+Glyph QuestionGlyph() {
+  Glyph glyph;
+  glyph.accent_lines.addEllipse(QPointF(12, 12), 9.5, 9.5);
+  glyph.lines.moveTo(9, 9.6);
+  glyph.lines.cubicTo(9, 5.8, 15, 5.8, 15, 9.4);
+  glyph.lines.cubicTo(15, 11.6, 12, 11.6, 12, 14);
+  glyph.solids.addEllipse(QPointF(12, 17.2), 1.15, 1.15);
+  return glyph;
+}
+
+Glyph InformationGlyph() {
+  Glyph glyph;
+  glyph.accent_lines.addEllipse(QPointF(12, 12), 9.5, 9.5);
+  AddLine(glyph.lines, {{12, 11}, {12, 17}});
+  glyph.solids.addEllipse(QPointF(12, 7.4), 1.15, 1.15);
+  return glyph;
+}
+
+Glyph WarningGlyph() {
+  Glyph glyph;
+  AddLine(glyph.accent_lines, {{12, 3}, {22, 20.5}, {2, 20.5}, {12, 3}});
+  AddLine(glyph.lines, {{12, 9.5}, {12, 14.5}});
+  glyph.solids.addEllipse(QPointF(12, 17.6), 1.15, 1.15);
+  return glyph;
+}
+
+Glyph ErrorGlyph() {
+  Glyph glyph;
+  glyph.accent_lines.addEllipse(QPointF(12, 12), 9.5, 9.5);
+  AddCross(glyph.lines, 12, 12, 3.4);
+  return glyph;
+}
+
 }  // namespace ferrowind::qt

@@ -19,5 +19,9 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph ExceptWithTextGlyph();
 [[nodiscard]] Glyph CurrencyGlyph();
 [[nodiscard]] Glyph CalendarGlyph();
+[[nodiscard]] Glyph QuestionGlyph();
+[[nodiscard]] Glyph InformationGlyph();
+[[nodiscard]] Glyph WarningGlyph();
+[[nodiscard]] Glyph ErrorGlyph();
 
 }  // namespace ferrowind::qt

@@ -24,7 +24,7 @@ struct Colors {
   QColor accent;
 };
 
-Colors ColorsOf(QIcon::Mode mode) {
+Colors ColorsOf(QIcon::Mode mode, const QColor& accent) {
   const QPalette palette = QGuiApplication::palette();
   if (mode == QIcon::Disabled) {
     const QColor faint = palette.color(QPalette::Disabled, QPalette::ButtonText);
@@ -35,17 +35,18 @@ Colors ColorsOf(QIcon::Mode mode) {
     return {on_selection, on_selection};
   }
   return {palette.color(QPalette::Active, QPalette::ButtonText),
-          palette.color(QPalette::Active, QPalette::Link)};
+          accent.isValid() ? accent : palette.color(QPalette::Active, QPalette::Link)};
 }
 
 class LineIconEngine : public QIconEngine {
  public:
-  explicit LineIconEngine(Glyph (*glyph)()) : make_glyph_(glyph), glyph_(glyph()) {}
+  LineIconEngine(Glyph (*glyph)(), const QColor& accent)
+      : make_glyph_(glyph), glyph_(glyph()), accent_(accent) {}
 
-  [[nodiscard]] QIconEngine* clone() const override { return new LineIconEngine(make_glyph_); }
+  [[nodiscard]] QIconEngine* clone() const override { return new LineIconEngine(make_glyph_, accent_); }
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
-    const Colors colors = ColorsOf(mode);
+    const Colors colors = ColorsOf(mode, accent_);
     const qreal side = std::min(rect.width(), rect.height());
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -83,6 +84,7 @@ class LineIconEngine : public QIconEngine {
 
   Glyph (*make_glyph_)();
   Glyph glyph_;
+  QColor accent_;
   /// By width, height and mode.
   std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> drawn_;
   qint64 drawn_for_palette_ = 0;
@@ -90,6 +92,6 @@ class LineIconEngine : public QIconEngine {
 
 }  // namespace
 
-QIcon LineIcon(Glyph (*glyph)()) { return QIcon(new LineIconEngine(glyph)); }
+QIcon LineIcon(Glyph (*glyph)(), const QColor& accent) { return QIcon(new LineIconEngine(glyph, accent)); }
 
 }  // namespace ferrowind::qt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 
 #include "ferrowind/adapters/qt/look/glyph.h"
@@ -7,7 +8,8 @@
 namespace ferrowind::qt {
 
 /// An icon that draws the glyph in the colours of the application's palette of the moment, crisp at any size
-/// and resolution.
-[[nodiscard]] QIcon LineIcon(Glyph (*glyph)());
+/// and resolution. A valid `accent` stands in for the theme's where the icon is neither disabled nor
+/// selected.
+[[nodiscard]] QIcon LineIcon(Glyph (*glyph)(), const QColor& accent = {});
 
 }  // namespace ferrowind::qt

@@ -1,8 +1,8 @@
 #include "ferrowind/adapters/qt/look/theme.h"
 
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
+
+#include "ferrowind/adapters/qt/look/theme_style.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -72,9 +72,7 @@ bool IsDesktopDark() {
 void ApplyTheme(QApplication& application, Theme theme) {
   const bool is_desktop_dark = IsDesktopDark();
   const bool is_dark = theme == Theme::kDark || (theme == Theme::kSystem && is_desktop_dark);
-  if (application.style()->name() != QLatin1String("fusion")) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-  }
+  if (dynamic_cast<ThemeStyle*>(application.style()) == nullptr) QApplication::setStyle(new ThemeStyle);
   QApplication::setPalette(PaletteOf(is_dark ? DarkShades() : LightShades(), is_dark));
 }
 
