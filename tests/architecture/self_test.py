@@ -225,10 +225,9 @@ class BuildTypes(TemporaryTree):
 
     LISTS = """cmake_minimum_required(VERSION 3.25)
 project(Example LANGUAGES CXX)
-option(FERROWIND_WARNINGS_AS_ERRORS "" OFF)
 option(FERROWIND_PRECOMPILE "" OFF)
 add_executable(example main.cpp)
-target_compile_options(example PRIVATE -Wall $<$<BOOL:${FERROWIND_WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_options(example PRIVATE -Wall)
 if(FERROWIND_PRECOMPILE)
   target_precompile_headers(example PRIVATE <string>)
 endif()
@@ -250,14 +249,14 @@ endif()
 
     def test_refuses_a_warning_of_an_optimising_build_and_shows_it(self):
         self.write("main.cpp", self.DOUBTFUL + self.MAIN)
-        with self.assertRaisesRegex(RuntimeError, "building g.*MinSizeRel failed(.|\n)*may be used uninitialized"):
+        with self.assertRaisesRegex(RuntimeError, "MinSizeRel does not compile clean(.|\n)*may be used uninitialized"):
             self.compile_as(build_types.Build("g++", "MinSizeRel"))
 
     def test_refuses_a_source_that_lives_on_precompiled_headers(self):
         self.write("main.cpp", "int main() { return std::string().size() == 0 ? 0 : 1; }\n")
-        self.compile_as(build_types.Build("g++", "Release"))
-        with self.assertRaisesRegex(RuntimeError, "building g.*no-type failed"):
-            self.compile_as(build_types.Build("g++", "", precompiled=False))
+        self.compile_as(build_types.Build("g++", ""))
+        with self.assertRaisesRegex(RuntimeError, "building g.*Release failed"):
+            self.compile_as(build_types.Build("g++", "Release", precompiled=False))
 
     def test_builds_every_type_with_the_compiler_whose_warnings_hang_on_it(self):
         types = {build.build_type for build in build_types.BUILDS if build.compiler == "g++"}
