@@ -5,6 +5,7 @@
 
 #include "ferrowind/adapters/grid_engine/value_order.h"
 #include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/values/conversion.h"
 
@@ -24,8 +25,7 @@ const Value& NoValue() {
 
 QString LocalizedText(const Value& value) {
   if (const auto* text = value.If<std::string>()) return ToQt(*text);
-  if (const auto* date = value.If<platform::Date>())
-    return QLocale().toString(ToQt(*date), QLocale::ShortFormat);
+  if (const auto* date = value.If<platform::Date>()) return ShortDate(ToQt(*date), QLocale());
   if (const auto* fraction = value.If<double>()) {
     return QLocale().toString(*fraction, 'g', QLocale::FloatingPointShortest);
   }
