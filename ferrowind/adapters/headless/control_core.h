@@ -39,6 +39,8 @@ class ControlCore {
   void TakeFocus() { host_.MoveFocusTo(*this); }
   [[noreturn]] void RaiseScriptError(const std::string& text) { host_.Errors().Raise(text); }
 
+  /// Raised when the keyboard focus comes from elsewhere.
+  platform::Signal<> got_focus;
   /// Raised when the keyboard focus goes elsewhere.
   platform::Signal<> lost_focus;
 

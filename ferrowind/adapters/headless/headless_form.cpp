@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/headless/headless_button.h"
+#include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::headless {
@@ -245,7 +246,9 @@ platform::Subscription HeadlessForm::OnCloseQuery(std::function<void(bool& cance
 
 void HeadlessForm::MoveFocusTo(ControlCore& control) {
   ControlCore* const loser = std::exchange(focused_, &control);
-  if (loser != nullptr && loser != &control) loser->lost_focus.Emit();
+  if (loser == &control) return;
+  if (loser != nullptr) loser->lost_focus.Emit();
+  control.got_focus.Emit();
 }
 
 std::string HeadlessForm::FocusedControl() const {
@@ -286,6 +289,19 @@ void HeadlessForm::ResizeByOperator(float width, float height) {
   if (design_.border != FormBorder::kSizable) Errors().Raise("The operator cannot resize the form " + Name());
   Log().Record("operator." + action);
   ChangeSize(width, height);
+}
+
+void HeadlessForm::TypeText(const std::string& text) {
+  const auto keep = Keep();
+  if (focused_ != nullptr) {
+    if (auto* box = dynamic_cast<HeadlessTextBox*>(&ControlNamed(focused_->Name())))
+      return box->TypeText(text);
+  }
+  RequireInput(CallText(Name(), "TypeText", {text}));
+  for (const auto& control : design_.controls) {
+    if (control.takes_typing && CoreOf(control.name).Usable())
+      return Part<HeadlessTextBox>(control.name).TypeText(text);
+  }
 }
 
 void HeadlessForm::PressEnter() {

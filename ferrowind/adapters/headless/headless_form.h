@@ -79,6 +79,8 @@ class HeadlessForm : public platform::Form,
   bool CloseByOperator();
   /// Drags the frame to that outer size in twips; script error for a border that cannot be dragged.
   void ResizeByOperator(float width, float height);
+  /// Types on the keyboard: into the focused text box, else into the one of the design that takes typing.
+  void TypeText(const std::string& text);
   /// Presses Enter: the focused button or else the default button, if the operator can use it.
   void PressEnter();
   /// Presses Escape: the cancel button, if there is one that the operator can use.

@@ -26,7 +26,7 @@ std::unique_ptr<platform::Control> HeadlessForm::MakeControl(const platform::Con
     case ControlKind::kButton:
       return std::make_unique<HeadlessButton>(*this, design.name, design.text);
     case ControlKind::kTextBox:
-      return std::make_unique<HeadlessTextBox>(*this, design.name, design.text);
+      return std::make_unique<HeadlessTextBox>(*this, design.name, design.text, design.takes_typing);
     case ControlKind::kDropDownList:
       return std::make_unique<HeadlessDropDownList>(*this, design.name);
     case ControlKind::kDatePicker:

@@ -11,8 +11,11 @@ namespace ferrowind::headless {
 
 class HeadlessTextBox : public HeadlessControl<platform::TextBox> {
  public:
-  HeadlessTextBox(ControlHost& host, std::string name, std::string text)
-      : HeadlessControl(host, std::move(name)), text_(std::move(text)) {}
+  /// With `selects_on_focus` the text is selected whenever the box gets the focus.
+  HeadlessTextBox(ControlHost& host, std::string name, std::string text, bool selects_on_focus)
+      : HeadlessControl(host, std::move(name)), text_(std::move(text)) {
+    if (selects_on_focus) got_focus_ = core_.got_focus.Subscribe([this] { all_selected_ = true; });
+  }
 
   [[nodiscard]] std::string Text() const override { return text_; }
   void SetText(const std::string& text) override;
@@ -41,6 +44,7 @@ class HeadlessTextBox : public HeadlessControl<platform::TextBox> {
   std::int32_t max_length_ = 0;
   bool all_selected_ = false;
   platform::Signal<> changed_;
+  platform::Subscription got_focus_;
 };
 
 }  // namespace ferrowind::headless

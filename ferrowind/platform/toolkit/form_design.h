@@ -30,6 +30,9 @@ struct ControlDesign {
   std::string text = {};
   bool is_default_button = false;
   bool is_cancel_button = false;
+  /// For a text box, one of a form at most: it takes what the operator types while the focus is on a control
+  /// that takes no text, and its text is selected whenever it gets the focus, so that typing replaces it.
+  bool takes_typing = false;
 };
 
 enum class FormBorder {

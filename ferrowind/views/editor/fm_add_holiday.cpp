@@ -103,6 +103,12 @@ fmAddHoliday::fmAddHoliday(const platform::Platform& platform)
 // Filling
 // -------------------------------------------------------------------------------------------------------------
 
+void fmAddHoliday::SetYear(std::int32_t year) {
+  if (!platform::Date::IsValid(year, 1, 1)) return;
+  for (DatePicker* picker : {&dtpFullDate_, &dtpHolidayPoint_})
+    picker->SetDate(picker->Date().AddYears(year - picker->Date().Year()));
+}
+
 bool fmAddHoliday::Init(std::int32_t Mode, std::shared_ptr<platform::RecordSet> HolidayTypes,
                         std::int32_t FirstWeekday, std::shared_ptr<platform::RecordSet> HolidayRow,
                         std::shared_ptr<GridFields> ColumnMap) {
@@ -228,8 +234,10 @@ void fmAddHoliday::txtName_Change() {
   UpdateDependentControls();
 }
 
-// Closes with the result 0 also when saving failed; the operator has seen the message by then.
+// Closes with the result 0 also when saving failed; the operator has seen the message by then. A date that
+// cannot be read is no rule yet: nothing is saved and the dialog stays.
 void fmAddHoliday::cmdOk_Click() {
+  if (!RequireDate()) return platform_.toolkit.Beep();
   TrimText(txtName_);
   TrimText(txtComment_);
   Save();
@@ -249,6 +257,16 @@ void fmAddHoliday::Unload() { form_->Unload(); }
 // Saving
 // --------------------------------------------------------------------------------------------------------------
 
+DatePicker& fmAddHoliday::RulePicker() const {
+  return holiday_type_ == holiday_type::kFullDate ? dtpFullDate_ : dtpHolidayPoint_;
+}
+
+bool fmAddHoliday::RequireDate() const {
+  // The operator can mend only what is on show; a hidden picker gives the last day that it showed.
+  if (holiday_type_ == holiday_type::kWeekday || !RulePicker().Visible()) return true;
+  return RulePicker().RequireDate();
+}
+
 SourceValues fmAddHoliday::RuleParameters() const {
   SourceValues params;
   params.Add("Name1", txtName_.Text());
@@ -260,8 +278,7 @@ SourceValues fmAddHoliday::RuleParameters() const {
     IgnoringFailure(
         [&] { params.Add("WD", static_cast<std::int16_t>(platform::Date::FromSerial(weekday_).Weekday())); });
   } else {
-    const platform::Date date =
-        (holiday_type_ == holiday_type::kFullDate ? dtpFullDate_ : dtpHolidayPoint_).Date();
+    const platform::Date date = RulePicker().Date();
     params.Add("D1", date);
     params.Add("MY", static_cast<std::int16_t>(date.Month()));
     params.Add("MD", static_cast<std::int16_t>(date.Day()));

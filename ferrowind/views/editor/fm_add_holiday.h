@@ -27,6 +27,9 @@ class fmAddHoliday {
   fmAddHoliday(const fmAddHoliday&) = delete;
   fmAddHoliday& operator=(const fmAddHoliday&) = delete;
 
+  /// The year of the calendar that the rule is written for: the date of a new rule lies in it. To be called
+  /// before `Init`, if at all; without it, or with a year outside 1 to 9999, the year is the current one.
+  void SetYear(std::int32_t year);
   /// Makes the dialog ready to be shown; called once. `HolidayTypes` has the fields `TID1` and
   /// `Description1`; `FirstWeekday` is 1 Sunday to 7 Saturday. For `kEditRule`, `HolidayRow` stands on the
   /// rule, and nothing else moves it while the dialog is open, and `ColumnMap` names its fields; else both
@@ -48,6 +51,8 @@ class fmAddHoliday {
   bool ChooseWeekday(const platform::Value& weekday);
   [[nodiscard]] platform::Value RuleField(const std::string& local_name) const;
   void UpdateDependentControls();
+  [[nodiscard]] platform::DatePicker& RulePicker() const;
+  [[nodiscard]] bool RequireDate() const;
   [[nodiscard]] SourceValues RuleParameters() const;
   void Save();
 

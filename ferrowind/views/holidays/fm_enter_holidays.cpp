@@ -177,6 +177,7 @@ void fmEnterHolidays::Edit() {
 void fmEnterHolidays::EditRule(std::int32_t editor_mode, std::shared_ptr<platform::RecordSet> rule,
                                std::shared_ptr<GridFields> column_map) {
   fmAddHoliday editor(platform_);
+  editor.SetYear(target_.year);
   if (!editor.Init(editor_mode, list_.HolidayTypes(), list_.FirstWeekday(), std::move(rule),
                    std::move(column_map))) {
     editor.Unload();

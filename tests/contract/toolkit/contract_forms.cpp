@@ -38,7 +38,7 @@ FormDesign ContractFixedDialog() {
       .client_width = 3600,
       .client_height = 1500,
       .controls = {
-          {.kind = ControlKind::kTextBox, .name = "txtText"},
+          {.kind = ControlKind::kTextBox, .name = "txtText", .takes_typing = true},
           {.kind = ControlKind::kButton, .name = "cmdFirst", .text = "First"},
           {.kind = ControlKind::kButton, .name = "cmdOk", .text = "Ok", .is_default_button = true},
           {.kind = ControlKind::kButton, .name = "cmdCancel", .text = "Cancel", .is_cancel_button = true}}};

@@ -186,6 +186,34 @@ TEST_F(DatePickerContract, TakesTheDateOfTheOperator) {
   EXPECT_EQ(picker.Date(), Date(2026, 7, 15));
 }
 
+TEST_F(DatePickerContract, HoldsTheDateThatTheProgramSetsOrTheOperatorPicks) {
+  EXPECT_TRUE(picker.RequireDate());
+  under_test->TypeNoDate(picker);
+  under_test->PickDate(picker, Date(2026, 7, 5));
+  picker.SetDate(Date(2026, 7, 4));
+  EXPECT_TRUE(picker.RequireDate());
+  EXPECT_FALSE(under_test->ShowsRefusal(picker));
+  EXPECT_EQ(picker.Date(), Date(2026, 7, 4));
+}
+
+TEST_F(DatePickerContract, KeepsATextThatIsNoDateAndTellsTheOperatorWhenADateIsRequired) {
+  picker.SetDate(Date(2026, 7, 4));
+  under_test->TypeNoDate(picker);
+  EXPECT_EQ(picker.Date(), Date(2026, 7, 4));
+  EXPECT_FALSE(picker.RequireDate());
+  EXPECT_TRUE(under_test->ShowsRefusal(picker));
+  EXPECT_EQ(picker.Date(), Date(2026, 7, 4));
+}
+
+TEST_F(DatePickerContract, TakesTheFocusWhenItHoldsNoDateThatIsRequired) {
+  auto& box = The<TextBox>("txtText");
+  under_test->TypeNoDate(picker);
+  box.SetFocus();
+  const Subscription lost = box.OnLostFocus(Note("lost"));
+  EXPECT_FALSE(picker.RequireDate());
+  EXPECT_THAT(notes, ElementsAre("lost"));
+}
+
 class UpDownContract : public ToolkitContract {
  protected:
   UpDownContract() {

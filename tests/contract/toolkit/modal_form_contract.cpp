@@ -117,6 +117,33 @@ TEST_F(ModalFormContract, PressesTheDefaultButtonByEnter) {
   EXPECT_THAT(notes, ElementsAre("ok"));
 }
 
+TEST_F(ModalFormContract, GivesTypedTextToTheBoxThatTakesTypingInPlaceOfItsOwn) {
+  auto& box = ControlOf<platform::TextBox>(*dialog, "txtText");
+  box.SetText("2026");
+  const Subscription ok = ButtonOf(*dialog, "cmdOk").OnClick([&] { dialog->Hide(); });
+  under_test->ShowModal(*dialog, [&] {
+    ButtonOf(*dialog, "cmdFirst").SetFocus();
+    under_test->PressTextKeys(*dialog, "2031");
+    EXPECT_EQ(box.Text(), "2031");
+    under_test->PressTextKeys(*dialog, "5");
+    EXPECT_EQ(box.Text(), "20315");
+    under_test->PressEnter(*dialog);
+  });
+  EXPECT_FALSE(dialog->IsShown());
+}
+
+TEST_F(ModalFormContract, SelectsTheTextOfTheBoxThatTakesTypingWheneverItGetsTheFocus) {
+  auto& box = ControlOf<platform::TextBox>(*dialog, "txtText");
+  box.SetText("2026");
+  const Subscription ok = ButtonOf(*dialog, "cmdOk").OnClick([&] { dialog->Hide(); });
+  under_test->ShowModal(*dialog, [&] {
+    ButtonOf(*dialog, "cmdFirst").SetFocus();
+    under_test->TypeText(box, "7");
+    EXPECT_EQ(box.Text(), "7");
+    under_test->Click(ButtonOf(*dialog, "cmdOk"));
+  });
+}
+
 TEST_F(ModalFormContract, PressesTheFocusedButtonByEnter) {
   const Subscription ok = ButtonOf(*dialog, "cmdOk").OnClick(Note("ok"));
   const Subscription first = ButtonOf(*dialog, "cmdFirst").OnClick([&] {

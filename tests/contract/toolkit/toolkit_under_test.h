@@ -56,8 +56,14 @@ class ToolkitUnderTest {
   virtual void Click(platform::Button& button) = 0;
   /// Goes to the text box and types behind its text, or in place of the selected text.
   virtual void TypeText(platform::TextBox& text_box, const std::string& text) = 0;
+  /// Presses the keys of the text, wherever the form has its focus.
+  virtual void PressTextKeys(platform::Form& form, const std::string& text) = 0;
   virtual void Choose(platform::DropDownList& list, const std::string& item) = 0;
   virtual void PickDate(platform::DatePicker& picker, const platform::Date& date) = 0;
+  /// Types a text that is no day in place of what the picker shows.
+  virtual void TypeNoDate(platform::DatePicker& picker) = 0;
+  /// Whether the operator sees that the picker's text is refused.
+  [[nodiscard]] virtual bool ShowsRefusal(platform::DatePicker& picker) = 0;
   virtual void StepUp(platform::UpDown& up_down) = 0;
   virtual void StepDown(platform::UpDown& up_down) = 0;
 

@@ -1,6 +1,4 @@
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QMovie>
 #include <QTest>
 #include <QToolButton>
@@ -14,7 +12,6 @@
 #include "ferrowind/adapters/qt/controls/caption_text.h"
 #include "ferrowind/adapters/qt/controls/qt_animation.h"
 #include "ferrowind/adapters/qt/controls/qt_button.h"
-#include "ferrowind/adapters/qt/controls/qt_date_picker.h"
 #include "ferrowind/adapters/qt/controls/qt_label.h"
 #include "ferrowind/adapters/qt/controls/qt_status_bar.h"
 #include "ferrowind/adapters/qt/controls/qt_text_box.h"
@@ -103,50 +100,6 @@ TEST_F(TextBoxTest, TakesTextWithoutALimit) {
 }
 
 TEST_F(TextBoxTest, RefusesANegativeLimit) { EXPECT_THROW(box_.SetMaxLength(-1), platform::Failure); }
-
-TEST(QtDateFormatTest, QuotesWhatIsNoField) {
-  EXPECT_EQ(QtDateFormat("d  MMMM"), "d'  'MMMM");
-  EXPECT_EQ(QtDateFormat("yyyy"), "yyyy");
-  EXPECT_EQ(QtDateFormat("h d's"), "'h 'd'''s'");
-}
-
-TEST(QtDatePickerTest, ShowsItsDateInItsFormat) {
-  QDateEdit edit;
-  QtDatePicker picker(edit);
-  edit.setLocale(QLocale(QLocale::English));
-  picker.SetCustomFormat("d  MMMM");
-  picker.SetDate(platform::Date(2026, 12, 25));
-  EXPECT_EQ(edit.text(), "25  December");
-}
-
-TEST(QtDatePickerTest, OpensItsCalendarByTheKeysOfADropDownListAndTakesTheChosenDay) {
-  QDateEdit edit;
-  QtDatePicker picker(edit);
-  picker.SetDate({2028, 7, 4});
-  edit.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&edit));
-  const std::pair<Qt::Key, Qt::KeyboardModifier> keys[] = {{Qt::Key_Down, Qt::AltModifier},
-                                                           {Qt::Key_F4, Qt::NoModifier}};
-  for (const auto& [key, modifier] : keys) {
-    picker.SetDate({2028, 7, 4});
-    QTest::keyClick(&edit, key, modifier);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    EXPECT_FALSE(edit.calendarWidget()->isDateEditEnabled());
-    QTest::keyClick(edit.calendarWidget()->findChild<QAbstractItemView*>(), Qt::Key_Right);
-    QTest::keyClick(edit.calendarWidget()->findChild<QAbstractItemView*>(), Qt::Key_Return);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_EQ(picker.Date(), platform::Date(2028, 7, 5));
-  }
-  QTest::keyClick(&edit, Qt::Key_Down);
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
-TEST(QtDatePickerTest, KeepsAYearThatItCannotShow) {
-  QDateEdit edit;
-  QtDatePicker picker(edit);
-  picker.SetDate(platform::Date(50, 3, 1));
-  EXPECT_EQ(picker.Date(), platform::Date(50, 3, 1));
-}
 
 class UpDownTest : public ::testing::Test {
  protected:

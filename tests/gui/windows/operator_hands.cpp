@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -12,6 +11,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "ferrowind/adapters/qt/controls/date_field.h"
 #include "ferrowind/adapters/qt/grid/grid_header.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
 
@@ -83,15 +83,9 @@ void ChooseItem(QWidget& window, const std::string& name, const std::string& tex
 }
 
 void TypeDate(QWidget& window, const std::string& name, const QDate& date) {
-  auto& edit = Find<QDateEdit>(window, name);
-  TabTo(edit);
-  // The month first, so that the day is not cut to the length of a shorter one.
-  Press(edit, Qt::Key_End);
-  while (edit.date().month() < date.month()) Press(edit, Qt::Key_Up);
-  while (edit.date().month() > date.month()) Press(edit, Qt::Key_Down);
-  Press(edit, Qt::Key_Home);
-  while (edit.date().day() < date.day()) Press(edit, Qt::Key_Up);
-  while (edit.date().day() > date.day()) Press(edit, Qt::Key_Down);
+  auto& field = Find<qt::DateField>(window, name);
+  TabTo(field);
+  QTest::keyClicks(&field, field.locale().toString(date, QStringLiteral("d MMMM")));
 }
 
 // Toolbar and menus

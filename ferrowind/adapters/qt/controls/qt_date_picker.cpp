@@ -1,11 +1,7 @@
 #include "ferrowind/adapters/qt/controls/qt_date_picker.h"
 
-#include <QCalendarWidget>
 #include <QLocale>
-#include <QSignalBlocker>
 #include <array>
-
-#include "ferrowind/adapters/qt/controls/calendar_popup_keys.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -42,26 +38,18 @@ QString QtDateFormat(const QString& format) {
   return converted + Quoted(literal);
 }
 
-QtDatePicker::QtDatePicker(QDateEdit& edit)
-    : QtControl(edit), edit_(edit), date_(FromQt(QDate::currentDate())) {
-  edit_.setLocale(QLocale::system());
-  edit_.setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-  edit_.setCalendarPopup(true);
-  new CalendarPopupKeys(edit_);
-  edit_.setDate(ToQt(date_));
-  QObject::connect(&edit_, &QDateEdit::dateChanged, Context(),
-                   [this](const QDate& date) { date_ = FromQt(date); });
-}
-
-platform::Date QtDatePicker::Date() const { return date_; }
-
-void QtDatePicker::SetDate(const platform::Date& date) {
-  edit_.setDate(ToQt(date));
-  date_ = date;
+QtDatePicker::QtDatePicker(DateField& field) : QtControl(field), field_(field) {
+  field_.setLocale(QLocale::system());
 }
 
 void QtDatePicker::SetCustomFormat(const std::string& format) {
-  edit_.setDisplayFormat(QtDateFormat(ToQt(format)));
+  field_.SetFormat(QtDateFormat(ToQt(format)));
+}
+
+bool QtDatePicker::RequireDate() {
+  if (field_.TakeTyped()) return true;
+  SetFocus();
+  return false;
 }
 
 }  // namespace ferrowind::qt

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDateEdit>
-
+#include "ferrowind/adapters/qt/controls/date_field.h"
 #include "ferrowind/adapters/qt/controls/qt_control.h"
 #include "ferrowind/platform/toolkit/date_picker.h"
 
@@ -9,16 +8,15 @@ namespace ferrowind::qt {
 
 class QtDatePicker : public QtControl<platform::DatePicker> {
  public:
-  explicit QtDatePicker(QDateEdit& edit);
+  explicit QtDatePicker(DateField& field);
 
-  [[nodiscard]] platform::Date Date() const override;
-  void SetDate(const platform::Date& date) override;
+  [[nodiscard]] platform::Date Date() const override { return FromQt(field_.Date()); }
+  void SetDate(const platform::Date& date) override { field_.SetDate(ToQt(date)); }
   void SetCustomFormat(const std::string& format) override;
+  [[nodiscard]] bool RequireDate() override;
 
  private:
-  QDateEdit& edit_;
-  /// Kept apart, since the edit shows no year before 100.
-  platform::Date date_;
+  DateField& field_;
 };
 
 /// The picker's format as Qt writes it: what is not one of "d", "MMMM" and "yyyy" is quoted.

@@ -56,7 +56,7 @@ std::unique_ptr<platform::Control> MakeControl(ControlKind kind, QWidget& widget
     case ControlKind::kDropDownList:
       return MakeOver<QtDropDownList, QComboBox>(widget);
     case ControlKind::kDatePicker:
-      return MakeOver<QtDatePicker, QDateEdit>(widget);
+      return MakeOver<QtDatePicker, DateField>(widget);
     case ControlKind::kUpDown:
       return MakeOver<QtUpDown, UpDownArrows>(widget);
     case ControlKind::kFrame:

@@ -1,10 +1,12 @@
 #include "ferrowind/adapters/qt/forms/design_traits.h"
 
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSet>
 
 #include "ferrowind/adapters/qt/controls/captioned.h"
+#include "ferrowind/adapters/qt/controls/select_on_focus.h"
 #include "ferrowind/adapters/qt/forms/dialog_keys.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/toolkit/button.h"
@@ -31,6 +33,13 @@ void ApplyButtonRole(const FormWindow& window, const platform::ControlDesign& de
   button->setAutoDefault(true);
   button->setDefault(design.is_default_button);
   if (design.is_cancel_button) SetCancelButton(*button);
+}
+
+void ApplyTyping(FormWindow& window, const platform::ControlDesign& design) {
+  auto* line = window.findChild<QLineEdit*>(ToQt(design.name));
+  if (line == nullptr || !design.takes_typing) return;
+  new SelectOnFocus(*line);
+  window.SetTypingTarget(*line);
 }
 
 void ApplyMnemonics(const FormControls& controls) {
@@ -60,10 +69,11 @@ void ApplyTabOrder(const FormWindow& window, const FormControls& controls) {
 
 }  // namespace
 
-void ApplyDesign(const FormWindow& window, const platform::FormDesign& design, const FormControls& controls) {
+void ApplyDesign(FormWindow& window, const platform::FormDesign& design, const FormControls& controls) {
   for (std::size_t i = 0; i < controls.size(); ++i) {
     ApplyText(window, design.controls[i].text, *controls[i]);
     ApplyButtonRole(window, design.controls[i]);
+    ApplyTyping(window, design.controls[i]);
   }
   ApplyMnemonics(controls);
   ApplyTabOrder(window, controls);

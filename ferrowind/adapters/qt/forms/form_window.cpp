@@ -87,6 +87,8 @@ void FormWindow::SetBorder(FormBorder border) {
   setWindowFlags(FlagsOf(border));
 }
 
+void FormWindow::SetTypingTarget(QLineEdit& line) { typing_target_ = &line; }
+
 void FormWindow::SetDesignedSize(const QSize& size) {
   designed_size_ = size;
   if (IsFixed()) {
@@ -147,7 +149,18 @@ void FormWindow::hideEvent(QHideEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (!PressButtonOfKey(*this, *event)) event->ignore();
+  if (!PressButtonOfKey(*this, *event) && !TypeIntoTarget(*event)) event->ignore();
+}
+
+bool FormWindow::TypeIntoTarget(QKeyEvent& event) {
+  constexpr auto kOfText = Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
+  const QString text = event.text();
+  const bool is_text =
+      !text.isEmpty() && text[0].isPrint() && (event.modifiers() & ~kOfText) == Qt::NoModifier;
+  if (!is_text || typing_target_ == nullptr || typing_target_->hasFocus() || !typing_target_->isEnabled())
+    return false;
+  typing_target_->setFocus();
+  return typing_target_->event(&event);
 }
 
 void FormWindow::moveEvent(QMoveEvent* event) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QLineEdit>
+#include <QPointer>
 #include <functional>
 #include <memory>
 
@@ -29,6 +31,9 @@ class FormWindow : public QDialog {
   /// Sets the window's frame; to be called before it is first shown, with its controls in place.
   void SetBorder(platform::FormBorder border);
   [[nodiscard]] platform::FormBorder Border() const { return border_; }
+  /// The line edit, of this window, that takes what is typed while the focus is on a widget that takes no
+  /// text.
+  void SetTypingTarget(QLineEdit& line);
   /// The size of the client area, in pixels. Dialogs of fixed size grow beyond it as far as their texts need;
   /// other windows are no larger than what is free of the screen around its middle.
   void SetDesignedSize(const QSize& size);
@@ -60,10 +65,12 @@ class FormWindow : public QDialog {
  private:
   [[nodiscard]] bool IsFixed() const { return border_ != platform::FormBorder::kSizable; }
   [[nodiscard]] QSize FrameExtents() const;
+  bool TypeIntoTarget(QKeyEvent& event);
   void FitToTexts();
   void MakeUpForFrame();
 
   Callbacks callbacks_;
+  QPointer<QLineEdit> typing_target_;
   platform::FormBorder border_ = platform::FormBorder::kSizable;
   QSize designed_size_;
   /// The outer size that was asked for, until the operator resizes the window; empty for none.

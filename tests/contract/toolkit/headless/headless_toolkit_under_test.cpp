@@ -54,11 +54,20 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
   void TypeText(platform::TextBox& text_box, const std::string& text) override {
     As<HeadlessTextBox>(text_box).TypeText(text);
   }
+  void PressTextKeys(platform::Form& form, const std::string& text) override {
+    As<HeadlessForm>(form).TypeText(text);
+  }
   void Choose(platform::DropDownList& list, const std::string& item) override {
     As<HeadlessDropDownList>(list).ChooseByOperator(item);
   }
   void PickDate(platform::DatePicker& picker, const platform::Date& date) override {
     As<HeadlessDatePicker>(picker).PickDate(date);
+  }
+  void TypeNoDate(platform::DatePicker& picker) override {
+    As<HeadlessDatePicker>(picker).TypeNoDate("31 Foo");
+  }
+  [[nodiscard]] bool ShowsRefusal(platform::DatePicker& picker) override {
+    return !As<HeadlessDatePicker>(picker).RefusedText().empty();
   }
   void StepUp(platform::UpDown& up_down) override { As<HeadlessUpDown>(up_down).StepUp(); }
   void StepDown(platform::UpDown& up_down) override { As<HeadlessUpDown>(up_down).StepDown(); }

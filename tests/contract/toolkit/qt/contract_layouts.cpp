@@ -1,7 +1,6 @@
 #include "tests/contract/toolkit/qt/contract_layouts.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +10,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "ferrowind/adapters/qt/controls/date_field.h"
 #include "ferrowind/adapters/qt/controls/tree_view.h"
 #include "ferrowind/adapters/qt/controls/up_down_arrows.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
@@ -33,7 +33,7 @@ void BuildContract(QDialog& window) {
   layout->addWidget(Named<QPushButton>("cmdPush"));
   layout->addWidget(Named<QLabel>("lblText"));
   layout->addWidget(Named<QComboBox>("cmbList"));
-  layout->addWidget(Named<QDateEdit>("dtpDay"));
+  layout->addWidget(Named<qt::DateField>("dtpDay"));
   layout->addWidget(Named<qt::UpDownArrows>("udNumber"));
   auto* frame = Named<QGroupBox>("fraBox");
   (new QVBoxLayout(frame))->addWidget(Named<QLineEdit>("txtInside"));

@@ -1,16 +1,17 @@
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <cstdlib>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/qt/controls/date_field.h"
 #include "ferrowind/adapters/qt/controls/element.h"
 #include "ferrowind/adapters/qt/controls/tree_model.h"
 #include "ferrowind/adapters/qt/controls/tree_view.h"
@@ -94,6 +95,14 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     for (const QChar character : qt::ToQt(text))
       QTest::sendKeyEvent(QTest::Click, &line, Qt::Key_unknown, character, {});
   }
+  void PressTextKeys(platform::Form& form, const std::string& text) override {
+    auto& window = WidgetOf<QWidget>(form);
+    for (const char character : text) {
+      Activate(window);
+      QWidget* focused = window.focusWidget();
+      QTest::keyClick(focused != nullptr ? focused : &window, character);
+    }
+  }
   void Choose(platform::DropDownList& list, const std::string& item) override {
     auto& box = WidgetOf<QComboBox>(list);
     Activate(box);
@@ -101,12 +110,23 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     QTest::keyClicks(&box, qt::ToQt(item));
   }
   void PickDate(platform::DatePicker& picker, const platform::Date& date) override {
-    auto& edit = WidgetOf<QDateEdit>(picker);
-    Activate(edit);
-    edit.setFocus();
-    edit.setSelectedSection(QDateTimeEdit::DaySection);
-    const int days = date.Day() - edit.date().day();
-    for (int day = 0; day < days; ++day) QTest::keyClick(&edit, Qt::Key_Up);
+    auto& field = WidgetOf<qt::DateField>(picker);
+    Activate(field);
+    field.setFocus();
+    const auto days = field.Date().daysTo(qt::ToQt(date));
+    for (qint64 day = 0; day < std::abs(days); ++day)
+      QTest::keyClick(&field, days > 0 ? Qt::Key_Up : Qt::Key_Down);
+  }
+  void TypeNoDate(platform::DatePicker& picker) override {
+    auto& field = WidgetOf<qt::DateField>(picker);
+    Activate(field);
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, QStringLiteral("31 Foo"));
+  }
+  [[nodiscard]] bool ShowsRefusal(platform::DatePicker& picker) override {
+    const auto& field = WidgetOf<qt::DateField>(picker);
+    return field.IsRefused() && field.text() == QLatin1String("31 Foo");
   }
   void StepUp(platform::UpDown& up_down) override {
     QTest::mouseClick(Arrows(up_down).at(0), Qt::LeftButton);

@@ -123,6 +123,43 @@ TEST(HolidayEditor, BothPickersShowDayAndMonthWithTwoBlanksBetween) {
   });
 }
 
+TEST(HolidayEditor, ShowsTodayInTheYearOfTheCalendarInBothPickers) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.editor->SetYear(2028);
+    ASSERT_TRUE(world.InitToAdd());
+    EXPECT_EQ(world.FullDate().Date(), Date(2028, 1, 15));
+    EXPECT_EQ(world.HolidayPoint().Date(), Date(2028, 1, 15));
+  });
+}
+
+TEST(HolidayEditor, ShowsTheLastOfFebruaryForALeapDayInACalendarOfACommonYear) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.FullDate().SetDate(Date(2028, 2, 29));
+    world.editor->SetYear(2027);
+    EXPECT_EQ(world.FullDate().Date(), Date(2027, 2, 28));
+  });
+}
+
+TEST(HolidayEditor, KeepsItsYearForACalendarWhoseYearIsNone) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    for (const std::int32_t year : {0, -1, 10000, 2147483647, -2147483647 - 1}) world.editor->SetYear(year);
+    EXPECT_EQ(world.FullDate().Date(), Date(2026, 1, 15));
+    EXPECT_TRUE(world.Messages().empty());
+  });
+}
+
+TEST(HolidayEditor, ToEditADatedRuleShowsItsDateWhateverTheYearOfTheCalendar) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.editor->SetYear(2028);
+    ASSERT_TRUE(world.InitToEdit({8, "Christmas Day", "", 3, Date(1999, 12, 25), 12, 25, {}, {}}));
+    EXPECT_EQ(world.FullDate().Date(), Date(1999, 12, 25));
+  });
+}
+
 struct TypeLook {
   const char* type;
   bool weekday;

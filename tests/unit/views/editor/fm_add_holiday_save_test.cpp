@@ -96,6 +96,95 @@ TEST(HolidayEditorSave, ARuleOfAFurtherTypeTakesTheHiddenHolidayPointPicker) {
   });
 }
 
+TEST(HolidayEditorSave, ADateThatCannotBeReadIsNotSavedAndTheDialogStaysOnIt) {
+  for (const std::int32_t type : {1, 2}) {
+    RunInFreshThread([&] {
+      EditorWorld world;
+      ASSERT_TRUE(world.InitToAdd());
+      world.Types().Choose(type);
+      world.NameBox().SetText("Celebration");
+      auto& picker = type == 1 ? world.FullDate() : world.HolidayPoint();
+      world.Show([&](headless::HeadlessForm& form) {
+        picker.TypeNoDate("31 April");
+        form.Part<headless::HeadlessButton>("cmdOk").Click();
+        EXPECT_TRUE(form.IsShown());
+        EXPECT_EQ(form.FocusedControl(), picker.Name());
+        EXPECT_EQ(picker.RefusedText(), "31 April");
+        EXPECT_EQ(world.world.toolkit.BeepCount(), 1);
+        EXPECT_TRUE(world.world.commands.Calls().empty());
+        picker.PickDate(Date(2026, 4, 30));
+        form.Part<headless::HeadlessButton>("cmdOk").Click();
+      });
+      ASSERT_EQ(world.world.commands.CallsOf("CldIUCelebrate").size(), 1u);
+      EXPECT_EQ(world.world.commands.CallsOf("CldIUCelebrate")[0].Parameter("@D1"), Value(Date(2026, 4, 30)));
+      EXPECT_TRUE(world.Messages().empty());
+    });
+  }
+}
+
+TEST(HolidayEditorSave, ADateThatCannotBeReadCanStillBeCancelled) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    ASSERT_TRUE(world.InitToAdd());
+    world.Types().Choose(1);
+    world.NameBox().SetText("Celebration");
+    world.Show([&](headless::HeadlessForm& form) {
+      world.FullDate().TypeNoDate("31 April");
+      form.Part<headless::HeadlessButton>("cmdOk").Click();
+      form.Part<headless::HeadlessButton>("cmdCancel").Click();
+    });
+    EXPECT_EQ(world.editor->Result(), 1);
+    EXPECT_TRUE(world.world.commands.Calls().empty());
+  });
+}
+
+TEST(HolidayEditorSave, OnlyTheDateOfTheChosenTypeHasToBeOne) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    ASSERT_TRUE(world.InitToAdd());
+    world.NameBox().SetText("Celebration");
+    world.Show([&](headless::HeadlessForm& form) {
+      world.Types().ChooseByOperator("Holiday point");
+      world.HolidayPoint().TypeNoDate("31 April");
+      world.Types().ChooseByOperator("Celebration");
+      form.Part<headless::HeadlessButton>("cmdOk").Click();
+    });
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUCelebrate").size(), 1u);
+  });
+}
+
+TEST(HolidayEditorSave, AHiddenPickerGivesTheLastDayThatItShowed) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.types = std::make_shared<platform::RecordSet>(
+        std::vector<std::string>{"TID1", "Description1"},
+        std::vector<std::vector<Value>>{{4, "Holiday point"}, {5, "Special"}});
+    ASSERT_TRUE(world.InitToAdd());
+    world.NameBox().SetText("Odd");
+    world.Show([&](headless::HeadlessForm& form) {
+      world.Types().ChooseByOperator("Holiday point");
+      world.HolidayPoint().PickDate(Date(2026, 6, 2));
+      world.HolidayPoint().TypeNoDate("31 April");
+      world.Types().ChooseByOperator("Special");
+      form.Part<headless::HeadlessButton>("cmdOk").Click();
+    });
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUCelebrate").at(0).Parameter("@D1"), Value(Date(2026, 6, 2)));
+  });
+}
+
+TEST(HolidayEditorSave, ANewRuleLiesInTheYearOfTheCalendar) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    world.editor->SetYear(2028);
+    ASSERT_TRUE(world.InitToAdd());
+    world.Types().Choose(1);
+    world.NameBox().SetText("Today");
+    world.ClickOk();
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUCelebrate").at(0).Parameter("@D1"),
+              Value(Date(2028, 1, 15)));
+  });
+}
+
 TEST(HolidayEditorSave, AnEditedRuleIsNamedByItsIdentifierLast) {
   RunInFreshThread([] {
     EditorWorld world;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/headless/headless_date_picker.h"
 #include "ferrowind/adapters/headless/headless_drop_down_list.h"
 
 #include "tests/support/run_in_fresh_thread.h"
@@ -164,6 +165,20 @@ TEST(AssignHolidays, TheAssignmentRunsWhileTheWindowThatOpenedItShowsThatItIsBus
       world.Action(5).Click();
     });
     EXPECT_EQ(calls_around, (std::vector<std::size_t>{0, 2}));
+  });
+}
+
+TEST(AddHoliday, HandsTheYearOfItsCalendarToTheEditor) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    world.SetRules(HolidaysWorld::UsualRules());
+    ASSERT_TRUE(world.Init(1, 2028));
+    world.world.toolkit.ScriptModal("fmAddHoliday", [&](headless::HeadlessForm& form) {
+      for (const char* picker : {"dtpFullDate", "dtpHolidayPoint"})
+        EXPECT_EQ(form.Part<headless::HeadlessDatePicker>(picker).Date(), Date(2028, 1, 15)) << picker;
+      form.Part<headless::HeadlessButton>("cmdCancel").Click();
+    });
+    world.Show([&] { world.Action(0).Click(); });
   });
 }
 
