@@ -31,9 +31,10 @@ platform::FormDesign Design() {
           {.kind = ControlKind::kButton, .name = "cmdCreate", .text = "Create", .is_default_button = true},
           {.kind = ControlKind::kButton, .name = "cmdCancel", .text = "Cancel", .is_cancel_button = true},
           {ControlKind::kPanel, "pct"},
-          {ControlKind::kTextBox, "txtYear"},
+          {.kind = ControlKind::kTextBox, .name = "txtYear", .takes_typing = true},
           {ControlKind::kUpDown, "udYear"},
-          {ControlKind::kLabel, "lblCreate", "Create new calendar on "}}};
+          {ControlKind::kLabel, "lblCreate", "Create new calendar on "},
+          {ControlKind::kLabel, "lblRange", "The year of a calendar is from 1900 to 3000."}}};
 }
 
 /// The year that the text stands for, or nothing when it holds no number.
@@ -45,17 +46,35 @@ std::optional<std::int32_t> YearIn(const std::string& text) {
   }
 }
 
+/// Whether a year that a calendar can have begins with the text, so that it may just not be whole yet.
+bool CanBecomeYear(const std::string& text) {
+  std::int32_t lowest = 0;
+  std::int32_t highest = 0;
+  for (std::int32_t place = 0; place < kYearDigits; ++place) {
+    const bool is_typed = place < static_cast<std::int32_t>(text.size());
+    const char digit = is_typed ? text[static_cast<std::size_t>(place)] : '0';
+    if (digit < '0' || digit > '9') return false;
+    lowest = lowest * 10 + (digit - '0');
+    highest = highest * 10 + (is_typed ? digit - '0' : 9);
+  }
+  return lowest <= kLastYear && highest >= kFirstYear && text.size() <= kYearDigits;
+}
+
 }  // namespace
 
 fmSelectYear::fmSelectYear(const platform::Platform& platform)
     : platform_(platform),
       form_(platform.toolkit.CreateForm(Design())),
       year_field_(ControlOf<platform::TextBox>(*form_, "txtYear")),
-      spinner_(ControlOf<platform::UpDown>(*form_, "udYear")) {
+      spinner_(ControlOf<platform::UpDown>(*form_, "udYear")),
+      range_note_(ControlOf<platform::Label>(*form_, "lblRange")) {
+  range_note_.SetVisible(false);
   year_field_.SetMaxLength(kYearDigits);
   spinner_.SetRange(kFirstYear, kLastYear, 1);
   loaded_ = form_->OnLoad([this] { RunHandler([this] { Load(); }); });
   spinner_changed_ = spinner_.OnChange([this] { RunHandler([this] { ShowSpinnerYear(); }); });
+  year_changed_ =
+      year_field_.OnChange([this] { RunHandler([this] { ShowNote(!CanBecomeYear(year_field_.Text())); }); });
   create_clicked_ =
       ControlOf<Button>(*form_, "cmdCreate").OnClick([this] { RunHandler([this] { Create(); }); });
   cancel_clicked_ =
@@ -77,9 +96,14 @@ void fmSelectYear::Load() {
 // intention.
 void fmSelectYear::ShowSpinnerYear() { year_field_.SetText(platform::ToText(spinner_.Value())); }
 
+void fmSelectYear::ShowNote(bool is_needed) {
+  if (range_note_.Visible() != is_needed) range_note_.SetVisible(is_needed);
+}
+
 void fmSelectYear::Create() {
   const auto year = YearIn(year_field_.Text());
   if (!year) {
+    ShowNote(true);
     platform_.toolkit.Beep();
     year_field_.SetFocus();
     year_field_.SelectAll();

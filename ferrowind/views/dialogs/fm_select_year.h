@@ -35,6 +35,7 @@ class fmSelectYear {
  private:
   void Load();
   void ShowSpinnerYear();
+  void ShowNote(bool is_needed);
   void Create();
   void Store(std::int32_t year);
   void Cancel();
@@ -43,11 +44,13 @@ class fmSelectYear {
   std::shared_ptr<platform::Form> form_;
   platform::TextBox& year_field_;
   platform::UpDown& spinner_;
+  platform::Label& range_note_;
   std::int32_t currency_id_ = 0;
   std::int32_t result_ = 0;
   std::int32_t year_ = 0;
   platform::Subscription loaded_;
   platform::Subscription spinner_changed_;
+  platform::Subscription year_changed_;
   platform::Subscription create_clicked_;
   platform::Subscription cancel_clicked_;
 };

@@ -1,5 +1,7 @@
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDate>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "tests/gui/windows/windows_fixture.h"
@@ -57,6 +59,46 @@ TEST_F(NewYearTest, CreatesTheCalendarOnEnterAndSelectsIt) {
   EXPECT_EQ(RowsOf(Days()), 366);
   EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldDay WHERE ID1 = 826 AND Year1 = 2032 AND TID1 = 1"),
             "366");
+}
+
+TEST_F(NewYearTest, TakesTheTypedYearAtOnce) {
+  InDialog([](QWidget& dialog) {
+    Activate(dialog);
+    EXPECT_TRUE(Find<QWidget>(dialog, "cmdCreate").hasFocus());
+    for (const char digit : std::string("2032")) QTest::keyClick(QApplication::focusWidget(), digit);
+    EXPECT_EQ(Year(dialog), "2032");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  EXPECT_THAT(SelectedNode(Tree()), ElementsAre("GBP", "2032"));
+}
+
+TEST_F(NewYearTest, ReplacesTheYearAfterAClickIntoTheField) {
+  InDialog([](QWidget& dialog) {
+    Activate(dialog);
+    auto& field = Find<QLineEdit>(dialog, "txtYear");
+    Click(field);
+    QTest::keyClicks(&field, QStringLiteral("2033"));
+    EXPECT_EQ(Year(dialog), "2033");
+    // A second click goes into the text.
+    Click(field);
+    EXPECT_FALSE(field.hasSelectedText());
+  });
+}
+
+TEST_F(NewYearTest, TellsTheRangeOfYearsWhileAnotherIsTyped) {
+  InDialog([](QWidget& dialog) {
+    Activate(dialog);
+    auto& note = Find<QLabel>(dialog, "lblRange");
+    EXPECT_FALSE(note.isVisible());
+    TypeInto(dialog, "txtYear", "1800");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(note.isVisible());
+    EXPECT_EQ(note.text().toStdString(), "The year of a calendar is from 1900 to 3000.");
+    EXPECT_TRUE(dialog.rect().contains(note.geometry())) << "the dialog grows with it";
+    TypeInto(dialog, "txtYear", "1900");
+    EXPECT_FALSE(note.isVisible());
+  });
 }
 
 TEST_F(NewYearTest, CreatesNothingOnEsc) {

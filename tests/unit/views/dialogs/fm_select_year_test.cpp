@@ -299,6 +299,79 @@ TEST(SelectYear, AFieldThatHoldsNoNumberIsRefusedBeforeAnythingIsStored) {
   }
 }
 
+bool ShowsRange(HeadlessForm& form) { return form.ControlNamed("lblRange").Visible(); }
+
+TEST(SelectYear, TakesAYearThatIsTypedAtOnceInPlaceOfTheCurrentOne) {
+  RunInFreshThread([] {
+    SelectYearWorld year;
+    year.Show([](HeadlessForm& form) {
+      EXPECT_EQ(form.FocusedControl(), "cmdCreate");
+      form.TypeText("2040");
+      EXPECT_EQ(YearIn(form), "2040");
+      form.PressEnter();
+    });
+    EXPECT_EQ(year.dialog.EnterYear(), 2040);
+  });
+}
+
+TEST(SelectYear, ReplacesItsYearWhenTheOperatorGoesToTheField) {
+  RunInFreshThread([] {
+    SelectYearWorld year;
+    year.Show([](HeadlessForm& form) {
+      form.Part<HeadlessTextBox>("txtYear").TypeText("2041");
+      EXPECT_EQ(YearIn(form), "2041");
+      Cancel(form);
+    });
+  });
+}
+
+TEST(SelectYear, TellsTheRangeOfYearsWhileTheFieldHoldsAnotherOne) {
+  for (const char* text : {"1800", "1899", "3001", "18", "0", "4", "31", "77", "year", "20x6", " 203"}) {
+    RunInFreshThread([text] {
+      SCOPED_TRACE(text);
+      SelectYearWorld year;
+      year.Show([&](HeadlessForm& form) {
+        EXPECT_EQ(form.Part<headless::HeadlessLabel>("lblRange").Text(),
+                  "The year of a calendar is from 1900 to 3000.");
+        EXPECT_FALSE(ShowsRange(form));
+        Type(form, text);
+        EXPECT_TRUE(ShowsRange(form));
+        Type(form, "1900");
+        EXPECT_FALSE(ShowsRange(form));
+        Cancel(form);
+      });
+    });
+  }
+}
+
+TEST(SelectYear, TellsNoRangeForAYearOfItNorForItsBeginning) {
+  for (const char* text : {"1900", "3000", "2027", "2", "1", "19", "30", "300", "3", ""}) {
+    RunInFreshThread([text] {
+      SCOPED_TRACE(text);
+      SelectYearWorld year;
+      year.Show([&](HeadlessForm& form) {
+        Type(form, text);
+        EXPECT_FALSE(ShowsRange(form));
+        Cancel(form);
+      });
+    });
+  }
+}
+
+TEST(SelectYear, TellsTheRangeWhenAFieldWithoutAYearIsRefused) {
+  RunInFreshThread([] {
+    SelectYearWorld year;
+    year.Show([](HeadlessForm& form) {
+      Type(form, "");
+      Create(form);
+      EXPECT_TRUE(ShowsRange(form));
+      Step(form, 1);
+      EXPECT_FALSE(ShowsRange(form));
+      Cancel(form);
+    });
+  });
+}
+
 TEST(SelectYear, ARefusedFieldCanStillBeCancelled) {
   RunInFreshThread([] {
     SelectYearWorld year;
