@@ -34,7 +34,7 @@ platform::FormDesign Design() {
           {.kind = ControlKind::kTextBox, .name = "txtYear", .takes_typing = true},
           {ControlKind::kUpDown, "udYear"},
           {ControlKind::kLabel, "lblCreate", "Create new calendar on "},
-          {ControlKind::kLabel, "lblRange", "The year of a calendar is from 1900 to 3000."}}};
+          {ControlKind::kLabel, "lblRange", "A calendar's year is 1900 to 3000."}}};
 }
 
 /// The year that the text stands for, or nothing when it holds no number.

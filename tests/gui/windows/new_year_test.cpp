@@ -94,7 +94,7 @@ TEST_F(NewYearTest, TellsTheRangeOfYearsWhileAnotherIsTyped) {
     TypeInto(dialog, "txtYear", "1800");
     QCoreApplication::processEvents();
     EXPECT_TRUE(note.isVisible());
-    EXPECT_EQ(note.text().toStdString(), "The year of a calendar is from 1900 to 3000.");
+    EXPECT_EQ(note.text().toStdString(), "A calendar's year is 1900 to 3000.");
     EXPECT_TRUE(dialog.rect().contains(note.geometry())) << "the dialog grows with it";
     TypeInto(dialog, "txtYear", "1900");
     EXPECT_FALSE(note.isVisible());

@@ -332,7 +332,7 @@ TEST(SelectYear, TellsTheRangeOfYearsWhileTheFieldHoldsAnotherOne) {
       SelectYearWorld year;
       year.Show([&](HeadlessForm& form) {
         EXPECT_EQ(form.Part<headless::HeadlessLabel>("lblRange").Text(),
-                  "The year of a calendar is from 1900 to 3000.");
+                  "A calendar's year is 1900 to 3000.");
         EXPECT_FALSE(ShowsRange(form));
         Type(form, text);
         EXPECT_TRUE(ShowsRange(form));
