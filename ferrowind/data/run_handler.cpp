@@ -9,11 +9,24 @@ namespace ferrowind {
 
 void RunHandler(const std::function<void()>& body) noexcept {
   try {
-    body();
+    RunStep(body);
+  } catch (const platform::Interruption&) {
+    // Nobody is left to tell, nor anything to do.
+    TraceFailureBeingHandled();
+  }
+}
+
+void RunStep(const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const platform::Interruption&) {
+    throw;
   } catch (const std::exception&) {
     try {
       const RuntimeFailureScope caught;
       ShowPendingFailures();
+    } catch (const platform::Interruption&) {
+      throw;
     } catch (const std::exception&) {
       // The report itself failed: there is no one left to tell, and the host must live on.
     }

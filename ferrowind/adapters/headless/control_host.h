@@ -15,8 +15,8 @@ class ControlHost {
  public:
   virtual ~ControlHost() = default;
   [[nodiscard]] virtual CallLog& Log() = 0;
-  /// Keeps the form and its controls alive while one of them raises an event, whose handler may drop the
-  /// form.
+  /// Keeps the form and its controls alive, and at work, while one of them raises an event, whose handler may
+  /// drop the form. To be held on the stack only, as those kept later are let go first.
   [[nodiscard]] virtual std::shared_ptr<void> Keep() = 0;
   /// Gives the keyboard focus to a control; the one that had it raises its loss.
   virtual void MoveFocusTo(ControlCore& control) = 0;

@@ -46,6 +46,7 @@ HeadlessForm::HeadlessForm(std::shared_ptr<ToolkitState> toolkit, platform::Form
 }
 
 HeadlessForm::~HeadlessForm() {
+  InterruptModalForms();
   // A lock on what no longer exists is off.
   if (toolkit_->locked == this) toolkit_->locked = nullptr;
   for (const auto& [name, control] : controls_) {
@@ -132,26 +133,34 @@ void HeadlessForm::Show() {
 
 void HeadlessForm::ShowModal() {
   Log().Record(CallText(Name(), "ShowModal"));
+  const HeadlessForm* const owner = ModalOwner();
   const auto keep = Keep();
   LoadOnce();
   if (has_unloaded_) return;
 
   class InFront {
    public:
-    InFront(ToolkitState& toolkit, HeadlessForm* form) : toolkit_(toolkit) {
-      toolkit_.modal_forms.push_back(form);
+    InFront(ToolkitState& toolkit, ModalForm shown) : toolkit_(toolkit) {
+      toolkit_.modal_forms.push_back(shown);
     }
     ~InFront() { toolkit_.modal_forms.pop_back(); }
     InFront(const InFront&) = delete;
     InFront& operator=(const InFront&) = delete;
+    [[nodiscard]] bool IsInterrupted() const { return toolkit_.modal_forms.back().is_interrupted; }
 
    private:
     ToolkitState& toolkit_;
   };
-  const InFront in_front(*toolkit_, this);
+  const InFront in_front(*toolkit_, {.form = this, .owner = owner});
   Appear();
   // A handler of the form's own events may have hidden it already.
-  if (!is_shown_) return;
+  if (is_shown_) RunModalScript();
+  if (in_front.IsInterrupted()) {
+    throw platform::Interruption("The window that the form " + Name() + " belongs to has closed");
+  }
+}
+
+void HeadlessForm::RunModalScript() {
   auto& scripts = toolkit_->modal_scripts[Name()];
   if (scripts.empty()) {
     is_shown_ = false;
@@ -168,6 +177,26 @@ void HeadlessForm::ShowModal() {
   if (is_shown_) {
     is_shown_ = false;
     Errors().Raise("The script of the modal form " + Name() + " ended and left the form open");
+  }
+}
+
+const HeadlessForm* HeadlessForm::ModalOwner() const {
+  const auto& forms = toolkit_->forms_at_work;
+  const auto owner = std::find_if(forms.rbegin(), forms.rend(), [this](const HeadlessForm* form) {
+    return form != this && form->is_shown_;
+  });
+  return owner == forms.rend() ? nullptr : *owner;
+}
+
+void HeadlessForm::InterruptModalForms() {
+  std::vector<const HeadlessForm*> gone{this};
+  for (ModalForm& modal : toolkit_->modal_forms) {
+    if (std::find(gone.begin(), gone.end(), modal.owner) == gone.end()) continue;
+    gone.push_back(modal.form);
+    // One that is hidden already was answered just before.
+    if (!modal.form->is_shown_) continue;
+    modal.is_interrupted = true;
+    modal.form->is_shown_ = false;
   }
 }
 
@@ -199,6 +228,7 @@ bool HeadlessForm::Close() {
   }
   has_unloaded_ = true;
   is_shown_ = false;
+  InterruptModalForms();
   return true;
 }
 
@@ -221,7 +251,7 @@ void HeadlessForm::PlaceAsDesigned() {
   float height = toolkit_->screen.height;
   const auto& modal = toolkit_->modal_forms;
   if (design_.start == platform::FormStart::kCenterOwner && modal.size() > 1) {
-    const HeadlessForm& owner = *modal[modal.size() - 2];
+    const HeadlessForm& owner = *modal[modal.size() - 2].form;
     left = owner.left_;
     top = owner.top_;
     width = owner.width_;
@@ -243,6 +273,22 @@ platform::Subscription HeadlessForm::OnCloseQuery(std::function<void(bool& cance
 
 // Input
 // ---------------------------------------------------------------------------------------------------------
+
+std::shared_ptr<void> HeadlessForm::Keep() {
+  class AtWork {
+   public:
+    explicit AtWork(std::shared_ptr<HeadlessForm> form) : form_(std::move(form)) {
+      form_->toolkit_->forms_at_work.push_back(form_.get());
+    }
+    ~AtWork() { form_->toolkit_->forms_at_work.pop_back(); }
+    AtWork(const AtWork&) = delete;
+    AtWork& operator=(const AtWork&) = delete;
+
+   private:
+    std::shared_ptr<HeadlessForm> form_;
+  };
+  return std::make_shared<AtWork>(shared_from_this());
+}
 
 void HeadlessForm::MoveFocusTo(ControlCore& control) {
   ControlCore* const loser = std::exchange(focused_, &control);
@@ -267,9 +313,9 @@ void HeadlessForm::RequireInput(const std::string& action) {
     Errors().Raise("The operator cannot do " + action + ": the form " + Name() + " is not shown");
   }
   const auto& modal = toolkit_->modal_forms;
-  if (!modal.empty() && modal.back() != this) {
+  if (!modal.empty() && modal.back().form != this) {
     Errors().Raise("The operator cannot do " + action + " on " + Name() + ": the modal form " +
-                   modal.back()->Name() + " is in front");
+                   modal.back().form->Name() + " is in front");
   }
 }
 

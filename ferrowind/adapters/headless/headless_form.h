@@ -51,7 +51,7 @@ class HeadlessForm : public platform::Form,
   [[nodiscard]] platform::Subscription OnCloseQuery(std::function<void(bool& cancel)> handler) override;
 
   [[nodiscard]] CallLog& Log() override { return toolkit_->log; }
-  [[nodiscard]] std::shared_ptr<void> Keep() override { return shared_from_this(); }
+  [[nodiscard]] std::shared_ptr<void> Keep() override;
   void MoveFocusTo(ControlCore& control) override;
   void RequireInput(const std::string& action) override;
   [[nodiscard]] ScriptErrors& Errors() override { return toolkit_->errors; }
@@ -95,6 +95,11 @@ class HeadlessForm : public platform::Form,
   void PlaceAsDesigned();
   void FocusFirstControl();
   bool Close();
+  /// The form that this one belongs to when it is shown modally now; null for none.
+  [[nodiscard]] const HeadlessForm* ModalOwner() const;
+  /// Hides the modal forms that belong to this one, directly or through another.
+  void InterruptModalForms();
+  void RunModalScript();
   void PressButton(const std::string& name);
 
   std::shared_ptr<ToolkitState> toolkit_;

@@ -19,6 +19,15 @@ class HeadlessForm;
 /// What the operator does with a modal form once it is shown.
 using ModalScript = std::function<void(HeadlessForm& form)>;
 
+/// A form that is shown modally.
+struct ModalForm {
+  HeadlessForm* form;
+  /// The form that it belongs to, null for none.
+  const HeadlessForm* owner;
+  /// Whether it went with its owner.
+  bool is_interrupted = false;
+};
+
 /// What a toolkit and the forms that it made have in common.
 struct ToolkitState {
   CallLog& log;
@@ -29,7 +38,9 @@ struct ToolkitState {
   /// The element that is locked against repainting, null for none.
   const platform::Element* locked = nullptr;
   /// The modal forms on show, the innermost last.
-  std::vector<HeadlessForm*> modal_forms = {};
+  std::vector<ModalForm> modal_forms = {};
+  /// The forms that events are being handled of, or that are shown modally, the innermost last.
+  std::vector<HeadlessForm*> forms_at_work = {};
   /// The scripts that wait, by the name of the form that they are for.
   std::map<std::string, std::deque<ModalScript>> modal_scripts = {};
   /// The paths that there is an animated image under.

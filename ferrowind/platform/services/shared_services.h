@@ -33,10 +33,15 @@ class SharedServices : public OutsideObject {
   /// are shown as information. `buttons`, `default_button`: 1 is a single "Ok". `owner` may be null: the
   /// active window. An empty `title` stands for the component's name. `modal`, `on_top`: true for a message
   /// that must be answered first. Returns the button pressed, which the component ignores.
+  ///
+  /// A message belongs to a window as a modal form does (`Form::ShowModal`) and goes with it: that, and the
+  /// end of the application while the message is on show, is an `Interruption`. Once the application is
+  /// ending nothing is shown.
   virtual std::int32_t ShowMessage(const std::string& text, std::int32_t style, std::int32_t buttons,
                                    std::int32_t default_button, Form* owner, const std::string& title,
                                    bool modal, bool on_top) = 0;
-  /// Reports one failure to the operator with its own number and text, and returns once it is answered.
+  /// Reports one failure to the operator with its own number and text, and returns once it is answered; as
+  /// `ShowMessage`.
   virtual void ReportError(std::int32_t number, const std::string& description) = 0;
 
   /// Makes `column` the grid's only sort key with that order: 1 ascending, -1 descending, 0 none.

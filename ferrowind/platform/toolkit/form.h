@@ -14,7 +14,7 @@ namespace ferrowind::platform {
 ///
 /// Positions and sizes are single-precision numbers in twips (1440 an inch); a form's size is its outer size.
 /// The form and its controls live until the last reference to the form is dropped, also after it was
-/// unloaded; dropping it before that unloads nothing and raises nothing.
+/// unloaded; dropping it before that unloads nothing and raises nothing, but hides what belongs to it.
 class Form : public Element {
  public:
   [[nodiscard]] virtual std::string Caption() const = 0;
@@ -39,15 +39,21 @@ class Form : public Element {
   virtual void Load() = 0;
   /// Loads the form where needed and shows it without an owner, beside the host's other windows.
   virtual void Show() = 0;
-  /// Loads the form where needed, shows it in front of the active window and returns when it is hidden or
-  /// unloaded; no other window takes input meanwhile. May be nested. When the application ends while the form
-  /// is on show, that hides it and is a failure, since nobody has answered.
+  /// Loads the form where needed, shows it and returns when it is hidden or unloaded; no other window takes
+  /// input meanwhile. May be nested.
+  ///
+  /// The form belongs to the one whose event is being handled or that is shown modally, the innermost of
+  /// those on show, else to the active window. When that is unloaded or dropped while this form is on show,
+  /// or when the application ends, this form is hidden and the call fails with an `Interruption`, since
+  /// nobody has answered. The call returns, and fails, only once the modal forms shown above this one are
+  /// gone.
   virtual void ShowModal() = 0;
   virtual void Hide() = 0;
   [[nodiscard]] virtual bool IsShown() const = 0;
-  /// Closes the form: raises `OnCloseQuery` when it was loaded and not yet unloaded, then hides it for good.
-  /// True when it is closed, false when a handler refused or the form is closing already.
-  /// After it, `Load`, `Show` and `ShowModal` do nothing.
+  /// Closes the form: raises `OnCloseQuery` when it was loaded and not yet unloaded, then hides it for good,
+  /// and with it the modal forms and messages that belong to it, which are not asked. True when it is closed,
+  /// false when a handler refused or the form is closing already. After it, `Load`, `Show` and `ShowModal` do
+  /// nothing.
   virtual bool Unload() = 0;
 
   [[nodiscard]] virtual Subscription OnLoad(std::function<void()> handler) = 0;

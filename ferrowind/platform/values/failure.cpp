@@ -7,6 +7,9 @@ namespace ferrowind::platform {
 Failure::Failure(std::int32_t number, std::string description)
     : number_(number), description_(std::move(description)) {}
 
+Interruption::Interruption(std::string description)
+    : Failure(failure_number::kInterrupted, std::move(description)) {}
+
 Failure DuplicateKey() {
   return {failure_number::kDuplicateKey, "This key is already associated with an element of this collection"};
 }

@@ -24,12 +24,22 @@ class Failure : public std::exception {
   std::string description_;
 };
 
+/// The failure of a dialog or message that nobody will answer any more: the window that it belongs to has
+/// closed, or the application is ending. Its number is `failure_number::kInterrupted`.
+///
+/// Whoever waited for the answer has nothing left to do, and nothing to tell the operator.
+class Interruption : public Failure {
+ public:
+  explicit Interruption(std::string description);
+};
+
 /// Failure numbers that hosts know from the platform this component's interface was defined on.
 namespace failure_number {
 inline constexpr std::int32_t kInvalidArgument = 5;
 inline constexpr std::int32_t kOverflow = 6;
 inline constexpr std::int32_t kSubscriptOutOfRange = 9;
 inline constexpr std::int32_t kTypeMismatch = 13;
+inline constexpr std::int32_t kInterrupted = 18;
 inline constexpr std::int32_t kObjectNotSet = 91;
 inline constexpr std::int32_t kInvalidUseOfNull = 94;
 inline constexpr std::int32_t kCannotCreateObject = 429;

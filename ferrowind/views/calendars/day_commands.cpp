@@ -61,22 +61,27 @@ void DayCommands::ExceptDayWithMessage() {
 }
 
 void DayCommands::AssignHolidays(std::int32_t mode) {
+  struct Forgetting {
+    ~Forgetting() { held.reset(); }
+    std::shared_ptr<HolidaysWindow>& held;
+  };
   holidays_window_ = window_.create_holidays_window();
   // Held here, because the window can be closed and forgotten while it is open.
   const auto window = holidays_window_;
+  const Forgetting forgetting{holidays_window_};
+  const SelectedDay day = TakeSelectedDay();
+  if (!window->Init(holiday_headers_, mode, day.year, day.currency_id, day.day_of_year)) {
+    window->Unload();
+    return;
+  }
   try {
-    const SelectedDay day = TakeSelectedDay();
-    if (window->Init(holiday_headers_, mode, day.year, day.currency_id, day.day_of_year)) {
-      window->ShowModal();
-      if (window->Result() == 1) window_.show_days_of_selected_node();
-    } else {
-      window->Unload();
-    }
-  } catch (...) {
-    holidays_window_.reset();
+    window->ShowModal();
+  } catch (const platform::Interruption&) {
+    // It keeps its place, also when the application ends over it.
+    window->Unload();
     throw;
   }
-  holidays_window_.reset();
+  if (window->Result() == 1) window_.show_days_of_selected_node();
 }
 
 void DayCommands::CreateNewCalendar() {

@@ -184,6 +184,7 @@ void fmCalendar::Form_Resize() {
 }
 
 void fmCalendar::Form_QueryUnload() {
+  has_closed_ = true;
   closing_.Emit();
   SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection);
   SaveWindowPlacement(*form_, placement_section_);
@@ -194,6 +195,7 @@ void fmCalendar::Form_QueryUnload() {
 // ----------------------------------------------------------------------------------------------------------------
 
 void fmCalendar::RefreshAll(std::int32_t currency_id, std::int32_t year, const std::string& key) {
+  if (has_closed_) return;
   WhileAnimated([&] {
     {
       const UpdateLock lock(platform_.toolkit, sssp_);
@@ -207,8 +209,14 @@ void fmCalendar::RefreshAll(std::int32_t currency_id, std::int32_t year, const s
 
 void fmCalendar::WhileAnimated(const std::function<void()>& work) {
   IgnoringFailure([&] { anim_.Play(); });
-  RunHandler(work);
-  IgnoringFailure([&] { anim_.Stop(); });
+  const auto stop = [this] { IgnoringFailure([this] { anim_.Stop(); }); };
+  try {
+    RunStep(work);
+  } catch (...) {
+    stop();
+    throw;
+  }
+  stop();
 }
 
 void fmCalendar::SetAllCurrenciesExpanded(bool expanded) {
@@ -226,7 +234,9 @@ void fmCalendar::tvCalendar_ExpandedOrCollapsed() {
   if (tvCalendar_.Selected() != day_grid_.CurrentNode()) ShowDaysOfSelectedNode();
 }
 
-void fmCalendar::ShowDaysOfSelectedNode() { day_grid_.ShowDaysOf(tvCalendar_.Selected()); }
+void fmCalendar::ShowDaysOfSelectedNode() {
+  if (!has_closed_) day_grid_.ShowDaysOf(tvCalendar_.Selected());
+}
 
 // Tools
 // ---------------------------------------------------------------------------------------------------------------

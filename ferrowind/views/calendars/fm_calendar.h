@@ -82,6 +82,8 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   DayGrid day_grid_;
   DayCommands day_commands_;
   bool is_closing_after_failed_start_ = false;
+  /// The program may have closed it while a dialog of it was just being answered.
+  bool has_closed_ = false;
   std::string placement_section_;
   platform::Signal<> closing_;
   std::vector<platform::Subscription> subscriptions_;

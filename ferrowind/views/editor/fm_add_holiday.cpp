@@ -297,10 +297,10 @@ void fmAddHoliday::Save() {
       break;
     case kNameInUse:
     case kNameOfRemovedRule:
-      RunHandler([] { ShowErrorMessage(error_index::kDuplicateHolidayName); });
+      RunStep([] { ShowErrorMessage(error_index::kDuplicateHolidayName); });
       break;
     default:
-      RunHandler([] { ShowErrorMessage(error_index::kCannotAddHoliday); });
+      RunStep([] { ShowErrorMessage(error_index::kCannotAddHoliday); });
   }
 }
 

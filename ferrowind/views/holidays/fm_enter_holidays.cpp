@@ -72,8 +72,7 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner 
     subscribe(cmdAction_.back()->OnClick([this, command] { RunHandler([&] { (this->*command)(); }); }));
   }
   subscribe(form_->OnLoad([this] { RunHandler([this] { Form_Load(); }); }));
-  subscribe(form_->OnCloseQuery(
-      [this](bool&) { RunHandler([this] { SaveWindowPlacement(*form_, placement_section_); }); }));
+  subscribe(form_->OnCloseQuery([this](bool&) { RunHandler([this] { Form_QueryUnload(); }); }));
   subscribe(ssatb_.OnToolClick([this](const std::string& id) { RunHandler([&] { ssatb_ToolClick(id); }); }));
   subscribe(gexHolidays_.OnGroupByBoxChange(
       [this](bool visible) { ssatb_.SetToolPressed(kShowHideTool, visible); }));
@@ -115,6 +114,11 @@ void fmEnterHolidays::Form_Load() {
   RestoreWindowPlacement(platform_.toolkit, *form_, placement_section_);
 }
 
+void fmEnterHolidays::Form_QueryUnload() {
+  has_closed_ = true;
+  SaveWindowPlacement(*form_, placement_section_);
+}
+
 void fmEnterHolidays::ShowModal() { form_->ShowModal(); }
 
 void fmEnterHolidays::Unload() { form_->Unload(); }
@@ -129,12 +133,12 @@ bool fmEnterHolidays::ForceClosing() {
 
 void fmEnterHolidays::Assign() {
   result_ = 1;
-  RunHandler([&] {
+  RunStep([&] {
     const auto rules = list_.SelectedRules();
     run_busy_([&] {
       for (const HolidayRule& rule : rules) {
         // A rule that cannot be read is reported and does not keep the others from being stored.
-        RunHandler([&] { AssignRule(rule, target_); });
+        RunStep([&] { AssignRule(rule, target_); });
       }
     });
   });
@@ -152,7 +156,7 @@ void fmEnterHolidays::Restore() {
 }
 
 void fmEnterHolidays::MarkSelectedRules(std::int16_t mark, std::int32_t error_index, AtRefusal at_refusal) {
-  RunHandler([&] {
+  RunStep([&] {
     for (const HolidayRule& rule : list_.SelectedRules()) {
       if (MarkRule(rule, mark) == 0) continue;
       ShowErrorMessage(error_index);
@@ -193,6 +197,8 @@ void fmEnterHolidays::ToggleFilter() {
 }
 
 void fmEnterHolidays::Reload() {
+  // It may have been closed by the program while a dialog of it was just being answered.
+  if (has_closed_) return;
   list_.Load();
   RefreshButtons();
 }

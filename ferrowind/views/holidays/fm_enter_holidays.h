@@ -21,7 +21,8 @@ class fmEnterHolidays : public HolidaysWindow {
   /// Runs work that may take long, and shows that it goes on.
   using BusyRunner = std::function<void(const std::function<void()>& work)>;
 
-  /// `platform` must outlive the window. `run_busy` runs the assignment of rules; the work throws nothing.
+  /// `platform` must outlive the window. `run_busy` runs the assignment of rules; the work throws nothing but
+  /// an `Interruption`, which ends it.
   explicit fmEnterHolidays(
       const platform::Platform& platform, BusyRunner run_busy = [](const auto& work) { work(); });
   fmEnterHolidays(const fmEnterHolidays&) = delete;
@@ -54,6 +55,7 @@ class fmEnterHolidays : public HolidaysWindow {
   void RefreshButtons();
 
   void Form_Load();
+  void Form_QueryUnload();
   void ssatb_ToolClick(const std::string& id);
 
   const platform::Platform& platform_;
@@ -66,6 +68,7 @@ class fmEnterHolidays : public HolidaysWindow {
   HolidayList list_;
   AssignmentTarget target_;
   std::int32_t result_ = 0;
+  bool has_closed_ = false;
   std::string placement_section_;
   std::vector<platform::Subscription> subscriptions_;
 };

@@ -73,14 +73,17 @@ bool HolidayList::Load() {
 }
 
 std::optional<std::int32_t> HolidayList::LoadFirstWeekday(const std::shared_ptr<RecordSet>& setting) {
-  try {
-    if (setting) return platform::ToInt32((*setting)["FirstDay"]);
+  if (!setting) {
     ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
+    return std::nullopt;
+  }
+  try {
+    return platform::ToInt32((*setting)["FirstDay"]);
   } catch (const std::exception&) {
     const RuntimeFailureScope caught;
     ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
+    return std::nullopt;
   }
-  return std::nullopt;
 }
 
 void HolidayList::FillGrid(const std::shared_ptr<RecordSet>& holidays) {

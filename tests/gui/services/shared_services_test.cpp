@@ -13,6 +13,7 @@
 
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
 #include "ferrowind/adapters/qt/services/qt_shared_services.h"
+#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -117,7 +118,7 @@ TEST_F(SharedServicesTest, EndsAMessageWithTheWindowThatItStandsOn) {
   owner->show();
   owner->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(owner.get()));
-  OnMessage([&] { Show("text", 16); },
+  OnMessage([&] { EXPECT_THROW(Show("text", 16), platform::Interruption); },
             [&](QMessageBox& box) {
               EXPECT_EQ(box.parentWidget(), owner.get());
               owner.reset();
@@ -173,6 +174,15 @@ TEST_F(SharedServicesTest, ShowsNothingButTracesAllOnceTheApplicationIsEnding) {
   QApplication::exec();
   EXPECT_EQ(count.boxes_, 0);
   EXPECT_THAT(trace_->lines_, ElementsAre(HasSubstr("is ending"), HasSubstr("too late")));
+}
+
+TEST_F(SharedServicesTest, InterruptsAMessageThatIsOnShowWhenTheApplicationEnds) {
+  QTimer::singleShot(0, [&] {
+    OnMessage([&] { EXPECT_THROW(services_.ReportError(5, "text"), platform::Interruption); },
+              [](QMessageBox&) { QCoreApplication::exit(); });
+  });
+  QApplication::exec();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(SharedServicesTest, ShowsMessagesInAnApplicationThatWasStartedAgain) {

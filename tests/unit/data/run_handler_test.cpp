@@ -1,5 +1,7 @@
 #include "ferrowind/data/run_handler.h"
 
+#include <functional>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -20,6 +22,7 @@ namespace {
 
 using headless::ReportedError;
 using platform::Failure;
+using platform::Interruption;
 using testing::ComponentWorld;
 using testing::NumberedMessage;
 using testing::RunInFreshThread;
@@ -94,6 +97,68 @@ TEST(RunHandler, SurvivesAReportThatFails) {
 TEST(RunHandler, SurvivesOnAThreadWithoutSharedServices) {
   RunInFreshThread([] {
     RunHandler([] { throw Failure(5, "nobody can be told"); });
+    EXPECT_EQ(Module().runtime_failure.description, "");
+  });
+}
+
+TEST(RunHandler, EndsAnInterruptedHandlerWithoutAReport) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    SetPendingFailure(1, "pending");
+    RunHandler([] { throw Interruption("the window has closed"); });
+    EXPECT_TRUE(component.SeenByOperator().empty());
+    EXPECT_EQ(Module().pending_failure_count, 1);
+    EXPECT_EQ(component.world.services->Traces(),
+              (std::vector<std::string>{"Failure 18: the window has closed"}));
+  });
+}
+
+TEST(RunStep, ReportsAFailureAndGoesOn) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    bool went_on = false;
+    RunHandler([&] {
+      RunStep([] { throw Failure(5, "first"); });
+      went_on = true;
+    });
+    EXPECT_TRUE(went_on);
+    EXPECT_EQ(component.world.services->Reports(), (std::vector<ReportedError>{{5, "first"}}));
+  });
+}
+
+TEST(RunStep, GoesOnWhenTheReportFails) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    component.world.faults.FailAtCall(1);
+    EXPECT_NO_THROW(RunStep([] { throw Failure(5, "first"); }));
+    EXPECT_TRUE(component.world.faults.HasFired());
+  });
+}
+
+/// Services whose messages are never answered, since their window closes.
+class UnansweredServices : public headless::HeadlessSharedServices {
+ public:
+  using HeadlessSharedServices::HeadlessSharedServices;
+  void ReportError(std::int32_t /*number*/, const std::string& /*description*/) override {
+    throw Interruption("unanswered");
+  }
+};
+
+TEST(RunStep, ThatIsInterruptedEndsTheHandler) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    bool went_on = false;
+    const auto run = [&](const std::function<void()>& step) {
+      RunHandler([&] {
+        RunStep(step);
+        went_on = true;
+      });
+    };
+    run([] { throw Interruption("closed"); });
+    EXPECT_FALSE(went_on);
+    Module().shared_services = std::make_shared<UnansweredServices>(component.world.log);
+    run([] { throw Failure(5, "reported to nobody"); });
+    EXPECT_FALSE(went_on);
     EXPECT_EQ(Module().runtime_failure.description, "");
   });
 }

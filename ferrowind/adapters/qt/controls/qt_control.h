@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/controls/modal_show.h"
 #include "ferrowind/adapters/qt/controls/widget_height.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/events/signal.h"
@@ -39,6 +40,7 @@ class QtControl : public Port, public WidgetElement {
   template <typename... Arguments>
   void Raise(const platform::Signal<Arguments...>& signal, std::type_identity_t<Arguments>... arguments) {
     if (is_muted_) return;
+    const EventOf event(element_widget_);
     RunGuarded(name_, [&] { signal.Emit(arguments...); });
   }
   /// The context of the control's connections: they end with the control.

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "ferrowind/adapters/qt/controls/modal_show.h"
 #include "ferrowind/adapters/qt/controls/qt_control.h"
 #include "ferrowind/adapters/qt/forms/control_maker.h"
 #include "ferrowind/adapters/qt/forms/design_traits.h"
@@ -17,12 +18,10 @@ namespace ferrowind::qt {
 
 using platform::Failure;
 using platform::FormStart;
+using platform::Interruption;
 namespace failure_number = platform::failure_number;
 
 namespace {
-
-/// The number that hosts know for a program that is interrupted.
-constexpr std::int32_t kInterrupted = 18;
 
 void RequireFinite(float length) {
   if (!std::isfinite(length)) throw platform::InvalidArgument();
@@ -48,8 +47,10 @@ QtForm::QtForm(const platform::FormDesign& design)
     : name_(design.name), start_(design.start), window_(new FormWindow) {
   window_->SetCallbacks({[this] { Unload(); },
                          [this] {
-                           if (is_loaded_ && !is_unloaded_ && !is_muted_)
+                           if (is_loaded_ && !is_unloaded_ && !is_muted_) {
+                             const EventOf event(*window_);
                              RunGuarded(name_, [this] { resize_.Emit(); });
+                           }
                          },
                          [this] {
                            if (modal_loop_) modal_loop_->quit();
@@ -58,6 +59,7 @@ QtForm::QtForm(const platform::FormDesign& design)
 
 void QtForm::Retire(QtForm* form) {
   form->Mute();
+  ModalShow::InterruptThoseOf(*form->window_);
   for (const auto& made : form->controls_) {
     if (auto* element = dynamic_cast<WidgetElement*>(made.get())) element->Mute();
   }
@@ -145,6 +147,7 @@ void QtForm::Load() {
   if (is_loaded_ || is_unloaded_) return;
   const auto keep = shared_from_this();
   is_loaded_ = true;
+  const EventOf event(*window_);
   RunGuarded(name_, [this] { load_.Emit(); });
 }
 
@@ -160,7 +163,8 @@ void QtForm::ShowModal() {
   const auto keep = shared_from_this();
   Load();
   if (is_unloaded_ || modal_loop_) return;
-  const QPointer<QWidget> owner = QApplication::activeWindow();
+  const ModalShow show(*window_);
+  const QPointer<QWidget> owner = show.Owner();
   // The modality of a window on show cannot change.
   window_->hide();
   Place(owner);
@@ -172,13 +176,13 @@ void QtForm::ShowModal() {
   // It may be hidden already by what its appearance raised.
   if (window_->isVisible()) loop.exec(QEventLoop::DialogExec);
   modal_loop_ = nullptr;
-  const bool is_ended_from_outside = window_->isVisible();
+  const bool is_left_open = window_->isVisible();
   window_->hide();
   if (owner && owner->isVisible()) owner->activateWindow();
   // Whoever waits for the form would take a return for an answer that the operator did not give.
-  if (is_ended_from_outside) {
-    throw Failure(kInterrupted, "The application is ending; the form " + name_ + " was left open");
-  }
+  if (show.IsInterrupted())
+    throw Interruption("The window that the form " + name_ + " belongs to has closed");
+  if (is_left_open) throw Interruption("The application is ending; the form " + name_ + " was left open");
 }
 
 void QtForm::Hide() { window_->hide(); }
@@ -192,11 +196,13 @@ bool QtForm::Unload() {
   if (is_loaded_) {
     bool is_refused = false;
     is_closing_ = true;
+    const EventOf event(*window_);
     RunGuarded(name_, [&] { close_query_.Emit(is_refused); });
     is_closing_ = false;
     if (is_refused) return false;
   }
   is_unloaded_ = true;
+  ModalShow::InterruptThoseOf(*window_);
   Hide();
   return true;
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/controls/modal_show.h"
 #include "ferrowind/adapters/qt/controls/popup_place.h"
 #include "ferrowind/adapters/qt/forms/form_window.h"
 #include "ferrowind/adapters/qt/forms/qt_form.h"
@@ -15,6 +16,16 @@
 
 namespace ferrowind::qt {
 namespace {
+
+/// Ends the dialogs when the application is asked to quit. It then asks its windows to close, which a dialog
+/// that only its own buttons close would refuse, and another one would take for an answer.
+class QuitWatch : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == qApp && event->type() == QEvent::Quit) ModalShow::InterruptAll();
+    return false;
+  }
+};
 
 /// Null for an element of another toolkit.
 QWidget* WidgetOf(platform::Element& element) {
@@ -32,8 +43,10 @@ bool IsGone(const QPointer<QWidget>& widget) {
 
 }  // namespace
 
-QtToolkit::QtToolkit(FormLayouts layouts) : layouts_(std::move(layouts)) {
+QtToolkit::QtToolkit(FormLayouts layouts)
+    : layouts_(std::move(layouts)), quit_watch_(std::make_unique<QuitWatch>()) {
   NoticeKeys();
+  qApp->installEventFilter(quit_watch_.get());
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, &context_, [this](QSessionManager& session) {
     if (!CloseForms() && session.allowsInteraction()) session.cancel();
   });

@@ -16,8 +16,9 @@ class UpdateHold;
 
 /// The toolkit over Qt Widgets. Needs the QApplication, on whose thread it is used.
 ///
-/// At the end of the desktop's session its forms on show are closed by `CloseForms`; one that stays open
-/// holds the end back where the desktop allows that.
+/// When the application is asked to quit, the modal forms and messages on show are interrupted, also where
+/// another window then refuses to close. At the end of the desktop's session its forms on show are closed by
+/// `CloseForms`; one that stays open holds the end back where the desktop allows that.
 class QtToolkit : public platform::Toolkit {
  public:
   /// `layouts` may have more forms than the component's own.
@@ -44,6 +45,7 @@ class QtToolkit : public platform::Toolkit {
   std::vector<std::weak_ptr<QtForm>> forms_;
   QPointer<QWidget> locked_;
   std::unique_ptr<UpdateHold> hold_;
+  std::unique_ptr<QObject> quit_watch_;
   QObject context_;
 };
 

@@ -7,7 +7,10 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "ferrowind/adapters/qt/controls/modal_show.h"
 #include "ferrowind/adapters/qt/services/application_end.h"
+#include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -38,7 +41,7 @@ void AddCopyButton(QMessageBox& box, const QString& text) {
 
 void ShowMessageBox(const Message& message) {
   if (IsApplicationEnding()) return;
-  QWidget* owner = message.owner != nullptr ? message.owner : QApplication::activeWindow();
+  QWidget* owner = message.owner != nullptr ? message.owner : ModalShow::OwnerOf(nullptr);
   // Not on the stack: the owner takes the box with it when it is deleted while the message is open.
   const QPointer<QMessageBox> box = new QMessageBox(owner);
   box->setObjectName(QStringLiteral("fmSharedMessage"));
@@ -51,8 +54,13 @@ void ShowMessageBox(const Message& message) {
   box->setEscapeButton(ok);
   box->setWindowFlag(Qt::WindowStaysOnTopHint, message.is_on_top);
   box->setWindowModality(message.is_modal ? Qt::ApplicationModal : Qt::NonModal);
+  const ModalShow show(*box, owner);
   box->exec();
+  const bool is_answered = box && box->clickedButton() != nullptr;
   delete box;
+  if (!is_answered) {
+    throw platform::Interruption("Nobody has answered the message \"" + FromQt(message.text) + "\"");
+  }
 }
 
 }  // namespace ferrowind::qt

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/headless/headless_button.h"
+#include "ferrowind/adapters/headless/headless_grid.h"
 
 #include "tests/unit/views/calendars/calendars_world.h"
 
@@ -63,27 +64,107 @@ TEST(CalendarsClosing, SurvivesBeingDroppedByTheHandlerOfOnClosing) {
   });
 }
 
-TEST(CalendarsClosing, WhileItsDialogIsOpenTheWindowLivesUntilTheDialogIsAnswered) {
-  for (const char* button : {"cmdExcept", "cmdCancel"}) {
-    RunInFreshThread([button] {
+TEST(CalendarsClosing, TakesItsOpenDialogAlongAndLivesUntilThatHasReturned) {
+  struct DialogTool {
+    const char* dialog;
+    void (*open)(CalendarsWorld& calendars);
+  };
+  static constexpr DialogTool kTools[] = {
+      {"fmExceptMess", [](CalendarsWorld& calendars) { calendars.ChooseForDay(1, "ID_Except2"); }},
+      {"fmSelectYear", [](CalendarsWorld& calendars) { calendars.Click("ID_New"); }}};
+  for (const DialogTool& tool : kTools) {
+    RunInFreshThread([&tool] {
       CalendarsWorld calendars;
       calendars.OpenAt("K978_2026");
       const auto form = calendars.Form().shared_from_this();
       const std::weak_ptr<fmCalendar> observer = calendars.window;
       auto* const window = calendars.window.get();
       const auto closing = window->OnClosing([&] { calendars.window.reset(); });
-      calendars.world.toolkit.ScriptModal("fmExceptMess", [&](HeadlessForm& dialog) {
+      calendars.world.toolkit.ScriptModal(tool.dialog, [&](HeadlessForm& dialog) {
         EXPECT_TRUE(window->ForceClosing());
+        EXPECT_FALSE(dialog.IsShown());
         EXPECT_FALSE(observer.expired());
-        dialog.Part<HeadlessButton>(button).Click();
+        calendars.world.log.Clear();
       });
-      calendars.ChooseForDay(1, "ID_Except2");
+      tool.open(calendars);
       EXPECT_TRUE(form->HasUnloaded());
       EXPECT_TRUE(observer.expired());
       EXPECT_TRUE(calendars.SeenByOperator().empty());
+      EXPECT_TRUE(calendars.world.log.StartingWith("command.").empty());
+      EXPECT_TRUE(calendars.world.log.StartingWith("tvCalendar.").empty());
       EXPECT_EQ(calendars.world.toolkit.LockedElement(), "");
     });
   }
+}
+
+TEST(CalendarsClosing, TakesTheHolidaysWindowAndWhatIsOpenOnItAlong) {
+  struct Command {
+    const char* button;
+    const char* dialog;
+  };
+  for (const Command command : {Command{"cmdAction0", "fmAddHoliday"}, Command{"cmdAction2", "fmMessage"}}) {
+    RunInFreshThread([command] {
+      CalendarsWorld calendars;
+      calendars.OpenAt("K978_2026");
+      calendars.AnswerAllInfoWithARule();
+      auto& toolkit = calendars.world.toolkit;
+      toolkit.ScriptModal("fmEnterHolidays", [&](HeadlessForm& holidays) {
+        holidays.Part<headless::HeadlessGrid>("gexHolidays").ClickRow(1);
+        holidays.Part<HeadlessButton>(command.button).Click();
+        EXPECT_TRUE(holidays.HasUnloaded());
+      });
+      toolkit.ScriptModal(command.dialog, [&](HeadlessForm& dialog) {
+        EXPECT_TRUE(calendars.window->ForceClosing());
+        EXPECT_FALSE(dialog.IsShown());
+        calendars.world.log.Clear();
+      });
+      calendars.ChooseForDay(1, "ID_AssignMany");
+      EXPECT_TRUE(calendars.Form().HasUnloaded());
+      EXPECT_TRUE(calendars.SeenByOperator().empty());
+      EXPECT_TRUE(calendars.world.log.StartingWith("command.").empty());
+    });
+  }
+}
+
+TEST(CalendarsClosing, WhileADialogThatWasAnsweredClosesReloadsNothing) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.OpenAt("K978_2026");
+    platform::Subscription closing;
+    calendars.world.toolkit.ScriptModal("fmSelectYear", [&](HeadlessForm& dialog) {
+      closing = dialog.OnCloseQuery([&](bool&) {
+        EXPECT_TRUE(calendars.window->ForceClosing());
+        calendars.world.log.Clear();
+      });
+      dialog.Part<HeadlessButton>("cmdCreate").Click();
+    });
+    calendars.Click("ID_New");
+    EXPECT_EQ(calendars.CallsOf("CldIUMain").size(), 1u);
+    EXPECT_TRUE(calendars.world.log.StartingWith("command.").empty());
+    EXPECT_TRUE(calendars.world.log.StartingWith("tvCalendar.").empty());
+  });
+}
+
+TEST(CalendarsClosing, WhileTheEditorThatWasAnsweredClosesReloadsNothing) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.OpenAt("K978_2026");
+    calendars.AnswerAllInfoWithARule();
+    auto& toolkit = calendars.world.toolkit;
+    platform::Subscription closing;
+    toolkit.ScriptModal("fmEnterHolidays",
+                        [](HeadlessForm& holidays) { holidays.Part<HeadlessButton>("cmdAction0").Click(); });
+    toolkit.ScriptModal("fmAddHoliday", [&](HeadlessForm& editor) {
+      closing = editor.OnCloseQuery([&](bool&) {
+        EXPECT_TRUE(calendars.window->ForceClosing());
+        calendars.world.log.Clear();
+      });
+      EXPECT_TRUE(editor.CloseByOperator());
+    });
+    calendars.ChooseForDay(1, "ID_AssignMany");
+    EXPECT_TRUE(calendars.world.log.StartingWith("command.").empty());
+    EXPECT_TRUE(calendars.SeenByOperator().empty());
+  });
 }
 
 TEST(CalendarsClosing, AFailureOfTheSettingsIsReportedAndTheWindowClosesAllTheSame) {
