@@ -23,21 +23,24 @@ constexpr float kSizeInPixels = 16;
 Calendar::Calendar(const platform::Platform& platform, platform::ControlSite* site)
     : platform_(platform), site_(site) {
   AttachPlatform(platform);
+  const InSurroundings surroundings(platform);
   EnsureDictionary();
   AddDefaultHolidayHeaders(*HolidayHeaders());
   AddDefaultHeaders(*Headers());
   if (site_ != nullptr) {
-    site_resized_ = site_->OnResize([this] { RunHandler([this] { SnapToSize(); }); });
+    site_resized_ = site_->OnResize([this] { RunHandler(platform_, [this] { SnapToSize(); }); });
   }
 }
 
 // A window cannot outlive the control that it reports its closing to.
 Calendar::~Calendar() {
-  RunHandler([this] { ForceClosing(); });
+  RunHandler(platform_, [this] { ForceClosing(); });
+  DetachPlatform(platform_);
 }
 
 bool Calendar::ForceClosing() {
   if (!frmCalendar_) return true;
+  const InSurroundings surroundings(platform_);
   // Held here, because the window reports its closing, and the control then drops its reference, while this
   // call runs.
   const auto window = frmCalendar_;
@@ -47,7 +50,7 @@ bool Calendar::ForceClosing() {
 }
 
 void Calendar::Show() {
-  RunHandler([this] { OpenWindow(); });
+  RunHandler(platform_, [this] { OpenWindow(); });
 }
 
 void Calendar::OpenWindow() {

@@ -18,13 +18,20 @@ class CalendarsWindow;
 ///
 /// Adjust the two column maps, call `Show`, and ask `ForceClosing` when the window has to go. Use it on one
 /// thread, the host's user-interface thread. Destroying it closes the window, or drops one that refuses.
+///
+/// A thread may have several controls. Each one's windows and calls use the surroundings that it was given;
+/// but the dictionary object and the shared services are one of each for the thread, made in the surroundings
+/// that need them first, and serve all its controls until the thread ends. The dictionary object names the
+/// database. So the controls of a thread work on one database, and new surroundings do not change it: a host
+/// that changes databases closes its windows, has its dictionary object answer with the other connection
+/// string, which every call asks for anew, and shows them again.
 class Calendar {
  public:
-  /// Makes the surroundings those of the component on this thread, creates the thread's dictionary object
-  /// when there is none, and fills the maps with their default columns. A dictionary object that cannot be
-  /// created is shown to the operator, and the control goes on without it. The outside objects that are
-  /// created serve every control of the thread until the thread ends. `platform`, and `site` where the host
-  /// has one, must outlive the control.
+  /// Creates the thread's dictionary object when there is none, and fills the maps with their default
+  /// columns. A dictionary object that cannot be created is shown to the operator, and the control goes on
+  /// without it. `platform`, and `site` where the host has one, must outlive the control and every handler of
+  /// its windows that still runs: one that is destroyed while a dialog of its window is open leaves a handler
+  /// behind that ends when control comes back to it.
   explicit Calendar(const platform::Platform& platform, platform::ControlSite* site = nullptr);
   /// The control keeps a reference, which a temporary would leave dangling.
   explicit Calendar(const platform::Platform&& platform, platform::ControlSite* site = nullptr) = delete;

@@ -1,5 +1,7 @@
 #include "ferrowind/data/module_state.h"
 
+#include <utility>
+
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind {
@@ -27,11 +29,22 @@ ModuleState& Module() {
 
 void AttachPlatform(const platform::Platform& platform) { Module().platform = &platform; }
 
+void DetachPlatform(const platform::Platform& platform) {
+  if (Module().platform == &platform) Module().platform = nullptr;
+}
+
+InSurroundings::InSurroundings(const platform::Platform& platform)
+    : before_(std::exchange(Module().entered, &platform)) {}
+
+InSurroundings::~InSurroundings() { Module().entered = before_; }
+
 const platform::Platform& AttachedPlatform() {
-  if (Module().platform == nullptr) {
+  const ModuleState& module = Module();
+  const platform::Platform* platform = module.entered != nullptr ? module.entered : module.platform;
+  if (platform == nullptr) {
     throw Failure(failure_number::kObjectNotSet, "The calendar component was not started on this thread");
   }
-  return *Module().platform;
+  return *platform;
 }
 
 platform::Dictionary& DictionaryObject() {

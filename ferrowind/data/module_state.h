@@ -20,6 +20,8 @@ struct FailureRecord {
 struct ModuleState {
   /// The surroundings that `AttachPlatform` gave; null before that.
   const platform::Platform* platform = nullptr;
+  /// The surroundings of the innermost `InSurroundings`; null outside of one.
+  const platform::Platform* entered = nullptr;
   /// Created by the control; null when that failed. Never released by the component.
   std::shared_ptr<platform::Dictionary> dictionary;
   /// Created on first use by `SharedServicesObject`. Never released by the component.
@@ -38,21 +40,39 @@ struct ModuleState {
 /// The state of the calling thread.
 [[nodiscard]] ModuleState& Module();
 
-/// Makes `platform` the surroundings of the component on this thread; it must outlive all use of the
-/// component there.
+/// Makes `platform` the surroundings of what is called on this thread outside of `InSurroundings`; it must
+/// outlive all such use.
 void AttachPlatform(const platform::Platform& platform);
+/// Takes that back, when `platform` is still what was attached last.
+void DetachPlatform(const platform::Platform& platform);
 
-/// The thread's surroundings; without any it is the failure 91.
+/// Makes `platform` the surroundings of the component on this thread for as long as it lives; afterwards
+/// those before it hold again. Every call into a control and every handler of a window's events runs in its
+/// own, so that controls with different surroundings do not meet, whatever they interrupt.
+class InSurroundings {
+ public:
+  /// `platform` must outlive the object.
+  explicit InSurroundings(const platform::Platform& platform);
+  ~InSurroundings();
+  InSurroundings(const InSurroundings&) = delete;
+  InSurroundings& operator=(const InSurroundings&) = delete;
+
+ private:
+  const platform::Platform* before_;
+};
+
+/// The surroundings of the call that is running; without any it is the failure 91.
 [[nodiscard]] const platform::Platform& AttachedPlatform();
 
 /// The thread's dictionary object; the failure 91 when there is none.
 [[nodiscard]] platform::Dictionary& DictionaryObject();
 
-/// Creates the thread's dictionary object when there is none yet. Failure when it cannot be created; the
-/// reference then stays empty.
+/// Creates the thread's dictionary object, in the surroundings of the call, when there is none yet. Failure
+/// when it cannot be created; the reference then stays empty.
 void EnsureDictionaryObject();
 
-/// The thread's shared services object, created on first use. Failure when it cannot be created.
+/// The thread's shared services object, created on first use in the surroundings of the call that needs it.
+/// Failure when it cannot be created.
 [[nodiscard]] platform::SharedServices& SharedServicesObject();
 
 }  // namespace ferrowind

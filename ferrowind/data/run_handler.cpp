@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "ferrowind/data/error_reporting.h"
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/data/runtime_failure.h"
 
 namespace ferrowind {
@@ -14,6 +15,11 @@ void RunHandler(const std::function<void()>& body) noexcept {
     // Nobody is left to tell, nor anything to do.
     TraceFailureBeingHandled();
   }
+}
+
+void RunHandler(const platform::Platform& platform, const std::function<void()>& body) noexcept {
+  const InSurroundings surroundings(platform);
+  RunHandler(body);
 }
 
 void RunStep(const std::function<void()>& step) {

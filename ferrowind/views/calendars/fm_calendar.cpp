@@ -81,7 +81,8 @@ void fmCalendar::Connect() {
   // A handler keeps the window alive while it runs: the control may drop its reference meanwhile.
   const auto handler = [weak = weak_from_this()](auto member) {
     return [weak, member](auto&&... arguments) {
-      if (const auto self = weak.lock()) RunHandler([&] { ((*self).*member)(arguments...); });
+      if (const auto self = weak.lock())
+        RunHandler(self->platform_, [&] { ((*self).*member)(arguments...); });
     };
   };
   const auto subscribe = [this](platform::Subscription subscription) {
@@ -118,6 +119,7 @@ void fmCalendar::Connect() {
 bool fmCalendar::Init(std::shared_ptr<GridFields> headers, std::shared_ptr<GridFields> holiday_headers) {
   // The control may drop its reference while a failed start unloads the window.
   const auto self = shared_from_this();
+  const InSurroundings surroundings(platform_);
   try {
     form_->Load();
     const auto error_index = Start(std::move(headers), std::move(holiday_headers));

@@ -71,14 +71,14 @@ fmSelectYear::fmSelectYear(const platform::Platform& platform)
   range_note_.SetVisible(false);
   year_field_.SetMaxLength(kYearDigits);
   spinner_.SetRange(kFirstYear, kLastYear, 1);
-  loaded_ = form_->OnLoad([this] { RunHandler([this] { Load(); }); });
-  spinner_changed_ = spinner_.OnChange([this] { RunHandler([this] { ShowSpinnerYear(); }); });
-  year_changed_ =
-      year_field_.OnChange([this] { RunHandler([this] { ShowNote(!CanBecomeYear(year_field_.Text())); }); });
+  loaded_ = form_->OnLoad([this] { RunHandler(platform_, [this] { Load(); }); });
+  spinner_changed_ = spinner_.OnChange([this] { RunHandler(platform_, [this] { ShowSpinnerYear(); }); });
+  year_changed_ = year_field_.OnChange(
+      [this] { RunHandler(platform_, [this] { ShowNote(!CanBecomeYear(year_field_.Text())); }); });
   create_clicked_ =
-      ControlOf<Button>(*form_, "cmdCreate").OnClick([this] { RunHandler([this] { Create(); }); });
+      ControlOf<Button>(*form_, "cmdCreate").OnClick([this] { RunHandler(platform_, [this] { Create(); }); });
   cancel_clicked_ =
-      ControlOf<Button>(*form_, "cmdCancel").OnClick([this] { RunHandler([this] { Cancel(); }); });
+      ControlOf<Button>(*form_, "cmdCancel").OnClick([this] { RunHandler(platform_, [this] { Cancel(); }); });
 }
 
 std::string fmSelectYear::Caption() const { return form_->Caption(); }

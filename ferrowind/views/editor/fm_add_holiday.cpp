@@ -7,6 +7,7 @@
 #include "ferrowind/data/error_table.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/ignoring_failure.h"
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/common/close_dialog.h"
@@ -83,10 +84,10 @@ fmAddHoliday::fmAddHoliday(const platform::Platform& platform)
   dtpFullDate_.SetCustomFormat(kDateFormat);
   dtpHolidayPoint_.SetCustomFormat(kDateFormat);
   const auto handler = [this](void (fmAddHoliday::*member)()) {
-    return [this, member] { RunHandler([this, member] { (this->*member)(); }); };
+    return [this, member] { RunHandler(platform_, [this, member] { (this->*member)(); }); };
   };
-  const auto trim = [](TextBox& text_box) {
-    return [&text_box] { RunHandler([&text_box] { TrimText(text_box); }); };
+  const auto trim = [this](TextBox& text_box) {
+    return [this, &text_box] { RunHandler(platform_, [&text_box] { TrimText(text_box); }); };
   };
   const auto subscribe = [this](platform::Subscription subscription) {
     subscriptions_.push_back(std::move(subscription));
@@ -112,6 +113,7 @@ void fmAddHoliday::SetYear(std::int32_t year) {
 bool fmAddHoliday::Init(std::int32_t Mode, std::shared_ptr<platform::RecordSet> HolidayTypes,
                         std::int32_t FirstWeekday, std::shared_ptr<platform::RecordSet> HolidayRow,
                         std::shared_ptr<GridFields> ColumnMap) {
+  const InSurroundings surroundings(platform_);
   mode_ = Mode;
   rule_ = std::move(HolidayRow);
   column_map_ = std::move(ColumnMap);

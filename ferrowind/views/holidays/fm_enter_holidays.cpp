@@ -69,14 +69,16 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner 
                                    &fmEnterHolidays::ToggleFilter, &fmEnterHolidays::Assign};
   for (const Command command : kCommands) {
     cmdAction_.push_back(&ControlOf<Button>(*form_, "cmdAction" + std::to_string(cmdAction_.size())));
-    subscribe(cmdAction_.back()->OnClick([this, command] { RunHandler([&] { (this->*command)(); }); }));
+    subscribe(
+        cmdAction_.back()->OnClick([this, command] { RunHandler(platform_, [&] { (this->*command)(); }); }));
   }
-  subscribe(form_->OnLoad([this] { RunHandler([this] { Form_Load(); }); }));
-  subscribe(form_->OnCloseQuery([this](bool&) { RunHandler([this] { Form_QueryUnload(); }); }));
-  subscribe(ssatb_.OnToolClick([this](const std::string& id) { RunHandler([&] { ssatb_ToolClick(id); }); }));
+  subscribe(form_->OnLoad([this] { RunHandler(platform_, [this] { Form_Load(); }); }));
+  subscribe(form_->OnCloseQuery([this](bool&) { RunHandler(platform_, [this] { Form_QueryUnload(); }); }));
+  subscribe(ssatb_.OnToolClick(
+      [this](const std::string& id) { RunHandler(platform_, [&] { ssatb_ToolClick(id); }); }));
   subscribe(gexHolidays_.OnGroupByBoxChange(
       [this](bool visible) { ssatb_.SetToolPressed(kShowHideTool, visible); }));
-  subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler([this] { RefreshButtons(); }); }));
+  subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler(platform_, [this] { RefreshButtons(); }); }));
   subscribe(gexHolidays_.OnCellText(
       [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text) {
         // No message while the grid paints: a text that cannot be made stays as the grid has it.
@@ -90,7 +92,7 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner 
 bool fmEnterHolidays::Init(std::shared_ptr<GridFields> holiday_headers, std::int32_t mode, std::int32_t year,
                            std::int32_t currency_id, std::int32_t day_of_year) {
   bool is_ready = false;
-  RunHandler([&] {
+  RunHandler(platform_, [&] {
     form_->Load();
     target_ = {.mode = mode, .year = year, .currency_id = currency_id, .day_of_year = day_of_year};
     list_.SetHeaders(std::move(holiday_headers));

@@ -42,6 +42,30 @@ TEST(ModuleState, EveryThreadHasItsOwn) {
   });
 }
 
+TEST(ModuleState, TheInnermostSurroundingsHoldUntilTheyEnd) {
+  RunInFreshThread([] {
+    headless::World world;
+    const auto attached = world.Platform();
+    const auto outer = world.Platform();
+    const auto inner = world.Platform();
+    {
+      const InSurroundings in_outer(outer);
+      AttachPlatform(attached);
+      EXPECT_EQ(&AttachedPlatform(), &outer);
+      {
+        const InSurroundings in_inner(inner);
+        EXPECT_EQ(&AttachedPlatform(), &inner);
+      }
+      EXPECT_EQ(&AttachedPlatform(), &outer);
+    }
+    EXPECT_EQ(&AttachedPlatform(), &attached);
+    DetachPlatform(outer);
+    EXPECT_EQ(&AttachedPlatform(), &attached);
+    DetachPlatform(attached);
+    ExpectFailure([] { static_cast<void>(AttachedPlatform()); }, kObjectNotSet);
+  });
+}
+
 TEST(ModuleState, CreatesTheDictionaryObjectByItsIdentifierOnce) {
   RunInFreshThread([] {
     headless::World world;
