@@ -78,6 +78,9 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   [[nodiscard]] platform::Subscription OnMouseUp(std::function<void(std::int32_t button)> handler) override;
   [[nodiscard]] platform::Subscription OnCurrentRowChange(std::function<void()> handler) override;
 
+  /// The settings sections whose layouts this grid has loaded or stored, for the shared services.
+  [[nodiscard]] std::set<std::string>& LayoutSections() { return layout_sections_; }
+
   // What a test can ask
   // -----------------------------------------------------------------------------------------
 
@@ -163,6 +166,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   platform::Signal<bool> group_by_box_changed_;
   platform::Signal<std::int32_t> mouse_up_;
   platform::Signal<> current_row_changed_;
+  std::set<std::string> layout_sections_;
 };
 
 }  // namespace ferrowind::headless

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ferrowind/adapters/headless/headless_grid.h"
 #include "ferrowind/platform/toolkit/form.h"
 #include "ferrowind/platform/toolkit/grid.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -90,6 +91,10 @@ void HeadlessSharedServices::SortGridByColumn(std::int32_t sort_order, Grid& gri
 void HeadlessSharedServices::SaveGridLayout(Grid& grid, const std::string& section) {
   log_.Record(GridCall("SaveGridLayout", grid, section));
   if (grid.ColumnCount() == 0) return;
+  auto* const headless_grid = dynamic_cast<HeadlessGrid*>(&grid);
+  const bool is_known = headless_grid != nullptr && headless_grid->LayoutSections().contains(PathOf(section));
+  if (!is_known && layouts_.contains(PathOf(section))) return;
+  if (headless_grid != nullptr) headless_grid->LayoutSections().insert(PathOf(section));
   Layout layout;
   for (std::int32_t i = 1; i <= grid.ColumnCount(); ++i) {
     layout.visible[grid.ColumnAt(i).Key()] = grid.ColumnAt(i).Visible();
@@ -109,6 +114,9 @@ void HeadlessSharedServices::SaveGridLayout(Grid& grid, const std::string& secti
 
 void HeadlessSharedServices::LoadGridLayout(Grid& grid, const std::string& section) {
   log_.Record(GridCall("LoadGridLayout", grid, section));
+  if (auto* const headless_grid = dynamic_cast<HeadlessGrid*>(&grid)) {
+    headless_grid->LayoutSections().insert(PathOf(section));
+  }
   const auto found = layouts_.find(PathOf(section));
   if (found == layouts_.end() || found->second.is_damaged) return;
   const Layout& layout = found->second;

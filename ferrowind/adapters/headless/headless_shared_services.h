@@ -31,7 +31,8 @@ struct ReportedError {
   friend bool operator==(const ReportedError&, const ReportedError&) = default;
 };
 
-/// Shared services that keep everything in memory. Its grid services use the grid's port alone.
+/// Shared services that keep everything in memory. Its grid services use the grid's port; only
+/// what layouts a grid has loaded they keep with the grids of this toolkit.
 class HeadlessSharedServices : public platform::SharedServices {
  public:
   /// `log` must outlive the services.

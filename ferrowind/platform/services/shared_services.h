@@ -47,7 +47,9 @@ class SharedServices : public OutsideObject {
   /// Makes `column` the grid's only sort key with that order: 1 ascending, -1 descending, 0 none.
   virtual void SortGridByColumn(std::int32_t sort_order, Grid& grid, GridColumn& column) = 0;
   /// Stores the column layout of the grid in the section. A grid without columns has no layout: nothing is
-  /// stored.
+  /// stored. A layout that is stored there stays when this grid neither had it from `LoadGridLayout`, even if
+  /// that could make nothing of it, nor stored it itself: such a grid does not show what the operator had
+  /// arranged.
   virtual void SaveGridLayout(Grid& grid, const std::string& section) = 0;
   /// Restores the layout stored in the section; without one, or with one that is damaged, the grid stays as
   /// it is.

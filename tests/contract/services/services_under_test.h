@@ -29,6 +29,9 @@ class ServicesUnderTest {
 
   /// A grid on a shown form, without columns.
   [[nodiscard]] virtual platform::Grid& Grid() = 0;
+  /// Another grid of that name, without columns, as on a form that is opened anew; the one made by the call
+  /// before is gone.
+  [[nodiscard]] virtual platform::Grid& AnotherGrid() = 0;
   /// The text on the clipboard.
   [[nodiscard]] virtual std::string Clipboard() = 0;
   /// Makes the layout stored in the section unreadable.

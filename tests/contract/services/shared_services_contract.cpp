@@ -102,8 +102,9 @@ class GridServicesContract : public SharedServicesContract {
     AddColumn("Type", "TID1");
     AddColumn("Name", "Name1");
   }
-  void AddColumn(const std::string& key, const std::string& field) {
-    grid.AddColumn(key + " caption", 0, 1, key).SetBoundField(field);
+  void AddColumn(const std::string& key, const std::string& field) { AddColumn(key, field, grid); }
+  static void AddColumn(const std::string& key, const std::string& field, Grid& to) {
+    to.AddColumn(key + " caption", 0, 1, key).SetBoundField(field);
   }
   void ShowSample() {
     grid.HoldColumns();
@@ -193,6 +194,58 @@ TEST_F(GridServicesContract, StoreNoLayoutOfAGridWithoutColumns) {
   services->SaveGridLayout(grid, "Calendar\\Layout");
   AddColumn("Type", "TID1");
   AddColumn("Name", "Name1");
+  services->LoadGridLayout(grid, "Calendar\\Layout");
+  EXPECT_FALSE(grid.ColumnByKey("Name").Visible());
+}
+
+TEST_F(GridServicesContract, KeepAStoredLayoutThatTheGridNeverLoaded) {
+  grid.ColumnByKey("Name").SetVisible(false);
+  services->SaveGridLayout(grid, "Calendar\\Layout");
+  for (int i = 0; i < 2; ++i) {
+    Grid& other = under_test->AnotherGrid();
+    AddColumn("Type", "TID1", other);
+    AddColumn("Name", "Name1", other);
+    services->LoadGridLayout(other, "Calendar\\Elsewhere");
+    services->SaveGridLayout(other, "Calendar\\Layout");
+  }
+  grid.ColumnByKey("Name").SetVisible(true);
+  services->LoadGridLayout(grid, "Calendar\\Layout");
+  EXPECT_FALSE(grid.ColumnByKey("Name").Visible());
+}
+
+TEST_F(GridServicesContract, ReplaceAStoredLayoutThatTheGridLoaded) {
+  grid.ColumnByKey("Name").SetVisible(false);
+  services->SaveGridLayout(grid, "Calendar\\Layout");
+  Grid& other = under_test->AnotherGrid();
+  AddColumn("Type", "TID1", other);
+  AddColumn("Name", "Name1", other);
+  services->LoadGridLayout(other, "\\Calendar\\Layout");
+  other.ColumnByKey("Name").SetVisible(true);
+  services->SaveGridLayout(other, "Calendar\\Layout");
+  services->LoadGridLayout(grid, "Calendar\\Layout");
+  EXPECT_TRUE(grid.ColumnByKey("Name").Visible());
+}
+
+TEST_F(GridServicesContract, StoreTheFirstLayoutOfAGridThatFoundNone) {
+  services->LoadGridLayout(grid, "Calendar\\Layout");
+  for (const bool visible : {false, true, false}) {
+    grid.ColumnByKey("Name").SetVisible(visible);
+    services->SaveGridLayout(grid, "Calendar\\Layout");
+  }
+  grid.ColumnByKey("Name").SetVisible(true);
+  services->LoadGridLayout(grid, "Calendar\\Layout");
+  EXPECT_FALSE(grid.ColumnByKey("Name").Visible());
+}
+
+TEST_F(GridServicesContract, ReplaceADamagedLayoutThatTheGridCouldNotLoad) {
+  services->SaveGridLayout(grid, "Calendar\\Layout");
+  under_test->DamageLayout("Calendar\\Layout");
+  Grid& other = under_test->AnotherGrid();
+  AddColumn("Type", "TID1", other);
+  AddColumn("Name", "Name1", other);
+  services->LoadGridLayout(other, "Calendar\\Layout");
+  other.ColumnByKey("Name").SetVisible(false);
+  services->SaveGridLayout(other, "Calendar\\Layout");
   services->LoadGridLayout(grid, "Calendar\\Layout");
   EXPECT_FALSE(grid.ColumnByKey("Name").Visible());
 }

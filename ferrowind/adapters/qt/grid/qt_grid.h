@@ -84,6 +84,8 @@ class QtGrid final : public QtControl<platform::Grid> {
   /// that has no column in common with this one. What it says of unknown columns is left out; columns that it
   /// does not name follow the others.
   bool RestoreLayout(const std::string& layout);
+  /// The settings sections whose layouts this grid has loaded or stored.
+  [[nodiscard]] std::set<std::string>& LayoutSections() { return layout_sections_; }
   /// Puts the selected rows on the clipboard, from top to bottom, or all rows when none is selected.
   void CopyRows(bool with_headers) const;
 
@@ -118,6 +120,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   bool widths_are_due_ = true;
   RowIdentity current_;
   bool keeps_rows_ = false;
+  std::set<std::string> layout_sections_;
   /// Keys have changed since the rows were arranged.
   bool is_stale_ = false;
 

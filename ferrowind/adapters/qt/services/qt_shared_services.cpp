@@ -36,6 +36,11 @@ std::string NumberText(std::int32_t number) {
   return text + " (" + hexadecimal.data() + ")";
 }
 
+/// A leading backslash changes nothing.
+std::string PathOf(const std::string& section) {
+  return section.starts_with('\\') ? section.substr(1) : section;
+}
+
 QWidget* WindowOf(platform::Form* form) {
   auto* element = dynamic_cast<WidgetElement*>(form);
   return element == nullptr ? nullptr : &element->ElementWidget();
@@ -99,16 +104,25 @@ void QtSharedServices::SortGridByColumn(std::int32_t sort_order, platform::Grid&
 }
 
 void QtSharedServices::SaveGridLayout(platform::Grid& grid, const std::string& section) {
-  const auto* qt_grid = dynamic_cast<QtGrid*>(&grid);
+  auto* qt_grid = dynamic_cast<QtGrid*>(&grid);
   if (qt_grid == nullptr) return;
   const std::string layout = qt_grid->SaveLayout();
-  if (!layout.empty()) settings_.Write(section, kLayoutName, layout);
+  if (layout.empty()) return;
+  const bool is_known = qt_grid->LayoutSections().contains(PathOf(section));
+  if (!is_known && settings_.Read(section, kLayoutName)) {
+    TraceMessage("The layout of the grid " + grid.Name() + " in the settings was not loaded; kept");
+    return;
+  }
+  settings_.Write(section, kLayoutName, layout);
+  qt_grid->LayoutSections().insert(PathOf(section));
 }
 
 void QtSharedServices::LoadGridLayout(platform::Grid& grid, const std::string& section) {
   auto* qt_grid = dynamic_cast<QtGrid*>(&grid);
   const auto stored = settings_.Read(section, kLayoutName);
-  if (qt_grid == nullptr || !stored) return;
+  if (qt_grid == nullptr) return;
+  qt_grid->LayoutSections().insert(PathOf(section));
+  if (!stored) return;
   const auto* layout = stored->If<std::string>();
   if (layout == nullptr || !qt_grid->RestoreLayout(*layout)) {
     TraceMessage("The layout of the grid " + grid.Name() +

@@ -27,6 +27,11 @@ class HeadlessServicesUnderTest : public ServicesUnderTest {
   [[nodiscard]] platform::Grid& Grid() override {
     return platform::ControlOf<platform::Grid>(*form_, "gexRows");
   }
+  [[nodiscard]] platform::Grid& AnotherGrid() override {
+    another_form_.reset();
+    another_form_ = world_.toolkit.CreateForm(Design());
+    return platform::ControlOf<platform::Grid>(*another_form_, "gexRows");
+  }
   [[nodiscard]] std::string Clipboard() override { return world_.services->Clipboard(); }
   void DamageLayout(const std::string& section) override { world_.services->DamageLayout(section); }
   [[nodiscard]] std::vector<std::string> AnsweredTexts() override {
@@ -39,9 +44,14 @@ class HeadlessServicesUnderTest : public ServicesUnderTest {
   }
 
  private:
+  static platform::FormDesign Design() {
+    return {
+        .name = "fmServices", .caption = "Services", .controls = {{platform::ControlKind::kGrid, "gexRows"}}};
+  }
+
   headless::World world_;
-  std::shared_ptr<platform::Form> form_ = world_.toolkit.CreateForm(
-      {.name = "fmServices", .caption = "Services", .controls = {{platform::ControlKind::kGrid, "gexRows"}}});
+  std::shared_ptr<platform::Form> form_ = world_.toolkit.CreateForm(Design());
+  std::shared_ptr<platform::Form> another_form_;
 };
 
 }  // namespace

@@ -43,6 +43,11 @@ class QtServicesUnderTest : public ServicesUnderTest {
   [[nodiscard]] const platform::Clock& Clock() override { return clock_; }
   [[nodiscard]] std::string ConnectionString() override { return kConnection; }
   [[nodiscard]] platform::Grid& Grid() override { return grid_; }
+  [[nodiscard]] platform::Grid& AnotherGrid() override {
+    another_.reset();
+    another_ = std::make_unique<GridOfItsOwn>();
+    return another_->grid;
+  }
   [[nodiscard]] std::string Clipboard() override { return QApplication::clipboard()->text().toStdString(); }
   void DamageLayout(const std::string& section) override { settings_.Write(section, "Layout", "damaged"); }
   [[nodiscard]] std::vector<std::string> AnsweredTexts() override { return answered_; }
@@ -55,6 +60,12 @@ class QtServicesUnderTest : public ServicesUnderTest {
     box->button(QMessageBox::Ok)->click();
   }
 
+  struct GridOfItsOwn {
+    GridOfItsOwn() { widget.setObjectName("gexRows"); }
+    qt::GridWidget widget;
+    qt::QtGrid grid{widget};
+  };
+
   QTemporaryDir folder_;
   qt::SettingsStore settings_{folder_.filePath("settings.ini").toStdString()};
   std::shared_ptr<headless::MemoryEngine> engine_ = std::make_shared<headless::MemoryEngine>();
@@ -64,6 +75,7 @@ class QtServicesUnderTest : public ServicesUnderTest {
   qt::QtClock clock_;
   qt::GridWidget widget_;
   qt::QtGrid grid_{widget_};
+  std::unique_ptr<GridOfItsOwn> another_;
   QTimer operator_;
   std::vector<std::string> answered_;
 };

@@ -147,6 +147,20 @@ TEST(CalendarsStart, RestoresTheLayoutThatTheLastWindowSaved) {
   });
 }
 
+TEST(CalendarsStart, AFailedStartKeepsTheLayoutThatItNeverLoaded) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.Open();
+    calendars.Grid().ColumnByKey("Comment").SetVisible(false);
+    calendars.Form().CloseByOperator();
+    calendars.AnswerAllInfo(CalendarsWorld::UsualCalendars(), {});
+    for (int i = 0; i < 2; ++i) ASSERT_FALSE(calendars.Start());
+    calendars.AnswerAllInfo(CalendarsWorld::UsualCalendars());
+    calendars.Open();
+    EXPECT_FALSE(calendars.Grid().ColumnByKey("Comment").Visible());
+  });
+}
+
 TEST(CalendarsStart, ADamagedLayoutLeavesTheColumnsOfTheMap) {
   RunInFreshThread([] {
     CalendarsWorld calendars;
