@@ -4,7 +4,6 @@ namespace ferrowind {
 namespace {
 
 void Save(const platform::GridKeyList& keys, KeyStore& store) {
-  store.clear();
   for (std::int32_t i = 1; i <= keys.Count(); ++i) store.push_back(keys.Item(i));
 }
 
@@ -18,6 +17,9 @@ void Restore(const KeyStore& store, platform::GridKeyList& keys) {
 }  // namespace
 
 void SaveGridKeys(platform::Grid& grid, KeyStore& sort_store, KeyStore& group_store) {
+  // Both first: a grid whose keys cannot be read leaves none of a former reload behind.
+  sort_store.clear();
+  group_store.clear();
   Save(grid.SortKeys(), sort_store);
   Save(grid.GroupKeys(), group_store);
 }

@@ -53,11 +53,13 @@ bool HolidayList::Load() {
   std::shared_ptr<SourceValues> results;
   ExecProc("CldAllInfo", &no_params, results);
   if (!RecordSetIn(results, "1")) return false;
+  // What one step has loaded is kept when a later one fails.
   const auto holiday_types = RecordSetIn(results, "2");
   if (!holiday_types) {
     ShowErrorMessage(error_index::kCannotLoadHolidayTypes);
     return false;
   }
+  holiday_types_ = holiday_types;
   const auto holidays = RecordSetIn(results, "3");
   if (!holidays) {
     ShowErrorMessage(error_index::kCannotLoadHolidays);
@@ -65,9 +67,8 @@ bool HolidayList::Load() {
   }
   const auto first_weekday = LoadFirstWeekday(RecordSetIn(results, platform::ToText(results->Count())));
   if (!first_weekday) return false;
-  if (!FillColumnValueList(grid_, kTypeColumn, *holiday_types, "Description1", "TID1")) return false;
-  holiday_types_ = holiday_types;
   first_weekday_ = *first_weekday;
+  if (!FillColumnValueList(grid_, kTypeColumn, *holiday_types_, "Description1", "TID1")) return false;
   FillGrid(holidays);
   return true;
 }

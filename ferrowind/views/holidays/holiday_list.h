@@ -25,7 +25,8 @@ class HolidayList {
   /// Builds the columns and the initial sort; called once.
   void SetHeaders(std::shared_ptr<GridFields> headers);
   /// Loads the holiday types, the rules and the first weekday and fills the grid. False when something is
-  /// missing; that has been reported where there is a message for it.
+  /// missing; that has been reported where there is a message for it. The types and the first weekday that
+  /// were loaded before it are kept, the grid stays as it was.
   bool Load();
   void ToggleFilter();
 

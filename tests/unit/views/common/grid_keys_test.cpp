@@ -77,6 +77,21 @@ TEST(SaveGridKeys, ReplacesWhatTheStoresHeld) {
   });
 }
 
+TEST(SaveGridKeys, EmptiesBothStoresBeforeItFillsEither) {
+  RunInFreshThread([] {
+    KeysWorld world;
+    world.grid.SortKeys().Add(1, kSortAscending, 0);
+    std::size_t sorts_stored_then = 99;
+    world.groups.emplace_back(new platform::GridKey, [&](const platform::GridKey* key) {
+      sorts_stored_then = world.sorts.size();
+      delete key;
+    });
+    SaveGridKeys(world.grid, world.sorts, world.groups);
+    EXPECT_EQ(sorts_stored_then, 0u);
+    EXPECT_EQ(world.sorts.size(), 1u);
+  });
+}
+
 TEST(SaveGridKeys, TheKeysStayReadableAfterTheGridDroppedThem) {
   RunInFreshThread([] {
     KeysWorld world;

@@ -265,7 +265,7 @@ TEST(HolidaysWindow, AReloadThatFailsShowsItsMessageAndLeavesTheListAsItWasAndUs
     script.Gives({"ID1", "Year1"}, {{978, 2026}});
   };
   const auto types = [](headless::ProcedureScript& script) {
-    script.Gives({"TID1", "Description1"}, {{2, "Holiday"}});
+    script.Gives({"TID1", "Description1"}, {{2, "Holiday"}, {3, "Celebration"}, {4, "Holiday point"}});
   };
   const std::vector<BrokenReload> reloads = {
       {"nothing", [](headless::ProcedureScript& script) { script.Returns(5); }, ""},
@@ -319,6 +319,44 @@ TEST(HolidaysWindow, AReloadThatFailsShowsItsMessageAndLeavesTheListAsItWasAndUs
       EXPECT_EQ(world.world.commands.CallsOf("CldIUMain")[0].Parameter("@ID2"), Value(4)) << reload.what;
     });
   }
+}
+
+TEST(HolidaysWindow, AReloadThatFailsKeepsTheTypesAndTheFirstWeekdayThatItLoadedBefore) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    ASSERT_TRUE(world.InitWithUsualRules(0));
+    const auto& commands = world.world.commands;
+    const auto expect_in_editor = [&](const Names& types, const std::string& first_weekday) {
+      world.world.toolkit.ScriptModal("fmAddHoliday", [=](headless::HeadlessForm& form) {
+        const auto& list = platform::ControlOf<platform::DropDownList>(form, "cmbHolidayType");
+        Names offered;
+        for (std::int32_t i = 0; i < list.Count(); ++i) offered.push_back(list.ItemText(i));
+        EXPECT_EQ(offered, types);
+        EXPECT_EQ(platform::ControlOf<platform::DropDownList>(form, "cmbDayOfWeek").ItemText(0),
+                  first_weekday);
+        form.Part<headless::HeadlessButton>("cmdCancel").Click();
+      });
+      world.Action(0).Click();
+    };
+    world.Show([&] {
+      world.world.commands.Forget("CldAllInfo");
+      world.world.commands.Answer("CldAllInfo")
+          .Gives({"ID1", "Year1"}, {})
+          .Gives({"TID1", "Description1"}, {{2, "Free day"}});
+      world.Action(4).Click();
+      expect_in_editor({"Free day"}, "Sunday");
+      world.world.commands.Forget("CldAllInfo");
+      world.world.commands.Answer("CldAllInfo")
+          .Gives({"ID1", "Year1"}, {})
+          .Gives({"TID1", "Description1"}, {})
+          .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, {})
+          .Gives({"FirstDay"}, {{2}});
+      world.Action(4).Click();
+      expect_in_editor({}, "Monday");
+    });
+    EXPECT_EQ(commands.CallsOf("CldAllInfo").size(), 3u);
+    EXPECT_EQ(world.Names(), (Names{"Saturday", "Monday", "Christmas Day", "Easter", "Back again"}));
+  });
 }
 
 TEST(HolidaysWindow, EnablesTheButtonsThatTheCurrentRowAllows) {
