@@ -371,6 +371,7 @@ void HeadlessForm::PressEscape() {
   for (const auto& control : design_.controls) {
     if (control.is_cancel_button) return PressButton(control.name);
   }
+  if (design_.closes_by_escape) Close();
 }
 
 void HeadlessForm::PressButton(const std::string& name) {

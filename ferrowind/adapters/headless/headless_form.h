@@ -83,7 +83,8 @@ class HeadlessForm : public platform::Form,
   void TypeText(const std::string& text);
   /// Presses Enter: the focused button or else the default button, if the operator can use it.
   void PressEnter();
-  /// Presses Escape: the cancel button, if there is one that the operator can use.
+  /// Presses Escape: the cancel button, if there is one that the operator can use, or else what closes the
+  /// form, if it is designed so.
   void PressEscape();
 
  private:

@@ -57,6 +57,9 @@ struct FormDesign {
   /// The designed client area, in twips. Dialogs grow where their texts need it.
   float client_width = 0;
   float client_height = 0;
+  /// Whether Esc closes the form as its close box does, when neither the focused control nor a cancel button
+  /// takes the key.
+  bool closes_by_escape = false;
   /// In tab order.
   std::vector<ControlDesign> controls = {};
 };

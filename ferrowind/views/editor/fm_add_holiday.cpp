@@ -32,26 +32,28 @@ constexpr std::int32_t kNameInUse = 2;
 constexpr std::int32_t kNameOfRemovedRule = 10;
 
 platform::FormDesign Design() {
-  return {.name = "fmAddHoliday",
-          .caption = "Add holiday",
-          .border = platform::FormBorder::kClosableDialog,
-          .start = platform::FormStart::kCenterOwner,
-          .client_width = 5400,
-          .client_height = 3900,
-          .controls = {{ControlKind::kLabel, "lblHolidayType", "Holiday type"},
-                       {ControlKind::kDropDownList, "cmbHolidayType"},
-                       {ControlKind::kFrame, "frmFields"},
-                       {ControlKind::kLabel, "lblName", "Name"},
-                       {ControlKind::kTextBox, "txtName"},
-                       {ControlKind::kLabel, "lblDayOfWeek", "Day of week"},
-                       {ControlKind::kDropDownList, "cmbDayOfWeek"},
-                       {ControlKind::kLabel, "lblFullDate", "Full date"},
-                       {ControlKind::kDatePicker, "dtpFullDate"},
-                       {ControlKind::kDatePicker, "dtpHolidayPoint"},
-                       {ControlKind::kLabel, "lblComment", "Comment"},
-                       {ControlKind::kTextBox, "txtComment"},
-                       {ControlKind::kButton, "cmdOk", "Ok"},
-                       {ControlKind::kButton, "cmdCancel", "Cancel"}}};
+  return {
+      .name = "fmAddHoliday",
+      .caption = "Add holiday",
+      .border = platform::FormBorder::kClosableDialog,
+      .start = platform::FormStart::kCenterOwner,
+      .client_width = 5400,
+      .client_height = 3900,
+      .controls = {
+          {ControlKind::kLabel, "lblHolidayType", "Holiday type"},
+          {ControlKind::kDropDownList, "cmbHolidayType"},
+          {ControlKind::kFrame, "frmFields"},
+          {ControlKind::kLabel, "lblName", "Name"},
+          {ControlKind::kTextBox, "txtName"},
+          {ControlKind::kLabel, "lblDayOfWeek", "Day of week"},
+          {ControlKind::kDropDownList, "cmbDayOfWeek"},
+          {ControlKind::kLabel, "lblFullDate", "Full date"},
+          {ControlKind::kDatePicker, "dtpFullDate"},
+          {ControlKind::kDatePicker, "dtpHolidayPoint"},
+          {ControlKind::kLabel, "lblComment", "Comment"},
+          {ControlKind::kTextBox, "txtComment"},
+          {ControlKind::kButton, "cmdOk", "Ok"},
+          {.kind = ControlKind::kButton, .name = "cmdCancel", .text = "Cancel", .is_cancel_button = true}}};
 }
 
 /// The first item with that number; -1 without one.

@@ -32,6 +32,7 @@ platform::FormDesign Design() {
           .start = platform::FormStart::kAsPlaced,
           .client_width = 12000,
           .client_height = 7500,
+          .closes_by_escape = true,
           .controls = {
               {ControlKind::kGrid, "gexHolidays"},
               {ControlKind::kToolBar, "ssatb"},

@@ -176,6 +176,38 @@ TEST_F(ModalFormContract, IgnoresEscapeWithoutACancelButton) {
   });
 }
 
+TEST_F(ModalFormContract, IsClosedByEscapeAsByItsFrameWhenDesignedSo) {
+  auto design = ContractClosableDialog();
+  design.closes_by_escape = true;
+  const auto closable = toolkit.CreateForm(design);
+  bool refuses = true;
+  const Subscription query = closable->OnCloseQuery([&](bool& cancel) {
+    notes.push_back("query");
+    cancel = refuses;
+  });
+  under_test->ShowModal(*closable, [&] {
+    under_test->PressEscape(*closable);
+    EXPECT_TRUE(closable->IsShown());
+    refuses = false;
+    under_test->PressEscape(*closable);
+  });
+  EXPECT_FALSE(closable->IsShown());
+  EXPECT_THAT(notes, ElementsAre("query", "query"));
+}
+
+TEST_F(ModalFormContract, IsNotClosedByEscapeThatTheCancelButtonTakes) {
+  auto design = ContractFixedDialog();
+  design.closes_by_escape = true;
+  const auto fixed = toolkit.CreateForm(design);
+  const Subscription query = fixed->OnCloseQuery([&](bool&) { notes.push_back("query"); });
+  const Subscription cancel = ButtonOf(*fixed, "cmdCancel").OnClick([&] {
+    notes.push_back("cancel");
+    fixed->Hide();
+  });
+  under_test->ShowModal(*fixed, [&] { under_test->PressEscape(*fixed); });
+  EXPECT_THAT(notes, ElementsAre("cancel"));
+}
+
 TEST_F(ModalFormContract, OpensInTheMiddleOfTheScreenWhenDesignedSo) {
   const Subscription ok = ButtonOf(*dialog, "cmdOk").OnClick([&] { dialog->Hide(); });
   under_test->ShowModal(*dialog, [&] {

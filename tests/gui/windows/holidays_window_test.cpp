@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QLineEdit>
 
 #include "tests/gui/windows/windows_fixture.h"
@@ -351,11 +352,60 @@ TEST_F(HolidaysWindowTest, AssignsNothingWhenItIsLeftByItsFrameOrByEsc) {
   });
   ForCalendar([](QWidget& holidays) {
     WalkToRule(holidays, "Sunday");
-    // The window has no button that Esc would press.
     Press(GridIn(holidays), Qt::Key_Escape);
-    EXPECT_TRUE(holidays.isVisible());
+    EXPECT_FALSE(holidays.isVisible());
   });
   EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldDay WHERE ID2 IS NOT NULL"), "0");
+}
+
+TEST_F(HolidaysWindowTest, EscEndsASearchByTypingBeforeItClosesTheWindow) {
+  ForCalendar([](QWidget& holidays) {
+    auto& rules = GridIn(holidays);
+    rules.setFocus();
+    QTest::keyClicks(&rules, "Su");
+    Press(rules, Qt::Key_Escape);
+    EXPECT_TRUE(holidays.isVisible());
+    Press(rules, Qt::Key_Escape);
+    EXPECT_FALSE(holidays.isVisible());
+  });
+}
+
+TEST_F(HolidaysWindowTest, EscClosesTheWindowFromItsButtonsAndKeepsItsPlace) {
+  QRect placed;
+  ForCalendar([&](QWidget& holidays) {
+    holidays.setGeometry(71, 83, 711, 512);
+    QCoreApplication::processEvents();
+    placed = holidays.geometry();
+    auto& button = Find<QPushButton>(holidays, kFilter);
+    TabTo(button);
+    Press(button, Qt::Key_Escape);
+    EXPECT_FALSE(holidays.isVisible());
+  });
+  ForDay([&](QWidget& holidays) { EXPECT_EQ(holidays.geometry(), placed); });
+}
+
+TEST_F(HolidaysWindowTest, EscClosesAnOpenListBeforeItCancelsTheEditor) {
+  ForCalendar([this](QWidget& holidays) {
+    for (const char* list : {"cmbHolidayType", "dtpFullDate"}) {
+      script_.Expect("fmAddHoliday", [list](QWidget& editor) {
+        ChooseItem(editor, "cmbHolidayType", "Celebration");
+        TypeInto(editor, "txtName", "Nothing");
+        auto& control = Find<QWidget>(editor, list);
+        control.setFocus();
+        QTest::keyClick(&control, Qt::Key_Down, Qt::AltModifier);
+        QWidget* popup = QApplication::activePopupWidget();
+        ASSERT_NE(popup, nullptr) << list;
+        Press(popup->focusWidget() != nullptr ? *popup->focusWidget() : *popup, Qt::Key_Escape);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << list;
+        EXPECT_TRUE(editor.isVisible()) << list;
+        Press(control, Qt::Key_Escape);
+        EXPECT_FALSE(editor.isVisible()) << list;
+      });
+      ClickButton(holidays, kAdd);
+      EXPECT_TRUE(holidays.isVisible()) << list;
+    }
+  });
+  EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldHoliday WHERE Name1 = 'Nothing'"), "0");
 }
 
 TEST_F(HolidaysWindowTest, ComesBackAtItsPlace) {

@@ -26,9 +26,12 @@ QPushButton* EnterButton(const QDialog& dialog) {
 
 void SetCancelButton(QPushButton& button) { button.setProperty(kCancelProperty, true); }
 
+bool IsPlainKey(const QKeyEvent& event) {
+  return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 bool PressButtonOfKey(const QDialog& dialog, const QKeyEvent& event) {
-  const bool is_plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-  if (!is_plain) return false;
+  if (!IsPlainKey(event)) return false;
   QPushButton* button = nullptr;
   if (event.key() == Qt::Key_Escape) button = CancelButton(dialog);
   if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) button = EnterButton(dialog);

@@ -149,7 +149,12 @@ void FormWindow::hideEvent(QHideEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (!PressButtonOfKey(*this, *event) && !TypeIntoTarget(*event)) event->ignore();
+  if (PressButtonOfKey(*this, *event) || TypeIntoTarget(*event)) return;
+  if (closes_by_escape_ && event->key() == Qt::Key_Escape && IsPlainKey(*event)) {
+    close();
+  } else {
+    event->ignore();
+  }
 }
 
 bool FormWindow::TypeIntoTarget(QKeyEvent& event) {

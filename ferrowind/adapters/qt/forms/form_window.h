@@ -34,6 +34,8 @@ class FormWindow : public QDialog {
   /// The line edit, of this window, that takes what is typed while the focus is on a widget that takes no
   /// text.
   void SetTypingTarget(QLineEdit& line);
+  /// Whether Esc closes the window as its close box does, when no control and no button takes the key.
+  void SetClosesByEscape(bool closes) { closes_by_escape_ = closes; }
   /// The size of the client area, in pixels. Dialogs of fixed size grow beyond it as far as their texts need;
   /// other windows are no larger than what is free of the screen around its middle.
   void SetDesignedSize(const QSize& size);
@@ -77,6 +79,7 @@ class FormWindow : public QDialog {
   QSize wanted_outer_size_;
   QSize extents_applied_ = {0, 0};
   bool is_placed_ = false;
+  bool closes_by_escape_ = false;
   std::shared_ptr<void> retired_form_;
 };
 

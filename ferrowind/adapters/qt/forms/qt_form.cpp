@@ -81,6 +81,7 @@ void QtForm::MakeControls(const platform::FormDesign& design, const FormLayouts&
     controls_.push_back(MakeDesignedControl(control));
   SetCaption(design.caption);
   window_->SetBorder(design.border);
+  window_->SetClosesByEscape(design.closes_by_escape);
   ApplyDesign(*window_, design, controls_);
   window_->SetDesignedSize({PixelsX(design.client_width), PixelsY(design.client_height)});
 }

@@ -290,7 +290,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     AskForMenuOfCurrentRow();
     return;
   }
+  // The key ends the search first; the window may stand for it the next time.
+  const bool ends_search = event->key() == Qt::Key_Escape && type_ahead_.IsUnderWay();
   if (IsMove(event->key())) type_ahead_.Forget();
+  if (ends_search) return;
   if (!type_ahead_.IsUnderWay() && HandleGroupKey(event)) return;
   UniformTableView::keyPressEvent(event);
 }

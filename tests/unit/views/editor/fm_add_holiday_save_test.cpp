@@ -32,6 +32,19 @@ TEST(HolidayEditorSave, AWeekdayRuleCarriesItsWeekdayAndNoDate) {
   });
 }
 
+TEST(HolidayEditorSave, EscIsCancel) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    ASSERT_TRUE(world.InitToAdd());
+    world.Types().Choose(1);
+    world.NameBox().SetText("Nothing");
+    world.Show([](headless::HeadlessForm& form) { form.PressEscape(); });
+    EXPECT_EQ(world.editor->Result(), 1);
+    EXPECT_TRUE(world.Form().HasUnloaded());
+    EXPECT_TRUE(world.world.commands.CallsOf("CldIUCelebrate").empty());
+  });
+}
+
 TEST(HolidayEditorSave, EveryWeekdayPositionIsSavedAsItself) {
   for (std::int32_t position = 1; position <= 7; ++position) {
     RunInFreshThread([&] {

@@ -409,6 +409,20 @@ TEST(HolidaysWindow, RestoresItsPlacementWhenItLoadsAndSavesItFirstWhenItCloses)
   });
 }
 
+TEST(HolidaysWindow, EscClosesItAsItsCloseBoxDoes) {
+  RunInFreshThread([] {
+    HolidaysWorld world;
+    ASSERT_TRUE(world.InitWithUsualRules(1));
+    world.Show([&] {
+      world.world.log.Clear();
+      world.Form().PressEscape();
+      EXPECT_TRUE(world.Form().HasUnloaded());
+    });
+    EXPECT_EQ(world.world.log.StartingWith("services.WriteSetting").size(), 4u);
+    EXPECT_EQ(world.window->Result(), 0);
+  });
+}
+
 TEST(HolidaysWindow, TheToolShowsAndHidesTheGroupByHeader) {
   RunInFreshThread([] {
     HolidaysWorld world;
