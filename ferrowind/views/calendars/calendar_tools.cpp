@@ -1,5 +1,7 @@
 #include "ferrowind/views/calendars/calendar_tools.h"
 
+#include "ferrowind/views/common/group_by_box_tool.h"
+
 namespace ferrowind {
 namespace {
 
@@ -20,7 +22,7 @@ constexpr ToolText kTools[] = {
     {"ID_New", "New", "Create new calendar"},
     {"ID_Expand", "Expand", "Expand currency nodes"},
     {"ID_Collapse", "Collapse", "Collapse currency nodes"},
-    {"ID_ShowHide", "Show or hide headers group", "Show or hide headers group", ToolKind::kTwoStateButton},
+    {GroupByBoxTool::kId, GroupByBoxTool::kText, GroupByBoxTool::kText, ToolKind::kTwoStateButton},
     {"ID_ExpandGrid", "Expand all grid", "Expand all grid"},
     {"ID_CollapseGrid", "Collapse all grid", "Collapse all grid"},
     {"ID_ExpSel", "Expand selection", "Expand selection"},
@@ -34,7 +36,7 @@ constexpr ToolText kTools[] = {
 
 constexpr const char* kTreeTools[] = {"ID_New", "ID_Expand", "ID_Collapse"};
 constexpr const char* kDayTools[] = {"ID_AssignSingle", "ID_AssignMany", "ID_Except", "ID_Except2"};
-constexpr const char* kGridTools[] = {"ID_Copy", "ID_ShowHide", "ID_ExpSel", "ID_ExpandGrid",
+constexpr const char* kGridTools[] = {"ID_Copy", GroupByBoxTool::kId, "ID_ExpSel", "ID_ExpandGrid",
                                       "ID_CollapseGrid"};
 
 }  // namespace
@@ -43,8 +45,9 @@ void SetupCalendarTools(platform::ToolBar& tool_bar) {
   for (const auto& tool : kTools) {
     tool_bar.AddTool({tool.id, tool.caption, kCategory, tool.description, tool.kind});
   }
-  tool_bar.SetBar("ToolBar", {"ID_Refresh", "ID_New", "ID_Expand", "ID_Collapse", kToolSeparator,
-                              "ID_ShowHide", "ID_ExpandGrid", "ID_CollapseGrid", "ID_ExpSel", "ID_Copy"});
+  tool_bar.SetBar("ToolBar",
+                  {"ID_Refresh", "ID_New", "ID_Expand", "ID_Collapse", kToolSeparator, GroupByBoxTool::kId,
+                   "ID_ExpandGrid", "ID_CollapseGrid", "ID_ExpSel", "ID_Copy"});
   tool_bar.AddPopupMenu(kDayMenu, "StatesMenu",
                         {"ID_AssignSingle", "ID_AssignMany", kToolSeparator, "ID_Except", "ID_Except2"});
 }

@@ -29,8 +29,13 @@ constexpr ComputedColumn kComputedColumns[] = {
      [](const Date& date, const Locale& locale) { return Value(locale.MonthName(date.Month())); }},
 };
 
-/// A row that the grid had before its rows were replaced is put back only while the grid still has it.
-bool IsStillThere(std::int32_t row, const platform::Grid& grid) { return row != 0 && row <= grid.RowCount(); }
+/// A row is put back only while the grid still has it.
+void PutBack(platform::Grid& grid, const GridPosition& before) {
+  const auto is_there = [&grid](std::int32_t row) { return row != 0 && row <= grid.RowCount(); };
+  if (is_there(before.current_row)) grid.SetCurrentRow(before.current_row);
+  if (is_there(before.first_visible_row)) grid.SetFirstVisibleRow(before.first_visible_row);
+  if (before.current_column != 0) grid.SetCurrentColumn(before.current_column);
+}
 
 std::int32_t NextSortOrder(std::int32_t order) {
   switch (order) {
@@ -46,7 +51,9 @@ std::int32_t NextSortOrder(std::int32_t order) {
 }  // namespace
 
 DayGrid::DayGrid(const platform::Platform& platform, Controls controls)
-    : platform_(platform), controls_(std::move(controls)) {}
+    : platform_(platform),
+      controls_(std::move(controls)),
+      reload_(platform.toolkit, controls_.grid, controls_.splitter, PutBack) {}
 
 void DayGrid::ShowDaysOf(const std::optional<std::string>& node) {
   for (const auto& computed : kComputedColumns) controls_.grid.ColumnByKey(computed.key).SetUnbound(true);
@@ -64,40 +71,16 @@ void DayGrid::ShowDaysOf(const std::optional<std::string>& node) {
 }
 
 void DayGrid::ShowNothing() {
-  platform::Grid& grid = controls_.grid;
-  grid.SetEnabled(false);
+  controls_.grid.SetEnabled(false);
   controls_.on_fill();
-  if (!grid.Records()) return;
-  const UpdateLock lock(platform_.toolkit, controls_.splitter);
-  SaveGridKeys(grid, sort_store_, group_store_);
-  grid.HoldColumns();
-  grid.AttachRecords(nullptr);
-  RestoreGridKeys(grid, sort_store_, group_store_);
+  if (controls_.grid.Records()) reload_.ShowNothing();
 }
 
 void DayGrid::ShowRecords(std::shared_ptr<platform::RecordSet> days) {
-  platform::Grid& grid = controls_.grid;
-  std::int32_t current_row = 0;
-  std::int32_t first_visible_row = 0;
-  std::int32_t current_column = 0;
-  if (grid.Records()) {
-    current_row = grid.CurrentRow();
-    first_visible_row = grid.FirstVisibleRow();
-    current_column = grid.CurrentColumn();
-  }
-  UpdateLock lock(platform_.toolkit, controls_.splitter);
-  grid.SetEnabled(true);
-  controls_.on_fill();
-  SaveGridKeys(grid, sort_store_, group_store_);
-  grid.HoldColumns();
-  days_ = std::move(days);
-  grid.AttachRecords(days_);
-  grid.Rebind();
-  RestoreGridKeys(grid, sort_store_, group_store_);
-  if (IsStillThere(current_row, grid)) grid.SetCurrentRow(current_row);
-  if (IsStillThere(first_visible_row, grid)) grid.SetFirstVisibleRow(first_visible_row);
-  if (current_column != 0) grid.SetCurrentColumn(current_column);
-  lock.Unlock();
+  reload_.Show(std::move(days), [this] {
+    controls_.grid.SetEnabled(true);
+    controls_.on_fill();
+  });
   current_node_ = controls_.tree.Selected();
 }
 
@@ -105,9 +88,11 @@ void DayGrid::ComputeCell(platform::RecordSet::Bookmark bookmark, std::int16_t c
   const std::string& key = controls_.grid.ColumnAt(column).Key();
   for (const auto& computed : kComputedColumns) {
     if (key != computed.key) continue;
-    days_->MoveTo(bookmark);
+    const auto days = controls_.grid.Records();
+    if (!days) return;
+    days->MoveTo(bookmark);
     receiver =
-        computed.compute(platform::ToDate((*days_)[FieldNameOf(*headers_, "FullDate")]), platform_.locale);
+        computed.compute(platform::ToDate((*days)[FieldNameOf(*headers_, "FullDate")]), platform_.locale);
     return;
   }
 }

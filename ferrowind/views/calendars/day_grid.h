@@ -8,7 +8,7 @@
 
 #include "ferrowind/control/grid_fields.h"
 #include "ferrowind/platform/platform.h"
-#include "ferrowind/views/common/grid_keys.h"
+#include "ferrowind/views/common/grid_reload.h"
 #include "ferrowind/views/common/update_lock.h"
 
 namespace ferrowind {
@@ -54,10 +54,8 @@ class DayGrid {
   const platform::Platform& platform_;
   Controls controls_;
   std::shared_ptr<GridFields> headers_;
-  std::shared_ptr<platform::RecordSet> days_;
   std::optional<std::string> current_node_;
-  KeyStore sort_store_;
-  KeyStore group_store_;
+  GridReload reload_;
   std::unique_ptr<UpdateLock> regrouping_lock_;
 };
 

@@ -14,7 +14,6 @@
 #include "ferrowind/views/common/grid_setup.h"
 #include "ferrowind/views/common/holiday_type_formats.h"
 #include "ferrowind/views/common/value_list.h"
-#include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/holidays/fm_enter_holidays.h"
 
 namespace ferrowind {
@@ -24,7 +23,6 @@ using platform::ControlKind;
 using platform::ControlOf;
 
 constexpr const char* kLayoutSection = "Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8";
-constexpr const char* kPlacementSuffix = "\\Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8\\Window Calendars";
 constexpr const char* kAnimationFile = "/Progress.pra";
 constexpr std::int32_t kDescriptionPanel = 1;
 
@@ -66,6 +64,7 @@ fmCalendar::fmCalendar(const platform::Platform& platform)
       anim_(ControlOf<platform::Animation>(*form_, "anim")),
       ssspUp_(form_->ControlNamed("ssspUp")),
       sssp_(form_->ControlNamed("sssp")),
+      group_by_box_tool_(platform.toolkit, *form_, ssatb_, gexCalendar_),
       currencies_(platform.toolkit, *form_, tvCalendar_, [this] { RefreshTools(); }),
       day_grid_(platform, {*form_, tvCalendar_, gexCalendar_, sssp_, [this] { RefreshTools(); }}),
       day_commands_(platform, {tvCalendar_, gexCalendar_, [this] { ShowDaysOfSelectedNode(); },
@@ -108,8 +107,6 @@ void fmCalendar::Connect() {
   subscribe(gexCalendar_.OnHeaderClick(handler(&fmCalendar::gexCalendar_HeaderClick)));
   subscribe(gexCalendar_.OnBeforeGroupChange(handler(&fmCalendar::gexCalendar_BeforeGroupChange)));
   subscribe(gexCalendar_.OnAfterGroupChange(handler(&fmCalendar::gexCalendar_AfterGroupChange)));
-  subscribe(gexCalendar_.OnGroupByBoxChange(
-      [this](bool visible) { ssatb_.SetToolPressed("ID_ShowHide", visible); }));
   subscribe(gexCalendar_.OnMouseUp(handler(&fmCalendar::gexCalendar_MouseUp)));
 }
 
@@ -175,10 +172,7 @@ std::optional<bool> fmCalendar::AskToExit() {
   return Confirm(platform_.toolkit, "Exit from calendars", "You wish exit calendars. Ok ?", 1) == 1;
 }
 
-void fmCalendar::Form_Load() {
-  placement_section_ = SharedServicesObject().SettingsRoot() + kPlacementSuffix;
-  RestoreWindowPlacement(platform_.toolkit, *form_, placement_section_);
-}
+void fmCalendar::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
 
 // A minimised window, for one, has no room left for the panes: whatever fails here is ignored.
 void fmCalendar::Form_Resize() {
@@ -189,7 +183,7 @@ void fmCalendar::Form_QueryUnload() {
   has_closed_ = true;
   closing_.Emit();
   SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection);
-  SaveWindowPlacement(*form_, placement_section_);
+  placement_.Save(*form_);
   platform_.toolkit.ProcessPendingEvents();
 }
 
@@ -263,7 +257,7 @@ void fmCalendar::ssatb_ToolClick(const std::string& id) {
       {"ID_Refresh", [](fmCalendar& w) { w.RefreshAll(0, 0, w.tvCalendar_.Selected().value_or("")); }},
       {"ID_Copy", [](fmCalendar& w) { SharedServicesObject().CopyGridRows(w.gexCalendar_, true); }},
       {"ID_ExpSel", [](fmCalendar& w) { w.gexCalendar_.ExpandSelection(); }},
-      {"ID_ShowHide", [](fmCalendar& w) { w.ShowOrHideGroupByBox(); }},
+      {GroupByBoxTool::kId, [](fmCalendar& w) { w.group_by_box_tool_.ShowOrHideBox(); }},
   };
   for (const auto& action : kActions) {
     if (id == action.id) {
@@ -271,11 +265,6 @@ void fmCalendar::ssatb_ToolClick(const std::string& id) {
       return;
     }
   }
-}
-
-void fmCalendar::ShowOrHideGroupByBox() {
-  const UpdateLock lock(platform_.toolkit, *form_);
-  gexCalendar_.SetGroupByBoxVisible(ssatb_.ToolPressed("ID_ShowHide"));
 }
 
 void fmCalendar::ssatb_ToolEnter(const std::string& id) {

@@ -12,6 +12,8 @@
 #include "ferrowind/views/calendars/currency_tree.h"
 #include "ferrowind/views/calendars/day_commands.h"
 #include "ferrowind/views/calendars/day_grid.h"
+#include "ferrowind/views/common/group_by_box_tool.h"
+#include "ferrowind/views/common/window_placement.h"
 
 namespace ferrowind {
 
@@ -54,7 +56,6 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   void SetAllCurrenciesExpanded(bool expanded);
   void ShowDaysOfSelectedNode();
   void RefreshTools();
-  void ShowOrHideGroupByBox();
 
   void Form_Load();
   void Form_Resize();
@@ -78,13 +79,14 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   platform::Animation& anim_;
   platform::Control& ssspUp_;
   platform::Control& sssp_;
+  GroupByBoxTool group_by_box_tool_;
   CurrencyTree currencies_;
   DayGrid day_grid_;
   DayCommands day_commands_;
   bool is_closing_after_failed_start_ = false;
   /// The program may have closed it while a dialog of it was just being answered.
   bool has_closed_ = false;
-  std::string placement_section_;
+  StoredPlacement placement_{"Window Calendars"};
   platform::Signal<> closing_;
   std::vector<platform::Subscription> subscriptions_;
 };

@@ -9,6 +9,8 @@ namespace {
 
 using platform::Form;
 
+constexpr const char* kComponentSection = "\\Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8\\";
+
 using Getter = float (Form::*)() const;
 using Setter = void (Form::*)(float);
 
@@ -44,6 +46,11 @@ void RestoreWindowPlacement(const platform::Toolkit& toolkit, Form& window, cons
       (window.*setting.set)(platform::ToSingle(stored));
     });
   }
+}
+
+void StoredPlacement::Restore(const platform::Toolkit& toolkit, platform::Form& window) {
+  section_ = SharedServicesObject().SettingsRoot() + kComponentSection + window_;
+  RestoreWindowPlacement(toolkit, window, section_);
 }
 
 }  // namespace ferrowind

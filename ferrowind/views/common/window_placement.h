@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "ferrowind/platform/toolkit/toolkit.h"
 
@@ -15,5 +16,21 @@ void SaveWindowPlacement(const platform::Form& window, const std::string& sectio
 /// cannot be read or taken leaves the window as it was.
 void RestoreWindowPlacement(const platform::Toolkit& toolkit, platform::Form& window,
                             const std::string& section);
+
+/// The placement of one of the component's windows, in its section below the settings root.
+class StoredPlacement {
+ public:
+  /// `window` is the last part of the section's name, as in "Window Calendars".
+  explicit StoredPlacement(std::string window) : window_(std::move(window)) {}
+
+  /// To be called when the window loads.
+  void Restore(const platform::Toolkit& toolkit, platform::Form& window);
+  /// To be called when it is about to close.
+  void Save(const platform::Form& window) const { SaveWindowPlacement(window, section_); }
+
+ private:
+  std::string window_;
+  std::string section_;
+};
 
 }  // namespace ferrowind

@@ -6,10 +6,7 @@
 #include "ferrowind/data/error_reporting.h"
 #include "ferrowind/data/error_table.h"
 #include "ferrowind/data/ignoring_failure.h"
-#include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
-#include "ferrowind/views/common/update_lock.h"
-#include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/editor/fm_add_holiday.h"
 
 namespace ferrowind {
@@ -18,9 +15,6 @@ namespace {
 using platform::Button;
 using platform::ControlKind;
 using platform::ControlOf;
-
-constexpr const char* kPlacementSuffix = "\\Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8\\Window Holidays";
-constexpr const char* kShowHideTool = "ID_ShowHide";
 
 /// The buttons by their index in the control array.
 enum ActionIndex : std::size_t { kAdd, kEdit, kRemove, kRestore, kFilter, kAssign };
@@ -56,11 +50,12 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner 
       form_(platform.toolkit.CreateForm(Design())),
       gexHolidays_(ControlOf<platform::Grid>(*form_, "gexHolidays")),
       ssatb_(ControlOf<platform::ToolBar>(*form_, "ssatb")),
+      group_by_box_tool_(platform.toolkit, *form_, ssatb_, gexHolidays_),
       list_(platform, gexHolidays_,
             [this](const std::string& text) { cmdAction_[kFilter]->SetCaption(text); }) {
-  ssatb_.AddTool({kShowHideTool, "Show or hide headers group", "General", "Show or hide headers group",
+  ssatb_.AddTool({GroupByBoxTool::kId, GroupByBoxTool::kText, "General", GroupByBoxTool::kText,
                   platform::ToolKind::kTwoStateButton});
-  ssatb_.SetBar("ToolBar", {kShowHideTool});
+  ssatb_.SetBar("ToolBar", {GroupByBoxTool::kId});
 
   const auto subscribe = [this](platform::Subscription subscription) {
     subscriptions_.push_back(std::move(subscription));
@@ -77,8 +72,6 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner 
   subscribe(form_->OnCloseQuery([this](bool&) { RunHandler(platform_, [this] { Form_QueryUnload(); }); }));
   subscribe(ssatb_.OnToolClick(
       [this](const std::string& id) { RunHandler(platform_, [&] { ssatb_ToolClick(id); }); }));
-  subscribe(gexHolidays_.OnGroupByBoxChange(
-      [this](bool visible) { ssatb_.SetToolPressed(kShowHideTool, visible); }));
   subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler(platform_, [this] { RefreshButtons(); }); }));
   subscribe(gexHolidays_.OnCellText(
       [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text) {
@@ -112,14 +105,11 @@ void fmEnterHolidays::SetMode(std::int32_t mode) {
     gexHolidays_.SetMultiSelect(mode == kWholeCalendarMode);
 }
 
-void fmEnterHolidays::Form_Load() {
-  placement_section_ = SharedServicesObject().SettingsRoot() + kPlacementSuffix;
-  RestoreWindowPlacement(platform_.toolkit, *form_, placement_section_);
-}
+void fmEnterHolidays::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
 
 void fmEnterHolidays::Form_QueryUnload() {
   has_closed_ = true;
-  SaveWindowPlacement(*form_, placement_section_);
+  placement_.Save(*form_);
 }
 
 void fmEnterHolidays::ShowModal() { form_->ShowModal(); }
@@ -214,9 +204,7 @@ void fmEnterHolidays::RefreshButtons() {
 }
 
 void fmEnterHolidays::ssatb_ToolClick(const std::string& id) {
-  if (id != kShowHideTool) return;
-  const UpdateLock lock(platform_.toolkit, *form_);
-  gexHolidays_.SetGroupByBoxVisible(ssatb_.ToolPressed(kShowHideTool));
+  if (id == GroupByBoxTool::kId) group_by_box_tool_.ShowOrHideBox();
 }
 
 }  // namespace ferrowind

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "ferrowind/platform/platform.h"
+#include "ferrowind/views/common/group_by_box_tool.h"
+#include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/holidays/holiday_list.h"
 #include "ferrowind/views/holidays/holiday_rule.h"
 #include "ferrowind/views/holidays/holidays_window.h"
@@ -63,13 +65,14 @@ class fmEnterHolidays : public HolidaysWindow {
   std::shared_ptr<platform::Form> form_;
   platform::Grid& gexHolidays_;
   platform::ToolBar& ssatb_;
+  GroupByBoxTool group_by_box_tool_;
   /// The control array of the six buttons.
   std::vector<platform::Button*> cmdAction_;
   HolidayList list_;
   AssignmentTarget target_;
   std::int32_t result_ = 0;
   bool has_closed_ = false;
-  std::string placement_section_;
+  StoredPlacement placement_{"Window Holidays"};
   std::vector<platform::Subscription> subscriptions_;
 };
 

@@ -13,7 +13,6 @@
 #include "ferrowind/views/common/grid_setup.h"
 #include "ferrowind/views/common/holiday_type_formats.h"
 #include "ferrowind/views/common/holiday_types.h"
-#include "ferrowind/views/common/update_lock.h"
 #include "ferrowind/views/common/value_list.h"
 
 namespace ferrowind {
@@ -27,6 +26,13 @@ constexpr const char* kTypeColumn = "HolidayType";
 constexpr const char* kDateColumn = "FullDate";
 constexpr platform::Color kGrey = {128, 128, 128};
 
+/// A row is put back where it is below the row count.
+void PutBack(platform::Grid& grid, const GridPosition& before) {
+  if (before.first_visible_row < grid.RowCount()) grid.SetFirstVisibleRow(before.first_visible_row);
+  if (before.current_row < grid.RowCount()) grid.SetCurrentRow(before.current_row);
+  grid.SetCurrentColumn(before.current_column);
+}
+
 bool Equals(const Value& value, std::int32_t number) {
   return !value.IsEmpty() && platform::ToInt32(value) == number;
 }
@@ -35,7 +41,10 @@ bool Equals(const Value& value, std::int32_t number) {
 
 HolidayList::HolidayList(const platform::Platform& platform, platform::Grid& grid,
                          std::function<void(const std::string&)> on_filter)
-    : platform_(platform), grid_(grid), on_filter_(std::move(on_filter)) {}
+    : platform_(platform),
+      grid_(grid),
+      on_filter_(std::move(on_filter)),
+      reload_(platform.toolkit, grid, grid, PutBack) {}
 
 void HolidayList::SetHeaders(std::shared_ptr<GridFields> headers) {
   headers_ = std::move(headers);
@@ -94,18 +103,7 @@ void HolidayList::FillGrid(const std::shared_ptr<RecordSet>& holidays) {
     ToggleFilter();
   }
   holidays->SetFilter(filter_->Text());
-  const std::int32_t first_visible_row = grid_.FirstVisibleRow();
-  const std::int32_t current_row = grid_.CurrentRow();
-  const std::int32_t current_column = grid_.CurrentColumn();
-  const UpdateLock lock(platform_.toolkit, grid_);
-  SaveGridKeys(grid_, sort_store_, group_store_);
-  grid_.HoldColumns();
-  grid_.AttachRecords(holidays);
-  grid_.Rebind();
-  RestoreGridKeys(grid_, sort_store_, group_store_);
-  if (first_visible_row < grid_.RowCount()) grid_.SetFirstVisibleRow(first_visible_row);
-  if (current_row < grid_.RowCount()) grid_.SetCurrentRow(current_row);
-  grid_.SetCurrentColumn(current_column);
+  reload_.Show(holidays);
 }
 
 void HolidayList::AddFormats() {

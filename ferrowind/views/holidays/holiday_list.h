@@ -9,7 +9,7 @@
 
 #include "ferrowind/control/grid_fields.h"
 #include "ferrowind/platform/platform.h"
-#include "ferrowind/views/common/grid_keys.h"
+#include "ferrowind/views/common/grid_reload.h"
 #include "ferrowind/views/holidays/holiday_filter.h"
 #include "ferrowind/views/holidays/holiday_rule.h"
 
@@ -68,8 +68,7 @@ class HolidayList {
   std::int32_t first_weekday_ = 0;
   /// Made at the first fill.
   std::optional<HolidayFilter> filter_;
-  KeyStore sort_store_;
-  KeyStore group_store_;
+  GridReload reload_;
 };
 
 }  // namespace ferrowind
