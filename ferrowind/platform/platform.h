@@ -3,6 +3,7 @@
 #include <string>
 
 #include "ferrowind/platform/database/command.h"
+#include "ferrowind/platform/services/action_observer.h"
 #include "ferrowind/platform/services/clock.h"
 #include "ferrowind/platform/services/dictionary.h"
 #include "ferrowind/platform/services/locale.h"
@@ -24,6 +25,8 @@ struct Platform {
   /// The folder that the component's own files lie in, such as the animation; UTF-8, without a trailing
   /// separator.
   std::string component_folder;
+  /// Told of the operator's actions; null for a host that wants to know nothing of them.
+  ActionObserver* action_observer = nullptr;
 };
 
 }  // namespace ferrowind::platform

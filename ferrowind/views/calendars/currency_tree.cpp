@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/module_state.h"
@@ -32,8 +33,8 @@ std::string CurrencyName(const platform::RecordSet& currencies) {
 }  // namespace
 
 CurrencyTree::CurrencyTree(platform::Toolkit& toolkit, platform::Form& form, platform::Tree& tree,
-                           std::function<void()> on_reload)
-    : toolkit_(toolkit), form_(form), tree_(tree), on_reload_(std::move(on_reload)) {}
+                           std::function<void()> on_reload, platform::ActionObserver* observer)
+    : toolkit_(toolkit), form_(form), tree_(tree), on_reload_(std::move(on_reload)), observer_(observer) {}
 
 bool CurrencyTree::LoadCurrencies() {
   try {
@@ -47,6 +48,7 @@ bool CurrencyTree::LoadCurrencies() {
     return true;
   } catch (const std::exception&) {
     TraceFailureBeingHandled();
+    TellFailedRead(observer_);
     return false;
   }
 }
@@ -54,10 +56,15 @@ bool CurrencyTree::LoadCurrencies() {
 bool CurrencyTree::LoadCalendars() {
   try {
     std::shared_ptr<SourceValues> results;
-    if (ExecProc("CldAllInfo", nullptr, results) != 0) return false;
+    const std::int32_t answer = ExecProc("CldAllInfo", nullptr, results);
+    TellRead(observer_, answer);
+    if (answer != 0) return false;
     const auto calendars = RecordSetIn(results, "1");
     const auto holiday_types = RecordSetIn(results, "2");
-    if (!calendars || !holiday_types) return false;
+    if (!calendars || !holiday_types) {
+      TellIncompleteRead(observer_, "the calendars or the types of holidays");
+      return false;
+    }
     holiday_types_ = holiday_types;
     const std::size_t currency_field = calendars->FieldNamed("ID1");
     const std::size_t year_field = calendars->FieldNamed("Year1");
@@ -71,6 +78,7 @@ bool CurrencyTree::LoadCalendars() {
     return true;
   } catch (const std::exception&) {
     TraceFailureBeingHandled();
+    TellFailedRead(observer_);
     return false;
   }
 }

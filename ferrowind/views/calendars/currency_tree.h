@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "ferrowind/platform/services/action_observer.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 #include "ferrowind/platform/values/record_set.h"
 
@@ -11,9 +12,10 @@ namespace ferrowind {
 /// The tree of the currencies and, below each, its yearly calendars.
 class CurrencyTree {
  public:
-  /// `tree` and `form` must outlive this object. `on_reload` is called after each load of the currencies.
+  /// `tree` and `form` must outlive this object, and so must `observer`, which is told of the reads unless it
+  /// is null. `on_reload` is called after each load of the currencies.
   CurrencyTree(platform::Toolkit& toolkit, platform::Form& form, platform::Tree& tree,
-               std::function<void()> on_reload);
+               std::function<void()> on_reload, platform::ActionObserver* observer = nullptr);
 
   /// Fills the tree with the currencies of the dictionary object alone. False on any failure.
   bool LoadCurrencies();
@@ -36,6 +38,7 @@ class CurrencyTree {
   platform::Form& form_;
   platform::Tree& tree_;
   std::function<void()> on_reload_;
+  platform::ActionObserver* observer_;
   std::shared_ptr<platform::RecordSet> holiday_types_;
 };
 

@@ -1,10 +1,13 @@
 #include "ferrowind/views/calendars/day_commands.h"
 
+#include <optional>
 #include <utility>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/calendars/action_subject.h"
 #include "ferrowind/views/calendars/node_key.h"
 #include "ferrowind/views/common/holiday_types.h"
 #include "ferrowind/views/dialogs/fm_except_mess.h"
@@ -39,7 +42,14 @@ DayCommands::SelectedDay DayCommands::TakeSelectedDay() const {
           node_key::CurrencyOfCalendarNode(node)};
 }
 
+void DayCommands::DescribeSelectedDay(platform::OperatorAction& action) const {
+  DescribeNode(action, window_.tree, window_.tree.Selected());
+  action.day = platform::ToDate(window_.grid.CellValue(window_.grid.CurrentRow(), "FullDate"));
+}
+
 void DayCommands::ExceptDay(const std::string& message) {
+  const ActionScope action(platform_.action_observer, platform::ActionKind::kExceptDay,
+                           [this](auto& about) { DescribeSelectedDay(about); });
   const SelectedDay day = TakeSelectedDay();
   SourceValues params;
   params.Add("TID1", holiday_type::kWorkingDay);
@@ -50,7 +60,7 @@ void DayCommands::ExceptDay(const std::string& message) {
   params.Add("ODate", day.date);
   if (!message.empty()) params.Add("Comment", message);
   std::shared_ptr<SourceValues> results;
-  ExecProc("CldIUMain", &params, results);
+  TellWrite(platform_.action_observer, {}, ExecProc("CldIUMain", &params, results));
   window_.show_days_of_selected_node();
 }
 
@@ -65,8 +75,12 @@ void DayCommands::AssignHolidays(std::int32_t mode) {
     ~Forgetting() { held.reset(); }
     std::shared_ptr<HolidaysWindow>& held;
   };
+  std::optional<ActionScope> opening(std::in_place, platform_.action_observer,
+                                     platform::ActionKind::kOpenRules,
+                                     [this](auto& about) { DescribeSelectedDay(about); });
   holidays_window_ = window_.create_holidays_window();
-  // Held here, because the window can be closed and forgotten while it is open.
+  // Held here, because the window can be closed and forgotten while it is open, and because an assignment is
+  // an action that lasts until its days are on show.
   const auto window = holidays_window_;
   const Forgetting forgetting{holidays_window_};
   const SelectedDay day = TakeSelectedDay();
@@ -74,6 +88,7 @@ void DayCommands::AssignHolidays(std::int32_t mode) {
     window->Unload();
     return;
   }
+  opening.reset();
   try {
     window->ShowModal();
   } catch (const platform::Interruption&) {
@@ -92,6 +107,7 @@ void DayCommands::CreateNewCalendar() {
   dialog.SetCcyID(currency_node ? node_key::CurrencyOfCalendarNode(*node)
                                 : node_key::CurrencyOfCurrencyNode(*node));
   const std::string currency = window_.tree.Text(currency_node.value_or(*node));
+  dialog.SetCurrency(currency);
   dialog.SetCaption(dialog.Caption() + " " + currency + " currency");
   dialog.ShowModal();
   if (dialog.Result() == 0) window_.refresh_and_select(dialog.CcyID(), dialog.EnterYear());

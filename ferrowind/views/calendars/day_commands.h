@@ -29,7 +29,7 @@ class DayCommands {
   void SetHolidayHeaders(std::shared_ptr<GridFields> holiday_headers);
 
   /// Makes the current row's day a working day by exception. What the database answers is not examined, by
-  /// intention: a failure stays pending in the gateway.
+  /// intention: a failure stays pending in the gateway, and only the host's observer is told.
   void ExceptDay(const std::string& message);
   /// Asks for the message first.
   void ExceptDayWithMessage();
@@ -52,6 +52,7 @@ class DayCommands {
   };
 
   [[nodiscard]] SelectedDay TakeSelectedDay() const;
+  void DescribeSelectedDay(platform::OperatorAction& action) const;
 
   const platform::Platform& platform_;
   Window window_;

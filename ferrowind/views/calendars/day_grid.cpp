@@ -2,10 +2,12 @@
 
 #include <utility>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/record_set_in.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/views/calendars/changed_days.h"
 #include "ferrowind/views/calendars/node_key.h"
 #include "ferrowind/views/common/grid_setup.h"
 
@@ -66,8 +68,21 @@ void DayGrid::ShowDaysOf(const std::optional<std::string>& node) {
   params.Add("ID1", node_key::CurrencyOfCurrencyNode(*currency_node));
   params.Add("Year1", node_key::YearOfCalendarNode(*node));
   std::shared_ptr<SourceValues> results;
-  if (ExecProc("CldGetMain", &params, results) != 0) return;
-  if (auto days = RecordSetIn(results, "1")) ShowRecords(std::move(days));
+  const std::int32_t answer = ExecProc("CldGetMain", &params, results);
+  TellRead(platform_.action_observer, answer);
+  if (answer != 0) return;
+  auto days = RecordSetIn(results, "1");
+  if (!days) return TellIncompleteRead(platform_.action_observer, "the days");
+  TellChanges(*node, *days);
+  ShowRecords(std::move(days));
+  days_node_ = *node;
+}
+
+void DayGrid::TellChanges(const std::string& node, const platform::RecordSet& days) {
+  if (platform_.action_observer == nullptr || days_node_ != node) return;
+  if (const auto shown = controls_.grid.Records()) {
+    TellDaysReread(platform_.action_observer, ChangedDays(*shown, days));
+  }
 }
 
 void DayGrid::ShowNothing() {

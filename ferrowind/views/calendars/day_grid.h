@@ -50,10 +50,14 @@ class DayGrid {
  private:
   void ShowNothing();
   void ShowRecords(std::shared_ptr<platform::RecordSet> days);
+  /// Tells the host how many of the days on show `days` changes, when those are of the same node.
+  void TellChanges(const std::string& node, const platform::RecordSet& days);
 
   const platform::Platform& platform_;
   Controls controls_;
   std::shared_ptr<GridFields> headers_;
+  /// The node whose days the grid has.
+  std::string days_node_;
   std::optional<std::string> current_node_;
   GridReload reload_;
   std::unique_ptr<UpdateLock> regrouping_lock_;

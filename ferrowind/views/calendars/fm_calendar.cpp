@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/confirm.h"
 #include "ferrowind/data/error_reporting.h"
 #include "ferrowind/data/error_table.h"
@@ -10,6 +11,7 @@
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/runtime_failure.h"
+#include "ferrowind/views/calendars/action_subject.h"
 #include "ferrowind/views/calendars/calendar_tools.h"
 #include "ferrowind/views/common/grid_setup.h"
 #include "ferrowind/views/common/holiday_type_formats.h"
@@ -65,7 +67,8 @@ fmCalendar::fmCalendar(const platform::Platform& platform)
       ssspUp_(form_->ControlNamed("ssspUp")),
       sssp_(form_->ControlNamed("sssp")),
       group_by_box_tool_(platform.toolkit, *form_, ssatb_, gexCalendar_),
-      currencies_(platform.toolkit, *form_, tvCalendar_, [this] { RefreshTools(); }),
+      currencies_(
+          platform.toolkit, *form_, tvCalendar_, [this] { RefreshTools(); }, platform.action_observer),
       day_grid_(platform, {*form_, tvCalendar_, gexCalendar_, sssp_, [this] { RefreshTools(); }}),
       day_commands_(platform, {tvCalendar_, gexCalendar_, [this] { ShowDaysOfSelectedNode(); },
                                [this](std::int32_t currency_id, std::int32_t year) {
@@ -117,6 +120,7 @@ bool fmCalendar::Init(std::shared_ptr<GridFields> headers, std::shared_ptr<GridF
   // The control may drop its reference while a failed start unloads the window.
   const auto self = shared_from_this();
   const InSurroundings surroundings(platform_);
+  const ActionScope action(platform_.action_observer, platform::ActionKind::kOpenCalendars);
   try {
     form_->Load();
     const auto error_index = Start(std::move(headers), std::move(holiday_headers));
@@ -160,7 +164,10 @@ bool fmCalendar::ForceClosing() {
 }
 
 std::shared_ptr<HolidaysWindow> fmCalendar::CreateHolidaysWindow() {
-  return std::make_shared<fmEnterHolidays>(platform_, [this](const auto& work) { WhileAnimated(work); });
+  platform::OperatorAction subject;
+  if (platform_.action_observer != nullptr) IgnoringFailure([&] { TellOfNode(subject); });
+  return std::make_shared<fmEnterHolidays>(
+      platform_, [this](const auto& work) { WhileAnimated(work); }, subject.currency);
 }
 
 platform::Subscription fmCalendar::OnClosing(std::function<void()> handler) {
@@ -215,19 +222,37 @@ void fmCalendar::WhileAnimated(const std::function<void()>& work) {
   stop();
 }
 
+void fmCalendar::Refresh() {
+  const ActionScope action(platform_.action_observer, platform::ActionKind::kRefresh,
+                           [this](auto& about) { TellOfNode(about); });
+  RefreshAll(0, 0, tvCalendar_.Selected().value_or(""));
+}
+
+void fmCalendar::TellOfNode(platform::OperatorAction& action) const {
+  DescribeNode(action, tvCalendar_, tvCalendar_.Selected());
+}
+
 void fmCalendar::SetAllCurrenciesExpanded(bool expanded) {
   if (tvCalendar_.Count() == 0) return;
   currencies_.SetAllExpanded(expanded);
-  if (tvCalendar_.Selected()) ShowDaysOfSelectedNode();
+  if (tvCalendar_.Selected()) ChooseSelectedNode();
 }
 
 void fmCalendar::tvCalendar_NodeClick(const NodeKey& node) {
+  const ActionScope action(platform_.action_observer, platform::ActionKind::kShowDays,
+                           [&](auto& about) { DescribeNode(about, tvCalendar_, node); });
   day_grid_.SetCurrentNode(node);
   day_grid_.ShowDaysOf(node);
 }
 
 void fmCalendar::tvCalendar_ExpandedOrCollapsed() {
-  if (tvCalendar_.Selected() != day_grid_.CurrentNode()) ShowDaysOfSelectedNode();
+  if (tvCalendar_.Selected() != day_grid_.CurrentNode()) ChooseSelectedNode();
+}
+
+void fmCalendar::ChooseSelectedNode() {
+  const ActionScope action(platform_.action_observer, platform::ActionKind::kShowDays,
+                           [this](auto& about) { TellOfNode(about); });
+  ShowDaysOfSelectedNode();
 }
 
 void fmCalendar::ShowDaysOfSelectedNode() {
@@ -254,7 +279,7 @@ void fmCalendar::ssatb_ToolClick(const std::string& id) {
       {"ID_ExpandGrid", [](fmCalendar& w) { w.gexCalendar_.ExpandAllGroups(); }},
       {"ID_CollapseGrid", [](fmCalendar& w) { w.gexCalendar_.CollapseAllGroups(); }},
       {"ID_New", [](fmCalendar& w) { w.day_commands_.CreateNewCalendar(); }},
-      {"ID_Refresh", [](fmCalendar& w) { w.RefreshAll(0, 0, w.tvCalendar_.Selected().value_or("")); }},
+      {"ID_Refresh", [](fmCalendar& w) { w.Refresh(); }},
       {"ID_Copy", [](fmCalendar& w) { SharedServicesObject().CopyGridRows(w.gexCalendar_, true); }},
       {"ID_ExpSel", [](fmCalendar& w) { w.gexCalendar_.ExpandSelection(); }},
       {GroupByBoxTool::kId, [](fmCalendar& w) { w.group_by_box_tool_.ShowOrHideBox(); }},

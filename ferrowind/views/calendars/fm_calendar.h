@@ -51,6 +51,10 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
                                     std::shared_ptr<GridFields> holiday_headers);
   void FailStart(std::int32_t error_index);
   void RefreshAll(std::int32_t currency_id, std::int32_t year, const std::string& key);
+  void Refresh();
+  /// Shows the days of the selected node, as an action of the operator's own.
+  void ChooseSelectedNode();
+  void TellOfNode(platform::OperatorAction& action) const;
   /// Runs work while the animation plays; a failure of it is reported.
   void WhileAnimated(const std::function<void()>& work);
   void SetAllCurrenciesExpanded(bool expanded);

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -109,6 +110,10 @@ void fmSelectYear::Create() {
     year_field_.SelectAll();
     return;
   }
+  creation_.emplace(platform_.action_observer, platform::ActionKind::kCreateCalendar, [&](auto& about) {
+    about.currency = currency_;
+    about.year = *year;
+  });
   Store(*year);
   result_ = 0;
   year_ = *year;
@@ -122,7 +127,9 @@ void fmSelectYear::Store(std::int32_t year) {
   std::shared_ptr<SourceValues> results;
   // A calendar that could not be stored is signalled by the beep alone and not found in the reloaded tree, by
   // intention.
-  if (ExecProc("CldIUMain", &params, results) != 0) platform_.toolkit.Beep();
+  const std::int32_t answer = ExecProc("CldIUMain", &params, results);
+  TellWrite(platform_.action_observer, {}, answer);
+  if (answer != 0) platform_.toolkit.Beep();
 }
 
 void fmSelectYear::Cancel() {

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/platform.h"
 
@@ -24,6 +26,8 @@ class fmSelectYear {
   /// The currency of the new calendar; set it before the dialog is shown.
   [[nodiscard]] std::int32_t CcyID() const { return currency_id_; }
   void SetCcyID(std::int32_t currency_id) { currency_id_ = currency_id; }
+  /// The name that the host's observer is told for the currency.
+  void SetCurrency(const std::string& name) { currency_ = name; }
   /// Returns once the dialog is closed.
   void ShowModal();
   /// 0 for "Create", 1 for "Cancel"; 0 while nothing was pressed. 0 does not mean that the calendar could be
@@ -46,6 +50,7 @@ class fmSelectYear {
   platform::UpDown& spinner_;
   platform::Label& range_note_;
   std::int32_t currency_id_ = 0;
+  std::string currency_;
   std::int32_t result_ = 0;
   std::int32_t year_ = 0;
   platform::Subscription loaded_;
@@ -53,6 +58,8 @@ class fmSelectYear {
   platform::Subscription year_changed_;
   platform::Subscription create_clicked_;
   platform::Subscription cancel_clicked_;
+  /// Lasts until the dialog is dropped, when its caller has shown the new calendar.
+  std::optional<ActionScope> creation_;
 };
 
 }  // namespace ferrowind

@@ -244,6 +244,9 @@ void fmAddHoliday::cmdOk_Click() {
   if (!RequireDate()) return platform_.toolkit.Beep();
   TrimText(txtName_);
   TrimText(txtComment_);
+  saving_.emplace(platform_.action_observer,
+                  mode_ == kEditRule ? platform::ActionKind::kEditRule : platform::ActionKind::kAddRule,
+                  [this](auto& about) { about.rules = {txtName_.Text()}; });
   Save();
   result_ = 0;
   CloseDialog(platform_.toolkit, *form_);
@@ -296,7 +299,9 @@ SourceValues fmAddHoliday::RuleParameters() const {
 void fmAddHoliday::Save() {
   const SourceValues params = RuleParameters();
   std::shared_ptr<SourceValues> results;
-  switch (ExecProc("CldIUCelebrate", &params, results)) {
+  const std::int32_t answer = ExecProc("CldIUCelebrate", &params, results);
+  if (platform_.action_observer != nullptr) TellWrite(platform_.action_observer, txtName_.Text(), answer);
+  switch (answer) {
     case 0:
       break;
     case kNameInUse:

@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "ferrowind/control/grid_fields.h"
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/source_values.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/platform/values/record_set.h"
@@ -81,6 +83,8 @@ class fmAddHoliday {
   std::int32_t name_length_ = 0;
   std::int32_t result_ = 0;
   std::vector<platform::Subscription> subscriptions_;
+  /// Lasts until the dialog is dropped, when its caller has shown the rules again.
+  std::optional<ActionScope> saving_;
 };
 
 }  // namespace ferrowind

@@ -1,5 +1,6 @@
 #include "ferrowind/views/holidays/fm_enter_holidays.h"
 
+#include <exception>
 #include <utility>
 
 #include "ferrowind/data/confirm.h"
@@ -12,6 +13,7 @@
 namespace ferrowind {
 namespace {
 
+using platform::ActionKind;
 using platform::Button;
 using platform::ControlKind;
 using platform::ControlOf;
@@ -44,9 +46,11 @@ platform::FormDesign Design() {
 
 }  // namespace
 
-fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner run_busy)
+fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner run_busy,
+                                 std::string currency)
     : platform_(platform),
       run_busy_(std::move(run_busy)),
+      currency_(std::move(currency)),
       form_(platform.toolkit.CreateForm(Design())),
       gexHolidays_(ControlOf<platform::Grid>(*form_, "gexHolidays")),
       ssatb_(ControlOf<platform::ToolBar>(*form_, "ssatb")),
@@ -126,32 +130,68 @@ bool fmEnterHolidays::ForceClosing() {
 
 void fmEnterHolidays::Assign() {
   result_ = 1;
+  assignment_.emplace(platform_.action_observer, ActionKind::kAssignRules, [this](auto& about) {
+    about.currency = currency_;
+    about.year = target_.year;
+    if (target_.mode == kSingleDayMode && platform::Date::IsValid(target_.year, 1, 1)) {
+      about.day = platform::Date(target_.year, 1, 1).AddDays(target_.day_of_year - 1);
+    }
+    TellOfSelectedRules(about);
+  });
   RunStep([&] {
     const auto rules = list_.SelectedRules();
     run_busy_([&] {
       for (const HolidayRule& rule : rules) {
         // A rule that cannot be read is reported and does not keep the others from being stored.
-        RunStep([&] { AssignRule(rule, target_); });
+        RunStep([&] { StoreAssignmentOf(rule); });
       }
     });
   });
   form_->Unload();
 }
 
+// What the database answers is not examined, by intention; only the host's observer is told.
+void fmEnterHolidays::StoreAssignmentOf(const HolidayRule& rule) {
+  try {
+    const auto answer = AssignRule(rule, target_);
+    if (answer) TellWrite(platform_.action_observer, rule.name, *answer);
+  } catch (const std::exception&) {
+    TellFailedWrite(platform_.action_observer, rule.name);
+    throw;
+  }
+}
+
+void fmEnterHolidays::TellOfSelectedRules(platform::OperatorAction& action) const {
+  for (const HolidayRule& rule : list_.SelectedRules()) action.rules.push_back(rule.name);
+}
+
 void fmEnterHolidays::Remove() {
-  if (Confirm(platform_.toolkit, "Remove holiday", "Are you sure ?", 1) != 0) return;
-  MarkSelectedRules(kRemovedMark, error_index::kCannotRemoveHoliday, AtRefusal::kStop);
+  if (!IsSureToRemove()) return;
+  MarkSelectedRules(ActionKind::kRemoveRules, kRemovedMark, error_index::kCannotRemoveHoliday,
+                    AtRefusal::kStop);
+}
+
+bool fmEnterHolidays::IsSureToRemove() const {
+  const QuestionScope question(platform_.action_observer, ActionKind::kRemoveRules,
+                               [this](auto& about) { TellOfSelectedRules(about); });
+  return Confirm(platform_.toolkit, "Remove holiday", "Are you sure ?", 1) == 0;
 }
 
 // A rule that cannot be restored does not keep the others from it, unlike with "Remove", by intention.
 void fmEnterHolidays::Restore() {
-  MarkSelectedRules(kRestoredMark, error_index::kCannotRestoreHoliday, AtRefusal::kGoOn);
+  MarkSelectedRules(ActionKind::kRestoreRules, kRestoredMark, error_index::kCannotRestoreHoliday,
+                    AtRefusal::kGoOn);
 }
 
-void fmEnterHolidays::MarkSelectedRules(std::int16_t mark, std::int32_t error_index, AtRefusal at_refusal) {
+void fmEnterHolidays::MarkSelectedRules(ActionKind action, std::int16_t mark, std::int32_t error_index,
+                                        AtRefusal at_refusal) {
+  const ActionScope scope(platform_.action_observer, action,
+                          [this](auto& about) { TellOfSelectedRules(about); });
   RunStep([&] {
     for (const HolidayRule& rule : list_.SelectedRules()) {
-      if (MarkRule(rule, mark) == 0) continue;
+      const std::int32_t answer = MarkRule(rule, mark);
+      TellWrite(platform_.action_observer, rule.name, answer);
+      if (answer == 0) continue;
       ShowErrorMessage(error_index);
       if (at_refusal == AtRefusal::kStop) break;
     }
@@ -185,6 +225,7 @@ void fmEnterHolidays::EditRule(std::int32_t editor_mode, std::shared_ptr<platfor
 }
 
 void fmEnterHolidays::ToggleFilter() {
+  const ActionScope action(platform_.action_observer, ActionKind::kShowRules);
   list_.ToggleFilter();
   Reload();
 }

@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/group_by_box_tool.h"
 #include "ferrowind/views/common/window_placement.h"
@@ -25,8 +27,10 @@ class fmEnterHolidays : public HolidaysWindow {
 
   /// `platform` must outlive the window. `run_busy` runs the assignment of rules; the work throws nothing but
   /// an `Interruption`, which ends it.
+  /// `currency` is the name that the host's observer is told for the calendar's currency.
   explicit fmEnterHolidays(
-      const platform::Platform& platform, BusyRunner run_busy = [](const auto& work) { work(); });
+      const platform::Platform& platform, BusyRunner run_busy = [](const auto& work) { work(); },
+      std::string currency = {});
   fmEnterHolidays(const fmEnterHolidays&) = delete;
   fmEnterHolidays& operator=(const fmEnterHolidays&) = delete;
 
@@ -50,9 +54,13 @@ class fmEnterHolidays : public HolidaysWindow {
   void Restore();
   void ToggleFilter();
   void Assign();
+  void StoreAssignmentOf(const HolidayRule& rule);
+  [[nodiscard]] bool IsSureToRemove() const;
   void EditRule(std::int32_t editor_mode, std::shared_ptr<platform::RecordSet> rule,
                 std::shared_ptr<GridFields> column_map);
-  void MarkSelectedRules(std::int16_t mark, std::int32_t error_index, AtRefusal at_refusal);
+  void MarkSelectedRules(platform::ActionKind action, std::int16_t mark, std::int32_t error_index,
+                         AtRefusal at_refusal);
+  void TellOfSelectedRules(platform::OperatorAction& action) const;
   void Reload();
   void RefreshButtons();
 
@@ -62,6 +70,7 @@ class fmEnterHolidays : public HolidaysWindow {
 
   const platform::Platform& platform_;
   BusyRunner run_busy_;
+  std::string currency_;
   std::shared_ptr<platform::Form> form_;
   platform::Grid& gexHolidays_;
   platform::ToolBar& ssatb_;
@@ -74,6 +83,8 @@ class fmEnterHolidays : public HolidaysWindow {
   bool has_closed_ = false;
   StoredPlacement placement_{"Window Holidays"};
   std::vector<platform::Subscription> subscriptions_;
+  /// Lasts until the window is dropped, when its caller has shown what was assigned.
+  std::optional<ActionScope> assignment_;
 };
 
 }  // namespace ferrowind

@@ -3,9 +3,11 @@
 #include <exception>
 #include <utility>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/error_reporting.h"
 #include "ferrowind/data/error_table.h"
 #include "ferrowind/data/exec_proc.h"
+#include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/record_set_in.h"
 #include "ferrowind/data/runtime_failure.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -60,8 +62,12 @@ void HolidayList::SetHeaders(std::shared_ptr<GridFields> headers) {
 bool HolidayList::Load() {
   const SourceValues no_params;
   std::shared_ptr<SourceValues> results;
-  ExecProc("CldAllInfo", &no_params, results);
-  if (!RecordSetIn(results, "1")) return false;
+  const std::int32_t answer = ExecProc("CldAllInfo", &no_params, results);
+  TellRead(platform_.action_observer, answer);
+  if (!RecordSetIn(results, "1")) {
+    if (answer == 0) TellIncompleteRead(platform_.action_observer, "the calendars");
+    return false;
+  }
   // What one step has loaded is kept when a later one fails.
   const auto holiday_types = RecordSetIn(results, "2");
   if (!holiday_types) {
@@ -147,6 +153,9 @@ std::vector<HolidayRule> HolidayList::SelectedRules() const {
   for (const auto bookmark : SelectedRows()) {
     const RecordSet& rule = MoveTo(bookmark);
     rules.push_back({FieldOf(rule, kTypeColumn), FieldOf(rule, "ID_Holiday"), FieldOf(rule, kDateColumn)});
+    if (platform_.action_observer != nullptr) {
+      IgnoringFailure([&] { rules.back().name = platform::ToText(FieldOf(rule, "Name")); });
+    }
   }
   return rules;
 }

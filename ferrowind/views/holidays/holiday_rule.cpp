@@ -1,7 +1,6 @@
 #include "ferrowind/views/holidays/holiday_rule.h"
 
 #include <memory>
-#include <optional>
 
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -12,8 +11,8 @@ namespace ferrowind {
 namespace {
 
 /// `day_of_year` 0 gives no day; `date` is given for the rules that fall on one.
-void StoreAssignment(const HolidayRule& rule, const AssignmentTarget& target, std::int32_t day_of_year,
-                     const std::optional<platform::Date>& date) {
+std::int32_t StoreAssignment(const HolidayRule& rule, const AssignmentTarget& target,
+                             std::int32_t day_of_year, const std::optional<platform::Date>& date) {
   SourceValues params;
   params.Add("TID1", platform::ToInt32(rule.type));
   params.Add("ID1", target.currency_id);
@@ -26,22 +25,21 @@ void StoreAssignment(const HolidayRule& rule, const AssignmentTarget& target, st
     params.Add("Day1", in_year.DayOfYear());
   }
   std::shared_ptr<SourceValues> results;
-  ExecProc("CldIUMain", &params, results);
+  return ExecProc("CldIUMain", &params, results);
 }
 
 }  // namespace
 
-void AssignRule(const HolidayRule& rule, const AssignmentTarget& target) {
+std::optional<std::int32_t> AssignRule(const HolidayRule& rule, const AssignmentTarget& target) {
   switch (platform::ToInt32(rule.type)) {
     case holiday_type::kWeekday:
-      StoreAssignment(rule, target, target.mode == kWholeCalendarMode ? 0 : target.day_of_year, std::nullopt);
-      break;
+      return StoreAssignment(rule, target, target.mode == kWholeCalendarMode ? 0 : target.day_of_year,
+                             std::nullopt);
     case holiday_type::kFullDate:
     case holiday_type::kHolidayPoint:
-      StoreAssignment(rule, target, 0, platform::ToDate(rule.full_date));
-      break;
+      return StoreAssignment(rule, target, 0, platform::ToDate(rule.full_date));
     default:
-      break;
+      return std::nullopt;
   }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 
 #include "ferrowind/platform/values/value.h"
 
@@ -15,6 +17,8 @@ struct HolidayRule {
   platform::Value type;
   platform::Value id;
   platform::Value full_date;
+  /// For the host's observer alone; empty where there is none or the list has no names.
+  std::string name = {};
 };
 
 /// The calendar that rules are assigned to, and how.
@@ -26,9 +30,9 @@ struct AssignmentTarget {
   std::int32_t day_of_year = 0;
 };
 
-/// Stores the assignment of the rule; a rule of a type that cannot be assigned stores nothing. What the
-/// database answers is not examined, by intention. A rule whose values cannot be read is a failure.
-void AssignRule(const HolidayRule& rule, const AssignmentTarget& target);
+/// Stores the assignment of the rule: the procedure's return value. A rule of a type that cannot be assigned
+/// stores nothing and has none. A rule whose values cannot be read is a failure.
+std::optional<std::int32_t> AssignRule(const HolidayRule& rule, const AssignmentTarget& target);
 
 /// Sets the removal mark of the rule. The procedure's return value.
 [[nodiscard]] std::int32_t MarkRule(const HolidayRule& rule, std::int16_t mark);
