@@ -33,6 +33,11 @@ int Configure(sqlite3* database) {
   return AddNameCollation(database);
 }
 
+/// Asked by SQLite whenever another program holds what a statement needs. 0 to give up.
+int WaitForOthers(void* budget, int attempts) noexcept {
+  return static_cast<WaitBudget*>(budget)->WaitAMoment(attempts) ? 1 : 0;
+}
+
 }  // namespace
 
 std::string AbsolutePath(const std::string& path) {
@@ -71,6 +76,11 @@ void DatabaseHandle::Open(const char* name, int flags, std::chrono::milliseconds
       sqlite3_busy_timeout(database, static_cast<int>(busy_timeout.count())) != SQLITE_OK) {
     throw LastFailure();
   }
+}
+
+void DatabaseHandle::WaitWithin(std::shared_ptr<WaitBudget> budget) {
+  budget_ = std::move(budget);
+  if (sqlite3_busy_handler(Get(), WaitForOthers, budget_.get()) != SQLITE_OK) throw LastFailure();
 }
 
 void DatabaseHandle::Execute(const char* sql) {

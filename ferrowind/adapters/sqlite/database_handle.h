@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 
 #include "ferrowind/adapters/sqlite/busy_timeout.h"
+#include "ferrowind/adapters/sqlite/wait_budget.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::sqlite {
@@ -27,6 +28,9 @@ class DatabaseHandle {
   [[nodiscard]] const std::string& Path() const { return path_; }
   [[nodiscard]] sqlite3* Get() const { return database_.get(); }
 
+  /// From now on the time that statements wait for other programs comes out of `budget`, which is not null.
+  void WaitWithin(std::shared_ptr<WaitBudget> budget);
+
   /// Runs all the statements of `sql`, dropping their rows.
   void Execute(const char* sql);
 
@@ -42,6 +46,8 @@ class DatabaseHandle {
   void Open(const char* name, int flags, std::chrono::milliseconds busy_timeout);
 
   std::string path_;
+  /// What `database_` waits within; null for its time-out.
+  std::shared_ptr<WaitBudget> budget_;
   std::unique_ptr<sqlite3, Closer> database_;
 };
 

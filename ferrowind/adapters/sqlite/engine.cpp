@@ -13,7 +13,7 @@ namespace ferrowind::sqlite {
 
 std::unique_ptr<platform::Connection> Engine::Connect(const std::string& connection_string) {
   return platform::WithFailuresOnly([&]() -> std::unique_ptr<platform::Connection> {
-    return std::make_unique<EngineConnection>(PathIn(connection_string), busy_timeout_);
+    return std::make_unique<EngineConnection>(Open(connection_string));
   });
 }
 
@@ -23,11 +23,17 @@ std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& c
     if (platform::CompareIgnoringCase(name, "Ccy") != 0) {
       throw platform::Failure(platform::failure_number::kInvalidArgument, "There is no dictionary " + name);
     }
-    const DatabaseHandle database(PathIn(connection_string), busy_timeout_);
+    const DatabaseHandle database = Open(connection_string);
     const ProcedureCatalogue must_be_a_calendar_database(database);
     Statement currencies(database, "SELECT CcyID, Ccy, CcyType, Name FROM DicCcy ORDER BY Ccy");
     return ReadRecordSet(currencies);
   });
+}
+
+DatabaseHandle Engine::Open(const std::string& connection_string) const {
+  DatabaseHandle database(PathIn(connection_string), busy_timeout_);
+  if (budget_) database.WaitWithin(budget_);
+  return database;
 }
 
 std::string PathIn(const std::string& connection_string) {

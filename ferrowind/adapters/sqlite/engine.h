@@ -3,11 +3,15 @@
 #include <chrono>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "ferrowind/adapters/sqlite/busy_timeout.h"
+#include "ferrowind/adapters/sqlite/wait_budget.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::sqlite {
+
+class DatabaseHandle;
 
 /// The engine of calendar databases that are SQLite files: connection strings "sqlite:PATH", PATH absolute or
 /// relative to the current folder. The files are made by `CreateDatabase` (database_file.h).
@@ -21,13 +25,19 @@ class Engine : public platform::Engine {
 
   /// A call waits up to `busy_timeout` for another program to release the database.
   explicit Engine(std::chrono::milliseconds busy_timeout = kBusyTimeout) : busy_timeout_(busy_timeout) {}
+  /// Calls wait for another program as long as `budget`, which is not null, has time for them all.
+  explicit Engine(std::shared_ptr<WaitBudget> budget) : budget_(std::move(budget)) {}
 
   [[nodiscard]] std::unique_ptr<platform::Connection> Connect(const std::string& connection_string) override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
                                                                     const std::string& name) override;
 
  private:
-  std::chrono::milliseconds busy_timeout_;
+  [[nodiscard]] DatabaseHandle Open(const std::string& connection_string) const;
+
+  std::chrono::milliseconds busy_timeout_ = kBusyTimeout;
+  /// Null for the time-out.
+  std::shared_ptr<WaitBudget> budget_;
 };
 
 /// The path in a connection string "sqlite:PATH"; another scheme is a failure.

@@ -14,8 +14,8 @@ namespace ferrowind::sqlite {
 using platform::Failure;
 using platform::Value;
 
-EngineConnection::EngineConnection(const std::string& path, std::chrono::milliseconds busy_timeout)
-    : database_(path, busy_timeout), catalogue_(database_) {}
+EngineConnection::EngineConnection(DatabaseHandle database)
+    : database_(std::move(database)), catalogue_(database_) {}
 
 std::vector<platform::ParameterDescription> EngineConnection::DescribeProcedure(
     const std::string& procedure) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,7 +14,7 @@ namespace ferrowind::sqlite {
 /// again.
 class EngineConnection : public platform::Connection {
  public:
-  EngineConnection(const std::string& path, std::chrono::milliseconds busy_timeout);
+  explicit EngineConnection(DatabaseHandle database);
 
   [[nodiscard]] std::vector<platform::ParameterDescription> DescribeProcedure(
       const std::string& procedure) override;
