@@ -11,7 +11,7 @@ namespace ferrowind::testing {
 /// The component started in a headless world, with its outside objects made. Make one on a fresh thread.
 class ComponentWorld {
  public:
-  ComponentWorld() {
+  explicit ComponentWorld(platform::ActionObserver* action_observer = nullptr) : world(action_observer) {
     AttachPlatform(platform);
     EnsureDictionaryObject();
     static_cast<void>(SharedServicesObject());

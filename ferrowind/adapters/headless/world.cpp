@@ -5,7 +5,7 @@
 
 namespace ferrowind::headless {
 
-World::World() {
+World::World(platform::ActionObserver* action_observer) : action_observer_(action_observer) {
   engines_.Register("memory", memory_);
   objects.Register(platform::kDictionaryIdentifier, [this] {
     faults.Pass("objects.CreateObject");
@@ -18,14 +18,14 @@ World::World() {
 }
 
 platform::Platform World::Platform() {
-  return {objects, faulty_commands_, faulty_toolkit_, locale, clock, "/component"};
+  return {objects, faulty_commands_, faulty_toolkit_, locale, clock, "/component", action_observer_};
 }
 
 platform::Platform World::PlatformOnMemory() {
   database = &memory_->CreateDatabase("world");
   dictionary->SetConnectionString("memory:world");
   dictionary->SetTable("Ccy", database->Dictionary("Ccy"));
-  return {objects, faulty_engine_commands_, faulty_toolkit_, locale, clock, "/component"};
+  return {objects, faulty_engine_commands_, faulty_toolkit_, locale, clock, "/component", action_observer_};
 }
 
 }  // namespace ferrowind::headless

@@ -31,7 +31,8 @@ namespace ferrowind::headless {
 ///     const platform::Platform platform = world.Platform();
 class World {
  public:
-  World();
+  /// Its platforms tell `action_observer` of the operator's actions, unless it is null.
+  explicit World(platform::ActionObserver* action_observer = nullptr);
 
   /// With the scripted commands.
   [[nodiscard]] platform::Platform Platform();
@@ -55,6 +56,7 @@ class World {
   MemoryDatabase* database = nullptr;
 
  private:
+  platform::ActionObserver* action_observer_;
   FaultyToolkit faulty_toolkit_{toolkit, faults};
   FaultyCommandFactory faulty_commands_{commands, faults};
   std::shared_ptr<MemoryEngine> memory_ = std::make_shared<MemoryEngine>();

@@ -93,7 +93,8 @@ class CalendarsWindowUnderTest : public fmCalendar {
 /// without one. Make one on a fresh thread.
 class CalendarsWorld : public ComponentWorld {
  public:
-  CalendarsWorld() {
+  explicit CalendarsWorld(platform::ActionObserver* action_observer = nullptr)
+      : ComponentWorld(action_observer) {
     world.dictionary->SetCurrencies({{978, "EUR"}, {840, "USD"}, {392, "JPY"}});
     world.toolkit.AddAnimation("/component/Progress.pra");
     AnswerAllInfo(UsualCalendars());

@@ -25,7 +25,8 @@ using platform::Value;
 /// thread.
 class EditorWorld {
  public:
-  EditorWorld() : platform(world.Platform()) {
+  explicit EditorWorld(platform::ActionObserver* action_observer = nullptr)
+      : world(action_observer), platform(world.Platform()) {
     AttachPlatform(platform);
     EnsureDictionaryObject();
     AddDefaultHolidayHeaders(*column_map);

@@ -23,7 +23,8 @@ using Rows = std::vector<std::vector<Value>>;
 /// The Holidays window on the headless toolkit, over a scripted database. Make one on a fresh thread.
 class HolidaysWorld {
  public:
-  HolidaysWorld() : platform(world.Platform()) {
+  explicit HolidaysWorld(platform::ActionObserver* action_observer = nullptr)
+      : world(action_observer), platform(world.Platform()) {
     AttachPlatform(platform);
     EnsureDictionaryObject();
     AddDefaultHolidayHeaders(*headers);

@@ -1,0 +1,147 @@
+// What a host's observer is told of the operator's actions in the Holidays window.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/headless/headless_drop_down_list.h"
+#include "ferrowind/adapters/headless/headless_text_box.h"
+
+#include "tests/support/recording_action_observer.h"
+#include "tests/support/run_in_fresh_thread.h"
+#include "tests/unit/views/holidays/holidays_world.h"
+
+namespace ferrowind {
+namespace {
+
+using headless::CommandStep;
+using testing::Date;
+using ::testing::ElementsAre;
+using testing::HolidaysWorld;
+using testing::RecordingActionObserver;
+using testing::RunInFreshThread;
+
+enum Button { kAdd, kEdit, kRemove, kRestore, kFilter, kAssign };
+
+/// What is told while the operator plays the scene in the window for the whole calendar, its first two rules
+/// selected.
+std::vector<std::string> Told(const std::function<void(HolidaysWorld& world)>& scene) {
+  RecordingActionObserver observer;
+  RunInFreshThread([&] {
+    HolidaysWorld world(&observer);
+    ASSERT_TRUE(world.InitWithUsualRules(1));
+    observer.events.clear();
+    world.Show([&] {
+      world.Grid().ClickRow(world.RowOf("Saturday"));
+      world.Grid().ToggleRow(world.RowOf("Christmas Day"));
+      scene(world);
+    });
+    world.window.reset();
+  });
+  return observer.events;
+}
+
+TEST(HolidaysActions, AnAssignmentTellsTheWriteOfEachRuleAndEndsWithTheWindow) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) { world.Action(kAssign).Click(); }),
+              ElementsAre("began assign 2026 [Saturday, Christmas Day]", "write Saturday 0",
+                          "write Christmas Day 0", "ended"));
+}
+
+TEST(HolidaysActions, AnAssignmentTellsOfARuleWhoseCallFailedAndGoesOn) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.world.commands.FailAt(CommandStep::kExecute, {5, "It is locked"});
+                world.Action(kAssign).Click();
+              }),
+              ElementsAre("began assign 2026 [Saturday, Christmas Day]", "write Saturday -1 It is locked",
+                          "write Christmas Day 0", "ended"));
+}
+
+TEST(HolidaysActions, AnAssignmentTellsOfARuleThatCannotBeRead) {
+  RecordingActionObserver observer;
+  RunInFreshThread([&] {
+    HolidaysWorld world(&observer);
+    world.SetRules({HolidaysWorld::Rule(8, "No day", 3, {}, {})});
+    ASSERT_TRUE(world.Init(1));
+    observer.events.clear();
+    world.Show([&] {
+      world.Grid().ClickRow(1);
+      world.Action(kAssign).Click();
+    });
+    EXPECT_EQ(world.world.services->Reports().size(), 1u);
+  });
+  EXPECT_THAT(observer.events,
+              ElementsAre("began assign 2026 [No day]", ::testing::StartsWith("write No day -1 "), "ended"));
+}
+
+TEST(HolidaysActions, TheQuestionBeforeARemovalIsAboutTheRulesByName) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.Answer("fmMessage", "cmdCancel");
+                world.Action(kRemove).Click();
+              }),
+              ElementsAre("question remove [Saturday, Christmas Day]", "answered"));
+}
+
+TEST(HolidaysActions, ARemovalBeginsAfterItsQuestionAndStopsAtTheFirstRefusal) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.AnswerMarking(4);
+                world.Answer("fmMessage", "cmdOk");
+                world.Action(kRemove).Click();
+              }),
+              ElementsAre("question remove [Saturday, Christmas Day]", "answered",
+                          "began remove [Saturday, Christmas Day]", "write Saturday 4", "read 0", "ended"));
+}
+
+TEST(HolidaysActions, ARestorationTellsTheWriteOfEachRuleAndTheReadAfterThem) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.Action(kFilter).Click();
+                world.Grid().ClickRow(world.RowOf("Old holiday"));
+                world.Action(kRestore).Click();
+              }),
+              ElementsAre("began show rules", "read 0", "ended", "began restore [Old holiday]",
+                          "write Old holiday 0", "read 0", "ended"));
+}
+
+TEST(HolidaysActions, AnAdditionLastsUntilTheRulesAreReadAgain) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.world.commands.Forget("CldIUCelebrate");
+                world.world.commands.Answer("CldIUCelebrate").Returns(10);
+                world.world.toolkit.ScriptModal("fmAddHoliday", [](headless::HeadlessForm& form) {
+                  form.Part<headless::HeadlessDropDownList>("cmbHolidayType").ChooseByOperator("Celebration");
+                  form.Part<headless::HeadlessTextBox>("txtName").TypeText("Founding Day");
+                  form.Part<headless::HeadlessButton>("cmdOk").Click();
+                });
+                world.Action(kAdd).Click();
+              }),
+              ElementsAre("began add [Founding Day]", "write Founding Day 10", "read 0", "ended"));
+}
+
+TEST(HolidaysActions, AChangeOfARuleIsToldAsSuch) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.Answer("fmAddHoliday", "cmdOk");
+                world.Grid().ClickRow(world.RowOf("Christmas Day"));
+                world.Action(kEdit).Click();
+              }),
+              ElementsAre("began edit [Christmas Day]", "write Christmas Day 0", "read 0", "ended"));
+}
+
+TEST(HolidaysActions, ARuleWithoutANameIsToldWithoutOne) {
+  RecordingActionObserver observer;
+  RunInFreshThread([&] {
+    HolidaysWorld world(&observer);
+    world.SetRules({{2, {}, "", 2, {}, {}, {}, 7, {}}});
+    ASSERT_TRUE(world.Init(1));
+    observer.events.clear();
+    world.Show([&] {
+      world.Grid().ClickRow(1);
+      world.Action(kAssign).Click();
+    });
+    EXPECT_EQ(world.world.commands.CallsOf("CldIUMain").size(), 1u);
+    EXPECT_TRUE(world.world.services->Reports().empty());
+  });
+  EXPECT_THAT(observer.events, ElementsAre("began assign 2026 []", "write 0", "ended"));
+}
+
+}  // namespace
+}  // namespace ferrowind
