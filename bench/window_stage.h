@@ -9,9 +9,11 @@
 #include <string>
 
 #include "ferrowind/adapters/qt/grid/grid_view.h"
+#include "ferrowind/adapters/qt/services/qt_locale.h"
 #include "ferrowind/control/calendar.h"
 
 #include "host/desktop/desktop_surroundings.h"
+#include "host/desktop/operator_news.h"
 
 namespace ferrowind::bench {
 
@@ -65,16 +67,11 @@ class WindowStage {
   void InHolidays(const std::function<void(QWidget& holidays)>& work) const;
 
  private:
-  /// Nobody looks at what the observed database tells.
-  class NoObserver : public host::DatabaseObserver {
-   public:
-    void DatabaseAnswered() override {}
-    void DatabaseFailed(const platform::Failure& /*failure*/) override {}
-  };
-
   QTemporaryDir folder_;
-  NoObserver observer_;
-  host::DesktopSurroundings surroundings_{observer_};
+  qt::QtLocale locale_;
+  /// As the desktop has them; nobody reads them.
+  host::OperatorNews news_{locale_, [] { return std::string(); }};
+  host::DesktopSurroundings surroundings_{news_};
   std::unique_ptr<Calendar> control_;
 };
 

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -22,9 +23,36 @@ QString VersionText() {
       .arg(platform::ToInt16(version[3]));
 }
 
+QLabel* MakeDatabaseName(const QString& database) {
+  auto* const name = new QLabel(database);
+  name->setObjectName(QStringLiteral("database"));
+  name->setTextFormat(Qt::PlainText);
+  name->setWordWrap(true);
+  return name;
+}
+
+/// For whoever has to tell somebody else: it can be selected and copied, and a long one scrolls.
+QLineEdit* MakeAddress(const QString& url) {
+  auto* const address = new QLineEdit(url);
+  address->setObjectName(QStringLiteral("databaseAddress"));
+  address->setAccessibleName(QObject::tr("Address of the database"));
+  address->setReadOnly(true);
+  address->setFrame(false);
+  address->setToolTip(url);
+  address->setCursorPosition(0);
+  QPalette colors = address->palette();
+  colors.setColor(QPalette::Base, Qt::transparent);
+  colors.setBrush(QPalette::Text, colors.placeholderText());
+  address->setPalette(colors);
+  // In line with the labels above.
+  address->setTextMargins(-2, 0, 0, 0);
+  return address;
+}
+
 }  // namespace
 
-BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QString& database)
+BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QString& database,
+                                   const QString& url)
     : control_(new qt::CalendarWidget(platform)), trouble_(new TroubleBar) {
   setObjectName(QStringLiteral("backOffice"));
   setWindowTitle(tr("Back office"));
@@ -56,29 +84,48 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   buttons->addWidget(close);
   buttons->addStretch();
 
-  auto* const place = new QLabel(database);
-  place->setObjectName(QStringLiteral("database"));
-  place->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  place->setWordWrap(true);
+  auto* const place = new QVBoxLayout;
+  place->setSpacing(2);
+  place->addWidget(MakeDatabaseName(database));
+  place->addWidget(MakeAddress(url));
 
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   layout->setContentsMargins(20, 20, 20, 20);
   layout->setSpacing(16);
   layout->addLayout(heading);
-  layout->addWidget(place);
+  layout->addLayout(place);
   layout->addWidget(trouble_);
   layout->addStretch();
   layout->addLayout(buttons);
   setCentralWidget(content);
   resize(520, 200);
   open->setFocus();
+  connect(trouble_, &TroubleBar::Dismissed, this, &BackOfficeWindow::TroubleDismissed);
 }
+
+// While this window is whole: the Calendars window lets pending events run when it closes.
+BackOfficeWindow::~BackOfficeWindow() { delete control_; }
 
 void BackOfficeWindow::OpenCalendars() { control_->ShowInFront(); }
 
 void BackOfficeWindow::TellTrouble(const QString& text) {
-  trouble_->Tell(text);
+  trouble_text_ = text;
+  ShowTrouble();
+}
+
+void BackOfficeWindow::TellNote(const QString& text) {
+  statusBar()->showMessage(text);
+  statusBar()->setToolTip(text);
+}
+
+void BackOfficeWindow::SetTroubleToldElsewhere(bool is_elsewhere) {
+  is_told_elsewhere_ = is_elsewhere;
+  ShowTrouble();
+}
+
+void BackOfficeWindow::ShowTrouble() {
+  trouble_->Tell(is_told_elsewhere_ ? QString() : trouble_text_);
   const QWidget& content = *centralWidget();
   const int missing = content.layout()->totalHeightForWidth(content.width()) - content.height();
   if (missing > 0) resize(width(), height() + missing);

@@ -13,12 +13,23 @@ class BackOfficeWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `platform` must outlive the window. `database` is shown to the user and holds no password.
-  BackOfficeWindow(const platform::Platform& platform, const QString& database);
+  /// `platform` must outlive the window. `database` is what people call the database, `url` its address
+  /// without a password; the operator is shown both.
+  BackOfficeWindow(const platform::Platform& platform, const QString& database, const QString& url);
+  /// Closes the Calendars window.
+  ~BackOfficeWindow() override;
 
   void OpenCalendars();
   /// Shows what is wrong with the database; an empty text when nothing is.
   void TellTrouble(const QString& text);
+  /// Shows in the status line what was done last.
+  void TellNote(const QString& text);
+  /// While another window tells of the trouble, this one keeps silent, so that it is told once.
+  void SetTroubleToldElsewhere(bool is_elsewhere);
+
+ signals:
+  /// The operator has read the trouble.
+  void TroubleDismissed();
 
  protected:
   /// Stays open when the Calendars window refuses to close.
@@ -26,9 +37,12 @@ class BackOfficeWindow : public QMainWindow {
 
  private:
   void CloseCalendars();
+  void ShowTrouble();
 
   qt::CalendarWidget* control_;
   TroubleBar* trouble_;
+  QString trouble_text_;
+  bool is_told_elsewhere_ = false;
 };
 
 }  // namespace ferrowind::host

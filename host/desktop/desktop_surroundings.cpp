@@ -7,47 +7,55 @@
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 #include "ferrowind/adapters/qt/services/qt_clock.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
-#include "ferrowind/adapters/qt/services/qt_shared_services.h"
 #include "ferrowind/adapters/services/desktop_dictionary.h"
 #include "ferrowind/adapters/services/object_makers.h"
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/platform/database/engine_command.h"
 
+#include "host/desktop/telling_services.h"
+
 namespace ferrowind::host {
 
 struct DesktopSurroundings::Parts {
-  explicit Parts(DatabaseObserver& observer) {
-    const auto server = std::make_shared<postgres::Engine>();
-    const std::pair<const char*, std::shared_ptr<platform::Engine>> all[] = {
-        {sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>()},
-        {postgres::Engine::kScheme, server},
-        {postgres::Engine::kShortScheme, server}};
-    for (const auto& [scheme, engine] : all) {
-      engines.Register(scheme, engine);
-      watched_engines.Register(scheme, std::make_shared<WatchedEngine>(engine, observer));
-    }
+  Parts(OperatorNews& news, std::chrono::milliseconds patience)
+      : patience_of_action(std::make_shared<sqlite::WaitBudget>(patience)),
+        action_began(news.OnAction([this] { patience_of_action->Renew(); })),
+        platform{objects, commands, toolkit,
+                 locale,  clock,    QCoreApplication::applicationDirPath().toStdString(),
+                 &news} {
+    RegisterIn(engines, std::make_shared<sqlite::Engine>());
+    RegisterIn(engines_of_component, std::make_shared<sqlite::Engine>(patience_of_action));
     objects.Register(platform::kDictionaryIdentifier,
-                     [this] { return std::make_shared<DesktopDictionary>(watched_engines, database); });
-    objects.Register(platform::kSharedServicesIdentifier,
-                     [this] { return std::make_shared<qt::QtSharedServices>(qt::SettingsStore(), trace); });
+                     [this] { return std::make_shared<DesktopDictionary>(engines_of_component, database); });
+    objects.Register(platform::kSharedServicesIdentifier, [this, &news] {
+      return std::make_shared<TellingServices>(news, qt::SettingsStore(), trace);
+    });
+  }
+
+  void RegisterIn(platform::EngineRegistry& registry, std::shared_ptr<platform::Engine> files) {
+    registry.Register(sqlite::Engine::kScheme, std::move(files));
+    registry.Register(postgres::Engine::kScheme, server);
+    registry.Register(postgres::Engine::kShortScheme, server);
   }
 
   std::string database;
   std::shared_ptr<TraceSink> trace;
+  std::shared_ptr<sqlite::WaitBudget> patience_of_action;
+  platform::Subscription action_began;
+  std::shared_ptr<postgres::Engine> server = std::make_shared<postgres::Engine>();
   platform::EngineRegistry engines;
-  platform::EngineRegistry watched_engines;
-  platform::EngineCommandFactory commands{watched_engines};
+  platform::EngineRegistry engines_of_component;
+  platform::EngineCommandFactory commands{engines_of_component};
   ObjectMakers objects;
   qt::QtToolkit toolkit;
   qt::QtLocale locale;
   qt::QtClock clock;
-  platform::Platform platform{objects, commands, toolkit,
-                              locale,  clock,    QCoreApplication::applicationDirPath().toStdString()};
+  platform::Platform platform;
 };
 
-DesktopSurroundings::DesktopSurroundings(DatabaseObserver& observer)
-    : parts_(std::make_unique<Parts>(observer)) {}
+DesktopSurroundings::DesktopSurroundings(OperatorNews& news, std::chrono::milliseconds patience)
+    : parts_(std::make_unique<Parts>(news, patience)) {}
 
 DesktopSurroundings::~DesktopSurroundings() = default;
 

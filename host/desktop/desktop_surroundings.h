@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <chrono>
 #include <memory>
 #include <string>
 
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/platform.h"
 
-#include "host/desktop/watched_engine.h"
+#include "host/desktop/operator_news.h"
 
 namespace ferrowind::host {
 
@@ -15,8 +16,12 @@ namespace ferrowind::host {
 /// the application, and keep it until all windows are gone.
 class DesktopSurroundings {
  public:
-  /// `observer` is told of every use that the component makes of a database, and must outlive this object.
-  explicit DesktopSurroundings(DatabaseObserver& observer);
+  /// What an operator waits for before a window that does not answer feels broken.
+  static constexpr std::chrono::milliseconds kPatience{2000};
+
+  /// `news` learn of what the operator has the component do, and must outlive this object. Each action waits
+  /// up to `patience` in all for another program to release a database file.
+  explicit DesktopSurroundings(OperatorNews& news, std::chrono::milliseconds patience = kPatience);
   ~DesktopSurroundings();
   DesktopSurroundings(const DesktopSurroundings&) = delete;
   DesktopSurroundings& operator=(const DesktopSurroundings&) = delete;
@@ -26,7 +31,7 @@ class DesktopSurroundings {
   /// From now on the dictionary object names the database of `connection_string`.
   void UseDatabase(const std::string& connection_string);
 
-  /// The engines for what the host does itself; nobody observes them.
+  /// The engines for what the host does itself.
   [[nodiscard]] const platform::EngineRegistry& Engines() const;
   /// Valid as long as this object lives.
   [[nodiscard]] const platform::Platform& Get() const;

@@ -1,25 +1,32 @@
 #include <QApplication>
+#include <QLocale>
 #include <QMessageBox>
+#include <QTime>
+#include <string>
 
 #include "ferrowind/adapters/qt/look/program_icon.h"
 #include "ferrowind/adapters/qt/look/theme.h"
+#include "ferrowind/adapters/qt/services/qt_locale.h"
 #include "ferrowind/adapters/services/password_free.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/delivery/database_version.h"
 #include "host/desktop/back_office_window.h"
-#include "host/desktop/database_trouble.h"
+#include "host/desktop/database_name.h"
 #include "host/desktop/desktop_options.h"
 #include "host/desktop/desktop_surroundings.h"
-#include "host/desktop/trouble_footer.h"
+#include "host/desktop/news_windows.h"
+#include "host/desktop/operator_news.h"
 #include "host/desktop/user_database.h"
+#include "host/desktop/wait_cursor.h"
 #include "host/session/private_arguments.h"
 
 namespace {
 
-using ferrowind::host::DatabaseTrouble;
+using ferrowind::host::BackOfficeWindow;
 using ferrowind::host::DesktopOptions;
 using ferrowind::host::DesktopSurroundings;
+using ferrowind::host::OperatorNews;
 
 /// Runs a step of the start; the operator is told when it fails, and the program goes on without it.
 template <typename Step>
@@ -30,6 +37,15 @@ void TellWhenFailing(const Step& step) {
     QMessageBox::critical(nullptr, QStringLiteral("Ferrowind"),
                           QString::fromStdString(failure.Description()));
   }
+}
+
+std::string TimeText() {
+  return QLocale().toString(QTime::currentTime(), QStringLiteral("HH:mm:ss")).toStdString();
+}
+
+QString DatabaseNameText(const DesktopOptions& options) {
+  if (options.database.empty()) return QStringLiteral("Calendars of this user");
+  return QString::fromStdString(ferrowind::host::DatabaseName(options.database));
 }
 
 }  // namespace
@@ -44,8 +60,10 @@ int main(int argc, char** argv) {
   ferrowind::qt::ApplyTheme(application, options.theme);
   QApplication::setWindowIcon(ferrowind::qt::ProgramIcon());
 
-  DatabaseTrouble trouble;
-  DesktopSurroundings surroundings(trouble);
+  const ferrowind::qt::QtLocale locale;
+  OperatorNews news(locale, TimeText);
+  const ferrowind::host::WaitCursor wait_cursor(news);
+  DesktopSurroundings surroundings(news);
   if (!options.trace_file.isEmpty()) TellWhenFailing([&] { surroundings.TraceTo(options.trace_file); });
   std::string database = options.database;
   if (database.empty()) {
@@ -59,12 +77,9 @@ int main(int argc, char** argv) {
   }
   surroundings.UseDatabase(database);
 
-  ferrowind::host::BackOfficeWindow window(surroundings.Get(),
-                                           QString::fromStdString(ferrowind::PasswordFree(database)));
-  ferrowind::host::TroubleFooter footer(window);
-  QObject::connect(&trouble, &DatabaseTrouble::Changed, &window,
-                   &ferrowind::host::BackOfficeWindow::TellTrouble);
-  QObject::connect(&trouble, &DatabaseTrouble::Changed, &footer, &ferrowind::host::TroubleFooter::Tell);
+  BackOfficeWindow window(surroundings.Get(), DatabaseNameText(options),
+                          QString::fromStdString(ferrowind::PasswordFree(database)));
+  const ferrowind::host::NewsWindows news_windows(news, window);
   window.show();
   if (options.open) window.OpenCalendars();
   return QApplication::exec();

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QFrame>
-#include <QLabel>
 #include <QString>
+
+#include "host/desktop/scrolled_text.h"
 
 namespace ferrowind::host {
 
-/// A bar that warns in a few lines. It never takes the keyboard, and hides until there is a text for it.
+/// A bar that warns in a few lines; more of them scroll. It never takes the keyboard by itself, and hides
+/// until there is a text for it. Shift+Esc, or its button, dismisses it.
 class TroubleBar : public QFrame {
   Q_OBJECT
 
@@ -15,9 +17,11 @@ class TroubleBar : public QFrame {
 
   /// Shows the text, as it is and never as markup, and hides for an empty one.
   void Tell(const QString& text);
+  /// The most that the bar may take of the height of its window, in pixels.
+  void SetMostHeight(int height);
 
  signals:
-  /// The operator has read it and wants to see what is below.
+  /// The operator has read it. The bar stays until it is told otherwise.
   void Dismissed();
 
  protected:
@@ -26,7 +30,7 @@ class TroubleBar : public QFrame {
  private:
   void FollowTheme();
 
-  QLabel* text_;
+  ScrolledText* text_;
 };
 
 }  // namespace ferrowind::host

@@ -77,8 +77,12 @@ class ServerTest(unittest.TestCase):
         self.assertNotIn(PASSWORD, '\n'.join(self.texts(title)))
 
     def wait_untold(self, title):
-        wait_for(lambda: not any('did not do what was asked' in text for text in self.texts(title)),
+        wait_for(lambda: not any(self.is_trouble(text) for text in self.texts(title)),
                  f'the end of the trouble in the window "{title}"')
+
+    @staticmethod
+    def is_trouble(text):
+        return 'did not do what was asked' in text or ': refused.' in text
 
     def assert_alive(self):
         self.assertIsNone(self.session.app.poll(), self.session.printed())
@@ -98,9 +102,9 @@ class ServerTest(unittest.TestCase):
         self.open_calendar()
         self.stop_server()
         self.session.keys('Down')
-        for title in ('Calendars', 'Back office'):
-            self.wait_told(title, 'What is shown may be out of date', f'The database {self.database.name} at 127.0.0.1',
-                           'cannot be connected to', '08001')
+        self.wait_told('Calendars', 'What is shown may be out of date', f'The database {self.database.name} at 127.0.0.1',
+                       'cannot be connected to', '08001')
+        self.wait_untold('Back office')
         self.wait_first_day('1 Jan 2026')
         self.start_server()
         self.session.keys('F5')
@@ -114,9 +118,11 @@ class ServerTest(unittest.TestCase):
         self.session.keys('Tab')
         self.stop_server()
         self.except_first_day()
-        self.wait_told('Calendars', 'cannot be connected to')
+        self.wait_told('Calendars', 'Except 1 January 2026, USD: refused.', 'cannot be connected to')
         self.start_server()
         self.assertEqual(self.first_day(), before)
+        self.session.keys('F5')
+        self.wait_told('Calendars', 'Except 1 January 2026, USD: refused.')
         self.except_first_day()
         wait_for(lambda: self.first_day() == (1, 1), 'the exception in the database')
         self.wait_untold('Calendars')
@@ -172,7 +178,10 @@ class ServerTest(unittest.TestCase):
         wait_for(lambda: "Tessaro Calendar. Can't add holiday to database" in self.texts('Ferrowind'),
                  'what was not done')
         self.dismiss_messages(RULES)
-        self.wait_told(RULES, 'cannot be connected to')
+        # The messages have told it.
+        self.wait_untold(RULES)
+        self.press_button(RULES, 'Show all')
+        self.wait_told(RULES, 'Show the rules: the database did not do', 'cannot be connected to')
         self.assert_nothing_is_covered(RULES, 'Assign')
         self.hide_trouble(RULES)
         self.start_server()
@@ -195,9 +204,12 @@ class ServerTest(unittest.TestCase):
         return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
 
     def hide_trouble(self, title):
-        hide = self.accessible.wait_find(self.accessible.wait_window(title), 'push button', 'Hide')
-        hide.queryAction().doAction(0)
+        self.press_button(title, 'Hide')
         self.wait_untold(title)
+
+    def press_button(self, title, name):
+        button = self.accessible.wait_find(self.accessible.wait_window(title), 'push button', name)
+        button.queryAction().doAction(0)
 
     def type_rule(self, name, date):
         """Into the editor, up to where Return adds it."""

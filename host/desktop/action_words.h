@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ferrowind/platform/services/locale.h"
+
+#include "host/desktop/action_record.h"
+
+namespace ferrowind::host {
+
+/// The operator's words for actions and what becomes of them; UTF-8, without passwords.
+class ActionWords {
+ public:
+  /// `locale` names months, and must outlive this object.
+  explicit ActionWords(const platform::Locale& locale) : locale_(locale) {}
+
+  /// The action as a command: `Assign 13 rules to EUR 2028`.
+  [[nodiscard]] std::string Command(const platform::OperatorAction& action) const;
+  /// What an action that changed something did: `Assigned 13 rules to EUR 2028: 115 days set`. Empty when it
+  /// changed nothing.
+  [[nodiscard]] std::string Success(const ActionRecord& record) const;
+  /// The question's subject, all rules of it by name.
+  [[nodiscard]] std::string Question(const platform::OperatorAction& action) const;
+  /// An action with refused writes: what was done and what was not, and below it, in a line for each reason,
+  /// the reason and what was refused for it.
+  [[nodiscard]] std::string Refusal(const ActionRecord& record) const;
+  /// An action that could not read all that it should, and in a line of its own each of the `reasons`.
+  [[nodiscard]] std::string FailedRead(const platform::OperatorAction& action,
+                                       const std::vector<std::string>& reasons) const;
+
+  /// Why the step was not done, in one line.
+  [[nodiscard]] static std::string Reason(const platform::ActionStep& step);
+
+ private:
+  [[nodiscard]] std::string DayText(const platform::Date& day) const;
+
+  const platform::Locale& locale_;
+};
+
+}  // namespace ferrowind::host
