@@ -146,8 +146,10 @@ GroupPath RowArrangement::PathOf(GroupId group) const {
 }
 
 const platform::Value& RowArrangement::GroupValue(GroupId group) const {
-  return values_.KeyValue(GroupColumn(group.level), order_[tree_.PositionsOf(group).first]);
+  return values_.KeyValue(GroupColumn(group.level), FirstRecordOf(group));
 }
+
+Record RowArrangement::FirstRecordOf(GroupId group) const { return order_[tree_.PositionsOf(group).first]; }
 
 std::uint32_t RowArrangement::RecordCountOf(GroupId group) const {
   const GroupTree::Range positions = tree_.PositionsOf(group);

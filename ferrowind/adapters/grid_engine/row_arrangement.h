@@ -56,7 +56,9 @@ class RowArrangement {
   [[nodiscard]] std::optional<GroupId> GroupOf(const GroupPath& path) const;
   [[nodiscard]] GroupPath PathOf(GroupId group) const;
   [[nodiscard]] std::int16_t GroupColumn(std::uint32_t level) const { return group_keys_[level].column; }
+  /// The key value that the records of the group have in common.
   [[nodiscard]] const platform::Value& GroupValue(GroupId group) const;
+  [[nodiscard]] Record FirstRecordOf(GroupId group) const;
   [[nodiscard]] std::uint32_t RecordCountOf(GroupId group) const;
 
   void SetExpanded(GroupId group, bool is_expanded);

@@ -95,7 +95,7 @@ void GridArrangement::AppendRows(Range first, Range last, std::size_t level, con
                                  Target& target) const {
   if (level == groups_.size()) {
     for (; first != last; ++first) {
-      target.rows.push_back({{first->bookmark, path}, level, 0, {}, 0});
+      target.rows.push_back({{first->bookmark, path}, level, 0, 0, 0});
     }
     return;
   }
@@ -106,8 +106,8 @@ void GridArrangement::AppendRows(Range first, Range last, std::size_t level, con
     });
     const std::int16_t column = groups_[level].ColIndex;
     const std::string group_path = path + PathStep(column, value);
-    GridRow group_row{{0, group_path}, level, column, value, static_cast<std::size_t>(end - first)};
-    target.rows.push_back(std::move(group_row));
+    target.rows.push_back(
+        {{0, group_path}, level, column, first->bookmark, static_cast<std::size_t>(end - first)});
     if (!target.collapsed.contains(group_path)) AppendRows(first, end, level + 1, group_path, target);
     first = end;
   }

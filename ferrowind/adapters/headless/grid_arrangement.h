@@ -30,15 +30,16 @@ struct GridRow {
   GridRowIdentity identity;
   /// 0 for the outermost group.
   std::size_t level = 0;
-  /// Of a group row: what its records have in common, and how many they are.
+  /// Of a group row: its column, the first of its records, and how many they are.
   std::int16_t group_column = 0;
-  platform::Value group_value;
+  platform::RecordSet::Bookmark first_record = 0;
   std::size_t record_count = 0;
 };
 
 /// Puts records into the order of keys and under the rows of their groups.
 class GridArrangement {
  public:
+  /// Gives what a record is sorted and grouped by in a column.
   using CellReader =
       std::function<platform::Value(platform::RecordSet::Bookmark bookmark, std::int16_t column)>;
 

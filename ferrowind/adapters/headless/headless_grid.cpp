@@ -110,7 +110,7 @@ void HeadlessGrid::ApplyKeys() {
 
 GridArrangement HeadlessGrid::ShownArrangement() const {
   return {shown_groups_, shown_sorts_, [this](RecordSet::Bookmark bookmark, std::int16_t column) {
-            return ValueOf(bookmark, *columns_[static_cast<std::size_t>(column) - 1]);
+            return OrderOf(bookmark, *columns_[static_cast<std::size_t>(column) - 1]);
           }};
 }
 
@@ -191,6 +191,12 @@ Value HeadlessGrid::ValueOf(RecordSet::Bookmark bookmark, const HeadlessGridColu
   unbound_value_.Emit(bookmark, column.Index(), value);
   computed_[place] = value;
   return value;
+}
+
+Value HeadlessGrid::OrderOf(RecordSet::Bookmark bookmark, const HeadlessGridColumn& column) const {
+  Value order = ValueOf(bookmark, column);
+  if (column.Unbound()) unbound_order_.Emit(bookmark, column.Index(), order);
+  return order;
 }
 
 std::int32_t HeadlessGrid::RowOf(const GridRowIdentity& identity) const {
@@ -285,7 +291,8 @@ bool HeadlessGrid::IsGroupRow(std::int32_t row) const { return !RowAt(row).ident
 std::string HeadlessGrid::CellText(std::int32_t row, const std::string& column_key) const {
   const GridRow& shown = RowAt(row);
   if (!shown.identity.IsRecord()) {
-    return ShownText(*columns_[static_cast<std::size_t>(shown.group_column) - 1], shown.group_value);
+    const HeadlessGridColumn& column = *columns_[static_cast<std::size_t>(shown.group_column) - 1];
+    return ShownText(column, ValueOf(shown.first_record, column));
   }
   const HeadlessGridColumn& column = ColumnOf(column_key);
   std::string text = ShownText(column, ValueOf(shown.identity.bookmark, column));

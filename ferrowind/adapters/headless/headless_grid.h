@@ -69,6 +69,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   void ExpandSelection() override;
 
   [[nodiscard]] platform::Subscription OnUnboundValue(UnboundValueHandler handler) override;
+  [[nodiscard]] platform::Subscription OnUnboundOrder(UnboundValueHandler handler) override;
   [[nodiscard]] platform::Subscription OnCellText(CellTextHandler handler) override;
   [[nodiscard]] platform::Subscription OnHeaderClick(
       std::function<void(platform::GridColumn& column)> handler) override;
@@ -121,6 +122,8 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
  private:
   [[nodiscard]] platform::Value ValueOf(platform::RecordSet::Bookmark bookmark,
                                         const HeadlessGridColumn& column) const;
+  [[nodiscard]] platform::Value OrderOf(platform::RecordSet::Bookmark bookmark,
+                                        const HeadlessGridColumn& column) const;
   [[nodiscard]] std::string ShownText(const HeadlessGridColumn& column, const platform::Value& value) const;
   [[nodiscard]] bool Applies(const platform::GridFormat& format, std::int32_t row) const;
   [[nodiscard]] GridArrangement ShownArrangement() const;
@@ -159,6 +162,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   mutable std::map<std::pair<platform::RecordSet::Bookmark, std::int16_t>, platform::Value> computed_;
 
   platform::Signal<platform::RecordSet::Bookmark, std::int16_t, platform::Value&> unbound_value_;
+  platform::Signal<platform::RecordSet::Bookmark, std::int16_t, platform::Value&> unbound_order_;
   platform::Signal<platform::RecordSet::Bookmark, std::int16_t, std::string&> cell_text_;
   platform::Signal<platform::GridColumn&> header_clicked_;
   platform::Signal<> before_group_change_;

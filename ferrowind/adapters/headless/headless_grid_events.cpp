@@ -8,6 +8,9 @@ namespace ferrowind::headless {
 platform::Subscription HeadlessGrid::OnUnboundValue(UnboundValueHandler handler) {
   return unbound_value_.Subscribe(std::move(handler));
 }
+platform::Subscription HeadlessGrid::OnUnboundOrder(UnboundValueHandler handler) {
+  return unbound_order_.Subscribe(std::move(handler));
+}
 platform::Subscription HeadlessGrid::OnCellText(CellTextHandler handler) {
   return cell_text_.Subscribe(std::move(handler));
 }

@@ -106,6 +106,10 @@ class Grid : public Control {
   using UnboundValueHandler =
       std::function<void(RecordSet::Bookmark bookmark, std::int16_t column, Value& receiver)>;
   [[nodiscard]] virtual Subscription OnUnboundValue(UnboundValueHandler handler) = 0;
+  /// What a cell of an unbound column is sorted and grouped by is needed; `receiver` holds the cell's value,
+  /// and the handler may put another there: the number of a month whose name the cell shows. A group shows
+  /// the cell of its first record.
+  [[nodiscard]] virtual Subscription OnUnboundOrder(UnboundValueHandler handler) = 0;
   /// The text of a cell is needed; `text` holds what would be shown, and the handler may put another text
   /// there.
   using CellTextHandler =

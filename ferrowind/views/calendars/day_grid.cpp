@@ -18,6 +18,8 @@ using platform::Date;
 using platform::Locale;
 using platform::Value;
 
+constexpr const char* kMonthName = "MonthName";
+
 struct ComputedColumn {
   const char* key;
   Value (*compute)(const Date& date, const Locale& locale);
@@ -27,7 +29,7 @@ constexpr ComputedColumn kComputedColumns[] = {
     {"DayOfYear", [](const Date& date, const Locale&) { return Value(date.DayOfYear()); }},
     {"DayOfMonth", [](const Date& date, const Locale&) { return Value(date.Day()); }},
     {"Month", [](const Date& date, const Locale&) { return Value(date.Month()); }},
-    {"MonthName",
+    {kMonthName,
      [](const Date& date, const Locale& locale) { return Value(locale.MonthName(date.Month())); }},
 };
 
@@ -103,13 +105,21 @@ void DayGrid::ComputeCell(platform::RecordSet::Bookmark bookmark, std::int16_t c
   const std::string& key = controls_.grid.ColumnAt(column).Key();
   for (const auto& computed : kComputedColumns) {
     if (key != computed.key) continue;
-    const auto days = controls_.grid.Records();
-    if (!days) return;
-    days->MoveTo(bookmark);
-    receiver =
-        computed.compute(platform::ToDate((*days)[FieldNameOf(*headers_, "FullDate")]), platform_.locale);
+    if (const auto date = DateOf(bookmark)) receiver = computed.compute(*date, platform_.locale);
     return;
   }
+}
+
+void DayGrid::ComputeOrder(platform::RecordSet::Bookmark bookmark, std::int16_t column, Value& receiver) {
+  if (controls_.grid.ColumnAt(column).Key() != kMonthName) return;
+  if (const auto date = DateOf(bookmark)) receiver = date->Month();
+}
+
+std::optional<Date> DayGrid::DateOf(platform::RecordSet::Bookmark bookmark) const {
+  const auto days = controls_.grid.Records();
+  if (!days) return std::nullopt;
+  days->MoveTo(bookmark);
+  return platform::ToDate((*days)[FieldNameOf(*headers_, "FullDate")]);
 }
 
 void DayGrid::CycleSortOrder(platform::GridColumn& column) {

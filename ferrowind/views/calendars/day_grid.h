@@ -42,12 +42,17 @@ class DayGrid {
 
   /// The answer to the grid's question for a computed cell; columns that are not computed get none.
   void ComputeCell(platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver);
+  /// The answer to the grid's question what a computed cell is sorted and grouped by: the names of the months
+  /// follow one another as the months do.
+  void ComputeOrder(platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver);
   /// The column's next sort order: none after ascending, ascending after descending, else descending.
   void CycleSortOrder(platform::GridColumn& column);
   void BeforeRegrouping();
   void AfterRegrouping();
 
  private:
+  /// The date of that row; nothing while the grid has no rows.
+  [[nodiscard]] std::optional<platform::Date> DateOf(platform::RecordSet::Bookmark bookmark) const;
   void ShowNothing();
   void ShowRecords(std::shared_ptr<platform::RecordSet> days);
   /// Tells the host how many of the days on show `days` changes, when those are of the same node.

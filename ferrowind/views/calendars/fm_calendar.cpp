@@ -107,6 +107,10 @@ void fmCalendar::Connect() {
         // No message while the grid paints: a cell that cannot be computed stays empty.
         IgnoringFailure([&] { day_grid_.ComputeCell(bookmark, column, receiver); });
       }));
+  subscribe(gexCalendar_.OnUnboundOrder(
+      [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver) {
+        IgnoringFailure([&] { day_grid_.ComputeOrder(bookmark, column, receiver); });
+      }));
   subscribe(gexCalendar_.OnHeaderClick(handler(&fmCalendar::gexCalendar_HeaderClick)));
   subscribe(gexCalendar_.OnBeforeGroupChange(handler(&fmCalendar::gexCalendar_BeforeGroupChange)));
   subscribe(gexCalendar_.OnAfterGroupChange(handler(&fmCalendar::gexCalendar_AfterGroupChange)));

@@ -63,6 +63,63 @@ TEST_F(GridComputedCellsContract, CanBeSortedBy) {
   EXPECT_THAT(Bookmarks(), ElementsAre(5, 4, 3, 2, 1));
 }
 
+/// Computed cells that show a name and go by a number, as the names of months do.
+class GridUnboundOrderContract : public GridComputedCellsContract {
+ protected:
+  /// "gamma" for the bookmarks 1 and 4, "alpha" for 2, 3 and 5; alpha goes by 2, gamma by 1.
+  [[nodiscard]] static std::string NameOf(RecordSet::Bookmark bookmark) {
+    return bookmark % 3 == 1 ? "gamma" : "alpha";
+  }
+  Subscription names = grid.OnUnboundValue(
+      [](RecordSet::Bookmark bookmark, std::int16_t, Value& receiver) { receiver = NameOf(bookmark); });
+  Subscription orders =
+      grid.OnUnboundOrder([this](RecordSet::Bookmark bookmark, std::int16_t column, Value& receiver) {
+        EXPECT_EQ(receiver, Value(NameOf(bookmark)));
+        if (column == IndexOf("Day")) receiver = receiver == Value("gamma") ? 1 : 2;
+      });
+};
+
+TEST_F(GridUnboundOrderContract, IsWhatTheCellsAreSortedBy) {
+  grid.SortKeys().Add(IndexOf("Day"), platform::kSortAscending, 0);
+  grid.Refresh(true);
+  EXPECT_THAT(Bookmarks(), ElementsAre(1, 4, 2, 3, 5));
+  EXPECT_EQ(grid.CellValue(1, "Day"), Value("gamma"));
+  EXPECT_EQ(under_test->CellText(grid, 3, "Day"), "alpha");
+}
+
+TEST_F(GridUnboundOrderContract, IsWhatTheCellsAreGroupedByUnderTheirOwnText) {
+  grid.GroupKeys().Add(IndexOf("Day"), platform::kSortAscending, 0);
+  grid.Refresh(true);
+  EXPECT_THAT(Bookmarks(), ElementsAre(0, 1, 4, 0, 2, 3, 5));
+  EXPECT_THAT(under_test->GroupText(grid, 1), testing::HasSubstr("gamma"));
+  EXPECT_THAT(under_test->GroupText(grid, 4), testing::HasSubstr("alpha"));
+}
+
+TEST_F(GridUnboundOrderContract, KeepsACollapsedGroupCollapsedThroughARefresh) {
+  grid.GroupKeys().Add(IndexOf("Day"), platform::kSortAscending, 0);
+  grid.Refresh(true);
+  under_test->ToggleGroup(grid, 1);
+  grid.Refresh(true);
+  EXPECT_THAT(Bookmarks(), ElementsAre(0, 0, 2, 3, 5));
+}
+
+TEST_F(GridUnboundOrderContract, IsAskedForAnewByARefresh) {
+  grid.SortKeys().Add(IndexOf("Day"), platform::kSortAscending, 0);
+  grid.Refresh(true);
+  orders = grid.OnUnboundOrder(
+      [](RecordSet::Bookmark bookmark, std::int16_t, Value& receiver) { receiver = -bookmark; });
+  grid.Refresh(true);
+  EXPECT_THAT(Bookmarks(), ElementsAre(5, 4, 3, 2, 1));
+}
+
+TEST_F(GridUnboundOrderContract, IsNotAskedForOfABoundColumn) {
+  orders = grid.OnUnboundOrder(
+      [this](RecordSet::Bookmark, std::int16_t column, Value&) { EXPECT_EQ(column, IndexOf("Day")); });
+  grid.SortKeys().Add(IndexOf("Type"), platform::kSortAscending, 0);
+  grid.Refresh(true);
+  EXPECT_THAT(Bookmarks(), ElementsAre(2, 4, 1, 5, 3));
+}
+
 TEST_F(GridComputedCellsContract, MayBeAnsweredByAHandlerThatMovesTheCursor) {
   const Subscription computed =
       grid.OnUnboundValue([this](RecordSet::Bookmark bookmark, std::int16_t, Value& receiver) {

@@ -95,6 +95,8 @@ class ToolkitUnderTest {
   /// What stands in a cell of a record's row.
   [[nodiscard]] virtual std::string CellText(platform::Grid& grid, std::int32_t row,
                                              const std::string& column_key) = 0;
+  /// What a group row says.
+  [[nodiscard]] virtual std::string GroupText(platform::Grid& grid, std::int32_t row) = 0;
   [[nodiscard]] virtual RowLook LookOf(platform::Grid& grid, std::int32_t row) = 0;
 };
 

@@ -79,7 +79,7 @@ TEST_F(WindowSettingsTest, BringBackTheGridsColumnsSortingAndGroups) {
   EXPECT_EQ(Days().Header().visualIndex(comment), 0);
   EXPECT_EQ(Days().Header().sectionSize(comment), width);
   EXPECT_EQ(RowsOf(Days()), 366 + 12);
-  EXPECT_EQ(CellText(Days(), 1, "Day of year"), "121");
+  EXPECT_EQ(CellText(Days(), 1, "Day of year"), "31");
 }
 
 TEST_F(WindowSettingsTest, OfAnotherKindNeverKeepTheWindowFromOpening) {

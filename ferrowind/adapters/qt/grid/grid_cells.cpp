@@ -39,10 +39,15 @@ GridCells::GridCells(std::string grid_name, const GridColumns& columns)
       computed_([this](Record record, std::int16_t column, Value& receiver) {
         if (is_muted_) return;
         RunGuarded(grid_name_, [&] { unbound_value_.Emit(BookmarkOf(record), column, receiver); });
+      }),
+      orders_([this](Record record, std::int16_t column, Value& receiver) {
+        receiver = CellValue(column, record);
+        if (is_muted_) return;
+        RunGuarded(grid_name_, [&] { unbound_order_.Emit(BookmarkOf(record), column, receiver); });
       }) {}
 
 void GridCells::Attach(std::shared_ptr<platform::RecordSet> records) {
-  computed_.Forget();
+  ForgetComputed();
   records_ = std::move(records);
   bookmarks_.clear();
   record_count_ = records_ == nullptr ? 0 : static_cast<std::uint32_t>(records_->RowCount());
@@ -62,6 +67,11 @@ void GridCells::BindFields() {
 }
 
 const Value& GridCells::KeyValue(std::int16_t column, Record record) const {
+  if (has_order_handlers_ && columns_[column].Unbound()) return orders_.ValueOf(record, column);
+  return CellValue(column, record);
+}
+
+const Value& GridCells::CellValue(std::int16_t column, Record record) const {
   if (columns_[column].Unbound()) return computed_.ValueOf(record, column);
   const auto place = static_cast<std::size_t>(column) - 1;
   if (place >= fields_.size() || !fields_[place]) return NoValue();
@@ -77,20 +87,20 @@ QString GridCells::TextOfValue(std::int16_t column, const Value& value) const {
 
 bool GridCells::ShowsNumber(std::int16_t column, Record record) const {
   return !columns_[column].HasValueList() &&
-         grid_engine::KindOf(KeyValue(column, record)) == grid_engine::ValueKind::kNumber;
+         grid_engine::KindOf(CellValue(column, record)) == grid_engine::ValueKind::kNumber;
 }
 
 bool GridCells::IsNumberColumn(std::int16_t column) const {
   // Enough to pass the rows that leave the column empty, and few enough to ask at each paint.
   constexpr std::uint32_t kRecordsAsked = 50;
   for (Record record = 0; record < std::min(record_count_, kRecordsAsked); ++record) {
-    if (!KeyValue(column, record).IsEmpty()) return ShowsNumber(column, record);
+    if (!CellValue(column, record).IsEmpty()) return ShowsNumber(column, record);
   }
   return false;
 }
 
 QString GridCells::ShownText(std::int16_t column, Record record) const {
-  QString shown = TextOfValue(column, KeyValue(column, record));
+  QString shown = TextOfValue(column, CellValue(column, record));
   if (!has_cell_text_handlers_ || is_muted_) return shown;
   std::string text = FromQt(shown);
   RunGuarded(grid_name_, [&] { cell_text_.Emit(BookmarkOf(record), column, text); });
@@ -102,6 +112,13 @@ platform::Subscription GridCells::OnUnboundValue(
   // What nobody answered before may have an answer now.
   ForgetComputed();
   return unbound_value_.Subscribe(std::move(handler));
+}
+
+platform::Subscription GridCells::OnUnboundOrder(
+    std::function<void(Bookmark, std::int16_t, Value&)> handler) {
+  ForgetComputed();
+  has_order_handlers_ = true;
+  return unbound_order_.Subscribe(std::move(handler));
 }
 
 platform::Subscription GridCells::OnCellText(

@@ -31,15 +31,20 @@ class GridCells final : public grid_engine::KeyValues {
   [[nodiscard]] const std::shared_ptr<platform::RecordSet>& Records() const { return records_; }
   /// Finds the fields of all columns anew.
   void BindFields();
-  void ForgetComputed() { computed_.Forget(); }
+  void ForgetComputed() {
+    computed_.Forget();
+    orders_.Forget();
+  }
 
   [[nodiscard]] std::uint32_t RecordCount() const { return record_count_; }
   [[nodiscard]] Bookmark BookmarkOf(grid_engine::Record record) const {
     return bookmarks_.empty() ? static_cast<Bookmark>(record + 1) : bookmarks_[record];
   }
 
+  /// What the cell is sorted and grouped by: its value, unless a handler of `UnboundOrder` says otherwise.
   [[nodiscard]] const platform::Value& KeyValue(std::int16_t column,
                                                 grid_engine::Record record) const override;
+  [[nodiscard]] const platform::Value& CellValue(std::int16_t column, grid_engine::Record record) const;
   /// The text of a cell as it is shown.
   [[nodiscard]] QString ShownText(std::int16_t column, grid_engine::Record record) const;
   /// Whether the cell shows a number as such, not a text that stands for it.
@@ -51,6 +56,8 @@ class GridCells final : public grid_engine::KeyValues {
 
   /// For the events of `platform::Grid` of these names.
   [[nodiscard]] platform::Subscription OnUnboundValue(
+      std::function<void(Bookmark bookmark, std::int16_t column, platform::Value& receiver)> handler);
+  [[nodiscard]] platform::Subscription OnUnboundOrder(
       std::function<void(Bookmark bookmark, std::int16_t column, platform::Value& receiver)> handler);
   [[nodiscard]] platform::Subscription OnCellText(
       std::function<void(Bookmark bookmark, std::int16_t column, std::string& text)> handler);
@@ -66,7 +73,11 @@ class GridCells final : public grid_engine::KeyValues {
   /// By column index less 1.
   std::vector<std::optional<std::size_t>> fields_;
   ComputedCells computed_;
+  ComputedCells orders_;
   platform::Signal<Bookmark, std::int16_t, platform::Value&> unbound_value_;
+  platform::Signal<Bookmark, std::int16_t, platform::Value&> unbound_order_;
+  /// Spares the second copy of every value while there never was a handler.
+  bool has_order_handlers_ = false;
   platform::Signal<Bookmark, std::int16_t, std::string&> cell_text_;
   /// Spares the detour of every text through the handlers while there never was one.
   bool has_cell_text_handlers_ = false;

@@ -50,7 +50,8 @@ void GridContent::Arrange(bool recompute) {
 
 GroupLabel GridContent::LabelOf(GroupId group) const {
   const std::int16_t column = rows_.GroupColumn(group.level);
-  return {ToQt(columns_[column].Caption()), cells_.TextOfValue(column, rows_.GroupValue(group)),
+  return {ToQt(columns_[column].Caption()),
+          cells_.TextOfValue(column, cells_.CellValue(column, rows_.FirstRecordOf(group))),
           rows_.RecordCountOf(group)};
 }
 

@@ -193,7 +193,7 @@ Value QtGrid::CellValue(std::int32_t row, const std::string& column_key) const {
   const QtGridColumn& column = content_.Columns().ByKey(column_key);
   if (row == 0) return {};
   const auto record = content_.RecordInRow(static_cast<std::uint32_t>(row - 1));
-  return record ? content_.Cells().KeyValue(column.Index(), *record) : Value();
+  return record ? content_.Cells().CellValue(column.Index(), *record) : Value();
 }
 
 bool QtGrid::MultiSelect() const { return view_.selectionMode() == QAbstractItemView::ExtendedSelection; }

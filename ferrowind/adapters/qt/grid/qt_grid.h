@@ -67,6 +67,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   void CollapseAllGroups() override;
   void ExpandSelection() override;
   [[nodiscard]] platform::Subscription OnUnboundValue(UnboundValueHandler handler) override;
+  [[nodiscard]] platform::Subscription OnUnboundOrder(UnboundValueHandler handler) override;
   [[nodiscard]] platform::Subscription OnCellText(CellTextHandler handler) override;
   [[nodiscard]] platform::Subscription OnHeaderClick(
       std::function<void(platform::GridColumn& column)> handler) override;

@@ -29,6 +29,9 @@ std::int32_t NumberOf(Qt::MouseButton button) {
 platform::Subscription QtGrid::OnUnboundValue(UnboundValueHandler handler) {
   return content_.Cells().OnUnboundValue(std::move(handler));
 }
+platform::Subscription QtGrid::OnUnboundOrder(UnboundValueHandler handler) {
+  return content_.Cells().OnUnboundOrder(std::move(handler));
+}
 platform::Subscription QtGrid::OnCellText(CellTextHandler handler) {
   return content_.Cells().OnCellText(std::move(handler));
 }

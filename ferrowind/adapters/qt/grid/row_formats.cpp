@@ -47,7 +47,7 @@ RowLook RowFormats::LookOf(grid_engine::Record record, const GridCells& cells,
   std::optional<bool> strike_through;
   for (const GridFormat& format : formats_) {
     const QtGridColumn* column = columns.Find(format.column_key);
-    if (column == nullptr || !Applies(format, *column, cells.KeyValue(column->Index(), record))) continue;
+    if (column == nullptr || !Applies(format, *column, cells.CellValue(column->Index(), record))) continue;
     if (!look.fore_color) look.fore_color = format.fore_color;
     if (!bold) bold = format.bold;
     if (!strike_through) strike_through = format.strike_through;

@@ -119,6 +119,9 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
                                      const std::string& column_key) override {
     return As<HeadlessGrid>(grid).CellText(row, column_key);
   }
+  [[nodiscard]] std::string GroupText(platform::Grid& grid, std::int32_t row) override {
+    return As<HeadlessGrid>(grid).CellText(row, "");
+  }
   [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
     const GridRowStyle style = As<HeadlessGrid>(grid).RowStyle(row);
     return {style.fore_color, style.bold, style.strike_through};

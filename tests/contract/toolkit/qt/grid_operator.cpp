@@ -72,6 +72,10 @@ std::string GridOperator::CellText(int row, const std::string& column_key) {
   return CellOf(row, ColumnOf(column_key)).data(Qt::DisplayRole).toString().toStdString();
 }
 
+std::string GridOperator::GroupText(int row) {
+  return CellOf(row, 0).data(Qt::DisplayRole).toString().toStdString();
+}
+
 RowLook GridOperator::LookOf(int row) {
   const auto look = grid_.Widget().View().Model()->Content().LookOf(
       static_cast<grid_engine::Record>(grid_.RowBookmark(row) - 1));

@@ -20,6 +20,7 @@ class GridOperator {
   void DragGroupAway(int position);
   void ToggleGroupByBox();
   [[nodiscard]] std::string CellText(int row, const std::string& column_key);
+  [[nodiscard]] std::string GroupText(int row);
   [[nodiscard]] RowLook LookOf(int row);
 
  private:

@@ -185,6 +185,9 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
                                      const std::string& column_key) override {
     return GridOperator(grid).CellText(row, column_key);
   }
+  [[nodiscard]] std::string GroupText(platform::Grid& grid, std::int32_t row) override {
+    return GridOperator(grid).GroupText(row);
+  }
   [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
     return GridOperator(grid).LookOf(row);
   }

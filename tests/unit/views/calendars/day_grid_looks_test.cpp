@@ -57,6 +57,26 @@ TEST(DayGridComputedCells, CountALeapYearTo366) {
   });
 }
 
+TEST(DayGridComputedCells, SortTheNamesOfTheMonthsAsTheMonthsFollowOneAnother) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    Rows days;
+    for (int month = 12; month >= 1; --month) days.push_back(CalendarsWorld::Day(Date(2026, month, 5), 1));
+    calendars.AnswerDays(days);
+    calendars.OpenAt("K978_2026");
+    auto& grid = calendars.Grid();
+    grid.GroupKeys().Add(grid.ColumnByKey("MonthName").Index(), kSortAscending, 0);
+    grid.Refresh(true);
+    Texts groups;
+    for (std::int32_t row = 1; row <= grid.RowCount(); ++row) {
+      if (grid.IsGroupRow(row)) groups.push_back(grid.CellText(row, ""));
+    }
+    EXPECT_THAT(groups, ElementsAre("January", "February", "March", "April", "May", "June", "July", "August",
+                                    "September", "October", "November", "December"));
+    EXPECT_EQ(grid.CellValue(2, "MonthName"), Value("January"));
+  });
+}
+
 TEST(DayGridComputedCells, FollowTheFieldThatTheMapGivesForTheDate) {
   RunInFreshThread([] {
     CalendarsWorld calendars;
