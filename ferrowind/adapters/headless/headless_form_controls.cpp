@@ -40,7 +40,7 @@ std::unique_ptr<platform::Control> HeadlessForm::MakeControl(const platform::Con
     case ControlKind::kTree:
       return std::make_unique<HeadlessTree>(*this, design.name);
     case ControlKind::kGrid:
-      return std::make_unique<HeadlessGrid>(*this, design.name);
+      return std::make_unique<HeadlessGrid>(*this, design.name, design.marks_row_ranges);
     case ControlKind::kToolBar:
       return std::make_unique<HeadlessToolBar>(*this, design.name);
     case ControlKind::kStatusBar:

@@ -15,10 +15,11 @@ using platform::RecordSet;
 using platform::Value;
 namespace failure_number = platform::failure_number;
 
-HeadlessGrid::HeadlessGrid(ControlHost& host, std::string name)
+HeadlessGrid::HeadlessGrid(ControlHost& host, std::string name, bool marks_row_ranges)
     : HeadlessControl(host, std::move(name)),
       sort_keys_(host.Log(), Name() + ".SortKeys", [this] { return ColumnCount(); }),
-      group_keys_(host.Log(), Name() + ".GroupKeys", [this] { return ColumnCount(); }) {}
+      group_keys_(host.Log(), Name() + ".GroupKeys", [this] { return ColumnCount(); }),
+      marks_row_ranges_(marks_row_ranges) {}
 
 // Columns
 // -------------------------------------------------------------------------------------------------------
@@ -77,6 +78,8 @@ void HeadlessGrid::AttachRecords(std::shared_ptr<RecordSet> records) {
   sort_keys_.Drop();
   group_keys_.Drop();
   selected_.clear();
+  selected_before_range_.clear();
+  anchor_ = {};
   ApplyKeys();
   top_ = IdentityOf(rows_.empty() ? 0 : 1);
   MakeCurrent({});
@@ -120,7 +123,9 @@ void HeadlessGrid::Rearrange() {
   const auto renew = [&](GridRowIdentity& identity) {
     if (identity.IsRecord()) identity.group_path = arrangement.PathOf(identity.bookmark);
   };
-  std::for_each(selected_.begin(), selected_.end(), renew);
+  for (auto* const identities : {&selected_, &selected_before_range_})
+    std::for_each(identities->begin(), identities->end(), renew);
+  renew(anchor_);
   renew(top_);
   top_ = OnShow(top_);
   if (top_.IsNone()) top_ = IdentityOf(rows_.empty() ? 0 : 1);
@@ -137,9 +142,15 @@ void HeadlessGrid::SetCurrentRow(std::int32_t row) {
   core_.Record("SetCurrentRow", {row});
   RequireRow(row);
   const auto keep = core_.Keep();
+  SelectOnly(row);
+}
+
+void HeadlessGrid::SelectOnly(std::int32_t row) {
   selected_.clear();
-  if (row > 0) selected_.push_back(IdentityOf(row));
-  MakeCurrent(IdentityOf(row));
+  selected_before_range_.clear();
+  anchor_ = IdentityOf(row);
+  if (row > 0) selected_.push_back(anchor_);
+  MakeCurrent(anchor_);
 }
 
 void HeadlessGrid::SetFirstVisibleRow(std::int32_t row) {
@@ -168,16 +179,31 @@ Value HeadlessGrid::CellValue(std::int32_t row, const std::string& column_key) c
 
 void HeadlessGrid::SetMultiSelect(bool multi_select) {
   core_.Record("SetMultiSelect", {multi_select});
+  if (multi_select_ && !multi_select) SelectOnly(CurrentRow());
   multi_select_ = multi_select;
 }
 
 std::vector<std::int32_t> HeadlessGrid::SelectedRows() const {
-  std::vector<std::int32_t> rows;
-  for (const auto& identity : multi_select_ ? selected_ : std::vector<GridRowIdentity>{current_}) {
-    const std::int32_t row = RowOf(identity);
-    if (identity.IsRecord() && row > 0) rows.push_back(row);
-  }
+  return RecordRowsOf(multi_select_ ? selected_ : std::vector<GridRowIdentity>{current_});
+}
+
+std::vector<std::int32_t> HeadlessGrid::MarkedRows() const {
+  std::vector<std::int32_t> rows = RecordRowsOf(Marked());
+  std::sort(rows.begin(), rows.end());
   return rows;
+}
+
+std::vector<GridRowIdentity> HeadlessGrid::Marked() const {
+  return multi_select_ || marks_row_ranges_ ? selected_ : std::vector<GridRowIdentity>{current_};
+}
+
+std::vector<std::int32_t> HeadlessGrid::RecordRowsOf(const std::vector<GridRowIdentity>& rows) const {
+  std::vector<std::int32_t> record_rows;
+  for (const auto& identity : rows) {
+    const std::int32_t row = RowOf(identity);
+    if (identity.IsRecord() && row > 0) record_rows.push_back(row);
+  }
+  return record_rows;
 }
 
 Value HeadlessGrid::ValueOf(RecordSet::Bookmark bookmark, const HeadlessGridColumn& column) const {
@@ -268,8 +294,7 @@ void HeadlessGrid::CollapseAllGroups() {
 void HeadlessGrid::ExpandSelection() {
   core_.Record("ExpandSelection");
   const auto keep = core_.Keep();
-  const auto selection = multi_select_ ? selected_ : std::vector<GridRowIdentity>{current_};
-  for (const auto& identity : selection) ExpandAround(identity);
+  for (const auto& identity : Marked()) ExpandAround(identity);
   Rearrange();
 }
 

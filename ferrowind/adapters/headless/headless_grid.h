@@ -27,7 +27,7 @@ struct GridRowStyle {
 /// at first.
 class HeadlessGrid : public HeadlessControl<platform::Grid> {
  public:
-  HeadlessGrid(ControlHost& host, std::string name);
+  HeadlessGrid(ControlHost& host, std::string name, bool marks_row_ranges);
 
   platform::GridColumn& AddColumn(const std::string& caption, std::int32_t type, std::int32_t edit_type,
                                   const std::string& key) override;
@@ -57,6 +57,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   [[nodiscard]] bool MultiSelect() const override { return multi_select_; }
   void SetMultiSelect(bool multi_select) override;
   [[nodiscard]] std::vector<std::int32_t> SelectedRows() const override;
+  [[nodiscard]] std::vector<std::int32_t> MarkedRows() const override;
 
   [[nodiscard]] std::int32_t FormatCount() const override {
     return static_cast<std::int32_t>(formats_.size());
@@ -102,10 +103,12 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
 
   /// Clicks a row: it becomes the current row and the only selected one; then the button is released.
   void ClickRow(std::int32_t row);
-  /// As `ClickRow` with the right button.
+  /// As `ClickRow` with the right button, which leaves a selection alone that the row is in.
   void RightClickRow(std::int32_t row);
-  /// Clicks a row with the Ctrl key held: adds it to the selection or takes it out.
+  /// Clicks a row with the Ctrl key held: adds it to the selection or takes it out, unless it is the last.
   void ToggleRow(std::int32_t row);
+  /// Clicks a row with the Shift key held: selects or marks the rows from the one clicked last to it.
+  void ExtendToRow(std::int32_t row);
   /// Clicks the mark that expands or collapses a group row.
   void ToggleGroup(std::int32_t row);
   /// Releases a mouse button over the rows, with nothing else.
@@ -137,7 +140,11 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   void RequireShownRow(std::int32_t row);
   void MakeCurrent(const GridRowIdentity& identity);
   void ExpandAround(const GridRowIdentity& identity);
-  void ClickRowWith(std::int32_t row, std::int32_t button);
+  /// Makes the row current and the only selected one.
+  void SelectOnly(std::int32_t row);
+  /// The rows that are painted as chosen.
+  [[nodiscard]] std::vector<GridRowIdentity> Marked() const;
+  [[nodiscard]] std::vector<std::int32_t> RecordRowsOf(const std::vector<GridRowIdentity>& rows) const;
 
   std::vector<std::unique_ptr<HeadlessGridColumn>> columns_;
   /// Kept, since a column lives as long as the grid.
@@ -155,7 +162,11 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   GridRowIdentity current_;
   GridRowIdentity top_;
   std::vector<GridRowIdentity> selected_;
+  /// Where a range begins, and what was selected before it.
+  GridRowIdentity anchor_;
+  std::vector<GridRowIdentity> selected_before_range_;
   std::int32_t current_column_ = 0;
+  bool marks_row_ranges_;
   bool multi_select_ = false;
   bool group_by_box_visible_ = false;
   std::vector<platform::GridFormat> formats_;

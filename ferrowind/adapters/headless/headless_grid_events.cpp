@@ -1,4 +1,5 @@
 // The events of the grid, and the operator who raises them.
+#include <algorithm>
 #include <utility>
 
 #include "ferrowind/adapters/headless/headless_grid.h"
@@ -37,30 +38,55 @@ platform::Subscription HeadlessGrid::OnCurrentRowChange(std::function<void()> ha
 
 void HeadlessGrid::ClickRow(std::int32_t row) {
   const auto keep = core_.BeginAction("ClickRow", {row});
-  ClickRowWith(row, platform::kLeftButton);
+  RequireShownRow(row);
+  core_.TakeFocus();
+  SelectOnly(row);
+  mouse_up_.Emit(platform::kLeftButton);
 }
 
 void HeadlessGrid::RightClickRow(std::int32_t row) {
   const auto keep = core_.BeginAction("RightClickRow", {row});
-  ClickRowWith(row, platform::kRightButton);
-}
-
-void HeadlessGrid::ClickRowWith(std::int32_t row, std::int32_t button) {
   RequireShownRow(row);
   core_.TakeFocus();
-  selected_ = {IdentityOf(row)};
-  MakeCurrent(IdentityOf(row));
-  mouse_up_.Emit(button);
+  const auto marked = Marked();
+  if (std::find(marked.begin(), marked.end(), IdentityOf(row)) == marked.end()) {
+    SelectOnly(row);
+  } else {
+    MakeCurrent(IdentityOf(row));
+  }
+  mouse_up_.Emit(platform::kRightButton);
 }
 
 void HeadlessGrid::ToggleRow(std::int32_t row) {
   const auto keep = core_.BeginAction("ToggleRow", {row});
   RequireShownRow(row);
   core_.TakeFocus();
-  if (!multi_select_) selected_.clear();
-  const GridRowIdentity identity = IdentityOf(row);
-  if (std::erase(selected_, identity) == 0) selected_.push_back(identity);
-  MakeCurrent(identity);
+  if (multi_select_) {
+    anchor_ = IdentityOf(row);
+    if (std::erase(selected_, anchor_) == 0 || selected_.empty()) selected_.push_back(anchor_);
+    selected_before_range_ = selected_;
+    MakeCurrent(anchor_);
+  } else {
+    SelectOnly(row);
+  }
+  mouse_up_.Emit(platform::kLeftButton);
+}
+
+void HeadlessGrid::ExtendToRow(std::int32_t row) {
+  const auto keep = core_.BeginAction("ExtendToRow", {row});
+  RequireShownRow(row);
+  core_.TakeFocus();
+  const std::int32_t anchor = RowOf(anchor_);
+  if (anchor == 0 || !(multi_select_ || marks_row_ranges_)) {
+    SelectOnly(row);
+  } else {
+    selected_ = selected_before_range_;
+    for (std::int32_t at = std::min(anchor, row); at <= std::max(anchor, row); ++at) {
+      std::erase(selected_, IdentityOf(at));
+      selected_.push_back(IdentityOf(at));
+    }
+    MakeCurrent(IdentityOf(row));
+  }
   mouse_up_.Emit(platform::kLeftButton);
 }
 

@@ -146,7 +146,7 @@ void HeadlessSharedServices::CopyGridRows(Grid& grid, bool with_headers) {
   for (std::int32_t i = 1; i <= grid.ColumnCount(); ++i) {
     if (grid.ColumnAt(i).Visible()) columns.push_back(&grid.ColumnAt(i));
   }
-  std::vector<std::int32_t> rows = grid.SelectedRows();
+  std::vector<std::int32_t> rows = grid.MarkedRows();
   if (rows.empty()) {
     for (std::int32_t row = 1; row <= grid.RowCount(); ++row) {
       if (grid.RowBookmark(row) != 0) rows.push_back(row);

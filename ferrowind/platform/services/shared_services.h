@@ -54,8 +54,8 @@ class SharedServices : public OutsideObject {
   /// Restores the layout stored in the section; without one, or with one that is damaged, the grid stays as
   /// it is.
   virtual void LoadGridLayout(Grid& grid, const std::string& section) = 0;
-  /// Copies rows to the clipboard: the selected ones or, when none is selected, all. `with_headers` adds the
-  /// captions.
+  /// Copies rows to the clipboard: the grid's `MarkedRows` or, when there are none, all. `with_headers` adds
+  /// the captions.
   virtual void CopyGridRows(Grid& grid, bool with_headers) = 0;
 };
 

@@ -33,6 +33,8 @@ struct ControlDesign {
   /// For a text box, one of a form at most: it takes what the operator types while the focus is on a control
   /// that takes no text, and its text is selected whenever it gets the focus, so that typing replaces it.
   bool takes_typing = false;
+  /// Of a grid: the operator can mark a range of rows to copy, see `Grid::MarkedRows`.
+  bool marks_row_ranges = false;
 };
 
 enum class FormBorder {

@@ -82,8 +82,12 @@ class Grid : public Control {
   [[nodiscard]] virtual bool MultiSelect() const = 0;
   virtual void SetMultiSelect(bool multi_select) = 0;
   /// The selected records' rows in the order in which they were selected; without multiple selection the
-  /// current row.
+  /// current row. The operator cannot take the last selected row out of the selection.
   [[nodiscard]] virtual std::vector<std::int32_t> SelectedRows() const = 0;
+  /// The records' rows that a copy takes, from the top: the selected ones with multiple selection; without it
+  /// the range that the operator has marked, in a grid whose design lets them, or the current row, which is
+  /// always in it.
+  [[nodiscard]] virtual std::vector<std::int32_t> MarkedRows() const = 0;
 
   // Looks
   // -----------------------------------------------------------------------------------------------------
@@ -95,7 +99,7 @@ class Grid : public Control {
   virtual void SetGroupByBoxVisible(bool visible) = 0;
   virtual void ExpandAllGroups() = 0;
   virtual void CollapseAllGroups() = 0;
-  /// Expands the selected group rows, all their levels, and the groups of the selected records.
+  /// Expands the selected or marked group rows, all their levels, and the groups of such records.
   virtual void ExpandSelection() = 0;
 
   // Events

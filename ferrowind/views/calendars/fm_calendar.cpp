@@ -36,7 +36,7 @@ platform::FormDesign Design() {
           .client_width = 16950,
           .client_height = 9900,
           .controls = {{ControlKind::kTree, "tvCalendar"},
-                       {ControlKind::kGrid, "gexCalendar"},
+                       {.kind = ControlKind::kGrid, .name = "gexCalendar", .marks_row_ranges = true},
                        {ControlKind::kToolBar, "ssatb"},
                        {ControlKind::kPanel, "pctToolBar"},
                        {ControlKind::kPanel, "ssspUp"},

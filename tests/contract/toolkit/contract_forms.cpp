@@ -23,6 +23,7 @@ FormDesign ContractForm() {
                        {ControlKind::kPanel, "pctArea"},
                        {ControlKind::kTree, "tvNodes"},
                        {ControlKind::kGrid, "gexRows"},
+                       {.kind = ControlKind::kGrid, .name = "gexRanges", .marks_row_ranges = true},
                        {ControlKind::kToolBar, "ssatbTools"},
                        {ControlKind::kStatusBar, "sbLine"},
                        {ControlKind::kSplitter, "sssp"},

@@ -241,6 +241,62 @@ TEST_F(GridSelectionContract, LosesARowThatIsToggledAgain) {
   EXPECT_THAT(grid.SelectedRows(), ElementsAre(1));
 }
 
+TEST_F(GridSelectionContract, KeepsItsLastRowWhenThatIsToggled) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 4, kLeftButton);
+  under_test->ToggleRow(grid, 4);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(4));
+}
+
+TEST_F(GridSelectionContract, LeavesARowCurrentThatIsToggledOutOfIt) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 4, kLeftButton);
+  under_test->ToggleRow(grid, 1);
+  under_test->ToggleRow(grid, 1);
+  EXPECT_EQ(grid.CurrentRow(), 1);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(4));
+}
+
+TEST_F(GridSelectionContract, TakesTheRowsUpToOneThatIsClickedWithShift) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(2, 3, 4));
+  under_test->ExtendToRow(grid, 3);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(2, 3));
+}
+
+TEST_F(GridSelectionContract, KeepsWhatWasToggledBeforeARange) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 5, kLeftButton);
+  under_test->ToggleRow(grid, 1);
+  under_test->ExtendToRow(grid, 2);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(5, 1, 2));
+}
+
+TEST_F(GridSelectionContract, StaysUnderAMenuThatIsAskedForInIt) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  under_test->ClickRow(grid, 3, platform::kRightButton);
+  EXPECT_EQ(grid.CurrentRow(), 3);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(2, 3, 4));
+}
+
+TEST_F(GridSelectionContract, IsOneRowWithoutMultipleSelectionWhateverIsClickedWithShift) {
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(4));
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(4));
+}
+
+TEST_F(GridSelectionContract, IsWhatIsMarkedToBeCopiedFromTheTop) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 4, kLeftButton);
+  under_test->ToggleRow(grid, 1);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(1, 4));
+}
+
 TEST_F(GridSelectionContract, IsOneRowAfterAPlainClick) {
   grid.SetMultiSelect(true);
   under_test->ClickRow(grid, 4, kLeftButton);
@@ -271,6 +327,91 @@ TEST_F(GridSelectionContract, LeavesGroupRowsOut) {
   grid.Refresh(true);
   grid.SetCurrentRow(1);
   EXPECT_THAT(grid.SelectedRows(), IsEmpty());
+}
+
+/// A grid whose design lets the operator mark ranges.
+class GridRangesContract : public ToolkitContract {
+ protected:
+  GridRangesContract() {
+    platform::GridColumn& type = grid.AddColumn("Type", 0, 1, "Type");
+    type.SetBoundField("TID1");
+    type.SetGroupable(1);
+    std::vector<std::vector<Value>> rows;
+    for (int i = 0; i < 5; ++i) rows.push_back({i % 2});
+    grid.HoldColumns();
+    grid.AttachRecords(std::make_shared<platform::RecordSet>(std::vector<std::string>{"TID1"}, rows));
+    grid.Rebind();
+  }
+  platform::Grid& grid = The<platform::Grid>("gexRanges");
+};
+
+TEST_F(GridRangesContract, AreMarkedWithShiftAndLeaveTheCurrentRowTheOnlySelectedOne) {
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  EXPECT_FALSE(grid.MultiSelect());
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(2, 3, 4));
+  EXPECT_EQ(grid.CurrentRow(), 4);
+  EXPECT_THAT(grid.SelectedRows(), ElementsAre(4));
+}
+
+TEST_F(GridRangesContract, EndWithAClickOfAnyKind) {
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  under_test->ClickRow(grid, 3, kLeftButton);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(3));
+  under_test->ExtendToRow(grid, 5);
+  under_test->ToggleRow(grid, 1);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(1)) << "rows far apart are no range";
+}
+
+TEST_F(GridRangesContract, StayUnderTheMenuOfARowInThem) {
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  under_test->ClickRow(grid, 3, platform::kRightButton);
+  EXPECT_EQ(grid.CurrentRow(), 3);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(2, 3, 4));
+  under_test->ClickRow(grid, 5, platform::kRightButton);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(5));
+}
+
+TEST_F(GridRangesContract, EndWhenTheProgramMakesAnotherRowCurrent) {
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  grid.SetCurrentRow(1);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(1));
+  grid.SetCurrentRow(0);
+  EXPECT_THAT(grid.MarkedRows(), IsEmpty());
+}
+
+TEST_F(GridRangesContract, BeginWhereTheProgramWentLast) {
+  under_test->ClickRow(grid, 1, kLeftButton);
+  grid.SetCurrentRow(3);
+  under_test->ExtendToRow(grid, 4);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(3, 4));
+}
+
+TEST_F(GridRangesContract, EndWithMultipleSelection) {
+  grid.SetMultiSelect(true);
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ToggleRow(grid, 4);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(2, 4));
+  grid.SetMultiSelect(false);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(4));
+}
+
+TEST_F(GridRangesContract, AreDroppedWithTheRecordSet) {
+  under_test->ClickRow(grid, 2, kLeftButton);
+  under_test->ExtendToRow(grid, 4);
+  grid.AttachRecords(grid.Records()->Clone());
+  EXPECT_THAT(grid.MarkedRows(), IsEmpty());
+}
+
+TEST_F(GridRangesContract, LeaveGroupRowsOut) {
+  grid.GroupKeys().Add(1, kSortAscending, 0);
+  grid.Refresh(true);
+  under_test->ClickRow(grid, 1, kLeftButton);
+  under_test->ExtendToRow(grid, 6);
+  EXPECT_THAT(grid.MarkedRows(), ElementsAre(2, 3, 4, 6));
 }
 
 }  // namespace

@@ -83,6 +83,8 @@ class ToolkitUnderTest {
   virtual void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) = 0;
   /// Clicks a row with the left button while the Ctrl key is held.
   virtual void ToggleRow(platform::Grid& grid, std::int32_t row) = 0;
+  /// Clicks a row with the left button while the Shift key is held.
+  virtual void ExtendToRow(platform::Grid& grid, std::int32_t row) = 0;
   /// Expands a collapsed group row and collapses an expanded one.
   virtual void ToggleGroup(platform::Grid& grid, std::int32_t row) = 0;
   virtual void ClickHeader(platform::Grid& grid, const std::string& column_key) = 0;

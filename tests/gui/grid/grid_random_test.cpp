@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <random>
 #include <set>
 
@@ -14,7 +15,8 @@ class GridRandomTest : public GridTest, public ::testing::WithParamInterface<uns
   void Step(std::mt19937& random) {
     const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
     const auto column = static_cast<std::int16_t>(1 + below(4));
-    switch (below(14)) {
+    action_ = below(15);
+    switch (action_) {
       case 0: {
         std::vector<Row> rows;
         for (int i = below(60); i > 0; --i)
@@ -64,6 +66,9 @@ class GridRandomTest : public GridTest, public ::testing::WithParamInterface<uns
       case 12:
         (void)grid_->RestoreLayout(grid_->SaveLayout());
         break;
+      case 13:
+        grid_->SetMarksRowRanges(below(2) == 0);
+        break;
       default: {
         const Qt::Key keys[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_Left,     Qt::Key_Right,
                                 Qt::Key_Home, Qt::Key_End,  Qt::Key_PageDown, Qt::Key_Minus,
@@ -73,6 +78,8 @@ class GridRandomTest : public GridTest, public ::testing::WithParamInterface<uns
       }
     }
   }
+
+  int action_ = 0;
 
   void ExpectSound() {
     ASSERT_EQ(Model().rowCount(), grid_->RowCount());
@@ -85,10 +92,14 @@ class GridRandomTest : public GridTest, public ::testing::WithParamInterface<uns
     const auto selected = grid_->SelectedRows();
     for (const std::int32_t row : selected) ASSERT_NE(grid_->RowBookmark(row), 0);
     ASSERT_EQ(std::set<std::int32_t>(selected.begin(), selected.end()).size(), selected.size());
-    if (!grid_->MultiSelect()) return;
-    for (const std::int32_t row : selected) {
+    if (grid_->CurrentRow() > 0)
+      ASSERT_TRUE(View().selectionModel()->hasSelection()) << "nothing is seen as chosen";
+    const auto marked = grid_->MarkedRows();
+    ASSERT_TRUE(std::is_sorted(marked.begin(), marked.end()));
+    for (const std::int32_t row : marked) {
       ASSERT_TRUE(View().selectionModel()->isSelected(Model().index(row - 1, 0))) << "row " << row;
     }
+    if (grid_->MultiSelect()) ASSERT_EQ(selected.size(), marked.size());
   }
 };
 
@@ -96,8 +107,8 @@ TEST_P(GridRandomTest, StaysSoundWhateverIsDoneToIt) {
   std::mt19937 random(GetParam());
   grid_->SetGroupByBoxVisible(true);
   for (int step = 0; step < 250; ++step) {
-    SCOPED_TRACE("step " + std::to_string(step));
     Step(random);
+    SCOPED_TRACE("step " + std::to_string(step) + ", action " + std::to_string(action_));
     if (step % 10 == 0) View().grab();
     ExpectSound();
     if (HasFatalFailure()) return;

@@ -284,5 +284,41 @@ TEST_F(DayGridTest, CopiesTheCurrentRowWithTheHeaders) {
               StartsWith(Shown(Date(2028, 1, 2)) + "\tWorking day"));
 }
 
+TEST_F(DayGridTest, CopiesTheDaysMarkedWithTheShiftKey) {
+  WalkToRow(Days(), 13);
+  Press(Days(), Qt::Key_Down, Qt::ShiftModifier, 2);
+  ClickTool(Window(), "ID_Copy");
+  const auto first_cells = [] {
+    std::vector<std::string> cells;
+    for (const QString& line : QApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+      cells.push_back(line.section(QLatin1Char('\t'), 0, 0).toStdString());
+    return cells;
+  };
+  const auto three_days =
+      ElementsAre("Date", Shown(Date(2028, 1, 14)), Shown(Date(2028, 1, 15)), Shown(Date(2028, 1, 16)));
+  EXPECT_THAT(first_cells(), three_days);
+  QApplication::clipboard()->clear();
+  QTest::keySequence(&Days(), QKeySequence::Copy);
+  EXPECT_THAT(first_cells(), three_days);
+}
+
+TEST_F(DayGridTest, ExceptsTheCurrentDayAloneOfTheMarkedOnes) {
+  WalkToRow(Days(), 13);
+  Press(Days(), Qt::Key_Down, Qt::ShiftModifier, 8);
+  PickForDay(14, "ID_Except");
+  EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldDay WHERE ID1 = 840 AND Year1 = 2028 AND ID2 = 1"), "2");
+  EXPECT_EQ(CellText(Days(), 14, "Holiday name"), "Working day by exception");
+  EXPECT_EQ(Days().selectionModel()->selectedRows().size(), 1) << "the refill leaves the current day chosen";
+}
+
+TEST_F(DayGridTest, GroupsByTheNamesOfTheMonthsInTheirOrder) {
+  GroupBy("Month name");
+  ClickTool(Window(), "ID_CollapseGrid");
+  ASSERT_EQ(RowsOf(Days()), 12);
+  EXPECT_EQ(GroupText(0), "Month name: January (31)");
+  EXPECT_EQ(GroupText(1), "Month name: February (29)");
+  EXPECT_EQ(GroupText(11), "Month name: December (31)");
+}
+
 }  // namespace
 }  // namespace ferrowind::gui

@@ -333,6 +333,46 @@ TEST_F(HolidaysWindowTest, AssignsAllSelectedRulesToTheCalendar) {
   EXPECT_TRUE(desk_.IsDatabaseSound());
 }
 
+TEST_F(HolidaysWindowTest, AssignsRulesFarApartThatWereChosenByKeyboardAlone) {
+  ForCalendar([](QWidget& holidays) {
+    auto& rules = GridIn(holidays);
+    WalkToRule(holidays, "Saturday");
+    const int steps = RowOf(rules, "Name", "Christmas Day") - rules.currentIndex().row();
+    Press(rules, steps > 0 ? Qt::Key_Down : Qt::Key_Up, Qt::ControlModifier, std::abs(steps));
+    Press(rules, Qt::Key_Space);
+    ClickButton(holidays, kAssign);
+  });
+  EXPECT_EQ(Day(1), "2|Saturday");
+  EXPECT_EQ(Day(360), "3|Christmas Day");
+  EXPECT_EQ(Day(105), "1|-") << "Good Friday is between them";
+}
+
+TEST_F(HolidaysWindowTest, RemovesTheRulesThatAreChosenAndNotTheCurrentOneBesideThem) {
+  ForCalendar([this](QWidget& holidays) {
+    auto& rules = GridIn(holidays);
+    WalkToRule(holidays, "Good Friday");
+    Press(rules, Qt::Key_Up, Qt::ControlModifier, 2);
+    const std::string current = CellText(rules, rules.currentIndex().row(), "Name");
+    AnswerQuestion("Are you sure ?", "Ok");
+    ClickButton(holidays, kRemove);
+    EXPECT_FALSE(IsListed(holidays, "Good Friday"));
+    EXPECT_TRUE(IsListed(holidays, current)) << current;
+  });
+}
+
+TEST_F(HolidaysWindowTest, RemovesTheRuleThatCtrlEndGoesTo) {
+  ForCalendar([this](QWidget& holidays) {
+    auto& rules = GridIn(holidays);
+    WalkToRule(holidays, "Saturday");
+    Press(rules, Qt::Key_End, Qt::ControlModifier);
+    const std::string last = CellText(rules, RowsOf(rules) - 1, "Name");
+    AnswerQuestion("Are you sure ?", "Ok");
+    ClickButton(holidays, kRemove);
+    EXPECT_FALSE(IsListed(holidays, last)) << last;
+    EXPECT_TRUE(IsListed(holidays, "Saturday"));
+  });
+}
+
 TEST_F(HolidaysWindowTest, AssignsTheTwentyNinthOfFebruaryToACommonYear) {
   desk_.Call("CldIUCelebrate",
              {"Leap day", "", 3, {}, platform::Date(2028, 2, 29), std::int16_t{2}, std::int16_t{29}, {}, {}});

@@ -1,11 +1,12 @@
 #include "ferrowind/adapters/qt/controls/tree_view.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <utility>
 
 #include "ferrowind/adapters/qt/look/flat_scroll_bar.h"
+#include "ferrowind/adapters/qt/look/text_tip.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -92,6 +93,18 @@ void TreeView::SelectNode(const QModelIndex& index) {
 void TreeView::SetNodeExpanded(const QModelIndex& index, bool is_expanded) {
   const Work work(*this);
   setExpanded(index, is_expanded);
+}
+
+bool TreeView::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
+  const auto& help = *static_cast<QHelpEvent*>(event);
+  const QModelIndex node = indexAt(help.pos());
+  // A node that tells more than its text does so cut or not.
+  if (node.data(Qt::ToolTipRole).isValid()) return QTreeView::viewportEvent(event);
+  const QRect area = visualRect(node);
+  const bool is_cut = node.isValid() && sizeHintForIndex(node).width() > area.width();
+  ShowTextTip(help, *viewport(), area, is_cut ? node.data(Qt::DisplayRole).toString() : QString());
+  return true;
 }
 
 void TreeView::keyPressEvent(QKeyEvent* event) {

@@ -29,6 +29,7 @@ class TreeView : public QTreeView {
   void Toggled(const QModelIndex& index, bool is_expanded);
 
  protected:
+  bool viewportEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

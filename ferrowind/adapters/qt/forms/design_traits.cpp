@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/qt/controls/captioned.h"
 #include "ferrowind/adapters/qt/controls/select_on_focus.h"
 #include "ferrowind/adapters/qt/forms/dialog_keys.h"
+#include "ferrowind/adapters/qt/grid/qt_grid.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/toolkit/button.h"
 #include "ferrowind/platform/toolkit/label.h"
@@ -74,6 +75,8 @@ void ApplyDesign(FormWindow& window, const platform::FormDesign& design, const F
     ApplyText(window, design.controls[i].text, *controls[i]);
     ApplyButtonRole(window, design.controls[i]);
     ApplyTyping(window, design.controls[i]);
+    if (auto* grid = dynamic_cast<QtGrid*>(controls[i].get()))
+      grid->SetMarksRowRanges(design.controls[i].marks_row_ranges);
   }
   ApplyMnemonics(controls);
   ApplyTabOrder(window, controls);

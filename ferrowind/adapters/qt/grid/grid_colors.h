@@ -18,8 +18,11 @@ struct GridColors {
   QColor muted;
   QColor line;
   QColor accent;
+  /// The ground of selected rows, and of the current one among them.
   QColor selected;
   QColor current;
+  /// The frame around the current row, readable on all grounds of rows.
+  QColor current_frame;
   QColor group;
   QColor header;
   QColor header_pressed;

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 
 #include "ferrowind/adapters/qt/grid/grid_view.h"
+#include "ferrowind/adapters/qt/look/text_tip.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
 namespace ferrowind::qt {
@@ -97,6 +99,32 @@ void GridHeader::SetKeptWidth(int column, int width) {
 // Not the base's, which measures every caption.
 QSize GridHeader::sizeHint() const { return {length(), fontMetrics().height() + kHeightPadding}; }
 
+bool GridHeader::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || model() == nullptr) return QHeaderView::viewportEvent(event);
+  const auto& help = *static_cast<QHelpEvent*>(event);
+  const int column = logicalIndexAt(help.pos());
+  QString cut;
+  QRect area;
+  if (column >= 0) {
+    area = QRect(sectionViewportPosition(column), 0, sectionSize(column), height());
+    const QString caption = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int room = area.width() - 2 * kPadding - SortMarkWidth(column);
+    if (fontMetrics().horizontalAdvance(caption) > room) cut = caption;
+  }
+  ShowTextTip(help, *viewport(), area, cut);
+  return true;
+}
+
+int GridHeader::SortMarkWidth(int column) const {
+  const GridModel* grid = view_->Model();
+  const auto index = static_cast<std::int16_t>(column + 1);
+  if (grid == nullptr || grid->Content().SortKeys().OrderOf(index) == platform::kSortNone) return 0;
+  const auto [place, count] = PlaceInSort(grid->Content(), index);
+  if (count <= 1) return kSortMarkSpace;
+  return kSortMarkSpace + QFontMetrics(SmallFont(font())).horizontalAdvance(QString::number(place)) +
+         kNumberGap;
+}
+
 // Painting
 
 void GridHeader::paintEvent(QPaintEvent* event) {
@@ -132,14 +160,13 @@ void GridHeader::paintSection(QPainter* painter, const QRect& area, int column) 
     const QRectF mark(text_area.right() - kSortMarkSize, text_area.center().y() - kSortMarkSize / 2.0 + 0.5,
                       kSortMarkSize, kSortMarkSize);
     PaintTriangle(*painter, mark, order > 0 ? Pointing::kUp : Pointing::kDown, colors.accent);
-    text_area.setRight(text_area.right() - kSortMarkSpace);
     if (const auto [place, count] = PlaceInSort(content, index); count > 1) {
-      const QString number = QString::number(place);
       painter->setFont(SmallFont(font()));
       painter->setPen(colors.muted);
-      painter->drawText(text_area, Qt::AlignRight | Qt::AlignVCenter, number);
-      text_area.setRight(text_area.right() - painter->fontMetrics().horizontalAdvance(number) - kNumberGap);
+      painter->drawText(text_area.adjusted(0, 0, -kSortMarkSpace, 0), Qt::AlignRight | Qt::AlignVCenter,
+                        QString::number(place));
     }
+    text_area.setRight(text_area.right() - SortMarkWidth(column));
   }
   painter->setFont(font());
   painter->setPen(isEnabled() ? palette().color(QPalette::ButtonText) : colors.muted);

@@ -45,6 +45,7 @@ class GridHeader final : public QHeaderView, public ColumnDropTarget {
   void ChipDropped(int group_position);
 
  protected:
+  bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void paintSection(QPainter* painter, const QRect& area, int column) const override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -54,6 +55,8 @@ class GridHeader final : public QHeaderView, public ColumnDropTarget {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  /// The room that a section's sort mark and its number take.
+  [[nodiscard]] int SortMarkWidth(int column) const;
   [[nodiscard]] bool IsOnResizeHandle(int x) const;
   void PressSection(const QMouseEvent& event);
   /// The place before which a column dropped at `x` goes, 0 to `count()`.

@@ -1,15 +1,15 @@
 #include "ferrowind/adapters/qt/grid/grid_view.h"
 
-#include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <limits>
 
 #include "ferrowind/adapters/qt/grid/grid_header.h"
 #include "ferrowind/adapters/qt/look/flat_scroll_bar.h"
+#include "ferrowind/adapters/qt/look/text_tip.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
 namespace ferrowind::qt {
@@ -25,8 +25,6 @@ constexpr int kWidestFit = 300;
 constexpr int kCellMargins = 17;
 /// Rows that a fitting column width takes into account.
 constexpr int kRowsMeasured = 500;
-
-bool IsMove(int key) { return (key >= Qt::Key_Home && key <= Qt::Key_PageDown) || key == Qt::Key_Escape; }
 
 }  // namespace
 
@@ -61,28 +59,80 @@ void GridView::changeEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::StyleChange:
       UpdateFont();
-      colors_ = GridColors(palette());
+      UpdateColors();
       break;
     case QEvent::FontChange:
       UpdateFont();
       break;
     case QEvent::PaletteChange:
     case QEvent::EnabledChange:
-    case QEvent::ActivationChange:
-      colors_ = GridColors(palette());
-      viewport()->update();
+      UpdateColors();
       break;
     default:
       break;
   }
 }
 
-void GridView::focusInEvent(QFocusEvent* event) {
-  const bool had_row = currentIndex().isValid();
-  UniformTableView::focusInEvent(event);
-  // The base makes the first row current without selecting it, so that a command on the selection would find
-  // none.
-  if (!had_row && currentIndex().isValid()) SetCurrentRow(currentIndex().row());
+bool GridView::event(QEvent* event) {
+  const bool handled = UniformTableView::event(event);
+  // Told to each widget of a window, whereas the change of activation is told to the window alone.
+  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) UpdateColors();
+  return handled;
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return UniformTableView::viewportEvent(event);
+  ShowCutText(*static_cast<QHelpEvent*>(event));
+  return true;
+}
+
+void GridView::ShowCutText(const QHelpEvent& event) {
+  const int row = RowAt(event.pos().y());
+  const int column = columnAt(event.pos().x());
+  QString cut;
+  QRect area = row < 0 ? QRect() : RowArea(row);
+  if (row >= 0) {
+    const RowPainter rows(model_->Content(), colors_, texts_);
+    const VisibleRow shown = model_->Content().Rows().RowAt(static_cast<std::uint32_t>(row));
+    if (shown.is_group) {
+      cut = rows.CutText(shown.group, area.width());
+    } else if (column >= 0) {
+      area = visualRect(model_->index(row, column));
+      cut = rows.CutText(model_->Content().Rows().RecordAt(shown.position),
+                         static_cast<std::int16_t>(column + 1), area.width());
+    }
+  }
+  ShowTextTip(event, *viewport(), area, cut);
+}
+
+void GridView::UpdateColors() {
+  colors_ = GridColors(palette());
+  viewport()->update();
+  header_->viewport()->update();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  UniformTableView::focusOutEvent(event);
+  // The keyboard may leave for a command, and what that acts on must be seen. A single current row is left
+  // alone: who scrolled away from it wants to read there.
+  if (selectionMode() == ExtendedSelection && event->reason() != Qt::PopupFocusReason) ShowSelection();
+}
+
+void GridView::ShowSelection() {
+  if (model_ == nullptr) return;
+  const int first_row = FirstRow();
+  const int last_row = first_row + RowsPerPage() - 1;
+  int nearest_top = first_row;
+  int least_distance = std::numeric_limits<int>::max();
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    if (range.top() <= last_row && range.bottom() >= first_row) return;
+    const bool is_above = range.bottom() < first_row;
+    const int distance = is_above ? first_row - range.bottom() : range.top() - last_row;
+    if (distance >= least_distance) continue;
+    least_distance = distance;
+    nearest_top = is_above ? range.bottom() : range.top() - RowsPerPage() + 1;
+  }
+  verticalScrollBar()->setValue(nearest_top);
 }
 
 // Rows and columns
@@ -106,14 +156,15 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void GridView::SetCurrentRow(int row) {
   if (model_ == nullptr) return;
   if (row < 0) {
+    setCurrentIndex(QModelIndex());
     selectionModel()->clear();
     return;
   }
   const int kept_column = current_column_;
   int column = std::max(current_column_ - 1, 0);
   if (current_column_ == 0 && header_->count() > 0) column = std::max(header_->FirstVisibleColumn(), 0);
-  selectionModel()->setCurrentIndex(model_->index(row, column),
-                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  // The view's own, which lets the next range begin here.
+  setCurrentIndex(model_->index(row, column));
   current_column_ = kept_column;
 }
 
@@ -222,7 +273,6 @@ void GridView::paintEvent(QPaintEvent* event) {
     state.is_selected = selectionModel()->isSelected(model_->index(row, 0));
     state.is_current = current.isValid() && current.row() == row;
     state.is_odd = row % 2 != 0;
-    if (state.is_current && hasFocus()) state.focus_column = static_cast<std::int16_t>(current.column() + 1);
     const VisibleRow shown = model_->Content().Rows().RowAt(static_cast<std::uint32_t>(row));
     if (shown.is_group) {
       finish_records(row_area.top());
@@ -233,140 +283,13 @@ void GridView::paintEvent(QPaintEvent* event) {
     }
   }
   finish_records(TopOf(row));
-}
-
-// The operator
-
-void GridView::mousePressEvent(QMouseEvent* event) {
-  const int row = RowAt(event->pos().y());
-  if (const auto group = GroupInRow(row); group && event->button() == Qt::LeftButton) {
-    const QRect expander = RowPainter::ExpanderArea(RowArea(row), group->level, layoutDirection());
-    if (expander.contains(event->pos())) {
-      setFocus(Qt::MouseFocusReason);
-      SetExpanded(*group, !model_->Content().Rows().Groups().IsExpanded(*group));
-      event->accept();
-      return;
-    }
+  if (!current.isValid()) return;
+  if (GroupInRow(current.row())) {
+    rows.PaintCurrentGroupMark(painter, RowArea(current.row()), hasFocus());
+  } else {
+    rows.PaintCurrentMark(painter, RowArea(current.row()), columns,
+                          static_cast<std::int16_t>(hasFocus() ? current.column() + 1 : 0));
   }
-  UniformTableView::mousePressEvent(event);
-}
-
-void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
-  const int row = RowAt(event->pos().y());
-  const auto group = GroupInRow(row);
-  if (group && event->button() == Qt::LeftButton) {
-    SetExpanded(*group, !model_->Content().Rows().Groups().IsExpanded(*group));
-    return;
-  }
-  UniformTableView::mouseDoubleClickEvent(event);
-}
-
-void GridView::mouseReleaseEvent(QMouseEvent* event) {
-  UniformTableView::mouseReleaseEvent(event);
-  // Last, since who listens may open a menu and close the window from it.
-  if (RowAt(event->pos().y()) >= 0) emit MouseReleased(event->button());
-}
-
-void GridView::contextMenuEvent(QContextMenuEvent* event) {
-  event->accept();
-  if (event->reason() == QContextMenuEvent::Keyboard) AskForMenuOfCurrentRow();
-}
-
-void GridView::AskForMenuOfCurrentRow() {
-  if (currentIndex().isValid()) emit MouseReleased(Qt::RightButton);
-}
-
-void GridView::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) {
-    emit CopyAsked();
-    return;
-  }
-  if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier)) {
-    emit HeaderMenuAsked(std::max(CurrentColumn() - 1, 0));
-    return;
-  }
-  // For keyboards without a menu key.
-  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-    AskForMenuOfCurrentRow();
-    return;
-  }
-  // The key ends the search first; the window may stand for it the next time.
-  const bool ends_search = event->key() == Qt::Key_Escape && type_ahead_.IsUnderWay();
-  if (IsMove(event->key())) type_ahead_.Forget();
-  if (ends_search) return;
-  if (!type_ahead_.IsUnderWay() && HandleGroupKey(event)) return;
-  UniformTableView::keyPressEvent(event);
-}
-
-bool GridView::HandleGroupKey(QKeyEvent* event) {
-  const int row = currentIndex().row();
-  const auto group = GroupInRow(row);
-  const bool is_plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-  const bool is_mirrored = layoutDirection() == Qt::RightToLeft;
-  int key = event->key();
-  if (is_mirrored && key == Qt::Key_Left) {
-    key = Qt::Key_Right;
-  } else if (is_mirrored && key == Qt::Key_Right) {
-    key = Qt::Key_Left;
-  }
-  if (!group) {
-    if (!is_plain || key != Qt::Key_Left || row < 0) return false;
-    const auto& groups = model_->Content().Rows().Groups();
-    if (groups.LevelCount() == 0 ||
-        header_->visualIndex(currentIndex().column()) > header_->FirstVisibleVisual()) {
-      return false;
-    }
-    // At the first column there is nothing further left than the group.
-    const VisibleRow shown = model_->Content().Rows().RowAt(static_cast<std::uint32_t>(row));
-    const GroupId around = groups.GroupOfPosition(shown.position, groups.LevelCount() - 1);
-    if (const auto group_row = groups.RowOf(around)) SetCurrentRow(static_cast<int>(*group_row));
-    return true;
-  }
-  const auto& groups = model_->Content().Rows().Groups();
-  const bool is_expanded = groups.IsExpanded(*group);
-  switch (key) {
-    case Qt::Key_Left:
-      if (!is_plain) return false;
-      if (is_expanded) {
-        SetExpanded(*group, false);
-      } else if (group->level > 0) {
-        if (const auto parent = groups.RowOf(groups.ParentOf(*group)))
-          SetCurrentRow(static_cast<int>(*parent));
-      }
-      return true;
-    case Qt::Key_Right:
-      if (!is_plain) return false;
-      if (is_expanded) {
-        SetCurrentRow(row + 1);
-      } else {
-        SetExpanded(*group, true);
-      }
-      return true;
-    case Qt::Key_Minus:
-      SetExpanded(*group, false);
-      return true;
-    case Qt::Key_Plus:
-      SetExpanded(*group, true);
-      return true;
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (!is_plain) return false;
-      SetExpanded(*group, !is_expanded);
-      return true;
-    default:
-      return false;
-  }
-}
-
-void GridView::keyboardSearch(const QString& text) {
-  if (model_ == nullptr || model_->rowCount() == 0) return;
-  int column = CurrentColumn() - 1;
-  if (column < 0) column = header_->FirstVisibleColumn();
-  if (column < 0) return;
-  const auto row = type_ahead_.Search(text, model_->Content(), static_cast<std::int16_t>(column + 1),
-                                      currentIndex().isValid() ? currentIndex().row() : -1);
-  if (row) SetCurrentRow(*row);
 }
 
 }  // namespace ferrowind::qt

@@ -56,14 +56,22 @@ class GridView final : public UniformTableView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   int sizeHintForColumn(int column) const override;
 
  private:
+  void ShowCutText(const QHelpEvent& event);
   void UpdateFont();
+  void UpdateColors();
+  /// Space by itself or with Ctrl, outside of a text that is being typed.
+  void ToggleCurrentRow();
+  /// Scrolls to a selected row where none is on show.
+  void ShowSelection();
   void ApplyPendingFirstRow();
   [[nodiscard]] std::optional<grid_engine::GroupId> GroupInRow(int row) const;
   [[nodiscard]] QRect RowArea(int row) const;

@@ -44,6 +44,8 @@ QtGrid::QtGrid(GridWidget& widget)
       context_(std::make_unique<QObject>()),
       model_(new GridModel(content_, context_.get())) {
   view_.setModel(model_);
+  // The table has the focus, so it is the one that is read out.
+  view_.setAccessibleName(widget.accessibleName());
   selection_ = new SelectionOrder(*view_.selectionModel(), context_.get());
   ConnectView();
   ConnectGroupBox();
@@ -198,10 +200,17 @@ Value QtGrid::CellValue(std::int32_t row, const std::string& column_key) const {
 
 bool QtGrid::MultiSelect() const { return view_.selectionMode() == QAbstractItemView::ExtendedSelection; }
 
-void QtGrid::SetMultiSelect(bool multi_select) {
-  if (multi_select == MultiSelect()) return;
-  view_.setSelectionMode(multi_select ? QAbstractItemView::ExtendedSelection
-                                      : QAbstractItemView::SingleSelection);
+void QtGrid::SetMultiSelect(bool multi_select) { SetSelectionMode(multi_select, marks_row_ranges_); }
+
+void QtGrid::SetMarksRowRanges(bool marks_row_ranges) { SetSelectionMode(MultiSelect(), marks_row_ranges); }
+
+void QtGrid::SetSelectionMode(bool multi_select, bool marks_row_ranges) {
+  marks_row_ranges_ = marks_row_ranges;
+  const auto mode_without =
+      marks_row_ranges ? QAbstractItemView::ContiguousSelection : QAbstractItemView::SingleSelection;
+  const auto mode = multi_select ? QAbstractItemView::ExtendedSelection : mode_without;
+  if (mode == view_.selectionMode()) return;
+  view_.setSelectionMode(mode);
   if (!multi_select && CurrentRow() > 0) view_.SetCurrentRow(CurrentRow() - 1);
 }
 
@@ -216,6 +225,14 @@ std::vector<std::int32_t> QtGrid::SelectedRows() const {
   }
   for (const SelectionOrder::Range& range : selection_->Ranges()) {
     for (int row = range.first; row <= range.last; ++row) add_record(row);
+  }
+  return rows;
+}
+
+std::vector<std::int32_t> QtGrid::MarkedRows() const {
+  std::vector<std::int32_t> rows;
+  for (const int row : MarkedViewRows()) {
+    if (content_.RecordInRow(static_cast<std::uint32_t>(row))) rows.push_back(row + 1);
   }
   return rows;
 }
@@ -252,19 +269,15 @@ void QtGrid::CollapseAllGroups() {
 
 void QtGrid::ExpandSelection() {
   std::vector<grid_engine::GroupId> groups;
-  for (const int row : RowsSelectedFromTop()) {
+  for (const int row : MarkedViewRows()) {
     const auto shown = content_.Rows().RowAt(static_cast<std::uint32_t>(row));
     if (shown.is_group) groups.push_back(shown.group);
   }
   RearrangeRows([&] { content_.Rows().ExpandAround(groups); });
 }
 
-std::vector<int> QtGrid::RowsSelectedFromTop() const {
+std::vector<int> QtGrid::MarkedViewRows() const {
   std::vector<int> rows;
-  if (!MultiSelect()) {
-    if (CurrentRow() > 0) rows.push_back(CurrentRow() - 1);
-    return rows;
-  }
   for (const SelectionOrder::Range& range : selection_->Ranges()) {
     for (int row = range.first; row <= range.last; ++row) rows.push_back(row);
   }

@@ -59,6 +59,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   [[nodiscard]] bool MultiSelect() const override;
   void SetMultiSelect(bool multi_select) override;
   [[nodiscard]] std::vector<std::int32_t> SelectedRows() const override;
+  [[nodiscard]] std::vector<std::int32_t> MarkedRows() const override;
   [[nodiscard]] std::int32_t FormatCount() const override;
   void AddFormat(const platform::GridFormat& format) override;
   [[nodiscard]] bool GroupByBoxVisible() const override;
@@ -77,6 +78,9 @@ class QtGrid final : public QtControl<platform::Grid> {
   [[nodiscard]] platform::Subscription OnMouseUp(std::function<void(std::int32_t button)> handler) override;
   [[nodiscard]] platform::Subscription OnCurrentRowChange(std::function<void()> handler) override;
 
+  /// Whether the operator can mark a range of rows while there is no multiple selection; false at first.
+  void SetMarksRowRanges(bool marks_row_ranges);
+
   // For the shared services
 
   /// Order, widths and visibility of the columns and the keys, as text; empty for a grid without columns.
@@ -87,12 +91,13 @@ class QtGrid final : public QtControl<platform::Grid> {
   bool RestoreLayout(const std::string& layout);
   /// The settings sections whose layouts this grid has loaded or stored.
   [[nodiscard]] std::set<std::string>& LayoutSections() { return layout_sections_; }
-  /// Puts the selected rows on the clipboard, from top to bottom, or all rows when none is selected.
+  /// Puts the marked rows on the clipboard, or all rows when none is marked.
   void CopyRows(bool with_headers) const;
 
  private:
   void ConnectView();
   void ConnectGroupBox();
+  void SetSelectionMode(bool multi_select, bool marks_row_ranges);
   void KeepRowsDuring(const std::function<void()>& change);
   void RearrangeRows(const std::function<void()>& change);
   void ShowKeys();
@@ -102,7 +107,8 @@ class QtGrid final : public QtControl<platform::Grid> {
   void RefreshAfterGroupChange();
   void ShowHeaderMenu(int column, const QPoint& global);
   void RequireRow(std::int32_t row) const;
-  [[nodiscard]] std::vector<int> RowsSelectedFromTop() const;
+  /// The rows painted as chosen, from the top, groups among them. Rows count from 0.
+  [[nodiscard]] std::vector<int> MarkedViewRows() const;
 
   /// Tells whether the grid is still there after handlers have run.
   std::shared_ptr<int> alive_ = std::make_shared<int>(0);
@@ -121,6 +127,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   bool widths_are_due_ = true;
   RowIdentity current_;
   bool keeps_rows_ = false;
+  bool marks_row_ranges_ = false;
   std::set<std::string> layout_sections_;
   /// Keys have changed since the rows were arranged.
   bool is_stale_ = false;

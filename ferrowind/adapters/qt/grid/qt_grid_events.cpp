@@ -174,7 +174,7 @@ void QtGrid::CopyRows(bool with_headers) const {
     const int column = header_.logicalIndex(visual);
     if (!header_.isSectionHidden(column)) columns.push_back(IndexOf(column));
   }
-  std::vector<int> rows = RowsSelectedFromTop();
+  std::vector<int> rows = MarkedViewRows();
   if (rows.empty()) {
     for (int row = 0; row < model_->rowCount(); ++row) rows.push_back(row);
   }

@@ -41,7 +41,8 @@ void RowKeeper::PutBack(GridView& view, SelectionOrder& selection) const {
       const auto row = content.RowShowing(identity);
       if (row && content.IdentityOf(*row) == identity) rows.push_back(static_cast<int>(*row));
     }
-    selection.Select(rows);
+    // Else what is selected is the current row.
+    if (!rows.empty()) selection.Select(rows);
   }
   const auto first = content.RowShowing(first_visible_);
   view.SetFirstVisibleRow(first && !first_row_was_on_top_ ? static_cast<int>(*first) : 0);

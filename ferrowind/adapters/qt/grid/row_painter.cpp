@@ -48,9 +48,15 @@ void PaintTriangle(QPainter& painter, const QRectF& area, Pointing pointing, con
   painter.restore();
 }
 
+unsigned char RowPainter::StyleOf(const RowLook& look) {
+  unsigned char style = TextCache::kPlain;
+  if (look.is_bold) style |= TextCache::kBold;
+  if (look.is_struck_through) style |= TextCache::kStruckThrough;
+  return style;
+}
+
 QColor RowPainter::GroundOf(const RowState& state) const {
-  if (state.is_current) return colors_.current;
-  if (state.is_selected) return colors_.selected;
+  if (state.is_selected) return state.is_current ? colors_.current : colors_.selected;
   return state.is_odd ? colors_.alternate : colors_.base;
 }
 
@@ -59,15 +65,12 @@ void RowPainter::PaintRecord(QPainter& painter, const QRect& row, const std::vec
   const QColor ground = GroundOf(state);
   painter.fillRect(row, ground);
   const RowLook look = content_.LookOf(record);
-  unsigned char style = TextCache::kPlain;
-  if (look.is_bold) style |= TextCache::kBold;
-  if (look.is_struck_through) style |= TextCache::kStruckThrough;
+  const unsigned char style = StyleOf(look);
   QColor text = colors_.text;
   if (look.fore_color) {
     const QColor given(look.fore_color->red, look.fore_color->green, look.fore_color->blue);
     // Rows of both shades show the same colour: the one that is readable on the worse of them.
-    const bool is_marked = state.is_current || state.is_selected;
-    text = colors_.is_enabled ? ReadableOn(is_marked ? ground : colors_.alternate, given)
+    text = colors_.is_enabled ? ReadableOn(state.is_selected ? ground : colors_.alternate, given)
                               : Blend(ground, given, kDisabledStrength);
   }
   painter.setPen(text);
@@ -76,11 +79,27 @@ void RowPainter::PaintRecord(QPainter& painter, const QRect& row, const std::vec
     PaintCell(painter, cell.adjusted(kCellPadding, 0, -kCellPadding, -1), column.index, record, style);
   }
   painter.fillRect(QRect(row.left(), row.bottom(), row.width(), 1), colors_.line);
+}
+
+void RowPainter::PaintCurrentMark(QPainter& painter, const QRect& row,
+                                  const std::vector<ShownColumn>& columns, std::int16_t focus_column) const {
+  PaintFrame(painter, row, 1);
   for (const ShownColumn& column : columns) {
-    if (column.index != state.focus_column) continue;
-    painter.setPen(colors_.accent);
-    painter.drawRect(QRect(column.left, row.top(), column.width - 2, row.height() - 2));
+    if (column.index == focus_column)
+      PaintFrame(painter, QRect(column.left, row.top(), column.width, row.height()), 2);
   }
+}
+
+void RowPainter::PaintCurrentGroupMark(QPainter& painter, const QRect& row, bool has_focus) const {
+  PaintFrame(painter, row, has_focus ? 2 : 1);
+}
+
+void RowPainter::PaintFrame(QPainter& painter, const QRect& area, int width) const {
+  const QColor& color = colors_.current_frame;
+  painter.fillRect(QRect(area.left(), area.top(), area.width(), width), color);
+  painter.fillRect(QRect(area.left(), area.bottom() + 1 - width, area.width(), width), color);
+  painter.fillRect(QRect(area.left(), area.top(), width, area.height()), color);
+  painter.fillRect(QRect(area.right() + 1 - width, area.top(), width, area.height()), color);
 }
 
 void RowPainter::PaintColumnLines(QPainter& painter, const std::vector<ShownColumn>& columns, int top,
@@ -98,7 +117,7 @@ void RowPainter::PaintCell(QPainter& painter, const QRect& cell, std::int16_t co
 }
 
 void RowPainter::PaintGroup(QPainter& painter, const QRect& row, GroupId group, const RowState& state) const {
-  painter.fillRect(row, state.is_current || state.is_selected ? GroundOf(state) : colors_.group);
+  painter.fillRect(row, state.is_selected ? GroundOf(state) : colors_.group);
   painter.fillRect(QRect(row.left(), row.bottom(), row.width(), 1), colors_.line);
   const bool is_expanded = content_.Rows().Groups().IsExpanded(group);
   const QRect expander = ExpanderArea(row, group.level, painter.layoutDirection());
@@ -129,10 +148,21 @@ void RowPainter::PaintGroup(QPainter& painter, const QRect& row, GroupId group, 
   draw(label.value, colors_.text, TextCache::kBold);
   draw(QLatin1Char('(') + QString::number(label.record_count) + QLatin1Char(')'), colors_.muted,
        TextCache::kPlain);
-  if (state.focus_column != 0) {
-    painter.setPen(colors_.accent);
-    painter.drawRect(row.adjusted(0, 0, -1, -2));
-  }
+}
+
+QString RowPainter::CutText(Record record, std::int16_t column, int width) const {
+  const QString text = content_.Cells().ShownText(column, record);
+  const int room = width - 2 * kCellPadding;
+  return texts_.WidthOf(text, StyleOf(content_.LookOf(record))) > room ? text : QString();
+}
+
+QString RowPainter::CutText(GroupId group, int width) const {
+  const GroupLabel label = content_.LabelOf(group);
+  const QString caption = label.caption + QLatin1Char(':');
+  const QString count = QLatin1Char('(') + QString::number(label.record_count) + QLatin1Char(')');
+  const int needed = static_cast<int>(group.level) * kGroupIndent + kExpanderWidth + texts_.WidthOf(caption) +
+                     texts_.WidthOf(label.value, TextCache::kBold) + texts_.WidthOf(count) + 2 * kGroupGap;
+  return needed > width ? caption + QLatin1Char(' ') + label.value + QLatin1Char(' ') + count : QString();
 }
 
 QRect RowPainter::ExpanderArea(const QRect& row, std::uint32_t level, Qt::LayoutDirection direction) {

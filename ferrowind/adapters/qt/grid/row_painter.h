@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <QString>
 #include <vector>
 
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
@@ -22,8 +23,6 @@ struct RowState {
   bool is_selected = false;
   bool is_current = false;
   bool is_odd = false;
-  /// The index of the column of the cell that the keyboard acts on; 0 without the focus.
-  std::int16_t focus_column = 0;
 };
 
 /// Paints the rows of a grid into its viewport.
@@ -45,12 +44,25 @@ class RowPainter {
   void PaintGroup(QPainter& painter, const QRect& row, grid_engine::GroupId group,
                   const RowState& state) const;
 
+  /// The frame that tells the current row, over all that is painted of it. `focus_column` is the index of the
+  /// column of the cell that the keyboard acts on, 0 without the focus.
+  void PaintCurrentMark(QPainter& painter, const QRect& row, const std::vector<ShownColumn>& columns,
+                        std::int16_t focus_column) const;
+  void PaintCurrentGroupMark(QPainter& painter, const QRect& row, bool has_focus) const;
+
+  /// What stands in the record's cell, or in the group's row, when that cuts it; else nothing. `width` is
+  /// that of the column or the row.
+  [[nodiscard]] QString CutText(grid_engine::Record record, std::int16_t column, int width) const;
+  [[nodiscard]] QString CutText(grid_engine::GroupId group, int width) const;
+
   /// The area of the mark that expands and collapses the group, in a row at `row`.
   [[nodiscard]] static QRect ExpanderArea(const QRect& row, std::uint32_t level,
                                           Qt::LayoutDirection direction);
 
  private:
+  [[nodiscard]] static unsigned char StyleOf(const RowLook& look);
   [[nodiscard]] QColor GroundOf(const RowState& state) const;
+  void PaintFrame(QPainter& painter, const QRect& area, int width) const;
   void PaintCell(QPainter& painter, const QRect& cell, std::int16_t column, grid_engine::Record record,
                  unsigned char style) const;
 

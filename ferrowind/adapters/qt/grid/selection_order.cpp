@@ -10,6 +10,7 @@ SelectionOrder::SelectionOrder(QItemSelectionModel& selection, QObject* parent)
     : QObject(parent), selection_(selection) {
   const QAbstractItemModel* model = selection.model();
   connect(&selection, &QItemSelectionModel::selectionChanged, this, &SelectionOrder::Change);
+  connect(&selection, &QItemSelectionModel::currentChanged, this, &SelectionOrder::SelectCurrentOfNone);
   connect(model, &QAbstractItemModel::modelReset, this, [this] { ranges_.clear(); });
   connect(model, &QAbstractItemModel::rowsInserted, this,
           [this](const QModelIndex&, int first, int last) { ShiftFrom(first, last - first + 1); });
@@ -27,6 +28,13 @@ void SelectionOrder::Change(const QItemSelection& selected, const QItemSelection
     Remove({range.top(), range.bottom()});
     ranges_.push_back({range.top(), range.bottom()});
   }
+  SelectCurrentOfNone();
+}
+
+void SelectionOrder::SelectCurrentOfNone() {
+  const QModelIndex current = selection_.currentIndex();
+  if (ranges_.empty() && current.isValid())
+    selection_.select(current, QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 void SelectionOrder::Remove(Range removed) {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
@@ -75,8 +76,9 @@ int UniformTableView::verticalOffset() const {
 
 QRect UniformTableView::visualRect(const QModelIndex& index) const {
   if (!index.isValid() || isColumnHidden(index.column())) return {};
-  // Rows far outside the viewport are told as just outside it: their places in pixels would overflow.
-  const int row = std::clamp(index.row(), FirstRow() - 100000, FirstRow() + 100000);
+  // Rows too far outside the viewport are told as nearer: their places in pixels would overflow.
+  const int farthest = (1 << 29) / row_height_;
+  const int row = std::clamp(index.row(), FirstRow() - farthest, FirstRow() + farthest);
   return {columnViewportPosition(index.column()), TopOf(row), columnWidth(index.column()), row_height_};
 }
 
@@ -170,16 +172,16 @@ QModelIndex UniformTableView::moveCursor(CursorAction action, Qt::KeyboardModifi
   const QModelIndex current = currentIndex();
   if (!current.isValid()) return model()->index(0, first_column);
 
-  const bool is_far = modifiers.testFlag(Qt::ControlModifier);
+  const bool is_to_end_of_rows = modifiers.testFlag(Qt::ControlModifier);
   const int step = isRightToLeft() ? -1 : 1;
   int row = current.row();
   int column = current.column();
   switch (action) {
     case MoveUp:
-      row = is_far ? 0 : row - 1;
+      --row;
       break;
     case MoveDown:
-      row = is_far ? rows - 1 : row + 1;
+      ++row;
       break;
     case MovePageUp:
       row -= RowsPerPage();
@@ -200,27 +202,58 @@ QModelIndex UniformTableView::moveCursor(CursorAction action, Qt::KeyboardModifi
       column = NextColumn(column, 1);
       break;
     case MoveHome:
-      if (is_far) row = 0;
+      if (is_to_end_of_rows) row = 0;
       column = first_column;
       break;
     case MoveEnd:
-      if (is_far) row = rows - 1;
+      if (is_to_end_of_rows) row = rows - 1;
       column = last_column;
       break;
   }
   return model()->index(std::clamp(row, 0, rows - 1), column);
 }
 
+bool UniformTableView::MovesAlone(const QKeyEvent& event) const {
+  return selectionMode() == ExtendedSelection && IsMove(event.key()) && event.key() != Qt::Key_Home &&
+         event.key() != Qt::Key_End && event.modifiers().testFlag(Qt::ControlModifier) &&
+         !event.modifiers().testFlag(Qt::ShiftModifier);
+}
+
+void UniformTableView::keyPressEvent(QKeyEvent* event) {
+  // Ends the range that Shift began, which the next one would take the place of.
+  if (MovesAlone(*event) && model() != nullptr)
+    selectionModel()->select(QModelIndex(), QItemSelectionModel::Select);
+  const bool is_selecting_move = IsMove(event->key()) && !MovesAlone(*event);
+  const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
+  const QPointer<UniformTableView> self(this);
+  QTableView::keyPressEvent(event);
+  if (!self || !is_selecting_move || !currentIndex().isValid()) return;
+  // At the first or the last row there is no move, yet the row that it would go to is this one.
+  if (selectionModel()->isSelected(currentIndex())) return;
+  const auto command = extends ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect;
+  selectionModel()->select(currentIndex(), command | QItemSelectionModel::Rows);
+}
+
 QItemSelectionModel::SelectionFlags UniformTableView::selectionCommand(const QModelIndex& index,
                                                                        const QEvent* event) const {
-  if (selectionMode() == ExtendedSelection && event != nullptr && event->type() == QEvent::KeyPress) {
-    const auto* key = static_cast<const QKeyEvent*>(event);
-    const bool is_to_an_end = key->key() == Qt::Key_Home || key->key() == Qt::Key_End ||
-                              key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
-    // The base takes Ctrl as "move, select nothing" even together with Shift.
-    if (is_to_an_end && key->modifiers().testFlag(Qt::ShiftModifier)) {
-      return QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows;
-    }
+  using Selection = QItemSelectionModel;
+  constexpr auto kOnly = Selection::ClearAndSelect | Selection::Rows;
+  if (!index.isValid()) return Selection::NoUpdate;
+  if (event == nullptr) return kOnly;
+  if (selectionMode() == SingleSelection || !event->isInputEvent())
+    return QTableView::selectionCommand(index, event);
+  const Qt::KeyboardModifiers modifiers = static_cast<const QInputEvent*>(event)->modifiers();
+  const bool extends = modifiers.testFlag(Qt::ShiftModifier);
+  if (event->type() == QEvent::KeyPress) {
+    if (extends) return Selection::SelectCurrent | Selection::Rows;
+    return MovesAlone(*static_cast<const QKeyEvent*>(event)) ? Selection::SelectionFlags(Selection::NoUpdate)
+                                                             : kOnly;
+  }
+  // The base would stretch a range to a row that is clicked with Ctrl.
+  const bool is_press = event->type() == QEvent::MouseButtonPress;
+  if (selectionMode() == ContiguousSelection && is_press && !extends &&
+      modifiers.testFlag(Qt::ControlModifier)) {
+    return kOnly;
   }
   return QTableView::selectionCommand(index, event);
 }

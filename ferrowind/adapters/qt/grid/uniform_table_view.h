@@ -7,6 +7,10 @@ namespace ferrowind::qt {
 
 /// A table view whose rows are all of one height, which selects whole rows and scrolls by rows.
 ///
+/// A move by key selects the row that it goes to, with Shift all rows on the way. With multiple selection
+/// Ctrl and an arrow or page key move the current row alone; Ctrl+Home and Ctrl+End go to the first and the
+/// last row and select it. A click beside the rows changes nothing.
+///
 /// `QTableView` keeps an entry for each row in its vertical header, so that inserting rows and finding their
 /// places takes time and memory for all of them. Here a row's place is a multiplication: expanding a group
 /// costs the same whether it holds ten rows or a million. Columns are left to the horizontal header.
@@ -31,6 +35,7 @@ class UniformTableView : public QTableView {
   [[nodiscard]] int FirstRow() const;
   /// How many rows fit into the viewport as a whole, at least one.
   [[nodiscard]] int RowsPerPage() const;
+  [[nodiscard]] static bool IsMove(int key) { return key >= Qt::Key_Home && key <= Qt::Key_PageDown; }
 
  protected:
   void updateGeometries() override;
@@ -41,10 +46,13 @@ class UniformTableView : public QTableView {
   [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
+  void keyPressEvent(QKeyEvent* event) override;
   void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) override;
   [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
 
  private:
+  /// Whether the key moves the current row and leaves the selection as it is.
+  [[nodiscard]] bool MovesAlone(const QKeyEvent& event) const;
   void RowCountChanged();
   /// The row that begins or would begin at or before that height, which may be before the first or behind the
   /// last.

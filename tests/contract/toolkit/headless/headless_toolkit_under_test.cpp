@@ -102,6 +102,9 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
     }
   }
   void ToggleRow(platform::Grid& grid, std::int32_t row) override { As<HeadlessGrid>(grid).ToggleRow(row); }
+  void ExtendToRow(platform::Grid& grid, std::int32_t row) override {
+    As<HeadlessGrid>(grid).ExtendToRow(row);
+  }
   void ToggleGroup(platform::Grid& grid, std::int32_t row) override {
     As<HeadlessGrid>(grid).ToggleGroup(row);
   }

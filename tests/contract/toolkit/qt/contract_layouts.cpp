@@ -42,7 +42,8 @@ void BuildContract(QDialog& window) {
   auto* splitter = Named<QSplitter>("sssp");
   splitter->addWidget(Named<qt::TreeView>("tvNodes"));
   splitter->addWidget(Named<qt::GridWidget>("gexRows"));
-  splitter->setSizes({200, 600});
+  splitter->addWidget(Named<qt::GridWidget>("gexRanges"));
+  splitter->setSizes({200, 600, 300});
   layout->addWidget(splitter, 1);
   layout->addWidget(Named<QLabel>("anim"));
   layout->addWidget(Named<QStatusBar>("sbLine"));

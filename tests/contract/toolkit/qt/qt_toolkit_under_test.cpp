@@ -170,6 +170,9 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   void ToggleRow(platform::Grid& grid, std::int32_t row) override {
     GridOperator(grid).ClickRow(row, Qt::LeftButton, Qt::ControlModifier);
   }
+  void ExtendToRow(platform::Grid& grid, std::int32_t row) override {
+    GridOperator(grid).ClickRow(row, Qt::LeftButton, Qt::ShiftModifier);
+  }
   void ToggleGroup(platform::Grid& grid, std::int32_t row) override { GridOperator(grid).ToggleGroup(row); }
   void ClickHeader(platform::Grid& grid, const std::string& column_key) override {
     GridOperator(grid).ClickHeader(column_key);
