@@ -16,6 +16,9 @@ class GridAccessibilityTest : public GridTest {
     QAccessibleInterface* view = QAccessible::queryAccessibleInterface(&View());
     return view == nullptr ? nullptr : view->tableInterface();
   }
+  std::string CellText(int row, int column) {
+    return Model().index(row - 1, column - 1).data().toString().toStdString();
+  }
   /// Offscreen no assistive tool listens, so that Qt does not tell its table of changes; a new one is asked
   /// instead.
   void ForgetCells() {
@@ -32,6 +35,68 @@ TEST_F(GridAccessibilityTest, ReadsCellsAndHeaders) {
   EXPECT_EQ(table->columnDescription(1), "Types");
   ASSERT_NE(table->cellAt(1, 3), nullptr);
   EXPECT_EQ(table->cellAt(1, 3)->text(QAccessible::Name), "second");
+}
+
+TEST_F(GridAccessibilityTest, NamesTheTableAsTheGrid) {
+  GridWidget named;
+  named.setAccessibleName("Days");
+  const QtGrid grid(named);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&named.View())->text(QAccessible::Name), "Days");
+}
+
+TEST_F(GridAccessibilityTest, TellsHeadersAndCellsAsShowingThatAreOnTheScreen) {
+  grid_->ColumnByKey("Type").SetVisible(false);
+  QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&View());
+  std::vector<std::string> showing;
+  for (int i = 0; i < table->childCount(); ++i) {
+    const QAccessibleInterface* child = table->child(i);
+    ASSERT_NE(child, nullptr);
+    EXPECT_EQ(table->indexOfChild(child), i);
+    if (!child->state().invisible) showing.push_back(child->text(QAccessible::Name).toStdString());
+  }
+  const std::string day = CellText(1, 3);
+  EXPECT_EQ(showing,
+            (std::vector<std::string>{"Names", "Days", "Notes", "a", day, "first", "b", "", "second"}));
+}
+
+TEST_F(GridAccessibilityTest, TellsTheCurrentCellByTheNumberThatItsEventsGive) {
+  grid_->SetCurrentRow(2);
+  grid_->SetCurrentColumn(4);
+  widget_->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(widget_.get()));
+  View().setFocus();
+  QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&View());
+  QAccessibleInterface* cell = table->focusChild();
+  ASSERT_NE(cell, nullptr);
+  EXPECT_EQ(cell->text(QAccessible::Name), "second");
+  EXPECT_TRUE(cell->state().focused);
+  EXPECT_TRUE(cell->state().selected);
+  EXPECT_EQ(table->indexOfChild(cell), 2 * 5 + 4);
+  EXPECT_EQ(cell->tableCellInterface()->columnHeaderCells().first()->text(QAccessible::Name), "Notes");
+}
+
+TEST_F(GridAccessibilityTest, SelectsRows) {
+  grid_->SetMultiSelect(true);
+  grid_->SetCurrentRow(1);
+  EXPECT_TRUE(Table()->selectRow(1));
+  EXPECT_EQ(grid_->SelectedRows(), (std::vector<std::int32_t>{1, 2}));
+  EXPECT_EQ(Table()->selectedCellCount(), 8);
+  EXPECT_EQ(Table()->selectedCells().last()->text(QAccessible::Name), "second");
+  EXPECT_TRUE(Table()->unselectRow(0));
+  EXPECT_EQ(Table()->selectedRows(), QList<int>{1});
+  EXPECT_FALSE(Table()->selectRow(2));
+  grid_->SetMultiSelect(false);
+  EXPECT_TRUE(Table()->selectRow(0));
+  EXPECT_EQ(grid_->CurrentRow(), 1);
+}
+
+TEST_F(GridAccessibilityTest, TellsNothingOfAPlaceThatIsGone) {
+  QAccessibleInterface* cell = Table()->cellAt(1, 0);
+  Attach(Rows({{"c", 3}}));
+  EXPECT_FALSE(cell->isValid());
+  EXPECT_TRUE(cell->state().invalid);
+  EXPECT_EQ(cell->text(QAccessible::Name), "");
+  EXPECT_EQ(Table()->cellAt(1, 0), nullptr);
 }
 
 TEST_F(GridAccessibilityTest, FindsTheCellUnderThePointer) {
