@@ -1,4 +1,6 @@
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <string>
 #include <vector>
 
@@ -143,6 +145,23 @@ TEST_F(TreeTest, ShowsADescriptionThatLooksLikeMarkupAsItIs) {
   const QModelIndex node = static_cast<TreeModel*>(view_.model())->Find("XXX");
   EXPECT_TRUE(node.data(Qt::ToolTipRole).toString().contains("&lt;b&gt;none"));
   EXPECT_EQ(node.data(Qt::AccessibleDescriptionRole).toString(), "<b>none</b>");
+}
+
+TEST_F(TreeTest, ReadsANodeThatIsCutToTheEnd) {
+  tree_.AddRoot({"LONG", "A <name> that is much too long for a tree as narrow as this one", "Currency"});
+  const auto ask_at = [this](const char* key) {
+    QHelpEvent event(QEvent::ToolTip, PlaceOf(key), view_.viewport()->mapToGlobal(PlaceOf(key)));
+    QCoreApplication::sendEvent(view_.viewport(), &event);
+  };
+  const auto is_gone = [] { return !QToolTip::isVisible(); };
+  ask_at("LONG");
+  EXPECT_TRUE(QToolTip::text().contains("A &lt;name&gt; that is much too long"));
+  ask_at("EUR");
+  EXPECT_TRUE(QTest::qWaitFor(is_gone, 2000));
+  view_.resize(900, 400);
+  QCoreApplication::processEvents();
+  ask_at("LONG");
+  EXPECT_TRUE(is_gone());
 }
 
 TEST_F(TreeTest, LivesWhenAHandlerClearsAndRefillsItOnEveryEvent) {
