@@ -171,7 +171,8 @@ class CommandLine {
     call_->footer(kCallManual);
     call_->add_option("URL", call_command_.url, "The database to call it in")->required();
     call_->add_option("PROCEDURE", call_command_.procedure, "The name of the procedure")->required();
-    call_->add_option("NAME=VALUE", call_command_.arguments, "Its parameters");
+    call_->add_option("ARGUMENT", call_command_.arguments, "Its parameters, each NAME=VALUE")
+        ->option_text("NAME=VALUE");
     AddFormat(*call_);
   }
 

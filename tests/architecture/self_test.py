@@ -148,15 +148,27 @@ class HeadersAlone(TemporaryTree):
 class Format(TemporaryTree):
     def setUp(self):
         super().setUp()
-        self.write(".clang-format", "BasedOnStyle: Google\n")
+        self.write(".clang-format", "BasedOnStyle: Google\nColumnLimit: 40\n")
         self.write("ferrowind/cell.h", "int Cell();\n")
 
     def test_accepts_formatted_files(self):
-        self.assertEqual(format_check.check(self.root), (1, ""))
+        for release in (format_check.DECIDING_RELEASE, format_check.DECIDING_RELEASE + 1):
+            self.assertEqual(format_check.check(self.root, release), (1, ""))
 
     def test_refuses_a_file_that_is_not_formatted_and_names_it(self):
         self.write("tests/cell_test.cpp", "int  Cell( );\n")
-        self.assertIn("tests/cell_test.cpp", format_check.check(self.root)[1])
+        self.assertIn("tests/cell_test.cpp", format_check.check(self.root, format_check.DECIDING_RELEASE)[1])
+
+    def test_asks_the_formatter_for_its_release(self):
+        self.assertGreaterEqual(format_check.installed_release(), format_check.DECIDING_RELEASE)
+
+    def test_refuses_with_any_release_what_none_would_leave_so(self):
+        for text, words in ((f"int {'a' * 40};\n", ":1: wider than 40"), ("int a; \n", ":1: a tab, or a blank"),
+                            ("\tint a;\n", ":1: a tab, or a blank"), ("int a;", ":the end"), ("int a;\n\n", ":the end")):
+            with self.subTest(text):
+                self.write("tests/cell_test.cpp", text)
+                self.assertEqual(format_check.check(self.root, format_check.DECIDING_RELEASE + 1)[1].split(".cpp")[1][:len(words)],
+                                 words)
 
     def test_refuses_a_tree_without_files(self):
         shutil.rmtree(self.root / "ferrowind")
