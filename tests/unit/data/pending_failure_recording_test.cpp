@@ -1,6 +1,5 @@
 // The recording of a failure that fails itself. The allocation functions of this program are replaced by ones
 // of which a single allocation can be made to fail.
-#include <cstdlib>
 #include <new>
 #include <string>
 
@@ -10,30 +9,8 @@
 #include "ferrowind/data/pending_failure.h"
 
 #include "tests/support/expect_failure.h"
+#include "tests/support/replaced_allocation.h"
 #include "tests/support/run_in_fresh_thread.h"
-
-namespace {
-
-thread_local bool next_allocation_fails = false;
-
-void* Allocate(std::size_t size) {
-  if (next_allocation_fails) {
-    next_allocation_fails = false;
-    throw std::bad_alloc();
-  }
-  void* const memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) { return Allocate(size); }
-void* operator new[](std::size_t size) { return Allocate(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace ferrowind {
 namespace {
@@ -43,12 +20,26 @@ using testing::RunInFreshThread;
 
 constexpr std::int32_t kTypeMismatch = 13;
 
+thread_local bool next_allocation_fails = false;
+
+void FailOnce(std::size_t /*size*/) {
+  if (!next_allocation_fails) return;
+  next_allocation_fails = false;
+  throw std::bad_alloc();
+}
+
+class SetPendingFailureWithoutMemory : public ::testing::Test {
+ protected:
+  SetPendingFailureWithoutMemory() { testing::before_allocation = FailOnce; }
+  ~SetPendingFailureWithoutMemory() override { testing::before_allocation = nullptr; }
+};
+
 const std::string& LongDescription() {
   static const std::string text(4096, 'x');
   return text;
 }
 
-TEST(SetPendingFailureWithoutMemory, FailsWithTypeMismatchAndLeavesTheNumber666AndTheOldDescription) {
+TEST_F(SetPendingFailureWithoutMemory, FailsWithTypeMismatchAndLeavesTheNumber666AndTheOldDescription) {
   RunInFreshThread([] {
     SetPendingFailure(5, "old text");
     Module().pending_failure_count = 0;
@@ -66,7 +57,7 @@ TEST(SetPendingFailureWithoutMemory, FailsWithTypeMismatchAndLeavesTheNumber666A
   });
 }
 
-TEST(SetPendingFailureWithoutMemory, IsFollowedByRecordingsThatSucceed) {
+TEST_F(SetPendingFailureWithoutMemory, IsFollowedByRecordingsThatSucceed) {
   RunInFreshThread([] {
     const std::string& description = LongDescription();
     ExpectFailure(

@@ -1,9 +1,7 @@
 // Counts what is allocated, in a program of its own since that replaces the allocation of the whole program.
 
 #include <cstddef>
-#include <cstdlib>
 #include <memory>
-#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,29 +11,20 @@
 #include "ferrowind/platform/values/record_set.h"
 #include "ferrowind/platform/values/row_filter.h"
 
-namespace {
-
-std::size_t allocated_bytes = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  allocated_bytes += size;
-  if (void* const memory = std::malloc(size)) return memory;
-  throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+#include "tests/support/replaced_allocation.h"
 
 namespace ferrowind::platform {
 namespace {
 
+std::size_t allocated_bytes = 0;
+
 template <typename Action>
 std::size_t BytesAllocatedBy(const Action& action) {
-  const std::size_t before = allocated_bytes;
+  allocated_bytes = 0;
+  testing::before_allocation = [](std::size_t size) { allocated_bytes += size; };
   action();
-  return allocated_bytes - before;
+  testing::before_allocation = nullptr;
+  return allocated_bytes;
 }
 
 RecordSet OfRows(std::size_t count) {
