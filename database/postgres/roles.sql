@@ -15,7 +15,15 @@ BEGIN
       END;
     END IF;
   END LOOP;
-  IF NOT pg_has_role('ferrowind_owner', 'MEMBER') THEN
-    EXECUTE format('GRANT ferrowind_owner TO %I', current_user);
+  -- Whoever creates a role is, on servers from version 16, a member that may only make others members.
+  IF NOT pg_has_role('ferrowind_owner', CASE WHEN current_setting('server_version_num')::integer >= 160000
+                                             THEN 'SET' ELSE 'MEMBER' END) THEN
+    BEGIN
+      EXECUTE format('GRANT ferrowind_owner TO %I', current_user);
+    EXCEPTION WHEN insufficient_privilege THEN
+      RAISE insufficient_privilege USING MESSAGE = format(
+        '%I is no member of ferrowind_owner, and making it one takes a superuser: GRANT ferrowind_owner TO %1$I',
+        current_user);
+    END;
   END IF;
 END $$;

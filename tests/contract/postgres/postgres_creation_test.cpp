@@ -41,6 +41,52 @@ class EmptyDatabase {
   std::string name_;
 };
 
+/// The login of an administrator who is no superuser, with these rights beside that to log in.
+class Administrator {
+ public:
+  explicit Administrator(const std::string& rights) {
+    postgres_server::Execute("postgres", "CREATE ROLE administrator LOGIN PASSWORD 'adm' " + rights);
+  }
+  Administrator(const Administrator&) = delete;
+  Administrator& operator=(const Administrator&) = delete;
+  ~Administrator() { postgres_server::Execute("postgres", "DROP ROLE administrator"); }
+
+  [[nodiscard]] std::string UriOfOwn(const EmptyDatabase& database) const {
+    postgres_server::Execute("postgres", "ALTER DATABASE " + database.Name() + " OWNER TO administrator");
+    return postgres_server::Uri("administrator", "adm", database.Name());
+  }
+};
+
+/// A server on which no calendar database has been created yet, as long as this lives.
+class ServerWithoutRoles {
+ public:
+  ServerWithoutRoles() { Rename("ferrowind_", "kept_"); }
+  ServerWithoutRoles(const ServerWithoutRoles&) = delete;
+  ServerWithoutRoles& operator=(const ServerWithoutRoles&) = delete;
+  ~ServerWithoutRoles() {
+    postgres_server::Execute("postgres",
+                             "DROP ROLE IF EXISTS ferrowind_owner, ferrowind_operator, ferrowind_reader");
+    Rename("kept_", "ferrowind_");
+  }
+
+ private:
+  static void Rename(const std::string& prefix, const std::string& new_prefix) {
+    for (const std::string role : {"owner", "operator", "reader"}) {
+      const std::string name = prefix + role;
+      if (postgres_server::Ask("postgres",
+                               "SELECT rolname::text FROM pg_roles WHERE rolname = '" + name + "'") == name) {
+        postgres_server::Execute("postgres", "ALTER ROLE " + name + " RENAME TO " + new_prefix + role);
+      }
+    }
+  }
+};
+
+/// From version 16 on the right to create roles is none to the roles that others have created.
+bool ServerKeepsOthersRolesFromAdministrators() {
+  return postgres_server::Ask(
+             "postgres", "SELECT (current_setting('server_version_num')::integer >= 160000)::text") == "true";
+}
+
 TEST(PostgresCreation, TheDeliveredRulesComeOnDemand) {
   const EmptyDatabase database;
   postgres::CreateDatabaseObjects(database.Uri(), true);
@@ -102,17 +148,41 @@ TEST(PostgresCreation, ADatabaseOfAnotherEncodingIsRefused) {
 }
 
 TEST(PostgresCreation, ALoginThatOwnsTheDatabaseAndMayCreateRolesIsEnough) {
+  const ServerWithoutRoles server;
+  const Administrator administrator("CREATEROLE");
+  const EmptyDatabase first;
+  const EmptyDatabase second;
+  for (const EmptyDatabase* database : {&first, &second}) {
+    const std::string uri = administrator.UriOfOwn(*database);
+    postgres::CreateDatabaseObjects(uri, true);
+    EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
+  }
+}
+
+TEST(PostgresCreation, ALoginThatMayCreateRolesIsEnoughWhereASuperuserCreatedAnotherDatabase) {
+  const PostgresDatabase of_superuser;
+  const Administrator administrator("CREATEROLE");
+  if (ServerKeepsOthersRolesFromAdministrators()) {
+    postgres_server::Execute("postgres", "GRANT ferrowind_owner TO administrator");
+  }
   const EmptyDatabase database;
-  postgres_server::Execute("postgres",
-                           "CREATE ROLE administrator LOGIN CREATEROLE PASSWORD 'adm'; ALTER DATABASE " +
-                               database.Name() + " OWNER TO administrator");
-  const std::string uri = postgres_server::Uri("administrator", "adm", database.Name());
+  const std::string uri = administrator.UriOfOwn(database);
   postgres::CreateDatabaseObjects(uri, true);
   EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
-  postgres_server::Execute(
-      "postgres",
-      "ALTER DATABASE " + database.Name() +
-          " OWNER TO postgres; REVOKE ferrowind_owner FROM administrator; DROP ROLE administrator");
+}
+
+TEST(PostgresCreation, ALoginThatCannotBecomeAMemberOfTheOwnerIsToldWhatItNeeds) {
+  const PostgresDatabase of_superuser;
+  const Administrator administrator(ServerKeepsOthersRolesFromAdministrators() ? "CREATEROLE"
+                                                                               : "NOCREATEROLE");
+  const EmptyDatabase database;
+  const std::string uri = administrator.UriOfOwn(database);
+  EXPECT_THAT(FailureTextOf([&] { postgres::CreateDatabaseObjects(uri, true); }),
+              HasSubstr("GRANT ferrowind_owner TO administrator"));
+  EXPECT_TRUE(database.IsUntouched());
+  postgres_server::Execute("postgres", "GRANT ferrowind_owner TO administrator");
+  postgres::CreateDatabaseObjects(uri, true);
+  EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
 }
 
 TEST(PostgresCheck, ADatabaseWithoutTheSchemaIsNoCalendarDatabase) {

@@ -74,7 +74,9 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
 
     def test_whoever_could_create_a_database_may_copy_to_and_from_it(self):
         database, other = server.Database(self), server.Database(self)
-        server.ask("postgres", "CREATE ROLE e2e_administrator LOGIN CREATEROLE PASSWORD 'sesame'")
+        self.assert_run(DONE, "init", server.Database(self).uri, "--empty")
+        server.ask("postgres", "CREATE ROLE e2e_administrator LOGIN CREATEROLE PASSWORD 'sesame';"
+                               "GRANT ferrowind_owner TO e2e_administrator")
         self.addCleanup(lambda: server.ask("postgres", "REVOKE ferrowind_owner FROM e2e_administrator;"
                                                        "DROP ROLE e2e_administrator"))
         urls = []
