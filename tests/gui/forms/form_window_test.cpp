@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/forms/form_window.h"
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 
@@ -365,6 +366,15 @@ TEST_F(FormWindowTest, IsNoDialogToAnAssistiveToolWhenItCanBeResized) {
   for (const auto border : {FormBorder::kFixedDialog, FormBorder::kClosableDialog}) {
     EXPECT_EQ(RoleOf(*toolkit_.CreateForm(Design(border))), QAccessible::Dialog);
   }
+}
+
+TEST_F(FormWindowTest, IsADialogToAnAssistiveToolThatKnewItBeforeItHadItsBorder) {
+  FormWindow window;
+  const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&window);
+  ASSERT_EQ(told->role(), QAccessible::Window);
+  window.SetBorder(FormBorder::kFixedDialog);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&window), told);
+  EXPECT_EQ(told->role(), QAccessible::Dialog);
 }
 
 // The end of the session and of the application

@@ -37,14 +37,26 @@ Qt::WindowFlags FlagsOf(FormBorder border) {
   return Qt::Window;
 }
 
-/// Null for everything but the windows that are no dialogs to the operator, which would be told as dialogs
-/// because of their class. The accessibility framework owns what is made.
+/// A window that the operator can resize is no dialog to them, though its class is one. Asked each time,
+/// since an assistive tool may know the window before it has its border.
+class AccessibleFormWindow final : public QAccessibleWidget {
+ public:
+  explicit AccessibleFormWindow(FormWindow& window) : QAccessibleWidget(&window), window_(window) {}
+
+  [[nodiscard]] QAccessible::Role role() const override {
+    return window_.Border() == FormBorder::kSizable ? QAccessible::Window : QAccessible::Dialog;
+  }
+
+ private:
+  FormWindow& window_;
+};
+
+/// Null for everything but the forms' windows. The accessibility framework owns what is made.
 QAccessibleInterface* AccessibleWindow(const QString& class_name, QObject* object) {
   auto* window = qobject_cast<FormWindow*>(object);
   if (window == nullptr || class_name != QLatin1String(FormWindow::staticMetaObject.className()))
     return nullptr;
-  if (window->Border() != FormBorder::kSizable) return nullptr;
-  return new QAccessibleWidget(window, QAccessible::Window);
+  return new AccessibleFormWindow(*window);
 }
 
 /// The memory of a window grows with its area, so that a size from a damaged setting could end the host.
