@@ -15,6 +15,8 @@
 #include "ferrowind/adapters/qt/grid/grid_header.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
 
+#include "tests/support/click_in_menu.h"
+
 namespace ferrowind::gui {
 namespace {
 
@@ -104,8 +106,7 @@ void PickFromMenu(QWidget& menu, const std::string& id) {
   auto& actions = dynamic_cast<QMenu&>(menu);
   for (QAction* action : actions.actions()) {
     if (action->objectName().toStdString() != id) continue;
-    QTest::mouseMove(&menu, actions.actionGeometry(action).center());
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, actions.actionGeometry(action).center());
+    testing::ClickInMenu(actions, *action);
     return;
   }
   ADD_FAILURE() << "no " << id << " in the menu";

@@ -19,6 +19,7 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 
 #include "tests/gui/windows/operator_hands.h"
+#include "tests/support/click_in_menu.h"
 
 namespace ferrowind::gui {
 namespace {
@@ -200,8 +201,7 @@ void RandomOperator::ClickAnyTool(QWidget& window) {
   if (auto* menu = qobject_cast<QMenu*>(&window)) {
     const auto actions = menu->actions();
     if (actions.isEmpty()) return;
-    const QRect area = menu->actionGeometry(actions[Below(static_cast<int>(actions.size()))]);
-    QTest::mouseClick(menu, Qt::LeftButton, {}, area.center());
+    testing::ClickInMenu(*menu, *actions[Below(static_cast<int>(actions.size()))]);
     return;
   }
   const auto tools = window.findChildren<QToolButton*>(QRegularExpression(QStringLiteral("^ID_")));

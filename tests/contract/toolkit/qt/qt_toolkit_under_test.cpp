@@ -22,6 +22,7 @@
 #include "tests/contract/toolkit/qt/contract_layouts.h"
 #include "tests/contract/toolkit/qt/grid_operator.h"
 #include "tests/contract/toolkit/toolkit_under_test.h"
+#include "tests/support/click_in_menu.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -222,7 +223,7 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     }
     for (QAction* action : menu.actions()) {
       if (action->objectName() != qt::ToQt(tool_id)) continue;
-      QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+      testing::ClickInMenu(menu, *action);
       return;
     }
   }
