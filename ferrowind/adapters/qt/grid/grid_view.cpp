@@ -166,8 +166,7 @@ void GridView::SetCurrentRow(int row) {
   const int kept_column = current_column_;
   int column = std::max(current_column_ - 1, 0);
   if (current_column_ == 0 && header_->count() > 0) column = std::max(header_->FirstVisibleColumn(), 0);
-  // The view's own, which lets the next range begin here.
-  setCurrentIndex(model_->index(row, column));
+  GoTo(model_->index(row, column));
   current_column_ = kept_column;
 }
 

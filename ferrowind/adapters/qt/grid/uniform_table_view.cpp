@@ -234,12 +234,24 @@ void UniformTableView::keyPressEvent(QKeyEvent* event) {
   selectionModel()->select(currentIndex(), command | QItemSelectionModel::Rows);
 }
 
+void UniformTableView::GoTo(const QModelIndex& index) {
+  const QScopedValueRollback goes(goes_to_row_, true);
+  setCurrentIndex(index);
+}
+
+void UniformTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  const QScopedValueRollback follows(follows_current_, true);
+  QTableView::currentChanged(current, previous);
+}
+
 QItemSelectionModel::SelectionFlags UniformTableView::selectionCommand(const QModelIndex& index,
                                                                        const QEvent* event) const {
   using Selection = QItemSelectionModel;
   constexpr auto kOnly = Selection::ClearAndSelect | Selection::Rows;
   if (!index.isValid()) return Selection::NoUpdate;
-  if (event == nullptr) return kOnly;
+  // A key or a click that makes a row current has its own way to say where a range begins.
+  if (event == nullptr)
+    return follows_current_ && !goes_to_row_ ? Selection::SelectCurrent | Selection::Rows : kOnly;
   if (selectionMode() == SingleSelection || !event->isInputEvent())
     return QTableView::selectionCommand(index, event);
   const Qt::KeyboardModifiers modifiers = static_cast<const QInputEvent*>(event)->modifiers();

@@ -37,6 +37,9 @@ class UniformTableView : public QTableView {
   [[nodiscard]] int RowsPerPage() const;
   [[nodiscard]] static bool IsMove(int key) { return key >= Qt::Key_Home && key <= Qt::Key_PageDown; }
 
+  /// Makes the row current and the only selected one, and lets the next range begin there.
+  void GoTo(const QModelIndex& index);
+
  protected:
   void updateGeometries() override;
   void scrollContentsBy(int dx, int dy) override;
@@ -46,6 +49,7 @@ class UniformTableView : public QTableView {
   [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void keyPressEvent(QKeyEvent* event) override;
   void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) override;
   [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
@@ -67,6 +71,9 @@ class UniformTableView : public QTableView {
   QMetaObject::Connection rows_removed_;
   int row_height_ = 20;
   bool updates_geometries_ = false;
+  /// While the base class, in some of its versions, asks whether the new current row begins a range.
+  bool follows_current_ = false;
+  bool goes_to_row_ = false;
 };
 
 }  // namespace ferrowind::qt
