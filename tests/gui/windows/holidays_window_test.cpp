@@ -111,6 +111,31 @@ TEST_F(HolidaysWindowTest, HidesRemovedRulesUntilTheyAreAskedFor) {
   });
 }
 
+TEST_F(HolidaysWindowTest, ChoosesNoRuleByItselfWhenTheLastOneWasRemoved) {
+  ForCalendar([this](QWidget& holidays) {
+    auto& rules = GridIn(holidays);
+    rules.setFocus();
+    QTest::keyClick(&rules, Qt::Key_Home, Qt::ControlModifier);
+    Remove(holidays, CellText(rules, RowsOf(rules) - 1, "Name"));
+    // The focus comes back from the question, as from any other window.
+    Find<QPushButton>(holidays, kFilter).setFocus();
+    rules.setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_FALSE(rules.currentIndex().isValid());
+    for (const char* button : {kEdit, kRemove, kRestore, kAssign}) EXPECT_FALSE(IsEnabled(holidays, button));
+  });
+}
+
+TEST_F(HolidaysWindowTest, OffersToAssignAllRulesThatAreSelectedBeforeAnyWasCurrent) {
+  ForCalendar([this](QWidget& holidays) {
+    auto& rules = GridIn(holidays);
+    Remove(holidays, CellText(rules, RowsOf(rules) - 1, "Name"));
+    ASSERT_FALSE(rules.currentIndex().isValid());
+    QTest::keyClick(&rules, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(IsEnabled(holidays, kAssign));
+    EXPECT_EQ(rules.selectionModel()->selectedRows().size(), RowsOf(rules));
+  });
+}
+
 TEST_F(HolidaysWindowTest, EnablesItsButtonsByTheCurrentRule) {
   desk_.Execute("UPDATE CldHoliday SET Del = 2 WHERE Name1 = 'Good Friday'");
   ForCalendar([](QWidget& holidays) {

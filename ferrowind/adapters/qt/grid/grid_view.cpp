@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <limits>
@@ -112,6 +113,23 @@ void GridView::UpdateColors() {
   colors_ = GridColors(palette());
   viewport()->update();
   header_->viewport()->update();
+}
+
+// The base class makes the first row current when there is none, although it may be out of sight, and
+// commands would act on it. The focus comes back from each dialog; only who goes to the rows by key wants to
+// be at one.
+void GridView::focusInEvent(QFocusEvent* event) {
+  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) BeginAtTop();
+  const QScopedValueRollback<bool> arriving(is_focus_arriving_, true);
+  UniformTableView::focusInEvent(event);
+}
+
+QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  return is_focus_arriving_ ? QModelIndex() : UniformTableView::moveCursor(action, modifiers);
+}
+
+void GridView::BeginAtTop() {
+  if (!currentIndex().isValid() && FirstVisibleRow() >= 0) SetCurrentRow(FirstVisibleRow());
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {

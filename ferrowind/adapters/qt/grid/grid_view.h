@@ -59,10 +59,12 @@ class GridView final : public UniformTableView {
   bool event(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   int sizeHintForColumn(int column) const override;
+  [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
  private:
   void ShowCutText(const QHelpEvent& event);
@@ -76,6 +78,8 @@ class GridView final : public UniformTableView {
   [[nodiscard]] std::optional<grid_engine::GroupId> GroupInRow(int row) const;
   [[nodiscard]] QRect RowArea(int row) const;
   bool HandleGroupKey(QKeyEvent* event);
+  /// Makes the row at the top current where none is, without selecting more than it.
+  void BeginAtTop();
   void AskForMenuOfCurrentRow();
   [[nodiscard]] std::vector<ShownColumn> ColumnsWithin(const QRect& area) const;
 
@@ -85,6 +89,8 @@ class GridView final : public UniformTableView {
   TextCache texts_;
   TypeAhead type_ahead_;
   int current_column_ = 0;
+  /// While the focus arrives, the base class would have a current row, out of sight as well.
+  bool is_focus_arriving_ = false;
   /// Asked for before the view had a size.
   std::optional<int> pending_first_row_;
 };

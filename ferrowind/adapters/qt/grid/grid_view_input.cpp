@@ -56,6 +56,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     emit CopyAsked();
     return;
   }
+  if (event->matches(QKeySequence::SelectAll)) BeginAtTop();
   if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier)) {
     emit HeaderMenuAsked(std::max(CurrentColumn() - 1, 0));
     return;
