@@ -11,7 +11,7 @@ target_compile_options(ferrowind_build_options INTERFACE
   -fPIC -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2
   $<$<BOOL:${FERROWIND_WARNINGS_AS_ERRORS}>:-Werror>)
 # While it optimises, GCC follows values into the standard library's inlined code and reports accesses there that cannot
-# happen, others in each release of its own. Clang and the sanitizers look for the same faults and are right.
+# happen, others in each release of its own. Clang and the sanitizers look for most of these faults without that.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(ferrowind_build_options INTERFACE
     -Wno-array-bounds -Wno-free-nonheap-object -Wno-maybe-uninitialized -Wno-restrict -Wno-stringop-overflow

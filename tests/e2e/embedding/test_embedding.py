@@ -8,6 +8,7 @@ screen, and the compiler's cache, which changes nothing but the time that it tak
 import contextlib
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -77,8 +78,9 @@ class Embedding(unittest.TestCase):
         if block.expected is not None:
             self.assertTrue(guide.prints(block.expected, output), f'{block.place}:\n{output}')
 
-    def captions_shown_by(self, commands):
-        """The captions of a calendar's days in the windows that the commands open and that are closed again."""
+    def captions_shown_by(self, commands, refused=None):
+        """The captions of a calendar's days in the windows that the commands open and that are closed again. Meanwhile the
+        calendar of a year that is there already is asked for, which the host tells of as `refused`."""
         process = self.start(commands)
         self.wait_active(process, 'Calendars')
         self.session.type('EUR')
@@ -86,11 +88,17 @@ class Embedding(unittest.TestCase):
         grid = self.accessible.GridReader(self.accessible.application(HOST))
         wait_for(lambda: grid.row_count() == 365, 'the days of a calendar')
         captions = grid.captions()
+        self.session.keys('ctrl+n')
+        self.wait_active(process, 'Select year EUR currency')
+        self.session.type('2026')
+        self.session.keys('Return')
+        self.wait_active(process, 'Calendars')
         self.session.keys('alt+F4')
         self.wait_active(process, HOST)
         self.session.keys('alt+F4')
         output = process.communicate(timeout=60)[0]
         self.assertEqual(process.returncode, 0, output)
+        self.assertEqual(refused in output if refused else 'refused' not in output, True, output)
         return captions
 
     def wait_active(self, process, title):
@@ -99,12 +107,15 @@ class Embedding(unittest.TestCase):
             return self.session.active_title() == title
         wait_for(is_active, f'the window "{title}"')
 
-    def put_in_columns(self, code):
-        """The fragment instead of the line that it stands for."""
+    def put_in(self, columns, observer, surroundings):
+        """The page's fragments, each where it belongs."""
         source = self.tree / EXAMPLE / 'main.cpp'
-        before = source.read_text()
-        [line] = [line for line in before.splitlines(keepends=True) if 'SetCaption' in line]
-        source.write_text(before.replace(line, code))
+        text = source.read_text()
+        for pattern, code in ((r'.*SetCaption.*\n', columns), (r'(?=int main\()', observer + '\n'),
+                              (r'.*Platform platform\{\n.*\n', surroundings)):
+            text, count = re.subn(pattern, lambda _, code=code: code, text)
+            self.assertEqual(count, 1, pattern)
+        source.write_text(text)
 
     def test_every_block_does_what_the_guide_says(self):
         blocks = [block for block in guide.blocks(PAGE) if block.person != 'root']
@@ -120,10 +131,9 @@ class Embedding(unittest.TestCase):
         self.assertIn('Remark', captions)
         self.assertNotIn('Rule number', captions)
 
-        [columns] = guide.code(PAGE, 'cpp')
-        self.put_in_columns(columns)
+        self.put_in(*guide.code(PAGE, 'cpp'))
         self.follow(building)
-        captions = self.captions_shown_by(open_host)
+        captions = self.captions_shown_by(open_host, refused='A change was refused: 6')
         self.assertIn('Remark', captions)
         self.assertIn('Rule number', captions)
         self.assertEqual(blocks[-1], starting, 'blocks behind the start of the host are not followed')
