@@ -143,6 +143,19 @@ TEST_F(RuleDatesTest, AreRefusedOnEnterWhenTheyAreNone) {
   EXPECT_EQ(Stored(), "");
 }
 
+TEST_F(RuleDatesTest, AreNotGuessedFromNumbersThatCouldBeTwoDays) {
+  InEditor([](QWidget& editor) {
+    auto& field = FieldOf(editor);
+    field.setLocale(QLocale(QStringLiteral("en_GB")));
+    TypeOver(field, QStringLiteral("05-06"));
+    Press(field, Qt::Key_Return);
+    EXPECT_TRUE(editor.isVisible());
+    EXPECT_EQ(NoteOf(editor), "05-06 can be 5 June or 6 May. Write the name of the month.");
+    ExpectWhole(editor);
+  });
+  EXPECT_EQ(Stored(), "");
+}
+
 TEST_F(RuleDatesTest, AreRefusedByOkWhenTheyAreNoneAndStoredOnceTheyAreMended) {
   InEditor([this](QWidget& editor) {
     auto& field = FieldOf(editor);

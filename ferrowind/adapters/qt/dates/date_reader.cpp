@@ -104,7 +104,7 @@ std::optional<DateReading> DateReader::ReadNumbers(const QString& plain, int yea
   const bool can_be_day_first = IsDay(day_first.day, day_first.month);
   const bool can_be_month_first = IsDay(month_first.day, month_first.month);
   if (can_be_day_first && can_be_month_first && day_first != month_first) {
-    const NumberOrder order = numbers_.OrderOf(separator[0], first.size() == 2 && second.size() == 2);
+    const NumberOrder order = numbers_.OrderOf(separator[0]);
     if (order == NumberOrder::kUnknown) return TwoDays(plain, day_first, month_first);
     return InYear(order == NumberOrder::kDayFirst ? day_first : month_first, year);
   }

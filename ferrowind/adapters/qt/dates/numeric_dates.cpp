@@ -17,14 +17,11 @@ NumericDates::NumericDates(const QLocale& locale) {
   }
 }
 
-NumberOrder NumericDates::OrderOf(QChar separator, bool are_two_digits) const {
-  const bool has_hyphens = separator_ == QLatin1Char('-');
-  if (separator != QLatin1Char('-')) {
-    if (is_day_first_) return NumberOrder::kDayFirst;
-    return has_hyphens ? NumberOrder::kUnknown : NumberOrder::kMonthFirst;
-  }
-  if (!is_day_first_) return NumberOrder::kMonthFirst;
-  return are_two_digits && !has_hyphens ? NumberOrder::kMonthFirst : NumberOrder::kUnknown;
+NumberOrder NumericDates::OrderOf(QChar separator) const {
+  constexpr QLatin1Char kHyphen('-');
+  if (separator == kHyphen) return is_day_first_ ? NumberOrder::kUnknown : NumberOrder::kMonthFirst;
+  if (is_day_first_) return NumberOrder::kDayFirst;
+  return separator_ == kHyphen ? NumberOrder::kUnknown : NumberOrder::kMonthFirst;
 }
 
 QString NumericDates::Written(int day, int month) const {

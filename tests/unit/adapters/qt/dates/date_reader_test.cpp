@@ -54,7 +54,7 @@ class DateReaderOfALocale : public testing::TestWithParam<const char*> {
  protected:
   QLocale locale_{QString::fromLatin1(GetParam())};
 
-  void ExpectEveryDayAs(const std::vector<const char*>& formats) {
+  void ExpectEveryDayAs(const std::vector<const char*>& formats) const {
     for (const char* format : formats) {
       ExpectEveryDay(locale_,
                      [&](const QDate& date) { return locale_.toString(date, QString::fromLatin1(format)); });
@@ -84,7 +84,7 @@ TEST_P(DateReaderOfALocale, ReadsEveryDayByTwoNumbersInItsOrder) {
   if (IsMonthFirst()) {
     ExpectEveryDayAs({"M.d", "MM.dd.", "M/d", "MM/dd", "MM-dd", "M-d"});
   } else {
-    ExpectEveryDayAs({"d.M", "dd.MM.", "d. M.", "d/M", "dd/MM", "MM-dd"});
+    ExpectEveryDayAs({"d.M", "dd.MM.", "d. M.", "d/M", "dd/MM"});
   }
 }
 
@@ -95,6 +95,20 @@ TEST_P(DateReaderOfALocale, ReadsADayAboveTwelveInEitherOrder) {
       if (date.day() <= 12) continue;
       const QString text = locale_.toString(date, QString::fromLatin1(format));
       ASSERT_EQ(reader.Read(text, kLeapYear).date, date) << text.toStdString();
+    }
+  }
+}
+
+TEST_P(DateReaderOfALocale, NeverGuessesTheOrderByAHyphenWhereTheDayIsFirst) {
+  if (IsMonthFirst()) return ExpectEveryDayAs({"MM-dd", "M-d"});
+  const DateReader reader(locale_);
+  for (const char* format : {"MM-dd", "dd-MM", "M-d", "d-M", "M-dd", "dd - MM"}) {
+    for (QDate date(kLeapYear, 1, 1); date.year() == kLeapYear; date = date.addDays(1)) {
+      const QString text = locale_.toString(date, QString::fromLatin1(format));
+      const DateReading reading = reader.Read(text, kLeapYear);
+      const bool can_be_another = date.day() <= 12 && date.day() != date.month();
+      ASSERT_EQ(reading.date, can_be_another ? QDate() : date) << text.toStdString();
+      ASSERT_EQ(reading.refusal.contains(QStringLiteral(" can be ")), can_be_another) << text.toStdString();
     }
   }
 }
@@ -147,17 +161,18 @@ TEST(DateReader, ReadsANumberPairInTheOrderOfTheLocale) {
   EXPECT_READ("ja_JP", "5/6", "05-06");
 }
 
-TEST(DateReader, ReadsTwoDigitsAndAHyphenAsIsoDoes) {
-  EXPECT_READ("en_GB", "05-06", "05-06");
+TEST(DateReader, ReadsAHyphenAsIsoDoesWhereNothingContradictsIt) {
   EXPECT_READ("en_US", "05-06", "05-06");
   EXPECT_READ("sv_SE", "05-06", "05-06");
   EXPECT_READ("en_GB", "12-31", "12-31");
+  EXPECT_READ("en_GB", "05-05", "05-05");
   EXPECT_READ("en_GB", "12\u201331", "12-31");
 }
 
 TEST(DateReader, RefusesNumbersThatCouldBeTwoDays) {
-  // A Dutch date has hyphens and the day first; a Swedish one the year first, while people write 5/6 for
-  // June.
+  // ISO 8601 has the month first; a British date the day, and a Dutch one has hyphens besides. A Swedish date
+  // has the year first, while people write 5/6 for June.
+  EXPECT_EQ(RefusalIn("en_GB", "05-06"), "05-06 can be 5 June or 6 May. Write the name of the month.");
   EXPECT_EQ(RefusalIn("nl_NL", "05-06"), "05-06 can be 5 juni or 6 mei. Write the name of the month.");
   EXPECT_EQ(RefusalIn("en_GB", "5-6"), "5-6 can be 5 June or 6 May. Write the name of the month.");
   EXPECT_THAT(RefusalIn("sv_SE", "5/6"), HasSubstr("can be"));
