@@ -73,6 +73,19 @@ TEST_F(NewYearTest, TakesTheTypedYearAtOnce) {
   EXPECT_THAT(SelectedNode(Tree()), ElementsAre("GBP", "2032"));
 }
 
+TEST_F(NewYearTest, KeepsTheYearWhenABlankIsTypedOutsideTheField) {
+  InDialog([](QWidget& dialog) {
+    Activate(dialog);
+    const std::string year = Year(dialog);
+    // The button that has the focus takes the space key itself, and some keyboards have other blanks.
+    QTest::sendKeyEvent(QTest::Click, &dialog, Qt::Key_Space, QChar(QChar::Space), {});
+    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_nobreakspace, QChar(QChar::Nbsp),
+                        Qt::ShiftModifier);
+    EXPECT_EQ(Year(dialog), year);
+    EXPECT_TRUE(Find<QWidget>(dialog, "cmdCreate").hasFocus());
+  });
+}
+
 TEST_F(NewYearTest, ReplacesTheYearAfterAClickIntoTheField) {
   InDialog([](QWidget& dialog) {
     Activate(dialog);

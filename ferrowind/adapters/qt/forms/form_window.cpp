@@ -172,8 +172,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 bool FormWindow::TypeIntoTarget(QKeyEvent& event) {
   constexpr auto kOfText = Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
   const QString text = event.text();
-  const bool is_text =
-      !text.isEmpty() && text[0].isPrint() && (event.modifiers() & ~kOfText) == Qt::NoModifier;
+  const bool is_text = !text.isEmpty() && text[0].isPrint() && !text[0].isSpace() &&
+                       (event.modifiers() & ~kOfText) == Qt::NoModifier;
   if (!is_text || typing_target_ == nullptr || typing_target_->hasFocus() || !typing_target_->isEnabled())
     return false;
   typing_target_->setFocus();

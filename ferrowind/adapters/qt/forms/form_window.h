@@ -32,7 +32,7 @@ class FormWindow : public QDialog {
   void SetBorder(platform::FormBorder border);
   [[nodiscard]] platform::FormBorder Border() const { return border_; }
   /// The line edit, of this window, that takes what is typed while the focus is on a widget that takes no
-  /// text.
+  /// text; but no blank at its beginning, which would replace a selected text by nothing to be seen.
   void SetTypingTarget(QLineEdit& line);
   /// Whether Esc closes the window as its close box does, when no control and no button takes the key.
   void SetClosesByEscape(bool closes) { closes_by_escape_ = closes; }
