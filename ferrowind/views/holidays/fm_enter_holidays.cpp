@@ -214,7 +214,8 @@ void fmEnterHolidays::Edit() {
 void fmEnterHolidays::EditRule(std::int32_t editor_mode, std::shared_ptr<platform::RecordSet> rule,
                                std::shared_ptr<GridFields> column_map) {
   fmAddHoliday editor(platform_);
-  editor.SetYear(target_.year);
+  // The calendar has no say in a rule that exists: one without a date is saved with the current one.
+  if (editor_mode == kAddRule) editor.SetYear(target_.year);
   if (!editor.Init(editor_mode, list_.HolidayTypes(), list_.FirstWeekday(), std::move(rule),
                    std::move(column_map))) {
     editor.Unload();

@@ -263,6 +263,25 @@ TEST(EditHoliday, OpensTheEditorOnTheSelectedRule) {
   }
 }
 
+TEST(EditHoliday, SavesARuleWithoutADateWithTheCurrentDateWhateverTheYearOfTheCalendar) {
+  for (const std::int32_t type : {3, 4}) {
+    RunInFreshThread([type] {
+      HolidaysWorld world;
+      world.SetRules({HolidaysWorld::Rule(9, "Undated", type, {}, {})});
+      ASSERT_TRUE(world.Init(0, 2028));
+      world.world.commands.Forget("CldIUCelebrate");
+      world.world.commands.Answer("CldIUCelebrate").Takes("@D1", platform::ParameterType::kDate);
+      world.Answer("fmAddHoliday", "cmdOk");
+      world.Show([&] {
+        world.Grid().ClickRow(1);
+        world.Action(1).Click();
+      });
+      EXPECT_EQ(world.world.commands.CallsOf("CldIUCelebrate").at(0).Parameter("@D1"),
+                Value(Date(2026, 1, 15)));
+    });
+  }
+}
+
 TEST(EditHoliday, KeepsItsRuleWhilePaintingMovesTheListsCursor) {
   RunInFreshThread([] {
     HolidaysWorld world;
