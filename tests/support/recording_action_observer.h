@@ -3,19 +3,28 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "ferrowind/platform/services/action_observer.h"
 
 namespace ferrowind::testing {
 
 /// Keeps what it is told, in order, as texts: `began assign EUR 2026 [Saturday, Sunday]`, `write Saturday 0`,
-/// `read -1 No way`, `days 2`, `ended`, `question remove [Saturday]`, `answered`.
+/// `read -1 No way`, `days 2`, `ended`, `question remove [Saturday]`, `answered`. A step that is told while
+/// no action runs fails the test.
 class RecordingActionObserver : public platform::ActionObserver {
  public:
-  void ActionBegan(const platform::OperatorAction& action) override { Record("began " + TextOf(action)); }
-  void WriteEnded(const platform::ActionStep& step) override { Record("write " + TextOf(step)); }
-  void ReadEnded(const platform::ActionStep& step) override { Record("read " + TextOf(step)); }
-  void DaysReread(std::int32_t changed) override { Record("days " + std::to_string(changed)); }
-  void ActionEnded() override { Record("ended"); }
+  void ActionBegan(const platform::OperatorAction& action) override {
+    ++running_actions_;
+    Record("began " + TextOf(action));
+  }
+  void WriteEnded(const platform::ActionStep& step) override { RecordStep("write " + TextOf(step)); }
+  void ReadEnded(const platform::ActionStep& step) override { RecordStep("read " + TextOf(step)); }
+  void DaysReread(std::int32_t changed) override { RecordStep("days " + std::to_string(changed)); }
+  void ActionEnded() override {
+    RecordStep("ended");
+    --running_actions_;
+  }
   void QuestionOpens(const platform::OperatorAction& action) override {
     Record("question " + TextOf(action));
   }
@@ -42,7 +51,13 @@ class RecordingActionObserver : public platform::ActionObserver {
            (step.failure ? " " + step.failure->Description() : "");
   }
 
+  void RecordStep(std::string event) {
+    EXPECT_GT(running_actions_, 0) << "told outside of an action: " << event;
+    Record(std::move(event));
+  }
   void Record(std::string event) { events.push_back(std::move(event)); }
+
+  int running_actions_ = 0;
 };
 
 /// Throws whatever it is told.

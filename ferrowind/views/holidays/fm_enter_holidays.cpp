@@ -222,7 +222,10 @@ void fmEnterHolidays::EditRule(std::int32_t editor_mode, std::shared_ptr<platfor
     return;
   }
   editor.ShowModal();
-  if (editor.Result() == 0) Reload();
+  if (editor.Result() != 0) return;
+  // An editor that was closed without Ok or Cancel has no action of its own that the reading could belong to.
+  const ActionScope reading(platform_.action_observer, ActionKind::kShowRules);
+  Reload();
 }
 
 void fmEnterHolidays::ToggleFilter() {

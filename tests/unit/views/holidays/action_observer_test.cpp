@@ -114,7 +114,8 @@ TEST(HolidaysActions, AnAdditionLastsUntilTheRulesAreReadAgain) {
                 });
                 world.Action(kAdd).Click();
               }),
-              ElementsAre("began add [Founding Day]", "write Founding Day 10", "read 0", "ended"));
+              ElementsAre("began add [Founding Day]", "write Founding Day 10", "began show rules", "read 0",
+                          "ended", "ended"));
 }
 
 TEST(HolidaysActions, AChangeOfARuleIsToldAsSuch) {
@@ -123,7 +124,27 @@ TEST(HolidaysActions, AChangeOfARuleIsToldAsSuch) {
                 world.Grid().ClickRow(world.RowOf("Christmas Day"));
                 world.Action(kEdit).Click();
               }),
-              ElementsAre("began edit [Christmas Day]", "write Christmas Day 0", "read 0", "ended"));
+              ElementsAre("began edit [Christmas Day]", "write Christmas Day 0", "began show rules", "read 0",
+                          "ended", "ended"));
+}
+
+TEST(HolidaysActions, AnEditorThatIsClosedByItsCloseBoxIsFollowedByAReadOfTheRules) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.world.toolkit.ScriptModal("fmAddHoliday", [&](headless::HeadlessForm& form) {
+                  world.world.commands.FailAt(CommandStep::kExecute, {14, "The file is away"});
+                  EXPECT_TRUE(form.CloseByOperator());
+                });
+                world.Action(kAdd).Click();
+              }),
+              ElementsAre("began show rules", "read -1 The file is away", "ended"));
+}
+
+TEST(HolidaysActions, AnEditorThatIsCancelledIsNoAction) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.Answer("fmAddHoliday", "cmdCancel");
+                world.Action(kAdd).Click();
+              }),
+              ::testing::IsEmpty());
 }
 
 TEST(HolidaysActions, ARuleWithoutANameIsToldWithoutOne) {

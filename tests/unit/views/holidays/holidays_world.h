@@ -11,6 +11,7 @@
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/world.h"
 #include "ferrowind/control/default_headers.h"
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/views/holidays/fm_enter_holidays.h"
 
@@ -73,7 +74,9 @@ class HolidaysWorld {
         .Gives({"FirstDay"}, {{1}});
   }
 
+  /// As the Calendars window does it, within an action of its own.
   bool Init(std::int32_t mode, std::int32_t year = 2026, std::int32_t day_of_year = 100) {
+    const ActionScope opening(platform.action_observer, platform::ActionKind::kOpenRules);
     return window->Init(headers, mode, year, 978, day_of_year);
   }
   bool InitWithUsualRules(std::int32_t mode) {
