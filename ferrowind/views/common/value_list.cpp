@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/runtime_failure.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -9,7 +10,8 @@
 namespace ferrowind {
 
 bool FillColumnValueList(platform::Grid& grid, const std::string& column_key, platform::RecordSet& records,
-                         const std::string& text_field, const std::string& value_field) {
+                         const std::string& text_field, const std::string& value_field,
+                         platform::ActionObserver* observer) {
   try {
     if (records.Bof() && records.Eof()) return false;
     platform::GridColumn& column = grid.ColumnByKey(column_key);
@@ -22,6 +24,7 @@ bool FillColumnValueList(platform::Grid& grid, const std::string& column_key, pl
     return true;
   } catch (const std::exception&) {
     const platform::Failure failure = FailureBeingHandled();
+    TellFailedRead(observer);
     SharedServicesObject().ReportError(failure.Number(), failure.Description());
     return false;
   }

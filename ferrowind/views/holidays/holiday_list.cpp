@@ -39,6 +39,8 @@ bool Equals(const Value& value, std::int32_t number) {
   return !value.IsEmpty() && platform::ToInt32(value) == number;
 }
 
+bool IsEmpty(const RecordSet& records) { return records.Bof() && records.Eof(); }
+
 }  // namespace
 
 HolidayList::HolidayList(const platform::Platform& platform, platform::Grid& grid,
@@ -64,39 +66,51 @@ bool HolidayList::Load() {
   std::shared_ptr<SourceValues> results;
   const std::int32_t answer = ExecProc("CldAllInfo", &no_params, results);
   TellRead(platform_.action_observer, answer);
+  const auto tell_lacking = [&](const std::string& what) {
+    if (answer == 0) TellIncompleteRead(platform_.action_observer, what);
+  };
   if (!RecordSetIn(results, "1")) {
-    if (answer == 0) TellIncompleteRead(platform_.action_observer, "the calendars");
+    tell_lacking("the calendars");
     return false;
   }
   // What one step has loaded is kept when a later one fails.
   const auto holiday_types = RecordSetIn(results, "2");
   if (!holiday_types) {
+    tell_lacking("the types of holidays");
     ShowErrorMessage(error_index::kCannotLoadHolidayTypes);
     return false;
   }
   holiday_types_ = holiday_types;
   const auto holidays = RecordSetIn(results, "3");
   if (!holidays) {
+    tell_lacking("the rules");
     ShowErrorMessage(error_index::kCannotLoadHolidays);
     return false;
   }
-  const auto first_weekday = LoadFirstWeekday(RecordSetIn(results, platform::ToText(results->Count())));
+  const auto setting = RecordSetIn(results, platform::ToText(results->Count()));
+  if (!setting) {
+    tell_lacking("the first weekday");
+    ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
+    return false;
+  }
+  const auto first_weekday = LoadFirstWeekday(*setting);
   if (!first_weekday) return false;
   first_weekday_ = *first_weekday;
-  if (!FillColumnValueList(grid_, kTypeColumn, *holiday_types_, "Description1", "TID1")) return false;
+  if (!FillColumnValueList(grid_, kTypeColumn, *holiday_types_, "Description1", "TID1",
+                           platform_.action_observer)) {
+    if (IsEmpty(*holiday_types_)) tell_lacking("the types of holidays");
+    return false;
+  }
   FillGrid(holidays);
   return true;
 }
 
-std::optional<std::int32_t> HolidayList::LoadFirstWeekday(const std::shared_ptr<RecordSet>& setting) {
-  if (!setting) {
-    ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
-    return std::nullopt;
-  }
+std::optional<std::int32_t> HolidayList::LoadFirstWeekday(const RecordSet& setting) const {
   try {
-    return platform::ToInt32((*setting)["FirstDay"]);
+    return platform::ToInt32(setting["FirstDay"]);
   } catch (const std::exception&) {
     const RuntimeFailureScope caught;
+    TellFailedRead(platform_.action_observer);
     ShowErrorMessage(error_index::kCannotLoadFirstWeekday);
     return std::nullopt;
   }

@@ -50,9 +50,8 @@ class HolidayList {
   void ComputeText(platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text);
 
  private:
-  /// Nothing when it is missing, which has been reported.
-  [[nodiscard]] static std::optional<std::int32_t> LoadFirstWeekday(
-      const std::shared_ptr<platform::RecordSet>& setting);
+  /// Nothing when it cannot be read, which has been reported.
+  [[nodiscard]] std::optional<std::int32_t> LoadFirstWeekday(const platform::RecordSet& setting) const;
   void FillGrid(const std::shared_ptr<platform::RecordSet>& holidays);
   void AddFormats();
   /// The record set on show, on that row.

@@ -21,6 +21,7 @@ using testing::Date;
 using ::testing::ElementsAre;
 using testing::HolidaysWorld;
 using testing::RecordingActionObserver;
+using testing::Rows;
 using testing::RunInFreshThread;
 
 enum Button { kAdd, kEdit, kRemove, kRestore, kFilter, kAssign };
@@ -145,6 +146,72 @@ TEST(HolidaysActions, AnEditorThatIsCancelledIsNoAction) {
                 world.Action(kAdd).Click();
               }),
               ::testing::IsEmpty());
+}
+
+TEST(HolidaysActions, AnAnswerThatLacksAPartIsNoGoodRead) {
+  const Rows calendars = {{978, 2026}};
+  const Rows types = {{2, "Holiday"}};
+  const auto told_at = [&](int sets) {
+    return Told([&](HolidaysWorld& world) {
+      world.world.commands.Forget("CldAllInfo");
+      auto& answer = world.world.commands.Answer("CldAllInfo").Gives({"ID1", "Year1"}, calendars);
+      if (sets > 1) answer.Gives({"TID1", "Description1"}, types);
+      world.Action(kFilter).Click();
+    });
+  };
+  EXPECT_THAT(told_at(1),
+              ElementsAre("began show rules", "read 0",
+                          "read -1 The answer of the database lacks the types of holidays", "ended"));
+  EXPECT_THAT(told_at(2), ElementsAre("began show rules", "read 0",
+                                      "read -1 The answer of the database lacks the rules", "ended"));
+}
+
+TEST(HolidaysActions, AnAnswerWithoutARowOfTypesIsNoGoodRead) {
+  EXPECT_THAT(Told([](HolidaysWorld& world) {
+                world.world.commands.Forget("CldAllInfo");
+                world.world.commands.Answer("CldAllInfo")
+                    .Gives({"ID1", "Year1"}, {{978, 2026}})
+                    .Gives({"TID1", "Description1"}, {})
+                    .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, {})
+                    .Gives({"FirstDay"}, {{1}});
+                world.Action(kFilter).Click();
+                EXPECT_TRUE(world.Messages().empty());
+              }),
+              ElementsAre("began show rules", "read 0",
+                          "read -1 The answer of the database lacks the types of holidays", "ended"));
+}
+
+TEST(HolidaysActions, AFirstWeekdayThatCannotBeReadIsToldAsTheFailureThatTheOperatorSees) {
+  std::string seen;
+  const auto told = Told([&](HolidaysWorld& world) {
+    world.world.commands.Forget("CldAllInfo");
+    world.world.commands.Answer("CldAllInfo")
+        .Gives({"ID1", "Year1"}, {{978, 2026}})
+        .Gives({"TID1", "Description1"}, {{2, "Holiday"}})
+        .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, {})
+        .Gives({"FirstDay"}, {{"soon"}});
+    world.Action(kFilter).Click();
+    ASSERT_EQ(world.world.services->Reports().size(), 1u);
+    seen = world.world.services->Reports().front().description;
+  });
+  EXPECT_THAT(told, ElementsAre("began show rules", "read 0", "read -1 " + seen, "ended"));
+}
+
+TEST(HolidaysActions, TypesThatCannotBeReadAreToldAsTheFailureThatTheOperatorSees) {
+  RecordingActionObserver observer;
+  std::string seen;
+  RunInFreshThread([&] {
+    HolidaysWorld world(&observer);
+    world.world.commands.Answer("CldAllInfo")
+        .Gives({"ID1", "Year1"}, {{978, 2026}})
+        .Gives({"TID1"}, {{2}})
+        .Gives({"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, {})
+        .Gives({"FirstDay"}, {{1}});
+    EXPECT_FALSE(world.Init(1));
+    ASSERT_EQ(world.world.services->Reports().size(), 1u);
+    seen = world.world.services->Reports().front().description;
+  });
+  EXPECT_THAT(observer.events, ElementsAre("began open rules", "read 0", "read -1 " + seen, "ended"));
 }
 
 TEST(HolidaysActions, ARuleWithoutANameIsToldWithoutOne) {
