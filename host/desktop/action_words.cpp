@@ -61,7 +61,7 @@ std::string OneLine(const std::string& text) {
 }
 
 /// What the procedures mean by their return values.
-std::string Meaning(std::int32_t return_value) {
+std::string Meaning(ActionKind kind, std::int32_t return_value) {
   switch (return_value) {
     case 2:
       return "There is a rule of that name already";
@@ -76,6 +76,8 @@ std::string Meaning(std::int32_t return_value) {
     case 6:
       return "The calendar exists already";
     case 7:
+      // The year is all that an operator gives for a calendar.
+      if (kind == ActionKind::kCreateCalendar) return "A calendar's year is 1900 to 3000.";
       return "A value is missing or out of range";
     default:
       return "The database refused it, with the number " + std::to_string(return_value);
@@ -120,7 +122,7 @@ std::vector<std::pair<std::string, std::vector<std::string>>> RefusedByReason(co
   std::vector<std::pair<std::string, std::vector<std::string>>> groups;
   for (const ActionStep& write : record.writes) {
     if (IsDone(write)) continue;
-    const std::string reason = ActionWords::Reason(write);
+    const std::string reason = ActionWords::Reason(record.action.kind, write);
     auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& g) { return g.first == reason; });
     if (group == groups.end()) group = groups.insert(groups.end(), {reason, {}});
     group->second.push_back(write.rule);
@@ -227,8 +229,8 @@ std::string ActionWords::FailedRead(const OperatorAction& action,
          Joined(reasons, "\n");
 }
 
-std::string ActionWords::Reason(const ActionStep& step) {
-  return step.failure ? OneLine(PasswordFree(step.failure->Description())) : Meaning(step.return_value);
+std::string ActionWords::Reason(ActionKind kind, const ActionStep& step) {
+  return step.failure ? OneLine(PasswordFree(step.failure->Description())) : Meaning(kind, step.return_value);
 }
 
 }  // namespace ferrowind::host

@@ -29,8 +29,8 @@ class ActionWords {
   [[nodiscard]] std::string FailedRead(const platform::OperatorAction& action,
                                        const std::vector<std::string>& reasons) const;
 
-  /// Why the step was not done, in one line.
-  [[nodiscard]] static std::string Reason(const platform::ActionStep& step);
+  /// Why the step of an action of that kind was not done, in one line.
+  [[nodiscard]] static std::string Reason(platform::ActionKind kind, const platform::ActionStep& step);
 
  private:
   [[nodiscard]] std::string DayText(const platform::Date& day) const;

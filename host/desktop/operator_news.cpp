@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace ferrowind::host {
 
@@ -22,6 +21,8 @@ bool IsShown(const ActionRecord& record, const ActionStep& step) {
   return (kind == ActionKind::kAddRule || kind == ActionKind::kEditRule) && step.return_value == kNameInUse;
 }
 
+std::string Timed(const std::string& time, const std::string& text) { return time + ": " + text; }
+
 bool Holds(const std::vector<std::string>& texts, const std::string& text) {
   return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
@@ -36,6 +37,7 @@ OperatorNews::OperatorNews(const platform::Locale& locale, std::function<std::st
 
 void OperatorNews::ActionBegan(const OperatorAction& action) {
   if (++depth_ > 1) return;
+  ++actions_;
   record_.emplace();
   record_->action = action;
   action_began_.Emit();
@@ -104,29 +106,35 @@ void OperatorNews::ConcludeWrites(const ActionRecord& record, bool is_over) {
   const auto is_refused = [](const ActionStep& write) { return !IsDone(write); };
   const auto is_untold = [&](const ActionStep& write) { return !IsDone(write) && !IsShown(record, write); };
   if (std::any_of(record.writes.begin(), record.writes.end(), is_untold)) {
-    refused_write_ = Timed(words_.Refusal(record));
+    TellRefused(words_.Refusal(record));
   } else if (is_over && !record.writes.empty() &&
              std::none_of(record.writes.begin(), record.writes.end(), is_refused)) {
-    refused_write_.clear();
+    refused_changes_.clear();
   }
+}
+
+void OperatorNews::TellRefused(const std::string& text) {
+  std::erase_if(refused_changes_,
+                [&](const RefusedChange& told) { return told.action == actions_ || told.text == text; });
+  refused_changes_.insert(refused_changes_.begin(), {actions_, text, time_text_()});
 }
 
 void OperatorNews::ConcludeReads(const ActionRecord& record, bool is_over) {
   std::vector<std::string> told;
   for (const ActionStep& write : record.writes) {
-    if (!IsDone(write)) told.push_back(ActionWords::Reason(write));
+    if (!IsDone(write)) told.push_back(ActionWords::Reason(record.action.kind, write));
   }
   bool has_failed = false;
   std::vector<std::string> reasons;
   for (const ActionStep& read : record.reads) {
     if (IsDone(read)) continue;
     has_failed = true;
-    const std::string reason = ActionWords::Reason(read);
+    const std::string reason = ActionWords::Reason(record.action.kind, read);
     if (IsShown(record, read) || Holds(told, reason) || Holds(reasons, reason)) continue;
     reasons.push_back(reason);
   }
   if (!reasons.empty()) {
-    failed_read_ = Timed(words_.FailedRead(record.action, reasons));
+    failed_read_ = Timed(time_text_(), words_.FailedRead(record.action, reasons));
   } else if (is_over && !has_failed && !record.reads.empty()) {
     failed_read_.clear();
   }
@@ -134,14 +142,17 @@ void OperatorNews::ConcludeReads(const ActionRecord& record, bool is_over) {
 
 void OperatorNews::Dismiss() {
   if (Trouble().empty()) return;
-  refused_write_.clear();
+  refused_changes_.clear();
   failed_read_.clear();
   trouble_changed_.Emit({});
 }
 
 std::string OperatorNews::Trouble() const {
-  const bool are_both = !refused_write_.empty() && !failed_read_.empty();
-  return refused_write_ + (are_both ? "\n" : "") + failed_read_;
+  std::string trouble;
+  const auto add = [&](const std::string& text) { trouble += (trouble.empty() ? "" : "\n") + text; };
+  for (const RefusedChange& refused : refused_changes_) add(Timed(refused.time, refused.text));
+  if (!failed_read_.empty()) add(failed_read_);
+  return trouble;
 }
 
 void OperatorNews::SetNote(const std::string& note) {
@@ -149,8 +160,6 @@ void OperatorNews::SetNote(const std::string& note) {
   note_ = note;
   note_changed_.Emit(note_);
 }
-
-std::string OperatorNews::Timed(const std::string& text) const { return time_text_() + ": " + text; }
 
 platform::Subscription OperatorNews::OnTrouble(TextHandler handler) {
   return trouble_changed_.Subscribe(std::move(handler));

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "ferrowind/platform/events/signal.h"
 #include "ferrowind/platform/services/action_observer.h"
@@ -15,9 +16,10 @@ namespace ferrowind::host {
 /// What the operator should know of their last actions: a trouble that needs a look, and a short note of what
 /// was done or is being asked.
 ///
-/// The trouble of a refused change stays until a change is made or it is dismissed, whatever is read
-/// meanwhile; that of a failed read stays until an action reads all it should. A failure that the component
-/// has shown in a message of its own is not told again.
+/// The troubles of refused changes stay, the newest first, until a change is made or they are dismissed,
+/// whatever is read meanwhile; the same trouble again takes the place of the older one. That of a failed read
+/// stays until an action reads all it should. A failure that the component has shown in a message of its own
+/// is not told again.
 class OperatorNews : public platform::ActionObserver {
  public:
   using TextHandler = std::function<void(const std::string& text)>;
@@ -56,22 +58,32 @@ class OperatorNews : public platform::ActionObserver {
   [[nodiscard]] platform::Subscription OnAction(std::function<void()> handler);
 
  private:
+  struct RefusedChange {
+    /// Which of the actions so far it was; it is told anew when more of the action becomes known.
+    int action;
+    std::string text;
+    std::string time;
+  };
+
   /// Takes over the troubles of the action and, when it is over, forgets those that it has ended.
   void Conclude(const ActionRecord& record, bool is_over);
   void ConcludeWrites(const ActionRecord& record, bool is_over);
   void ConcludeReads(const ActionRecord& record, bool is_over);
   void SetNote(const std::string& note);
   void TellBusy();
-  [[nodiscard]] std::string Timed(const std::string& text) const;
+  void TellRefused(const std::string& text);
 
   ActionWords words_;
   std::function<std::string()> time_text_;
   /// The outermost action that is running.
   std::optional<ActionRecord> record_;
   int depth_ = 0;
+  /// The outermost ones that have begun.
+  int actions_ = 0;
   int open_messages_ = 0;
   bool was_busy_ = false;
-  std::string refused_write_;
+  /// The newest first.
+  std::vector<RefusedChange> refused_changes_;
   std::string failed_read_;
   std::string note_;
   std::string note_before_question_;

@@ -49,7 +49,8 @@ class OperatorNewsTest : public ::testing::Test {
   }
 
   headless::HeadlessLocale locale_;
-  OperatorNews news_{locale_, [] { return std::string("14:05:10"); }};
+  std::string time_ = "14:05:10";
+  OperatorNews news_{locale_, [this] { return time_; }};
   std::vector<std::string> troubles_;
   std::vector<std::string> notes_;
   std::vector<bool> busy_;
@@ -77,6 +78,54 @@ TEST_F(OperatorNewsTest, ARefusedWriteIsForgottenWhenAWriteSucceedsOrItIsDismiss
   EXPECT_EQ(troubles_.size(), 4u);
   news_.Dismiss();
   EXPECT_EQ(troubles_.size(), 4u);
+}
+
+TEST_F(OperatorNewsTest, EachRefusedChangeStaysToldTheNewestFirst) {
+  Do(ActionKind::kRemoveRules, {Returned(4)}, {}, {}, {"A"});
+  time_ = "14:06:00";
+  Do(ActionKind::kRemoveRules, {Returned(4)}, {Failed("It is down")}, {}, {"B"});
+  EXPECT_EQ(
+      news_.Trouble(),
+      "14:06:00: Remove \"B\": refused.\nThe database does not know the rule\n"
+      "14:05:10: Remove \"A\": refused.\nThe database does not know the rule\n"
+      "14:06:00: Remove \"B\": the database did not do what was asked. What is shown may be out of date.\n"
+      "It is down");
+}
+
+TEST_F(OperatorNewsTest, TheSameRefusalAgainTakesThePlaceOfTheOlderOne) {
+  Do(ActionKind::kRemoveRules, {Returned(4)}, {}, {}, {"A"});
+  Do(ActionKind::kExceptDay, {Returned(5)}, {});
+  time_ = "14:06:00";
+  Do(ActionKind::kRemoveRules, {Returned(4)}, {}, {}, {"A"});
+  EXPECT_EQ(news_.Trouble(),
+            "14:06:00: Remove \"A\": refused.\nThe database does not know the rule\n"
+            "14:05:10: Except, EUR: refused.\nThe database does not know the calendar");
+}
+
+TEST_F(OperatorNewsTest, AChangeThatIsMadeOrADismissalEndsTheTroubleOfAllRefusedOnes) {
+  const auto refuse_two = [this] {
+    Do(ActionKind::kRemoveRules, {Returned(4)}, {}, {}, {"A"});
+    Do(ActionKind::kRemoveRules, {Returned(4)}, {}, {}, {"B"});
+    EXPECT_THAT(news_.Trouble(), HasSubstr("\"A\""));
+  };
+  refuse_two();
+  Do(ActionKind::kExceptDay, {Done()}, {});
+  EXPECT_EQ(news_.Trouble(), "");
+  refuse_two();
+  news_.Dismiss();
+  EXPECT_EQ(news_.Trouble(), "");
+}
+
+TEST_F(OperatorNewsTest, ARefusalThatIsToldWithAMessageIsToldAnewWhenMoreOfTheActionIsKnown) {
+  news_.ActionBegan(Action(ActionKind::kRestoreRules, {"A", "B"}));
+  news_.WriteEnded(Returned(4));
+  news_.MessageOpens();
+  EXPECT_THAT(news_.Trouble(), HasSubstr("1 not tried"));
+  news_.MessageClosed();
+  news_.WriteEnded(Returned(4));
+  news_.ActionEnded();
+  EXPECT_THAT(news_.Trouble(), HasSubstr("0 done, 2 refused"));
+  EXPECT_THAT(news_.Trouble(), Not(HasSubstr("not tried")));
 }
 
 TEST_F(OperatorNewsTest, AnActionThatWasDoneInPartStaysTold) {
