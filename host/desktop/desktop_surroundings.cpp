@@ -18,8 +18,8 @@
 namespace ferrowind::host {
 
 struct DesktopSurroundings::Parts {
-  Parts(OperatorNews& news, std::chrono::milliseconds patience)
-      : patience_of_action(std::make_shared<sqlite::WaitBudget>(patience)),
+  Parts(OperatorNews& news, std::shared_ptr<sqlite::WaitBudget> patience)
+      : patience_of_action(std::move(patience)),
         action_began(news.OnAction([this] { patience_of_action->Renew(); })),
         platform{objects, commands, toolkit,
                  locale,  clock,    QCoreApplication::applicationDirPath().toStdString(),
@@ -54,8 +54,8 @@ struct DesktopSurroundings::Parts {
   platform::Platform platform;
 };
 
-DesktopSurroundings::DesktopSurroundings(OperatorNews& news, std::chrono::milliseconds patience)
-    : parts_(std::make_unique<Parts>(news, patience)) {}
+DesktopSurroundings::DesktopSurroundings(OperatorNews& news, std::shared_ptr<sqlite::WaitBudget> patience)
+    : parts_(std::make_unique<Parts>(news, std::move(patience))) {}
 
 DesktopSurroundings::~DesktopSurroundings() = default;
 

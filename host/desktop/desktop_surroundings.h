@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/adapters/sqlite/wait_budget.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/platform.h"
 
@@ -20,8 +21,10 @@ class DesktopSurroundings {
   static constexpr std::chrono::milliseconds kPatience{2000};
 
   /// `news` learn of what the operator has the component do, and must outlive this object. Each action waits
-  /// up to `patience` in all for another program to release a database file.
-  explicit DesktopSurroundings(OperatorNews& news, std::chrono::milliseconds patience = kPatience);
+  /// as long as `patience`, which is not null and is renewed for it, lasts for another program to release a
+  /// database file.
+  explicit DesktopSurroundings(OperatorNews& news, std::shared_ptr<sqlite::WaitBudget> patience =
+                                                       std::make_shared<sqlite::WaitBudget>(kPatience));
   ~DesktopSurroundings();
   DesktopSurroundings(const DesktopSurroundings&) = delete;
   DesktopSurroundings& operator=(const DesktopSurroundings&) = delete;

@@ -39,7 +39,7 @@ HostTest::~HostTest() {
 
 void HostTest::WorkOn(const std::string& url) {
   End();
-  surroundings_ = std::make_unique<host::DesktopSurroundings>(news_, kPatience);
+  surroundings_ = std::make_unique<host::DesktopSurroundings>(news_, patience_);
   surroundings_->UseDatabase(url);
   back_office_ = std::make_unique<host::BackOfficeWindow>(
       surroundings_->Get(), QStringLiteral("Calendars of this user"), QString::fromStdString(url));

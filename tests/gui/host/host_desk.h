@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/services/qt_locale.h"
+#include "ferrowind/adapters/sqlite/wait_budget.h"
 
 #include "host/desktop/back_office_window.h"
 #include "host/desktop/desktop_surroundings.h"
@@ -26,9 +27,6 @@ namespace ferrowind::gui {
 /// Calendars window is not.
 class HostTest : public ::testing::Test {
  protected:
-  /// How long an action waits for another program here.
-  static constexpr std::chrono::milliseconds kPatience{100};
-
   HostTest();
   ~HostTest() override;
 
@@ -64,6 +62,9 @@ class HostTest : public ::testing::Test {
   qt::QtLocale locale_;
   host::OperatorNews news_{locale_, [] { return std::string("14:05:10"); }};
   host::WaitCursor wait_cursor_{news_};
+  /// What is left of the time that the action may wait for another program.
+  std::shared_ptr<sqlite::WaitBudget> patience_ =
+      std::make_shared<sqlite::WaitBudget>(std::chrono::milliseconds(100));
 
  private:
   /// The settings of the program lie there, too.
