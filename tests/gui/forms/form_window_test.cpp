@@ -1,3 +1,5 @@
+#include "ferrowind/adapters/qt/forms/form_window.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QGroupBox>
@@ -16,7 +18,6 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/controls/element.h"
-#include "ferrowind/adapters/qt/forms/form_window.h"
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 
