@@ -38,10 +38,16 @@ def descendants(node):
             yield from descendants(child)
 
 
+def role_name(node):
+    """As releases of AT-SPI before 2.53 name the role; later ones call a push button a button."""
+    name = _quietly(node.getRoleName)
+    return 'push button' if name == 'button' else name
+
+
 def find(root, role, name=None):
     """The first object of that role name and, where given, accessible name; None without one."""
     for node in descendants(root):
-        if _quietly(node.getRoleName) == role and (name is None or _quietly(lambda node=node: node.name) == name):
+        if role_name(node) == role and (name is None or _quietly(lambda node=node: node.name) == name):
             return node
     return None
 
