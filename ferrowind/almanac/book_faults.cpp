@@ -1,0 +1,202 @@
+#include "ferrowind/almanac/book_faults.h"
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "ferrowind/almanac/base_dates.h"
+#include "ferrowind/almanac/book_text.h"
+#include "ferrowind/almanac/date_words.h"
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::almanac {
+namespace {
+
+/// Two names are one in the database when these are the same.
+std::string KeyOf(const std::string& name) { return platform::FoldCase(platform::Trim(name)); }
+
+bool IsBlank(const std::string& text) { return platform::Trim(text).empty(); }
+
+/// The one date of a celebration.
+std::optional<FixedDate> DateOf(const BookRule& rule) {
+  const auto* date = std::get_if<FixedDate>(&rule.expression.anchor);
+  if (rule.kind != RuleKind::kCelebration || date == nullptr) return std::nullopt;
+  return *date;
+}
+
+/// What the database will know of a name.
+struct NameUse {
+  RuleKind kind;
+  std::optional<FixedDate> date;
+  /// Where the name stands, such as "rule 7".
+  std::string place;
+};
+
+/// The names met so far, each as it was used first.
+class NamesInUse {
+ public:
+  /// What is wrong with this use when the first one of the name was another.
+  std::optional<std::string> Add(const std::string& name, const NameUse& use) {
+    const auto [known, is_new] = uses_.emplace(KeyOf(name), use);
+    if (is_new) return std::nullopt;
+    const NameUse& first = known->second;
+    if (first.kind != use.kind) {
+      return '"' + name + "\" is a " + std::string(TextOf(first.kind)) + " in " + first.place + " and a " +
+             std::string(TextOf(use.kind)) + " in " + use.place + ": a name has one kind";
+    }
+    if (first.date && use.date && *first.date != *use.date) {
+      return '"' + name + "\" is on " + DayAndMonth(first.date->month, first.date->day) + " in " +
+             first.place + " and on " + DayAndMonth(use.date->month, use.date->day) + " in " + use.place +
+             ": a celebration has one date";
+    }
+    return std::nullopt;
+  }
+
+ private:
+  std::map<std::string, NameUse> uses_;
+};
+
+std::vector<std::string> FaultsOfNames(NamesInUse& names, const BookRule& rule, const std::string& place) {
+  std::vector<std::string> faults;
+  if (auto fault = names.Add(rule.name, {rule.kind, DateOf(rule), place}))
+    faults.push_back(std::move(*fault));
+  if (rule.expression.moves.empty()) return faults;
+  auto fault = names.Add(rule.NameOfMovedDay(), {RuleKind::kPoint, std::nullopt, place + " (moved day)"});
+  if (fault) faults.push_back(std::move(*fault));
+  return faults;
+}
+
+/// Looks at one book.
+class BookInspection {
+ public:
+  BookInspection(const RuleBook& book, const DateTables& tables) : book_(book), tables_(tables) {}
+
+  std::vector<std::string> Inspect() {
+    if (IsBlank(book_.publisher)) faults_.push_back("The book names no publisher");
+    if (IsBlank(book_.document)) faults_.push_back("The book names no document");
+    for (const BookRule& rule : book_.rules) {
+      if (rule.expression.IsEveryWeekday() && rule.kind == RuleKind::kWeekday) {
+        weekend_.Add(std::get<EveryWeekday>(rule.expression.anchor).weekday);
+      }
+    }
+    for (position_ = 0; position_ < book_.rules.size(); ++position_) InspectRule(book_.rules[position_]);
+    return std::move(faults_);
+  }
+
+ private:
+  void InspectRule(const BookRule& rule) {
+    if (IsBlank(rule.name)) {
+      Add("has no name");
+    } else {
+      for (std::string& fault : FaultsOfNames(names_, rule, Place())) faults_.push_back(std::move(fault));
+      InspectRepetition(rule);
+    }
+    InspectKind(rule);
+    InspectMoves(rule);
+    InspectDates(rule);
+  }
+
+  void InspectRepetition(const BookRule& rule) {
+    const auto [first, is_new] =
+        expressions_.emplace(KeyOf(rule.name) + '\n' + rule.expression.ToText(), position_);
+    if (!is_new) Add("says the same as rule " + std::to_string(first->second + 1));
+  }
+
+  void InspectKind(const BookRule& rule) {
+    const DateExpression& expression = rule.expression;
+    if (expression.IsEveryWeekday() != (rule.kind == RuleKind::kWeekday)) {
+      Add(expression.IsEveryWeekday()
+              ? "is each week on a weekday, so its kind is weekday"
+              : "is of the kind weekday, so its expression is \"weekday\" and a weekday");
+    } else if (expression.IsBetween() && rule.kind != RuleKind::kPoint) {
+      Add("is a day between holidays, so its kind is point");
+    } else if (rule.kind == RuleKind::kCelebration) {
+      InspectCelebration(expression);
+    }
+  }
+
+  void InspectCelebration(const DateExpression& expression) {
+    if (!std::holds_alternative<FixedDate>(expression.anchor) || !expression.steps.empty()) {
+      Add("is not on the same date each year, so its kind is point");
+      return;
+    }
+    for (const Move& move : expression.moves) {
+      for (int weekday = 1; weekday <= 7; ++weekday) {
+        if (!move.weekdays.Contains(weekday) || weekend_.Contains(weekday)) continue;
+        Add("moves off a " + std::string(WeekdayName(weekday)) +
+            ", a working day, and takes its name along, so its kind is point");
+        return;
+      }
+    }
+  }
+
+  void InspectMoves(const BookRule& rule) {
+    const DateExpression& expression = rule.expression;
+    const bool can_move =
+        rule.kind != RuleKind::kWorkingDay && !expression.IsEveryWeekday() && !expression.IsBetween();
+    if (!can_move && (!expression.moves.empty() || expression.else_not_observed)) {
+      Add("neither moves nor is dropped: it is a working day, a weekday or a day between holidays");
+    } else if (expression.moves.empty() && !rule.moved_name.empty()) {
+      Add("names its moved day, but does not move");
+    }
+  }
+
+  void InspectDates(const BookRule& rule) {
+    const DateExpression& expression = rule.expression;
+    if (const auto* table = std::get_if<TableDate>(&expression.anchor)) {
+      if (tables_.Find(table->table) == nullptr) {
+        Add("asks for the table " + table->table + ", and there is none of that name");
+        return;
+      }
+    }
+    for (int year = kFirstYear; year <= kLastYear; ++year) {
+      if (expression.IsBetween() ? expression.years.Include(year)
+                                 : !BaseDates(expression, year, tables_).empty()) {
+        return;
+      }
+    }
+    Add("is on no day of any year");
+  }
+
+  [[nodiscard]] std::string Place() const { return "rule " + std::to_string(position_ + 1); }
+
+  void Add(const std::string& what) {
+    const BookRule& rule = book_.rules[position_];
+    faults_.push_back("Rule " + std::to_string(position_ + 1) + " (" +
+                      (IsBlank(rule.name) ? rule.expression.ToText() : rule.name) + ") " + what);
+  }
+
+  const RuleBook& book_;
+  const DateTables& tables_;
+  WeekdaySet weekend_;
+  std::size_t position_ = 0;
+  NamesInUse names_;
+  std::map<std::string, std::size_t> expressions_;
+  std::vector<std::string> faults_;
+};
+
+}  // namespace
+
+std::vector<std::string> FaultsOf(const RuleBook& book, const DateTables& tables) {
+  return BookInspection(book, tables).Inspect();
+}
+
+std::vector<std::string> FaultsBetween(const std::vector<NamedBook>& books) {
+  NamesInUse names;
+  std::vector<std::string> faults;
+  for (const NamedBook& book : books) {
+    // What a book says twice in different ways is a fault of its own; here it says what it says first.
+    NamesInUse own;
+    for (const BookRule& rule : book.book.rules) {
+      if (!FaultsOfNames(own, rule, book.name).empty()) continue;
+      for (std::string& fault : FaultsOfNames(names, rule, book.name)) faults.push_back(std::move(fault));
+    }
+  }
+  return faults;
+}
+
+}  // namespace ferrowind::almanac

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ferrowind/almanac/date_table.h"
+#include "ferrowind/almanac/rule_book.h"
+
+namespace ferrowind::almanac {
+
+/// What is wrong with a book, a sentence for each fault; none when a year can be planned by it. A name has
+/// one kind, and as a celebration one date, in a book and all books of a database: there a name and a kind
+/// are one rule. Several rules of a book may share a name (a holiday whose rule has changed).
+[[nodiscard]] std::vector<std::string> FaultsOf(const RuleBook& book, const DateTables& tables);
+
+struct NamedBook {
+  /// Of the currency, such as "EUR".
+  std::string name;
+  RuleBook book;
+};
+
+/// What is wrong between books: a name that has one kind or date in one and another in another. The faults of
+/// the single books are not among them.
+[[nodiscard]] std::vector<std::string> FaultsBetween(const std::vector<NamedBook>& books);
+
+}  // namespace ferrowind::almanac

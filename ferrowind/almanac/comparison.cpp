@@ -1,0 +1,158 @@
+#include "ferrowind/almanac/comparison.h"
+
+#include <algorithm>
+#include <set>
+
+namespace ferrowind::almanac {
+namespace {
+
+/// For the exception that a database lacks, which would be a broken one.
+constexpr const char* kExceptionName = "Working day by exception";
+
+const char* TypeInWords(RuleKind kind) {
+  switch (kind) {
+    case RuleKind::kWorkingDay:
+      return "a working day";
+    case RuleKind::kWeekday:
+      return "a weekday holiday";
+    case RuleKind::kCelebration:
+      return "a celebration";
+    case RuleKind::kPoint:
+      return "a holiday point";
+  }
+  return "of an unknown type";
+}
+
+}  // namespace
+
+std::string_view TextOf(PlanAction action) {
+  switch (action) {
+    case PlanAction::kKeep:
+      return "keep";
+    case PlanAction::kAdd:
+      return "add";
+    case PlanAction::kReplace:
+      return "replace";
+    case PlanAction::kRemove:
+      return "remove";
+    case PlanAction::kException:
+      return "exception";
+  }
+  return {};
+}
+
+Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches)
+    : plan_(plan), matches_(matches) {
+  days_.reserve(std::max(plan.Days().size(), content.days.size()));
+  auto should = plan.Days().begin();
+  auto now = content.days.begin();
+  while (should != plan.Days().end() || now != content.days.end()) {
+    const bool is_planned =
+        now == content.days.end() || (should != plan.Days().end() && should->day_of_year <= now->day_of_year);
+    const bool is_marked =
+        should == plan.Days().end() || (now != content.days.end() && now->day_of_year <= should->day_of_year);
+    days_.push_back(Compare(is_marked ? &*now : nullptr, is_planned ? &*should : nullptr));
+    if (is_marked) ++now;
+    if (is_planned) ++should;
+  }
+}
+
+ComparedDay Comparison::Compare(const MarkedDay* now, const PlannedDay* should) const {
+  ComparedDay day{now != nullptr ? now->day_of_year : should->day_of_year, PlanAction::kKeep, now, should,
+                  nullptr};
+  if (now == nullptr) {
+    day.action = PlanAction::kAdd;
+    return day;
+  }
+  if (should != nullptr) {
+    const KnownRule* const rule = matches_.RuleOf(*should);
+    if (rule != nullptr && rule->id == now->rule) return day;
+  } else if (!now->IsClosed()) {
+    return day;
+  }
+  if (!plan_.Unknown().empty()) day.unknown = UnknownDatesOf(*now, should);
+  if (day.unknown != nullptr) return day;
+  if (should == nullptr) {
+    day.action = PlanAction::kRemove;
+  } else {
+    day.action = now->IsClosed() ? PlanAction::kReplace : PlanAction::kException;
+  }
+  return day;
+}
+
+const UnknownDates* Comparison::UnknownDatesOf(const MarkedDay& day, const PlannedDay* should) const {
+  const bool is_on_weekend = should != nullptr && plan_.KindOf(*should) == RuleKind::kWeekday;
+  for (const UnknownDates& unknown : plan_.Unknown()) {
+    // A working day that the book would announce opens a weekend; an exception on a holiday is none of it.
+    const bool may_be = plan_.Book().rules[unknown.rule].kind != RuleKind::kWorkingDay || is_on_weekend;
+    if (may_be && matches_.HasNameOf(unknown.rule, day.rule)) return &unknown;
+  }
+  return nullptr;
+}
+
+bool Comparison::Differs() const {
+  return std::any_of(days_.begin(), days_.end(),
+                     [](const ComparedDay& day) { return day.action != PlanAction::kKeep; });
+}
+
+std::string Comparison::NameOf(const MarkedDay& day) const {
+  const KnownRule* const rule = matches_.Directory().Find(day.rule);
+  return rule != nullptr ? rule->name : "Rule " + std::to_string(day.rule);
+}
+
+std::string Comparison::NameOf(const PlannedDay& day) const {
+  if (plan_.KindOf(day) != RuleKind::kWorkingDay) return plan_.NameOf(day);
+  const KnownRule* const rule = matches_.Directory().Find(kExceptionRule);
+  return rule != nullptr ? rule->name : kExceptionName;
+}
+
+ComparisonLine Comparison::LineOf(const ComparedDay& day) const {
+  const platform::Date new_year(plan_.Year(), 1, 1);
+  ComparisonLine line{new_year.AddDays(day.day_of_year - 1), {}, {}, day.action, {}};
+  if (day.now != nullptr) line.now = NameOf(*day.now);
+  if (day.unknown != nullptr) {
+    line.should = line.now;
+    line.why = "The plan does not know this year's dates of " + plan_.Book().rules[day.unknown->rule].name +
+               ", which the table " + day.unknown->table + " does not reach";
+    return line;
+  }
+  if (day.should != nullptr) {
+    line.should = NameOf(*day.should);
+  } else if (day.action == PlanAction::kKeep) {
+    // A working day by exception where the plan has one anyway.
+    line.should = line.now;
+  }
+  line.why = plan_.WhyOf(day.day_of_year);
+  return line;
+}
+
+ComparedDay Comparison::DayAt(int day_of_year) const {
+  const auto found =
+      std::lower_bound(days_.begin(), days_.end(), day_of_year,
+                       [](const ComparedDay& day, int wanted) { return day.day_of_year < wanted; });
+  if (found != days_.end() && found->day_of_year == day_of_year) return *found;
+  return ComparedDay{static_cast<std::int16_t>(day_of_year)};
+}
+
+std::vector<std::string> Comparison::Obstacles(ExceptionHandling exceptions) const {
+  std::vector<std::string> obstacles;
+  std::set<const KnownRule*> told;
+  for (const ComparedDay& day : days_) {
+    if (day.should == nullptr || !day.Changes(exceptions)) continue;
+    const KnownRule* const rule = matches_.RuleOf(*day.should);
+    if (rule == nullptr || told.contains(rule)) continue;
+    const RuleKind planned = plan_.KindOf(*day.should);
+    if (rule->is_removed) {
+      obstacles.push_back("The rule \"" + rule->name + "\" is removed; restore it before");
+    } else if (rule->kind != planned) {
+      obstacles.push_back("The rule \"" + rule->name + "\" is " + TypeInWords(rule->kind) +
+                          ", and the plan needs " + TypeInWords(planned) + " of that name; rename it before");
+    } else {
+      continue;
+    }
+    told.insert(rule);
+  }
+  return obstacles;
+}
+
+}  // namespace ferrowind::almanac

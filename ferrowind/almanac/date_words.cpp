@@ -1,0 +1,89 @@
+#include "ferrowind/almanac/date_words.h"
+
+#include <array>
+#include <compare>
+#include <cstddef>
+#include <cstdlib>
+
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/date.h"
+
+namespace ferrowind::almanac {
+namespace {
+
+constexpr std::array<std::string_view, 8> kWeekdays = {"",          "Sunday",   "Monday", "Tuesday",
+                                                       "Wednesday", "Thursday", "Friday", "Saturday"};
+constexpr std::array<std::string_view, 13> kMonths = {
+    "",     "January", "February",  "March",   "April",    "May",     "June",
+    "July", "August",  "September", "October", "November", "December"};
+constexpr std::array<std::string_view, 13> kNumbers = {
+    "", "one", "two", "three", "four", "five", "six", "seven", "eight", "nine", "ten", "eleven", "twelve"};
+constexpr std::array<std::string_view, 6> kOrdinals = {"last", "first", "second", "third", "fourth", "fifth"};
+
+}  // namespace
+
+std::string_view WeekdayName(int weekday) { return kWeekdays.at(static_cast<std::size_t>(weekday)); }
+
+std::optional<int> WeekdayNamed(std::string_view name) {
+  for (int weekday = 1; weekday <= 7; ++weekday) {
+    if (std::is_eq(platform::CompareIgnoringCase(name, WeekdayName(weekday)))) return weekday;
+  }
+  return std::nullopt;
+}
+
+std::string_view MonthName(int month) { return kMonths.at(static_cast<std::size_t>(month)); }
+
+std::string DayAndMonth(int month, int day) {
+  return std::to_string(day) + ' ' + std::string(MonthName(month));
+}
+
+std::string LongDate(std::int32_t serial) {
+  const auto date = platform::Date::FromSerial(serial);
+  return DayAndMonth(date.Month(), date.Day()) + ' ' + std::to_string(date.Year());
+}
+
+std::string NumberWord(int number) {
+  const auto position = static_cast<std::size_t>(number);
+  return number >= 1 && position < kNumbers.size() ? std::string(kNumbers[position]) : std::to_string(number);
+}
+
+std::string AnyOf(WeekdaySet weekdays) {
+  std::string text;
+  for (int k = 0; k < 7; ++k) {
+    const int weekday = (k + 1) % 7 + 1;
+    if (!weekdays.Contains(weekday)) continue;
+    if (!text.empty()) text += " or ";
+    text += "a ";
+    text += WeekdayName(weekday);
+  }
+  return text;
+}
+
+std::string_view OrdinalWord(int ordinal) { return kOrdinals.at(static_cast<std::size_t>(ordinal)); }
+
+std::string_view RelationWords(Relation relation) {
+  switch (relation) {
+    case Relation::kOnOrAfter:
+      return "on or after";
+    case Relation::kAfter:
+      return "after";
+    case Relation::kOnOrBefore:
+      return "on or before";
+    case Relation::kBefore:
+      return "before";
+  }
+  return {};
+}
+
+std::string UtcOffset(int minutes) {
+  const int size = std::abs(minutes);
+  return (minutes < 0 ? "-" : "+") + Digits(size / 60, 2) + ':' + Digits(size % 60, 2);
+}
+
+std::string Digits(int number, std::size_t width) {
+  std::string digits = std::to_string(number);
+  if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
+  return digits;
+}
+
+}  // namespace ferrowind::almanac

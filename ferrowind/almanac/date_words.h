@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ferrowind/almanac/date_expression.h"
+
+/// Dates in English, for expressions and for the sentences that operators read.
+namespace ferrowind::almanac {
+
+/// "Sunday" for 1 to "Saturday" for 7.
+[[nodiscard]] std::string_view WeekdayName(int weekday);
+/// The weekday of that name, in any letter case.
+[[nodiscard]] std::optional<int> WeekdayNamed(std::string_view name);
+/// "January" for 1 to "December" for 12.
+[[nodiscard]] std::string_view MonthName(int month);
+/// "16 April".
+[[nodiscard]] std::string DayAndMonth(int month, int day);
+/// "16 April 2028".
+[[nodiscard]] std::string LongDate(std::int32_t serial);
+/// "two" to "twelve" in words, others in digits.
+[[nodiscard]] std::string NumberWord(int number);
+/// "a Saturday or a Sunday", Monday first.
+[[nodiscard]] std::string AnyOf(WeekdaySet weekdays);
+/// "first" to "fifth", and "last".
+[[nodiscard]] std::string_view OrdinalWord(int ordinal);
+/// "on or after".
+[[nodiscard]] std::string_view RelationWords(Relation relation);
+/// "+09:00".
+[[nodiscard]] std::string UtcOffset(int minutes);
+/// `number` with leading zeros.
+[[nodiscard]] std::string Digits(int number, std::size_t width);
+
+}  // namespace ferrowind::almanac

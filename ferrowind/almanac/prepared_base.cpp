@@ -1,0 +1,69 @@
+#include "ferrowind/almanac/prepared_base.h"
+
+namespace ferrowind::almanac {
+
+YearsAround::YearsAround(int year) : middle_(year), first_days_() {
+  for (int i = 0; i < static_cast<int>(first_days_.size()); ++i) {
+    first_days_[static_cast<std::size_t>(i)] = SerialOf(year - kReach + i, 1, 1);
+  }
+}
+
+int YearsAround::YearOf(std::int32_t day) const {
+  int year = middle_;
+  while (day < FirstDayOf(year)) --year;
+  while (day >= FirstDayOf(year + 1)) ++year;
+  return year;
+}
+
+PreparedBase::PreparedBase(const DateExpression& expression, const DateTables& tables)
+    : expression_(&expression),
+      has_conditions_(!expression.only_on.IsEmpty() || expression.years != YearLimits()) {
+  for (const WeekdayStep& step : expression.steps) {
+    const DaySpan reach = SpanOfStep(step.relation);
+    shift_ = {shift_.first + reach.first, shift_.last + reach.last};
+  }
+  if (const auto* table = std::get_if<TableDate>(&expression.anchor)) {
+    source_ = Source::kTable;
+    KeepTable(tables, table->table, table->offset);
+  } else if (const auto* single = std::get_if<SingleDate>(&expression.anchor)) {
+    source_ = Source::kSingle;
+    single_day_ = TakeSteps(expression, single->date.Serial());
+  } else if (expression.IsEveryWeekday()) {
+    source_ = Source::kWeekly;
+  } else if (expression.IsBetween()) {
+    source_ = Source::kNone;
+  } else {
+    const DaySpan anchor = SpanOfAnchor(expression.anchor);
+    span_ = {anchor.first + shift_.first, anchor.last + shift_.last};
+  }
+}
+
+void PreparedBase::KeepTable(const DateTables& tables, const std::string& name, int offset) {
+  const DateTable* table = tables.Find(name);
+  if (table == nullptr) return;
+  first_known_ = table->first_year;
+  last_known_ = table->last_year;
+  bool comes_later = false;
+  bool comes_earlier = false;
+  for (const platform::Date& date : table->dates) {
+    const std::int32_t day = date.Serial() + offset;
+    table_days_.push_back(day);
+    const int year = platform::Date::FromSerial(TakeSteps(*expression_, day)).Year();
+    comes_later = comes_later || year > date.Year();
+    comes_earlier = comes_earlier || year < date.Year();
+  }
+  if (comes_later) ++first_known_;
+  if (comes_earlier) --last_known_;
+}
+
+bool PreparedBase::Knows(int year) const {
+  return source_ != Source::kTable || (first_known_ <= year && year <= last_known_);
+}
+
+bool PreparedBase::Counts(std::int32_t day, const YearsAround& years) const {
+  const WeekdaySet& weekdays = expression_->only_on;
+  return (weekdays.IsEmpty() || weekdays.Contains(WeekdayOf(day))) &&
+         expression_->years.Include(years.YearOf(day));
+}
+
+}  // namespace ferrowind::almanac

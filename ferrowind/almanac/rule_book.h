@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ferrowind/almanac/date_expression.h"
+
+namespace ferrowind::almanac {
+
+/// The types of holiday rules; the numbers are those of the database (TID1).
+enum class RuleKind : std::uint8_t {
+  /// Opens a day that would be closed.
+  kWorkingDay = 1,
+  /// Every week on one weekday.
+  kWeekday = 2,
+  /// On the same date each year.
+  kCelebration = 3,
+  /// On a date that differs from year to year.
+  kPoint = 4,
+};
+
+struct BookRule {
+  /// Not blank.
+  std::string name;
+  RuleKind kind = RuleKind::kPoint;
+  DateExpression expression;
+  std::string comment;
+  /// What the day is called to which the holiday moves off a closed day; empty for the name and "(observed)".
+  std::string moved_name;
+
+  /// `moved_name`, or what stands for it when it is empty.
+  [[nodiscard]] std::string NameOfMovedDay() const;
+  bool operator==(const BookRule&) const = default;
+};
+
+/// What the calendars of one currency should be, and whose word that is.
+struct RuleBook {
+  std::string publisher;
+  std::string document;
+  /// The order counts: of two holidays on one day the first has it (planner.h).
+  std::vector<BookRule> rules;
+
+  bool operator==(const RuleBook&) const = default;
+};
+
+}  // namespace ferrowind::almanac

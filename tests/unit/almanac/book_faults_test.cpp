@@ -1,0 +1,183 @@
+#include "ferrowind/almanac/book_faults.h"
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/unit/almanac/small_book.h"
+
+namespace ferrowind::almanac {
+namespace {
+
+using ::ferrowind::testing::BookOf;
+using ::ferrowind::testing::BookWithWeekends;
+using platform::Date;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+std::vector<std::string> Faults(const RuleBook& book) {
+  DateTables tables;
+  tables.Add({"feast", 2025, 2026, {Date(2025, 5, 5), Date(2026, 5, 6)}});
+  tables.Add({"empty", 2025, 2026, {}});
+  return FaultsOf(book, tables);
+}
+
+std::vector<std::string> FaultsOfRules(const std::string& rules) { return Faults(BookWithWeekends(rules)); }
+
+std::vector<std::string> FaultsBetweenRules(const std::string& euro, const std::string& dollar) {
+  return FaultsBetween({{"EUR", BookOf(euro)}, {"USD", BookOf(dollar)}});
+}
+
+TEST(BookFaults, AreNoneInABookOfEveryForm) {
+  EXPECT_THAT(
+      FaultsOfRules("celebration | A | 12-25 saturday, sunday, taken to next free day else not observed\n"
+                    "celebration | B | 02-29 to friday\n"
+                    "point | C | easter-2\n"
+                    "point | D | 3rd Monday of 01\n"
+                    "point | E | Monday on or after 05-18\n"
+                    "point | F | vernal equinox +09:00\n"
+                    "point | G | table feast+1\n"
+                    "point | H | 2022-09-19\n"
+                    "point | I | 09-17 tuesday to previous monday\n"
+                    "point | J | between\n"
+                    "working day | K | 2026-02-14\n"
+                    "celebration | L | 09-17 if monday\n"),
+      IsEmpty());
+}
+
+TEST(BookFaults, TellOfAMissingHead) {
+  RuleBook book;
+  book.publisher = " ";
+  EXPECT_THAT(Faults(book), ElementsAre("The book names no publisher", "The book names no document"));
+}
+
+TEST(BookFaults, TellOfANamelessRule) {
+  RuleBook book = BookOf("celebration | A | 01-01");
+  book.rules[0].name = " ";
+  EXPECT_THAT(Faults(book), ElementsAre("Rule 1 (01-01) has no name"));
+}
+
+TEST(BookFaults, TellOfANameOfTwoKinds) {
+  EXPECT_THAT(FaultsOfRules("celebration | A day | 01-01\npoint | a DAY | easter\n"),
+              ElementsAre("\"a DAY\" is a celebration in rule 3 and a point in rule 4: a name has one kind"));
+}
+
+TEST(BookFaults, TellOfAMovedDayWithTheNameOfAnotherKind) {
+  EXPECT_THAT(
+      FaultsOfRules("celebration | A | 01-01 to monday | | B\ncelebration | B | 02-01\n"),
+      ElementsAre("\"B\" is a point in rule 3 (moved day) and a celebration in rule 4: a name has one kind"));
+  EXPECT_THAT(
+      FaultsOfRules("celebration | A | 01-01 to monday | | A\n"),
+      ElementsAre("\"A\" is a celebration in rule 3 and a point in rule 3 (moved day): a name has one kind"));
+  EXPECT_THAT(
+      FaultsOfRules("celebration | A (observed) | 02-01\ncelebration | A | 01-01 to monday\n"),
+      ElementsAre("\"A (observed)\" is a celebration in rule 3 and a point in rule 4 (moved day): a name has "
+                  "one kind"));
+}
+
+TEST(BookFaults, TellOfACelebrationOfTwoDates) {
+  EXPECT_THAT(
+      FaultsOfRules("celebration | A | 01-01 to 2020\ncelebration | A | 01-02 from 2021\n"),
+      ElementsAre("\"A\" is on 1 January in rule 3 and on 2 January in rule 4: a celebration has one date"));
+}
+
+TEST(BookFaults, AreNoneWhenSeveralRulesShareANameAndKind) {
+  EXPECT_THAT(
+      FaultsOfRules("point | A | 3rd Monday of 07 not 2020\npoint | A | 2020-07-23\n"
+                    "celebration | B | 01-01 to monday to 2020 | | S\ncelebration | B | 01-01 from 2021\n"
+                    "celebration | C | 01-02 to monday | | S\n"),
+      IsEmpty());
+}
+
+TEST(BookFaults, TellOfARuleSaidTwice) {
+  EXPECT_THAT(FaultsOfRules("point | A | easter\npoint | a | EASTER | another comment\n"),
+              ElementsAre("Rule 4 (a) says the same as rule 3"));
+}
+
+TEST(BookFaults, TellOfAKindThatDoesNotFitTheExpression) {
+  EXPECT_THAT(FaultsOfRules("point | A | weekday Friday\n"),
+              ElementsAre("Rule 3 (A) is each week on a weekday, so its kind is weekday"));
+  EXPECT_THAT(FaultsOfRules("working day | A | weekday Saturday\n"),
+              ElementsAre("Rule 3 (A) is each week on a weekday, so its kind is weekday"));
+  EXPECT_THAT(
+      FaultsOfRules("weekday | A | 01-01\n"),
+      ElementsAre("Rule 3 (A) is of the kind weekday, so its expression is \"weekday\" and a weekday"));
+  EXPECT_THAT(FaultsOfRules("celebration | A | between\n"),
+              ElementsAre("Rule 3 (A) is a day between holidays, so its kind is point"));
+  EXPECT_THAT(FaultsOfRules("celebration | A | easter\n"),
+              ElementsAre("Rule 3 (A) is not on the same date each year, so its kind is point"));
+  EXPECT_THAT(FaultsOfRules("celebration | A | Monday after 01-01\n"),
+              ElementsAre("Rule 3 (A) is not on the same date each year, so its kind is point"));
+  EXPECT_THAT(FaultsOfRules("celebration | A | 2026-01-01\n"),
+              ElementsAre("Rule 3 (A) is not on the same date each year, so its kind is point"));
+}
+
+TEST(BookFaults, TellOfACelebrationThatTakesItsNameAlong) {
+  const std::string fault =
+      "Rule 3 (A) moves off a Tuesday, a working day, and takes its name along, so its kind is point";
+  EXPECT_THAT(FaultsOfRules("celebration | A | 09-17 saturday, tuesday to monday\n"), ElementsAre(fault));
+}
+
+TEST(BookFaults, TellOfMovesThatMeanNothing) {
+  const std::string fault =
+      "Rule 3 (A) neither moves nor is dropped: it is a working day, a weekday or a day between holidays";
+  EXPECT_THAT(FaultsOfRules("weekday | A | weekday Friday to monday\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | between else not observed\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("working day | A | 2026-02-14 to monday\n"), ElementsAre(fault));
+}
+
+TEST(BookFaults, TellOfANameForAMovedDayThatIsNone) {
+  EXPECT_THAT(FaultsOfRules("celebration | A | 01-01 | | B\n"),
+              ElementsAre("Rule 3 (A) names its moved day, but does not move"));
+}
+
+TEST(BookFaults, TellOfAnUnknownTable) {
+  EXPECT_THAT(FaultsOfRules("point | A | Monday after table fast\n"),
+              ElementsAre("Rule 3 (A) asks for the table fast, and there is none of that name"));
+}
+
+TEST(BookFaults, TellOfARuleThatIsOnNoDay) {
+  const std::string fault = "Rule 3 (A) is on no day of any year";
+  EXPECT_THAT(FaultsOfRules("celebration | A | 01-01 to 2020 only 2021\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | 2020-01-01 from 2021\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | 1st Monday of 05 if tuesday\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | table empty\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | between to 2020 only 2021\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("weekday | A | weekday Friday if monday\n"), ElementsAre(fault));
+}
+
+TEST(BookFaults, AreFoundAmongTenThousandRules) {
+  std::string rules;
+  for (int i = 0; i < 10'000; ++i)
+    rules += "point | Day " + std::to_string(i) + " | easter to next free day\n";
+  EXPECT_THAT(FaultsOfRules(rules + "point | Day 77 | easter to next free day\n"),
+              ElementsAre("Rule 10003 (Day 77) says the same as rule 80"));
+}
+
+TEST(BookFaultsBetweenBooks, TellOfANameOfTwoKinds) {
+  EXPECT_THAT(FaultsBetweenRules("celebration | A | 01-01", "point | A | easter"),
+              ElementsAre("\"A\" is a celebration in EUR and a point in USD: a name has one kind"));
+  EXPECT_THAT(
+      FaultsBetweenRules("celebration | A (observed) | 01-01", "celebration | A | 07-04 to monday"),
+      ElementsAre(
+          "\"A (observed)\" is a celebration in EUR and a point in USD (moved day): a name has one kind"));
+}
+
+TEST(BookFaultsBetweenBooks, TellOfACelebrationOfTwoDates) {
+  EXPECT_THAT(
+      FaultsBetweenRules("celebration | A | 01-01", "celebration | a | 02-01"),
+      ElementsAre("\"a\" is on 1 January in EUR and on 1 February in USD: a celebration has one date"));
+}
+
+TEST(BookFaultsBetweenBooks, AreNoneForSharedNamesOrFaultsWithinABook) {
+  EXPECT_THAT(FaultsBetweenRules("celebration | A | 01-01\npoint | B | easter",
+                                 "celebration | A | 01-01\npoint | B | 5th Monday of 05"),
+              IsEmpty());
+  EXPECT_THAT(FaultsBetweenRules("celebration | A | 01-01\npoint | A | easter", "celebration | A | 01-01"),
+              IsEmpty());
+}
+
+}  // namespace
+}  // namespace ferrowind::almanac
