@@ -12,7 +12,19 @@ extern const std::string_view kSqliteCldAllInfo;
 extern const std::string_view kSqliteCldGetMain;
 extern const std::string_view kSqliteCldIUMain;
 extern const std::string_view kSqliteCldIUCelebrate;
+extern const std::string_view kSqliteCldGetBook;
+extern const std::string_view kSqliteCldIUBook;
+extern const std::string_view kSqliteCldGetFingerprint;
+extern const std::string_view kSqliteCldApplyPlan;
+extern const std::string_view kSqliteCldUndo;
+extern const std::string_view kSqliteCldGetHistory;
+extern const std::string_view kSqliteCldGetAsOf;
+extern const std::string_view kSqliteCldGetClosedDays;
+extern const std::string_view kSqliteCldGetMarkedDays;
+extern const std::string_view kSqliteCldIUCurrency;
+extern const std::string_view kSqliteCldGetCurrencies;
 /// The scripts that bring older databases here, by version.
 extern const std::string_view kSqliteUpgradeToHistory;
+extern const std::string_view kSqliteUpgradeToRuleBooks;
 
 }  // namespace ferrowind::embedded

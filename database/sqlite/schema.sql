@@ -1,18 +1,20 @@
 -- The tables of a calendar database and the constraints that make a wrong row impossible. A column's declared type is
 -- the type that readers get: SMALLINT a 16-bit and INTEGER a 32-bit number, TEXT a text, DATE a date, which is stored
 -- as the text YYYY-MM-DD. FERROWIND_NAME compares names without regard to letter case and outer blanks; the engine
--- supplies it to every connection.
+-- supplies it to every connection, and the function FERROWIND_FINGERPRINT, which gives a short text for rows.
 
 -- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here and of the
 -- procedures. A change comes with a script in upgrade/ that brings older databases to the same state.
 PRAGMA application_id = 0x46657277;
-PRAGMA user_version = 2;
+PRAGMA user_version = 3;
 
+-- LastDay: the last day as legal money; NULL as long as it is.
 CREATE TABLE DicCcy (
   CcyID INTEGER PRIMARY KEY,
   Ccy TEXT NOT NULL UNIQUE,
   CcyType SMALLINT NOT NULL CHECK (CcyType IN (0, 1)),
-  Name TEXT NOT NULL
+  Name TEXT NOT NULL,
+  LastDay DATE CHECK (LastDay IS date(LastDay, '0 days') AND LastDay >= '0001')
 );
 
 CREATE TABLE CldHolidayType (
@@ -60,6 +62,26 @@ CREATE TABLE CldDay (
   CHECK (ID2 IS NOT NULL OR TID1 = 1)
 ) WITHOUT ROWID;
 
+CREATE INDEX CldDayByDate ON CldDay (ODate);
+
+-- The rule book of a currency: whose document it follows, and in their order the recurring rules from which the plan of any
+-- year is made. Expression says on which dates; MovedName is the name of a day that a holiday was moved to.
+CREATE TABLE CldBook (
+  ID1 INTEGER PRIMARY KEY REFERENCES DicCcy (CcyID),
+  Publisher TEXT NOT NULL CHECK (typeof(Publisher) = 'text'),
+  Document TEXT NOT NULL CHECK (typeof(Document) = 'text')
+);
+CREATE TABLE CldRecurrence (
+  ID1 INTEGER NOT NULL REFERENCES CldBook (ID1),
+  Position INTEGER NOT NULL CHECK (Position >= 1 AND typeof(Position) = 'integer'),
+  Name1 TEXT NOT NULL CHECK (typeof(Name1) = 'text' AND trim(Name1) <> ''),
+  TID1 INTEGER NOT NULL REFERENCES CldHolidayType (TID1),
+  Expression TEXT NOT NULL CHECK (typeof(Expression) = 'text' AND trim(Expression) <> ''),
+  Comment TEXT CHECK (typeof(Comment) IN ('text', 'null')),
+  MovedName TEXT CHECK (typeof(MovedName) IN ('text', 'null')),
+  PRIMARY KEY (ID1, Position)
+) WITHOUT ROWID;
+
 -- One row. FirstDay: the weekday that a week begins with, 1 Sunday to 7 Saturday.
 CREATE TABLE CldSetting (
   FirstDay INTEGER NOT NULL CHECK (FirstDay BETWEEN 1 AND 7 AND typeof(FirstDay) = 'integer')
@@ -90,6 +112,87 @@ CREATE TRIGGER CldHistoryLosesNoEntry BEFORE DELETE ON CldHistory
 BEGIN
   SELECT RAISE(ABORT, 'an entry of the history is not removed');
 END;
+
+-- The rows of other tables that a call replaced, so that it can be undone and every calendar shown as it was. A row stands
+-- here by its key: ID1 alone for DicCcy (its CcyID) and CldBook; ID1 and Year1 for CldCalendar, with Day1 for CldDay; ID2 for
+-- CldHoliday; ID1 and Position for CldRecurrence. OldRow is a JSON object of the other columns by name, without ODate; NULL
+-- when there was no such row. A call has one row for a key, and none for what it left as it was. Days that come with a new
+-- calendar have none of their own, nor have ordinary working days that go with their calendar. The engine adds the rows
+-- behind the entry; like entries, they are only ever added.
+CREATE TABLE CldHistoryRow (
+  EntryID INTEGER NOT NULL REFERENCES CldHistory (EntryID),
+  RowNumber INTEGER NOT NULL CHECK (RowNumber >= 1),
+  TableName TEXT NOT NULL,
+  ID1 INTEGER,
+  Year1 INTEGER,
+  Day1 INTEGER,
+  ID2 INTEGER,
+  Position INTEGER,
+  OldRow TEXT,
+  PRIMARY KEY (EntryID, RowNumber)
+) WITHOUT ROWID;
+CREATE INDEX CldHistoryRowByKey ON CldHistoryRow (TableName, ID1, Year1, Day1, ID2, Position, EntryID);
+CREATE TRIGGER CldHistoryRowKeepsItsRows BEFORE UPDATE ON CldHistoryRow
+BEGIN
+  SELECT RAISE(ABORT, 'a row of the history is not changed');
+END;
+CREATE TRIGGER CldHistoryRowLosesNoRow BEFORE DELETE ON CldHistoryRow
+BEGIN
+  SELECT RAISE(ABORT, 'a row of the history is not removed');
+END;
+
+-- The entries up to EntryID, all before Moment, keep no rows: a version that did not wrote them. No row in a database that
+-- has kept them from its beginning.
+CREATE TABLE CldHistoryStart (
+  EntryID INTEGER PRIMARY KEY,
+  Moment TEXT NOT NULL CHECK (Moment LIKE '____-__-__T__:__:__.___Z')
+);
+CREATE UNIQUE INDEX CldHistoryStartHasOneRow ON CldHistoryStart ((1));
+
+-- What others read of the calendars.
+CREATE VIEW CalendarList AS
+SELECT c.Ccy, k.Year1 AS Year
+FROM CldCalendar k JOIN DicCcy c ON c.CcyID = k.ID1;
+
+CREATE VIEW CalendarDay AS
+SELECT c.Ccy, d.Year1 AS Year, d.ODate AS Date, d.TID1 = 1 AS IsWorkingDay, t.Description1 AS Type, h.Name1 AS Rule, d.Comment
+FROM CldDay d
+  JOIN DicCcy c ON c.CcyID = d.ID1
+  JOIN CldHolidayType t ON t.TID1 = d.TID1
+  LEFT JOIN CldHoliday h ON h.ID2 = d.ID2;
+
+-- What several procedures need. A calendar's fingerprint is another when its days, or the names of their rules, are others.
+CREATE VIEW YearDay AS
+WITH RECURSIVE Number (Day1) AS (
+  SELECT 1
+  UNION ALL
+  SELECT Day1 + 1 FROM Number WHERE Day1 < 366
+)
+SELECT Day1 FROM Number;
+
+CREATE VIEW CalendarFingerprint AS
+SELECT k.ID1, k.Year1, (
+  SELECT FERROWIND_FINGERPRINT(Day1, TID1, ID2, Name1, Comment)
+  FROM (
+    SELECT d.Day1, d.TID1, d.ID2, h.Name1, d.Comment
+    FROM CldDay d LEFT JOIN CldHoliday h ON h.ID2 = d.ID2
+    WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 AND (d.ID2 IS NOT NULL OR d.Comment IS NOT NULL)
+    ORDER BY d.Day1
+  )
+) AS Fingerprint
+FROM CldCalendar k;
+
+CREATE VIEW BookFingerprint AS
+SELECT b.ID1, (
+  SELECT FERROWIND_FINGERPRINT(b.Publisher, b.Document, Name1, TID1, Expression, Comment, MovedName)
+  FROM (
+    SELECT 0 AS Position, NULL AS Name1, NULL AS TID1, NULL AS Expression, NULL AS Comment, NULL AS MovedName
+    UNION ALL
+    SELECT r.Position, r.Name1, r.TID1, r.Expression, r.Comment, r.MovedName FROM CldRecurrence r WHERE r.ID1 = b.ID1
+    ORDER BY Position
+  )
+) AS Fingerprint
+FROM CldBook b;
 
 -- The stored procedures, which the engine finds and runs from here. A body is a script of SQL statements.
 CREATE TABLE ProcedureCatalogue (

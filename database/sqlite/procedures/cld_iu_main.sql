@@ -9,8 +9,8 @@
 -- Without TID1 creates the calendar of the currency ID1 for Year1, every day an ordinary working day. With TID1 gives
 -- days of the calendar the rule ID2 of that type: the day Day1, or for a weekday rule (type 2) without Day1 every day
 -- of the year on its weekday. What a day carried before, its comment included, is replaced.
--- Returns 0; 7 a value is missing or out of range; 3 unknown currency; 4 unknown rule (a removed one is not assigned
--- either); 5 unknown calendar; 6 the calendar exists already.
+-- Returns 0; 7 a value is missing or out of range; 3 unknown currency, or one that gets no calendar of that year any more;
+-- 4 unknown rule (a removed one is not assigned either); 5 unknown calendar; 6 the calendar exists already.
 
 -- The first reason against the call, or 0.
 SELECT CASE
@@ -21,7 +21,8 @@ SELECT CASE
   -- A new calendar. A value that only an assignment takes means that its TID1 was forgotten.
   WHEN :TID1 IS NULL
     AND (:ID2 IS NOT NULL OR :Day1 IS NOT NULL OR :ODate IS NOT NULL OR :Comment IS NOT NULL) THEN 7
-  WHEN :TID1 IS NULL THEN iif(k.ID1 IS NULL, 0, 6)
+  WHEN :TID1 IS NULL AND k.ID1 IS NOT NULL THEN 6
+  WHEN :TID1 IS NULL THEN iif(c.LastDay < :Year1 || '-01-01', 3, 0)
 
   -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
   WHEN :TID1 NOT BETWEEN 1 AND 4
@@ -55,10 +56,7 @@ SELECT 0 AS "@return" WHERE :TID1 IS NOT NULL;
 -- The new calendar.
 INSERT INTO CldCalendar (ID1, Year1) VALUES (:ID1, :Year1);
 
-WITH RECURSIVE DayOfYear (Day1, ODate) AS (
-  SELECT 1, date(:Year1 || '-01-01')
-  UNION ALL
-  SELECT Day1 + 1, date(ODate, '1 day') FROM DayOfYear WHERE ODate < :Year1 || '-12-31'
-)
 INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1)
-SELECT :ID1, :Year1, Day1, ODate, 1 FROM DayOfYear;
+SELECT :ID1, :Year1, Day1, date(:Year1 || '-01-01', (Day1 - 1) || ' days'), 1
+FROM YearDay
+WHERE Day1 <= CAST(strftime('%j', :Year1 || '-12-31') AS INTEGER);

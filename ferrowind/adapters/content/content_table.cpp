@@ -16,17 +16,27 @@ std::string AsItIs(std::string_view name) { return std::string(name); }
 
 const std::vector<Table>& Tables() {
   static const std::vector<Table> tables = {
-      {"DicCcy", "currencies", {"CcyID", "Ccy", "CcyType", "Name"}, 1},
+      {"DicCcy", "currencies", {"CcyID", "Ccy", "CcyType", "Name", "LastDay"}, 1},
       {"CldHolidayType", "holiday types", {"TID1", "Description1"}, 1},
       {"CldHoliday", "holiday rules", {"ID2", "Name1", "Comment", "TID1", "D1", "MY", "MD", "WD", "Del"}, 1},
       {"CldSetting", "settings", {"FirstDay"}, 1},
       {"CldCalendar", "calendars", {"ID1", "Year1"}, 2},
       {"CldDay", "days", {"ID1", "Year1", "Day1", "ODate", "TID1", "ID2", "Comment"}, 3},
+      {"CldBook", "rule books", {"ID1", "Publisher", "Document"}, 1},
+      {"CldRecurrence",
+       "recurring rules",
+       {"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"},
+       2},
       {"CldHistory",
        "entries of the history",
        {"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters", "ReturnValue",
         "RowsChanged"},
        1},
+      {"CldHistoryStart", "beginnings of the history", {"EntryID", "Moment"}, 1},
+      {"CldHistoryRow",
+       "rows of the history",
+       {"EntryID", "RowNumber", "TableName", "ID1", "Year1", "Day1", "ID2", "Position", "OldRow"},
+       2},
   };
   return tables;
 }

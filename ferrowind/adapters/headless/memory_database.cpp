@@ -4,7 +4,10 @@
 #include <utility>
 
 #include "ferrowind/adapters/headless/memory_procedures.h"
+#include "ferrowind/platform/database/history_moment.h"
+#include "ferrowind/platform/database/parameters_json.h"
 #include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/platform/values/utf8_validation.h"
 
@@ -36,6 +39,15 @@ void RequireInputs(const MemoryProcedure& procedure, const std::vector<Value>& i
   }
 }
 
+/// Empty when the procedure has no such parameter.
+Value InputNamed(const std::string& name, const MemoryProcedure& procedure,
+                 const std::vector<Value>& inputs) {
+  for (std::size_t i = 0; i < inputs.size(); ++i) {
+    if (procedure.parameters[i + 1].name == name) return inputs[i];
+  }
+  return {};
+}
+
 }  // namespace
 
 MemoryDatabase::MemoryDatabase() {
@@ -48,11 +60,16 @@ MemoryDatabase::MemoryDatabase() {
   built_in.type = 1;
   tables_.rules[1] = built_in;
   AddCalendarProcedures(*this);
+  AddBookProcedures(*this);
+  AddPlanProcedures(*this);
+  AddHistoryProcedures(*this);
+  AddYearProcedures(*this);
+  AddCurrencyProcedures(*this);
 }
 
 void MemoryDatabase::AddProcedure(const std::string& name,
                                   const std::vector<std::pair<std::string, platform::ParameterType>>& inputs,
-                                  MemoryProcedure::Body body) {
+                                  MemoryProcedure::Body body, MemoryProcedure::Kind kind) {
   std::vector<platform::ParameterDescription> parameters = {
       {"@RETURN_VALUE", 0, platform::ParameterType::kInt32, platform::ParameterDirection::kReturnValue}};
   for (const auto& [input, type] : inputs) {
@@ -60,7 +77,7 @@ void MemoryDatabase::AddProcedure(const std::string& name,
     parameters.push_back({input, position, type, platform::ParameterDirection::kInput});
   }
   std::erase_if(procedures_, [&](const MemoryProcedure& other) { return other.name == name; });
-  procedures_.push_back({name, std::move(parameters), std::move(body)});
+  procedures_.push_back({name, std::move(parameters), std::move(body), kind});
 }
 
 const MemoryProcedure& MemoryDatabase::ProcedureNamed(const std::string& name) const {
@@ -81,6 +98,9 @@ platform::CallOutcome MemoryDatabase::Call(const std::string& procedure, const s
     MemoryTables changed = tables_;
     platform::CallOutcome outcome = called.body(changed, inputs);
     if (outcome.return_value == 0) {
+      if (called.kind == MemoryProcedure::Kind::kRecorded) {
+        AddToHistory(called, inputs, ChangesBetween(tables_, changed));
+      }
       tables_ = std::move(changed);
     } else {
       outcome.record_sets.clear();
@@ -89,6 +109,25 @@ platform::CallOutcome MemoryDatabase::Call(const std::string& procedure, const s
   } catch (const Failure& failure) {
     throw Failure(failure.Number(), called.name + ": " + failure.Description());
   }
+}
+
+void MemoryDatabase::AddToHistory(const MemoryProcedure& procedure, const std::vector<Value>& inputs,
+                                  MemoryChanges changes) {
+  MemoryEntry entry;
+  entry.id = static_cast<std::int32_t>(history_.size()) + 1;
+  entry.moment = platform::MomentNow();
+  entry.procedure = procedure.name;
+  entry.currency = InputNamed("@ID1", procedure, inputs);
+  entry.year = InputNamed("@Year1", procedure, inputs);
+  // An undo is for the calendar that the call was for.
+  if (const Value undone = InputNamed("@EntryID", procedure, inputs); !undone.IsEmpty()) {
+    const MemoryEntry& call = history_.at(static_cast<std::size_t>(platform::ToInt32(undone)) - 1);
+    entry.currency = call.currency;
+    entry.year = call.year;
+  }
+  entry.parameters = platform::ParametersAsJson(procedure.parameters, inputs);
+  entry.changes = std::move(changes);
+  history_.push_back(std::move(entry));
 }
 
 std::shared_ptr<platform::RecordSet> MemoryDatabase::Dictionary(const std::string& name) const {

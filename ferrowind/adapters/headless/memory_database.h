@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/headless/memory_history.h"
 #include "ferrowind/adapters/headless/memory_tables.h"
 #include "ferrowind/platform/database/engine.h"
 
@@ -16,24 +17,33 @@ struct MemoryProcedure {
   using Body =
       std::function<platform::CallOutcome(MemoryTables& tables, const std::vector<platform::Value>& inputs)>;
 
+  /// The calls of a recorded procedure that return 0 go into the history.
+  enum class Kind { kUnrecorded, kRecorded };
+
   std::string name;
   /// The return value first, then the inputs by position.
   std::vector<platform::ParameterDescription> parameters;
   Body body;
+  Kind kind = Kind::kUnrecorded;
 };
 
-/// A calendar database in memory, with the four procedures and what belongs to an empty one: currencies (a
+/// A calendar database in memory, with all procedures and what belongs to an empty one: currencies (a
 /// choice of them), holiday types, the built-in rule and the setting.
 class MemoryDatabase {
  public:
   MemoryDatabase();
+  MemoryDatabase(const MemoryDatabase&) = delete;
+  MemoryDatabase& operator=(const MemoryDatabase&) = delete;
 
   /// The tables, for a test to look at and to change outside any transaction.
   [[nodiscard]] MemoryTables& Tables() { return tables_; }
   /// A procedure of that name is replaced. `inputs` by position, names with their "@".
   void AddProcedure(const std::string& name,
                     const std::vector<std::pair<std::string, platform::ParameterType>>& inputs,
-                    MemoryProcedure::Body body);
+                    MemoryProcedure::Body body,
+                    MemoryProcedure::Kind kind = MemoryProcedure::Kind::kUnrecorded);
+  /// Of the calls; lives as long as the database.
+  [[nodiscard]] const MemoryHistory& History() const { return history_; }
   /// Found without regard to case; a failure that names it when there is none.
   [[nodiscard]] const MemoryProcedure& ProcedureNamed(const std::string& name) const;
   /// Calls it in a transaction, as `platform::Connection::Call` promises.
@@ -43,7 +53,11 @@ class MemoryDatabase {
   [[nodiscard]] std::shared_ptr<platform::RecordSet> Dictionary(const std::string& name) const;
 
  private:
+  void AddToHistory(const MemoryProcedure& procedure, const std::vector<platform::Value>& inputs,
+                    MemoryChanges changes);
+
   MemoryTables tables_;
+  MemoryHistory history_;
   std::vector<MemoryProcedure> procedures_;
 };
 

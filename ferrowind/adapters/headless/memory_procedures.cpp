@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/headless/memory_database.h"
-#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/adapters/headless/memory_lookup.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::headless {
@@ -13,57 +13,7 @@ namespace {
 using platform::CallOutcome;
 using platform::Date;
 using platform::ParameterType;
-using platform::RecordSet;
 using platform::Value;
-using Rows = std::vector<std::vector<Value>>;
-
-enum ReturnValue : std::int32_t {
-  kDone = 0,
-  kNameExists = 2,
-  kUnknownCurrency = 3,
-  kUnknownRule = 4,
-  kUnknownCalendar = 5,
-  kCalendarExists = 6,
-  kWrongValue = 7,
-  kRemovedRuleHasName = 10,
-};
-
-constexpr std::int32_t kWorkingDay = 1;
-constexpr std::int32_t kWeekdayType = 2;
-constexpr std::int32_t kLastType = 4;
-constexpr std::int32_t kRemoved = 2;
-constexpr std::int32_t kRestored = 4;
-
-std::shared_ptr<RecordSet> Records(std::vector<std::string> fields, Rows rows) {
-  return std::make_shared<RecordSet>(std::move(fields), std::move(rows));
-}
-
-bool IsBetween(const Value& value, std::int32_t lowest, std::int32_t highest) {
-  if (value.IsEmpty()) return false;
-  const std::int32_t number = platform::ToInt32(value);
-  return number >= lowest && number <= highest;
-}
-
-bool IsYear(const Value& value) { return IsBetween(value, 1900, 3000); }
-
-bool IsMoney(const MemoryTables& tables, const Value& currency) {
-  return std::any_of(tables.currencies.begin(), tables.currencies.end(), [&](const MemoryCurrency& known) {
-    return known.type == 0 && Value(known.id) == currency;
-  });
-}
-
-/// The calendar of that currency and year, null when there is none. Both values are numbers.
-std::vector<MemoryDay>* CalendarOf(MemoryTables& tables, const Value& currency, const Value& year) {
-  const auto found = tables.calendars.find({platform::ToInt32(currency), platform::ToInt32(year)});
-  return found == tables.calendars.end() ? nullptr : &found->second;
-}
-
-MemoryRule* RuleOf(MemoryTables& tables, const Value& rule) {
-  const auto found = tables.rules.find(platform::ToInt32(rule));
-  return found == tables.rules.end() ? nullptr : &found->second;
-}
-
-bool IsRemoved(const MemoryRule& rule) { return IsBetween(rule.removal_mark, kRemoved, kRemoved); }
 
 // CldAllInfo
 // ----------------------------------------------------------------------------------------------------
@@ -93,19 +43,11 @@ CallOutcome GetMain(MemoryTables& tables, const std::vector<Value>& inputs) {
   const Value& year = inputs[1];
   if (currency.IsEmpty() || !IsYear(year)) return {kWrongValue, {}};
   if (!IsMoney(tables, currency)) return {kUnknownCurrency, {}};
-  const auto* const calendar = CalendarOf(tables, currency, year);
-  if (calendar == nullptr) return {kUnknownCalendar, {}};
-  const Date first(platform::ToInt32(year), 1, 1);
-  Rows rows;
-  for (const MemoryDay& day : *calendar) {
-    const auto offset = static_cast<std::int32_t>(rows.size());
-    const MemoryRule* const rule = day.rule ? &tables.rules.at(*day.rule) : nullptr;
-    rows.push_back({first.AddDays(offset), day.type, rule == nullptr ? Value() : Value(rule->name),
-                    rule == nullptr ? Value() : rule->comment, day.comment,
-                    day.rule ? Value(*day.rule) : Value(), offset + 1});
-  }
+  if (CalendarOf(tables, currency, year) == nullptr) return {kUnknownCalendar, {}};
+  const CalendarKey key{platform::ToInt32(currency), platform::ToInt32(year)};
   return {kDone,
-          {Records({"ODate", "TID1", "Name1", "Comment2", "Comment", "ID2", "Day1"}, std::move(rows))}};
+          {Records({"ODate", "TID1", "Name1", "Comment2", "Comment", "ID2", "Day1"},
+                   RowsOfCalendar(tables, key))}};
 }
 
 // CldIUMain
@@ -130,9 +72,9 @@ std::int32_t CreateCalendar(MemoryTables& tables, const Assignment& call) {
     if (!value.IsEmpty()) return kWrongValue;
   }
   if (CalendarOf(tables, call.currency, call.year) != nullptr) return kCalendarExists;
-  const std::int32_t year = platform::ToInt32(call.year);
-  const auto days = static_cast<std::size_t>(platform::DaysInYear(year));
-  tables.calendars[{platform::ToInt32(call.currency), year}] = std::vector<MemoryDay>(days);
+  const CalendarKey key{platform::ToInt32(call.currency), platform::ToInt32(call.year)};
+  if (!IsLiveMoney(tables, key.first, key.second)) return kUnknownCurrency;
+  tables.calendars[key] = NewCalendar(key.second);
   return kDone;
 }
 
@@ -203,7 +145,7 @@ struct RuleCall {
 };
 
 bool HasWrongValue(const RuleCall& call) {
-  if (call.name.IsEmpty() || platform::Trim(platform::ToText(call.name)).empty()) return true;
+  if (IsBlank(call.name)) return true;
   if (!IsBetween(call.type, kWeekdayType, kLastType)) return true;
   if (platform::ToInt32(call.type) == kWeekdayType)
     return !IsBetween(call.weekday, 1, 7) || !call.HasNoDate();
@@ -223,9 +165,6 @@ std::int32_t SetRemovalMark(MemoryTables& tables, const RuleCall& call) {
   return kDone;
 }
 
-/// Names compare without regard to letter case and outer blanks.
-std::string Folded(const std::string& name) { return platform::FoldCase(platform::Trim(name)); }
-
 std::int32_t StoreRule(MemoryTables& tables, const RuleCall& call) {
   if (HasWrongValue(call)) return kWrongValue;
   MemoryRule* const updated = call.rule.IsEmpty() ? nullptr : RuleOf(tables, call.rule);
@@ -235,7 +174,7 @@ std::int32_t StoreRule(MemoryTables& tables, const RuleCall& call) {
   }
   const std::string name = platform::ToText(call.name);
   for (const auto& [id, rule] : tables.rules) {
-    if (&rule != updated && Folded(rule.name) == Folded(name)) {
+    if (&rule != updated && FoldedName(rule.name) == FoldedName(name)) {
       return IsRemoved(rule) ? kRemovedRuleHasName : kNameExists;
     }
   }
@@ -272,7 +211,7 @@ void AddCalendarProcedures(MemoryDatabase& database) {
                          {"@Day1", kNumber},
                          {"@ODate", kDate},
                          {"@Comment", kText}},
-                        InsertOrUpdateMain);
+                        InsertOrUpdateMain, MemoryProcedure::Kind::kRecorded);
   database.AddProcedure("CldIUCelebrate",
                         {{"@Name1", kText},
                          {"@Comment", kText},
@@ -283,7 +222,7 @@ void AddCalendarProcedures(MemoryDatabase& database) {
                          {"@MD", kSmall},
                          {"@ID2", kNumber},
                          {"@Del", kSmall}},
-                        InsertOrUpdateCelebrate);
+                        InsertOrUpdateCelebrate, MemoryProcedure::Kind::kRecorded);
 }
 
 }  // namespace ferrowind::headless

@@ -6,5 +6,15 @@ class MemoryDatabase;
 
 /// Adds `CldAllInfo`, `CldGetMain`, `CldIUMain` and `CldIUCelebrate`.
 void AddCalendarProcedures(MemoryDatabase& database);
+/// Adds `CldGetBook` and `CldIUBook`.
+void AddBookProcedures(MemoryDatabase& database);
+/// Adds `CldGetFingerprint` and `CldApplyPlan`.
+void AddPlanProcedures(MemoryDatabase& database);
+/// Adds `CldUndo`, `CldGetHistory` and `CldGetAsOf`, on the history of `database`.
+void AddHistoryProcedures(MemoryDatabase& database);
+/// Adds `CldGetClosedDays` and `CldGetMarkedDays`.
+void AddYearProcedures(MemoryDatabase& database);
+/// Adds `CldIUCurrency` and `CldGetCurrencies`.
+void AddCurrencyProcedures(MemoryDatabase& database);
 
 }  // namespace ferrowind::headless

@@ -18,14 +18,20 @@ struct MemoryCurrency {
   /// 0 for money, 1 for everything else.
   std::int16_t type = 0;
   std::string name;
+  /// Date or empty, as all values below are of their type or empty.
+  platform::Value last_day = {};
+
+  friend bool operator==(const MemoryCurrency&, const MemoryCurrency&) = default;
 };
 
 /// A day of a calendar; an ordinary working day has type 1 and no rule.
 struct MemoryDay {
   std::int32_t type = 1;
   std::optional<std::int32_t> rule;
-  /// Text or empty, as all values below are of their type or empty.
+  /// Text.
   platform::Value comment;
+
+  friend bool operator==(const MemoryDay&, const MemoryDay&) = default;
 };
 
 struct MemoryRule {
@@ -40,15 +46,41 @@ struct MemoryRule {
   platform::Value weekday;
   /// int16: 2 removed, 4 restored.
   platform::Value removal_mark;
+
+  friend bool operator==(const MemoryRule&, const MemoryRule&) = default;
 };
+
+/// A recurring rule of a book; the comment and the name of a moved day are texts.
+struct MemoryRecurrence {
+  std::string name;
+  std::int32_t type = 0;
+  std::string expression;
+  platform::Value comment;
+  platform::Value moved_name;
+
+  friend bool operator==(const MemoryRecurrence&, const MemoryRecurrence&) = default;
+};
+
+struct MemoryBook {
+  std::string publisher;
+  std::string document;
+  std::vector<MemoryRecurrence> rules;
+
+  friend bool operator==(const MemoryBook&, const MemoryBook&) = default;
+};
+
+/// Currency and year.
+using CalendarKey = std::pair<std::int32_t, std::int32_t>;
 
 /// The tables of a calendar database. A copy of them is what a transaction works on.
 struct MemoryTables {
   std::vector<MemoryCurrency> currencies;
   std::map<std::int32_t, std::string> holiday_types;
   std::map<std::int32_t, MemoryRule> rules;
-  /// By currency and year: one entry per day of the year, in order.
-  std::map<std::pair<std::int32_t, std::int32_t>, std::vector<MemoryDay>> calendars;
+  /// One entry per day of the year, in order.
+  std::map<CalendarKey, std::vector<MemoryDay>> calendars;
+  /// By currency.
+  std::map<std::int32_t, MemoryBook> books;
   /// The weekday that a week begins with, 1 Sunday to 7 Saturday.
   std::int32_t first_day = 1;
   /// Rows of tables that a test's own procedures keep, by table name.

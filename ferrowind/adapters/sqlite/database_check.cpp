@@ -35,6 +35,16 @@ constexpr std::string_view kDataProblems[] = {
     "SELECT 'The calendar ' || ID1 || ' of ' || Year1 || ' is of no currency' FROM CldCalendar"
     " WHERE ID1 NOT IN (SELECT CcyID FROM DicCcy WHERE CcyType = 0)",
 
+    "SELECT 'The rule book of ' || ID1 || ' is of no currency' FROM CldBook"
+    " WHERE ID1 NOT IN (SELECT CcyID FROM DicCcy WHERE CcyType = 0)",
+
+    "SELECT 'The rule book of ' || ID1 || ' has ' || count(*) || ' rules, of which the last is number ' ||"
+    "  max(Position)"
+    " FROM CldRecurrence GROUP BY ID1 HAVING count(*) <> max(Position)",
+
+    "SELECT 'The row ' || RowNumber || ' of the entry ' || EntryID || ' of the history is no JSON'"
+    " FROM CldHistoryRow WHERE OldRow IS NOT NULL AND NOT json_valid(OldRow)",
+
     "SELECT 'The calendar ' || c.ID1 || ' of ' || c.Year1 || ' has ' || count(d.Day1) || ' days instead of '"
     "  || CAST(strftime('%j', c.Year1 || '-12-31') AS INTEGER)"
     " FROM CldCalendar c LEFT JOIN CldDay d ON d.ID1 = c.ID1 AND d.Year1 = c.Year1 GROUP BY c.ID1, c.Year1"

@@ -99,9 +99,8 @@ std::unique_ptr<content::Source> OpenContent(const std::string& path) {
 void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill) {
   platform::WithFailuresOnly([&] {
     if (!IsMissingOrEmpty(AbsolutePath(path))) return FillExisting(path, Target::kExisting, fill);
-    CreateDatabase(path, false, [&](const std::string& unfinished) {
-      FillExisting(PathIn(unfinished), Target::kNew, fill);
-    });
+    CreateDatabase(
+        path, [&](const std::string& unfinished) { FillExisting(PathIn(unfinished), Target::kNew, fill); });
   });
 }
 

@@ -18,8 +18,6 @@
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/values/failure.h"
 
-#include "database/seed/embedded_sql.h"
-
 namespace ferrowind::sqlite {
 namespace {
 
@@ -130,12 +128,11 @@ void TurnOnWriteAheadLog(const DatabaseHandle& database) {
   }
 }
 
-void WriteDelivered(const std::string& path, bool with_rules) {
+void WriteDelivered(const std::string& path) {
   DatabaseHandle database(path);
   {
     Transaction transaction(database, Transaction::Kind::kWriting);
     FillWithDeliveredSchema(database);
-    if (with_rules) database.Execute(std::string(embedded::kRules).c_str());
     transaction.Commit();
   }
   TurnOnWriteAheadLog(database);
@@ -143,13 +140,13 @@ void WriteDelivered(const std::string& path, bool with_rules) {
 
 }  // namespace
 
-void CreateDatabase(const std::string& path, bool with_rules,
+void CreateDatabase(const std::string& path,
                     const std::function<void(const std::string& connection_string)>& fill) {
   const std::string target = AbsolutePath(path);
   const bool replaces_empty_file = IsEmptyFileAt(target);
   RefuseLeftovers(target);
   NewFile file(target);
-  WriteDelivered(file.Path(), with_rules);
+  WriteDelivered(file.Path());
   if (fill) fill(std::string(Engine::kScheme) + ":" + file.Path());
   GatherInOneFile(file.Path());
   file.TakePlace(replaces_empty_file);

@@ -10,15 +10,15 @@
 namespace ferrowind::sqlite {
 
 /// Makes a new calendar database at `path` (absolute or relative to the current folder), readable and
-/// writable by its owner only: tables, procedures, currencies, holiday types, the built-in rule, the setting,
-/// and with `with_rules` the delivered rules. Then calls `fill`, when there is one, with the connection
-/// string of the database, through which it may add more; it keeps no connection.
+/// writable by its owner only: tables, procedures, currencies, holiday types, the built-in rule and the
+/// setting. Then calls `fill`, when there is one, with the connection string of the database, through which
+/// it may add more; it keeps no connection.
 ///
 /// The file appears at `path` only when all of it is there and `fill` has returned, so a creation that fails
 /// or is killed leaves no database behind (killed, it may leave a file PATH.creating-XXXXXX). A file that
 /// exists and is not empty, and files left over beside a database that is gone, are failures, and stay as
 /// they are. Fails only with `platform::Failure`, whose text names the path, and with what `fill` throws.
-void CreateDatabase(const std::string& path, bool with_rules,
+void CreateDatabase(const std::string& path,
                     const std::function<void(const std::string& connection_string)>& fill = {});
 
 /// The problems of the calendar database at `path`, each a sentence that says what and where; none when it is

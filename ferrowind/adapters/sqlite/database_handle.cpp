@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/sqlite/name_collation.h"
+#include "ferrowind/adapters/sqlite/sql_functions.h"
 #include "ferrowind/adapters/sqlite/sqlite_failure.h"
 
 namespace ferrowind::sqlite {
@@ -30,7 +31,8 @@ int Configure(sqlite3* database) {
   }
   sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kMostBytesOfACell);
   sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
-  return AddNameCollation(database);
+  const int code = AddNameCollation(database);
+  return code == SQLITE_OK ? AddSqlFunctions(database) : code;
 }
 
 /// Asked by SQLite whenever another program holds what a statement needs. 0 to give up.

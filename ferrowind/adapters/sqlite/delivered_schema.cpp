@@ -13,8 +13,13 @@ namespace ferrowind::sqlite {
 
 std::vector<sql_script::ProcedureDefinition> DeliveredProcedures() {
   std::vector<sql_script::ProcedureDefinition> procedures;
-  for (const std::string_view source : {embedded::kSqliteCldAllInfo, embedded::kSqliteCldGetMain,
-                                        embedded::kSqliteCldIUMain, embedded::kSqliteCldIUCelebrate}) {
+  for (const std::string_view source :
+       {embedded::kSqliteCldAllInfo, embedded::kSqliteCldGetMain, embedded::kSqliteCldIUMain,
+        embedded::kSqliteCldIUCelebrate, embedded::kSqliteCldGetBook, embedded::kSqliteCldIUBook,
+        embedded::kSqliteCldGetFingerprint, embedded::kSqliteCldApplyPlan, embedded::kSqliteCldUndo,
+        embedded::kSqliteCldGetHistory, embedded::kSqliteCldGetAsOf, embedded::kSqliteCldGetClosedDays,
+        embedded::kSqliteCldGetMarkedDays, embedded::kSqliteCldIUCurrency,
+        embedded::kSqliteCldGetCurrencies}) {
     procedures.push_back(sql_script::ParseProcedureSource(source));
   }
   return procedures;
@@ -29,7 +34,8 @@ void FillWithDeliveredSchema(DatabaseHandle& database) {
 }
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
-  static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kSqliteUpgradeToHistory}};
+  static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kSqliteUpgradeToHistory},
+                                                              {3, embedded::kSqliteUpgradeToRuleBooks}};
   return scripts;
 }
 

@@ -5,6 +5,7 @@
 #include "ferrowind/adapters/sqlite/body_authorizer.h"
 #include "ferrowind/adapters/sqlite/call_history.h"
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
+#include "ferrowind/adapters/sqlite/row_recorder.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/call_inputs.h"
 #include "ferrowind/platform/database/failure_boundary.h"
@@ -31,21 +32,34 @@ platform::CallOutcome EngineConnection::Call(const std::string& procedure, const
     platform::RefuseWrongInputs(procedure_->name, procedure_->parameters, inputs);
     Transaction transaction(database_,
                             procedure_->writes ? Transaction::Kind::kWriting : Transaction::Kind::kReading);
-    platform::CallOutcome outcome;
-    const auto changes_before = sqlite3_total_changes64(database_.Get());
-    {
-      const BodyAuthorizer authorizer(database_, procedure_->writes);
-      outcome = ProcedureInterpreter(database_, *procedure_, inputs).Run();
-    }
-    if (outcome.return_value == 0) {
-      if (procedure_->writes) {
-        AddToHistory(database_, *procedure_, inputs,
-                     sqlite3_total_changes64(database_.Get()) - changes_before);
-      }
-      transaction.Commit();
-    }
+    platform::CallOutcome outcome = procedure_->writes ? Change(inputs) : Read(inputs);
+    if (outcome.return_value == 0) transaction.Commit();
     return outcome;
   });
+}
+
+platform::CallOutcome EngineConnection::Read(const std::vector<Value>& inputs) {
+  const BodyAuthorizer authorizer(database_, false);
+  return ProcedureInterpreter(database_, *procedure_, inputs).Run();
+}
+
+platform::CallOutcome EngineConnection::Change(const std::vector<Value>& inputs) {
+  const auto changes_before = sqlite3_total_changes64(database_.Get());
+  RowRecorder recorder(database_);
+  ProcedureInterpreter interpreter(database_, *procedure_, inputs);
+  platform::CallOutcome outcome;
+  {
+    const BodyAuthorizer authorizer(database_, true);
+    outcome = interpreter.Run();
+  }
+  if (outcome.return_value == 0) {
+    const auto rows_changed = sqlite3_total_changes64(database_.Get()) - changes_before;
+    const auto replaced_rows = recorder.TakeRows();
+    const auto entry = AddToHistory(database_, {*procedure_, inputs, interpreter.Variable("ID1"),
+                                                interpreter.Variable("Year1"), rows_changed});
+    AddReplacedRows(database_, entry, replaced_rows);
+  }
+  return outcome;
 }
 
 void EngineConnection::LoadProcedure(const std::string& name) {

@@ -22,6 +22,9 @@ class EngineConnection : public platform::Connection {
                                            const std::vector<platform::Value>& inputs) override;
 
  private:
+  [[nodiscard]] platform::CallOutcome Read(const std::vector<platform::Value>& inputs);
+  /// Adds the call to the history.
+  [[nodiscard]] platform::CallOutcome Change(const std::vector<platform::Value>& inputs);
   void LoadProcedure(const std::string& name);
 
   DatabaseHandle database_;

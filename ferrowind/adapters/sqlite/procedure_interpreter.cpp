@@ -66,6 +66,11 @@ platform::CallOutcome ProcedureInterpreter::Run() {
   return std::move(outcome_);
 }
 
+Value ProcedureInterpreter::Variable(std::string_view name) const {
+  const auto found = variables_.find(FoldCase(name));
+  return found == variables_.end() ? Value() : found->second;
+}
+
 std::optional<std::int32_t> ProcedureInterpreter::RunStatement(std::string_view text) {
   Statement statement(database_, text);
   BindVariables(statement);

@@ -34,6 +34,9 @@ class ProcedureInterpreter {
 
   /// Called once. The transaction around it is the caller's.
   [[nodiscard]] platform::CallOutcome Run();
+  /// What the variable of that name, in any letter case and without its sign, holds now; empty when nothing
+  /// has set it.
+  [[nodiscard]] platform::Value Variable(std::string_view name) const;
 
  private:
   /// The return value, when the statement ends the call.

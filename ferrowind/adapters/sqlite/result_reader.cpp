@@ -26,6 +26,15 @@ Value WholeNumber(std::int64_t number, bool is_declared_int16) {
   return number;
 }
 
+/// As it is declared; empty for an expression that is not named with a type.
+std::string_view TypeOf(const Statement& statement, int column) {
+  const char* const declared = sqlite3_column_decltype(statement.Get(), column);
+  if (declared != nullptr) return declared;
+  const std::string_view name = statement.ColumnName(column);
+  const std::size_t blank = name.find(' ');
+  return blank == std::string_view::npos ? std::string_view() : name.substr(blank + 1);
+}
+
 /// In large steps: cells are costly to move, and most results are a year of days or a handful of rows.
 void MakeRoomForRow(std::vector<Value>& cells, std::size_t fields) {
   constexpr std::size_t kFirstRows = 32;
@@ -40,15 +49,21 @@ ResultReader::ResultReader(const Statement& statement) : statement_(statement) {
   const int count = statement.ColumnCount();
   columns_.reserve(static_cast<std::size_t>(count));
   for (int column = 0; column < count; ++column) {
-    const char* const declared = sqlite3_column_decltype(statement.Get(), column);
+    const std::string_view type = TypeOf(statement, column);
     ColumnKind kind = ColumnKind::kAsStored;
-    if (declared != nullptr && platform::CompareIgnoringCase(declared, "SMALLINT") == 0) {
+    if (platform::CompareIgnoringCase(type, "SMALLINT") == 0) {
       kind = ColumnKind::kInt16;
-    } else if (declared != nullptr && platform::CompareIgnoringCase(declared, "DATE") == 0) {
+    } else if (platform::CompareIgnoringCase(type, "DATE") == 0) {
       kind = ColumnKind::kDate;
     }
     columns_.push_back(kind);
   }
+}
+
+std::string_view ResultReader::Name(int column) const {
+  const std::string_view name = statement_.ColumnName(column);
+  const bool has_type = columns_[static_cast<std::size_t>(column)] != ColumnKind::kAsStored;
+  return has_type ? name.substr(0, name.find(' ')) : name;
 }
 
 Value ResultReader::Cell(int column) const {
@@ -84,7 +99,7 @@ std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement) {
   const ResultReader reader(statement);
   const int count = statement.ColumnCount();
   auto rows = std::make_shared<RecordRows>();
-  for (int column = 0; column < count; ++column) rows->fields.emplace_back(statement.ColumnName(column));
+  for (int column = 0; column < count; ++column) rows->fields.emplace_back(reader.Name(column));
   while (statement.Step()) {
     MakeRoomForRow(rows->cells, static_cast<std::size_t>(count));
     for (int column = 0; column < count; ++column) rows->cells.push_back(reader.Cell(column));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "ferrowind/adapters/sqlite/statement.h"
@@ -13,15 +14,18 @@ namespace ferrowind::sqlite {
 /// Turns the rows of a statement into values.
 ///
 /// The declared type of the table column that a result column comes from decides: DATE gives a date, SMALLINT
-/// an int16. Every other column and every expression gives what the cell holds: a whole number an int32 when
-/// it fits and an int64 when not, another number a double, a text a text, NULL an empty value. A whole number
-/// that is no int16 in a SMALLINT column comes like any other. A DATE cell that is no date, and a cell of
-/// bytes, are failures that name the column.
+/// an int16. An expression that is named as a column is declared, "ODate DATE", is taken for such a column.
+/// Every other column and every expression gives what the cell holds: a whole number an int32 when it fits
+/// and an int64 when not, another number a double, a text a text, NULL an empty value. A whole number that is
+/// no int16 in a SMALLINT column comes like any other. A DATE cell that is no date, and a cell of bytes, are
+/// failures that name the column.
 class ResultReader {
  public:
   /// `statement` must outlive the reader.
   explicit ResultReader(const Statement& statement);
 
+  /// The name of a column, without the type that it may be declared by.
+  [[nodiscard]] std::string_view Name(int column) const;
   /// A cell of the row that the statement stands on.
   [[nodiscard]] platform::Value Cell(int column) const;
 

@@ -8,7 +8,16 @@
 namespace ferrowind::contract {
 
 platform::CallOutcome ProcedureCaller::Call(const std::string& procedure, const Arguments& arguments) {
-  return CallOver(*database_.Engine().Connect(database_.ConnectionString()), procedure, arguments);
+  const auto connection_string = database_.ConnectionStringFor(procedure);
+  auto& open = connections_[connection_string];
+  if (open.calls_left == 0) {
+    open.connection = database_.Engine().Connect(connection_string);
+    open.calls_left = calls_per_connection_;
+  }
+  --open.calls_left;
+  auto outcome = CallOver(*open.connection, procedure, arguments);
+  if (open.calls_left == 0) open.connection.reset();
+  return outcome;
 }
 
 platform::CallOutcome CallOver(platform::Connection& connection, const std::string& procedure,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -20,11 +22,13 @@ using Row = std::vector<platform::Value>;
 [[nodiscard]] platform::CallOutcome CallOver(platform::Connection& connection, const std::string& procedure,
                                              const Arguments& arguments = {});
 
-/// Calls procedures of one database, each call on a connection of its own.
+/// Calls procedures of one database.
 class ProcedureCaller {
  public:
-  /// `database` must outlive the caller.
-  explicit ProcedureCaller(DatabaseUnderTest& database) : database_(database) {}
+  /// `database` must outlive the caller. Each call is on a connection of its own, unless a test of very many
+  /// calls wants one for `calls_per_connection` of them: a new one costs a server more than a call.
+  explicit ProcedureCaller(DatabaseUnderTest& database, int calls_per_connection = 1)
+      : database_(database), calls_per_connection_(calls_per_connection) {}
 
   platform::CallOutcome Call(const std::string& procedure, const Arguments& arguments = {});
   /// The return value alone.
@@ -34,6 +38,13 @@ class ProcedureCaller {
 
  private:
   DatabaseUnderTest& database_;
+  int calls_per_connection_;
+  struct OpenConnection {
+    std::unique_ptr<platform::Connection> connection;
+    int calls_left = 0;
+  };
+  /// By connection string.
+  std::map<std::string, OpenConnection> connections_;
 };
 
 [[nodiscard]] std::vector<std::string> FieldsOf(const platform::RecordSet& record_set);

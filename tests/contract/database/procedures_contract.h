@@ -19,7 +19,7 @@ inline constexpr std::int32_t kDollar = 840;
 inline constexpr std::int32_t kGold = 959;
 inline constexpr std::int32_t kNoCurrency = 1;
 
-/// What the four procedures do, on every engine. An engine's test program compiles the files of
+/// What the procedures do, on every engine. An engine's test program compiles the files of
 /// FERROWIND_PROCEDURES_CONTRACT and instantiates this suite with its own kind of database.
 class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<CalendarDatabaseUnderTest>> {
  protected:
@@ -39,8 +39,25 @@ class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<Calendar
   std::vector<Row> Days(std::int32_t year) {
     return RowsOf(*caller().Call("CldGetMain", {{"ID1", kEuro}, {"Year1", year}}).record_sets.at(0));
   }
+  /// The day of the euro's calendar, which must exist.
+  Row DayOn(platform::Date date) {
+    return Days(date.Year()).at(static_cast<std::size_t>(date.DayOfYear()) - 1);
+  }
   /// The rules in the order of their numbers.
   std::vector<Row> Rules() { return RowsOf(*caller().Call("CldAllInfo").record_sets.at(2)); }
+
+  std::string Fingerprint(std::int32_t currency, std::int32_t year);
+  /// Applies the plan `days` to the calendar as it is now.
+  int Apply(std::int32_t currency, std::int32_t year, const std::string& days);
+  /// Replaces the book of `currency` as it is now by one of the rules `rules`.
+  int StoreBook(std::int32_t currency, const std::string& rules);
+  int Undo(std::int32_t entry) { return caller().Return("CldUndo", {{"EntryID", entry}}); }
+  /// The number of the newest entry of the history; 0 when there is none.
+  std::int32_t LastEntry();
+  /// The newest entry's moment.
+  std::string LastMoment();
+  /// All that the procedures show of the content: calendars, days, rules, books and currencies.
+  std::vector<Row> Content();
 
   /// Adds a rule, which must be possible, and returns its number.
   std::int32_t AddWeekdayRule(const std::string& name, int weekday) {

@@ -25,7 +25,7 @@ TemporaryFolder::~TemporaryFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
-SqliteDatabase::SqliteDatabase() { sqlite::CreateDatabase(Path(), false); }
+SqliteDatabase::SqliteDatabase() { sqlite::CreateDatabase(Path()); }
 
 void SqliteDatabase::SetFirstDay(int first_day) {
   Execute("UPDATE CldSetting SET FirstDay = " + std::to_string(first_day));

@@ -67,7 +67,7 @@ TEST_F(SqliteFullDisk, ACreationFailsWithThatCauseAndLeavesNoFile) {
   int tries = 0;
   for (int writes = 0; writes < kEnoughWrites; ++writes, ++tries) {
     disk_.FillAfter(writes);
-    const std::string failure = FailureTextOf([&] { sqlite::CreateDatabase(path, true); });
+    const std::string failure = FailureTextOf([&] { sqlite::CreateDatabase(path); });
     const bool has_failed = disk_.HasFailed();
     disk_.MakeRoom();
     if (failure.empty()) {

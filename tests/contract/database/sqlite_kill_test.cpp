@@ -152,7 +152,7 @@ TEST(SqliteKill, ACreationThatIsKilledLeavesAWholeDatabaseOrNone) {
   const auto path = [&](int round) { return folder.Path() + "/" + std::to_string(round) + ".db"; };
 
   const auto start = std::chrono::steady_clock::now();
-  sqlite::CreateDatabase(path(0), true);
+  sqlite::CreateDatabase(path(0));
   const auto time =
       std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start);
   std::uniform_int_distribution<std::chrono::microseconds::rep> microseconds(0, 3 * time.count() / 2);
@@ -160,7 +160,7 @@ TEST(SqliteKill, ACreationThatIsKilledLeavesAWholeDatabaseOrNone) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-      sqlite::CreateDatabase(path(round), true);
+      sqlite::CreateDatabase(path(round));
       _exit(0);
     }
     std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
@@ -169,7 +169,7 @@ TEST(SqliteKill, ACreationThatIsKilledLeavesAWholeDatabaseOrNone) {
     if (std::filesystem::exists(path(round))) {
       EXPECT_THAT(sqlite::CheckDatabase(path(round)), ::testing::IsEmpty());
     } else {
-      sqlite::CreateDatabase(path(round), true);
+      sqlite::CreateDatabase(path(round));
     }
   }
 }

@@ -264,7 +264,7 @@ TEST_F(SqliteTrouble, APathOfAnyCharactersIsOpened) {
   for (const std::string name :
        {"with blank.db", "50% ?mode=ro#x.db", "Größe 祝日.db", "it's; quoted\".db", "-wal"}) {
     const std::string path = Folder() + "/" + name;
-    sqlite::CreateDatabase(path, false);
+    sqlite::CreateDatabase(path);
     EXPECT_EQ(FailureOfCall(path, "CldIUMain", kNewCalendar), "") << name;
     EXPECT_TRUE(std::filesystem::is_regular_file(path)) << name;
   }

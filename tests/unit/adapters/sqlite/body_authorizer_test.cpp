@@ -59,6 +59,10 @@ TEST_F(BodyAuthorizerTest, RefusesInABodyWhatReachesBeyondItsTables) {
         std::string("DELETE FROM procedureparameter"),
         std::string("INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
                     " VALUES ('somebody', 'CldIUMain', '{}', 0, 1)"),
+        std::string("INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName) VALUES (1, 1, 'CldDay')"),
+        std::string("INSERT INTO CldHistoryStart VALUES (1, '2026-01-01T00:00:00.000Z')"),
+        std::string("UPDATE sqlite_schema SET type = 'view'"),
+        std::string("UPDATE sqlite_master SET sql = ''"),
         std::string("INSERT INTO sqlite_schema (type) VALUES ('table')")}) {
     EXPECT_THAT(FailureOfBody("writes", statement), HasSubstr("SQLite ")) << statement;
   }

@@ -36,8 +36,8 @@ class DatabaseCheckTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 3"),
-              ElementsAre("The database has the schema version 3; this program's is 2"));
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 4"),
+              ElementsAre("The database has the schema version 4; this program's is 3"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {
@@ -91,6 +91,27 @@ TEST_F(DatabaseCheckTest, FindsACalendarWithoutItsDays) {
 TEST_F(DatabaseCheckTest, FindsACalendarOfNoCurrency) {
   EXPECT_THAT(ProblemsAfter("UPDATE DicCcy SET CcyType = 1 WHERE CcyID = 978"),
               ElementsAre("The calendar 978 of 2024 is of no currency"));
+}
+
+TEST_F(DatabaseCheckTest, FindsMissingViewsIndexesAndTriggersOfTheHistory) {
+  EXPECT_THAT(
+      ProblemsAfter("DROP VIEW CalendarDay; DROP INDEX CldDayByDate; DROP TRIGGER CldHistoryRowLosesNoRow"),
+      ElementsAre("The index CldDayByDate is missing", "The trigger CldHistoryRowLosesNoRow is missing",
+                  "The view CalendarDay is missing"));
+}
+
+TEST_F(DatabaseCheckTest, FindsARuleBookOfNoCurrencyAndOneWithAGap) {
+  EXPECT_THAT(ProblemsAfter("INSERT INTO CldBook VALUES (959, 'P', 'D');"
+                            "INSERT INTO CldRecurrence VALUES (959, 2, 'A', 3, '01-01', NULL, NULL)"),
+              ElementsAre("The rule book of 959 is of no currency",
+                          "The rule book of 959 has 1 rules, of which the last is number 2"));
+}
+
+TEST_F(DatabaseCheckTest, FindsARowOfTheHistoryThatIsNoJsonOrOfNoEntry) {
+  EXPECT_THAT(ProblemsAfter("INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName, OldRow)"
+                            " VALUES (9, 1, 'CldDay', '{')"),
+              ElementsAre("The row 1 of the entry 9 of the history is no JSON",
+                          "The table CldHistoryRow has a row that refers to a missing row of CldHistory"));
 }
 
 TEST_F(DatabaseCheckTest, FindsDaysOfNoCalendar) {

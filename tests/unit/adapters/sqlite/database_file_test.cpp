@@ -51,43 +51,36 @@ class DatabaseFileTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseFileTest, ANewDatabaseIsSoundAndNothingLiesBesideIt) {
-  CreateDatabase(Path(), true);
+  CreateDatabase(Path());
   EXPECT_THAT(CheckDatabase(Path()), IsEmpty());
   EXPECT_THAT(FilesInFolder(), ElementsAre("calendars.db"));
 }
 
 TEST_F(DatabaseFileTest, ANewDatabaseIsItsOwnersOnly) {
-  CreateDatabase(Path(), false);
+  CreateDatabase(Path());
   struct stat status {};
   ASSERT_EQ(stat(Path().c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777U, 0600U);
 }
 
 TEST_F(DatabaseFileTest, ANewDatabaseKeepsAWriteAheadLogAndItsVersion) {
-  CreateDatabase(Path(), false);
+  CreateDatabase(Path());
   EXPECT_EQ(Ask("PRAGMA journal_mode"), "wal");
-  EXPECT_EQ(Ask("PRAGMA user_version"), "2");
+  EXPECT_EQ(Ask("PRAGMA user_version"), "3");
   EXPECT_EQ(Ask("PRAGMA application_id"), std::to_string(0x46657277));
 }
 
-TEST_F(DatabaseFileTest, AnEmptyDatabaseHasCurrenciesAndTheBuiltInRuleOnly) {
-  CreateDatabase(Path(), false);
+TEST_F(DatabaseFileTest, ANewDatabaseHasCurrenciesAndTheBuiltInRuleOnly) {
+  CreateDatabase(Path());
   EXPECT_EQ(Ask("SELECT count(*) > 150 FROM DicCcy"), "1");
   EXPECT_EQ(Ask("SELECT group_concat(ID2) FROM CldHoliday"), "1");
   EXPECT_EQ(Ask("SELECT count(*) FROM CldHolidayType"), "4");
   EXPECT_EQ(Ask("SELECT FirstDay FROM CldSetting"), "1");
 }
 
-TEST_F(DatabaseFileTest, AnotherDatabaseHasTheDeliveredRules) {
-  CreateDatabase(Path(), true);
-  EXPECT_EQ(Ask("SELECT WD FROM CldHoliday WHERE Name1 = 'saturday'"), "7");
-  EXPECT_EQ(Ask("SELECT WD FROM CldHoliday WHERE Name1 = 'sunday'"), "1");
-  EXPECT_EQ(Ask("SELECT count(*) > 3 FROM CldHoliday WHERE TID1 IN (3, 4)"), "1");
-}
-
 TEST_F(DatabaseFileTest, WhatIsFilledInAppearsWithTheDatabase) {
   std::string place;
-  CreateDatabase(Path(), false, [&](const std::string& connection_string) {
+  CreateDatabase(Path(), [&](const std::string& connection_string) {
     place = connection_string;
     EXPECT_FALSE(std::filesystem::exists(Path()));
     Engine engine;
@@ -101,7 +94,7 @@ TEST_F(DatabaseFileTest, WhatIsFilledInAppearsWithTheDatabase) {
 }
 
 TEST_F(DatabaseFileTest, AFillingThatFailsLeavesNoDatabase) {
-  EXPECT_THROW(CreateDatabase(Path(), false, [](const std::string&) { throw std::runtime_error("no"); }),
+  EXPECT_THROW(CreateDatabase(Path(), [](const std::string&) { throw std::runtime_error("no"); }),
                std::runtime_error);
   EXPECT_THAT(FilesInFolder(), IsEmpty());
 }
@@ -110,7 +103,7 @@ TEST_F(DatabaseFileTest, AFillingThatKeepsAConnectionIsRefused) {
   Engine engine;
   std::unique_ptr<platform::Connection> kept;
   EXPECT_THAT(FailureTextOf([&] {
-                CreateDatabase(Path(), false, [&](const std::string& connection_string) {
+                CreateDatabase(Path(), [&](const std::string& connection_string) {
                   kept = engine.Connect(connection_string);
                   (void)kept->Call("CldIUMain", {978, 2026, {}, {}, {}, {}, {}});
                 });
@@ -121,37 +114,36 @@ TEST_F(DatabaseFileTest, AFillingThatKeepsAConnectionIsRefused) {
 
 TEST_F(DatabaseFileTest, AFileThatExistsIsNamedAndStaysAsItIs) {
   std::ofstream(Path()) << "notes";
-  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path(), false); }),
-              AllOf(HasSubstr(Path()), HasSubstr("already")));
+  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), AllOf(HasSubstr(Path()), HasSubstr("already")));
   EXPECT_EQ(std::filesystem::file_size(Path()), 5U);
   EXPECT_THAT(FilesInFolder(), ElementsAre("calendars.db"));
 }
 
 TEST_F(DatabaseFileTest, AnEmptyFileIsReplaced) {
   std::ofstream(Path()).flush();
-  CreateDatabase(Path(), false);
+  CreateDatabase(Path());
   EXPECT_THAT(CheckDatabase(Path()), IsEmpty());
 }
 
 TEST_F(DatabaseFileTest, ADirectoryOrALinkInTheWayIsNamedAndStays) {
   std::filesystem::create_directory(Path());
-  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path(), false); }), HasSubstr(Path()));
+  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), HasSubstr(Path()));
   std::filesystem::remove(Path());
   std::filesystem::create_symlink("/nowhere", Path());
-  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path(), false); }), HasSubstr(Path()));
+  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), HasSubstr(Path()));
   EXPECT_TRUE(std::filesystem::is_symlink(Path()));
 }
 
 TEST_F(DatabaseFileTest, AMissingFolderIsNamed) {
   const std::string path = folder_.Path() + "/missing/calendars.db";
-  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(path, false); }),
+  EXPECT_THAT(FailureTextOf([&] { CreateDatabase(path); }),
               AllOf(HasSubstr(path), HasSubstr("No such file or directory")));
 }
 
 TEST_F(DatabaseFileTest, WhatIsLeftOfADatabaseThatIsGoneIsNamedAndStays) {
   for (const std::string companion : {"-wal", "-shm", "-journal"}) {
     std::ofstream(Path() + companion) << "left";
-    EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path(), false); }), HasSubstr(Path() + companion));
+    EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), HasSubstr(Path() + companion));
     EXPECT_EQ(std::filesystem::file_size(Path() + companion), 4U);
     EXPECT_FALSE(std::filesystem::exists(Path()));
     std::filesystem::remove(Path() + companion);
@@ -159,8 +151,8 @@ TEST_F(DatabaseFileTest, WhatIsLeftOfADatabaseThatIsGoneIsNamedAndStays) {
 }
 
 TEST_F(DatabaseFileTest, AnUnusablePathIsRefused) {
-  EXPECT_THROW(CreateDatabase("", false), platform::Failure);
-  EXPECT_THROW(CreateDatabase(std::string("a\0b", 3), false), platform::Failure);
+  EXPECT_THROW(CreateDatabase(""), platform::Failure);
+  EXPECT_THROW(CreateDatabase(std::string("a\0b", 3)), platform::Failure);
   EXPECT_THROW((void)CheckDatabase(""), platform::Failure);
   EXPECT_THROW((void)CheckDatabase(Path()), platform::Failure);
 }

@@ -1,5 +1,6 @@
 // Bringing a database of an older version to this one.
 
+#include <cstdint>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -33,12 +34,22 @@ using ::testing::SizeIs;
 
 const Arguments kWeekdayRule = {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}};
 
-/// A database as version 1 made it, with a calendar and a rule.
+std::string ContentOfFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+constexpr std::int64_t kThisVersion = 3;
+
+/// A database as an older version made it, with a calendar and a rule.
 class OldDatabase : public contract::DatabaseUnderTest {
  public:
-  OldDatabase() {
+  explicit OldDatabase(int version = 1) {
     std::ofstream(Path()).close();
-    Execute(contract::VersionOneScript("sqlite"));
+    Execute(version == 1 ? contract::VersionOneScript("sqlite")
+                         : ContentOfFile(FERROWIND_VERSION_2 "/sqlite.sql"));
     Execute("PRAGMA journal_mode = WAL");
     Execute(contract::kVersionOneContent);
     Execute(
@@ -77,35 +88,69 @@ std::string SchemaOf(const std::string& path) {
          Answer(path, "SELECT * FROM ProcedureParameter ORDER BY ProcedureName, Position");
 }
 
+/// The currencies have a test of their own.
 std::string DataOf(const std::string& path) {
   std::string data;
-  for (const char* table :
-       {"DicCcy", "CldHolidayType", "CldHoliday", "CldCalendar", "CldDay", "CldSetting"}) {
+  for (const char* table : {"CldHolidayType", "CldHoliday", "CldCalendar", "CldDay", "CldSetting"}) {
     data += Answer(path, std::string("SELECT * FROM ") + table);
   }
   return data;
 }
 
-std::string ContentOfFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream content;
-  content << file.rdbuf();
-  return content.str();
+TEST(DatabaseUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
+  const SqliteDatabase fresh;
+  for (const int version : {1, 2}) {
+    OldDatabase old(version);
+    const std::string data = DataOf(old.Path());
+    ASSERT_NE(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
+    ASSERT_EQ(ReadSchemaVersion(old.Path()), version);
+    const auto outcome = UpgradeDatabase(old.Path());
+    EXPECT_EQ(outcome.from, version);
+    EXPECT_EQ(outcome.to, kThisVersion);
+    EXPECT_EQ(ReadSchemaVersion(old.Path()), kThisVersion);
+    EXPECT_EQ(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
+    EXPECT_EQ(DataOf(old.Path()), data);
+    EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+  }
 }
 
-TEST(DatabaseUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
-  OldDatabase old;
-  const SqliteDatabase fresh;
-  const std::string data = DataOf(old.Path());
-  ASSERT_NE(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
-  ASSERT_EQ(ReadSchemaVersion(old.Path()), 1);
-  const auto outcome = UpgradeDatabase(old.Path());
-  EXPECT_EQ(outcome.from, 1);
-  EXPECT_EQ(outcome.to, 2);
-  EXPECT_EQ(ReadSchemaVersion(old.Path()), 2);
-  EXPECT_EQ(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
-  EXPECT_EQ(DataOf(old.Path()), data);
+TEST(DatabaseUpgrade, CurrenciesThatAreNoLegalMoneyAnyMoreGetTheirLastDays) {
+  OldDatabase old(2);
+  old.Execute(
+      "INSERT INTO CldCalendar (ID1, Year1) VALUES (975, 2025);"
+      "WITH RECURSIVE Day (N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Day WHERE N < 365)"
+      " INSERT INTO CldDay SELECT 975, 2025, N, date('2025-01-01', (N - 1) || ' days'), 1, NULL, NULL FROM "
+      "Day;"
+      "UPDATE DicCcy SET Name = 'Our own name' WHERE Ccy = 'EUR'");
+  UpgradeDatabase(old.Path());
+  const auto currency = [&](const std::string& code) {
+    return Answer(old.Path(), "SELECT CcyID, CcyType, Name, LastDay FROM DicCcy WHERE Ccy = '" + code + "'");
+  };
+  EXPECT_EQ(currency("HRK"), "191|1|Kuna|2022-12-31|\n");
+  EXPECT_EQ(currency("BGN"), "975|0|Bulgarian Lev|2025-12-31|\n") << "it has a calendar, so it stays money";
+  EXPECT_EQ(currency("XCG"), "532|0|Caribbean Guilder||\n");
+  EXPECT_EQ(currency("ANG"), "530|1|Netherlands Antillean Guilder|2025-03-30|\n");
+  EXPECT_EQ(currency("EUR"), "978|0|Our own name||\n");
   EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+}
+
+TEST(DatabaseUpgrade, WhatCallsReplacedIsKnownFromTheUpgradeOn) {
+  OldDatabase old(2);
+  old.Execute(
+      "INSERT INTO CldHistory (Moment, UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue, "
+      "RowsChanged)"
+      " VALUES ('2026-01-02T03:04:05.678Z', 'somebody', 'CldIUMain', 978, 2026, '{}', 0, 366)");
+  UpgradeDatabase(old.Path());
+  ProcedureCaller caller(old);
+  ASSERT_EQ(caller.Return("CldIUMain", kWeekdayRule), 0);
+  const auto as_of = [&](const std::string& moment) {
+    return caller.Return("CldGetAsOf", {{"ID1", 978}, {"Year1", 2026}, {"Moment", moment}});
+  };
+  EXPECT_EQ(as_of("2026-01-02T03:04:06Z"), 9);
+  EXPECT_EQ(as_of("9999-12-31T23:59:59Z"), 0);
+  EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", 1}}), 9);
+  EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", 2}}), 0);
+  EXPECT_EQ(as_of(Answer(old.Path(), "SELECT max(Moment) FROM CldHistoryStart").substr(0, 24)), 0);
 }
 
 TEST(DatabaseUpgrade, AnUpgradedDatabaseKeepsAHistory) {
@@ -120,7 +165,7 @@ TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
   OldDatabase old;
   const std::string data = DataOf(old.Path());
   EXPECT_EQ(ProcedureCaller(old).Call("CldGetMain", {{"ID1", 978}, {"Year1", 2026}}).record_sets.size(), 1U);
-  const auto says_how = AllOf(HasSubstr("old.db has the schema version 1; this program's is 2"),
+  const auto says_how = AllOf(HasSubstr("old.db has the schema version 1; this program's is 3"),
                               HasSubstr("ferrowindctl upgrade"));
   EXPECT_THAT(FailureTextOf([&] { (void)ProcedureCaller(old).Call("CldIUMain", kWeekdayRule); }), says_how);
   EXPECT_THAT(FailureTextOf([&] { (void)ReadHistory(old.Path(), {}); }), says_how);
@@ -131,17 +176,17 @@ TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
   const SqliteDatabase fresh;
   const std::string before = ContentOfFile(fresh.Path());
   const auto outcome = UpgradeDatabase(fresh.Path());
-  EXPECT_EQ(outcome.from, 2);
-  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(outcome.from, kThisVersion);
+  EXPECT_EQ(outcome.to, kThisVersion);
   EXPECT_EQ(ContentOfFile(fresh.Path()), before);
 }
 
 TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
   SqliteDatabase fresh;
-  fresh.Execute("PRAGMA user_version = 3");
+  fresh.Execute("PRAGMA user_version = 4");
   const std::string before = SchemaOf(fresh.Path());
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }),
-              AllOf(HasSubstr("has the schema version 3; this program's is 2"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 4; this program's is 3"), HasSubstr("newer")));
   EXPECT_EQ(SchemaOf(fresh.Path()), before);
   fresh.Execute("PRAGMA user_version = 0");
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }), HasSubstr("schema version 0"));
@@ -149,17 +194,17 @@ TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
 
 TEST(DatabaseUpgrade, AScriptThatFailsAtItsEndLeavesTheDatabaseAsItWas) {
   OldDatabase old;
-  // In the way of the last object that the script makes.
-  old.Execute("CREATE TRIGGER CldHistoryLosesNoEntry AFTER DELETE ON CldDay BEGIN SELECT 1; END");
+  // In the way of the last object that the scripts make.
+  old.Execute("CREATE VIEW BookFingerprint AS SELECT 1");
   const std::string schema = SchemaOf(old.Path());
   const std::string data = DataOf(old.Path());
-  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(old.Path()); }),
-              AllOf(HasSubstr("The upgrade failed, and the database is as it was"),
-                    HasSubstr("CldHistoryLosesNoEntry")));
+  EXPECT_THAT(
+      FailureTextOf([&] { UpgradeDatabase(old.Path()); }),
+      AllOf(HasSubstr("The upgrade failed, and the database is as it was"), HasSubstr("BookFingerprint")));
   EXPECT_EQ(SchemaOf(old.Path()), schema);
   EXPECT_EQ(DataOf(old.Path()), data);
-  old.Execute("DROP TRIGGER CldHistoryLosesNoEntry");
-  EXPECT_EQ(UpgradeDatabase(old.Path()).to, 2);
+  old.Execute("DROP VIEW BookFingerprint");
+  EXPECT_EQ(UpgradeDatabase(old.Path()).to, kThisVersion);
   EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
 }
 
@@ -182,7 +227,7 @@ TEST(DatabaseUpgrade, OfTwoUpgradesAtTheSameTimeOneDoesTheWork) {
     outcomes[1] = UpgradeDatabase(old.Path());
     first.join();
   }
-  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + 2);
+  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + kThisVersion);
   EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
 }
 

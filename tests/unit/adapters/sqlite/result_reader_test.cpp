@@ -49,6 +49,17 @@ TEST_F(ResultReaderTest, GivesAnInt16ForAColumnDeclaredSmallint) {
   EXPECT_EQ(Cell("Small", "-32768"), Value(std::int16_t{-32768}));
 }
 
+TEST_F(ResultReaderTest, TakesAnExpressionForWhatItsNameDeclares) {
+  EXPECT_EQ(Cell("Text || '' AS \"Given DATE\"", "'2026-05-01'"), Value(platform::Date(2026, 5, 1)));
+  EXPECT_EQ(Cell("Number + 1 AS \"Given smallint\"", "7"), Value(std::int16_t{8}));
+  EXPECT_EQ(Cell("Text || '' AS Plain", "'2026-05-01'"), Value("2026-05-01"));
+  EXPECT_THAT(FailureTextOf("Text || '' AS \"Given DATE\"", "'soon'"), ::testing::HasSubstr("no date"));
+  Statement statement(database_, "SELECT date('2026-05-01') AS \"Given DATE\", 2 AS \"Two words\"");
+  const auto rows = ReadRecordSet(statement);
+  EXPECT_EQ(rows->FieldName(0), "Given");
+  EXPECT_EQ(rows->FieldName(1), "Two words");
+}
+
 TEST_F(ResultReaderTest, GivesAWiderNumberWhereASmallintColumnHoldsOne) {
   EXPECT_EQ(Cell("Small", "32768"), Value(32768));
 }

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "tests/contract/database/procedure_caller.h"
@@ -95,6 +97,56 @@ TEST_F(SchemaTest, TheHistoryIsOnlyAddedTo) {
   ExpectRefused(
       "INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters, ReturnValue, RowsChanged) "
       "VALUES ('yesterday', 'x', 'x', '{}', 0, 1)");
+}
+
+TEST_F(SchemaTest, TheRowsOfTheHistoryAreOnlyAddedTo) {
+  ExpectRefused("UPDATE CldHistoryRow SET OldRow = NULL");
+  ExpectRefused("DELETE FROM CldHistoryRow");
+  ExpectRefused("INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName) VALUES (77, 1, 'CldDay')");
+  ExpectRefused("INSERT INTO CldHistoryStart VALUES (0, 'yesterday')");
+  database_.Execute("INSERT INTO CldHistoryStart VALUES (0, '2026-01-01T00:00:00.000Z')");
+  ExpectRefused("INSERT INTO CldHistoryStart VALUES (1, '2026-01-01T00:00:00.000Z')");
+}
+
+TEST_F(SchemaTest, ARuleBookIsOfACurrencyAndItsRulesAreWhole) {
+  ExpectRefused("INSERT INTO CldBook VALUES (1, 'P', 'D')");
+  ExpectRefused("INSERT INTO CldBook VALUES (978, NULL, 'D')");
+  ExpectRefused("INSERT INTO CldBook VALUES (978, 'P', NULL)");
+  ExpectRefused("INSERT INTO CldRecurrence VALUES (978, 1, 'A', 3, '01-01', NULL, NULL)");
+  database_.Execute("INSERT INTO CldBook VALUES (978, 'P', 'D')");
+  for (const char* row : {"(978, 0, 'A', 3, '01-01', NULL, NULL)", "(978, 1, ' ', 3, '01-01', NULL, NULL)",
+                          "(978, 1, NULL, 3, '01-01', NULL, NULL)", "(978, 1, 'A', 5, '01-01', NULL, NULL)",
+                          "(978, 1, 'A', 3, '', NULL, NULL)", "(978, 1, 'A', 3, NULL, NULL, NULL)"}) {
+    ExpectRefused(std::string("INSERT INTO CldRecurrence VALUES ") + row);
+  }
+  database_.Execute("INSERT INTO CldRecurrence VALUES (978, 1, 'A', 3, '01-01', NULL, NULL)");
+  ExpectRefused("DELETE FROM CldBook");
+  ExpectRefused("DELETE FROM DicCcy WHERE CcyID = 978");
+}
+
+TEST_F(SchemaTest, ALastDayIsADate) {
+  ExpectRefused("UPDATE DicCcy SET LastDay = '2026-02-30' WHERE CcyID = 978");
+  ExpectRefused("UPDATE DicCcy SET LastDay = 'soon' WHERE CcyID = 978");
+  database_.Execute("UPDATE DicCcy SET LastDay = '2026-02-28' WHERE CcyID = 978");
+}
+
+TEST_F(SchemaTest, OthersReadTheCalendarsInViewsAndByDate) {
+  database_.Execute("UPDATE CldDay SET TID1 = 2, ID2 = 2, Comment = 'c' WHERE Day1 = 5");
+  const DatabaseHandle database(database_.Path());
+  const auto row = [&](const std::string& query) {
+    Statement ask(database, query);
+    std::string cells;
+    while (ask.Step()) {
+      for (int column = 0; column < ask.ColumnCount(); ++column) cells += std::string(ask.Text(column)) + "|";
+    }
+    return cells;
+  };
+  EXPECT_EQ(row("SELECT Ccy, Year FROM CalendarList"), "EUR|2026|");
+  EXPECT_EQ(row("SELECT Ccy, Year, Date, IsWorkingDay, Type, Rule, Comment FROM CalendarDay"
+                " WHERE Date BETWEEN '2026-01-05' AND '2026-01-06' ORDER BY Date"),
+            "EUR|2026|2026-01-05|0|Holiday|Sunday|c|EUR|2026|2026-01-06|1|Working day|||");
+  EXPECT_THAT(row("EXPLAIN QUERY PLAN SELECT * FROM CldDay WHERE ODate = '2026-01-05'"),
+              HasSubstr("CldDayByDate"));
 }
 
 TEST_F(SchemaTest, ACatalogueRowIsWhatTheEngineCanRead) {

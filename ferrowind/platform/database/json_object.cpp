@@ -1,17 +1,13 @@
-#include "ferrowind/adapters/sqlite/parameters_json.h"
+#include "ferrowind/platform/database/json_object.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <string_view>
 #include <variant>
 
 #include "ferrowind/platform/values/date.h"
 #include "ferrowind/platform/values/failure.h"
 
-namespace ferrowind::sqlite {
+namespace ferrowind::platform {
 namespace {
-
-using platform::Value;
 
 void AppendEscaped(char character, std::string& json) {
   constexpr std::string_view kDigits = "0123456789abcdef";
@@ -56,33 +52,28 @@ struct Writer {
   void operator()(std::monostate) const { json += "null"; }
   void operator()(std::int16_t value) const { json += std::to_string(value); }
   void operator()(std::int32_t value) const { json += std::to_string(value); }
-  void operator()(const std::string& value) const {
+  void operator()(std::string_view value) const {
     json += '"';
     for (const char character : value) AppendEscaped(character, json);
     json += '"';
   }
-  void operator()(platform::Date value) const { (*this)(value.ToIso()); }
+  void operator()(const std::string& value) const { (*this)(std::string_view(value)); }
+  void operator()(Date value) const { (*this)(value.ToIso()); }
   /// No parameter is of another type.
   template <typename Other>
   void operator()(const Other& /*value*/) const {
-    throw platform::TypeMismatch();
+    throw TypeMismatch();
   }
 };
 
 }  // namespace
 
-std::string ParametersAsJson(const std::vector<platform::ParameterDescription>& parameters,
-                             const std::vector<Value>& inputs) {
-  std::string json = "{";
-  const Writer write{json};
-  for (const auto& parameter : parameters) {
-    if (parameter.direction != platform::ParameterDirection::kInput) continue;
-    if (json.size() > 1) json += ", ";
-    write(parameter.name.substr(1));
-    json += " : ";
-    std::visit(write, inputs.at(static_cast<std::size_t>(parameter.position) - 1).Get());
-  }
-  return json + "}";
+void JsonObject::Add(std::string_view name, const Value& value) {
+  members_ += members_.empty() ? "{" : ", ";
+  const Writer write{members_};
+  write(name);
+  members_ += " : ";
+  std::visit(write, value.Get());
 }
 
-}  // namespace ferrowind::sqlite
+}  // namespace ferrowind::platform

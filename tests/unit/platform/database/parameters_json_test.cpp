@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/sqlite/parameters_json.h"
+#include "ferrowind/platform/database/parameters_json.h"
 
 #include <string>
 #include <vector>
@@ -8,15 +8,10 @@
 #include "ferrowind/platform/values/date.h"
 #include "ferrowind/platform/values/failure.h"
 
-namespace ferrowind::sqlite {
+namespace ferrowind::platform {
 namespace {
 
-using platform::Date;
-using platform::ParameterDirection;
-using platform::ParameterType;
-using platform::Value;
-
-const std::vector<platform::ParameterDescription> kParameters = {
+const std::vector<ParameterDescription> kParameters = {
     {"@RETURN_VALUE", 0, ParameterType::kInt32, ParameterDirection::kReturnValue},
     {"@Small", 1, ParameterType::kInt16, ParameterDirection::kInput},
     {"@Number", 2, ParameterType::kInt32, ParameterDirection::kInput},
@@ -47,8 +42,8 @@ TEST(ParametersJson, IsEmptyForAProcedureWithoutInputs) {
 }
 
 TEST(ParametersJson, RefusesAValueThatNoParameterHas) {
-  EXPECT_THROW((void)ParametersAsJson(kParameters, {Value(1.5), {}, {}, {}}), platform::Failure);
+  EXPECT_THROW((void)ParametersAsJson(kParameters, {Value(1.5), {}, {}, {}}), Failure);
 }
 
 }  // namespace
-}  // namespace ferrowind::sqlite
+}  // namespace ferrowind::platform

@@ -6,7 +6,7 @@
 #include "ferrowind/platform/database/parameter.h"
 #include "ferrowind/platform/values/value.h"
 
-namespace ferrowind::sqlite {
+namespace ferrowind::platform {
 
 /// The inputs of a call as a JSON object, `{"ID1" : 978, "ODate" : "2026-12-25", "Comment" : null}`: every
 /// input of `parameters`, in their order and without the leading "@"; dates as YYYY-MM-DD, empty as null. The
@@ -14,7 +14,7 @@ namespace ferrowind::sqlite {
 /// alike.
 ///
 /// `inputs` holds a value for each input, by position, of the declared type or empty.
-[[nodiscard]] std::string ParametersAsJson(const std::vector<platform::ParameterDescription>& parameters,
-                                           const std::vector<platform::Value>& inputs);
+[[nodiscard]] std::string ParametersAsJson(const std::vector<ParameterDescription>& parameters,
+                                           const std::vector<Value>& inputs);
 
-}  // namespace ferrowind::sqlite
+}  // namespace ferrowind::platform

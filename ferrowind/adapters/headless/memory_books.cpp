@@ -1,0 +1,125 @@
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "ferrowind/adapters/headless/memory_database.h"
+#include "ferrowind/adapters/headless/memory_json.h"
+#include "ferrowind/adapters/headless/memory_lookup.h"
+#include "ferrowind/adapters/headless/memory_procedures.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/fingerprint.h"
+
+namespace ferrowind::headless {
+namespace {
+
+using platform::CallOutcome;
+using platform::ParameterType;
+using platform::Value;
+
+constexpr std::size_t kMostRules = 10000;
+
+void Add(platform::Fingerprint& fingerprint, const Value& text) {
+  if (text.IsEmpty()) return fingerprint.AddNothing();
+  fingerprint.Add(platform::ToText(text));
+}
+
+std::string FingerprintOf(const MemoryBook& book) {
+  platform::Fingerprint fingerprint;
+  fingerprint.Add(book.publisher);
+  fingerprint.Add(book.document);
+  for (const MemoryRecurrence& rule : book.rules) {
+    fingerprint.Add(rule.name);
+    fingerprint.Add(std::to_string(rule.type));
+    fingerprint.Add(rule.expression);
+    Add(fingerprint, rule.comment);
+    Add(fingerprint, rule.moved_name);
+  }
+  return fingerprint.Digits();
+}
+
+CallOutcome GetBook(MemoryTables& tables, const std::vector<Value>& inputs) {
+  const Value& wanted = inputs[0];
+  if (!wanted.IsEmpty() && !IsMoney(tables, wanted)) return {kUnknownCurrency, {}};
+  Rows books;
+  Rows rules;
+  for (const auto& [currency, book] : tables.books) {
+    if (!wanted.IsEmpty() && wanted != Value(currency)) continue;
+    books.push_back({currency, book.publisher, book.document, FingerprintOf(book)});
+    std::int32_t position = 0;
+    for (const MemoryRecurrence& rule : book.rules) {
+      rules.push_back(
+          {currency, ++position, rule.name, rule.type, rule.expression, rule.comment, rule.moved_name});
+    }
+  }
+  return {kDone,
+          {Records({"ID1", "Publisher", "Document", "Fingerprint"}, std::move(books)),
+           Records({"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"},
+                   std::move(rules))}};
+}
+
+/// The rule that the members of a JSON object say; nothing when they say something else.
+std::optional<MemoryRecurrence> ReadRule(const JsonValue& object) {
+  const JsonMembers members(object, {"Name1", "TID1", "Expression", "Comment", "MovedName"});
+  const auto type = members.RuleType("TID1");
+  if (!members.AreWellFormed() || !type) return std::nullopt;
+  const auto name = members.TextOrNothing("Name1");
+  const auto expression = members.TextOrNothing("Expression");
+  const auto comment = members.TextOrNothing("Comment");
+  const auto moved_name = members.TextOrNothing("MovedName");
+  if (!name || !expression || !comment || !moved_name) return std::nullopt;
+  if (IsBlank(*name) || IsBlank(*expression)) return std::nullopt;
+  return MemoryRecurrence{platform::ToText(*name), *type, platform::ToText(*expression), *comment,
+                          *moved_name};
+}
+
+std::optional<std::vector<MemoryRecurrence>> ReadRules(const std::string& text) {
+  const auto json = ReadJson(text);
+  if (!json || json->kind != JsonValue::Kind::kList || json->items.size() > kMostRules) return std::nullopt;
+  std::vector<MemoryRecurrence> rules;
+  for (const JsonValue& item : json->items) {
+    auto rule = ReadRule(item);
+    if (!rule) return std::nullopt;
+    rules.push_back(std::move(*rule));
+  }
+  return rules;
+}
+
+CallOutcome InsertOrUpdateBook(MemoryTables& tables, const std::vector<Value>& inputs) {
+  const Value& currency = inputs[0];
+  const Value& expected = inputs[1];
+  const auto texts = {inputs[2], inputs[3], inputs[4]};
+  const auto missing =
+      std::count_if(texts.begin(), texts.end(), [](const Value& text) { return text.IsEmpty(); });
+  if (currency.IsEmpty() || expected.IsEmpty() || missing == 1 || missing == 2) return {kWrongValue, {}};
+  std::optional<std::vector<MemoryRecurrence>> rules;
+  if (missing == 0) {
+    rules = ReadRules(platform::ToText(inputs[4]));
+    if (!rules) return {kWrongValue, {}};
+  }
+  if (!IsMoney(tables, currency)) return {kUnknownCurrency, {}};
+  const std::int32_t id = platform::ToInt32(currency);
+  const auto book = tables.books.find(id);
+  const std::string fingerprint = book == tables.books.end() ? "" : FingerprintOf(book->second);
+  if (platform::ToText(expected) != fingerprint) return {kAnotherContent, {}};
+  tables.books.erase(id);
+  if (rules) {
+    tables.books[id] = {platform::ToText(inputs[2]), platform::ToText(inputs[3]), std::move(*rules)};
+  }
+  return {kDone, {}};
+}
+
+}  // namespace
+
+void AddBookProcedures(MemoryDatabase& database) {
+  constexpr auto kText = ParameterType::kText;
+  database.AddProcedure("CldGetBook", {{"@ID1", ParameterType::kInt32}}, GetBook);
+  database.AddProcedure("CldIUBook",
+                        {{"@ID1", ParameterType::kInt32},
+                         {"@Expected", kText},
+                         {"@Publisher", kText},
+                         {"@Document", kText},
+                         {"@Rules", kText}},
+                        InsertOrUpdateBook, MemoryProcedure::Kind::kRecorded);
+}
+
+}  // namespace ferrowind::headless

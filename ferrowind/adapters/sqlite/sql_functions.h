@@ -1,0 +1,15 @@
+#pragma once
+
+#include <sqlite3.h>
+
+namespace ferrowind::sqlite {
+
+/// Gives `database` the functions that the views and the procedures use beside SQLite's own:
+///  - FERROWIND_FINGERPRINT(a, b, ...): the digits of the `platform::Fingerprint` of the values of all rows,
+///  an aggregate; rows come from a subquery that orders them;
+///  - FERROWIND_IS_TEXT(text): whether the text is well-formed UTF-8 without the character NUL, which a text
+///  made from the escapes of JSON need not be; 1 of NULL.
+/// Returns SQLite's result code.
+[[nodiscard]] int AddSqlFunctions(sqlite3* database) noexcept;
+
+}  // namespace ferrowind::sqlite

@@ -1,0 +1,268 @@
+// What CldGetAsOf gives.
+
+#include <chrono>
+#include <cstdio>
+#include <map>
+#include <optional>
+#include <random>
+#include <thread>
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/platform/values/conversion.h"
+
+#include "tests/contract/database/procedures_contract.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using platform::Date;
+using platform::Value;
+
+constexpr const char* kEarly = "1999-12-31T23:59:59Z";
+constexpr const char* kLate = "9999-12-31T23:59:59Z";
+
+/// The days of a calendar; none when it does not exist.
+using Calendar = std::optional<std::vector<Row>>;
+
+Calendar CalendarOf(const platform::CallOutcome& outcome) {
+  EXPECT_TRUE(outcome.return_value == 0 || outcome.return_value == 5) << outcome.return_value;
+  if (outcome.return_value != 0) return std::nullopt;
+  return RowsOf(*outcome.record_sets.at(0));
+}
+
+Calendar AsOf(ProcedureCaller& caller, int currency, int year, const std::string& moment) {
+  return CalendarOf(caller.Call("CldGetAsOf", {{"ID1", currency}, {"Year1", year}, {"Moment", moment}}));
+}
+
+/// Has what follows get another moment than what came before.
+void LetAMomentPass() { std::this_thread::sleep_for(std::chrono::milliseconds(3)); }
+
+TEST_P(ProceduresContract, ACalendarIsGivenAsItWas) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto created = LastMoment();
+  const auto empty = Days(2028);
+  LetAMomentPass();
+  ASSERT_EQ(Apply(kEuro, 2028, R"([{"Name1": "A", "TID1": 3, "Comment": "c", "Dates": ["2028-01-05"],
+                                    "DayComment": "d"}])"),
+            0);
+  const auto planned = LastMoment();
+  const auto with_rule = Days(2028);
+  LetAMomentPass();
+  ASSERT_EQ(
+      caller().Return(
+          "CldIUCelebrate",
+          {{"ID2", 2}, {"Name1", "Renamed"}, {"TID1", 3}, {"D1", Date(2028, 1, 5)}, {"MY", 1}, {"MD", 5}}),
+      0);
+  const auto renamed = LastMoment();
+  const auto with_name = Days(2028);
+  LetAMomentPass();
+  ASSERT_EQ(Apply(kEuro, 2028, R"([{"TID1": 1, "Dates": ["2028-01-05"]}])"), 0);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, kEarly), std::nullopt);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, created), empty);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, planned), with_rule);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, renamed), with_name);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, LastMoment()), empty);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, kLate), empty);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2029, kLate), std::nullopt);
+}
+
+TEST_P(ProceduresContract, ACalendarThatIsGoneIsGivenAsItWas) {
+  ASSERT_EQ(Apply(kEuro, 2028, R"([{"Name1": "A", "TID1": 3, "Dates": ["2028-01-05"]}])"), 0);
+  const auto planned = LastMoment();
+  const auto days = Days(2028);
+  LetAMomentPass();
+  ASSERT_EQ(Undo(LastEntry()), 0);
+  const auto removed = LastMoment();
+  LetAMomentPass();
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, planned), days);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, removed), std::nullopt);
+  ASSERT_EQ(Apply(kEuro, 2028, R"([{"Name1": "B", "TID1": 4, "Dates": ["2028-01-05", "2028-01-06"]}])"), 0);
+  LetAMomentPass();
+  ASSERT_EQ(Apply(kEuro, 2028, R"([{"TID1": 1, "Dates": ["2028-01-06", "2028-01-07"], "DayComment": "x"}])"),
+            0);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, planned), days);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, removed), std::nullopt);
+  EXPECT_EQ(AsOf(caller(), kEuro, 2028, kLate), Days(2028));
+}
+
+TEST_P(ProceduresContract, AMomentHasOneForm) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto at = [&](const Value& moment) {
+    return caller().Return("CldGetAsOf", {{"ID1", kEuro}, {"Year1", 2028}, {"Moment", moment}});
+  };
+  for (const char* moment : {"",
+                             "now",
+                             "2999-01-01",
+                             "2999-01-01T00:00Z",
+                             "2999-01-01T00:00:00",
+                             "2999-01-01 00:00:00Z",
+                             "2999-01-01T00:00:00+00:00",
+                             "2999-13-01T00:00:00Z",
+                             "2999-02-29T00:00:00Z",
+                             "2999-01-01T24:00:00Z",
+                             "2999-01-01T00:60:00Z",
+                             "2999-01-01T00:00:60Z",
+                             "2999-01-01T00:00:00.Z",
+                             "2999-01-01T00:00:00.1Z",
+                             "2999-01-01T00:00:00.12Z",
+                             "2999-01-01T00:00:00.1234Z",
+                             "2999-01-01t00:00:00z",
+                             " 2999-01-01T00:00:00Z",
+                             "2999-01-01T00:00:00Z ",
+                             "2999-1-1T0:00:00Z"}) {
+    EXPECT_EQ(at(moment), 7) << moment;
+  }
+  EXPECT_EQ(at({}), 7);
+  EXPECT_EQ(at("2999-01-01T00:00:00Z"), 0);
+  EXPECT_EQ(at("2999-12-31T23:59:59.999Z"), 0);
+}
+
+TEST_P(ProceduresContract, ACalendarAsItWasIsRefusedLikeTheDays) {
+  const auto as_of = [&](const Value& currency, const Value& year) {
+    return caller().Return("CldGetAsOf", {{"ID1", currency}, {"Year1", year}, {"Moment", kLate}});
+  };
+  EXPECT_EQ(as_of({}, 2028), 7);
+  EXPECT_EQ(as_of(kEuro, {}), 7);
+  EXPECT_EQ(as_of(kEuro, 1899), 7);
+  EXPECT_EQ(as_of(kEuro, 3001), 7);
+  EXPECT_EQ(as_of(kNoCurrency, 2028), 3);
+  EXPECT_EQ(as_of(kGold, 2028), 3);
+  EXPECT_EQ(as_of(kEuro, 2028), 5);
+}
+
+/// Makes random calls that change calendars and rules.
+class RandomCalls {
+ public:
+  RandomCalls(platform::Connection& connection, std::uint32_t seed)
+      : connection_(connection), random_(seed) {}
+
+  void Make() {
+    switch (UpTo(9)) {
+      case 0:
+        Call("CldIUMain", {{"ID1", Currency()}, {"Year1", Year()}});
+        break;
+      case 1:
+        StoreRule();
+        break;
+      case 2:
+        Call("CldIUCelebrate", {{"ID2", UpTo(14)}, {"Del", UpTo(1) == 0 ? 2 : 4}});
+        break;
+      case 3:
+      case 4:
+        ApplyPlan();
+        break;
+      case 5:
+      case 6:
+        Call("CldUndo", {{"EntryID", std::max(1, Entries() - UpTo(UpTo(3) == 0 ? 60 : 3))}});
+        break;
+      default:
+        AssignDays();
+    }
+  }
+
+  int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(random_); }
+  int Currency() { return UpTo(1) == 0 ? kEuro : kDollar; }
+  int Year() { return 2027 + UpTo(1); }
+
+ private:
+  int Entries() {
+    const auto newest = Call("CldGetHistory", {{"Count", 1}}).record_sets.at(0);
+    return newest->RowCount() == 0 ? 0 : platform::ToInt32((*newest)["EntryID"]);
+  }
+  std::string Name() { return "Rule " + std::to_string(UpTo(11)); }
+  Value Comment() { return UpTo(2) == 0 ? Value() : Value("comment " + std::to_string(UpTo(9))); }
+
+  void StoreRule() {
+    Arguments arguments = {{"Name1", Name()}, {"Comment", Comment()}};
+    if (UpTo(3) != 0) arguments.emplace_back("ID2", 2 + UpTo(12));
+    const int type = 2 + UpTo(2);
+    arguments.emplace_back("TID1", type);
+    if (type == 2) {
+      arguments.emplace_back("WD", 1 + UpTo(6));
+    } else {
+      const Date date = Date(2027, 1, 1).AddDays(UpTo(364));
+      arguments.insert(arguments.end(), {{"D1", date}, {"MY", date.Month()}, {"MD", date.Day()}});
+    }
+    Call("CldIUCelebrate", arguments);
+  }
+
+  void AssignDays() {
+    const int year = Year();
+    const int day = 1 + UpTo(9);
+    Arguments arguments = {{"ID1", Currency()}, {"Year1", year}, {"Comment", Comment()}};
+    const int type = 1 + UpTo(3);
+    arguments.insert(arguments.end(), {{"TID1", type}, {"ID2", type == 1 ? 1 : 2 + UpTo(12)}});
+    if (type != 2) {
+      arguments.insert(arguments.end(), {{"Day1", day}, {"ODate", Date(year, 1, 1).AddDays(day - 1)}});
+    }
+    Call("CldIUMain", arguments);
+  }
+
+  void ApplyPlan() {
+    const int currency = Currency();
+    const int year = Year();
+    std::string days = "[";
+    for (int item = 0, day = 1; item < 3; ++item) {
+      const int type = 1 + UpTo(3);
+      if (item != 0) days += ", ";
+      days += R"({"TID1": )" + std::to_string(type);
+      if (type != 1) days += R"(, "Name1": ")" + Name() + '"';
+      if (UpTo(1) == 0) days += R"(, "DayComment": "plan )" + std::to_string(UpTo(9)) + '"';
+      day += 1 + UpTo(3);
+      days += R"(, "Dates": [")" + Date(year, 1, 1).AddDays(day - 1).ToIso() + R"("]})";
+    }
+    const auto fingerprint =
+        (*Call("CldGetFingerprint", {{"ID1", currency}, {"Year1", year}}).record_sets.at(0))["Fingerprint"];
+    Call("CldApplyPlan",
+         {{"ID1", currency}, {"Year1", year}, {"Expected", fingerprint}, {"Days", days + "]"}});
+  }
+
+  platform::CallOutcome Call(const std::string& procedure, const Arguments& arguments) {
+    return CallOver(connection_, procedure, arguments);
+  }
+
+  platform::Connection& connection_;
+  std::mt19937 random_;
+};
+
+TEST_P(ProceduresContract, EveryMomentOfTwoThousandRandomCallsIsGivenAsItWas) {
+  struct Record {
+    std::string moment;
+    int currency;
+    int year;
+    Calendar calendar;
+  };
+  const auto seed = std::random_device()();
+  RecordProperty("seed", std::to_string(seed));
+  std::printf("The calls come from the seed %u\n", seed);
+  // One connection for all: most of the time of a call goes into opening the database.
+  const auto connection = database().Engine().Connect(database().ConnectionString());
+  RandomCalls calls(*connection, seed);
+  std::vector<Record> records;
+  ASSERT_EQ(CreateCalendar(kEuro, 2027), 0);
+  for (int call = 0; call < 2000; ++call) {
+    calls.Make();
+    const auto newest = CallOver(*connection, "CldGetHistory", {{"Count", 1}}).record_sets.at(0);
+    const auto moment = platform::ToText((*newest)["Moment"]);
+    // As of a moment is behind the last call of that moment.
+    while (!records.empty() && records.back().moment == moment) records.pop_back();
+    const int currency = calls.Currency();
+    const int year = calls.Year();
+    records.push_back(
+        {moment, currency, year,
+         CalendarOf(CallOver(*connection, "CldGetMain", {{"ID1", currency}, {"Year1", year}}))});
+  }
+  int wrong = 0;
+  for (std::size_t i = 0; i < records.size() && wrong < 3; i += 3) {
+    const auto& [moment, currency, year, calendar] = records[i];
+    const Arguments then = {{"ID1", currency}, {"Year1", year}, {"Moment", moment}};
+    if (CalendarOf(CallOver(*connection, "CldGetAsOf", then)) == calendar) continue;
+    ADD_FAILURE() << "the calendar " << currency << " of " << year << " as of " << moment;
+    ++wrong;
+  }
+  EXPECT_GT(records.size(), 500U);
+}
+
+}  // namespace
+}  // namespace ferrowind::contract
