@@ -9,14 +9,37 @@ namespace ferrowind::embedded {
 extern const std::string_view kPostgresRoles;
 /// The schema, tables, constraints and views.
 extern const std::string_view kPostgresSchema;
+/// The functions that the procedures and triggers are made of, each behind those that its creation needs.
+extern const std::string_view kPostgresHistoryEntry;
+extern const std::string_view kPostgresRowContent;
+extern const std::string_view kPostgresKeptRows;
+extern const std::string_view kPostgresJsonLists;
+extern const std::string_view kPostgresPlannedDays;
+extern const std::string_view kPostgresBookRules;
+extern const std::string_view kPostgresFingerprint;
+extern const std::string_view kPostgresMomentFrom;
+extern const std::string_view kPostgresCurrencyCanBe;
+extern const std::string_view kPostgresUndo;
 /// The procedures' sources.
 extern const std::string_view kPostgresCldAllInfo;
 extern const std::string_view kPostgresCldGetMain;
 extern const std::string_view kPostgresCldIUMain;
 extern const std::string_view kPostgresCldIUCelebrate;
+extern const std::string_view kPostgresCldGetBook;
+extern const std::string_view kPostgresCldIUBook;
+extern const std::string_view kPostgresCldGetFingerprint;
+extern const std::string_view kPostgresCldApplyPlan;
+extern const std::string_view kPostgresCldUndo;
+extern const std::string_view kPostgresCldGetHistory;
+extern const std::string_view kPostgresCldGetAsOf;
+extern const std::string_view kPostgresCldGetClosedDays;
+extern const std::string_view kPostgresCldGetMarkedDays;
+extern const std::string_view kPostgresCldIUCurrency;
+extern const std::string_view kPostgresCldGetCurrencies;
 /// Who may do what.
 extern const std::string_view kPostgresRights;
 /// The scripts that bring older databases here, by version.
 extern const std::string_view kPostgresUpgradeToHistory;
+extern const std::string_view kPostgresUpgradeToPlans;
 
 }  // namespace ferrowind::embedded

@@ -1,13 +1,16 @@
--- Who may do what: operators call the four procedures and read the dictionary, readers read the views of calendars and
--- days, and nobody else has any right. The procedures run with their owner's rights, so operators need none on a table.
--- The history names people: it is for administrators, who are members of the owner, and no view of it is for readers.
+-- Who may do what: operators call the procedures and read the dictionary, readers read the views of calendars and days, and
+-- nobody else has any right. The procedures run with their owner's rights, so operators need none on a table. Which
+-- currencies there are is decided by administrators, who are members of the owner: CldIUCurrency is for nobody else. The
+-- history names people: operators see it through CldGetHistory, to undo what went wrong, and no view of it is for readers.
 
 REVOKE ALL ON SCHEMA ferrowind FROM PUBLIC;
 REVOKE ALL ON ALL TABLES IN SCHEMA ferrowind FROM PUBLIC;
 REVOKE ALL ON ALL ROUTINES IN SCHEMA ferrowind FROM PUBLIC;
 
 GRANT USAGE ON SCHEMA ferrowind TO ferrowind_operator, ferrowind_reader;
-GRANT EXECUTE ON PROCEDURE CldAllInfo, CldGetMain, CldIUMain, CldIUCelebrate TO ferrowind_operator;
+GRANT EXECUTE ON PROCEDURE CldAllInfo, CldGetMain, CldIUMain, CldIUCelebrate, CldGetBook, CldIUBook, CldGetFingerprint,
+  CldApplyPlan, CldUndo, CldGetHistory, CldGetAsOf, CldGetClosedDays, CldGetMarkedDays, CldGetCurrencies
+TO ferrowind_operator;
 GRANT SELECT ON DictionaryCcy TO ferrowind_operator;
 GRANT SELECT ON CalendarList, CalendarDay TO ferrowind_reader;
 

@@ -1,5 +1,5 @@
 -- What the windows need before a calendar is chosen: calendars, holiday types, holiday rules, first weekday.
--- The cursors see the tables one moment after the other. Nothing that one of them refers to is ever deleted.
+-- The cursors see the tables one moment after the other; none shows what another one must have.
 CREATE PROCEDURE CldAllInfo(
   INOUT "RETURN_VALUE" integer DEFAULT NULL,
   INOUT "Calendars" refcursor DEFAULT 'Calendars',

@@ -21,6 +21,7 @@ AS $$
 DECLARE
   rule CldHoliday;
   namesake CldHoliday;
+  entry bigint;
   rows_changed bigint;
 BEGIN
   "RETURN_VALUE" := 7;
@@ -56,31 +57,29 @@ BEGIN
     END IF;
   END IF;
 
-  IF "Del" IS NOT NULL THEN
-    UPDATE CldHoliday SET Del = "Del" WHERE ID2 = "ID2";
-  ELSE
+  IF "Del" IS NULL THEN
     SELECT * INTO namesake FROM CldHoliday
     WHERE NameKey(Name1) = NameKey("Name1") AND ID2 IS DISTINCT FROM "ID2";
     IF FOUND THEN
       "RETURN_VALUE" := CASE namesake.Del WHEN 2 THEN 10 ELSE 2 END;
       RETURN;
     END IF;
+  END IF;
 
-    IF "ID2" IS NOT NULL THEN
-      UPDATE CldHoliday SET Name1 = "Name1", Comment = "Comment", WD = "WD", D1 = "D1", MY = "MY", MD = "MD"
-      WHERE ID2 = "ID2";
-    ELSE
-      INSERT INTO CldHoliday (ID2, Name1, Comment, TID1, WD, D1, MY, MD)
-      SELECT max(ID2) + 1, "Name1", "Comment", "TID1", "WD", "D1", "MY", "MD" FROM CldHoliday;
-    END IF;
+  entry := BeginEntry('CldIUCelebrate', NULL, NULL,
+    json_build_object('Name1', "Name1", 'Comment', "Comment", 'TID1', "TID1", 'WD', "WD", 'D1', "D1", 'MY', "MY", 'MD', "MD",
+      'ID2', "ID2", 'Del', "Del"));
+  IF "Del" IS NOT NULL THEN
+    UPDATE CldHoliday SET Del = "Del" WHERE ID2 = "ID2";
+  ELSIF "ID2" IS NOT NULL THEN
+    UPDATE CldHoliday SET Name1 = "Name1", Comment = "Comment", WD = "WD", D1 = "D1", MY = "MY", MD = "MD"
+    WHERE ID2 = "ID2";
+  ELSE
+    INSERT INTO CldHoliday (ID2, Name1, Comment, TID1, WD, D1, MY, MD)
+    SELECT max(ID2) + 1, "Name1", "Comment", "TID1", "WD", "D1", "MY", "MD" FROM CldHoliday;
   END IF;
   GET DIAGNOSTICS rows_changed = ROW_COUNT;
-
-  INSERT INTO CldHistory (ProcedureName, Parameters, ReturnValue, RowsChanged)
-  VALUES ('CldIUCelebrate',
-    json_build_object('Name1', "Name1", 'Comment', "Comment", 'TID1', "TID1", 'WD', "WD", 'D1', "D1", 'MY', "MY", 'MD', "MD",
-      'ID2', "ID2", 'Del', "Del"),
-    0, rows_changed);
+  PERFORM EndEntry(entry, rows_changed);
   "RETURN_VALUE" := 0;
 END
 $$;

@@ -1,10 +1,11 @@
 -- Without TID1 creates the calendar of the currency ID1 for Year1, every day an ordinary working day. With TID1 gives
 -- days of the calendar the rule ID2 of that type: the day Day1, or for a weekday rule (type 2) without Day1 every day
 -- of the year on its weekday. What a day carried before, its comment included, is replaced.
--- Returns 0; 7 a value is missing or out of range; 3 unknown currency; 4 unknown rule (a removed one is not assigned
--- either); 5 unknown calendar; 6 the calendar exists already.
--- Whoever changes a calendar's days locks the calendar's row first, so that two calls for one calendar run one after the
--- other and never wait for each other in turns.
+-- Returns 0; 7 a value is missing or out of range; 3 unknown currency, or for a new calendar one that is no legal money any
+-- more when its year begins; 4 unknown rule (a removed one is not assigned either); 5 unknown calendar; 6 the calendar
+-- exists already.
+-- Whoever changes a calendar's days locks the calendar's row first, and whoever creates a calendar its currency's before, so
+-- that two calls for one calendar run one after the other and never wait for each other in turns.
 CREATE PROCEDURE CldIUMain(
   "ID1" integer DEFAULT NULL,
   "Year1" integer DEFAULT NULL,
@@ -20,8 +21,10 @@ AS $$
 DECLARE
   calendar_exists boolean;
   first_date date;
+  last_day date;
   rule CldHoliday;
   weekday integer;
+  entry bigint;
   rows_changed bigint;
 BEGIN
   "RETURN_VALUE" := 7;
@@ -31,7 +34,12 @@ BEGIN
   first_date := make_date("Year1", 1, 1);
 
   -- Only money has calendars: the windows list no other currency that a calendar could stand under.
-  IF NOT EXISTS (SELECT FROM DicCcy WHERE CcyID = "ID1" AND CcyType = 0) THEN
+  IF "TID1" IS NULL THEN
+    SELECT LastDay INTO last_day FROM DicCcy WHERE CcyID = "ID1" AND CcyType = 0 FOR NO KEY UPDATE;
+  ELSE
+    PERFORM FROM DicCcy WHERE CcyID = "ID1" AND CcyType = 0;
+  END IF;
+  IF NOT FOUND THEN
     "RETURN_VALUE" := 3;
     RETURN;
   END IF;
@@ -44,17 +52,14 @@ BEGIN
     IF "ID2" IS NOT NULL OR "Day1" IS NOT NULL OR "ODate" IS NOT NULL OR "Comment" IS NOT NULL THEN
       RETURN;
     END IF;
-    -- Waits for a call that is creating the same calendar just now.
-    INSERT INTO CldCalendar (ID1, Year1) VALUES ("ID1", "Year1") ON CONFLICT DO NOTHING;
-    IF NOT FOUND THEN
+    IF calendar_exists THEN
       "RETURN_VALUE" := 6;
       RETURN;
     END IF;
-    INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1)
-    SELECT "ID1", "Year1", day, first_date + (day - 1), 1
-    FROM generate_series(1, make_date("Year1" + 1, 1, 1) - first_date) AS day;
-    GET DIAGNOSTICS rows_changed = ROW_COUNT;
-    rows_changed := rows_changed + 1;
+    IF extract(year FROM last_day) < "Year1" THEN
+      "RETURN_VALUE" := 3;
+      RETURN;
+    END IF;
   ELSE
     -- An assignment. Only a weekday rule may leave out the day, and then the date as well; a dated rule needs both.
     IF "TID1" NOT BETWEEN 1 AND 4
@@ -74,7 +79,8 @@ BEGIN
       RETURN;
     END IF;
 
-    SELECT * INTO rule FROM CldHoliday WHERE ID2 = "ID2" AND Del IS DISTINCT FROM 2;
+    -- Nobody takes the rule away meanwhile.
+    SELECT * INTO rule FROM CldHoliday WHERE ID2 = "ID2" AND Del IS DISTINCT FROM 2 FOR KEY SHARE;
     IF NOT FOUND THEN
       "RETURN_VALUE" := 4;
       RETURN;
@@ -82,26 +88,30 @@ BEGIN
     IF rule.TID1 <> "TID1" THEN
       RETURN;
     END IF;
-
-    IF "Day1" IS NOT NULL THEN
-      UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
-      WHERE ID1 = "ID1" AND Year1 = "Year1" AND Day1 = "Day1";
-    ELSE
-      -- 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
-      SELECT (rule.WD - 1 + FirstDay - 1) % 7 INTO weekday FROM CldSetting;
-      UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
-      WHERE ID1 = "ID1" AND Year1 = "Year1" AND extract(dow FROM ODate) = weekday
-        -- Exceptions and dated rules stand above weekday rules.
-        AND (TID1 = 2 OR ID2 IS NULL);
-    END IF;
-    GET DIAGNOSTICS rows_changed = ROW_COUNT;
   END IF;
 
-  INSERT INTO CldHistory (ProcedureName, ID1, Year1, Parameters, ReturnValue, RowsChanged)
-  VALUES ('CldIUMain', "ID1", "Year1",
+  entry := BeginEntry('CldIUMain', "ID1", "Year1",
     json_build_object('ID1', "ID1", 'Year1', "Year1", 'TID1', "TID1", 'ID2', "ID2", 'Day1', "Day1", 'ODate', "ODate",
-      'Comment', "Comment"),
-    0, rows_changed);
+      'Comment', "Comment"));
+  IF "TID1" IS NULL THEN
+    INSERT INTO CldCalendar (ID1, Year1) VALUES ("ID1", "Year1");
+    INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1)
+    SELECT "ID1", "Year1", day, first_date + (day - 1), 1
+    FROM generate_series(1, make_date("Year1" + 1, 1, 1) - first_date) AS day;
+  ELSIF "Day1" IS NOT NULL THEN
+    UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
+    WHERE ID1 = "ID1" AND Year1 = "Year1" AND Day1 = "Day1";
+  ELSE
+    -- 0 for Sunday to 6 for Saturday: the rule's WD counts from the setting's first weekday.
+    SELECT (rule.WD - 1 + FirstDay - 1) % 7 INTO weekday FROM CldSetting;
+    UPDATE CldDay SET TID1 = "TID1", ID2 = "ID2", Comment = "Comment"
+    WHERE ID1 = "ID1" AND Year1 = "Year1" AND extract(dow FROM ODate) = weekday
+      -- Exceptions and dated rules stand above weekday rules.
+      AND (TID1 = 2 OR ID2 IS NULL);
+  END IF;
+  GET DIAGNOSTICS rows_changed = ROW_COUNT;
+  -- A new calendar is a row beside its days.
+  PERFORM EndEntry(entry, rows_changed + CASE WHEN "TID1" IS NULL THEN 1 ELSE 0 END);
   "RETURN_VALUE" := 0;
 END
 $$;

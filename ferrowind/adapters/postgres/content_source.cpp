@@ -14,7 +14,9 @@ std::string Readable(std::string_view column) {
   if (column == "Moment") {
     return R"(to_char(Moment AT TIME ZONE 'UTC', 'YYYY-MM-DD"T"HH24:MI:SS.MS"Z"') AS Moment)";
   }
-  if (column == "Parameters") return "Parameters::text AS Parameters";
+  if (column == "Parameters" || column == "OldRow") {
+    return std::string(column) + "::text AS " + std::string(column);
+  }
   return std::string(column);
 }
 

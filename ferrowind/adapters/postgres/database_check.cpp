@@ -29,6 +29,9 @@ constexpr const char* kDataProblems[] = {
     "SELECT 'The calendar ' || ID1 || ' of ' || Year1 || ' is of no currency' FROM CldCalendar"
     " WHERE ID1 NOT IN (SELECT CcyID FROM DicCcy WHERE CcyType = 0)",
 
+    "SELECT 'The rule book of ' || ID1 || ' is of no currency' FROM CldBook"
+    " WHERE ID1 NOT IN (SELECT CcyID FROM DicCcy WHERE CcyType = 0)",
+
     "SELECT 'The calendar ' || c.ID1 || ' of ' || c.Year1 || ' has ' || count(d.Day1) || ' days instead of '"
     "  || make_date(c.Year1 + 1, 1, 1) - make_date(c.Year1, 1, 1)"
     " FROM CldCalendar c LEFT JOIN CldDay d ON d.ID1 = c.ID1 AND d.Year1 = c.Year1 GROUP BY c.ID1, c.Year1"

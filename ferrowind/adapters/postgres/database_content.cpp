@@ -74,7 +74,7 @@ void FillDatabase(const std::string& connection_string,
   platform::WithFailuresOnly([&] {
     ServerConnection connection(connection_string);
     if (!IsCalendarDatabase(connection)) {
-      return CreateObjects(connection, false, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
+      return CreateObjects(connection, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
     }
     connection.RunScript("BEGIN");
     RequireDeliveredVersion(connection);

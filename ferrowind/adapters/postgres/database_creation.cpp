@@ -41,7 +41,7 @@ void RefuseObstacles(ServerConnection& connection) {
 
 }  // namespace
 
-void CreateObjects(ServerConnection& connection, bool with_rules, const std::function<void()>& fill) {
+void CreateObjects(ServerConnection& connection, const std::function<void()>& fill) {
   RefuseObstacles(connection);
   connection.RunScript("BEGIN");
   connection.RunScript(std::string(embedded::kPostgresRoles));
@@ -49,17 +49,16 @@ void CreateObjects(ServerConnection& connection, bool with_rules, const std::fun
   for (const std::string_view script : {embedded::kBaseData, embedded::kCurrencies}) {
     connection.RunScript(std::string(script));
   }
-  if (with_rules) connection.RunScript(std::string(embedded::kRules));
   if (fill) fill();
   GiveDeliveredRights(connection);
   connection.RunScript("COMMIT");
 }
 
-void CreateDatabaseObjects(const std::string& connection_string, bool with_rules,
+void CreateDatabaseObjects(const std::string& connection_string,
                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill) {
   platform::WithFailuresOnly([&] {
     const auto connection = std::make_shared<ServerConnection>(connection_string);
-    CreateObjects(*connection, with_rules, [&] {
+    CreateObjects(*connection, [&] {
       if (fill) fill(std::make_shared<TransactionEngine>(connection));
     });
   });

@@ -8,6 +8,6 @@ namespace ferrowind::postgres {
 
 /// What `CreateDatabaseObjects` does, on a connection without an open transaction. `fill`, when there is one,
 /// works on the same connection, in the creation's transaction and as the owner.
-void CreateObjects(ServerConnection& connection, bool with_rules, const std::function<void()>& fill);
+void CreateObjects(ServerConnection& connection, const std::function<void()>& fill);
 
 }  // namespace ferrowind::postgres

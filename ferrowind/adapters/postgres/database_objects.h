@@ -12,15 +12,15 @@ namespace ferrowind::postgres {
 
 /// Makes the existing empty database that `connection_string` names a calendar database: roles that the
 /// server does not have yet, the schema `ferrowind` with tables, procedures and views, currencies, holiday
-/// types, the built-in rule, the setting, and with `with_rules` the delivered rules. Then calls `fill`, when
-/// there is one, with an engine through which it may add more; whatever connection string that engine is
-/// given, it works in this creation, and only until `fill` returns.
+/// types, the built-in rule and the setting. Then calls `fill`, when there is one, with an engine through
+/// which it may add more; whatever connection string that engine is given, it works in this creation, and
+/// only until `fill` returns.
 ///
 /// All of it is one transaction: a creation that fails or is killed leaves the database and the server's
 /// roles as they were. The login must be allowed to create roles (unless they exist) and own the database, or
 /// be a superuser. A database that is not empty or does not store texts as UTF-8 is a failure. Fails only
 /// with `platform::Failure`, and with what `fill` throws.
-void CreateDatabaseObjects(const std::string& connection_string, bool with_rules,
+void CreateDatabaseObjects(const std::string& connection_string,
                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill = {});
 
 /// The problems of the calendar database, each a sentence that says what and where; none when it is sound:

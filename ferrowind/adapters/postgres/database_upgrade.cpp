@@ -22,7 +22,7 @@ void RunScripts(ServerConnection& connection, const std::vector<content::Upgrade
   connection.RunScript("SET LOCAL ROLE ferrowind_owner; SET LOCAL search_path = ferrowind, pg_temp");
   for (const auto& script : scripts) connection.RunScript(std::string(script.sql));
   connection.RunScript("UPDATE SchemaVersion SET Version = " + std::to_string(scripts.back().version));
-  ReplaceProcedures(connection);
+  ReplaceRoutines(connection);
   GiveDeliveredRights(connection);
   connection.RunScript("COMMIT");
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "database/postgres/embedded_sql.h"
 
@@ -9,37 +10,65 @@ namespace ferrowind::postgres {
 
 namespace {
 
-/// However often a name is in use: a leftover beside the new one would make its calls fail.
-constexpr const char* kDropProcedures = R"sql(
-DO $$
-DECLARE
-  old regprocedure;
-BEGIN
-  FOR old IN SELECT oid FROM pg_catalog.pg_proc
-    WHERE pronamespace = 'ferrowind'::regnamespace AND prokind = 'p'
-      AND proname IN ('cldallinfo', 'cldgetmain', 'cldiumain', 'cldiucelebrate')
-  LOOP
-    EXECUTE format('DROP PROCEDURE %s', old);
-  END LOOP;
-END $$)sql";
+std::vector<std::string_view> Functions() {
+  return {embedded::kPostgresHistoryEntry, embedded::kPostgresRowContent,  embedded::kPostgresKeptRows,
+          embedded::kPostgresJsonLists,    embedded::kPostgresPlannedDays, embedded::kPostgresBookRules,
+          embedded::kPostgresFingerprint,  embedded::kPostgresMomentFrom,  embedded::kPostgresCurrencyCanBe,
+          embedded::kPostgresUndo};
+}
 
-void CreateProcedures(ServerConnection& connection) {
-  for (const std::string_view script : {embedded::kPostgresCldAllInfo, embedded::kPostgresCldGetMain,
-                                        embedded::kPostgresCldIUMain, embedded::kPostgresCldIUCelebrate}) {
-    connection.RunScript(std::string(script));
+struct Procedure {
+  std::string_view name;
+  std::string_view script;
+};
+
+std::vector<Procedure> Procedures() {
+  return {
+      {"CldAllInfo", embedded::kPostgresCldAllInfo},
+      {"CldGetMain", embedded::kPostgresCldGetMain},
+      {"CldIUMain", embedded::kPostgresCldIUMain},
+      {"CldIUCelebrate", embedded::kPostgresCldIUCelebrate},
+      {"CldGetBook", embedded::kPostgresCldGetBook},
+      {"CldIUBook", embedded::kPostgresCldIUBook},
+      {"CldGetFingerprint", embedded::kPostgresCldGetFingerprint},
+      {"CldApplyPlan", embedded::kPostgresCldApplyPlan},
+      {"CldUndo", embedded::kPostgresCldUndo},
+      {"CldGetHistory", embedded::kPostgresCldGetHistory},
+      {"CldGetAsOf", embedded::kPostgresCldGetAsOf},
+      {"CldGetClosedDays", embedded::kPostgresCldGetClosedDays},
+      {"CldGetMarkedDays", embedded::kPostgresCldGetMarkedDays},
+      {"CldIUCurrency", embedded::kPostgresCldIUCurrency},
+      {"CldGetCurrencies", embedded::kPostgresCldGetCurrencies},
+  };
+}
+
+/// However often a name is in use: a leftover beside the new one would make its calls fail.
+void DropProcedures(ServerConnection& connection) {
+  std::string names;
+  for (const Procedure& procedure : Procedures()) {
+    names += (names.empty() ? "lower('" : ", lower('") + std::string(procedure.name) + "')";
   }
+  connection.RunScript(
+      "DO $$ DECLARE old regprocedure; BEGIN FOR old IN SELECT oid FROM pg_catalog.pg_proc"
+      " WHERE pronamespace = 'ferrowind'::regnamespace AND prokind = 'p' AND proname IN (" +
+      names + ") LOOP EXECUTE format('DROP PROCEDURE %s', old); END LOOP; END $$");
+}
+
+void CreateRoutines(ServerConnection& connection) {
+  for (const std::string_view script : Functions()) connection.RunScript(std::string(script));
+  for (const Procedure& procedure : Procedures()) connection.RunScript(std::string(procedure.script));
 }
 
 }  // namespace
 
 void CreateDeliveredSchema(ServerConnection& connection) {
   connection.RunScript(std::string(embedded::kPostgresSchema));
-  CreateProcedures(connection);
+  CreateRoutines(connection);
 }
 
-void ReplaceProcedures(ServerConnection& connection) {
-  connection.RunScript(kDropProcedures);
-  CreateProcedures(connection);
+void ReplaceRoutines(ServerConnection& connection) {
+  DropProcedures(connection);
+  CreateRoutines(connection);
 }
 
 void GiveDeliveredRights(ServerConnection& connection) {

@@ -18,7 +18,8 @@ platform::Value Answer(ServerConnection& connection, const char* question) {
 }  // namespace
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
-  static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kPostgresUpgradeToHistory}};
+  static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kPostgresUpgradeToHistory},
+                                                              {3, embedded::kPostgresUpgradeToPlans}};
   return scripts;
 }
 

@@ -73,7 +73,35 @@ std::vector<std::vector<Row>> EverythingToldOf(CopyEnd& database) {
     const auto days = caller.Call("CldGetMain", {{"ID1", calendar.at(0)}, {"Year1", calendar.at(1)}});
     told.push_back(RowsOf(*days.record_sets.at(0)));
   }
+  told.push_back(RowsOf(*caller.Call("CldGetCurrencies").record_sets.at(0)));
+  // Without the fingerprints, which each engine makes in its own way.
+  told.push_back(RowsOf(*caller.Call("CldGetBook").record_sets.at(1)));
   return told;
+}
+
+/// The history, and what the calendar of the dollar was at each of its moments.
+std::vector<std::vector<Row>> HistoryToldOf(CopyEnd& database) {
+  ProcedureCaller caller(database);
+  std::vector<std::vector<Row>> told = {
+      RowsOf(*caller.Call("CldGetHistory", {{"Count", 10000}}).record_sets.at(0))};
+  for (const Row& entry : std::vector<Row>(told.at(0))) {
+    const auto days =
+        caller.Call("CldGetAsOf", {{"ID1", 840}, {"Year1", 2024}, {"Moment", entry.at(1)}}).record_sets;
+    if (!days.empty()) told.push_back(RowsOf(*days.at(0)));
+  }
+  return told;
+}
+
+/// How many entries the history of the tricky content has; the last one undoes the plan of the dollar.
+constexpr int kEntries = 29;
+
+Arguments PlanOfTheDollar() {
+  return {
+      {"ID1", 840},
+      {"Year1", 2024},
+      {"Expected", ""},
+      {"Days", R"([{"Name1": "Größe \"祝日\" \\N", "TID1": 4, "Comment": "tab\t", "Dates": ["2024-07-04"]},
+                       {"TID1": 1, "Dates": ["2024-07-06"], "DayComment": "line\nbreak \\N 祝日"}])"}};
 }
 
 void FillWithTrickyContent(CopyEnd& database) {
@@ -126,8 +154,19 @@ void FillWithTrickyContent(CopyEnd& database) {
   assign(3000, 365, 3, 12, "");
   assign(2024, 60, 1, 1, "excepted: 祝日\t\\N\n" + std::string(10000, 'y'));
   assign(2024, 366, 1, 1, {});
+  ASSERT_EQ(caller.Return("CldIUBook", {{"ID1", 978},
+                                        {"Expected", ""},
+                                        {"Publisher", "Größe ΣΑΣ 祝日"},
+                                        {"Document", "line\nbreak \\N tab\t"},
+                                        {"Rules", R"([{"Name1": "Größe", "TID1": 3, "Expression": "01-01"},
+                                           {"Name1": "\\N", "TID1": 4, "Expression": "\\.", "Comment": "",
+                                            "MovedName": "a\tb\n祝日"}])"}}),
+            0);
+  ASSERT_EQ(caller.Return("CldApplyPlan", PlanOfTheDollar()), 0);
+  ASSERT_EQ(caller.Return("CldUndo", {{"EntryID", kEntries - 1}}), 0);
   database.Execute("UPDATE CldSetting SET FirstDay = 7");
-  database.Execute("INSERT INTO DicCcy VALUES (9001, 'ÄÖÜ', 1, 'a unit of the administrator''s own')");
+  database.Execute(
+      "INSERT INTO DicCcy VALUES (9001, 'ÄÖÜ', 1, 'a unit of the administrator''s own', '2025-12-31')");
 }
 
 struct Direction {
@@ -208,11 +247,26 @@ TEST_P(ContentCopy, GoesOnAsTheOriginalWould) {
   EXPECT_FALSE(content::FirstDifference(*left, *right, last));
 }
 
+TEST_P(ContentCopy, TakesAlongWhatCallsReplacedSoThatItIsKnownAndCanBePutBack) {
+  FillWithTrickyContent(from_);
+  Copy(from_, to_);
+  EXPECT_GT(HistoryToldOf(from_).size(), 1U) << "the calendar of the dollar was there once";
+  EXPECT_EQ(HistoryToldOf(to_), HistoryToldOf(from_));
+  for (CopyEnd* end : {&from_, &to_}) {
+    ProcedureCaller caller(*end);
+    for (const int entry : {kEntries, kEntries - 2, kEntries - 3}) {
+      EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", entry}}), 0) << entry;
+    }
+    EXPECT_TRUE(end->IsSound());
+  }
+  EXPECT_EQ(EverythingToldOf(to_), EverythingToldOf(from_));
+}
+
 TEST_P(ContentCopy, RefusesATargetThatHoldsAnythingAndSaysWhat) {
   const std::vector<std::pair<std::string, std::string>> holdings = {
       {"UPDATE CldSetting SET FirstDay = 3", "changed settings"},
       {"UPDATE DicCcy SET Name = 'mine' WHERE CcyID = 978", "changed currencies"},
-      {"INSERT INTO DicCcy VALUES (9001, 'mine', 1, 'mine')", "182 currencies"},
+      {"INSERT INTO DicCcy VALUES (9001, 'mine', 1, 'mine', NULL)", "185 currencies"},
       {"INSERT INTO CldHoliday (ID2, Name1, TID1, WD) VALUES (2, 'mine', 2, 1)", "2 holiday rules"},
       {kAddHistoryEntry, "1 entries of the history"},
   };
@@ -371,16 +425,16 @@ TEST_P(OneEnd, TellsItsStatus) {
   EXPECT_GE(status.schema_version, 2);
   EXPECT_EQ(status.engine, end->ConnectionString().starts_with("sqlite:") ? "SQLite" : "PostgreSQL");
   EXPECT_NE(status.engine_version, "");
-  EXPECT_EQ(status.currencies, 182);
+  EXPECT_EQ(status.currencies, 185);
   EXPECT_EQ(status.rules, 13);
   EXPECT_EQ(status.removed_rules, 1);
   EXPECT_EQ(status.calendars, 4);
   EXPECT_EQ(status.days, 365 + 366 + 365 + 366);
-  EXPECT_EQ(status.history_entries, 26);
+  EXPECT_EQ(status.history_entries, kEntries);
   EXPECT_THAT(status.calendars_by_year, ElementsAre(Pair(1900, 1), Pair(2024, 2), Pair(3000, 1)));
 
   end->SetSchemaVersion(1);
-  end->Execute("DROP TABLE CldHistory");
+  end->Execute("ALTER TABLE CldHistory RENAME TO Gone");
   const auto old = host::ReadStatus(Engines(), end->ConnectionString());
   EXPECT_EQ(old.schema_version, 1);
   EXPECT_EQ(old.history_entries, std::nullopt);

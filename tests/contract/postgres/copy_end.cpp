@@ -22,7 +22,7 @@ bool AreNone(const std::vector<std::string>& problems) {
 
 }  // namespace
 
-void FileEnd::Create() { sqlite::CreateDatabase(Path(), false); }
+void FileEnd::Create() { sqlite::CreateDatabase(Path()); }
 
 void FileEnd::Execute(const std::string& sql) {
   // Nothing here shall wait long for another one.
@@ -54,7 +54,7 @@ ServerEnd::~ServerEnd() { postgres_server::DropDatabase(name_); }
 
 std::string ServerEnd::ConnectionString() { return postgres_server::SuperuserUri(name_); }
 
-void ServerEnd::Create() { postgres::CreateDatabaseObjects(ConnectionString(), false); }
+void ServerEnd::Create() { postgres::CreateDatabaseObjects(ConnectionString()); }
 
 void ServerEnd::Execute(const std::string& sql) {
   postgres_server::Execute(name_, "SET search_path = ferrowind; " + sql);

@@ -87,17 +87,9 @@ bool ServerKeepsOthersRolesFromAdministrators() {
              "postgres", "SELECT (current_setting('server_version_num')::integer >= 160000)::text") == "true";
 }
 
-TEST(PostgresCreation, TheDeliveredRulesComeOnDemand) {
-  const EmptyDatabase database;
-  postgres::CreateDatabaseObjects(database.Uri(), true);
-  EXPECT_EQ(postgres_server::Ask(database.Name(), "SELECT (count(*) > 40)::text FROM ferrowind.CldHoliday"),
-            "true");
-  EXPECT_THAT(postgres::CheckDatabase(database.Uri()), IsEmpty());
-}
-
 TEST(PostgresCreation, WhatFillsItIsPartOfTheCreation) {
   const EmptyDatabase database;
-  postgres::CreateDatabaseObjects(database.Uri(), false, [](const std::shared_ptr<platform::Engine>& engine) {
+  postgres::CreateDatabaseObjects(database.Uri(), [](const std::shared_ptr<platform::Engine>& engine) {
     const auto connection = engine->Connect("postgresql://anywhere");
     EXPECT_EQ(connection->DescribeProcedure("CldIUMain").size(), 8U);
     const std::vector<platform::Value> inputs = {
@@ -114,25 +106,24 @@ TEST(PostgresCreation, WhatFillsItIsPartOfTheCreation) {
 
 TEST(PostgresCreation, ACreationThatFailsLeavesTheDatabaseEmpty) {
   const EmptyDatabase database;
-  EXPECT_THROW(postgres::CreateDatabaseObjects(
-                   database.Uri(), true,
-                   [](const std::shared_ptr<platform::Engine>&) { throw Failure(5, "no more"); }),
-               Failure);
+  EXPECT_THROW(
+      postgres::CreateDatabaseObjects(
+          database.Uri(), [](const std::shared_ptr<platform::Engine>&) { throw Failure(5, "no more"); }),
+      Failure);
   EXPECT_TRUE(database.IsUntouched());
-  postgres::CreateDatabaseObjects(database.Uri(), true);
+  postgres::CreateDatabaseObjects(database.Uri());
 }
 
 TEST(PostgresCreation, ADatabaseThatIsNotEmptyIsRefusedAndStaysAsItIs) {
   const EmptyDatabase database;
   postgres_server::Execute(database.Name(), "CREATE TABLE public.orders (a integer)");
-  EXPECT_THAT(FailureTextOf([&] { postgres::CreateDatabaseObjects(database.Uri(), false); }),
+  EXPECT_THAT(FailureTextOf([&] { postgres::CreateDatabaseObjects(database.Uri()); }),
               HasSubstr("public.orders"));
   EXPECT_TRUE(database.IsUntouched());
 
   PostgresDatabase calendars;
-  EXPECT_THAT(FailureTextOf([&] {
-                postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(calendars.Name()), false);
-              }),
+  EXPECT_THAT(FailureTextOf(
+                  [&] { postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(calendars.Name())); }),
               HasSubstr("has a schema ferrowind already"));
   EXPECT_TRUE(calendars.IsSound());
 }
@@ -140,10 +131,9 @@ TEST(PostgresCreation, ADatabaseThatIsNotEmptyIsRefusedAndStaysAsItIs) {
 TEST(PostgresCreation, ADatabaseOfAnotherEncodingIsRefused) {
   postgres_server::Execute("postgres",
                            "CREATE DATABASE test_latin ENCODING 'LATIN1' LOCALE 'C' TEMPLATE template0");
-  EXPECT_THAT(FailureTextOf([] {
-                postgres::CreateDatabaseObjects(postgres_server::SuperuserUri("test_latin"), false);
-              }),
-              HasSubstr("LATIN1"));
+  EXPECT_THAT(
+      FailureTextOf([] { postgres::CreateDatabaseObjects(postgres_server::SuperuserUri("test_latin")); }),
+      HasSubstr("LATIN1"));
   postgres_server::DropDatabase("test_latin");
 }
 
@@ -154,7 +144,7 @@ TEST(PostgresCreation, ALoginThatOwnsTheDatabaseAndMayCreateRolesIsEnough) {
   const EmptyDatabase second;
   for (const EmptyDatabase* database : {&first, &second}) {
     const std::string uri = administrator.UriOfOwn(*database);
-    postgres::CreateDatabaseObjects(uri, true);
+    postgres::CreateDatabaseObjects(uri);
     EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
   }
 }
@@ -167,7 +157,7 @@ TEST(PostgresCreation, ALoginThatMayCreateRolesIsEnoughWhereASuperuserCreatedAno
   }
   const EmptyDatabase database;
   const std::string uri = administrator.UriOfOwn(database);
-  postgres::CreateDatabaseObjects(uri, true);
+  postgres::CreateDatabaseObjects(uri);
   EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
 }
 
@@ -177,11 +167,11 @@ TEST(PostgresCreation, ALoginThatCannotBecomeAMemberOfTheOwnerIsToldWhatItNeeds)
                                                                                : "NOCREATEROLE");
   const EmptyDatabase database;
   const std::string uri = administrator.UriOfOwn(database);
-  EXPECT_THAT(FailureTextOf([&] { postgres::CreateDatabaseObjects(uri, true); }),
+  EXPECT_THAT(FailureTextOf([&] { postgres::CreateDatabaseObjects(uri); }),
               HasSubstr("GRANT ferrowind_owner TO administrator"));
   EXPECT_TRUE(database.IsUntouched());
   postgres_server::Execute("postgres", "GRANT ferrowind_owner TO administrator");
-  postgres::CreateDatabaseObjects(uri, true);
+  postgres::CreateDatabaseObjects(uri);
   EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
 }
 
@@ -207,12 +197,16 @@ TEST(PostgresCheck, EveryChangeOfTheSchemaIsFound) {
       {"GRANT EXECUTE ON PROCEDURE ferrowind.CldAllInfo TO ferrowind_reader", "routine cldallinfo"},
       {"GRANT CREATE ON SCHEMA ferrowind TO ferrowind_operator", "schema ferrowind is not this program's"},
       {"ALTER TABLE ferrowind.CldDay OWNER TO postgres", "table cldday is not this program's"},
-      {"DROP TABLE ferrowind.CldHistory", "table cldhistory is missing"},
+      {"DROP TABLE ferrowind.CldHistoryStart", "table cldhistorystart is missing"},
+      {"DROP TRIGGER KeepOnUpdate ON ferrowind.CldDay", "trigger cldday.keeponupdate is missing"},
+      {"ALTER TABLE ferrowind.CldDay DISABLE TRIGGER KeepOnUpdate",
+       "trigger cldday.keeponupdate is not this program's"},
+      {"INSERT INTO ferrowind.CldBook VALUES (959, 'P', 'D')", "The rule book of 959 is of no currency"},
       {"ALTER TABLE ferrowind.CldHistory ALTER UserName DROP DEFAULT",
        "column cldhistory.username is not this program's"},
       {"GRANT INSERT ON ferrowind.CldHistory TO ferrowind_operator",
        "table cldhistory is not this program's"},
-      {"UPDATE ferrowind.SchemaVersion SET Version = 3", "schema version 3"},
+      {"UPDATE ferrowind.SchemaVersion SET Version = 4", "schema version 4"},
   };
   for (const auto& [change, problem] : changes) {
     PostgresDatabase database;

@@ -10,7 +10,7 @@
 namespace ferrowind::contract {
 
 PostgresDatabase::PostgresDatabase() : name_(postgres_server::CreateEmptyDatabase()) {
-  postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(name_), false);
+  postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(name_));
   postgres_server::EnsureOperator();
 }
 
@@ -23,6 +23,12 @@ PostgresDatabase::~PostgresDatabase() {
 }
 
 std::string PostgresDatabase::ConnectionString() { return postgres_server::OperatorUri(name_); }
+
+std::string PostgresDatabase::ConnectionStringFor(const std::string& procedure) {
+  // Only administrators change the list of currencies, and so undo such a change.
+  const bool is_administrators = procedure == "CldIUCurrency" || procedure == "CldUndo";
+  return is_administrators ? postgres_server::SuperuserUri(name_) : ConnectionString();
+}
 
 void PostgresDatabase::SetFirstDay(int first_day) {
   Execute("UPDATE ferrowind.CldSetting SET FirstDay = " + std::to_string(first_day));

@@ -20,6 +20,7 @@ class PostgresDatabase : public DatabaseWithHistoryUnderTest {
 
   [[nodiscard]] platform::Engine& Engine() override { return engine_; }
   [[nodiscard]] std::string ConnectionString() override;
+  [[nodiscard]] std::string ConnectionStringFor(const std::string& procedure) override;
   void SetFirstDay(int first_day) override;
   [[nodiscard]] bool IsSound() override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(

@@ -54,7 +54,8 @@ TEST(PostgresPrivileges, AnOperatorIsRefusedEveryStatementOnEveryTable) {
   postgres::ServerConnection connection(database.ConnectionString());
   const auto tables = Relations(database.Name(), "r");
   ASSERT_THAT(tables, IsSupersetOf({"schemaversion", "dicccy", "cldholidaytype", "cldholiday", "cldcalendar",
-                                    "cldday", "cldsetting", "cldhistory"}));
+                                    "cldday", "cldsetting", "cldhistory", "cldbook", "cldrecurrence",
+                                    "cldhistorystart", "cldhistoryrow"}));
   for (const auto& name : tables) {
     const std::string table = "ferrowind." + name;
     for (const auto& sql : {"SELECT * FROM " + table,
@@ -238,7 +239,7 @@ TEST(PostgresPrivileges, AnOperatorMakesAndChangesNothingInTheDatabase) {
   EXPECT_TRUE(database.IsSound());
 }
 
-TEST(PostgresPrivileges, AnOperatorCallsTheFourProceduresAndNoOtherRoutine) {
+TEST(PostgresPrivileges, AnOperatorCallsTheProceduresAndNoOtherRoutine) {
   PostgresDatabase database;
   database.Execute(
       "CREATE PROCEDURE ferrowind.Added(INOUT r integer) LANGUAGE plpgsql AS $$ BEGIN r := 0; END $$;"
@@ -247,12 +248,54 @@ TEST(PostgresPrivileges, AnOperatorCallsTheFourProceduresAndNoOtherRoutine) {
       database.Name(),
       "SELECT string_agg(proname, ',' ORDER BY proname) FROM pg_proc WHERE pronamespace = "
       "'ferrowind'::regnamespace AND has_function_privilege('operator_login', oid, 'EXECUTE')");
-  EXPECT_EQ(may, "cldallinfo,cldgetmain,cldiucelebrate,cldiumain");
+  EXPECT_EQ(
+      may,
+      "cldallinfo,cldapplyplan,cldgetasof,cldgetbook,cldgetcloseddays,cldgetcurrencies,cldgetfingerprint,"
+      "cldgethistory,cldgetmain,cldgetmarkeddays,cldiubook,cldiucelebrate,cldiumain,cldundo");
   postgres::ServerConnection connection(database.ConnectionString());
+  ExpectRefused(connection, "CALL ferrowind.CldIUCurrency(998, 'ZZZ', 0::smallint, 'Zed')");
+  ExpectRefused(connection, "SELECT ferrowind.PutBack(1)");
+  ExpectRefused(connection, "SELECT ferrowind.BeginEntry('CldIUMain', NULL, NULL, '{}')");
   ExpectRefused(connection, "SELECT ferrowind.NameKey('a')");
   ExpectRefused(connection, "CALL ferrowind.Added(0)");
   EXPECT_THAT(FailureTextOf([&] { ProcedureCaller(database).Call("Added"); }),
               HasSubstr("does not permit this"));
+}
+
+TEST(PostgresPrivileges, TheListOfCurrenciesIsForAdministratorsAndSoIsUndoingAChangeOfIt) {
+  PostgresDatabase database;
+  database.Execute("CREATE ROLE administrator_login LOGIN PASSWORD 'administer' IN ROLE ferrowind_owner");
+  {
+    postgres::ServerConnection administrator(
+        postgres_server::Uri("administrator_login", "administer", database.Name()));
+    administrator.RunScript("CALL ferrowind.CldIUCurrency(998, 'ZZZ', 0::smallint, 'Zed')");
+    postgres::ServerConnection connection(database.ConnectionString());
+    ExpectRefused(connection, "CALL ferrowind.CldUndo(1)");
+    connection.RunScript("CALL ferrowind.CldIUMain(998, 2026)");
+    connection.RunScript("CALL ferrowind.CldUndo(2)");
+    EXPECT_EQ(postgres_server::Ask(database.Name(), "SELECT count(*) FROM ferrowind.CldCalendar"), "0");
+    administrator.RunScript("CALL ferrowind.CldUndo(1)");
+    EXPECT_EQ(
+        postgres_server::Ask(database.Name(), "SELECT count(*) FROM ferrowind.DicCcy WHERE CcyID = 998"),
+        "0");
+  }
+  EXPECT_EQ(postgres_server::Ask(database.Name(),
+                                 "SELECT UserName FROM ferrowind.CldHistory ORDER BY EntryID DESC"),
+            "administrator_login");
+  database.Execute("DROP ROLE administrator_login");
+}
+
+TEST(PostgresPrivileges, AnOperatorsSettingsPutNothingIntoAnotherEntry) {
+  PostgresDatabase database;
+  postgres::ServerConnection connection(database.ConnectionString());
+  connection.RunScript(
+      "CALL ferrowind.CldIUMain(978, 2026); SET ferrowind.entry = '1';"
+      "CALL ferrowind.CldIUMain(978, 2026, 1, 1, 2, '2026-01-02', 'mine')");
+  EXPECT_EQ(postgres_server::Ask(
+                database.Name(),
+                "SELECT string_agg(concat_ws(' ', EntryID, TableName, Day1), ', ' ORDER BY EntryID)"
+                " FROM ferrowind.CldHistoryRow"),
+            "1 CldCalendar, 2 CldDay 2");
 }
 
 TEST(PostgresPrivileges, NoObjectOrSettingOfAnOperatorReachesIntoAProcedure) {
@@ -269,6 +312,10 @@ CREATE FUNCTION mine.take(integer, integer) RETURNS boolean LANGUAGE plpgsql AS
 CREATE OPERATOR mine.= (LEFTARG = integer, RIGHTARG = integer, FUNCTION = mine.take);
 CREATE FUNCTION mine.NameKey(text) RETURNS bytea LANGUAGE plpgsql AS
   'BEGIN INSERT INTO mine.stolen VALUES (current_user); RETURN NULL; END';
+CREATE FUNCTION mine.EntryAtWork() RETURNS bigint LANGUAGE plpgsql AS
+  'BEGIN INSERT INTO mine.stolen VALUES (current_user); RETURN NULL; END';
+CREATE FUNCTION mine.CalendarFingerprint(integer, integer) RETURNS text LANGUAGE plpgsql AS
+  'BEGIN INSERT INTO mine.stolen VALUES (current_user); RETURN NULL; END';
 CREATE FUNCTION mine.btrim(text, text) RETURNS text LANGUAGE plpgsql AS
   'BEGIN INSERT INTO mine.stolen VALUES (current_user); RETURN NULL; END';
 CREATE TABLE mine.CldHistory (LIKE ferrowind.DictionaryCcy);
@@ -281,8 +328,18 @@ SET transform_null_equals = on;
 SET standard_conforming_strings = off;
 SET default_transaction_isolation = 'serializable';
 CALL ferrowind.CldIUMain(978, 2026, 1, 1, 2, '02/01/2026', 'mine');
-CALL ferrowind.CldIUCelebrate('Mine', NULL, 3, NULL, '03/02/2026', '2', '3')
+CALL ferrowind.CldIUCelebrate('Mine', NULL, 3, NULL, '03/02/2026', '2', '3');
+CALL ferrowind.CldApplyPlan(840, 2026, '', '[{"Name1": "Mine", "TID1": 3, "Dates": ["2026-02-03"]}]');
+CALL ferrowind.CldIUBook(840, '', 'P', 'D', '[{"Name1": "Mine", "TID1": 3, "Expression": "02-03"}]');
+CALL ferrowind.CldUndo(2);
 )");
+  connection.RunScript("BEGIN; CALL ferrowind.CldGetFingerprint(840, 2026); CALL ferrowind.CldGetBook(840)");
+  EXPECT_EQ(PQgetlength(connection.Query("FETCH ALL FROM \"Fingerprints\"").get(), 0, 0), 64);
+  EXPECT_EQ(PQgetlength(connection.Query("FETCH ALL FROM \"Books\"").get(), 0, 3), 64);
+  EXPECT_EQ(PQntuples(connection.Query("FETCH ALL FROM \"Rules\"").get()), 1);
+  connection.RunScript("ROLLBACK; BEGIN; CALL ferrowind.CldGetAsOf(840, 2026, '9999-01-01T00:00:00Z')");
+  EXPECT_EQ(PQntuples(connection.Query("FETCH ALL FROM \"Days\"").get()), 365);
+  connection.RunScript("ROLLBACK");
   connection.RunScript("BEGIN; CALL ferrowind.CldGetMain(978, 2026); CALL ferrowind.CldAllInfo()");
   EXPECT_EQ(PQntuples(connection.Query("FETCH ALL FROM \"Days\"").get()), 365);
   EXPECT_EQ(PQgetvalue(connection.Query("FETCH ALL FROM \"Setting\"").get(), 0, 0)[3], 1);
@@ -297,7 +354,8 @@ CALL ferrowind.CldIUCelebrate('Mine', NULL, 3, NULL, '03/02/2026', '2', '3')
                                  "SELECT string_agg(concat_ws(' ', UserName, ProcedureName, coalesce("
                                  "Parameters ->> 'ODate', Parameters ->> 'D1')), ', ' ORDER BY EntryID)"
                                  " FROM ferrowind.CldHistory WHERE EntryID > 1"),
-            "operator_login CldIUMain 2026-01-02, operator_login CldIUCelebrate 2026-02-03");
+            "operator_login CldIUMain 2026-01-02, operator_login CldIUCelebrate 2026-02-03, operator_login "
+            "CldApplyPlan, operator_login CldIUBook, operator_login CldUndo");
 }
 
 TEST(PostgresPrivileges, AnOperatorCannotActInTheNameOfAnother) {

@@ -1,5 +1,7 @@
 // Bringing a calendar database of an older version on a server to this one.
 
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <thread>
 
@@ -25,11 +27,18 @@ using ::testing::SizeIs;
 
 const Arguments kWeekdayRule = {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}};
 
-/// A database as version 1 made it, with a calendar and a rule.
+std::string VersionTwoScript() {
+  const std::ifstream file(FERROWIND_VERSION_2 "/postgres.sql");
+  std::ostringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+/// A database as an older version made it, with a calendar and a rule.
 class OldDatabase : public DatabaseUnderTest {
  public:
-  OldDatabase() : name_(postgres_server::CreateEmptyDatabase()) {
-    Execute("BEGIN;" + VersionOneScript("postgres") + "COMMIT");
+  explicit OldDatabase(int version = 1) : name_(postgres_server::CreateEmptyDatabase()) {
+    Execute("BEGIN;" + (version == 1 ? VersionOneScript("postgres") : VersionTwoScript()) + "COMMIT");
     Execute("SET search_path = ferrowind;" + std::string(kVersionOneContent));
     Execute(
         "INSERT INTO ferrowind.CldDay SELECT 978, 2026, n, date '2026-01-01' + (n - 1), 1"
@@ -51,7 +60,8 @@ class OldDatabase : public DatabaseUnderTest {
   postgres::Engine engine_;
 };
 
-/// What the server itself says of the columns, constraints, routines and rights of the schema.
+/// What the server itself says of the columns, constraints, indexes, routines, triggers and rights of the
+/// schema.
 constexpr const char* kSchema = R"sql(
 SELECT string_agg(line, E'\n' ORDER BY line) FROM (
   SELECT concat_ws(' ', table_name, column_name, ordinal_position, data_type, column_default, is_nullable, is_identity)
@@ -60,8 +70,11 @@ SELECT string_agg(line, E'\n' ORDER BY line) FROM (
   FROM pg_constraint WHERE connamespace = 'ferrowind'::regnamespace
   UNION ALL SELECT concat_ws(' ', pg_get_functiondef(oid), proacl)
   FROM pg_proc WHERE pronamespace = 'ferrowind'::regnamespace
-  UNION ALL SELECT concat_ws(' ', relname, relkind, relowner::regrole, relacl)
+  UNION ALL SELECT concat_ws(' ', relname, relkind, relowner::regrole, relacl, pg_get_indexdef(oid))
   FROM pg_class WHERE relnamespace = 'ferrowind'::regnamespace
+  UNION ALL SELECT pg_get_triggerdef(t.oid)
+  FROM pg_trigger t JOIN pg_class c ON c.oid = t.tgrelid
+  WHERE c.relnamespace = 'ferrowind'::regnamespace AND NOT t.tgisinternal
   UNION ALL SELECT concat('version ', Version) FROM ferrowind.SchemaVersion
 ) AS lines (line))sql";
 
@@ -70,27 +83,77 @@ SELECT concat(
   (SELECT string_agg(d::text, ',' ORDER BY d) FROM ferrowind.CldDay d),
   (SELECT string_agg(h::text, ',' ORDER BY h) FROM ferrowind.CldHoliday h),
   (SELECT string_agg(c::text, ',' ORDER BY c) FROM ferrowind.CldCalendar c),
-  (SELECT string_agg(c::text, ',' ORDER BY c) FROM ferrowind.DicCcy c)))sql";
+  (SELECT string_agg(format('%s %s %s', CcyID, Ccy, Name), ',' ORDER BY CcyID) FROM ferrowind.DicCcy
+   WHERE CcyID NOT IN (396, 530, 532, 924))))sql";
 
-TEST(PostgresUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
-  const OldDatabase old;
+void ExpectUpgradeTo3(int version) {
+  const OldDatabase old(version);
   const PostgresDatabase fresh;
   const std::string data = old.Ask(kData);
   ASSERT_THAT(data, HasSubstr("Sunday"));
   ASSERT_NE(old.Ask(kSchema), postgres_server::Ask(fresh.Name(), kSchema));
   const auto outcome = postgres::UpgradeDatabase(old.Uri());
-  EXPECT_EQ(outcome.from, 1);
-  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(outcome.from, version);
+  EXPECT_EQ(outcome.to, 3);
   EXPECT_EQ(old.Ask(kSchema), postgres_server::Ask(fresh.Name(), kSchema));
   EXPECT_EQ(old.Ask(kData), data);
   EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
+}
+
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion1IsLikeANewOneAndKeepsItsData) { ExpectUpgradeTo3(1); }
+
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion2IsLikeANewOneAndKeepsItsData) { ExpectUpgradeTo3(2); }
+
+TEST(PostgresUpgrade, CurrenciesThatAreNoLegalMoneyAnyMoreGetTheirLastDayAndStayMoneyWithCalendars) {
+  OldDatabase old(2);
+  old.Execute("INSERT INTO ferrowind.CldCalendar VALUES (191, 2020)");
+  postgres::UpgradeDatabase(old.Uri());
+  const auto currency = [&](const std::string& code) {
+    return old.Ask("SELECT concat_ws(' ', CcyID, CcyType, LastDay) FROM ferrowind.DicCcy WHERE Ccy = '" +
+                   code + "'");
+  };
+  EXPECT_EQ(currency("HRK"), "191 0 2022-12-31");
+  EXPECT_EQ(currency("CUC"), "931 1 2021-06-30");
+  EXPECT_EQ(currency("ANG"), "530 1 2025-03-30");
+  EXPECT_EQ(currency("XCG"), "532 0");
+  EXPECT_EQ(currency("ZWG"), "924 0");
+  EXPECT_EQ(currency("EUR"), "978 0");
+}
+
+TEST(PostgresUpgrade, ACurrencyThatAnAdministratorHasAddedBeforeIsKept) {
+  OldDatabase old(2);
+  old.Execute(
+      "INSERT INTO ferrowind.DicCcy VALUES (924, 'ZWG', 0, 'Gold of Zimbabwe'), (531, 'XCG', 0, 'Own')");
+  postgres::UpgradeDatabase(old.Uri());
+  EXPECT_EQ(old.Ask("SELECT string_agg(Ccy || ' ' || Name, ', ' ORDER BY CcyID) FROM ferrowind.DicCcy"
+                    " WHERE CcyID IN (531, 532, 924)"),
+            "XCG Own, ANG Netherlands Antillean Guilder, ZWG Gold of Zimbabwe");
+  EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
+}
+
+TEST(PostgresUpgrade, EntriesFromBeforeCannotBeUndoneAndTheCalendarsOfThatTimeAreNotKnown) {
+  OldDatabase old(2);
+  ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
+  postgres::UpgradeDatabase(old.Uri());
+  ProcedureCaller caller(old);
+  EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", 1}}), 9);
+  const auto as_of = [&](const std::string& moment) {
+    return caller.Return("CldGetAsOf", {{"ID1", 978}, {"Year1", 2026}, {"Moment", moment}});
+  };
+  EXPECT_EQ(as_of("2020-01-01T00:00:00Z"), 9);
+  EXPECT_EQ(as_of("9999-01-01T00:00:00Z"), 0);
+  EXPECT_EQ(old.Ask("SELECT EntryID FROM ferrowind.CldHistoryStart"), "1");
+  ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", 2026}, {"TID1", 1}, {"ID2", 1}, {"Day1", 4}}),
+            0);
+  EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", 2}}), 0);
+  EXPECT_EQ(old.Ask("SELECT ID2 FROM ferrowind.CldDay WHERE Day1 = 4"), "2") << "a Sunday again";
 }
 
 TEST(PostgresUpgrade, OperatorsWorkBeforeAndAfterIt) {
   OldDatabase old;
   ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
   EXPECT_THAT(FailureTextOf([&] { (void)postgres::ReadHistory(old.Uri(), {}); }),
-              AllOf(HasSubstr("has the schema version 1; this program's is 2"), HasSubstr("upgrade")));
+              AllOf(HasSubstr("has the schema version 1; this program's is 3"), HasSubstr("upgrade")));
   postgres::UpgradeDatabase(old.Uri());
   EXPECT_THAT(RowsOf(*postgres::ReadHistory(old.Uri(), {})), IsEmpty());
   ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
@@ -107,16 +170,16 @@ TEST(PostgresUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
       "'ferrowind'::regnamespace";
   const std::string before = postgres_server::Ask(fresh.Name(), oids);
   const auto outcome = postgres::UpgradeDatabase(uri);
-  EXPECT_EQ(outcome.from, 2);
-  EXPECT_EQ(outcome.to, 2);
+  EXPECT_EQ(outcome.from, 3);
+  EXPECT_EQ(outcome.to, 3);
   EXPECT_EQ(postgres_server::Ask(fresh.Name(), oids), before);
 }
 
 TEST(PostgresUpgrade, ADatabaseOfANewerVersionIsRefused) {
   PostgresDatabase fresh;
-  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 3");
+  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 4");
   EXPECT_THAT(FailureTextOf([&] { postgres::UpgradeDatabase(postgres_server::SuperuserUri(fresh.Name())); }),
-              AllOf(HasSubstr("has the schema version 3; this program's is 2"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 4; this program's is 3"), HasSubstr("newer")));
 }
 
 TEST(PostgresUpgrade, AScriptThatFailsAtTheEndLeavesTheDatabaseAsItWas) {
@@ -153,7 +216,7 @@ TEST(PostgresUpgrade, OfTwoUpgradesAtTheSameTimeOneDoesTheWork) {
     outcomes[1] = postgres::UpgradeDatabase(old.Uri());
     first.join();
   }
-  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + 2);
+  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + 3);
   EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
 }
 

@@ -1,0 +1,23 @@
+-- Of every calendar of the years FromYear to ToYear its days as a text: '1' for a closed day, '0' for a working day.
+-- Returns 0; 7 a value is missing, or the years are not in order.
+CREATE PROCEDURE CldGetClosedDays(
+  "FromYear" integer DEFAULT NULL,
+  "ToYear" integer DEFAULT NULL,
+  INOUT "RETURN_VALUE" integer DEFAULT NULL,
+  INOUT "Calendars" refcursor DEFAULT 'Calendars'
+)
+LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp
+AS $$
+BEGIN
+  IF "FromYear" IS NULL OR "ToYear" IS NULL OR "FromYear" > "ToYear" THEN
+    "RETURN_VALUE" := 7;
+    RETURN;
+  END IF;
+
+  OPEN "Calendars" FOR
+    SELECT ID1 AS "ID1", Year1 AS "Year1",
+      string_agg(CASE TID1 WHEN 1 THEN '0' ELSE '1' END, '' ORDER BY Day1) AS "Days"
+    FROM CldDay WHERE Year1 BETWEEN "FromYear" AND "ToYear" GROUP BY ID1, Year1 ORDER BY ID1, Year1;
+  "RETURN_VALUE" := 0;
+END
+$$;
