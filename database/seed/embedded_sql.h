@@ -9,7 +9,5 @@ namespace ferrowind::embedded {
 extern const std::string_view kBaseData;
 /// The currencies, which every database holds.
 extern const std::string_view kCurrencies;
-/// The delivered rules, which an empty database does without.
-extern const std::string_view kRules;
 
 }  // namespace ferrowind::embedded
