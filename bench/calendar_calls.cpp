@@ -1,7 +1,9 @@
 #include "bench/calendar_calls.h"
 
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/source_values.h"
@@ -25,9 +27,21 @@ SourceValues CalendarParameters(int currency, int year) {
 
 }  // namespace
 
+void AddWeekendRules() {
+  constexpr std::int16_t kSunday = 1;
+  constexpr std::int16_t kSaturday = 7;
+  for (const auto& [name, weekday] : {std::pair("Saturday", kSaturday), std::pair("Sunday", kSunday)}) {
+    SourceValues parameters;
+    parameters.Add("Name1", std::string(name));
+    parameters.Add("TID1", 2);
+    parameters.Add("WD", weekday);
+    Call("CldIUCelebrate", parameters);
+  }
+}
+
 void CreateCalendarWithWeekends(int currency, int year) {
   Call("CldIUMain", CalendarParameters(currency, year));
-  // The delivered rules 2 and 3 are Saturday and Sunday.
+  // The first rules after the built-in one.
   for (const int rule : {2, 3}) {
     SourceValues parameters = CalendarParameters(currency, year);
     parameters.Add("TID1", 2);

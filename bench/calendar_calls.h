@@ -14,7 +14,11 @@ inline constexpr int kEuro = 978;
 inline constexpr int kDollar = 840;
 inline constexpr int kYear = 2026;
 
-/// Creates the calendar and makes its Saturdays and Sundays holidays by delivered rules.
+/// Adds the rules for the weekends to a database that has none but the built-in rule.
+void AddWeekendRules();
+
+/// Creates the calendar and makes its Saturdays and Sundays holidays by the rules that `AddWeekendRules`
+/// adds.
 void CreateCalendarWithWeekends(int currency, int year);
 
 /// Calls `CldGetMain`. Returns the number of cells that it gave.

@@ -79,6 +79,7 @@ std::size_t CallPeer(const std::string& path) {
 }
 
 void MeasureGetMain(const Benchmark& benchmark, const std::string& path) {
+  ferrowind::bench::AddWeekendRules();
   ferrowind::bench::CreateCalendarWithWeekends(kEuro, kYear);
   CompareReading(
       benchmark, "50 calls of CldGetMain, peer: raw sqlite3 calls", 1.6, 50, [&] { return CallPeer(path); },
@@ -90,7 +91,7 @@ void MeasureGetMain(const Benchmark& benchmark, const std::string& path) {
 int main(int argc, char** argv) {
   return ferrowind::bench::RunBenchmark(argc, argv, [](const Benchmark& benchmark) {
     const TemporaryFolder folder;
-    ferrowind::sqlite::CreateDatabase(folder.File(), true);
+    ferrowind::sqlite::CreateDatabase(folder.File());
     ferrowind::platform::EngineRegistry engines;
     engines.Register(ferrowind::sqlite::Engine::kScheme, std::make_shared<ferrowind::sqlite::Engine>());
     ferrowind::host::RunWithDatabase(engines,

@@ -74,6 +74,7 @@ std::string SettingIn(const std::string& uri, const std::string& keyword) {
 }
 
 void MeasureOnLoopback(const Benchmark& benchmark, const std::string& uri) {
+  ferrowind::bench::AddWeekendRules();
   ferrowind::bench::CreateCalendarWithWeekends(kEuro, kYear);
   CompareReading(
       benchmark, "20 calls of CldGetMain on a server, peer: raw libpq", 1.35, 20,
@@ -117,7 +118,7 @@ int main(int argc, char** argv) {
   return ferrowind::bench::RunBenchmark(argc, argv, [](const Benchmark& benchmark) {
     const char* const uri = std::getenv(kServerVariable);
     if (uri == nullptr) throw std::runtime_error("no server of its own could be started");
-    ferrowind::postgres::CreateDatabaseObjects(uri, true);
+    ferrowind::postgres::CreateDatabaseObjects(uri);
     EngineRegistry engines;
     engines.Register(ferrowind::postgres::Engine::kScheme, std::make_shared<ferrowind::postgres::Engine>());
     RunWithDatabase(engines, uri, [&] { MeasureOnLoopback(benchmark, uri); });

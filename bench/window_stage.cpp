@@ -88,7 +88,7 @@ void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers) {
 }
 
 WindowStage::WindowStage(const std::string& fill) {
-  sqlite::CreateDatabase(DatabasePath(), false);
+  sqlite::CreateDatabase(DatabasePath());
   sqlite::DatabaseHandle(DatabasePath()).Execute(fill.c_str());
   surroundings_.UseDatabase("sqlite:" + DatabasePath());
 }

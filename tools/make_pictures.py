@@ -7,6 +7,7 @@ The programs are driven by key presses on a screen of their own, as the end-to-e
 you commit them.
 """
 
+import json
 import pathlib
 import re
 import subprocess
@@ -18,7 +19,7 @@ sys.path.insert(0, str(ROOT / 'tests' / 'e2e' / 'desktop'))
 sys.dont_write_bytecode = True
 
 from desktop_session import DesktopSession, Screen, wait_for  # noqa: E402  pylint: disable=wrong-import-position
-from operator_story import CALENDARS, OperatorStory  # noqa: E402  pylint: disable=wrong-import-position
+from operator_story import CALENDARS, FIRST_YEAR, OperatorStory  # noqa: E402  pylint: disable=wrong-import-position
 
 PICTURES = ROOT / 'docs' / 'pictures'
 SIZE = (1350, 780)
@@ -139,6 +140,8 @@ class Photographer:
     # Pictures ------------------------------------------------------------------------------------
 
     def take_calendars(self, theme, name):
+        self.session.database.parent.mkdir(parents=True)
+        self.make_database(f'sqlite:{self.session.database}')
         self.studio.use_frames(theme)
         self.session.start('--open', '--theme', theme)
         self.story.wait_active(CALENDARS)
@@ -165,9 +168,17 @@ class Photographer:
 
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
-        subprocess.run([self.programs / 'ferrowindctl', 'init', database], check=True)
+        self.make_database(database)
+        status = json.loads(subprocess.run([self.programs / 'ferrowindctl', 'status', database, '--format', 'json'], check=True,
+                                           capture_output=True, text=True).stdout)
+        about = status['results'][0]
+        rules = dict(zip(about['fields'], about['rows'][0]))['Rules']
         self.studio.use_frames('light')
-        self.story.tell(database, arrange=self.arrange)
+        self.story.tell(database, rules - 1, arrange=self.arrange)
+
+    def make_database(self, url):
+        """Of years that stay the same whenever the pictures are taken."""
+        subprocess.run([self.programs / 'ferrowindctl', 'init', url, '--year', FIRST_YEAR], check=True)
 
 
 def main():

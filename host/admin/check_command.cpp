@@ -7,6 +7,8 @@
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 
+#include "host/admin/calendar_warnings.h"
+
 namespace ferrowind::host {
 
 ExitStatus CheckCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
@@ -16,6 +18,9 @@ ExitStatus CheckCommand::Run(const platform::EngineRegistry& engines, std::ostre
                                                         : sqlite::CheckDatabase(sqlite::PathIn(url));
   for (const std::string& fault : faults) out << fault << '\n';
   if (!faults.empty()) return ExitStatus::kNotDone;
+  for (const std::string& warning : CalendarWarnings(engines, url).Sentences()) {
+    out << "Warning: " << warning << ".\n";
+  }
   out << "The database is in order.\n";
   return ExitStatus::kDone;
 }

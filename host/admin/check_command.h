@@ -13,7 +13,8 @@ namespace ferrowind::host {
 struct CheckCommand {
   std::string url;
 
-  /// One line per fault to `out`, or that there is none. A database that cannot be read is a
+  /// One line per fault to `out`, or that there is none, with a line for each warning about its calendars
+  /// (calendar_warnings.h) in front; these do not change the status. A database that cannot be read is a
   /// `platform::Failure`.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
 };

@@ -65,4 +65,6 @@ void WriteCsvRows(const RecordSets& record_sets, std::ostream& out) {
   }
 }
 
+void WriteCsvList(const platform::RecordSet& rows, std::ostream& out) { WriteRecordSet(rows, out); }
+
 }  // namespace ferrowind::host

@@ -20,6 +20,10 @@ struct ToJson {
   }
 };
 
+Json CellJson(const platform::RecordSet& rows, std::size_t row, std::size_t field) {
+  return std::visit(ToJson(), rows.Cell(rows.BookmarkAt(row), field).Get());
+}
+
 Json RecordSetJson(const platform::RecordSet& rows) {
   Json fields = Json::array();
   for (std::size_t field = 0; field < rows.FieldCount(); ++field) fields.push_back(rows.FieldName(field));
@@ -27,7 +31,7 @@ Json RecordSetJson(const platform::RecordSet& rows) {
   for (std::size_t i = 0; i < rows.RowCount(); ++i) {
     Json cells = Json::array();
     for (std::size_t field = 0; field < rows.FieldCount(); ++field) {
-      cells.push_back(std::visit(ToJson(), rows.Cell(rows.BookmarkAt(i), field).Get()));
+      cells.push_back(CellJson(rows, i, field));
     }
     row_list.push_back(std::move(cells));
   }
@@ -61,6 +65,18 @@ void WriteJsonRows(const RecordSets& record_sets, std::ostream& out) {
   Json document;
   document["results"] = RecordSetsJson(record_sets);
   WriteLine(document, out);
+}
+
+void WriteJsonList(const platform::RecordSet& rows, std::ostream& out) {
+  Json list = Json::array();
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) {
+    Json object = Json::object();
+    for (std::size_t field = 0; field < rows.FieldCount(); ++field) {
+      object[rows.FieldName(field)] = CellJson(rows, i, field);
+    }
+    list.push_back(std::move(object));
+  }
+  WriteLine(list, out);
 }
 
 }  // namespace ferrowind::host

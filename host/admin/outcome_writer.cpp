@@ -24,4 +24,15 @@ void WriteRows(const RecordSets& record_sets, OutputFormat format, std::ostream&
   }
 }
 
+void WriteList(const platform::RecordSet& rows, OutputFormat format, std::ostream& out) {
+  switch (format) {
+    case OutputFormat::kTable:
+      return WriteTableList(rows, out);
+    case OutputFormat::kJson:
+      return WriteJsonList(rows, out);
+    case OutputFormat::kCsv:
+      return WriteCsvList(rows, out);
+  }
+}
+
 }  // namespace ferrowind::host

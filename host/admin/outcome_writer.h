@@ -37,4 +37,11 @@ void WriteCsvRows(const RecordSets& record_sets, std::ostream& out);
 
 void WriteRows(const RecordSets& record_sets, OutputFormat format, std::ostream& out);
 
+/// A list of things, each a row: a table whose texts stand in full, one line of JSON that is a list of
+/// objects with the fields as names, or a table of CSV.
+void WriteList(const platform::RecordSet& rows, OutputFormat format, std::ostream& out);
+void WriteTableList(const platform::RecordSet& rows, std::ostream& out);
+void WriteJsonList(const platform::RecordSet& rows, std::ostream& out);
+void WriteCsvList(const platform::RecordSet& rows, std::ostream& out);
+
 }  // namespace ferrowind::host

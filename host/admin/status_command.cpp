@@ -1,5 +1,10 @@
 #include "host/admin/status_command.h"
 
+#include <utility>
+
+#include "ferrowind/platform/values/failure.h"
+
+#include "host/admin/calendar_warnings.h"
 #include "host/admin/database_content.h"
 
 namespace ferrowind::host {
@@ -31,11 +36,28 @@ std::shared_ptr<RecordSet> AboutYears(const content::DatabaseStatus& status) {
   return std::make_shared<RecordSet>(std::vector<std::string>{"Year", "Calendars"}, std::move(rows));
 }
 
+CalendarWarnings WarningsOf(const platform::EngineRegistry& engines, const std::string& url) {
+  try {
+    return {engines, url};
+  } catch (const platform::Failure& failure) {
+    // A database of an older schema, of which the rest is told all the same.
+    return CalendarWarnings(failure.Description());
+  }
+}
+
 }  // namespace
 
 ExitStatus StatusCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   const content::DatabaseStatus status = ReadStatus(engines, url);
-  WriteRows({AboutDatabase(status), AboutYears(status)}, format, out);
+  const CalendarWarnings warnings = WarningsOf(engines, url);
+  RecordSets tables = {AboutDatabase(status), AboutYears(status)};
+  if (format != OutputFormat::kTable) tables.push_back(warnings.Rows());
+  WriteRows(tables, format, out);
+  if (format != OutputFormat::kTable) return ExitStatus::kDone;
+  const char* gap = "\n";
+  for (const std::string& warning : warnings.Sentences()) {
+    out << std::exchange(gap, "") << "Warning: " << warning << ".\n";
+  }
   return ExitStatus::kDone;
 }
 

@@ -15,8 +15,9 @@ struct StatusCommand {
   std::string url;
   OutputFormat format = OutputFormat::kTable;
 
-  /// Two tables: one row about the database, and a row for each year that has calendars. A database that
-  /// cannot be read is a `platform::Failure`.
+  /// Three tables: one row about the database, a row for each year that has calendars, and the warnings about
+  /// calendars (calendar_warnings.h), which the format for people has as sentences. A database that cannot be
+  /// read is a `platform::Failure`.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
 };
 

@@ -1,5 +1,6 @@
 #include "host/delivery/first_database.h"
 
+#include <functional>
 #include <memory>
 
 #include "ferrowind/adapters/postgres/database_objects.h"
@@ -12,35 +13,46 @@
 namespace ferrowind::host {
 namespace {
 
-void CreateDeliveredCalendars(const platform::EngineRegistry& engines, const std::string& connection_string,
-                              const CreationObserver& observe) {
-  RunWithDatabase(engines, connection_string, [&] { DeliveredCalendars::Embedded().Create(observe); });
-}
+/// Creates the database with the engine's own means; `fill` is called with a connection string of the
+/// unfinished database, and with the engines that reach it.
+using Fill =
+    std::function<void(const platform::EngineRegistry& engines, const std::string& connection_string)>;
 
-void CreateOnServer(const std::string& connection_string, DatabaseContent content,
-                    const CreationObserver& observe) {
-  if (content == DatabaseContent::kEmpty) return postgres::CreateDatabaseObjects(connection_string, false);
-  postgres::CreateDatabaseObjects(
-      connection_string, true, [&](const std::shared_ptr<platform::Engine>& unfinished) {
-        platform::EngineRegistry engines;
-        engines.Register(postgres::Engine::kScheme, unfinished);
-        CreateDeliveredCalendars(engines, std::string(postgres::Engine::kScheme) + ":", observe);
-      });
+void Create(const platform::EngineRegistry& engines, const std::string& connection_string, const Fill& fill) {
+  if (postgres::IsConnectionString(connection_string)) {
+    return postgres::CreateDatabaseObjects(
+        connection_string, [&](const std::shared_ptr<platform::Engine>& unfinished) {
+          platform::EngineRegistry engines_of_unfinished;
+          engines_of_unfinished.Register(postgres::Engine::kScheme, unfinished);
+          fill(engines_of_unfinished, std::string(postgres::Engine::kScheme) + ":");
+        });
+  }
+  sqlite::CreateDatabase(sqlite::PathIn(connection_string), [&](const std::string& unfinished) {
+    // As long as one connection is open, those of the calls need not write the log
+    // into the file when they close.
+    const auto open = engines.EngineFor(unfinished).Connect(unfinished);
+    (void)open->DescribeProcedure("CldAllInfo");
+    fill(engines, unfinished);
+  });
 }
 
 }  // namespace
 
-void CreateFirstDatabase(const platform::EngineRegistry& engines, const std::string& connection_string,
-                         DatabaseContent content, const CreationObserver& observe) {
+std::optional<Delivery> CreateFirstDatabase(const platform::EngineRegistry& engines,
+                                            const std::string& connection_string,
+                                            const platform::Clock& clock, const FirstContent& content,
+                                            const DeliveryObserver& observe) {
   // Says that there is no such engine, where an adapter can only say that it is not its own.
   (void)engines.EngineFor(connection_string);
-  if (postgres::IsConnectionString(connection_string))
-    return CreateOnServer(connection_string, content, observe);
-  const std::string path = sqlite::PathIn(connection_string);
-  if (content == DatabaseContent::kEmpty) return sqlite::CreateDatabase(path, false);
-  sqlite::CreateDatabase(path, true, [&](const std::string& unfinished) {
-    CreateDeliveredCalendars(engines, unfinished, observe);
-  });
+  std::optional<Delivery> delivery;
+  const int first_year = content.first_year.value_or(clock.Today().Year());
+  Create(engines, connection_string,
+         [&](const platform::EngineRegistry& engines_of_unfinished, const std::string& unfinished) {
+           if (content.is_empty) return;
+           RunWithDatabase(engines_of_unfinished, unfinished,
+                           [&] { delivery = Deliver(first_year, observe); });
+         });
+  return delivery;
 }
 
 }  // namespace ferrowind::host

@@ -67,7 +67,8 @@ int main(int argc, char** argv) {
   if (!options.trace_file.isEmpty()) TellWhenFailing([&] { surroundings.TraceTo(options.trace_file); });
   std::string database = options.database;
   if (database.empty()) {
-    TellWhenFailing([&] { database = ferrowind::host::UserDatabase(surroundings.Engines()); });
+    TellWhenFailing(
+        [&] { database = ferrowind::host::UserDatabase(surroundings.Engines(), surroundings.Get().clock); });
     TellWhenFailing([&] { ferrowind::host::UpgradeOwnDatabase(database); });
   } else {
     TellWhenFailing([&] {

@@ -27,14 +27,14 @@ void MakeFolder(const QString& folder) {
 
 }  // namespace
 
-std::string UserDatabase(const platform::EngineRegistry& engines) {
+std::string UserDatabase(const platform::EngineRegistry& engines, const platform::Clock& clock) {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
   const QString path = folder + QStringLiteral("/calendars.sqlite");
   const std::string url = "sqlite:" + path.toStdString();
   // An empty file is what a copy that was cut off leaves, and no database.
   if (QFileInfo(path).size() == 0) {
     MakeFolder(folder);
-    CreateFirstDatabase(engines, url, DatabaseContent::kDelivered);
+    (void)CreateFirstDatabase(engines, url, clock);
   }
   return url;
 }

@@ -1,10 +1,10 @@
 #include "host/session/windowless_platform.h"
 
-#include <chrono>
-
 #include "ferrowind/adapters/services/desktop_dictionary.h"
 #include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/platform/values/failure.h"
+
+#include "host/session/system_clock.h"
 
 namespace ferrowind::host {
 namespace {
@@ -54,16 +54,6 @@ class NoLocale : public platform::Locale {
   [[nodiscard]] std::string WeekdayName(int) const override { RefuseWindow(); }
 };
 
-class UtcClock : public platform::Clock {
- public:
-  [[nodiscard]] platform::Date Today() const override {
-    const std::chrono::year_month_day today(
-        std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now()));
-    return {static_cast<int>(today.year()), static_cast<int>(static_cast<unsigned>(today.month())),
-            static_cast<int>(static_cast<unsigned>(today.day()))};
-  }
-};
-
 class DatabaseObjects : public platform::ObjectFactory {
  public:
   DatabaseObjects(const platform::EngineRegistry& engines, const std::string& connection_string)
@@ -93,7 +83,7 @@ struct WindowlessPlatform::Parts {
   platform::EngineCommandFactory commands;
   NoToolkit toolkit;
   NoLocale locale;
-  UtcClock clock;
+  SystemClock clock;
   platform::Platform platform{objects, commands, toolkit, locale, clock, {}};
 };
 

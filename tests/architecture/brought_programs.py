@@ -24,7 +24,8 @@ import shell_programs
 LIST = "tools/packages.txt"
 INSTALLER = "install_packages.sh"
 # Those that people start, and folders whose texts name further scripts that they run.
-ENTRIES = {"run": (), "test": ("tests",), "bench.sh": ("bench",), "tools/fuzz.sh": (), "tools/tidy.sh": ()}
+ENTRIES = {"run": (), "test": ("tests",), "bench.sh": ("bench",), "tools/fuzz.sh": (), "tools/tidy.sh": (),
+           "tools/compare_with_quantlib.sh": ()}
 # What is started by people who have everything that ./test installs.
 BESIDE_TESTS = ("tools/make_pictures.py", "tools/with_xvfb.py", ".ci/run")
 BUILT_HERE = {"ferrowind", "ferrowindctl", "minimal_host"}

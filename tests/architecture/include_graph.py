@@ -15,7 +15,7 @@ import sys
 from typing import Iterator, NamedTuple
 
 HOUSE = ("ferrowind", "host")
-PURE = ("ferrowind/platform", "ferrowind/control", "ferrowind/data", "ferrowind/views")
+PURE = ("ferrowind/platform", "ferrowind/almanac", "ferrowind/control", "ferrowind/data", "ferrowind/views")
 
 STANDARD = frozenset("""
 algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts condition_variable

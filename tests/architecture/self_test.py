@@ -352,9 +352,9 @@ class BroughtPrograms(TemporaryTree):
     def setUp(self):
         super().setUp()
         self.write("tools/packages.txt", "build cmake # a\ntest xvfb # b\nremote openbox # c\nbench cmake #\nfuzz cmake #\n"
-                   "tidy cmake #\n")
+                   "tidy cmake #\ncompare cmake #\n")
         for entry, groups in (("run", "remote"), ("test", "test"), ("bench.sh", "bench"), ("tools/fuzz.sh", "fuzz"),
-                              ("tools/tidy.sh", "tidy")):
+                              ("tools/tidy.sh", "tidy"), ("tools/compare_with_quantlib.sh", "compare")):
             self.write(entry, f'tools/install_packages.sh build {groups}\n"$root/tools/build.sh"\n')
         self.write("tools/build.sh", "cmake && make\n")
         self.write("tools/install_packages.sh", "sh\n")

@@ -14,6 +14,9 @@ import unittest
 
 PROGRAM = os.environ["FERROWINDCTL"]
 
+# The first year of delivered databases whose content matters, so that no test depends on today.
+FIRST_YEAR = 2026
+
 DONE, NOT_DONE, RETURNED_NON_ZERO, CALL_FAILED = range(4)
 
 
@@ -90,7 +93,7 @@ class WithADeliveredDatabase(InAFolder):
         super().setUpClass()
         cls.original = pathlib.Path(tempfile.mkdtemp(prefix="ferrowindctl-")) / "delivered.db"
         cls.addClassCleanup(shutil.rmtree, cls.original.parent)
-        result = run("init", f"sqlite:{cls.original}")
+        result = run("init", f"sqlite:{cls.original}", "--year", FIRST_YEAR)
         if result.returncode != DONE:
             raise AssertionError(result.stderr.decode())
 

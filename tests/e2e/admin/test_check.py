@@ -1,5 +1,6 @@
 """ferrowindctl check: every kind of fault is listed."""
 
+import datetime
 import unittest
 
 import ferrowindctl
@@ -21,7 +22,22 @@ class Check(ferrowindctl.WithADeliveredDatabase):
 
     def test_says_that_a_sound_database_is_in_order(self):
         output, _ = self.assert_run(DONE, "check", self.url())
-        self.assertEqual(len(output.splitlines()), 1)
+        self.assertEqual(output.splitlines()[-1], "The database is in order.")
+
+    def test_warns_of_calendars_that_are_missing_or_have_no_weekends_without_finding_a_fault(self):
+        year = datetime.date.today().year
+        self.assert_run(DONE, "init", self.url("past.db"), "--year", "2015")
+        self.assert_run(DONE, "call", self.url("past.db"), "CldIUMain", "ID1=978", f"Year1={year}")
+        lines = self.assert_run(DONE, "check", self.url("past.db"))[0].splitlines()
+        self.assertEqual(len(lines), 4)
+        self.assertRegex(lines[0], rf"\AWarning: There is no calendar of {year} for AUD, BRL, .*, ZAR\.\Z")
+        self.assertNotIn("EUR", lines[0])
+        self.assertEqual(lines[1], f"Warning: No weekend is closed in the calendar of {year} for EUR.")
+        self.assertRegex(lines[2], rf"\AWarning: There is no calendar of {year + 1} for .*, EUR, .*\.\Z")
+
+    def test_of_a_new_database_warns_of_nothing(self):
+        self.assert_run(DONE, "init", self.url("new.db"))
+        self.assertEqual(self.assert_run(DONE, "check", self.url("new.db"))[0], "The database is in order.\n")
 
     def test_changes_nothing(self):
         before = self.path().read_bytes()

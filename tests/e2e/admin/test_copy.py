@@ -44,8 +44,8 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
         expected = self.everything_in(self.url())
         database = server.Database(self)
         output, _ = self.assert_run(DONE, "copy", self.url(), database.uri)
-        self.assertIn("calendars: 10", output)
-        self.assertIn("days: 3650", output)
+        self.assertIn("calendars: 52", output)
+        self.assertIn("days: 18980", output)
         self.assert_run(DONE, "check", database.uri)
         self.assertEqual(self.everything_in(database.uri), expected)
         self.assert_run(DONE, "copy", database.uri, self.url("back.db"))
@@ -70,7 +70,7 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
         self.assert_run(DONE, "copy", self.url(), database.uri)
         # The check compares roles, rights, triggers and constraints with those of a new database.
         self.assert_run(DONE, "check", database.uri)
-        self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "3650")
+        self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "18980")
 
     def test_whoever_could_create_a_database_may_copy_to_and_from_it(self):
         database, other = server.Database(self), server.Database(self)
@@ -96,10 +96,10 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
         self.assertEqual(self.path("b.db").stat().st_mode & 0o777, 0o600)
 
     def test_a_target_that_is_not_empty_stays_as_it_is_and_is_told_of(self):
-        self.assert_run(DONE, "init", self.url("full.db"))
+        self.assert_run(DONE, "init", self.url("full.db"), "--year", ferrowindctl.FIRST_YEAR)
         before = self.path("full.db").read_bytes()
         _, errors = self.assert_run(NOT_DONE, "copy", self.url(), self.url("full.db"))
-        self.assertIn("10 calendars", errors)
+        self.assertIn("52 calendars", errors)
         self.assertEqual(self.path("full.db").read_bytes(), before)
         self.path("text.db").write_text("mine")
         self.assert_run(NOT_DONE, "copy", self.url(), self.url("text.db"))

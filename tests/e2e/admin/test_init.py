@@ -16,6 +16,9 @@ from ferrowindctl import DONE, NOT_DONE
 
 
 KILL_ATTEMPTS = 12
+YEARS = (ferrowindctl.FIRST_YEAR, ferrowindctl.FIRST_YEAR + 1)
+CURRENCIES = ("EUR USD JPY GBP AUD CAD CHF NZD SEK NOK DKK PLN CZK HUF RON ISK MXN BRL CLP ZAR "
+              "CNY HKD SGD KRW TRY ILS").split()
 
 
 def expected_days(currency, year):
@@ -35,16 +38,22 @@ class DeliveredDatabase(ferrowindctl.WithADeliveredDatabase):
     def test_passes_the_check(self):
         self.assert_run(DONE, "check", self.url())
 
-    def test_has_the_ten_calendars_with_weekends_and_holidays(self):
-        all_info = self.call("CldAllInfo")
-        currencies = {row["ID1"] for row in all_info[0]}
-        self.assertEqual(currencies, {978, 840, 826, 392, 756})
-        self.assertEqual(len(all_info[0]), 10)
-        numbers = {"EUR": 978, "USD": 840, "GBP": 826, "JPY": 392, "CHF": 756}
-        for currency, number in numbers.items():
-            for year in (2026, 2027):
+    def test_has_a_book_and_two_years_for_each_of_26_currencies(self):
+        calendars = {(row["ID1"], row["Year1"]) for row in self.call("CldAllInfo")[0]}
+        numbers = {row["CcyID"]: row["Ccy"] for row in self.call("CldGetCurrencies")[0]}
+        self.assertEqual({(numbers[number], year) for number, year in calendars},
+                         {(currency, year) for currency in CURRENCIES for year in YEARS})
+        books = self.call("CldGetBook")[0]
+        self.assertEqual(sorted(numbers[book["ID1"]] for book in books), sorted(CURRENCIES))
+        for book in books:
+            self.assertTrue(book["Publisher"] and book["Document"], book)
+
+    def test_closes_the_days_that_the_publishers_announce(self):
+        numbers = {row["Ccy"]: row["CcyID"] for row in self.call("CldGetCurrencies")[0]}
+        for currency in bank_holidays.BY_CURRENCY:
+            for year in YEARS:
                 with self.subTest(currency=currency, year=year):
-                    days = self.call("CldGetMain", f"ID1={number}", f"Year1={year}")[0]
+                    days = self.call("CldGetMain", f"ID1={numbers[currency]}", f"Year1={year}")[0]
                     self.assertEqual({day["ODate"]: day["Name1"] for day in days}, expected_days(currency, year))
 
     def test_colours_weekends_celebrations_and_holiday_points_by_their_types(self):
@@ -65,7 +74,7 @@ class DeliveredDatabase(ferrowindctl.WithADeliveredDatabase):
     def test_has_all_currencies_of_the_standard(self):
         database = self.open_from_outside()
         self.assertEqual(database.execute("SELECT CcyType, count(*) FROM DicCcy GROUP BY CcyType").fetchall(),
-                         [(0, 159), (1, 22)])
+                         [(0, 155), (1, 29)])
 
 
 class Init(ferrowindctl.InAFolder):
@@ -94,7 +103,7 @@ class Init(ferrowindctl.InAFolder):
         self.assertEqual([(rule["ID2"], rule["Name1"], rule["TID1"]) for rule in rules],
                          [(1, "Working day by exception", 1)])
         self.assertEqual([row["FirstDay"] for row in setting], [1])
-        self.assertEqual(self.open_from_outside().execute("SELECT count(*) FROM DicCcy").fetchone(), (181,))
+        self.assertEqual(self.open_from_outside().execute("SELECT count(*) FROM DicCcy").fetchone(), (184,))
 
     def test_leaves_a_file_of_that_name_as_it_is(self):
         self.path().write_bytes(b"mine")

@@ -1,12 +1,14 @@
 """ferrowindctl status: what a database is and holds, in three forms, on both engines."""
 
 import csv
+import datetime
 import io
 import json
 import unittest
 
 import ferrowindctl
 import server
+import version_1
 from ferrowindctl import DONE, NOT_DONE
 
 FIELDS = ["SchemaVersion", "Engine", "EngineVersion", "Currencies", "Rules", "RemovedRules", "Calendars", "Days",
@@ -18,23 +20,24 @@ class Status(ferrowindctl.WithADeliveredDatabase):
     def status(self, url):
         document = json.loads(self.assert_run(DONE, "status", url, "--format", "json")[0])
         self.assertEqual(list(document), ["results"])
-        about, years = document["results"]
+        about, years, warnings = document["results"]
         self.assertEqual(about["fields"], FIELDS)
         self.assertEqual(years["fields"], ["Year", "Calendars"])
+        self.assertEqual(warnings["fields"], ["Year", "Ccy", "Warning"])
         return dict(zip(FIELDS, about["rows"][0])), years["rows"]
 
     def test_counts_what_a_file_holds(self):
         before, years = self.status(self.url())
         self.assertEqual((before["Engine"], before["Currencies"], before["RemovedRules"], before["Calendars"],
-                          before["Days"]), ("SQLite", 181, 0, 10, 3650))
-        self.assertEqual(years, [[2026, 5], [2027, 5]])
+                          before["Days"]), ("SQLite", 184, 0, 52, 18980))
+        self.assertEqual(years, [[2026, 26], [2027, 26]])
         self.assert_run(DONE, "call", self.url(), "CldIUMain", "ID1=978", "Year1=2028")
         self.assert_run(DONE, "call", self.url(), "CldIUCelebrate", "ID2=5", "Del=2")
         after, years = self.status(self.url())
         self.assertEqual((after["Calendars"], after["Days"], after["RemovedRules"], after["Rules"]),
-                         (11, 4016, 1, before["Rules"]))
+                         (53, 19346, 1, before["Rules"]))
         self.assertEqual(after["HistoryEntries"], before["HistoryEntries"] + 2)
-        self.assertEqual(years, [[2026, 5], [2027, 5], [2028, 1]])
+        self.assertEqual(years, [[2026, 26], [2027, 26], [2028, 1]])
 
     def test_counts_the_same_on_a_server(self):
         database = server.Database(self)
@@ -52,10 +55,45 @@ class Status(ferrowindctl.WithADeliveredDatabase):
         self.assertEqual(table.split()[:3], FIELDS[:3])
         self.assertNotIn("Return value", table)
         output, _ = self.assert_run(DONE, "status", self.url(), "--format", "csv")
-        about, years = [list(csv.reader(io.StringIO(part, newline=""))) for part in output.split("\r\n\r\n")]
+        about, years, warnings = [list(csv.reader(io.StringIO(part, newline=""))) for part in output.split("\r\n\r\n")]
         self.assertEqual(about[0], FIELDS)
-        self.assertEqual(about[1][6:8], ["10", "3650"])
-        self.assertEqual(years, [["Year", "Calendars"], ["2026", "5"], ["2027", "5"]])
+        self.assertEqual(about[1][6:8], ["52", "18980"])
+        self.assertEqual(years, [["Year", "Calendars"], ["2026", "26"], ["2027", "26"]])
+        self.assertEqual(warnings[0], ["Year", "Ccy", "Warning"])
+
+    def warnings(self, url):
+        """The rows of the form for programs, and the lines of the one for people."""
+        document = json.loads(self.assert_run(DONE, "status", url, "--format", "json")[0])
+        lines = self.assert_run(DONE, "status", url)[0].splitlines()
+        return document["results"][2]["rows"], [line for line in lines if line.startswith("Warning: ")]
+
+    def test_warns_of_years_that_are_not_prepared(self):
+        years = [datetime.date.today().year + ahead for ahead in (0, 1)]
+        self.assert_run(DONE, "init", self.url("past.db"), "--year", "2015")
+        for currency in ("EUR", "USD"):
+            number = {"EUR": 978, "USD": 840}[currency]
+            self.assert_run(DONE, "call", self.url("past.db"), "CldApplyPlan", f"ID1={number}", f"Year1={years[0]}",
+                            "Expected=", 'Days=[{"Name1":"Sunday","TID1":2,"Dates":[]}]')
+        rows, lines = self.warnings(self.url("past.db"))
+        self.assertEqual(sum(row[0] == years[1] and row[2] == "no calendar" for row in rows), 26)
+        self.assertEqual(sum(row[0] == years[0] and row[2] == "no calendar" for row in rows), 24)
+        self.assertEqual([row for row in rows if row[2] != "no calendar"],
+                         [[years[0], "EUR", "no weekends"], [years[0], "USD", "no weekends"]])
+        self.assertEqual(len(lines), 3)
+        self.assertRegex(lines[0], rf"There is no calendar of {years[0]} for AUD, BRL, .*, ZAR\.\Z")
+        self.assertEqual(lines[1], f"Warning: No weekend is closed in the calendar of {years[0]} for EUR, USD.")
+        self.assertRegex(lines[2], rf"There is no calendar of {years[1]} for AUD, BRL, .*, ZAR\.\Z")
+
+    def test_warns_of_nothing_in_a_new_database_nor_in_an_empty_one(self):
+        self.assert_run(DONE, "init", self.url("new.db"))
+        self.assert_run(DONE, "init", self.url("empty.db"), "--empty")
+        for name in ("new.db", "empty.db"):
+            self.assertEqual(self.warnings(self.url(name)), ([], []))
+
+    def test_of_an_older_schema_says_why_there_are_no_warnings(self):
+        rows, [line] = self.warnings(version_1.make_file(self, "old.db"))
+        self.assertEqual([row[:2] for row in rows], [[None, None]])
+        self.assertIn("The calendars cannot be looked into: ", line)
 
     def test_changes_nothing(self):
         before = self.path().read_bytes()

@@ -21,7 +21,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", url)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", url)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 2.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 3.\n")
         self.assert_run(DONE, "check", url)
         self.assert_run(DONE, "init", self.url("new.db"), "--empty")
         self.assertEqual(self.schema("a.db"), self.schema("new.db"))
@@ -31,14 +31,14 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         self.assert_run(DONE, "init", self.url(), "--empty")
         before = self.path().read_bytes()
         output, _ = self.assert_run(DONE, "upgrade", self.url())
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 2.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 3.\n")
         self.assertEqual(self.path().read_bytes(), before)
 
     def test_refuses_a_newer_database(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         self.open_from_outside().execute("PRAGMA user_version = 7")
         _, errors = self.assert_run(NOT_DONE, "upgrade", self.url())
-        self.assertIn("a.db has the schema version 7; this program's is 2", errors)
+        self.assertIn("a.db has the schema version 7; this program's is 3", errors)
         self.assertIn("newer version of this program", errors)
 
     def test_that_fails_leaves_the_database_as_it_was(self):
@@ -73,12 +73,12 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", database.uri)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 2.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 3.\n")
         # The check compares every object and right with those of a new database.
         self.assert_run(DONE, "check", database.uri)
         self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "365")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 2.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 3.\n")
 
     def test_that_fails_leaves_the_database_as_it_was(self):
         database = version_1.make_on_server(self)
@@ -93,7 +93,7 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         database = version_1.make_on_server(self)
         database.ask("UPDATE ferrowind.SchemaVersion SET Version = 7")
         _, errors = self.assert_run(NOT_DONE, "upgrade", database.uri)
-        self.assertIn("has the schema version 7; this program's is 2", errors)
+        self.assertIn("has the schema version 7; this program's is 3", errors)
 
 
 if __name__ == "__main__":

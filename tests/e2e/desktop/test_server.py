@@ -32,7 +32,8 @@ class ServerTest(unittest.TestCase):
         self.session = DesktopSession(SCREEN, os.environ['FERROWIND_PROGRAM'])
         self.addCleanup(self.session.end)
         self.database = server.Database(self)
-        subprocess.run([os.environ['FERROWINDCTL_PROGRAM'], 'init', self.database.uri], check=True)
+        subprocess.run([os.environ['FERROWINDCTL_PROGRAM'], 'init', self.database.uri, '--year', '2026'],
+                       check=True, stdout=subprocess.DEVNULL)
         self.url = self.database.login(self, 'anna', PASSWORD, role='ferrowind_operator')
         # Not before there is a screen, whose bus it is to find.
         import accessible

@@ -11,6 +11,8 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/data/module_state.h"
 
+#include "tests/gui/windows/office_rules.h"
+
 namespace ferrowind::gui {
 namespace {
 
@@ -23,7 +25,8 @@ std::string VisibleText(const QWidget& window, const char* name) {
 
 HostTest::HostTest() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(folder_.Path()));
-  sqlite::CreateDatabase(DatabasePath(), true);
+  sqlite::CreateDatabase(DatabasePath());
+  sqlite::DatabaseHandle(DatabasePath()).Execute(std::string(embedded::kOfficeRules).c_str());
   sqlite::DatabaseHandle(DatabasePath()).Execute("DELETE FROM DicCcy WHERE Ccy NOT IN ('EUR', 'USD')");
   const std::string url = "sqlite:" + DatabasePath();
   sqlite::Engine engine;

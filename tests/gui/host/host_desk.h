@@ -23,8 +23,8 @@
 namespace ferrowind::gui {
 
 /// The desktop program but for its command line, over a database with the currencies EUR and USD, the
-/// delivered rules and the calendar USD 2028, all days ordinary working days. The back office is on show, the
-/// Calendars window is not.
+/// rules of an office and the calendar USD 2028, all days ordinary working days. The back office is on show,
+/// the Calendars window is not.
 class HostTest : public ::testing::Test {
  protected:
   HostTest();

@@ -12,6 +12,8 @@
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/data/module_state.h"
 
+#include "tests/gui/windows/office_rules.h"
+
 namespace ferrowind::gui {
 namespace {
 
@@ -24,7 +26,8 @@ OperatorDesk::OperatorDesk(Rules rules)
     : engine_(std::make_shared<sqlite::Engine>(kBusyTimeout)), platform_{objects_, commands_,
                                                                          toolkit_, locale_,
                                                                          clock_,   FERROWIND_SHARE} {
-  sqlite::CreateDatabase(DatabasePath(), rules == Rules::kDelivered);
+  sqlite::CreateDatabase(DatabasePath());
+  if (rules == Rules::kOfOffice) Execute(std::string(embedded::kOfficeRules));
   engines_.Register(sqlite::Engine::kScheme, engine_);
   objects_.Register(platform::kDictionaryIdentifier, [this] {
     return std::make_shared<DesktopDictionary>(engines_, "sqlite:" + DatabasePath());

@@ -33,7 +33,11 @@ class HeardToolkit : public qt::QtToolkit {
 /// One at a time, since it is what the component uses on this thread.
 class OperatorDesk {
  public:
-  enum class Rules { kBuiltInOnly, kDelivered };
+  enum class Rules {
+    kBuiltInOnly,
+    /// Those that an office of five currencies has, as office_rules.sql lists them.
+    kOfOffice
+  };
 
   explicit OperatorDesk(Rules rules);
   ~OperatorDesk();

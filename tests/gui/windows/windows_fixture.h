@@ -19,11 +19,11 @@ namespace ferrowind::gui {
 inline constexpr std::int32_t kDollar = 840;
 inline constexpr std::int32_t kEuro = 978;
 
-/// The component's windows over a database with the currencies EUR, GBP and USD, the delivered rules and the
-/// calendars EUR 2026 and USD 2027 and 2028, all days ordinary working days. No window is open at first.
+/// The component's windows over a database with the currencies EUR, GBP and USD, the rules of an office and
+/// the calendars EUR 2026 and USD 2027 and 2028, all days ordinary working days. No window is open at first.
 class WindowsTest : public ::testing::Test {
  protected:
-  explicit WindowsTest(OperatorDesk::Rules rules = OperatorDesk::Rules::kDelivered);
+  explicit WindowsTest(OperatorDesk::Rules rules = OperatorDesk::Rules::kOfOffice);
   ~WindowsTest() override;
 
   void CreateCalendar(std::int32_t currency, std::int32_t year);

@@ -28,7 +28,7 @@ class DatabaseVersionTest : public ::testing::Test {
     sqlite::DatabaseHandle(path_).Execute(contract::VersionOneScript("sqlite").c_str());
   }
   void MakeNewerDatabase() {
-    sqlite::CreateDatabase(path_, false);
+    sqlite::CreateDatabase(path_);
     sqlite::DatabaseHandle(path_).Execute("PRAGMA user_version = 99");
   }
 
@@ -42,7 +42,7 @@ TEST_F(DatabaseVersionTest, TheProgramsOwnDatabaseIsUpgraded) {
   UpgradeOwnDatabase(url_);
   EXPECT_THAT(sqlite::CheckDatabase(path_), IsEmpty());
   UpgradeOwnDatabase(url_);
-  EXPECT_EQ(sqlite::ReadSchemaVersion(path_), 2);
+  EXPECT_EQ(sqlite::ReadSchemaVersion(path_), 3);
 }
 
 TEST_F(DatabaseVersionTest, TheProgramsOwnDatabaseThatIsNewerIsToldAndStays) {
@@ -78,7 +78,7 @@ TEST_F(DatabaseVersionTest, WhatCannotBeReadIsLeftToTheWindows) {
 }
 
 TEST_F(DatabaseVersionTest, ADatabaseOfThisVersionIsNotSpokenOf) {
-  sqlite::CreateDatabase(path_, false);
+  sqlite::CreateDatabase(path_);
   RequireThisVersion(url_);
   UpgradeOwnDatabase(url_);
 }

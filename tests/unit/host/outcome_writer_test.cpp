@@ -116,5 +116,28 @@ TEST(RowWriters, WriteNothingOfNothing) {
   EXPECT_EQ(WrittenRows({}, OutputFormat::kCsv), "");
 }
 
+std::string WrittenList(const RecordSet& rows, OutputFormat format) {
+  std::ostringstream out;
+  WriteList(rows, format, out);
+  return out.str();
+}
+
+TEST(ListWriter, WritesTextsInFullListsOfObjectsAndCsv) {
+  const std::string sentence(100, 'x');
+  const RecordSet rows({"date", "now", "why"}, Rows{{Date(2028, 4, 14), Value(), sentence}});
+  EXPECT_EQ(WrittenList(rows, OutputFormat::kTable), "date        now  why\n----------  ---  " +
+                                                         std::string(100, '-') + "\n2028-04-14       " +
+                                                         sentence + "\n");
+  EXPECT_EQ(WrittenList(rows, OutputFormat::kJson),
+            "[{\"date\":\"2028-04-14\",\"now\":null,\"why\":\"" + sentence + "\"}]\n");
+  EXPECT_EQ(WrittenList(rows, OutputFormat::kCsv), "date,now,why\r\n2028-04-14,," + sentence + "\r\n");
+}
+
+TEST(ListWriter, WritesAListOfNothing) {
+  const RecordSet rows({"date"}, Rows{});
+  EXPECT_EQ(WrittenList(rows, OutputFormat::kJson), "[]\n");
+  EXPECT_EQ(WrittenList(rows, OutputFormat::kCsv), "date\r\n");
+}
+
 }  // namespace
 }  // namespace ferrowind::host

@@ -1,0 +1,116 @@
+#include "ferrowind/planning/book_store.h"
+
+#include <utility>
+
+#include "ferrowind/almanac/book_faults.h"
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/json_text.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using almanac::BookRule;
+using almanac::RuleBook;
+using almanac::RuleKind;
+using platform::Failure;
+using platform::RecordSet;
+using platform::Value;
+
+/// A rule of the book, which was written by whoever may write books, so by other programs too.
+BookRule ReadRule(const RecordSet& row) {
+  BookRule rule;
+  rule.name = platform::ToText(row["Name1"]);
+  rule.comment = platform::ToTextOrEmpty(row["Comment"]);
+  rule.moved_name = platform::ToTextOrEmpty(row["MovedName"]);
+  const std::int32_t kind = platform::ToInt32(row["TID1"]);
+  if (kind < static_cast<std::int32_t>(RuleKind::kWorkingDay) ||
+      kind > static_cast<std::int32_t>(RuleKind::kPoint)) {
+    throw Failure(platform::failure_number::kInvalidArgument,
+                  "there is no type " + std::to_string(kind) + " of rules");
+  }
+  rule.kind = static_cast<RuleKind>(kind);
+  rule.expression = almanac::DateExpression::Parse(platform::ToText(row["Expression"]));
+  return rule;
+}
+
+/// Takes the rows of the currency off `rules`, which are ordered by currency.
+void ReadRules(RecordSet& rules, RuleBook& book, StoredBook& stored) {
+  for (; !rules.Eof() && platform::ToInt32(rules["ID1"]) == stored.currency; rules.MoveNext()) {
+    try {
+      book.rules.push_back(ReadRule(rules));
+    } catch (const Failure& failure) {
+      stored.faults.push_back("The rule " + platform::ToTextOrEmpty(rules["Position"]) + ", \"" +
+                              platform::ToTextOrEmpty(rules["Name1"]) + "\": " + failure.Description());
+    }
+  }
+}
+
+std::vector<StoredBook> Load(const std::string& doing, const Value& currency,
+                             const almanac::DateTables& tables) {
+  SourceValues parameters;
+  parameters.Add("ID1", currency);
+  const CallAnswer answer = CallDatabase(doing, "CldGetBook", parameters, 2);
+  RecordSet& heads = *answer.record_sets[0];
+  RecordSet& rules = *answer.record_sets[1];
+  rules.MoveFirst();
+  std::vector<StoredBook> books;
+  for (heads.MoveFirst(); !heads.Eof(); heads.MoveNext()) {
+    StoredBook& stored = books.emplace_back();
+    stored.currency = platform::ToInt32(heads["ID1"]);
+    stored.fingerprint = platform::ToTextOrEmpty(heads["Fingerprint"]);
+    RuleBook book;
+    book.publisher = platform::ToTextOrEmpty(heads["Publisher"]);
+    book.document = platform::ToTextOrEmpty(heads["Document"]);
+    ReadRules(rules, book, stored);
+    if (!stored.faults.empty()) continue;
+    stored.faults = almanac::FaultsOf(book, tables);
+    stored.book = std::move(book);
+  }
+  return books;
+}
+
+std::string RulesJson(const RuleBook& book) {
+  std::string json = "[";
+  for (const BookRule& rule : book.rules) {
+    if (json.size() > 1) json += ',';
+    json += "{\"Name1\":" + JsonText(rule.name) + ",\"TID1\":" + std::to_string(static_cast<int>(rule.kind)) +
+            ",\"Expression\":" + JsonText(rule.expression.ToText());
+    if (!rule.comment.empty()) json += ",\"Comment\":" + JsonText(rule.comment);
+    if (!rule.moved_name.empty()) json += ",\"MovedName\":" + JsonText(rule.moved_name);
+    json += '}';
+  }
+  return json + ']';
+}
+
+}  // namespace
+
+std::vector<StoredBook> LoadBooks(const almanac::DateTables& tables) {
+  return Load("Reading the books", {}, tables);
+}
+
+std::optional<StoredBook> LoadBook(std::int32_t id, const std::string& code,
+                                   const almanac::DateTables& tables) {
+  std::vector<StoredBook> books = Load("Reading the book of " + code, id, tables);
+  if (books.empty()) return std::nullopt;
+  return std::move(books.front());
+}
+
+void StoreBook(std::int32_t id, const std::string& code, const std::string& expected, const RuleBook& book) {
+  SourceValues parameters;
+  parameters.Add("ID1", id);
+  parameters.Add("Expected", expected);
+  parameters.Add("Publisher", book.publisher);
+  parameters.Add("Document", book.document);
+  parameters.Add("Rules", RulesJson(book));
+  (void)CallDatabase("Writing the book of " + code, "CldIUBook", parameters);
+}
+
+void RemoveBook(std::int32_t id, const std::string& code, const std::string& expected) {
+  SourceValues parameters;
+  parameters.Add("ID1", id);
+  parameters.Add("Expected", expected);
+  (void)CallDatabase("Removing the book of " + code, "CldIUBook", parameters);
+}
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,124 @@
+#include "ferrowind/planning/calendar_store.h"
+
+#include <cstdint>
+#include <string>
+
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using almanac::CalendarContent;
+using almanac::KnownRule;
+using almanac::MarkedDay;
+using almanac::RuleKind;
+using platform::RecordSet;
+using platform::Value;
+
+SourceValues CalendarParameters(const Currency& currency, int year) {
+  SourceValues parameters;
+  parameters.Add("ID1", currency.id);
+  parameters.Add("Year1", static_cast<std::int32_t>(year));
+  return parameters;
+}
+
+/// Columns of whole numbers are of the type that the engine found them to be, mostly this one.
+std::int32_t Number(const Value& value) {
+  const auto* const number = value.If<std::int32_t>();
+  return number != nullptr ? *number : platform::ToInt32(value);
+}
+
+/// The places of what makes a marked day, looked up once for many rows.
+struct DayFields {
+  explicit DayFields(const RecordSet& rows)
+      : day(rows.FieldNamed("Day1")),
+        kind(rows.FieldNamed("TID1")),
+        rule(rows.FieldNamed("ID2")),
+        comment(rows.FieldNamed("Comment")) {}
+
+  [[nodiscard]] MarkedDay Read(const RecordSet& rows, RecordSet::Bookmark row) const {
+    MarkedDay marked;
+    marked.day_of_year = static_cast<std::int16_t>(Number(rows.Cell(row, day)));
+    marked.kind = static_cast<RuleKind>(Number(rows.Cell(row, kind)));
+    marked.rule = Number(rows.Cell(row, rule));
+    if (const Value& text = rows.Cell(row, comment); !text.IsEmpty()) marked.comment = platform::ToText(text);
+    return marked;
+  }
+
+  std::size_t day, kind, rule, comment;
+};
+
+}  // namespace
+
+StoredCalendar LoadCalendar(const Currency& currency, int year) {
+  const std::string doing = "Reading the calendar " + currency.code + " " + std::to_string(year);
+  StoredCalendar calendar;
+  calendar.content.year = year;
+  const CallAnswer fingerprint =
+      CallDatabase(doing, "CldGetFingerprint", CalendarParameters(currency, year), 1);
+  const CallAnswer days = CallDatabase(doing, "CldGetMain", CalendarParameters(currency, year), 1,
+                                       {return_value::kUnknownCalendar});
+  RecordSet& fingerprints = *fingerprint.record_sets.front();
+  fingerprints.MoveFirst();
+  calendar.fingerprint = fingerprints.Eof() ? "" : platform::ToTextOrEmpty(fingerprints["Fingerprint"]);
+  calendar.exists = days.return_value == return_value::kDone;
+  if (!calendar.exists) return calendar;
+  const RecordSet& rows = *days.record_sets.front();
+  const DayFields fields(rows);
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) {
+    const auto row = rows.BookmarkAt(i);
+    if (!rows.Cell(row, fields.rule).IsEmpty()) calendar.content.days.push_back(fields.Read(rows, row));
+  }
+  return calendar;
+}
+
+StoredRules LoadRules() {
+  const CallAnswer answer = CallDatabase("Reading the rules", "CldAllInfo", {}, 3);
+  StoredRules stored;
+  RecordSet& calendars = *answer.record_sets[0];
+  for (calendars.MoveFirst(); !calendars.Eof(); calendars.MoveNext()) {
+    stored.calendars.emplace_back(platform::ToInt32(calendars["ID1"]), platform::ToInt32(calendars["Year1"]));
+  }
+  constexpr std::int32_t kRemoved = 2;
+  RecordSet& rules = *answer.record_sets[2];
+  for (rules.MoveFirst(); !rules.Eof(); rules.MoveNext()) {
+    KnownRule& rule = stored.rules.emplace_back();
+    rule.id = platform::ToInt32(rules["ID2"]);
+    rule.name = platform::ToTextOrEmpty(rules["Name1"]);
+    rule.kind = static_cast<RuleKind>(platform::ToInt32(rules["TID1"]));
+    if (rule.kind == RuleKind::kCelebration && !rules["MY"].IsEmpty() && !rules["MD"].IsEmpty()) {
+      rule.month = platform::ToInt32(rules["MY"]);
+      rule.day = platform::ToInt32(rules["MD"]);
+    }
+    rule.is_removed = !rules["Del"].IsEmpty() && platform::ToInt32(rules["Del"]) == kRemoved;
+  }
+  return stored;
+}
+
+std::vector<std::pair<CalendarKey, CalendarContent>> LoadMarkedDays(int first_year, int last_year) {
+  SourceValues parameters;
+  parameters.Add("FromYear", static_cast<std::int32_t>(first_year));
+  parameters.Add("ToYear", static_cast<std::int32_t>(last_year));
+  const CallAnswer answer =
+      CallDatabase("Reading the days of all calendars", "CldGetMarkedDays", parameters, 1);
+  const RecordSet& rows = *answer.record_sets.front();
+  const std::size_t currency = rows.FieldNamed("ID1");
+  const std::size_t year = rows.FieldNamed("Year1");
+  const DayFields fields(rows);
+  // The weekends of a year and its holidays.
+  constexpr std::size_t kUsualDays = 128;
+  std::vector<std::pair<CalendarKey, CalendarContent>> contents;
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) {
+    const auto row = rows.BookmarkAt(i);
+    const CalendarKey key(Number(rows.Cell(row, currency)), Number(rows.Cell(row, year)));
+    if (contents.empty() || contents.back().first != key) {
+      contents.push_back({key, {key.second, {}}});
+      contents.back().second.days.reserve(kUsualDays);
+    }
+    contents.back().second.days.push_back(fields.Read(rows, row));
+  }
+  return contents;
+}
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ferrowind/almanac/calendar_content.h"
+#include "ferrowind/almanac/rule_directory.h"
+#include "ferrowind/planning/currency_list.h"
+
+/// The calendars and rules of the calling thread's database. All fail as database_call.h says.
+namespace ferrowind::planning {
+
+/// A calendar as it stands in the database.
+struct StoredCalendar {
+  bool exists = false;
+  /// Of this content or an older one, so that a change since then is refused; empty when it does not exist.
+  std::string fingerprint;
+  almanac::CalendarContent content;
+};
+
+[[nodiscard]] StoredCalendar LoadCalendar(const Currency& currency, int year);
+
+/// A calendar's place: the number of its currency and its year.
+using CalendarKey = std::pair<std::int32_t, int>;
+
+struct StoredRules {
+  /// Ordered.
+  std::vector<CalendarKey> calendars;
+  /// All, removed ones too.
+  std::vector<almanac::KnownRule> rules;
+};
+
+/// Which calendars there are, and the rules.
+[[nodiscard]] StoredRules LoadRules();
+
+/// The content of every calendar from `first_year` to `last_year` that has marked days, ordered by currency
+/// and year.
+[[nodiscard]] std::vector<std::pair<CalendarKey, almanac::CalendarContent>> LoadMarkedDays(int first_year,
+                                                                                           int last_year);
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ferrowind/platform/values/date.h"
+
+namespace ferrowind::planning {
+
+/// A currency of the database's dictionary.
+struct Currency {
+  /// ISO 4217 number.
+  std::int32_t id = 0;
+  /// ISO 4217 code.
+  std::string code;
+  std::string name;
+  /// Only money has calendars; not metals, funds and testing codes.
+  bool is_money = true;
+  /// The last day as legal money; nothing while it is live.
+  std::optional<platform::Date> last_day;
+
+  /// Whether it is money on any day of `year`.
+  [[nodiscard]] bool IsLiveIn(int year) const { return is_money && (!last_day || last_day->Year() >= year); }
+};
+
+class CurrencyList {
+ public:
+  /// Reads those of the calling thread's database. Fails as database_call.h says.
+  [[nodiscard]] static CurrencyList Load();
+  explicit CurrencyList(std::vector<Currency> currencies) : currencies_(std::move(currencies)) {}
+
+  [[nodiscard]] const std::vector<Currency>& All() const { return currencies_; }
+  /// Null when there is none of that number.
+  [[nodiscard]] const Currency* Find(std::int32_t id) const;
+  /// The currency of that code, in any letter case; a failure that names the code when there is none.
+  [[nodiscard]] const Currency& Named(std::string_view code) const;
+
+ private:
+  std::vector<Currency> currencies_;
+};
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,80 @@
+#include "ferrowind/planning/database_call.h"
+
+#include <algorithm>
+
+#include "ferrowind/data/exec_proc.h"
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/data/record_set_in.h"
+
+namespace ferrowind::planning {
+namespace {
+
+std::string InWords(std::int32_t return_value) {
+  switch (return_value) {
+    case 2:
+      return "something else has that name already";
+    case 3:
+      return "the currency is unknown, or is no money in that year";
+    case 4:
+      return "there is no such rule";
+    case 5:
+      return "there is no such calendar";
+    case 6:
+      return "it exists already";
+    case 7:
+      return "a value is missing, malformed or out of range";
+    case 8:
+      return "it was changed meanwhile";
+    case 9:
+      return "a later call changed the same, or the history does not reach there";
+    case 10:
+      return "a removed rule has that name";
+    default:
+      return "for a reason that this program does not know";
+  }
+}
+
+platform::Failure FailureOfCall(const std::string& doing) {
+  if (Module().pending_failure_count == 0) {
+    return {platform::failure_number::kInvalidArgument, doing + ": the call failed"};
+  }
+  const FailureRecord& pending = Module().pending_failures.front();
+  return {pending.number, doing + ": " + pending.description};
+}
+
+}  // namespace
+
+Refusal::Refusal(const std::string& doing, const std::string& procedure, std::int32_t return_value)
+    : Failure(platform::failure_number::kInvalidArgument, doing + ": " + InWords(return_value) + " (" +
+                                                              procedure + " returned " +
+                                                              std::to_string(return_value) + ")"),
+      return_value_(return_value) {}
+
+CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
+                        const SourceValues& parameters, std::size_t least_record_sets,
+                        std::initializer_list<std::int32_t> expected) {
+  CallAnswer answer;
+  std::shared_ptr<SourceValues> results;
+  answer.return_value = ExecProc(procedure, &parameters, results);
+  // A failure after the return value was read leaves it standing, but not all of the answer.
+  if (answer.return_value == kCallFailed || Module().pending_failure_count != 0) throw FailureOfCall(doing);
+  if (answer.return_value != return_value::kDone) {
+    const bool is_expected =
+        std::find(expected.begin(), expected.end(), answer.return_value) != expected.end();
+    if (!is_expected) throw Refusal(doing, procedure, answer.return_value);
+    return answer;
+  }
+  for (std::int32_t i = 1; results && i <= results->Count(); ++i) {
+    auto records = RecordSetIn(results, results->Values(i)->Name);
+    if (records) answer.record_sets.push_back(std::move(records));
+  }
+  if (answer.record_sets.size() < least_record_sets) {
+    throw platform::Failure(platform::failure_number::kSubscriptOutOfRange,
+                            doing + ": " + procedure + " gave only " +
+                                std::to_string(answer.record_sets.size()) + " of its " +
+                                std::to_string(least_record_sets) + " record sets");
+  }
+  return answer;
+}
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,55 @@
+#include "ferrowind/planning/year_planner.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::planning {
+namespace {
+
+std::string Joined(const std::vector<std::string>& sentences) {
+  std::string joined;
+  for (const std::string& sentence : sentences) joined += (joined.empty() ? "" : "; ") + sentence;
+  return joined;
+}
+
+}  // namespace
+
+YearPlanner::YearPlanner(const almanac::DateTables& tables)
+    : currencies_(CurrencyList::Load()), rules_(LoadRules().rules) {
+  for (StoredBook& stored : LoadBooks(tables)) {
+    BookState& state = books_[stored.currency];
+    state.faults = std::move(stored.faults);
+    if (state.faults.empty()) {
+      state.planner = std::make_unique<const almanac::Planner>(std::move(*stored.book), tables);
+    }
+  }
+}
+
+std::vector<const Currency*> YearPlanner::WithBooks() const {
+  std::vector<const Currency*> found;
+  for (const Currency& currency : currencies_.All()) {
+    if (HasBook(currency)) found.push_back(&currency);
+  }
+  std::sort(found.begin(), found.end(),
+            [](const Currency* left, const Currency* right) { return left->code < right->code; });
+  return found;
+}
+
+std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, int year) const {
+  const auto found = books_.find(currency.id);
+  if (found == books_.end()) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            currency.code + " has no book, so nothing tells what its calendars should be");
+  }
+  if (!found->second.faults.empty()) {
+    throw platform::Failure(
+        platform::failure_number::kInvalidArgument,
+        "The book of " + currency.code + " cannot be used: " + Joined(found->second.faults));
+  }
+  return std::make_unique<YearPreparation>(currency, year, *found->second.planner, rules_);
+}
+
+}  // namespace ferrowind::planning

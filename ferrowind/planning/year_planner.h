@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "ferrowind/almanac/date_table.h"
+#include "ferrowind/almanac/planner.h"
+#include "ferrowind/almanac/rule_directory.h"
+#include "ferrowind/planning/book_store.h"
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/year_preparation.h"
+
+namespace ferrowind::planning {
+
+/// Plans years by the books of the calling thread's database: its currencies, rules and books as they were
+/// when this was made. All fail as database_call.h says.
+class YearPlanner {
+ public:
+  /// Keeps what it needs of the tables.
+  explicit YearPlanner(const almanac::DateTables& tables);
+
+  [[nodiscard]] const CurrencyList& Currencies() const { return currencies_; }
+  [[nodiscard]] const almanac::RuleDirectory& Rules() const { return rules_; }
+  /// Those that have a book, by code.
+  [[nodiscard]] std::vector<const Currency*> WithBooks() const;
+  [[nodiscard]] bool HasBook(const Currency& currency) const { return books_.contains(currency.id); }
+
+  /// The calendar as it is now beside its plan; must not outlive this. A currency without a book, or with one
+  /// that has faults, is a failure that says so.
+  [[nodiscard]] std::unique_ptr<YearPreparation> Prepare(const Currency& currency, int year) const;
+
+ private:
+  struct BookState {
+    std::unique_ptr<const almanac::Planner> planner;
+    std::vector<std::string> faults;
+  };
+
+  CurrencyList currencies_;
+  almanac::RuleDirectory rules_;
+  /// By the currency's number.
+  std::map<std::int32_t, BookState> books_;
+};
+
+}  // namespace ferrowind::planning

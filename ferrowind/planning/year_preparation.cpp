@@ -1,0 +1,56 @@
+#include "ferrowind/planning/year_preparation.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/days_json.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::planning {
+namespace {
+
+constexpr const char* kApplyPlan = "CldApplyPlan";
+
+}  // namespace
+
+using almanac::ExceptionHandling;
+
+YearPreparation::YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
+                                 const almanac::RuleDirectory& rules)
+    : currency_(currency),
+      calendar_(LoadCalendar(currency, year)),
+      plan_(planner.Plan(year)),
+      matches_(planner.Book(), rules),
+      comparison_(plan_, calendar_.content, matches_) {}
+
+std::string YearPreparation::Name() const { return currency_.code + " " + std::to_string(Year()); }
+
+bool YearPreparation::Changes(ExceptionHandling exceptions) const {
+  const auto& days = comparison_.Days();
+  return !calendar_.exists ||
+         std::any_of(days.begin(), days.end(), [&](const auto& day) { return day.Changes(exceptions); });
+}
+
+std::optional<std::int32_t> YearPreparation::NewestEntry() const {
+  SourceValues parameters;
+  parameters.Add("ID1", currency_.id);
+  parameters.Add("Year1", static_cast<std::int32_t>(Year()));
+  parameters.Add("Count", 1);
+  const CallAnswer answer = CallDatabase("Reading the history of " + Name(), "CldGetHistory", parameters, 1);
+  platform::RecordSet& rows = *answer.record_sets.front();
+  rows.MoveFirst();
+  if (rows.Eof() || platform::ToText(rows["ProcedureName"]) != kApplyPlan) return std::nullopt;
+  return platform::ToInt32(rows["EntryID"]);
+}
+
+void YearPreparation::Apply(ExceptionHandling exceptions) const {
+  SourceValues parameters;
+  parameters.Add("ID1", currency_.id);
+  parameters.Add("Year1", static_cast<std::int32_t>(Year()));
+  parameters.Add("Expected", calendar_.fingerprint);
+  parameters.Add("Days", DaysJson(comparison_, exceptions));
+  (void)CallDatabase("Applying the plan of " + Name(), kApplyPlan, parameters);
+}
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "ferrowind/platform/database/engine_registry.h"
+
+#include "host/admin/exit_status.h"
+
+namespace ferrowind::host {
+
+/// Asks the user `question`, and tells whether the answer was yes; nothing when there is nobody to ask.
+using Confirmation = std::function<std::optional<bool>(const std::string& question)>;
+
+/// Asks on the terminal of standard input, if it is one.
+[[nodiscard]] std::optional<bool> AskOnTerminal(const std::string& question);
+
+/// `ferrowindctl apply`: makes calendars as planned.
+struct ApplyCommand {
+  static constexpr const char* kAllCurrencies = "ALL";
+
+  std::string url;
+  /// In any letter case; `kAllCurrencies` for all that have a book.
+  std::string currency;
+  /// As plan_arguments.h reads them.
+  std::string years;
+  bool keeps_exceptions = false;
+  /// Does not ask.
+  bool is_confirmed = false;
+
+  /// Prints to `out` what will change and what has changed. Nothing is changed unless `confirm` or
+  /// `is_confirmed` says so, and none of the calendars when the database would refuse one of them: the reason
+  /// is on `errors` then, and the status is `kNotDone`. Each calendar changes in one call of its own, so a
+  /// failure (a `platform::Failure`) leaves those before it changed. Years that cannot be read are an
+  /// `ArgumentError`.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, const Confirmation& confirm,
+                               std::ostream& out, std::ostream& errors) const;
+};
+
+}  // namespace ferrowind::host

@@ -1,0 +1,86 @@
+#include "host/admin/currency_commands.h"
+
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "host/admin/command_set.h"
+#include "host/admin/currency_command.h"
+
+namespace ferrowind::host {
+namespace {
+
+constexpr const char* kManual =
+    R"(list prints number, code, kind, name and last day of every currency that the
+database knows. The kind is "money" for what has calendars, "past" for money of
+the past, and "other" for metals, funds and units of account.
+
+add needs the three letters and the number that ISO 4217 gives. rename changes a
+name, or with --code the letters; the number stays, and with it the calendars.
+retire says until which day, YYYY-MM-DD, a currency is money. There can be no
+calendar of a later year then; one that exists is in the way. A currency without
+calendars and rule book leaves the lists of the windows.
+
+Every change has an entry in the history, and "undo" takes it back. On a server
+only an administrator may change currencies.)";
+
+constexpr const char* kUrl = "The database";
+constexpr const char* kCode = "The currency's code, such as EUR";
+
+void AddList(CommandSet& commands, CLI::App& group) {
+  const auto list = std::make_shared<CurrencyListCommand>();
+  CLI::App& command =
+      commands.AddTo(group, "list", "List the currencies", [list](const CommandSurroundings& surroundings) {
+        return list->Run(surroundings.engines, surroundings.out);
+      });
+  command.add_option("URL", list->url, kUrl)->required();
+  AddFormat(command, list->format);
+}
+
+void AddAdd(CommandSet& commands, CLI::App& group) {
+  const auto add = std::make_shared<CurrencyAddCommand>();
+  CLI::App& command =
+      commands.AddTo(group, "add", "Add a currency", [add](const CommandSurroundings& surroundings) {
+        return add->Run(surroundings.engines, surroundings.out);
+      });
+  command.add_option("URL", add->url, kUrl)->required();
+  command.add_option("CCY", add->code, kCode)->required();
+  command.add_option("NUMBER", add->number, "Its number in ISO 4217, 1 to 999")->required();
+  command.add_option("NAME", add->name, "Its name")->required();
+  command.add_flag("--no-money", add->is_no_money, "A metal, a fund or a unit of account, without calendars");
+}
+
+void AddRename(CommandSet& commands, CLI::App& group) {
+  const auto rename = std::make_shared<CurrencyRenameCommand>();
+  CLI::App& command = commands.AddTo(group, "rename", "Change a currency's name or code",
+                                     [rename](const CommandSurroundings& surroundings) {
+                                       return rename->Run(surroundings.engines, surroundings.out);
+                                     });
+  command.add_option("URL", rename->url, kUrl)->required();
+  command.add_option("CCY", rename->code, kCode)->required();
+  command.add_option("NAME", rename->new_name, "The new name");
+  command.add_option("--code", rename->new_code, "The new code")->option_text("CCY");
+}
+
+void AddRetire(CommandSet& commands, CLI::App& group) {
+  const auto retire = std::make_shared<CurrencyRetireCommand>();
+  CLI::App& command = commands.AddTo(group, "retire", "Say until when a currency is money",
+                                     [retire](const CommandSurroundings& surroundings) {
+                                       return retire->Run(surroundings.engines, surroundings.out);
+                                     });
+  command.add_option("URL", retire->url, kUrl)->required();
+  command.add_option("CCY", retire->code, kCode)->required();
+  command.add_option("LAST-DAY", retire->last_day, "The last day on which it is money, YYYY-MM-DD")
+      ->required();
+}
+
+}  // namespace
+
+void AddCurrencyCommands(CommandSet& commands) {
+  CLI::App& group = commands.AddGroup("currency", "List, add, rename and retire currencies", kManual);
+  AddList(commands, group);
+  AddAdd(commands, group);
+  AddRename(commands, group);
+  AddRetire(commands, group);
+}
+
+}  // namespace ferrowind::host

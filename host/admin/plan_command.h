@@ -1,0 +1,31 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+#include "ferrowind/platform/database/engine_registry.h"
+
+#include "host/admin/exit_status.h"
+#include "host/admin/outcome_writer.h"
+
+namespace ferrowind::host {
+
+/// `ferrowindctl plan`: where a calendar differs from what it should be.
+struct PlanCommand {
+  std::string url;
+  /// In any letter case.
+  std::string currency;
+  /// As plan_arguments.h reads it.
+  std::string year;
+  /// Every closed day, not only those that differ.
+  bool shows_all = false;
+  OutputFormat format = OutputFormat::kTable;
+
+  /// Prints the days to `out`, and to `errors` what limits the plan: a calendar that does not exist, dates
+  /// that are not known yet, what the database would refuse. `kNotDone` when anything differs. A year that
+  /// cannot be read is an `ArgumentError`; what cannot be planned or read is a `platform::Failure`.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out,
+                               std::ostream& errors) const;
+};
+
+}  // namespace ferrowind::host

@@ -1,0 +1,50 @@
+#include "host/admin/why_command.h"
+
+#include <ostream>
+#include <string_view>
+
+#include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/year_planner.h"
+
+#include "host/admin/plan_arguments.h"
+#include "host/delivery/delivered_tables.h"
+#include "host/session/procedure_session.h"
+
+namespace ferrowind::host {
+namespace {
+
+constexpr const char* kOrdinary = "ordinary working day";
+
+void WriteLine(std::string_view what, const std::string& text, std::ostream& out) {
+  constexpr std::size_t kWidth = 8;
+  out << what << std::string(kWidth - what.size(), ' ') << text << '\n';
+}
+
+std::string NowOf(const planning::YearPreparation& preparation, const almanac::ComparisonLine& line,
+                  const std::string& comment) {
+  if (!preparation.CalendarExists()) return "not prepared: there is no calendar " + preparation.Name();
+  return line.now.value_or(kOrdinary) + (comment.empty() ? "" : " (" + comment + ")");
+}
+
+}  // namespace
+
+ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
+  const platform::Date day = ReadDay(date);
+  RunWithDatabase(engines, url, [&] {
+    const planning::YearPlanner planner(DeliveredDateTables());
+    const auto preparation = planner.Prepare(planner.Currencies().Named(currency), day.Year());
+    const almanac::Comparison& comparison = preparation->Compared();
+    const almanac::ComparedDay compared = comparison.DayAt(day.DayOfYear());
+    const almanac::ComparisonLine line = comparison.LineOf(compared);
+    const almanac::RuleBook& book = comparison.Plan().Book();
+    out << preparation->Owner().code << ", " << almanac::WeekdayName(day.Weekday()) << ' '
+        << almanac::LongDate(day.Serial()) << '\n';
+    WriteLine("now", NowOf(*preparation, line, compared.now != nullptr ? compared.now->comment : ""), out);
+    WriteLine("should", line.should.value_or(kOrdinary), out);
+    WriteLine("why", line.why, out);
+    WriteLine("book", book.publisher + ": " + book.document, out);
+  });
+  return ExitStatus::kDone;
+}
+
+}  // namespace ferrowind::host

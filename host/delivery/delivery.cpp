@@ -1,0 +1,55 @@
+#include "host/delivery/delivery.h"
+
+#include <utility>
+
+#include "ferrowind/almanac/planner.h"
+#include "ferrowind/almanac/rule_directory.h"
+#include "ferrowind/planning/book_store.h"
+#include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/year_preparation.h"
+
+#include "host/delivery/delivered_books.h"
+#include "host/delivery/delivered_tables.h"
+
+namespace ferrowind::host {
+namespace {
+
+constexpr int kYears = 2;
+
+/// Makes the calendar of the year. What the plan lacks is added to `unknown`.
+void MakeCalendar(const planning::Currency& currency, int year, const almanac::Planner& planner,
+                  std::vector<std::string>& unknown) {
+  // The calendar before has brought new rules.
+  const almanac::RuleDirectory rules(planning::LoadRules().rules);
+  const planning::YearPreparation preparation(currency, year, planner, rules);
+  preparation.Apply(almanac::ExceptionHandling::kOverwrite);
+  for (const std::string& sentence : preparation.Plan().Incomplete()) {
+    unknown.push_back(preparation.Name() + ": " + sentence);
+  }
+}
+
+}  // namespace
+
+Delivery Deliver(int first_year, const DeliveryObserver& observe) {
+  const auto currencies = planning::CurrencyList::Load();
+  std::vector<almanac::NamedBook> books = DeliveredBooks();
+  for (const auto& [code, book] : books) planning::StoreBook(currencies.Named(code).id, code, "", book);
+
+  Delivery delivery;
+  delivery.first_year = first_year;
+  delivery.last_year = first_year + kYears - 1;
+  std::size_t done = 0;
+  const std::size_t total = books.size() * kYears;
+  for (auto& [code, book] : books) {
+    const almanac::Planner planner(std::move(book), DeliveredDateTables());
+    for (int year = delivery.first_year; year <= delivery.last_year; ++year) {
+      if (observe) observe(done++, total);
+      MakeCalendar(currencies.Named(code), year, planner, delivery.unknown);
+    }
+    delivery.currencies.push_back(code);
+  }
+  return delivery;
+}
+
+}  // namespace ferrowind::host

@@ -1,0 +1,15 @@
+#include "host/session/system_clock.h"
+
+#include <ctime>
+
+namespace ferrowind::host {
+
+platform::Date SystemClock::Today() const {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  constexpr int kFirstYearOfTm = 1900;
+  return {local.tm_year + kFirstYearOfTm, local.tm_mon + 1, local.tm_mday};
+}
+
+}  // namespace ferrowind::host

@@ -1,0 +1,271 @@
+// Books, plans and reviews on a database with the delivered books of five currencies.
+
+#include "tests/contract/planning/planning_contract.h"
+
+#include <map>
+#include <memory>
+#include <set>
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/almanac/book_text.h"
+#include "ferrowind/planning/book_store.h"
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/database_review.h"
+#include "ferrowind/planning/year_planner.h"
+#include "ferrowind/platform/database/engine_registry.h"
+#include "ferrowind/platform/values/conversion.h"
+
+#include "database/seed/delivered_books.h"
+#include "host/delivery/delivered_tables.h"
+#include "host/session/procedure_session.h"
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/support/failure_of.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using almanac::ExceptionHandling;
+using almanac::Finding;
+using almanac::FindingLevel;
+using almanac::FindingSubject;
+using planning::CallDatabase;
+using planning::Currency;
+using planning::YearPlanner;
+using platform::Date;
+using platform::Value;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+const std::vector<std::string> kCurrencies = {"EUR", "USD", "GBP", "JPY", "CHF"};
+constexpr int kYear = 2028;
+/// In a month in which the year after the next must be prepared.
+const Date kToday(2026, 11, 22);
+
+/// A day of a currency.
+using CurrencyDay = std::pair<std::string, Date>;
+
+almanac::RuleBook DeliveredBook(const std::string& currency) {
+  for (const embedded::DeliveredText& book : embedded::DeliveredBooks()) {
+    if (book.name == currency) return almanac::ReadBook(book.text);
+  }
+  throw std::logic_error("No book of " + currency + " is delivered");
+}
+
+SourceValues Parameters(std::initializer_list<std::pair<const char*, Value>> values) {
+  SourceValues parameters;
+  for (const auto& [name, value] : values) parameters.Add(name, value);
+  return parameters;
+}
+
+/// A database with the books of the five currencies.
+class PlannedDatabase {
+ public:
+  explicit PlannedDatabase(const DatabaseKind<CalendarDatabaseUnderTest>& kind) : database_(kind.make()) {
+    const std::string url = database_->ConnectionString();
+    // The engine is the database's own.
+    const std::shared_ptr<platform::Engine> engine(std::shared_ptr<void>(), &database_->Engine());
+    engines_.Register(url.substr(0, url.find(':')), engine);
+    Run([&] {
+      const auto currencies = planning::CurrencyList::Load();
+      for (const std::string& code : kCurrencies) {
+        planning::StoreBook(currencies.Named(code).id, code, "", DeliveredBook(code));
+      }
+    });
+  }
+
+  void Run(const std::function<void()>& work) {
+    host::RunWithDatabase(engines_, database_->ConnectionString(), work);
+  }
+
+  /// How many calendars had to be changed.
+  int ApplyPlans(int first_year, int last_year) {
+    int changed = 0;
+    Run([&] {
+      for (const std::string& code : kCurrencies) {
+        for (int year = first_year; year <= last_year; ++year) changed += ApplyPlan(code, year) ? 1 : 0;
+      }
+    });
+    return changed;
+  }
+
+  planning::DatabaseReview Review() {
+    planning::DatabaseReview review;
+    Run([&] { review = planning::ReviewDatabase(host::DeliveredDateTables(), kToday, {}); });
+    return review;
+  }
+
+  /// The rows of `CldGetMain` for the five calendars of `kYear`.
+  std::map<std::string, std::vector<Row>> Calendars() {
+    std::map<std::string, std::vector<Row>> calendars;
+    Run([&] {
+      const auto currencies = planning::CurrencyList::Load();
+      for (const std::string& code : kCurrencies) {
+        const auto answer = CallDatabase(
+            "Reading", "CldGetMain", Parameters({{"ID1", currencies.Named(code).id}, {"Year1", kYear}}), 1);
+        calendars[code] = RowsOf(*answer.record_sets.front());
+      }
+    });
+    return calendars;
+  }
+
+  /// The names of the rules that days of `kYear` have.
+  std::map<CurrencyDay, Value> Names() {
+    std::map<CurrencyDay, Value> names;
+    for (const auto& [code, rows] : Calendars()) {
+      for (const Row& row : rows) names[{code, platform::ToDate(row[0])}] = row[2];
+    }
+    return names;
+  }
+
+  /// What following no plan but selecting all rules and assigning them does to the five calendars.
+  void AssignAllRulesToAllCalendars() {
+    Run([&] {
+      const auto currencies = planning::CurrencyList::Load();
+      const auto rules = CallDatabase("Reading", "CldAllInfo", {}, 3).record_sets[2];
+      for (const std::string& code : kCurrencies) {
+        const std::int32_t id = currencies.Named(code).id;
+        (void)CallDatabase("Creating", "CldIUMain", Parameters({{"ID1", id}, {"Year1", kYear}}));
+        for (rules->MoveFirst(); !rules->Eof(); rules->MoveNext()) Assign(id, *rules);
+      }
+    });
+  }
+
+  /// The newest entries, the newest first.
+  std::vector<std::int32_t> NewestEntries(std::int32_t count) {
+    std::vector<std::int32_t> entries;
+    Run([&] {
+      const auto rows =
+          CallDatabase("Reading", "CldGetHistory", Parameters({{"Count", count}}), 1).record_sets[0];
+      for (rows->MoveFirst(); !rows->Eof(); rows->MoveNext()) {
+        entries.push_back(platform::ToInt32((*rows)["EntryID"]));
+      }
+    });
+    return entries;
+  }
+
+  void Undo(std::int32_t entry) {
+    Run([&] { (void)CallDatabase("Undoing", "CldUndo", Parameters({{"EntryID", entry}})); });
+  }
+
+  static bool ApplyPlan(const std::string& code, int year) {
+    const YearPlanner planner(host::DeliveredDateTables());
+    const auto preparation = planner.Prepare(planner.Currencies().Named(code), year);
+    if (!preparation->Changes(ExceptionHandling::kOverwrite)) return false;
+    preparation->Apply(ExceptionHandling::kOverwrite);
+    return true;
+  }
+
+ private:
+  /// Gives the days of the current rule that rule, as an operator does who selects it: a dated rule the day
+  /// and month that it has.
+  static void Assign(std::int32_t currency, const platform::RecordSet& rule) {
+    const std::int32_t type = platform::ToInt32(rule["TID1"]);
+    if (type == 1) return;
+    SourceValues parameters =
+        Parameters({{"ID1", currency}, {"Year1", kYear}, {"TID1", type}, {"ID2", rule["ID2"]}});
+    if (!rule["D1"].IsEmpty()) {
+      const Date own = platform::ToDate(rule["D1"]);
+      const Date day = own.AddYears(kYear - own.Year());
+      parameters.Add("Day1", day.DayOfYear());
+      parameters.Add("ODate", day);
+    }
+    (void)CallDatabase("Assigning", "CldIUMain", parameters);
+  }
+
+  std::unique_ptr<CalendarDatabaseUnderTest> database_;
+  platform::EngineRegistry engines_;
+};
+
+TEST_P(PlanningContract, BooksComeBackAsTheyWereStored) {
+  PlannedDatabase database(GetParam());
+  database.Run([] {
+    const auto currencies = planning::CurrencyList::Load();
+    for (const std::string& code : kCurrencies) {
+      const auto stored = planning::LoadBook(currencies.Named(code).id, code, host::DeliveredDateTables());
+      ASSERT_TRUE(stored);
+      EXPECT_THAT(stored->faults, IsEmpty());
+      EXPECT_EQ(stored->book, DeliveredBook(code));
+    }
+  });
+}
+
+TEST_P(PlanningContract, ABookThatWasChangedMeanwhileIsNotOverwritten) {
+  PlannedDatabase database(GetParam());
+  database.Run([] {
+    const std::int32_t euro = planning::CurrencyList::Load().Named("EUR").id;
+    const auto first = planning::LoadBook(euro, "EUR", host::DeliveredDateTables());
+    planning::StoreBook(euro, "EUR", first->fingerprint, DeliveredBook("USD"));
+    EXPECT_THAT(
+        testing::FailureOf([&] { planning::RemoveBook(euro, "EUR", first->fingerprint); }).Description(),
+        HasSubstr("it was changed meanwhile"));
+    const auto second = planning::LoadBook(euro, "EUR", host::DeliveredDateTables());
+    EXPECT_EQ(second->book, DeliveredBook("USD"));
+    planning::RemoveBook(euro, "EUR", second->fingerprint);
+    EXPECT_FALSE(planning::LoadBook(euro, "EUR", host::DeliveredDateTables()));
+  });
+}
+
+TEST_P(PlanningContract, AppliedCalendarsAreAsPlannedAndTheReviewSaysSo) {
+  PlannedDatabase database(GetParam());
+  EXPECT_EQ(database.Review().Worst(), FindingLevel::kError) << "no calendar of the running year";
+  EXPECT_EQ(database.ApplyPlans(2026, 2028), 15);
+  EXPECT_EQ(database.ApplyPlans(2026, 2028), 0);
+  const auto review = database.Review();
+  EXPECT_THAT(review.findings, IsEmpty());
+  EXPECT_EQ(review.calendars, 15U);
+  EXPECT_EQ(review.currencies, 5U);
+}
+
+TEST_P(PlanningContract, APlanIsRefusedWhenTheCalendarHasChangedSinceItWasCompared) {
+  PlannedDatabase database(GetParam());
+  database.Run([] {
+    const YearPlanner planner(host::DeliveredDateTables());
+    const auto stale = planner.Prepare(planner.Currencies().Named("EUR"), kYear);
+    ASSERT_TRUE(PlannedDatabase::ApplyPlan("EUR", kYear));
+    EXPECT_THAT(testing::FailureOf([&] { stale->Apply(ExceptionHandling::kOverwrite); }).Description(),
+                HasSubstr("Applying the plan of EUR 2028: it was changed meanwhile"));
+  });
+}
+
+TEST_P(PlanningContract, RepairsWithOneCallACalendarEachToWhichAllRulesWereAssignedAndUndoBringsTheMessBack) {
+  PlannedDatabase reference(GetParam());
+  ASSERT_EQ(reference.ApplyPlans(2026, 2028), 15);
+  const auto right = reference.Names();
+
+  PlannedDatabase database(GetParam());
+  ASSERT_EQ(database.ApplyPlans(2026, 2027), 10);
+  database.AssignAllRulesToAllCalendars();
+  const auto mess = database.Calendars();
+  std::set<CurrencyDay> wrong;
+  for (const auto& [day, name] : database.Names()) {
+    if (right.at(day) != name) wrong.insert(day);
+  }
+  // As many as nobody would find by looking.
+  ASSERT_GT(wrong.size(), 100U);
+
+  std::set<CurrencyDay> found;
+  for (const Finding& finding : database.Review().findings) {
+    if (finding.level == FindingLevel::kNote) continue;
+    EXPECT_EQ(finding.subject, FindingSubject::kDiffersFromPlan) << finding.sentence;
+    ASSERT_TRUE(finding.day) << finding.sentence;
+    EXPECT_THAT(finding.sentence, HasSubstr(std::to_string(finding.day->Day())));
+    EXPECT_TRUE(found.emplace(finding.currency, *finding.day).second) << "told twice: " << finding.sentence;
+  }
+  EXPECT_EQ(found, wrong);
+
+  const std::int32_t before = database.NewestEntries(1).front();
+  EXPECT_EQ(database.ApplyPlans(kYear, kYear), 5);
+  EXPECT_EQ(database.Names(), right);
+  EXPECT_THAT(database.Review().findings, IsEmpty());
+  const auto entries = database.NewestEntries(6);
+  ASSERT_THAT(entries, SizeIs(6));
+  EXPECT_EQ(entries.back(), before) << "one call a calendar";
+
+  for (std::size_t i = 0; i + 1 < entries.size(); ++i) database.Undo(entries[i]);
+  EXPECT_EQ(database.Calendars(), mess);
+}
+
+}  // namespace
+}  // namespace ferrowind::contract

@@ -1,0 +1,145 @@
+"""ferrowindctl plan and why: what a calendar should be, where it differs, and why."""
+
+import csv
+import io
+import json
+import unittest
+
+import small_book
+from ferrowindctl import DONE, NOT_DONE
+from small_book import EURO
+
+FIELDS = ["date", "weekday", "now", "should", "action", "why"]
+
+
+class Plan(small_book.WithSmallBooks):
+
+    def plan(self, status, *options, currency="EUR", year=2028):
+        output, errors = self.ctl(status, "plan", self.url(), currency, year, "--format", "json", *options)
+        lines = json.loads(output)
+        for line in lines:
+            self.assertEqual(list(line), FIELDS)
+        return lines, errors
+
+    def test_takes_a_calendar_that_does_not_exist_for_an_empty_one(self):
+        lines, errors = self.plan(NOT_DONE)
+        self.assertEqual(errors, "EUR 2028 does not exist yet, and counts as empty.\n")
+        self.assertEqual({line["action"] for line in lines}, {"add"})
+        self.assertEqual({line["now"] for line in lines}, {None})
+        self.assertEqual(len(lines), 53 + 53 + 2)
+        self.assertIn({"date": "2028-04-14", "weekday": "Friday", "now": None, "should": "Good Friday", "action": "add",
+                       "why": "Easter Sunday 16 April 2028, two days before"}, lines)
+        self.assertEqual(lines, sorted(lines, key=lambda line: line["date"]))
+
+    def test_finds_nothing_in_a_calendar_as_planned(self):
+        self.apply("EUR", 2028)
+        self.assertEqual(self.plan(DONE), ([], ""))
+        self.assertEqual(self.ctl(DONE, "plan", self.url(), "EUR", 2028), ("EUR 2028 is as planned.\n", ""))
+
+    def test_shows_every_closed_day_if_asked(self):
+        self.apply("EUR", 2028)
+        lines, _ = self.plan(DONE, "--all")
+        self.assertEqual(len(lines), 53 + 53 + 2)
+        self.assertEqual({line["action"] for line in lines}, {"keep"})
+        for line in lines:
+            self.assertEqual(line["now"], line["should"])
+
+    def test_says_what_is_to_become_of_each_day_that_differs(self):
+        self.apply("EUR", 2028)
+        self.assign(EURO, "2028-04-13", "Good Friday")
+        self.assign(EURO, "2028-04-14", "Christmas Day")
+        self.assign(EURO, "2028-04-15", "Christmas Day")
+        self.except_day(EURO, "2028-12-25", "Stock-taking")
+        lines, errors = self.plan(NOT_DONE)
+        self.assertEqual([(line["date"], line["now"], line["should"], line["action"]) for line in lines],
+                         [("2028-04-13", "Good Friday", None, "remove"), ("2028-04-14", "Christmas Day", "Good Friday", "replace"),
+                          ("2028-04-15", "Christmas Day", "Saturday", "replace"),
+                          ("2028-12-25", "Working day by exception", "Christmas Day", "exception")])
+        self.assertEqual(errors, "")
+        for line in lines:
+            self.assertTrue(line["why"])
+
+    def test_prints_the_same_for_people_and_for_spreadsheets(self):
+        self.apply("EUR", 2028)
+        self.assign(EURO, "2028-04-14", "Christmas Day")
+        table, _ = self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028)
+        lines = table.splitlines()
+        self.assertEqual(lines[0].split(), FIELDS)
+        self.assertEqual(lines[2], "2028-04-14  Friday   Christmas Day  Good Friday  replace  "
+                                   "Easter Sunday 16 April 2028, two days before")
+        self.assign(EURO, "2028-04-13", "Good Friday")
+        self.assertIn("2028-04-13  Thursday  Good Friday    working day  remove   ", self.ctl(NOT_DONE, "plan", self.url(),
+                                                                                             "EUR", 2028)[0])
+        output, _ = self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028, "--format", "csv")
+        rows = list(csv.reader(io.StringIO(output, newline="")))
+        self.assertEqual(rows[1][:5], ["2028-04-13", "Thursday", "Good Friday", "", "remove"])
+        self.assertEqual([rows[0], rows[2]],
+                         [FIELDS, ["2028-04-14", "Friday", "Christmas Day", "Good Friday", "replace",
+                                   "Easter Sunday 16 April 2028, two days before"]])
+
+    def test_tells_what_the_database_would_refuse(self):
+        self.apply("EUR", 2028)
+        self.call("CldIUCelebrate", f"ID2={self.rule('Good Friday')}", "Del=2")
+        self.assertEqual(self.plan(DONE)[1], "")
+        _, errors = self.plan(NOT_DONE, year=2029)
+        self.assertEqual(errors, "EUR 2029 does not exist yet, and counts as empty.\n"
+                                 "EUR 2029 cannot be applied: The rule \"Good Friday\" is removed; restore it before.\n")
+
+    def test_tells_which_dates_the_plan_lacks(self):
+        feast = {"Name1": "Feast", "TID1": 4, "Expression": "table chinese-new-year"}
+        self.store_book(EURO, [*small_book.WEEKEND, feast])
+        lines, errors = self.plan(NOT_DONE, year=2199)
+        self.assertEqual({line["should"] for line in lines}, {"Saturday", "Sunday"})
+        self.assertIn("EUR 2199 cannot be planned in full. ", errors)
+        self.assertIn("Feast", errors)
+
+    def test_refuses_what_cannot_be_planned(self):
+        for arguments, reason in [(["SEK", 2028], "SEK has no book"), (["EUX", 2028], "no currency EUX"),
+                                  (["EUR", "28"], "\"28\" is no year"), (["EUR", "1899"], "1899"), (["EUR", "2200"], "2200")]:
+            with self.subTest(arguments):
+                output, errors = self.ctl(NOT_DONE, "plan", self.url(), *arguments)
+                self.assertEqual(output, "")
+                self.assertIn(reason, errors)
+        self.assertIn("EUR 2028", self.ctl(NOT_DONE, "plan", self.url(), "eur", 2028)[1])
+
+    def test_refuses_a_book_with_faults(self):
+        self.store_book(EURO, [{"Name1": "Feast", "TID1": 4, "Expression": "12-32"}])
+        output, errors = self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028)
+        self.assertEqual(output, "")
+        self.assertIn("The book of EUR cannot be used: The rule 1, \"Feast\"", errors)
+        self.assertIn("12-32", errors)
+
+
+class Why(small_book.WithSmallBooks):
+
+    def test_says_what_a_day_is_what_it_should_be_and_why(self):
+        self.apply("EUR", 2028)
+        output, errors = self.ctl(DONE, "why", self.url(), "eur", "2028-04-14")
+        self.assertEqual(errors, "")
+        self.assertEqual(output, "EUR, Friday 14 April 2028\n"
+                                 "now     Good Friday\n"
+                                 "should  Good Friday\n"
+                                 "why     Easter Sunday 16 April 2028, two days before\n"
+                                 "book    Small Bank: Closing days\n")
+
+    def test_tells_a_day_that_differs_and_the_reason_of_an_exception(self):
+        self.apply("EUR", 2028)
+        self.except_day(EURO, "2028-12-25", "Stock-taking")
+        output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-12-25")
+        self.assertIn("\nnow     Working day by exception (Stock-taking)\nshould  Christmas Day\n", output)
+
+    def test_tells_an_ordinary_working_day(self):
+        self.apply("EUR", 2028)
+        output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-04-13")
+        self.assertIn("\nnow     ordinary working day\nshould  ordinary working day\nwhy     ", output)
+
+    def test_never_takes_a_day_of_a_year_that_is_not_prepared_for_open(self):
+        output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-04-13")
+        self.assertIn("\nnow     not prepared: there is no calendar EUR 2028\n", output)
+
+    def test_refuses_what_is_no_date(self):
+        self.assertIn("\"2028-02-30\" is no date", self.ctl(NOT_DONE, "why", self.url(), "EUR", "2028-02-30")[1])
+
+
+if __name__ == "__main__":
+    unittest.main()
