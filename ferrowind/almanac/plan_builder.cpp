@@ -210,9 +210,20 @@ void PlanBuilder::WriteUnknown(YearPlan& plan) const {
   for (const PreparedBook::TableRule& rule : book_.OfTables()) {
     const auto position = static_cast<std::uint32_t>(rule.position);
     if (!book_.ExpressionOf(position).years.Include(years_.Middle())) continue;
-    if (book_.Dated()[rule.rule].base.Knows(years_.Middle())) continue;
+    if (book_.Dated()[rule.rule].base.Knows(years_.Middle()) || IsAnnounced(position)) continue;
     plan.unknown_.push_back({rule.position, rule.table, rule.first_year, rule.last_year});
   }
+}
+
+bool PlanBuilder::IsAnnounced(std::uint32_t rule) const {
+  const std::vector<BookRule>& rules = book_.Book()->rules;
+  return std::any_of(book_.Dated().begin(), book_.Dated().end(), [&](const PreparedBook::Rule& other) {
+    if (other.position == rule || rules[other.position].name != rules[rule].name) return false;
+    // Of a table that does not reach the year, an offset can bring a single date into it.
+    return other.base.Knows(years_.Middle()) &&
+           std::any_of(bases_.begin(), bases_.end(),
+                       [&](const Base& base) { return base.rule == other.position && IsInYear(base.day); });
+  });
 }
 
 PlannedDay PlanBuilder::PlannedAs(const Claim& claim) const {

@@ -68,6 +68,8 @@ class PlanBuilder {
   void WriteDays(YearPlan& plan);
   void WriteDay(YearPlan& plan, std::int32_t day, const Claim* first_claim, const Claim* after_claims);
   void WriteUnknown(YearPlan& plan) const;
+  /// Whether another rule of that name has a base date in the year.
+  [[nodiscard]] bool IsAnnounced(std::uint32_t rule) const;
   [[nodiscard]] bool IsInYear(std::int32_t day) const {
     return day >= first_of_year_ && day <= last_of_year_;
   }

@@ -35,7 +35,8 @@ struct PlannedDay {
   std::int32_t base = 0;
 };
 
-/// A rule whose dates the plan lacks, because its table does not reach the year.
+/// A rule whose dates the plan lacks, because its table does not reach the year and no other rule of its name
+/// has a day in it.
 struct UnknownDates {
   /// The rule's position in the book's list, from 0 on.
   std::size_t rule = 0;

@@ -343,6 +343,20 @@ TEST(Planner, IsCompleteWhereTheTableReachesOrTheRuleDoesNotHold) {
   EXPECT_THAT(PlanOf("point | A | table feast from 2025\n", 2024).Unknown(), IsEmpty());
 }
 
+TEST(Planner, KnowsTheDateOfATableThatAnotherRuleOfTheNameHas) {
+  const std::string rules = "point | A | table feast\npoint | A | 2028-05-09\n";
+  EXPECT_THAT(Days(rules, 2028), ElementsAre("05-09 4 A"));
+  EXPECT_THAT(PlanOf(rules, 2028).Unknown(), IsEmpty());
+  EXPECT_EQ(PlanOf(rules, 2029).Unknown().size(), 1U);
+  EXPECT_EQ(PlanOf("point | A | table feast\npoint | B | 2028-05-09\n", 2028).Unknown().size(), 1U);
+}
+
+TEST(Planner, TakesNoDateForAnnouncedThatATableGivesToAYearThatItDoesNotReach) {
+  // 1 January 2027 and 365 days is in 2028, and nobody knows what else is.
+  EXPECT_EQ(PlanOf("point | A | table feast\npoint | A | table feast+365\n", 2028).Unknown().size(), 2U);
+  EXPECT_EQ(PlanOf("point | A | table fast\npoint | A | table feast\n", 2028).Unknown().size(), 2U);
+}
+
 TEST(Planner, MissesDatesThatComeOutOfANeighbouringYear) {
   // 31 December 2025 and a day is in 2026; what 2024 would give 2025 is not known.
   EXPECT_THAT(Days("point | A | table feast+1\n", 2026), ElementsAre("01-01 4 A", "05-07 4 A"));
