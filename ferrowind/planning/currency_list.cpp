@@ -8,6 +8,11 @@
 
 namespace ferrowind::planning {
 
+std::string EndOfMoney(const Currency& currency) {
+  if (!currency.is_money || !currency.last_day) return currency.code + " is no money";
+  return currency.code + " is money until " + currency.last_day->ToIso();
+}
+
 CurrencyList CurrencyList::Load() {
   const CallAnswer answer = CallDatabase("Reading the currencies", "CldGetCurrencies", {}, 1);
   platform::RecordSet& rows = *answer.record_sets.front();

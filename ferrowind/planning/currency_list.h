@@ -26,6 +26,10 @@ struct Currency {
   [[nodiscard]] bool IsLiveIn(int year) const { return is_money && (!last_day || last_day->Year() >= year); }
 };
 
+/// Why there are no calendars of a currency, in words for operators without a full stop: "SEK is money until
+/// 2028-12-31". Precondition: it is not live in some year.
+[[nodiscard]] std::string EndOfMoney(const Currency& currency);
+
 class CurrencyList {
  public:
   /// Reads those of the calling thread's database. Fails as database_call.h says.

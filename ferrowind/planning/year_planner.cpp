@@ -49,6 +49,10 @@ std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, 
         platform::failure_number::kInvalidArgument,
         "The book of " + currency.code + " cannot be used: " + Joined(found->second.faults));
   }
+  if (!currency.IsLiveIn(year)) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            EndOfMoney(currency) + ", so it has no calendar of " + std::to_string(year));
+  }
   return std::make_unique<YearPreparation>(currency, year, *found->second.planner, rules_);
 }
 

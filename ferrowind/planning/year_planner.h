@@ -28,7 +28,8 @@ class YearPlanner {
   [[nodiscard]] bool HasBook(const Currency& currency) const { return books_.contains(currency.id); }
 
   /// The calendar as it is now beside its plan; must not outlive this. A currency without a book, or with one
-  /// that has faults, is a failure that says so.
+  /// that has faults, is a failure that says so, and so are a year after its last day and one that cannot be
+  /// planned.
   [[nodiscard]] std::unique_ptr<YearPreparation> Prepare(const Currency& currency, int year) const;
 
  private:

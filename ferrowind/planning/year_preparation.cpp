@@ -19,8 +19,8 @@ using almanac::ExceptionHandling;
 YearPreparation::YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                                  const almanac::RuleDirectory& rules)
     : currency_(currency),
-      calendar_(LoadCalendar(currency, year)),
       plan_(planner.Plan(year)),
+      calendar_(LoadCalendar(currency, year)),
       matches_(planner.Book(), rules),
       comparison_(plan_, calendar_.content, matches_) {}
 

@@ -18,8 +18,8 @@ namespace ferrowind::planning {
 /// made.
 class YearPreparation {
  public:
-  /// Reads the calendar of the calling thread's database (fails as database_call.h says) and plans the year
-  /// (fails as `Planner::Plan` does). `rules` are the database's and must outlive this.
+  /// Plans the year (fails as `Planner::Plan` does) and reads the calendar of the calling thread's database
+  /// (fails as database_call.h says). `rules` are the database's and must outlive this.
   YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                   const almanac::RuleDirectory& rules);
   YearPreparation(const YearPreparation&) = delete;
@@ -47,8 +47,8 @@ class YearPreparation {
 
  private:
   Currency currency_;
-  StoredCalendar calendar_;
   almanac::YearPlan plan_;
+  StoredCalendar calendar_;
   almanac::RuleMatches matches_;
   almanac::Comparison comparison_;
 };

@@ -9,12 +9,14 @@
 
 #include <unistd.h>
 
+#include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/admin/comparison_rows.h"
 #include "host/admin/counted.h"
+#include "host/admin/interruption.h"
 #include "host/admin/outcome_writer.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
@@ -30,9 +32,9 @@ using planning::Currency;
 using planning::YearPreparation;
 using Preparations = std::vector<std::unique_ptr<YearPreparation>>;
 
-/// Everybody knows the weekends of a new calendar.
-bool IsNewWeekend(const almanac::YearPlan& plan, const ComparedDay& day) {
-  return day.now == nullptr && plan.KindOf(*day.should) == almanac::RuleKind::kWeekday;
+bool LosesReason(const ComparedDay& day, ExceptionHandling exceptions) {
+  return day.action == almanac::PlanAction::kException && day.Changes(exceptions) &&
+         !day.now->comment.empty();
 }
 
 void Show(const YearPreparation& preparation, ExceptionHandling exceptions, std::ostream& out) {
@@ -46,14 +48,10 @@ void Show(const YearPreparation& preparation, ExceptionHandling exceptions, std:
   }
   out << preparation.Name() << (preparation.CalendarExists() ? ", " : ", a new calendar, ")
       << Counted(changes, "day", "days") << ":\n";
-  if (changes > weekends) {
-    const auto rows = ComparisonRows(comparison, OutputFormat::kTable, [&](const ComparedDay& day) {
-      return day.Changes(exceptions) && !IsNewWeekend(comparison.Plan(), day);
-    });
-    WriteList(*rows, OutputFormat::kTable, out);
-  }
-  if (weekends != 0)
-    out << (changes > weekends ? "and " : "") << Counted(weekends, "day", "days") << " of weekends\n";
+  const auto rows = ComparisonRows(comparison, OutputFormat::kTable, [&](const ComparedDay& day) {
+    return day.Changes(exceptions) && !IsNewWeekend(comparison.Plan(), day);
+  });
+  WriteWithWeekends(*rows, weekends, out);
   out << '\n';
 }
 
@@ -76,19 +74,25 @@ class Application {
       return ExitStatus::kNotDone;
     }
     if (changing.empty()) {
-      out_ << Counted(looked_at_, "calendar is", "calendars are") << " as planned.\n";
+      out_ << Counted(looked_at_, "calendar is", "calendars are") << " as planned" << ButForExceptions(kept_)
+           << ".\n";
       return ExitStatus::kDone;
     }
+    if (const std::size_t lost = ReasonsLostBy(changing); lost != 0) {
+      out_ << CountedExceptions(lost) << (lost == 1 ? " that has" : " that have")
+           << " a reason will be closed; --keep-exceptions leaves them open.\n";
+    }
     if (!IsWanted(changing.size())) return ExitStatus::kNotDone;
-    for (const auto& preparation : changing) Apply(*preparation);
-    return ExitStatus::kDone;
+    return ApplyAll(changing);
   }
 
  private:
+  [[nodiscard]] bool TakesAll() const {
+    return platform::CompareIgnoringCase(command_.currency, ApplyCommand::kAllCurrencies) == 0;
+  }
+
   [[nodiscard]] std::vector<const Currency*> Chosen() const {
-    if (platform::CompareIgnoringCase(command_.currency, ApplyCommand::kAllCurrencies) != 0) {
-      return {&planner_.Currencies().Named(command_.currency)};
-    }
+    if (!TakesAll()) return {&planner_.Currencies().Named(command_.currency)};
     std::vector<const Currency*> all = planner_.WithBooks();
     if (all.empty()) {
       throw platform::Failure(platform::failure_number::kInvalidArgument, "The database has no books");
@@ -96,15 +100,27 @@ class Application {
     return all;
   }
 
+  /// The last of `years` in which the currency is money; tells which of them are left out.
+  [[nodiscard]] int LastLiveYear(const Currency& currency, const YearRange& years) {
+    int last = years.last;
+    while (last >= years.first && !currency.IsLiveIn(last)) --last;
+    if (last == years.last) return last;
+    const int first_left_out = std::max(years.first, last + 1);
+    errors_ << currency.code << ' ' << first_left_out;
+    if (first_left_out != years.last) errors_ << ".." << years.last;
+    errors_ << " is left out: " << planning::EndOfMoney(currency) << ".\n";
+    return last;
+  }
+
   /// Those that would change, all of which are shown.
   Preparations Prepare(const YearRange& years) {
     Preparations changing;
-    const std::vector<const Currency*> currencies = Chosen();
-    for (const Currency* const currency : currencies) {
-      for (int year = years.first; year <= years.last; ++year) {
-        if (currencies.size() > 1 && !currency->IsLiveIn(year)) continue;
+    for (const Currency* const currency : Chosen()) {
+      const int last = TakesAll() ? LastLiveYear(*currency, years) : years.last;
+      for (int year = years.first; year <= last; ++year) {
         auto preparation = planner_.Prepare(*currency, year);
         ++looked_at_;
+        kept_ += KeptExceptions(preparation->Compared(), exceptions_);
         if (preparation->Changes(exceptions_)) Show(*preparation, exceptions_, out_);
         WriteRemarks(*preparation, exceptions_, errors_);
         is_blocked_ |= !preparation->Compared().Obstacles(exceptions_).empty();
@@ -128,11 +144,56 @@ class Application {
     return answer.value_or(false);
   }
 
-  void Apply(const YearPreparation& preparation) {
-    preparation.Apply(exceptions_);
-    out_ << preparation.Name() << (preparation.CalendarExists() ? " is as planned now" : " is made");
+  [[nodiscard]] std::size_t ReasonsLostBy(const Preparations& changing) const {
+    std::size_t lost = 0;
+    for (const auto& preparation : changing) {
+      const auto& days = preparation->Compared().Days();
+      lost += static_cast<std::size_t>(std::count_if(
+          days.begin(), days.end(), [&](const ComparedDay& day) { return LosesReason(day, exceptions_); }));
+    }
+    return lost;
+  }
+
+  /// A signal stops it behind the call that is running.
+  ExitStatus ApplyAll(const Preparations& changing) {
+    const Interruption interruption;
+    std::size_t made = 0;
+    ExitStatus status = ExitStatus::kDone;
+    for (const auto& preparation : changing) {
+      if (Interruption::WasAsked()) {
+        errors_ << "ferrowindctl: Stopped; " << made << " of "
+                << Counted(changing.size(), "calendar is", "calendars are") << " made.\n";
+        return ExitStatus::kNotDone;
+      }
+      if (Apply(*preparation)) {
+        ++made;
+      } else {
+        status = ExitStatus::kNotDone;
+      }
+    }
+    return status;
+  }
+
+  /// Tells at once, as the next calendar may fail. False when somebody else has changed the calendar.
+  [[nodiscard]] bool Apply(const YearPreparation& preparation) {
+    try {
+      preparation.Apply(exceptions_);
+    } catch (const planning::Refusal& refusal) {
+      if (refusal.ReturnValue() != planning::return_value::kContentIsAnother) throw;
+      errors_ << "ferrowindctl: " << preparation.Name()
+              << " was changed meanwhile; nothing was changed in it, run it again" << std::endl;
+      return false;
+    }
+    const std::size_t kept = KeptExceptions(preparation.Compared(), exceptions_);
+    out_ << preparation.Name();
+    if (preparation.CalendarExists()) {
+      out_ << " is as planned now" << ButForExceptions(kept);
+    } else {
+      out_ << " is made";
+    }
     if (const auto entry = preparation.NewestEntry()) out_ << "; \"undo\" takes back the entry " << *entry;
-    out_ << ".\n";
+    out_ << '.' << std::endl;
+    return true;
   }
 
   const ApplyCommand& command_;
@@ -142,6 +203,8 @@ class Application {
   ExceptionHandling exceptions_;
   planning::YearPlanner planner_;
   std::size_t looked_at_ = 0;
+  /// Working days by exception that stay where the plan has closed them.
+  std::size_t kept_ = 0;
   bool is_blocked_ = false;
 };
 

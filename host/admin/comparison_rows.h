@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <iosfwd>
 #include <memory>
 
 #include "ferrowind/almanac/comparison.h"
@@ -10,10 +12,16 @@
 
 namespace ferrowind::host {
 
+/// A weekend day of a new calendar, which everybody knows.
+[[nodiscard]] bool IsNewWeekend(const almanac::YearPlan& plan, const almanac::ComparedDay& day);
+
 /// Rows `date` (a date), `weekday`, `now`, `should` (empty for an ordinary working day), `action`, `why` of
-/// those days of the comparison that `is_shown` tells.
+/// those days of the comparison that `is_shown` tells. `why` has the reason of an exception, too.
 [[nodiscard]] std::shared_ptr<platform::RecordSet> ComparisonRows(
     const almanac::Comparison& comparison, OutputFormat format,
     const std::function<bool(const almanac::ComparedDay& day)>& is_shown);
+
+/// For people: the rows and the number of weekend days that are left out of them; nothing of what is none.
+void WriteWithWeekends(const platform::RecordSet& rows, std::size_t weekends, std::ostream& out);
 
 }  // namespace ferrowind::host

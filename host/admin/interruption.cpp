@@ -41,8 +41,10 @@ Interruption::~Interruption() {
   }
 }
 
+bool Interruption::WasAsked() { return received != 0; }
+
 void Interruption::ThrowIfAsked() {
-  if (received != 0) throw Interrupted(received);
+  if (WasAsked()) throw Interrupted(received);
 }
 
 void EndBySignal(int signal) {

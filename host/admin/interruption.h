@@ -26,6 +26,8 @@ class Interruption {
   Interruption& operator=(const Interruption&) = delete;
   ~Interruption();
 
+  /// Whether there was a signal.
+  [[nodiscard]] static bool WasAsked();
   /// Throws `Interrupted` when there was a signal.
   static void ThrowIfAsked();
 };

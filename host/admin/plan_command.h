@@ -19,6 +19,8 @@ struct PlanCommand {
   std::string year;
   /// Every closed day, not only those that differ.
   bool shows_all = false;
+  /// Exceptions count as planned, as `ApplyCommand` leaves them then.
+  bool keeps_exceptions = false;
   OutputFormat format = OutputFormat::kTable;
 
   /// Prints the days to `out`, and to `errors` what limits the plan: a calendar that does not exist, dates

@@ -21,14 +21,17 @@ calendar that does not exist counts as empty. Nothing is changed. The status is
 The action says what "apply" does: "add" gives an ordinary working day a rule,
 "replace" gives a day another rule, "remove" makes a day an ordinary working
 day, and "exception" closes a day again that is a working day by exception.
-"keep" is a day that is as planned; --all prints those too that are closed.
+"keep" is a day that is as planned; --all prints those too that are closed. With
+--keep-exceptions, days that are working days by exception count as planned, as
+"apply" with that option leaves them.
 
 Standard error tells which dates the plan lacks because nobody has published
 them yet (days that have such a rule are left alone), and what the database
 would refuse: a rule of a planned name that is removed or of another type.
 
 FORMATS
-  table  columns, for people
+  table  columns, for people; weekends of a calendar that does not exist are
+         only counted
   json   [{"date": "2028-04-14", "weekday": "Friday", "now": null,
          "should": "Good Friday", "action": "add", "why": "..."}] on one line;
          null is an ordinary working day
@@ -42,13 +45,16 @@ must. CCY is a code, or ALL for every currency that has a book; YEAR is one
 year, or several as 2028..2030.
 
 Days that were made working days by exception are closed again where the plan
-says so, unless --keep-exceptions is given.
+says so, those with a reason too; --keep-exceptions leaves them open. How many
+with a reason will be closed is told before anything is changed.
 
 Each calendar changes in one call, whole or not at all, and has one entry in the
-history, which "undo" takes back. When a calendar was changed by somebody else
-after it was compared, the command ends with status 1 and leaves it alone, and
-the calendars before it stay as they are made. When the database would refuse
-one of the calendars, none is changed.)";
+history, which "undo" takes back. A calendar that somebody else has changed
+after it was compared is left alone; the others are made, and the status is 1.
+When the database would refuse one of the calendars, none is changed. Ctrl+C
+lets the running call end, tells how many calendars are made, and ends with
+status 1; run the command again to make the rest. ALL leaves out the years after
+a currency's last day as money, and says so.)";
 
 constexpr const char* kReviewManual =
     R"(Looks at every calendar and prints what an operator should look at, the worst
@@ -78,7 +84,9 @@ FORMATS
 
 constexpr const char* kWhyManual =
     R"(Prints what a day is in the calendar, what it should be by the book of the
-currency, and why: which rule closes it, and how the rule comes to that date.)";
+currency, and why: which rule closes it, and how the rule comes to that date.
+Standard error tells which dates of that year the plan lacks, because nobody has
+published them yet: a day that it calls open may be one of them.)";
 
 constexpr const char* kCode = "The currency's code, such as EUR";
 
@@ -93,6 +101,7 @@ void AddPlan(CommandSet& commands) {
   command.add_option("CCY", plan->currency, kCode)->required();
   command.add_option("YEAR", plan->year, "The calendar's year")->required();
   command.add_flag("--all", plan->shows_all, "Every closed day, not only what differs");
+  command.add_flag("--keep-exceptions", plan->keeps_exceptions, "Take working days by exception for planned");
   AddFormat(command, plan->format);
 }
 
@@ -127,10 +136,11 @@ void AddReview(CommandSet& commands) {
 
 void AddWhy(CommandSet& commands) {
   const auto why = std::make_shared<WhyCommand>();
-  CLI::App& command = commands.Add("why", "Tell what a day should be, and why", kWhyManual,
-                                   [why](const CommandSurroundings& surroundings) {
-                                     return why->Run(surroundings.engines, surroundings.out);
-                                   });
+  CLI::App& command =
+      commands.Add("why", "Tell what a day should be, and why", kWhyManual,
+                   [why](const CommandSurroundings& surroundings) {
+                     return why->Run(surroundings.engines, surroundings.out, surroundings.errors);
+                   });
   command.add_option("URL", why->url, "The database to look into")->required();
   command.add_option("CCY", why->currency, kCode)->required();
   command.add_option("DATE", why->date, "The day, YYYY-MM-DD")->required();

@@ -7,6 +7,7 @@
 #include "ferrowind/planning/year_planner.h"
 
 #include "host/admin/plan_arguments.h"
+#include "host/admin/plan_remarks.h"
 #include "host/delivery/delivered_tables.h"
 #include "host/session/procedure_session.h"
 
@@ -26,9 +27,15 @@ std::string NowOf(const planning::YearPreparation& preparation, const almanac::C
   return line.now.value_or(kOrdinary) + (comment.empty() ? "" : " (" + comment + ")");
 }
 
+std::string ShouldOf(const almanac::YearPlan& plan, const almanac::ComparisonLine& line) {
+  if (line.should) return *line.should;
+  return std::string(kOrdinary) + (plan.Unknown().empty() ? "" : ", as far as the plan knows");
+}
+
 }  // namespace
 
-ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
+ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out,
+                           std::ostream& errors) const {
   const platform::Date day = ReadDay(date);
   RunWithDatabase(engines, url, [&] {
     const planning::YearPlanner planner(DeliveredDateTables());
@@ -40,9 +47,10 @@ ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream
     out << preparation->Owner().code << ", " << almanac::WeekdayName(day.Weekday()) << ' '
         << almanac::LongDate(day.Serial()) << '\n';
     WriteLine("now", NowOf(*preparation, line, compared.now != nullptr ? compared.now->comment : ""), out);
-    WriteLine("should", line.should.value_or(kOrdinary), out);
+    WriteLine("should", ShouldOf(comparison.Plan(), line), out);
     WriteLine("why", line.why, out);
     WriteLine("book", book.publisher + ": " + book.document, out);
+    WriteIncomplete(*preparation, errors);
   });
   return ExitStatus::kDone;
 }

@@ -17,9 +17,10 @@ struct WhyCommand {
   /// As plan_arguments.h reads it.
   std::string date;
 
-  /// Prints to `out`. A date that cannot be read is an `ArgumentError`; what cannot be planned or read is a
-  /// `platform::Failure`.
-  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
+  /// Prints to `out`, and to `errors` which dates of the year the plan lacks. A date that cannot be read is
+  /// an `ArgumentError`; what cannot be planned or read is a `platform::Failure`.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out,
+                               std::ostream& errors) const;
 };
 
 }  // namespace ferrowind::host

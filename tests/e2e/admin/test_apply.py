@@ -3,6 +3,7 @@
 import os
 import pty
 import re
+import signal
 import subprocess
 import unittest
 
@@ -22,7 +23,7 @@ class Apply(small_book.WithSmallBooks):
     def entries(self):
         return [row["EntryID"] for row in self.call("CldGetHistory")[0]]
 
-    def apply_on_a_terminal(self, answer, *arguments):
+    def apply_on_a_terminal(self, answer, *arguments, meanwhile=lambda: None):
         """Answers what the program asks; its output, what the terminal shows, and its exit status."""
         screen, terminal = pty.openpty()
         self.addCleanup(os.close, screen)
@@ -30,8 +31,10 @@ class Apply(small_book.WithSmallBooks):
                                    stdout=subprocess.PIPE, stderr=terminal)
         os.close(terminal)
         shown = self.read_until(screen, "[y/N]")
+        meanwhile()
         os.write(screen, f"{answer}\n".encode())
         output = process.communicate(timeout=60)[0].decode()
+        shown = self.read_until(screen, "\0", shown)
         return output, shown, process.returncode
 
     def test_makes_a_calendar_and_its_rules(self):
@@ -71,16 +74,69 @@ class Apply(small_book.WithSmallBooks):
 
     def test_passes_over_years_after_the_last_day_of_a_money(self):
         self.call("CldIUCurrency", f"CcyID={DOLLAR}", "Ccy=USD", "CcyType=0", "Name=US Dollar", "LastDay=2027-06-30")
-        self.ctl(DONE, "apply", self.url(), "ALL", "2027..2028", "--yes")
+        _, errors = self.ctl(DONE, "apply", self.url(), "ALL", "2027..2028", "--yes")
+        self.assertEqual(errors, "USD 2028 is left out: USD is money until 2027-06-30.\n")
         self.assertEqual(self.calendars(), [(DOLLAR, 2027), (EURO, 2027), (EURO, 2028)])
+        _, errors = self.ctl(DONE, "apply", self.url(), "ALL", "2028..2030", "--yes")
+        self.assertEqual(errors, "USD 2028..2030 is left out: USD is money until 2027-06-30.\n")
+
+    def test_refuses_a_year_after_the_last_day_of_a_money_before_it_plans(self):
+        self.call("CldIUCurrency", f"CcyID={DOLLAR}", "Ccy=USD", "CcyType=0", "Name=US Dollar", "LastDay=2027-06-30")
+        self.assertEqual(self.ctl(NOT_DONE, "apply", self.url(), "USD", 2028, "--yes"),
+                         ("", "ferrowindctl: USD is money until 2027-06-30, so it has no calendar of 2028\n"))
 
     def test_leaves_exceptions_alone_if_asked(self):
         self.apply("EUR", 2028)
         self.except_day(EURO, "2028-12-25", "Stock-taking")
-        self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes", "--keep-exceptions")
+        output, _ = self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes", "--keep-exceptions")
+        self.assertEqual(output, "1 calendar is as planned but for 1 working day by exception.\n")
+        self.assign(EURO, "2028-04-13", "Good Friday")
+        output, _ = self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes", "--keep-exceptions")
+        self.assertRegex(output, r"\nEUR 2028 is as planned now but for 1 working day by exception; \"undo\" takes back the entry \d+\.\n\Z")
         self.assertEqual(self.days(EURO, 2028)["2028-12-25"], ("Working day by exception", "Stock-taking"))
         self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes")
         self.assertEqual(self.days(EURO, 2028)["2028-12-25"], ("Christmas Day", None))
+
+    def test_shows_the_reasons_of_exceptions_and_counts_them_before_it_closes_them(self):
+        self.apply("EUR", 2028)
+        self.except_day(EURO, "2028-12-25", "Open, the boss says")
+        self.except_day(EURO, "2028-04-14")
+        output, _ = self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes")
+        self.assertIn("  exception  25 December; now open by exception: Open, the boss says\n", output)
+        self.assertRegex(output, r"\n1 working day by exception that has a reason will be closed; --keep-exceptions "
+                                 r"leaves them open\.\nEUR 2028 is as planned now;")
+        self.except_day(EURO, "2028-04-14")
+        self.assertNotIn("a reason", self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes")[0])
+
+    def test_ends_after_the_running_call_when_it_is_told_to_and_says_how_far_it_came(self):
+        for number in (signal.SIGINT, signal.SIGTERM):
+            with self.subTest(number):
+                before = len(self.calendars())
+                years = "1950..1999" if number == signal.SIGINT else "2000..2049"
+                process = subprocess.Popen([ferrowindctl.PROGRAM, "apply", self.url(), "ALL", years, "--yes"],
+                                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+                self.addCleanup(process.kill)
+                line = next(line for line in process.stdout if " is made; " in line)
+                process.send_signal(number)
+                output, errors = process.communicate(timeout=60)
+                made = (line + output).count(" is made; ")
+                self.assertEqual(process.returncode, NOT_DONE)
+                self.assertEqual(errors, f"ferrowindctl: Stopped; {made} of 100 calendars are made.\n")
+                self.assertLess(made, 100)
+                self.assertEqual(len(self.calendars()) - before, made)
+
+    def test_leaves_a_calendar_that_was_changed_meanwhile_and_makes_the_others(self):
+        self.apply("ALL", 2028)
+        self.assign(EURO, "2028-04-13", "Good Friday")
+        self.assign(DOLLAR, "2028-04-13", "Good Friday")
+        output, shown, status = self.apply_on_a_terminal("y", "ALL", 2028,
+                                                         meanwhile=lambda: self.except_day(EURO, "2028-12-24", "Stock-taking"))
+        self.assertEqual(status, NOT_DONE)
+        self.assertIn("ferrowindctl: EUR 2028 was changed meanwhile; nothing was changed in it, run it again", shown)
+        self.assertNotIn("EUR 2028 is as planned now", output)
+        self.assertIn("USD 2028 is as planned now", output)
+        self.assertEqual(self.days(EURO, 2028)["2028-04-13"], ("Good Friday", None))
+        self.assertNotIn("2028-04-13", self.days(DOLLAR, 2028))
 
     def test_makes_an_announced_working_day_one_by_exception(self):
         self.store_book(EURO, [{"Name1": "Working Saturday", "TID1": 1, "Expression": "2028-01-08"}, *small_book.WEEKEND])

@@ -56,8 +56,27 @@ class Plan(small_book.WithSmallBooks):
                           ("2028-04-15", "Christmas Day", "Saturday", "replace"),
                           ("2028-12-25", "Working day by exception", "Christmas Day", "exception")])
         self.assertEqual(errors, "")
+        self.assertEqual(lines[-1]["why"], "25 December; now open by exception: Stock-taking")
         for line in lines:
             self.assertTrue(line["why"])
+
+    def test_takes_exceptions_for_planned_if_asked(self):
+        self.apply("EUR", 2028)
+        self.except_day(EURO, "2028-12-25", "Stock-taking")
+        self.plan(NOT_DONE)
+        self.assertEqual(self.plan(DONE, "--keep-exceptions"), ([], ""))
+        self.assertEqual(self.ctl(DONE, "plan", self.url(), "EUR", 2028, "--keep-exceptions"),
+                         ("EUR 2028 is as planned but for 1 working day by exception.\n", ""))
+        self.assign(EURO, "2028-04-13", "Good Friday")
+        self.assertEqual([line["date"] for line in self.plan(NOT_DONE, "--keep-exceptions")[0]], ["2028-04-13"])
+
+    def test_counts_the_weekends_of_a_calendar_that_does_not_exist_for_people(self):
+        output, _ = self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028)
+        self.assertEqual(len(output.splitlines()), 2 + 2 + 1)
+        self.assertTrue(output.endswith("\nand 106 days of weekends\n"))
+        self.assertEqual(len(self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028, "--all")[0].splitlines()), 2 + 108)
+        self.call("CldIUMain", f"ID1={EURO}", "Year1=2028")
+        self.assertEqual(len(self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028)[0].splitlines()), 2 + 108)
 
     def test_prints_the_same_for_people_and_for_spreadsheets(self):
         self.apply("EUR", 2028)
@@ -95,7 +114,8 @@ class Plan(small_book.WithSmallBooks):
 
     def test_refuses_what_cannot_be_planned(self):
         for arguments, reason in [(["SEK", 2028], "SEK has no book"), (["EUX", 2028], "no currency EUX"),
-                                  (["EUR", "28"], "\"28\" is no year"), (["EUR", "1899"], "1899"), (["EUR", "2200"], "2200")]:
+                                  (["EUR", "28"], "\"28\" is no year"), (["EUR", "1899"], "ferrowindctl: Years can be planned from 1900 to 2199, not 1899\n"),
+                                  (["EUR", "2200"], "ferrowindctl: Years can be planned from 1900 to 2199, not 2200\n")]:
             with self.subTest(arguments):
                 output, errors = self.ctl(NOT_DONE, "plan", self.url(), *arguments)
                 self.assertEqual(output, "")
@@ -136,6 +156,22 @@ class Why(small_book.WithSmallBooks):
     def test_never_takes_a_day_of_a_year_that_is_not_prepared_for_open(self):
         output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-04-13")
         self.assertIn("\nnow     not prepared: there is no calendar EUR 2028\n", output)
+
+    def test_tells_which_dates_of_the_year_the_plan_lacks(self):
+        feast = {"Name1": "Feast", "TID1": 4, "Expression": "table chinese-new-year"}
+        fair = {"Name1": "Fair", "TID1": 4, "Expression": "table matariki"}
+        self.store_book(EURO, [*small_book.WEEKEND, feast, fair])
+        output, errors = self.ctl(DONE, "why", self.url(), "EUR", "2199-02-05")
+        self.assertIn("\nshould  ordinary working day, as far as the plan knows\n", output)
+        self.assertRegex(errors, r"\AEUR 2199 cannot be planned in full\. The date of Feast in 2199 is not known: .*\.\n"
+                                 r"EUR 2199 cannot be planned in full\. The date of Fair in 2199 is not known: .*\.\n\Z")
+
+    def test_counts_a_date_that_the_book_adds_to_a_table_as_known(self):
+        feast = {"Name1": "Feast", "TID1": 4, "Expression": "table chinese-new-year"}
+        self.store_book(EURO, [*small_book.WEEKEND, feast, {**feast, "Expression": "2199-02-05"}])
+        output, errors = self.ctl(DONE, "why", self.url(), "EUR", "2199-02-05")
+        self.assertIn("\nshould  Feast\n", output)
+        self.assertEqual(errors, "")
 
     def test_refuses_what_is_no_date(self):
         self.assertIn("\"2028-02-30\" is no date", self.ctl(NOT_DONE, "why", self.url(), "EUR", "2028-02-30")[1])

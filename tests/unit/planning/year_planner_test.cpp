@@ -56,7 +56,25 @@ TEST(YearPlanner, SaysWhyACurrencyCannotBePlanned) {
       return testing::FailureOf([&] { (void)planner.Prepare(currency, 2028); }).Description();
     };
     EXPECT_THAT(reason_of("HRK"), HasSubstr("HRK has no book"));
+    EXPECT_EQ(testing::FailureOf([&] {
+                (void)planner.Prepare(planner.Currencies().Named("EUR"), 1899);
+              }).Description(),
+              "Years can be planned from 1900 to 2199, not 1899");
     EXPECT_THAT(reason_of("USD"), HasSubstr("The book of USD cannot be used: The rule 1, \"Odd\""));
+  });
+}
+
+TEST(YearPlanner, HasNoCalendarAfterTheLastDayOfAMoney) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    component.AnswerCurrencies();
+    component.AnswerRules({});
+    component.AnswerBooks({{191, "HNB", "Holidays", "f1"}}, {{191, 1, "Christmas Day", 3, "12-25", {}, {}}});
+    const YearPlanner planner({});
+    EXPECT_EQ(testing::FailureOf([&] {
+                (void)planner.Prepare(planner.Currencies().Named("HRK"), 2023);
+              }).Description(),
+              "HRK is money until 2022-12-31, so it has no calendar of 2023");
   });
 }
 
