@@ -116,12 +116,7 @@ ComparisonLine Comparison::LineOf(const ComparedDay& day) const {
                ", which the table " + day.unknown->table + " does not reach";
     return line;
   }
-  if (day.should != nullptr) {
-    line.should = NameOf(*day.should);
-  } else if (day.action == PlanAction::kKeep) {
-    // A working day by exception where the plan has one anyway.
-    line.should = line.now;
-  }
+  if (day.should != nullptr) line.should = NameOf(*day.should);
   line.why = plan_.WhyOf(day.day_of_year);
   return line;
 }

@@ -22,6 +22,8 @@ enum class FindingLevel : std::uint8_t {
 [[nodiscard]] std::string_view TextOf(FindingLevel level);
 
 enum class FindingSubject : std::uint8_t {
+  /// The database has no calendar at all.
+  kNoCalendar,
   kMissingYear,
   kNoWeekends,
   kDiffersFromPlan,
@@ -43,7 +45,7 @@ enum class FindingSubject : std::uint8_t {
 struct Finding {
   FindingLevel level = FindingLevel::kNote;
   FindingSubject subject = FindingSubject::kNoBook;
-  /// The code of the currency.
+  /// The code of the currency; empty when the finding is about the whole database.
   std::string currency;
   /// Nothing when the finding is about all years of the currency.
   std::optional<int> year;

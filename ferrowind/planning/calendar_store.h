@@ -11,6 +11,10 @@
 /// The calendars and rules of the calling thread's database. All fail as database_call.h says.
 namespace ferrowind::planning {
 
+/// The years that a calendar can have.
+inline constexpr int kFirstCalendarYear = 1900;
+inline constexpr int kLastCalendarYear = 3000;
+
 /// A calendar as it stands in the database.
 struct StoredCalendar {
   bool exists = false;

@@ -17,10 +17,6 @@ namespace {
 using almanac::CalendarContent;
 using almanac::ReviewedCurrency;
 
-/// Of every year that a calendar can have.
-constexpr int kFirstCalendarYear = 1900;
-constexpr int kLastCalendarYear = 3000;
-
 using ReviewedCurrencies = std::map<std::int32_t, ReviewedCurrency>;
 
 void AddCalendars(const std::vector<CalendarKey>& calendars,
@@ -69,6 +65,15 @@ DatabaseReview ReviewDatabase(const almanac::DateTables& tables, const platform:
   const almanac::RuleDirectory rules(std::move(stored.rules));
   const auto horizon = almanac::ReviewHorizon::Of(today, further_years);
   DatabaseReview review;
+  if (stored.calendars.empty()) {
+    // Nobody reviews an empty database on purpose: a monitor was given a wrong one.
+    review.findings.push_back({almanac::FindingLevel::kError,
+                               almanac::FindingSubject::kNoCalendar,
+                               {},
+                               {},
+                               {},
+                               "There is no calendar."});
+  }
   review.calendars = stored.calendars.size();
   review.currencies = currencies.size();
   for (const auto& [id, currency] : currencies) {

@@ -16,12 +16,12 @@
 
 #include "host/admin/comparison_rows.h"
 #include "host/admin/counted.h"
+#include "host/admin/database_content.h"
 #include "host/admin/interruption.h"
 #include "host/admin/outcome_writer.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
 #include "host/delivery/delivered_tables.h"
-#include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 namespace {
@@ -222,7 +222,7 @@ ExitStatus ApplyCommand::Run(const platform::EngineRegistry& engines, const Conf
                              std::ostream& out, std::ostream& errors) const {
   (void)ReadYears(years);
   ExitStatus status = ExitStatus::kNotDone;
-  RunWithDatabase(engines, url, [&] { status = Application(*this, confirm, out, errors).Run(); });
+  RunWithCalendars(engines, url, [&] { status = Application(*this, confirm, out, errors).Run(); });
   return status;
 }
 

@@ -1,10 +1,13 @@
 #include "host/admin/as_of_command.h"
 
+#include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 
+#include "host/admin/database_content.h"
 #include "host/admin/history_arguments.h"
-#include "host/session/procedure_session.h"
+#include "host/admin/plan_arguments.h"
+#include "host/admin/procedure_arguments.h"
 
 namespace ferrowind::host {
 namespace {
@@ -38,12 +41,22 @@ std::shared_ptr<platform::RecordSet> ReadDays(const std::string& code, std::int3
   }
 }
 
+std::int32_t ReadCalendarYear(const std::string& text) {
+  const int year = ReadYear(text);
+  if (year < planning::kFirstCalendarYear || year > planning::kLastCalendarYear) {
+    throw ArgumentError("Calendars are of the years " + std::to_string(planning::kFirstCalendarYear) +
+                        " to " + std::to_string(planning::kLastCalendarYear) + ", not " + text);
+  }
+  return year;
+}
+
 }  // namespace
 
 ExitStatus AsOfCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   const std::string then = ReadMoment(moment);
+  const std::int32_t wanted = ReadCalendarYear(year);
   std::shared_ptr<platform::RecordSet> days;
-  RunWithDatabase(engines, url, [&] { days = ReadDays(currency, year, then); });
+  RunWithCalendars(engines, url, [&] { days = ReadDays(currency, wanted, then); });
   WriteRows({days}, format, out);
   return ExitStatus::kDone;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <iosfwd>
 #include <string>
 
@@ -16,7 +15,8 @@ struct AsOfCommand {
   std::string url;
   /// In any letter case.
   std::string currency;
-  std::int32_t year = 0;
+  /// As plan_arguments.h reads it.
+  std::string year;
   /// As history_arguments.h reads it.
   std::string moment;
   OutputFormat format = OutputFormat::kTable;

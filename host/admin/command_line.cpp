@@ -88,6 +88,8 @@ class CommandLine {
       return ExitStatus::kDone;
     } catch (const CLI::ExtrasError&) {
       return Refuse(UnexpectedArguments(), surroundings.errors);
+    } catch (const CLI::ConversionError& error) {
+      return Refuse(NoNumber(error.what()), surroundings.errors);
     } catch (const CLI::ParseError& error) {
       return Refuse(error.what(), surroundings.errors);
     }
@@ -103,6 +105,15 @@ class CommandLine {
     }
     return options.empty() ? "There are more arguments than the command takes"
                            : "There is no option" + options;
+  }
+
+  /// The parser's "Could not convert: NUMBER = abc" in words; all that it converts are whole numbers.
+  static std::string NoNumber(const std::string& text) {
+    const std::size_t colon = text.find(": ");
+    const std::size_t equals = text.find(" = ");
+    if (colon == std::string::npos || equals == std::string::npos || equals < colon) return text;
+    return "\"" + text.substr(equals + 3) + "\" is no whole number, as " +
+           text.substr(colon + 2, equals - colon - 2) + " is";
   }
 
   static ExitStatus Refuse(const std::string& text, std::ostream& errors) {

@@ -4,6 +4,9 @@
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/sqlite/database_content.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/platform/values/failure.h"
+
+#include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 namespace {
@@ -12,6 +15,17 @@ namespace {
 bool IsOnServer(const platform::EngineRegistry& engines, const std::string& url) {
   (void)engines.EngineFor(url);
   return postgres::IsConnectionString(url);
+}
+
+/// A failure when the database is of another schema version. One that cannot be read by this user, who may be
+/// allowed to call procedures and nothing else, is none.
+void RequireThisVersion(const platform::EngineRegistry& engines, const std::string& url) {
+  try {
+    (void)ReadStatus(engines, url);
+  } catch (const platform::Failure&) {
+    return;
+  }
+  (void)OpenContent(engines, url);
 }
 
 }  // namespace
@@ -25,6 +39,16 @@ void FillDatabase(const platform::EngineRegistry& engines, const std::string& ur
                   const std::function<void(content::Target& target)>& fill) {
   if (IsOnServer(engines, url)) return postgres::FillDatabase(url, fill);
   sqlite::FillDatabase(sqlite::PathIn(url), fill);
+}
+
+void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,
+                      const std::function<void()>& work) {
+  try {
+    RunWithDatabase(engines, url, work);
+  } catch (const platform::Failure&) {
+    RequireThisVersion(engines, url);
+    throw;
+  }
 }
 
 content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines, const std::string& url) {

@@ -21,6 +21,11 @@ namespace ferrowind::host {
 void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
                   const std::function<void(content::Target& target)>& fill);
 
+/// As `RunWithDatabase`. When `work` fails on a database of another schema version, which lacks procedures or
+/// has others, the failure says which version it has and that it is to be upgraded first.
+void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,
+                      const std::function<void()>& work);
+
 [[nodiscard]] content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines,
                                                  const std::string& url);
 

@@ -59,6 +59,15 @@ std::string ReadMoment(const std::string& text) {
   return date + "T" + time + std::string(kMidnight.substr(time.size())) + "Z";
 }
 
+std::int32_t ReadEntryNumber(const std::string& text) {
+  std::int32_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) {
+    throw ArgumentError("\"" + text + "\" is no number of an entry of the history");
+  }
+  return number;
+}
+
 content::HistoryFilter::Calendar ReadCalendar(const std::string& text) {
   const auto slash = text.find('/');
   content::HistoryFilter::Calendar calendar;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "ferrowind/adapters/content/history_filter.h"
@@ -10,6 +11,10 @@ namespace ferrowind::host {
 /// date and a time YYYY-MM-DDTHH:MM, with :SS and a fraction of up to three digits if wanted, a blank instead
 /// of the "T", and a "Z" behind it or not. All of it is UTC. Anything else is an `ArgumentError`.
 [[nodiscard]] std::string ReadMoment(const std::string& text);
+
+/// The number of an entry. What is no whole number of 32 bits is an `ArgumentError`; whether there is such an
+/// entry is not looked up here.
+[[nodiscard]] std::int32_t ReadEntryNumber(const std::string& text);
 
 /// The calendar that `text` names, "USD/2026", the currency in any letter case. Anything else is an
 /// `ArgumentError`; whether there is such a currency is not looked up here.

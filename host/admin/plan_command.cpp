@@ -7,10 +7,10 @@
 #include "ferrowind/planning/year_planner.h"
 
 #include "host/admin/comparison_rows.h"
+#include "host/admin/database_content.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
 #include "host/delivery/delivered_tables.h"
-#include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 namespace {
@@ -46,7 +46,7 @@ ExitStatus PlanCommand::Run(const platform::EngineRegistry& engines, std::ostrea
   const ExceptionHandling exceptions =
       keeps_exceptions ? ExceptionHandling::kKeep : ExceptionHandling::kOverwrite;
   ExitStatus status = ExitStatus::kDone;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     const planning::YearPlanner planner(DeliveredDateTables());
     const auto preparation = planner.Prepare(planner.Currencies().Named(currency), planned);
     const almanac::Comparison& comparison = preparation->Compared();

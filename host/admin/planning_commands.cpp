@@ -59,7 +59,8 @@ a currency's last day as money, and says so.)";
 constexpr const char* kReviewManual =
     R"(Looks at every calendar and prints what an operator should look at, the worst
 first:
-  error    no calendar for the running year; a calendar without weekends
+  error    no calendar at all; no calendar for the running year; a calendar
+           without weekends
   warning  no calendar for a year to come; a day that differs from the plan; a
            working day by exception without a reason; dates of this year that
            the plan lacks; a book that cannot be used; and where there is no
@@ -79,7 +80,7 @@ FORMATS
   table  columns and a summary, for people
   json   [{"level": "warning", "currency": "EUR", "year": 2028,
          "date": "2028-04-14", "finding": "..."}] on one line; a finding about
-         no single day or year has null there
+         no single currency, year or day has null there
   csv    as RFC 4180)";
 
 constexpr const char* kWhyManual =

@@ -11,8 +11,8 @@
 #include "ferrowind/planning/database_review.h"
 
 #include "host/admin/counted.h"
+#include "host/admin/database_content.h"
 #include "host/delivery/delivered_tables.h"
-#include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 namespace {
@@ -26,7 +26,8 @@ using platform::Value;
 std::shared_ptr<RecordSet> InFields(const std::vector<Finding>& findings) {
   std::vector<std::vector<Value>> rows;
   for (const Finding& finding : findings) {
-    rows.push_back({std::string(almanac::TextOf(finding.level)), finding.currency,
+    rows.push_back({std::string(almanac::TextOf(finding.level)),
+                    finding.currency.empty() ? Value() : Value(finding.currency),
                     finding.year ? Value(static_cast<std::int32_t>(*finding.year)) : Value(),
                     finding.day ? Value(*finding.day) : Value(), finding.sentence});
   }
@@ -71,7 +72,7 @@ void Write(const planning::DatabaseReview& review, OutputFormat format, std::ost
 
 ExitStatus ReviewCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   planning::DatabaseReview review;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     review = planning::ReviewDatabase(DeliveredDateTables(), AttachedPlatform().clock.Today(), horizon);
   });
   Write(review, format, out);

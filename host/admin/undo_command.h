@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <iosfwd>
 #include <string>
 
@@ -13,11 +12,11 @@ namespace ferrowind::host {
 /// `ferrowindctl undo`: puts back what a call changed.
 struct UndoCommand {
   std::string url;
-  /// The entry of the call in the history.
-  std::int32_t entry = 0;
+  /// The entry of the call in the history, as history_arguments.h reads it.
+  std::string entry;
 
   /// Tells on `out` what was undone, and how that is taken back. What cannot be undone is a
-  /// `platform::Failure` that says why, and nothing is changed then.
+  /// `platform::Failure` that says why, and nothing is changed then; what is no number is an `ArgumentError`.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
 };
 

@@ -6,10 +6,10 @@
 #include "ferrowind/almanac/date_words.h"
 #include "ferrowind/planning/year_planner.h"
 
+#include "host/admin/database_content.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
 #include "host/delivery/delivered_tables.h"
-#include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 namespace {
@@ -37,7 +37,7 @@ std::string ShouldOf(const almanac::YearPlan& plan, const almanac::ComparisonLin
 ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream& out,
                            std::ostream& errors) const {
   const platform::Date day = ReadDay(date);
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     const planning::YearPlanner planner(DeliveredDateTables());
     const auto preparation = planner.Prepare(planner.Currencies().Named(currency), day.Year());
     const almanac::Comparison& comparison = preparation->Compared();

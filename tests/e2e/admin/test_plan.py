@@ -153,6 +153,14 @@ class Why(small_book.WithSmallBooks):
         output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-04-13")
         self.assertIn("\nnow     ordinary working day\nshould  ordinary working day\nwhy     ", output)
 
+    def test_does_not_say_that_an_exception_on_an_ordinary_day_should_be_one(self):
+        self.apply("EUR", 2028)
+        self.except_day(EURO, "2028-04-13", "Stock-taking")
+        output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-04-13")
+        self.assertIn("\nnow     Working day by exception (Stock-taking)\nshould  ordinary working day\n"
+                      "why     An ordinary working day\n", output)
+        self.assertIn("is as planned", self.ctl(DONE, "plan", self.url(), "EUR", 2028)[0])
+
     def test_never_takes_a_day_of_a_year_that_is_not_prepared_for_open(self):
         output, _ = self.ctl(DONE, "why", self.url(), "EUR", "2028-04-13")
         self.assertIn("\nnow     not prepared: there is no calendar EUR 2028\n", output)

@@ -42,8 +42,17 @@ class Review(small_book.WithSmallBooks):
 
     def test_calls_a_missing_calendar_of_the_running_year_an_error(self):
         self.assertEqual([(f["level"], f["finding"]) for f in self.review(NOT_DONE, "--horizon", "0")],
+                         [("error", "There is no calendar.")] +
                          [("error", f"{currency} has no calendar for {THIS_YEAR}, the running year.")
                           for currency in ("EUR", "USD")])
+
+    def test_is_not_content_with_a_database_without_any_calendar(self):
+        self.assert_run(DONE, "init", self.url("empty.db"), "--empty")
+        output, _ = self.ctl(NOT_DONE, "review", self.url("empty.db"), "--format", "json")
+        self.assertEqual(json.loads(output), [{"level": "error", "currency": None, "year": None, "date": None,
+                                               "finding": "There is no calendar."}])
+        output, _ = self.ctl(NOT_DONE, "review", self.url("empty.db"))
+        self.assertTrue(output.endswith("\n0 calendars of 0 currencies: 1 error, 0 warnings, 0 notes.\n"))
 
     def test_lists_what_is_wrong_worst_first(self):
         self.prepare()

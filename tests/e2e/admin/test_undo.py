@@ -78,13 +78,16 @@ class PastTests:
         errors = self.refuse_undo(entry)
         self.assertIn(f"The entry {entry} (CldIUMain for USD/2027", errors)
         self.assertIn("a later call changed the same", errors)
+        later = self.last_entry()
+        self.assertRegex(errors, rf"The newest call for USD/2027 is the entry {later} \(CldIUMain for USD/2027, .*\); undo that first\n\Z")
+        self.undo(later)
 
     def test_undo_refuses_an_entry_that_does_not_exist(self):
         self.call("CldIUMain", *USD_2027)
         for entry in ("0", "-1", "4711", "2147483647"):
             self.assertIn(f"The history has no entry {entry}", self.refuse_undo(entry))
-        self.assertIn("ENTRY", self.refuse_undo("the last one"))
-        self.assertIn("ENTRY", self.refuse_undo("99999999999"))
+        for entry in ("the last one", "99999999999", "1.5", ""):
+            self.assertIn(f'"{entry}" is no number of an entry of the history', self.refuse_undo(entry))
 
     def test_as_of_prints_the_days_of_then(self):
         self.call("CldIUMain", *USD_2027)
@@ -113,7 +116,9 @@ class PastTests:
                                 (("USD", "2028", "2999-12-31"), "There was no calendar USD/2028"),
                                 (("QQQ", "2027", "2999-12-31"), "no currency QQQ"),
                                 (("USD", "2027", "yesterday"), '"yesterday" is neither a date'),
-                                (("USD", "soon", "2999-12-31"), "YEAR")):
+                                (("USD", "soon", "2999-12-31"), '"soon" is no year, which has four digits'),
+                                (("USD", "1899", "2999-12-31"), "Calendars are of the years 1900 to 3000, not 1899\n"),
+                                (("USD", "3001", "2999-12-31"), "Calendars are of the years 1900 to 3000, not 3001\n")):
             with self.subTest(arguments=arguments):
                 self.assertIn(text, self.assert_run(NOT_DONE, "as-of", self.database, *arguments)[1])
 

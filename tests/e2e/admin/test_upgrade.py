@@ -27,6 +27,15 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         self.assertEqual(self.schema("a.db"), self.schema("new.db"))
         self.assertEqual(len(self.call("CldGetMain", "ID1=978", "Year1=2026")[0]), 365)
 
+    def test_is_what_commands_ask_for_that_an_old_database_has_no_procedures_for(self):
+        url = version_1.make_file(self)
+        for command in (("plan", url, "EUR", 2028), ("apply", url, "ALL", 2028, "--yes"), ("why", url, "EUR", "2028-04-14"),
+                        ("review", url), ("undo", url, 1), ("as-of", url, "EUR", 2026, "2026-01-01")):
+            with self.subTest(command[0]):
+                _, errors = self.assert_run(NOT_DONE, *command)
+                self.assertIn("a.db has the schema version 1; this program's is 3. "
+                              "Bring it there with \"ferrowindctl upgrade\" first\n", errors)
+
     def test_says_when_there_is_nothing_to_do(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         before = self.path().read_bytes()

@@ -72,5 +72,13 @@ TEST(HistoryArguments, WhatIsNoCalendarIsRefusedByItsText) {
   }
 }
 
+TEST(HistoryArguments, ReadTheNumberOfAnEntry) {
+  EXPECT_EQ(ReadEntryNumber("112"), 112);
+  EXPECT_EQ(ReadEntryNumber("-1"), -1);
+  for (const char* text : {"", "abc", "1.5", "12 ", "99999999999"}) {
+    EXPECT_THROW((void)ReadEntryNumber(text), ArgumentError) << text;
+  }
+}
+
 }  // namespace
 }  // namespace ferrowind::host

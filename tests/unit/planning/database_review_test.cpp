@@ -73,12 +73,12 @@ TEST(ReviewOfADatabase, MissesYearsOfCurrenciesThatHaveABookOrACalendar) {
   });
 }
 
-TEST(ReviewOfADatabase, HasNothingToSayOfAnEmptyOne) {
+TEST(ReviewOfADatabase, CallsItAnErrorThatThereIsNoCalendar) {
   RunInFreshThread([] {
     ReviewWorld component({}, {}, {}, {});
     const DatabaseReview review = ReviewDatabase({}, Date(2026, 3, 1), {});
-    EXPECT_THAT(review.findings, IsEmpty());
-    EXPECT_EQ(review.Worst(), std::nullopt);
+    EXPECT_THAT(Texts(review), ElementsAre("error There is no calendar."));
+    EXPECT_EQ(review.Worst(), FindingLevel::kError);
     EXPECT_EQ(review.calendars, 0U);
   });
 }
