@@ -116,8 +116,19 @@ class CommandLine {
            text.substr(colon + 2, equals - colon - 2) + " is";
   }
 
-  static ExitStatus Refuse(const std::string& text, std::ostream& errors) {
-    errors << "ferrowindctl: " << text << "\nRun \"ferrowindctl --help\" for how to use it.\n";
+  /// The program's name, with the command behind it that the arguments name.
+  [[nodiscard]] std::string NamedCommand() const {
+    std::string name = "ferrowindctl";
+    const CLI::App* command = &app_;
+    while (!command->get_subcommands().empty()) {
+      command = command->get_subcommands().front();
+      name += ' ' + command->get_name();
+    }
+    return name;
+  }
+
+  [[nodiscard]] ExitStatus Refuse(const std::string& text, std::ostream& errors) const {
+    errors << "ferrowindctl: " << text << "\nRun \"" << NamedCommand() << " --help\" for how to use it.\n";
     return ExitStatus::kNotDone;
   }
 

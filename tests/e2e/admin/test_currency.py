@@ -37,6 +37,11 @@ class CurrencyTests:
     def create_calendar(self, number, year, status=DONE):
         return self.assert_run(status, "call", self.database, "CldIUMain", f"ID1={number}", f"Year1={year}")[0]
 
+    def test_add_names_a_number_that_is_none_and_the_help_that_tells_more(self):
+        self.assertEqual(self.refuse("add", "XYZ", "abc", "Name"),
+                         "ferrowindctl: \"abc\" is no whole number, as NUMBER is\n"
+                         "Run \"ferrowindctl currency add --help\" for how to use it.\n")
+
     def undo_last(self):
         output, _ = self.assert_run(DONE, "history", self.database, "--format", "json")
         self.assert_run(DONE, "undo", self.database, json.loads(output)["results"][0]["rows"][-1][0])
