@@ -54,7 +54,14 @@ std::string Summary(const planning::DatabaseReview& review) {
     return Counted(counts[static_cast<std::size_t>(level)], one, many);
   };
   const std::string notes = of(FindingLevel::kNote, "note", "notes");
-  if (review.Worst() == FindingLevel::kNote) return "All is right: " + calendars + ", with " + notes + ".";
+  if (review.Worst() == FindingLevel::kNote) {
+    // What nobody has published yet may still close days, so that nobody can call these calendars right.
+    const bool lacks_dates = std::ranges::any_of(review.findings, [](const Finding& finding) {
+      return finding.subject == almanac::FindingSubject::kIncompletePlan;
+    });
+    return std::string(lacks_dates ? "All is right as far as it is published: " : "All is right: ") +
+           calendars + ", with " + notes + ".";
+  }
   return calendars + ": " + of(FindingLevel::kError, "error", "errors") + ", " +
          of(FindingLevel::kWarning, "warning", "warnings") + ", " + notes + ".";
 }

@@ -125,6 +125,15 @@ class DeliveredDatabase(ferrowindctl.WithADeliveredDatabase):
         [calendars, *_] = self.call("CldAllInfo")
         self.assertEqual(len([calendar for calendar in calendars if calendar["Year1"] == 2028]), 26)
         self.assertEqual(self.findings(), [])
+        review = ferrowindctl.run("review", self.url())
+        *lines, verdict = review.stdout.decode().splitlines()
+        # By the clock of a later year more is to be prepared than these.
+        if any(line.startswith(("warning", "error")) for line in lines):
+            self.assertEqual(review.returncode, NOT_DONE)
+        else:
+            self.assertEqual(review.returncode, DONE)
+            self.assertRegex(
+                verdict, r"^All is right as far as it is published: 78 calendars of 26 currencies, with \d+ notes\.$")
         output = ferrowindctl.run("apply", self.url(), "ALL", "2026..2028", "--yes").stdout.decode()
         self.assertEqual(output, "78 calendars are as planned.\n")
 
