@@ -9,6 +9,7 @@
 
 #include "ferrowind/almanac/base_dates.h"
 #include "ferrowind/almanac/book_text.h"
+#include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_words.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -83,6 +84,12 @@ class BookInspection {
         weekend_.Add(std::get<EveryWeekday>(rule.expression.anchor).weekday);
       }
     }
+    if (weekend_.IsEmpty()) {
+      faults_.push_back(
+          "The book closes no weekday: without a rule of the kind weekday each Saturday and Sunday would be "
+          "a "
+          "working day");
+    }
     for (position_ = 0; position_ < book_.rules.size(); ++position_) InspectRule(book_.rules[position_]);
     return std::move(faults_);
   }
@@ -92,12 +99,22 @@ class BookInspection {
     if (IsBlank(rule.name)) {
       Add("has no name");
     } else {
+      InspectNames(rule);
       for (std::string& fault : FaultsOfNames(names_, rule, Place())) faults_.push_back(std::move(fault));
       InspectRepetition(rule);
     }
     InspectKind(rule);
     InspectMoves(rule);
     InspectDates(rule);
+  }
+
+  void InspectNames(const BookRule& rule) {
+    const std::string built_in = KeyOf(kExceptionName);
+    if (KeyOf(rule.name) == built_in ||
+        (!rule.expression.moves.empty() && KeyOf(rule.NameOfMovedDay()) == built_in)) {
+      Add("has the name of the built-in rule \"" + std::string(kExceptionName) +
+          "\", which no book can have");
+    }
   }
 
   void InspectRepetition(const BookRule& rule) {

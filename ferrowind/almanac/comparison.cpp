@@ -6,9 +6,6 @@
 namespace ferrowind::almanac {
 namespace {
 
-/// For the exception that a database lacks, which would be a broken one.
-constexpr const char* kExceptionName = "Working day by exception";
-
 const char* TypeInWords(RuleKind kind) {
   switch (kind) {
     case RuleKind::kWorkingDay:
@@ -103,6 +100,7 @@ std::string Comparison::NameOf(const MarkedDay& day) const {
 std::string Comparison::NameOf(const PlannedDay& day) const {
   if (plan_.KindOf(day) != RuleKind::kWorkingDay) return plan_.NameOf(day);
   const KnownRule* const rule = matches_.Directory().Find(kExceptionRule);
+  // Only a broken database lacks the built-in rule.
   return rule != nullptr ? rule->name : kExceptionName;
 }
 

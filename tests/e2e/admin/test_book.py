@@ -82,6 +82,12 @@ class BookTests:
         self.assertIn("no-such-table", errors)
         self.assertIn("Nothing was changed.", errors)
 
+    def test_stores_no_book_that_opens_weekends_or_names_the_built_in_rule(self):
+        head = "publisher P\ndocument D\n"
+        self.assertIn("The book closes no weekday", self.refuse_book("SEK", head))
+        self.assertIn("The book closes no weekday", self.refuse_book("SEK", head + "celebration | A | 01-01 |\n"))
+        self.assertIn("the name of the built-in rule", self.refuse_book("SEK", BOOK + "point | working DAY by exception | 12-24 |\n"))
+
     def test_a_name_is_of_one_kind_in_all_books(self):
         self.set_book("SEK", BOOK)
         other = BOOK.replace("celebration | Midsummer Day", "point | Midsummer Day")

@@ -48,15 +48,37 @@ TEST(BookFaults, AreNoneInABookOfEveryForm) {
 }
 
 TEST(BookFaults, TellOfAMissingHead) {
-  RuleBook book;
+  RuleBook book = BookWithWeekends("");
   book.publisher = " ";
+  book.document = "";
   EXPECT_THAT(Faults(book), ElementsAre("The book names no publisher", "The book names no document"));
 }
 
 TEST(BookFaults, TellOfANamelessRule) {
-  RuleBook book = BookOf("celebration | A | 01-01");
-  book.rules[0].name = " ";
-  EXPECT_THAT(Faults(book), ElementsAre("Rule 1 (01-01) has no name"));
+  RuleBook book = BookWithWeekends("celebration | A | 01-01");
+  book.rules[2].name = " ";
+  EXPECT_THAT(Faults(book), ElementsAre("Rule 3 (01-01) has no name"));
+}
+
+TEST(BookFaults, TellOfABookThatWouldMakeWeekendsWorkingDays) {
+  const std::string fault =
+      "The book closes no weekday: without a rule of the kind weekday each Saturday and Sunday would be a "
+      "working day";
+  EXPECT_THAT(Faults(BookOf("")), ElementsAre(fault));
+  EXPECT_THAT(Faults(BookOf("celebration | A | 01-01")), ElementsAre(fault));
+  EXPECT_THAT(Faults(BookOf("weekday | A | weekday Friday")), IsEmpty());
+}
+
+TEST(BookFaults, TellOfARuleWithTheNameOfTheBuiltInOne) {
+  const std::string fault =
+      "Rule 3 (working DAY by exception) has the name of the built-in rule \"Working day by exception\", "
+      "which no book can have";
+  EXPECT_THAT(FaultsOfRules("point | working DAY by exception | 12-25"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("working day | working DAY by exception | 2026-02-14"), ElementsAre(fault));
+  EXPECT_THAT(
+      FaultsOfRules("celebration | A | 12-25 to monday | | WORKING day by exception"),
+      ElementsAre("Rule 3 (A) has the name of the built-in rule \"Working day by exception\", which no "
+                  "book can have"));
 }
 
 TEST(BookFaults, TellOfANameOfTwoKinds) {

@@ -57,7 +57,8 @@ TEST(BookStore, TellsOfRulesThatCannotBeReadAndKeepsTheOtherBooks) {
                           {{840, 1, "Fine", 4, "easter-2", {}, {}},
                            {840, 2, "Odd", 4, "12-32", {}, {}},
                            {840, 3, "Odder", 5, "12-31", {}, {}},
-                           {978, 1, "Good Friday", 4, "easter-2", {}, {}}});
+                           {978, 1, "Sunday", 2, "weekday Sunday", {}, {}},
+                           {978, 2, "Good Friday", 4, "easter-2", {}, {}}});
     const auto books = LoadBooks({});
     ASSERT_THAT(books, SizeIs(2));
     EXPECT_FALSE(books[0].book);
@@ -72,7 +73,8 @@ TEST(BookStore, TellsOfTheFaultsOfABookThatCanBeRead) {
   RunInFreshThread([] {
     PlanningWorld component;
     component.AnswerBooks({{978, "ECB", "Closing days", "f2"}},
-                          {{978, 1, "Fair", 4, "table no-such-table", {}, {}}});
+                          {{978, 1, "Sunday", 2, "weekday Sunday", {}, {}},
+                           {978, 2, "Fair", 4, "table no-such-table", {}, {}}});
     const auto books = LoadBooks({});
     ASSERT_THAT(books, SizeIs(1));
     EXPECT_TRUE(books[0].book);

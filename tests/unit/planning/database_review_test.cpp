@@ -87,7 +87,7 @@ TEST(ReviewOfADatabase, JudgesNothingByABookWithFaults) {
   RunInFreshThread([] {
     ReviewWorld component(
         {{978, 2026}}, kEuroBook,
-        {{978, 1, "Christmas Day", 3, "12-25", {}, {}}, {978, 2, "Fair", 4, "table no-such-table", {}, {}}},
+        {{978, 1, "Sunday", 2, "weekday Sunday", {}, {}}, {978, 2, "Fair", 4, "table no-such-table", {}, {}}},
         {{978, 2026, 4, 2, 2, {}}});
     const DatabaseReview review = ReviewDatabase({}, Date(2026, 3, 1), 0);
     ASSERT_EQ(review.findings.size(), 1U);
