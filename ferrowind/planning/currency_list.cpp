@@ -1,12 +1,28 @@
 #include "ferrowind/planning/currency_list.h"
 
 #include <algorithm>
+#include <charconv>
+#include <system_error>
 
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::planning {
+namespace {
+
+/// The number that `text` is, if it is digits and nothing else.
+std::optional<std::int32_t> NumberIn(std::string_view text) {
+  std::int32_t number = 0;
+  const bool is_number = !text.empty() && text.front() >= '0' && text.front() <= '9';
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (!is_number || error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+bool MeansAllCurrencies(std::string_view text) { return platform::CompareIgnoringCase(text, "ALL") == 0; }
 
 std::string EndOfMoney(const Currency& currency) {
   if (!currency.is_money || !currency.last_day) return currency.code + " is no money";
@@ -35,15 +51,28 @@ const Currency* CurrencyList::Find(std::int32_t id) const {
   return found == currencies_.end() ? nullptr : &*found;
 }
 
-const Currency& CurrencyList::Named(std::string_view code) const {
+const Currency& CurrencyList::Named(std::string_view text) const {
+  const auto refuse = [](const std::string& why) {
+    return platform::Failure(platform::failure_number::kInvalidArgument, why);
+  };
+  if (MeansAllCurrencies(text)) {
+    std::string why = std::string(text) + " means all currencies, and here it takes one";
+    if (const Currency* const namesake = WithCode(text)) {
+      why += "; write " + std::to_string(namesake->id) + " for the currency of that code, " + namesake->name;
+    }
+    throw refuse(why);
+  }
+  const std::optional<std::int32_t> number = NumberIn(text);
+  const Currency* const found = number ? Find(*number) : WithCode(text);
+  if (found == nullptr) throw refuse("The database has no currency " + std::string(text));
+  return *found;
+}
+
+const Currency* CurrencyList::WithCode(std::string_view code) const {
   const auto found = std::find_if(currencies_.begin(), currencies_.end(), [&](const Currency& currency) {
     return platform::CompareIgnoringCase(currency.code, code) == 0;
   });
-  if (found == currencies_.end()) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            "The database has no currency " + std::string(code));
-  }
-  return *found;
+  return found == currencies_.end() ? nullptr : &*found;
 }
 
 }  // namespace ferrowind::planning

@@ -30,6 +30,9 @@ struct Currency {
 /// 2028-12-31". Precondition: it is not live in some year.
 [[nodiscard]] std::string EndOfMoney(const Currency& currency);
 
+/// Whether a person who writes `text` for a currency means all of them: "ALL", in any letter case.
+[[nodiscard]] bool MeansAllCurrencies(std::string_view text);
+
 class CurrencyList {
  public:
   /// Reads those of the calling thread's database. Fails as database_call.h says.
@@ -39,10 +42,14 @@ class CurrencyList {
   [[nodiscard]] const std::vector<Currency>& All() const { return currencies_; }
   /// Null when there is none of that number.
   [[nodiscard]] const Currency* Find(std::int32_t id) const;
-  /// The currency of that code, in any letter case; a failure that names the code when there is none.
-  [[nodiscard]] const Currency& Named(std::string_view code) const;
+  /// The currency that a person means by `text`: by its code, in any letter case, or by its number, such as
+  /// 8 or 008. A failure that names the text when there is none. "ALL" means all currencies, never the one
+  /// that has that code.
+  [[nodiscard]] const Currency& Named(std::string_view text) const;
 
  private:
+  [[nodiscard]] const Currency* WithCode(std::string_view code) const;
+
   std::vector<Currency> currencies_;
 };
 

@@ -21,8 +21,6 @@ using planning::Currency;
 using planning::StoredBook;
 using platform::Failure;
 
-bool IsAll(const std::string& currency) { return platform::CompareIgnoringCase(currency, "ALL") == 0; }
-
 Failure Refused(const std::string& why) { return {platform::failure_number::kInvalidArgument, why}; }
 
 std::string CountOf(const almanac::RuleBook& book) {
@@ -32,7 +30,7 @@ std::string CountOf(const almanac::RuleBook& book) {
 /// The delivered book of that currency; of each when `code` is "ALL".
 std::vector<NamedBook> DeliveredFor(const std::string& code) {
   std::vector<NamedBook> books = DeliveredBooks();
-  if (IsAll(code)) return books;
+  if (planning::MeansAllCurrencies(code)) return books;
   for (NamedBook& book : books) {
     if (platform::CompareIgnoringCase(book.name, code) == 0) return {std::move(book)};
   }
@@ -68,7 +66,8 @@ ExitStatus BookShowCommand::Run(const platform::EngineRegistry& engines, std::os
 ExitStatus BookSetCommand::Run(const platform::EngineRegistry& engines, std::istream& in, std::ostream& out,
                                std::ostream& errors) const {
   if (is_delivered && file) throw Refused("A delivered book is not read from a file");
-  if (!is_delivered && IsAll(currency)) throw Refused("A text is the book of one currency, not of all");
+  if (!is_delivered && planning::MeansAllCurrencies(currency))
+    throw Refused("A text is the book of one currency, not of all");
   std::vector<NamedBook> books =
       is_delivered ? DeliveredFor(currency)
                    : std::vector<NamedBook>{{currency, ReadBookFrom(file.value_or(""), in)}};
@@ -88,15 +87,17 @@ ExitStatus BookSetCommand::Run(const platform::EngineRegistry& engines, std::ist
 
 ExitStatus BookCheckCommand::Run(const platform::EngineRegistry& engines, std::istream& in,
                                  std::ostream& out) const {
-  if (file && IsAll(currency)) throw Refused("A text is the book of one currency, not of all");
+  if (file && planning::MeansAllCurrencies(currency))
+    throw Refused("A text is the book of one currency, not of all");
   std::optional<almanac::RuleBook> text;
   if (file) text = ReadBookFrom(*file, in);
   std::vector<std::string> codes;
   std::vector<std::string> faults;
   RunWithDatabase(engines, url, [&] {
     const BookShelf shelf;
-    codes =
-        IsAll(currency) ? shelf.Codes() : std::vector<std::string>{shelf.Currencies().Named(currency).code};
+    codes = planning::MeansAllCurrencies(currency)
+                ? shelf.Codes()
+                : std::vector<std::string>{shelf.Currencies().Named(currency).code};
     faults = text ? shelf.FaultsWith({{codes.front(), *text}}) : shelf.FaultsOf(codes);
   });
   for (const std::string& fault : faults) out << fault << ".\n";

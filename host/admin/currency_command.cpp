@@ -4,6 +4,7 @@
 #include <ostream>
 #include <vector>
 
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/platform/values/date.h"
@@ -55,9 +56,17 @@ std::string Described(const Currency& currency) {
   return currency.code + " (" + std::to_string(currency.id) + ")";
 }
 
-const char* KindOf(const Currency& currency) {
-  if (currency.is_money) return "money";
-  return currency.last_day ? "past" : "other";
+/// What it is on the day `today`.
+const char* KindOf(const Currency& currency, const Date& today) {
+  if (currency.last_day && (!currency.is_money || *currency.last_day < today)) return "past";
+  return currency.is_money ? "money" : "other";
+}
+
+/// A currency that a command is to retire or to restore.
+void RequireMoneyOfAnyTime(const Currency& currency) {
+  if (!currency.is_money && !currency.last_day) {
+    throw Refused(Described(currency) + " never was money: it is a metal, a fund or a unit of account");
+  }
 }
 
 /// Stores what `currency` says. Returns what the procedure does.
@@ -89,31 +98,32 @@ void RequireStored(const Currency& currency, std::int32_t return_value) {
   }
 }
 
-/// Whether it stays money in the list, because something in the database hangs on it.
-bool Retire(Currency currency, const Date& last_day) {
-  const bool was_money = currency.is_money;
+/// Whether it stays in the lists of the windows.
+bool Retire(Currency currency, const Date& last_day, const Date& today) {
   currency.last_day = last_day;
   currency.is_money = false;
-  const std::int32_t return_value = Store(currency);
-  if (return_value != kWouldBeWrong || !was_money) {
-    RequireStored(currency, return_value);
-    return false;
+  if (last_day < today) {
+    const std::int32_t return_value = Store(currency);
+    if (return_value != kWouldBeWrong) {
+      RequireStored(currency, return_value);
+      return false;
+    }
   }
   currency.is_money = true;
-  const std::int32_t as_money = Store(currency);
-  if (as_money == kWouldBeWrong) {
+  const std::int32_t return_value = Store(currency);
+  if (return_value == kWouldBeWrong) {
     throw Refused(Described(currency) + " has a calendar of a year after " + std::to_string(last_day.Year()));
   }
-  RequireStored(currency, as_money);
+  RequireStored(currency, return_value);
   return true;
 }
 
-std::shared_ptr<RecordSet> AsRows(std::vector<Currency> currencies) {
+std::shared_ptr<RecordSet> AsRows(std::vector<Currency> currencies, const Date& today) {
   std::sort(currencies.begin(), currencies.end(),
             [](const Currency& left, const Currency& right) { return left.code < right.code; });
   std::vector<std::vector<Value>> rows;
   for (const Currency& currency : currencies) {
-    rows.push_back({currency.id, currency.code, std::string(KindOf(currency)), currency.name,
+    rows.push_back({currency.id, currency.code, std::string(KindOf(currency, today)), currency.name,
                     currency.last_day ? Value(*currency.last_day) : Value()});
   }
   return std::make_shared<RecordSet>(std::vector<std::string>{"CcyID", "Ccy", "Kind", "Name", "LastDay"},
@@ -124,7 +134,8 @@ std::shared_ptr<RecordSet> AsRows(std::vector<Currency> currencies) {
 
 ExitStatus CurrencyListCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   std::shared_ptr<RecordSet> rows;
-  RunWithDatabase(engines, url, [&] { rows = AsRows(CurrencyList::Load().All()); });
+  RunWithDatabase(engines, url,
+                  [&] { rows = AsRows(CurrencyList::Load().All(), AttachedPlatform().clock.Today()); });
   WriteRows({rows}, format, out);
   return ExitStatus::kDone;
 }
@@ -168,15 +179,36 @@ ExitStatus CurrencyRenameCommand::Run(const platform::EngineRegistry& engines, s
 ExitStatus CurrencyRetireCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   const Date day = ReadLastDay(last_day);
   Currency retired;
+  bool is_past = false;
   bool stays = false;
   RunWithDatabase(engines, url, [&] {
     retired = CurrencyList::Load().Named(code);
-    stays = Retire(retired, day);
+    RequireMoneyOfAnyTime(retired);
+    const Date today = AttachedPlatform().clock.Today();
+    is_past = day < today;
+    stays = Retire(retired, day, today);
   });
-  out << Described(retired) << " is money until " << day.ToIso() << ".\n";
-  if (stays) {
-    out << "It stays in the list of the windows, because it has calendars or a rule book.\n";
+  out << Described(retired) << (is_past ? " was money until " : " is money until ") << day.ToIso() << ".\n";
+  if (is_past && stays) {
+    out << "It stays in the lists of the windows, because it has calendars or a rule book.\n";
+  } else if (stays) {
+    out << "It can have no calendar of a later year. \"retire\" it again after that day, and without "
+           "calendars and rule book it leaves the lists of the windows.\n";
   }
+  return ExitStatus::kDone;
+}
+
+ExitStatus CurrencyRestoreCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
+  Currency restored;
+  RunWithDatabase(engines, url, [&] {
+    restored = CurrencyList::Load().Named(code);
+    RequireMoneyOfAnyTime(restored);
+    if (!restored.last_day) throw Refused(Described(restored) + " is money without a last day");
+    restored.is_money = true;
+    restored.last_day.reset();
+    RequireStored(restored, Store(restored));
+  });
+  out << Described(restored) << " is money again, without a last day.\n";
   return ExitStatus::kDone;
 }
 

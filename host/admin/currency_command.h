@@ -12,15 +12,16 @@
 
 /// `ferrowindctl currency`: the currencies that a database knows. Each command prints what it did to `out`.
 /// What is refused, or cannot be done, is a `platform::Failure` that says why, and nothing is changed then.
-/// Codes may be written in any letter case. On a server only an administrator may change currencies.
+/// Codes may be written in any letter case, and the number of a currency instead. On a server only an
+/// administrator may change currencies.
 namespace ferrowind::host {
 
 struct CurrencyListCommand {
   std::string url;
   OutputFormat format = OutputFormat::kTable;
 
-  /// Number, code, kind, name and last day of all of them, ordered by code. The kind is "money", "past" for
-  /// money of the past, and "other" for what never was money.
+  /// Number, code, kind, name and last day of all of them, ordered by code. The kind is what holds today:
+  /// "money", "past" for money of the past, and "other" for what never was money.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
 };
 
@@ -50,8 +51,17 @@ struct CurrencyRetireCommand {
   /// YYYY-MM-DD.
   std::string last_day;
 
-  /// A currency that has calendars or a rule book stays money of the past, which windows show; any other
-  /// leaves their lists.
+  /// Until the last day is past the currency stays what it is. When it is past, one without calendars and
+  /// rule book leaves the lists of the windows; another stays there. What never was money is refused.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
+};
+
+/// Takes back `CurrencyRetireCommand`, however long ago that was.
+struct CurrencyRestoreCommand {
+  std::string url;
+  std::string code;
+
+  /// A currency that has no last day is refused.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
 };
 

@@ -4,7 +4,7 @@ namespace ferrowind::host {
 
 class CommandSet;
 
-/// Adds the commands of `currency`: list, add, rename and retire.
+/// Adds the commands of `currency`: list, add, rename, retire and restore.
 void AddCurrencyCommands(CommandSet& commands);
 
 }  // namespace ferrowind::host

@@ -57,6 +57,23 @@ TEST_P(ProceduresContract, ARetiredCurrencyGetsNoCalendarsOfLaterYears) {
   EXPECT_EQ(Apply(kEuro, 2025, "[]"), 0);
 }
 
+TEST_P(ProceduresContract, ARetiredCurrencyIsMoneyAgainWithoutALastDay) {
+  ASSERT_EQ(caller().Return("CldIUCurrency", Currency(kEuro, "EUR", 1, "Euro", Date(2020, 12, 31))), 0);
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 3);
+  ASSERT_EQ(caller().Return("CldIUCurrency", Currency(kEuro, "EUR", 0, "Euro")), 0);
+  EXPECT_THAT(RowsOf(*caller().Call("CldGetCurrencies").record_sets.at(0)),
+              Contains(Row{kEuro, "EUR", std::int16_t{0}, "Euro", {}}));
+  EXPECT_EQ(CreateCalendar(kEuro, 2028), 0);
+}
+
+TEST_P(ProceduresContract, ARetiredCurrencyWithCalendarsHasNoLastDayAnyMore) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2020), 0);
+  ASSERT_EQ(caller().Return("CldIUCurrency", Currency(kEuro, "EUR", 0, "Euro", Date(2020, 12, 31))), 0);
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 3);
+  ASSERT_EQ(caller().Return("CldIUCurrency", Currency(kEuro, "EUR", 0, "Euro")), 0);
+  EXPECT_EQ(CreateCalendar(kEuro, 2028), 0);
+}
+
 TEST_P(ProceduresContract, ACurrencyWithCalendarsOfLaterYearsDoesNotEndBefore) {
   ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
   const auto before = Content();

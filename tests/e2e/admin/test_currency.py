@@ -7,6 +7,7 @@ import ferrowindctl
 import server
 from ferrowindctl import DONE, NOT_DONE, RETURNED_NON_ZERO
 
+PAST, TO_COME = "2019-12-31", "2198-12-31"
 FIELDS = ["CcyID", "Ccy", "Kind", "Name", "LastDay"]
 
 
@@ -92,18 +93,55 @@ class CurrencyTests:
         self.assertIn("Neither a name nor a code", self.refuse("rename", "EUR"))
         self.assertIn("The name is blank", self.refuse("rename", "EUR", ""))
 
-    def test_retires_a_currency_without_calendars_wholly(self):
-        self.assertEqual(self.change("retire", "dkk", "2029-12-31"), "DKK (208) is money until 2029-12-31.\n")
-        self.assertEqual(self.currencies()["DKK"], [208, "DKK", "past", "Danish Krone", "2029-12-31"])
-        self.create_calendar(208, 2027, status=RETURNED_NON_ZERO)
+    def test_retires_a_currency_of_the_past_without_calendars_wholly(self):
+        self.assertEqual(self.change("retire", "dkk", PAST), f"DKK (208) was money until {PAST}.\n")
+        self.assertEqual(self.currencies()["DKK"], [208, "DKK", "past", "Danish Krone", PAST])
+        self.create_calendar(208, 2019, status=RETURNED_NON_ZERO)
+
+    def test_keeps_a_currency_money_until_its_last_day(self):
+        output = self.change("retire", "208", TO_COME)
+        self.assertIn(f"DKK (208) is money until {TO_COME}.\n", output)
+        self.assertIn('"retire" it again after that day', output)
+        self.assertEqual(self.currencies()["DKK"], [208, "DKK", "money", "Danish Krone", TO_COME])
+        self.create_calendar(208, 2027)
+        self.assertIn("3", self.create_calendar(208, 2199, status=RETURNED_NON_ZERO))
+        self.assert_run(DONE, "book", "set", self.database, "DKK", "--delivered")
 
     def test_retires_a_currency_with_calendars_that_keeps_them(self):
-        self.create_calendar(208, 2027)
-        output = self.change("retire", "DKK", "2029-12-31")
-        self.assertIn("It stays in the list of the windows", output)
-        self.assertEqual(self.currencies()["DKK"], [208, "DKK", "money", "Danish Krone", "2029-12-31"])
-        self.create_calendar(208, 2029)
-        self.assertIn("3", self.create_calendar(208, 2030, status=RETURNED_NON_ZERO))
+        self.create_calendar(208, 2018)
+        output = self.change("retire", "DKK", PAST)
+        self.assertIn("It stays in the lists of the windows", output)
+        self.assertEqual(self.currencies()["DKK"], [208, "DKK", "past", "Danish Krone", PAST])
+        self.create_calendar(208, 2019)
+        self.assertIn("3", self.create_calendar(208, 2020, status=RETURNED_NON_ZERO))
+
+    def test_moves_the_last_day_of_a_retired_currency(self):
+        self.change("retire", "DKK", PAST)
+        self.change("retire", "DKK", TO_COME)
+        self.assertEqual(self.currencies()["DKK"], [208, "DKK", "money", "Danish Krone", TO_COME])
+
+    def test_retires_nothing_that_never_was_money(self):
+        for code in ("XAU", "XDR", "XXX"):
+            self.assertIn("never was money", self.refuse("retire", code, PAST))
+            self.assertIn("never was money", self.refuse("restore", code))
+
+    def test_restores_what_was_retired(self):
+        before = self.currencies()
+        for day in (PAST, TO_COME):
+            self.change("retire", "DKK", day)
+            self.assertEqual(self.change("restore", "dkk"), "DKK (208) is money again, without a last day.\n")
+            self.assertEqual(self.currencies(), before)
+        self.create_calendar(208, 2199)
+        # Money of the past that came with the database.
+        self.change("restore", "HRK")
+        self.assertEqual(self.currencies()["HRK"], [191, "HRK", "money", "Kuna", None])
+        self.create_calendar(191, 2027)
+        self.assertIn("DKK (208) is money without a last day", self.refuse("restore", "DKK"))
+
+    def test_takes_the_number_for_the_currency_whose_code_means_all(self):
+        self.assertIn("write 8 for the currency of that code, Lek", self.refuse("retire", "ALL", PAST))
+        self.assertIn("write 8 ", self.refuse("rename", "all", "New Lek"))
+        self.assertEqual(self.change("rename", "008", "New Lek"), "ALL (8), Lek, is ALL now, New Lek.\n")
 
     def test_retires_nothing_that_has_a_later_calendar(self):
         self.create_calendar(208, 2030)
@@ -112,7 +150,7 @@ class CurrencyTests:
 
     def test_a_change_is_in_the_history_and_can_be_undone(self):
         before = self.currencies()
-        for change in (("add", "QQA", "991", "Qumran Crown"), ("rename", "EUR", "New Euro"), ("retire", "DKK", "2029-12-31")):
+        for change in (("add", "QQA", "991", "Qumran Crown"), ("rename", "EUR", "New Euro"), ("retire", "DKK", PAST)):
             self.change(*change)
             self.assertNotEqual(self.currencies(), before)
             self.undo_last()

@@ -24,6 +24,27 @@ TEST(CurrencyList, FindsCurrenciesByNumberAndByCodeInAnyLetterCase) {
   });
 }
 
+TEST(CurrencyList, FindsCurrenciesByTheDigitsThatAPersonWrites) {
+  const CurrencyList list({{8, "ALL", "Lek", true, {}}, {978, "EUR", "Euro", true, {}}});
+  EXPECT_EQ(list.Named("978").code, "EUR");
+  EXPECT_EQ(list.Named("8").code, "ALL");
+  EXPECT_EQ(list.Named("008").code, "ALL");
+  for (const char* const text : {"9", "8.0", "-8", "+8", " 8", "8x", "", "99999999999"}) {
+    EXPECT_THAT(testing::FailureOf([&] { (void)list.Named(text); }).Description(),
+                std::string("The database has no currency ") + text);
+  }
+}
+
+TEST(CurrencyList, TakesAllForEveryCurrencyAndNotForTheOneOfThatCode) {
+  const CurrencyList list({{8, "ALL", "Lek", true, {}}});
+  EXPECT_EQ(testing::FailureOf([&] { (void)list.Named("all"); }).Description(),
+            "all means all currencies, and here it takes one; write 8 for the currency of that code, Lek");
+  EXPECT_EQ(testing::FailureOf([&] { (void)CurrencyList({}).Named("ALL"); }).Description(),
+            "ALL means all currencies, and here it takes one");
+  EXPECT_TRUE(MeansAllCurrencies("All"));
+  EXPECT_FALSE(MeansAllCurrencies("8"));
+}
+
 TEST(CurrencyList, KnowsWhichCurrenciesAreMoneyInAYear) {
   RunInFreshThread([] {
     PlanningWorld component;
