@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <map>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <utility>
 #include <variant>
@@ -61,20 +62,122 @@ class NamesInUse {
   std::map<std::string, NameUse> uses_;
 };
 
-std::vector<std::string> FaultsOfNames(NamesInUse& names, const BookRule& rule, const std::string& place) {
-  std::vector<std::string> faults;
-  if (auto fault = names.Add(rule.name, {rule.kind, DateOf(rule), place}))
-    faults.push_back(std::move(*fault));
-  if (rule.expression.moves.empty()) return faults;
-  auto fault = names.Add(rule.NameOfMovedDay(), {RuleKind::kPoint, std::nullopt, place + " (moved day)"});
-  if (fault) faults.push_back(std::move(*fault));
-  return faults;
+/// The names that a rule at `place` uses.
+std::vector<std::pair<std::string, NameUse>> UsesOf(const BookRule& rule, const std::string& place) {
+  std::vector<std::pair<std::string, NameUse>> uses = {{rule.name, {rule.kind, DateOf(rule), place}}};
+  if (!rule.expression.moves.empty()) {
+    uses.push_back({rule.NameOfMovedDay(), {RuleKind::kPoint, std::nullopt, place + " (moved day)"}});
+  }
+  return uses;
 }
+
+/// "AUD", "AUD and CAD", or "AUD, CAD and 23 others".
+std::string Listed(const std::vector<std::string>& places) {
+  constexpr std::size_t kMostTold = 3;
+  const bool are_too_many = places.size() > kMostTold;
+  const std::size_t told = are_too_many ? kMostTold - 1 : places.size();
+  std::string list;
+  for (std::size_t i = 0; i < told; ++i) {
+    if (i > 0) list += i + 1 == told && !are_too_many ? " and " : ", ";
+    list += places[i];
+  }
+  return are_too_many ? list + " and " + std::to_string(places.size() - told) + " others" : list;
+}
+
+/// How several books use one name.
+class SharedName {
+ public:
+  explicit SharedName(std::string name) : name_(std::move(name)) {}
+
+  void Add(const NameUse& use) {
+    kinds_.Add("a " + std::string(TextOf(use.kind)), use.place);
+    if (use.date) dates_.Add("on " + DayAndMonth(use.date->month, use.date->day), use.place);
+  }
+
+  [[nodiscard]] std::optional<std::string> Fault() const {
+    if (kinds_.Differ()) return Told(kinds_) + ": a name has one kind";
+    if (dates_.Differ()) return Told(dates_) + ": a celebration has one date";
+    return std::nullopt;
+  }
+
+ private:
+  /// What the name is, and where it is that.
+  class Meanings {
+   public:
+    void Add(const std::string& meaning, const std::string& place) {
+      for (auto& [known, places] : places_) {
+        if (known == meaning) return places.push_back(place);
+      }
+      places_.push_back({meaning, {place}});
+    }
+    [[nodiscard]] bool Differ() const { return places_.size() > 1; }
+    [[nodiscard]] std::string ToText() const {
+      std::string text;
+      for (const auto& [meaning, places] : places_) {
+        text += (text.empty() ? "" : " and ") + meaning + " in " + Listed(places);
+      }
+      return text;
+    }
+
+   private:
+    std::vector<std::pair<std::string, std::vector<std::string>>> places_;
+  };
+
+  [[nodiscard]] std::string Told(const Meanings& meanings) const {
+    return '"' + name_ + "\" is " + meanings.ToText();
+  }
+
+  std::string name_;
+  Meanings kinds_;
+  Meanings dates_;
+};
+
+/// The names that books share.
+class SharedNames {
+ public:
+  /// What a book says twice in different ways is a fault of its own; here it says what it says first.
+  /// `are_new` tells whether names may come in that no book before has.
+  void Add(const NamedBook& book, bool are_new) {
+    std::set<std::string> own;
+    for (std::size_t i = 0; i < book.book.rules.size(); ++i) {
+      const std::string place =
+          i < book.lines.size() ? "line " + std::to_string(book.lines[i]) + " of " + book.name : book.name;
+      for (const auto& [name, use] : UsesOf(book.book.rules[i], place)) {
+        const std::string key = KeyOf(name);
+        if (own.insert(key).second) Add(key, name, use, are_new);
+      }
+    }
+  }
+
+  [[nodiscard]] std::vector<std::string> Faults() const {
+    std::vector<std::string> faults;
+    for (const SharedName& name : names_) {
+      if (auto fault = name.Fault()) faults.push_back(std::move(*fault));
+    }
+    return faults;
+  }
+
+ private:
+  void Add(const std::string& key, const std::string& name, const NameUse& use, bool is_new) {
+    auto known = positions_.find(key);
+    if (known == positions_.end()) {
+      if (!is_new) return;
+      known = positions_.emplace(key, names_.size()).first;
+      names_.emplace_back(name);
+    }
+    names_[known->second].Add(use);
+  }
+
+  /// In the order in which the books use them.
+  std::vector<SharedName> names_;
+  std::map<std::string, std::size_t> positions_;
+};
 
 /// Looks at one book.
 class BookInspection {
  public:
-  BookInspection(const RuleBook& book, const DateTables& tables) : book_(book), tables_(tables) {}
+  BookInspection(const RuleBook& book, const DateTables& tables, const std::vector<std::size_t>& lines)
+      : book_(book), tables_(tables), lines_(lines) {}
 
   std::vector<std::string> Inspect() {
     if (IsBlank(book_.publisher)) faults_.push_back("The book names no publisher");
@@ -100,7 +203,9 @@ class BookInspection {
       Add("has no name");
     } else {
       InspectNames(rule);
-      for (std::string& fault : FaultsOfNames(names_, rule, Place())) faults_.push_back(std::move(fault));
+      for (const auto& [name, use] : UsesOf(rule, PlaceOf(position_))) {
+        if (auto fault = names_.Add(name, use)) faults_.push_back(std::move(*fault));
+      }
       InspectRepetition(rule);
     }
     InspectKind(rule);
@@ -120,7 +225,7 @@ class BookInspection {
   void InspectRepetition(const BookRule& rule) {
     const auto [first, is_new] =
         expressions_.emplace(KeyOf(rule.name) + '\n' + rule.expression.ToText(), position_);
-    if (!is_new) Add("says the same as rule " + std::to_string(first->second + 1));
+    if (!is_new) Add("says the same as " + PlaceOf(first->second));
   }
 
   void InspectKind(const BookRule& rule) {
@@ -179,16 +284,22 @@ class BookInspection {
     Add("is on no day of any year");
   }
 
-  [[nodiscard]] std::string Place() const { return "rule " + std::to_string(position_ + 1); }
+  [[nodiscard]] std::string PlaceOf(std::size_t position) const {
+    if (position < lines_.size()) return "line " + std::to_string(lines_[position]);
+    return "rule " + std::to_string(position + 1);
+  }
 
   void Add(const std::string& what) {
     const BookRule& rule = book_.rules[position_];
-    faults_.push_back("Rule " + std::to_string(position_ + 1) + " (" +
-                      (IsBlank(rule.name) ? rule.expression.ToText() : rule.name) + ") " + what);
+    std::string place = PlaceOf(position_);
+    place.front() = place.front() == 'l' ? 'L' : 'R';
+    faults_.push_back(place + " (" + (IsBlank(rule.name) ? rule.expression.ToText() : rule.name) + ") " +
+                      what);
   }
 
   const RuleBook& book_;
   const DateTables& tables_;
+  const std::vector<std::size_t>& lines_;
   WeekdaySet weekend_;
   std::size_t position_ = 0;
   NamesInUse names_;
@@ -198,22 +309,17 @@ class BookInspection {
 
 }  // namespace
 
-std::vector<std::string> FaultsOf(const RuleBook& book, const DateTables& tables) {
-  return BookInspection(book, tables).Inspect();
+std::vector<std::string> FaultsOf(const RuleBook& book, const DateTables& tables,
+                                  const std::vector<std::size_t>& lines) {
+  return BookInspection(book, tables, lines).Inspect();
 }
 
-std::vector<std::string> FaultsBetween(const std::vector<NamedBook>& books) {
-  NamesInUse names;
-  std::vector<std::string> faults;
-  for (const NamedBook& book : books) {
-    // What a book says twice in different ways is a fault of its own; here it says what it says first.
-    NamesInUse own;
-    for (const BookRule& rule : book.book.rules) {
-      if (!FaultsOfNames(own, rule, book.name).empty()) continue;
-      for (std::string& fault : FaultsOfNames(names, rule, book.name)) faults.push_back(std::move(fault));
-    }
-  }
-  return faults;
+std::vector<std::string> FaultsBetween(const std::vector<NamedBook>& books,
+                                       const std::vector<NamedBook>& others) {
+  SharedNames names;
+  for (const NamedBook& book : books) names.Add(book, true);
+  for (const NamedBook& book : others) names.Add(book, false);
+  return names.Faults();
 }
 
 }  // namespace ferrowind::almanac

@@ -54,22 +54,39 @@ class BookReader {
  public:
   explicit BookReader(std::string_view text) : lines_(text) {}
 
-  RuleBook Read() {
-    while (lines_.Next()) ReadLine();
-    if (!has_publisher_) throw TextError(lines_.Number() + 1, 1, "the line \"publisher NAME\" is missing");
-    if (!has_document_) throw TextError(lines_.Number() + 1, 1, "the line \"document NAME\" is missing");
-    return std::move(book_);
+  BookReading Read() {
+    while (ReadNext()) {
+    }
+    if (!has_publisher_) AddMissing(kPublisher);
+    if (!has_document_) AddMissing(kDocument);
+    return std::move(reading_);
   }
 
  private:
+  /// Whether there was a line.
+  bool ReadNext() {
+    try {
+      if (!lines_.Next()) return false;
+      ReadLine();
+    } catch (const TextError& error) {
+      reading_.errors.push_back(error);
+    }
+    return true;
+  }
+
+  void AddMissing(std::string_view word) {
+    reading_.errors.emplace_back(std::max<std::size_t>(lines_.Number(), 1), 1,
+                                 "the line \"" + std::string(word) + " NAME\" is missing");
+  }
+
   void ReadLine() {
     const std::string_view line = lines_.Line();
     if (line.find('|') != std::string_view::npos) {
       ReadRule(FieldsOf(line));
     } else if (const auto publisher = AfterWord(line, kPublisher)) {
-      ReadHead(kPublisher, *publisher, has_publisher_, book_.publisher);
+      ReadHead(kPublisher, *publisher, has_publisher_, reading_.book.publisher);
     } else if (const auto document = AfterWord(line, kDocument)) {
-      ReadHead(kDocument, *document, has_document_, book_.document);
+      ReadHead(kDocument, *document, has_document_, reading_.book.document);
     } else {
       throw ErrorAt(line, "publisher, document or a rule \"kind | name | expression | comment\" is expected");
     }
@@ -95,7 +112,8 @@ class BookReader {
     rule.expression = ExpressionIn(fields[2]);
     if (fields.size() > 3) rule.comment = fields[3];
     if (fields.size() > 4) rule.moved_name = fields[4];
-    book_.rules.push_back(std::move(rule));
+    reading_.book.rules.push_back(std::move(rule));
+    reading_.lines.push_back(lines_.Number());
   }
 
   [[nodiscard]] DateExpression ExpressionIn(std::string_view field) const {
@@ -112,7 +130,7 @@ class BookReader {
   }
 
   TextLines lines_;
-  RuleBook book_;
+  BookReading reading_;
   bool has_publisher_ = false;
   bool has_document_ = false;
 };
@@ -148,10 +166,13 @@ std::size_t WidthOf(const std::string& text) {
       text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-std::vector<std::string> FieldsOf(const BookRule& rule) {
+void ExpectWritable(const BookRule& rule) {
   ExpectWritableName(rule.name, "The name of a rule");
   ExpectWritable(rule.comment, "The comment");
   ExpectWritable(rule.moved_name, "The name of a moved day");
+}
+
+std::vector<std::string> FieldsOf(const BookRule& rule) {
   std::vector<std::string> fields = {std::string(TextOf(rule.kind)), rule.name, rule.expression.ToText(),
                                      rule.comment};
   if (!rule.moved_name.empty()) fields.push_back(rule.moved_name);
@@ -172,7 +193,24 @@ std::string LineOf(const std::vector<std::string>& fields,
 
 }  // namespace
 
-RuleBook ReadBook(std::string_view text) { return BookReader(text).Read(); }
+BookReading ReadWholeBook(std::string_view text) { return BookReader(text).Read(); }
+
+RuleBook ReadBook(std::string_view text) {
+  BookReading reading = ReadWholeBook(text);
+  if (!reading.errors.empty()) throw reading.errors.front();
+  return std::move(reading.book);
+}
+
+std::vector<std::string> PlainLinesOf(const RuleBook& book) {
+  std::vector<std::string> lines = {std::string(kPublisher) + ' ' + book.publisher,
+                                    std::string(kDocument) + ' ' + book.document};
+  for (const BookRule& rule : book.rules) {
+    std::string line;
+    for (const std::string& field : FieldsOf(rule)) line += (line.empty() ? "" : " | ") + field;
+    lines.push_back(line.substr(0, line.find_last_not_of(' ') + 1));
+  }
+  return lines;
+}
 
 std::string WriteBook(const RuleBook& book) {
   ExpectWritableName(book.publisher, "The publisher");
@@ -180,7 +218,10 @@ std::string WriteBook(const RuleBook& book) {
   // The first line of the table says what its columns are.
   std::vector<std::vector<std::string>> lines = {
       {"# kind", "name", "expression", "comment [| name of the moved day]"}};
-  for (const BookRule& rule : book.rules) lines.push_back(FieldsOf(rule));
+  for (const BookRule& rule : book.rules) {
+    ExpectWritable(rule);
+    lines.push_back(FieldsOf(rule));
+  }
   std::array<std::size_t, kAlignedFields> widths{};
   for (const auto& fields : lines) {
     for (std::size_t i = 0; i < widths.size(); ++i) widths[i] = std::max(widths[i], WidthOf(fields[i]));

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ferrowind/almanac/rule_book.h"
+#include "ferrowind/almanac/text_error.h"
 
 /// Books as text that people write, as files in database/seed/books are: UTF-8; blank lines and lines that
 /// begin with "#" mean nothing.
@@ -20,6 +23,21 @@ namespace ferrowind::almanac {
 /// `TextError` when the text is no book; the failure of an expression is among them, with its place in the
 /// line. What is wrong with the book itself is left to `FaultsOf`.
 [[nodiscard]] RuleBook ReadBook(std::string_view text);
+
+/// A text as far as it can be read.
+struct BookReading {
+  RuleBook book;
+  /// Of each rule of the book, the line of the text in which it stands, from 1 on.
+  std::vector<std::size_t> lines;
+  /// One for each wrong line; with any the text is no book.
+  std::vector<TextError> errors;
+};
+
+/// Reads on behind a wrong line, so that all of them can be told at once.
+[[nodiscard]] BookReading ReadWholeBook(std::string_view text);
+
+/// The book as lines of a text without columns: publisher, document and then each rule.
+[[nodiscard]] std::vector<std::string> PlainLinesOf(const RuleBook& book);
 
 /// The text that `ReadBook` reads as this book, with columns aligned. A text of the book cannot be written
 /// that holds

@@ -14,11 +14,14 @@ namespace {
 constexpr int kLeapYear = 2000;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 bool IsWord(std::string_view text, std::string_view word) {
   return std::is_eq(platform::CompareIgnoringCase(text, word));
 }
+
+constexpr const char* kBeforeYears = " (a move stands before else, from and to)";
 
 std::string Years() { return "a year " + std::to_string(kFirstYear) + " to " + std::to_string(kLastYear); }
 
@@ -86,7 +89,7 @@ Anchor DateExpressionParser::ParseNumberedAnchor() {
 
 FixedDate DateExpressionParser::ParseFixedDate() {
   FixedDate date;
-  date.month = ParseNumber(2, 1, 12, "a month 01 to 12");
+  date.month = ParseNumber(2, 1, 12, "a month 01 to 12 (a date is MM-DD or YYYY-MM-DD)");
   ExpectCharacter('-');
   date.day = ParseNumber(2, 1, DaysInMonth(kLeapYear, date.month), "a day of the month");
   return date;
@@ -134,6 +137,8 @@ TableDate DateExpressionParser::ParseTable() {
     ++place_;
   }
   if (place_ == start) throw Expected("the name of a table");
+  const bool ends_here = place_ == text_.size() || Next() == '+' || Next() == '-' || IsBlank(Next());
+  if (!ends_here) throw Expected("the name of a table, of letters, digits and single hyphens,");
   return {platform::FoldCase(text_.substr(start, place_ - start)), ParseOffset()};
 }
 
@@ -228,6 +233,7 @@ void DateExpressionParser::ParseYears() {
   if (TakeWord("to")) {
     SkipBlanks();
     const std::size_t start = place_;
+    if (IsLetter(Next())) throw Expected(Years() + kBeforeYears);
     years.to = ParseYear();
     if (years.from && *years.to < *years.from) {
       throw ExpectedAt(start, "a year from " + std::to_string(*years.from) + " on");

@@ -14,13 +14,6 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 TextLines::TextLines(std::string_view text) : rest_(text) {
   if (rest_.starts_with(kByteOrderMark)) rest_.remove_prefix(kByteOrderMark.size());
-  if (platform::IsWellFormedUtf8(rest_)) return;
-  std::size_t line = 1;
-  for (std::string_view remaining = rest_;; ++line) {
-    const std::string_view first = remaining.substr(0, remaining.find('\n'));
-    if (!platform::IsWellFormedUtf8(first)) throw TextError(line, 1, "the line is no UTF-8");
-    remaining.remove_prefix(first.size() + 1);
-  }
 }
 
 bool TextLines::Next() {
@@ -29,6 +22,7 @@ bool TextLines::Next() {
     rest_.remove_prefix(std::min(whole_line_.size() + 1, rest_.size()));
     ++number_;
     line_ = WithoutOuterBlanks(whole_line_);
+    if (!platform::IsWellFormedUtf8(whole_line_)) throw TextError(number_, 1, "the line is no UTF-8");
     if (line_.empty() || line_.front() == '#') continue;
     if (const auto control = FindControlCharacter(line_); control != std::string_view::npos) {
       throw TextError(number_, PlaceOf(line_.substr(control)), "the line holds a control character");

@@ -8,11 +8,11 @@ namespace ferrowind::almanac {
 /// The lines of a text that mean something: neither blank nor a comment.
 class TextLines {
  public:
-  /// `text` must outlive the lines. `TextError` when it is no UTF-8.
+  /// `text` must outlive the lines.
   explicit TextLines(std::string_view text);
 
-  /// Moves to the next line; false when there is none. `TextError` when it holds a control character but
-  /// tabs.
+  /// Moves to the next line; false when there is none. `TextError` when it is no UTF-8 or holds a control
+  /// character but tabs; the line behind it can be read all the same.
   bool Next();
   /// The line without outer blanks.
   [[nodiscard]] std::string_view Line() const { return line_; }

@@ -190,7 +190,43 @@ TEST(BookFaultsBetweenBooks, TellOfANameOfTwoKinds) {
 TEST(BookFaultsBetweenBooks, TellOfACelebrationOfTwoDates) {
   EXPECT_THAT(
       FaultsBetweenRules("celebration | A | 01-01", "celebration | a | 02-01"),
-      ElementsAre("\"a\" is on 1 January in EUR and on 1 February in USD: a celebration has one date"));
+      ElementsAre("\"A\" is on 1 January in EUR and on 1 February in USD: a celebration has one date"));
+}
+
+TEST(BookFaultsBetweenBooks, TellOfAllBooksThatANameClashesWithInOneSentence) {
+  const RuleBook twice = BookOf("celebration | A | 01-01 to 2020\ncelebration | A | 01-01 from 2021");
+  std::vector<NamedBook> others = {{"AUD", twice}};
+  const std::vector<NamedBook> point = {{"THB", BookOf("point | B | easter\npoint | A | easter"), {5, 7}}};
+  EXPECT_THAT(FaultsBetween(point, others),
+              ElementsAre("\"A\" is a point in line 7 of THB and a celebration in AUD: a name has one kind"));
+  others.push_back({"CAD", twice});
+  others.push_back({"CHF", twice});
+  EXPECT_THAT(
+      FaultsBetween(point, others),
+      ElementsAre("\"A\" is a point in line 7 of THB and a celebration in AUD, CAD and CHF: a name has "
+                  "one kind"));
+  others.push_back({"DKK", twice});
+  EXPECT_THAT(
+      FaultsBetween(point, others),
+      ElementsAre("\"A\" is a point in line 7 of THB and a celebration in AUD, CAD and 2 others: a name "
+                  "has one kind"));
+}
+
+TEST(BookFaultsBetweenBooks, AreNotThoseOfOtherBooksAlone) {
+  const std::vector<NamedBook> others = {{"EUR", BookOf("point | A | easter")},
+                                         {"USD", BookOf("celebration | A | 01-01")}};
+  EXPECT_THAT(FaultsBetween({{"THB", BookOf("point | B | easter")}}, others), IsEmpty());
+  EXPECT_THAT(FaultsBetween({{"THB", BookOf("point | A | easter")}}, others),
+              ElementsAre("\"A\" is a point in THB and EUR and a celebration in USD: a name has one kind"));
+}
+
+TEST(BookFaults, NameTheLinesOfATextInWhichTheRulesStand) {
+  EXPECT_THAT(FaultsOf(BookWithWeekends("point | A | table fast\npoint | B | easter\npoint | B | easter\n"
+                                        "celebration | B | 01-01\n"),
+                       {}, {4, 5, 7, 8, 11, 12}),
+              ElementsAre("Line 7 (A) asks for the table fast, and there is none of that name",
+                          "Line 11 (B) says the same as line 8",
+                          "\"B\" is a point in line 8 and a celebration in line 12: a name has one kind"));
 }
 
 TEST(BookFaultsBetweenBooks, AreNoneForSharedNamesOrFaultsWithinABook) {

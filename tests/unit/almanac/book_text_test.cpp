@@ -13,6 +13,7 @@ namespace ferrowind::almanac {
 namespace {
 
 using ::ferrowind::testing::FailureOf;
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 const std::string kHead = "publisher P\ndocument D\n";
@@ -108,9 +109,31 @@ TEST(BookText, NamesTheLineAndPlaceOfAWrongRule) {
                 "publisher, document or a rule \"kind | name | expression | comment\" is expected");
 }
 
+TEST(BookText, NamesEveryWrongLine) {
+  const BookReading reading = ReadWholeBook(
+      "publisher P\n# wrong lines follow\npoint | A | 12-32\npoint | B | 12-31\nnonsense\n\xFF\na\x01 | b\n"
+      "holiday | A | 01-01\n");
+  std::vector<std::size_t> lines;
+  for (const TextError& error : reading.errors) lines.push_back(error.Line());
+  EXPECT_THAT(lines, ElementsAre(3, 5, 6, 7, 8, 8));
+  EXPECT_EQ(reading.errors.back().Description(), "Line 8, at 1: the line \"document NAME\" is missing");
+  EXPECT_THAT(reading.lines, ElementsAre(4));
+  ASSERT_EQ(reading.book.rules.size(), 1U);
+  EXPECT_EQ(reading.book.rules[0].name, "B");
+}
+
+TEST(BookText, HasPlainLinesThatAreReadAsTheSameBook) {
+  const std::vector<std::string> lines = PlainLinesOf(SmallBook());
+  EXPECT_EQ(lines.front(), "publisher Bank of Gr\xC3\xBCn");
+  EXPECT_EQ(lines[2], "weekday | Saturday | weekday Saturday | Weekend");
+  std::string text;
+  for (const std::string& line : lines) text += line + '\n';
+  EXPECT_EQ(ReadBook(text), SmallBook());
+}
+
 TEST(BookText, NamesWhatItsHeadLacks) {
   ExpectRefused("", 1, 1, "the line \"publisher NAME\" is missing");
-  ExpectRefused("publisher P\n", 2, 1, "the line \"document NAME\" is missing");
+  ExpectRefused("publisher P\n", 1, 1, "the line \"document NAME\" is missing");
   ExpectRefused("publisher\n", 1, 10, "a name is expected");
   ExpectRefused(kHead + "document E\n", 3, 1, "there is a line \"document\" already");
   ExpectRefused("publishers P\n", 1, 1,

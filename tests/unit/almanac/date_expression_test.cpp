@@ -38,6 +38,7 @@ void ExpectRefused(const std::string& text, std::size_t place, const std::string
 constexpr const char* kBase = "a date such as 12-25, easter-2 or 1st Monday of 05";
 constexpr const char* kAnchor = "a date such as 05-18, easter or 4th Thursday of 11";
 constexpr const char* kMonth = "a month 01 to 12";
+constexpr const char* kMonthOfADate = "a month 01 to 12 (a date is MM-DD or YYYY-MM-DD)";
 constexpr const char* kDay = "a day of the month";
 constexpr const char* kYear = "a year 1900 to 2199";
 constexpr const char* kDays = "a number of days up to 366";
@@ -195,9 +196,9 @@ TEST(DateExpressionError, NamesThePlaceInTheBase) {
   ExpectRefused("  ", 3, kBase);
   ExpectRefused("christmas", 1, kBase);
   ExpectRefused("-12-25", 1, kBase);
-  ExpectRefused("13-01", 1, kMonth);
-  ExpectRefused("00-01", 1, kMonth);
-  ExpectRefused("1-01", 1, kMonth);
+  ExpectRefused("13-01", 1, kMonthOfADate);
+  ExpectRefused("00-01", 1, kMonthOfADate);
+  ExpectRefused("1-01", 1, kMonthOfADate);
   ExpectRefused("12", 3, "\"-\"");
   ExpectRefused("12 -25", 3, "\"-\"");
   ExpectRefused("12-32", 4, kDay);
@@ -276,6 +277,25 @@ TEST(DateExpressionError, NamesThePlaceInAMove) {
   ExpectRefused(
       "01-01 to monday to monday to monday to monday to monday to monday to monday to monday to monday", 87,
       "the end of at most 8 moves");
+}
+
+TEST(DateExpressionError, SaysThatAMoveStandsBeforeTheEnd) {
+  const std::string year = std::string(kYear) + " (a move stands before else, from and to)";
+  ExpectRefused("01-01 from 2020 to monday", 20, year);
+  ExpectRefused("01-01 else not observed to monday", 28, year);
+  ExpectRefused("01-01 else not observed to next free day", 28, year);
+}
+
+TEST(DateExpressionError, SaysHowADateIsWritten) {
+  ExpectRefused("28.02.2026", 1, kMonthOfADate);
+  ExpectRefused("26-02-28", 1, kMonthOfADate);
+}
+
+TEST(DateExpressionError, SaysWhatTheNameOfATableIsMadeOf) {
+  const std::string name = "the name of a table, of letters, digits and single hyphens,";
+  ExpectRefused("table Chinese_New_Year", 14, name);
+  ExpectRefused("table a--b", 9, "a number of days up to 366");
+  ExpectRefused("Monday after table a.b", 21, name);
 }
 
 TEST(DateExpressionError, NamesThePlaceInTheEnd) {
