@@ -1,13 +1,13 @@
 #include "host/admin/book_command.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <ostream>
 #include <vector>
 
 #include "ferrowind/almanac/book_text.h"
-#include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
 
+#include "host/admin/book_difference.h"
 #include "host/admin/book_shelf.h"
 #include "host/admin/book_source.h"
 #include "host/delivery/delivered_books.h"
@@ -27,24 +27,68 @@ std::string CountOf(const almanac::RuleBook& book) {
   return std::to_string(book.rules.size()) + (book.rules.size() == 1 ? " rule" : " rules");
 }
 
-/// The delivered book of that currency; of each when `code` is "ALL".
-std::vector<NamedBook> DeliveredFor(const std::string& code) {
-  std::vector<NamedBook> books = DeliveredBooks();
-  if (planning::MeansAllCurrencies(code)) return books;
-  for (NamedBook& book : books) {
-    if (platform::CompareIgnoringCase(book.name, code) == 0) return {std::move(book)};
-  }
-  throw Refused("No rule book is delivered for " + code);
+Failure TextIsOfOneBook(const std::string& currency) {
+  return Refused("A text is the book of one currency, and " + currency + " means all of them");
 }
 
-/// Stores the book unless it stands there already; what was done, in a sentence.
-std::string Store(const NamedBook& named, const BookShelf& shelf) {
-  const Currency& currency = shelf.Currencies().Named(named.name);
+/// The delivered books of the currency that `text` names, or of all, each for its currency on the shelf.
+std::vector<PlacedBook> DeliveredFor(const std::string& text, const BookShelf& shelf) {
+  std::vector<PlacedBook> placed;
+  const bool are_all = planning::MeansAllCurrencies(text);
+  const std::string code = are_all ? "" : shelf.Currencies().Named(text).code;
+  for (NamedBook& book : DeliveredBooks()) {
+    if (are_all || book.name == code) placed.push_back({shelf.Currencies().Named(book.name), book.book});
+  }
+  if (placed.empty()) throw Refused("No rule book is delivered for " + code);
+  return placed;
+}
+
+/// A failure unless the text of that state was made of the book that is stored.
+void RequireState(const std::string& state, const BookSource& source, const Currency& currency,
+                  const StoredBook* stored) {
+  if (stored != nullptr && stored->fingerprint == state) return;
+  throw Refused(
+      source.name + " was made of another state of the book of " + currency.code +
+      " than is stored now, so somebody may have changed the book meanwhile. \"book show\" it again "
+      "and make your changes in that text, or take the line \"# state ...\" out of yours to "
+      "replace the book all the same");
+}
+
+/// Stores the book unless it stands there already; what was done, in lines.
+void Store(const PlacedBook& placed, const std::optional<BookSource>& source, const BookShelf& shelf,
+           std::ostream& out) {
+  const Currency& currency = placed.currency;
   const StoredBook* const stored = shelf.Find(currency);
-  if (stored != nullptr && stored->book == named.book) return currency.code + " has this book already.";
-  planning::StoreBook(currency.id, currency.code, stored != nullptr ? stored->fingerprint : "", named.book);
-  return currency.code + " has a " + (stored != nullptr ? "new " : "") + "book of " + CountOf(named.book) +
-         " now.";
+  if (stored != nullptr && stored->book == placed.book) {
+    out << currency.code << " has this book already.\n";
+    return;
+  }
+  if (source && source->state) RequireState(*source->state, *source, currency, stored);
+  planning::StoreBook(currency.id, currency.code, stored != nullptr ? stored->fingerprint : "", placed.book);
+  if (stored != nullptr && stored->book) {
+    for (const std::string& line : DifferenceOf(*stored->book, placed.book)) out << line << '\n';
+  }
+  out << currency.code << " has a " << (stored != nullptr ? "new " : "") << "book of " << CountOf(placed.book)
+      << " now.\n";
+}
+
+/// What is wrong in the lines of the text.
+std::vector<std::string> FaultsOfLines(const BookSource& source) {
+  std::vector<std::string> faults;
+  for (const almanac::TextError& error : source.reading.errors) {
+    faults.push_back(source.name + ": " + error.Description());
+  }
+  return faults;
+}
+
+PlacedBook Placed(const BookSource& source, const Currency& currency) {
+  return {currency, source.reading.book, source.reading.lines, source.name};
+}
+
+ExitStatus TellFaults(const std::vector<std::string>& faults, std::ostream& errors) {
+  for (const std::string& fault : faults) errors << "ferrowindctl: " << fault << '\n';
+  errors << "ferrowindctl: nothing was changed\n";
+  return ExitStatus::kNotDone;
 }
 
 }  // namespace
@@ -53,11 +97,12 @@ ExitStatus BookShowCommand::Run(const platform::EngineRegistry& engines, std::os
   std::string text;
   RunWithDatabase(engines, url, [&] {
     const BookShelf shelf;
-    const StoredBook& stored = shelf.Get(shelf.Currencies().Named(currency));
+    const Currency& named = shelf.Currencies().Named(currency);
+    const StoredBook& stored = shelf.Get(named);
     if (!stored.book) {
-      throw Refused("The book of " + currency + " cannot be read: " + stored.faults.front());
+      throw Refused("The book of " + named.code + " cannot be read: " + stored.faults.front());
     }
-    text = almanac::WriteBook(*stored.book);
+    text = StateLine(stored.fingerprint) + almanac::WriteBook(*stored.book);
   });
   out << text;
   return ExitStatus::kDone;
@@ -66,43 +111,48 @@ ExitStatus BookShowCommand::Run(const platform::EngineRegistry& engines, std::os
 ExitStatus BookSetCommand::Run(const platform::EngineRegistry& engines, std::istream& in, std::ostream& out,
                                std::ostream& errors) const {
   if (is_delivered && file) throw Refused("A delivered book is not read from a file");
-  if (!is_delivered && planning::MeansAllCurrencies(currency))
-    throw Refused("A text is the book of one currency, not of all");
-  std::vector<NamedBook> books =
-      is_delivered ? DeliveredFor(currency)
-                   : std::vector<NamedBook>{{currency, ReadBookFrom(file.value_or(""), in)}};
+  if (!is_delivered && planning::MeansAllCurrencies(currency)) throw TextIsOfOneBook(currency);
+  std::optional<BookSource> source;
+  if (!is_delivered) {
+    source = ReadBookFrom(file.value_or(""), in);
+    if (!source->reading.errors.empty()) return TellFaults(FaultsOfLines(*source), errors);
+  }
   std::vector<std::string> faults;
   RunWithDatabase(engines, url, [&] {
     const BookShelf shelf;
-    for (NamedBook& book : books) book.name = shelf.Currencies().Named(book.name).code;
+    const std::vector<PlacedBook> books =
+        source ? std::vector{Placed(*source, shelf.Currencies().Named(currency))}
+               : DeliveredFor(currency, shelf);
     faults = shelf.FaultsWith(books);
     if (!faults.empty()) return;
-    for (const NamedBook& book : books) out << Store(book, shelf) << '\n';
+    for (const PlacedBook& book : books) Store(book, source, shelf, out);
   });
-  if (faults.empty()) return ExitStatus::kDone;
-  for (const std::string& fault : faults) errors << "ferrowindctl: " << fault << '\n';
-  errors << "Nothing was changed.\n";
-  return ExitStatus::kNotDone;
+  return faults.empty() ? ExitStatus::kDone : TellFaults(faults, errors);
 }
 
 ExitStatus BookCheckCommand::Run(const platform::EngineRegistry& engines, std::istream& in,
                                  std::ostream& out) const {
-  if (file && planning::MeansAllCurrencies(currency))
-    throw Refused("A text is the book of one currency, not of all");
-  std::optional<almanac::RuleBook> text;
-  if (file) text = ReadBookFrom(*file, in);
-  std::vector<std::string> codes;
+  const bool are_all = planning::MeansAllCurrencies(currency);
+  if (file && are_all) throw TextIsOfOneBook(currency);
+  std::optional<BookSource> source;
+  if (file) source = ReadBookFrom(*file, in);
+  std::size_t count = 1;
   std::vector<std::string> faults;
   RunWithDatabase(engines, url, [&] {
     const BookShelf shelf;
-    codes = planning::MeansAllCurrencies(currency)
-                ? shelf.Codes()
-                : std::vector<std::string>{shelf.Currencies().Named(currency).code};
-    faults = text ? shelf.FaultsWith({{codes.front(), *text}}) : shelf.FaultsOf(codes);
+    if (!source) {
+      const auto currencies = are_all ? shelf.WithBooks() : std::vector{shelf.Currencies().Named(currency)};
+      count = currencies.size();
+      faults = shelf.FaultsOf(currencies);
+      return;
+    }
+    const Currency& named = shelf.Currencies().Named(currency);
+    faults = FaultsOfLines(*source);
+    if (faults.empty()) faults = shelf.FaultsWith({Placed(*source, named)});
   });
   for (const std::string& fault : faults) out << fault << ".\n";
   if (!faults.empty()) return ExitStatus::kNotDone;
-  out << (codes.size() == 1 ? "The book is" : std::to_string(codes.size()) + " books are") << " in order.\n";
+  out << (count == 1 ? "The book is" : std::to_string(count) + " books are") << " in order.\n";
   return ExitStatus::kDone;
 }
 

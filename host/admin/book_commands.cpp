@@ -16,8 +16,12 @@ document, and a rule a line with kind, name, date expression and comment, in
 columns with "|" between them. "plan", "apply" and "review" go by it.
 
 show prints the book as a text, which set takes back from a file, or from
-standard input when FILE is "-" or missing. The whole text is checked first: each
-wrong line is named with its place, and nothing is stored then. check looks at
+standard input when FILE is "-" or missing. Comments of a text are not kept. The
+first line of what show prints, "# state ...", says which book it was: set refuses
+a text with that line when the book was changed since, and without it replaces
+whatever is stored. It prints the lines removed and added. The whole text is
+checked first: each wrong line is named with its place, and nothing is stored
+then. check looks at
 what is stored, or with FILE at a text as if it were the currency's book; its
 status is 1 when there is a fault. A name has one kind, and a celebration one
 date, in the books of all currencies.
@@ -27,7 +31,7 @@ database that was made before there were books; with one currency its book alone
 Every change has an entry in the history, and "undo" takes it back.)";
 
 constexpr const char* kUrl = "The database";
-constexpr const char* kCode = "The currency's code, such as EUR";
+constexpr const char* kCode = "The currency's code, such as EUR, or its number";
 
 void AddShow(CommandSet& commands, CLI::App& group) {
   const auto show = std::make_shared<BookShowCommand>();
@@ -46,7 +50,7 @@ void AddSet(CommandSet& commands, CLI::App& group) {
         return set->Run(surroundings.engines, std::cin, surroundings.out, surroundings.errors);
       });
   command.add_option("URL", set->url, kUrl)->required();
-  command.add_option("CCY", set->currency, "The currency's code; ALL with --delivered")->required();
+  command.add_option("CCY", set->currency, "The currency's code or number; ALL with --delivered")->required();
   command.add_option("FILE", set->file, "The text of the book");
   command.add_flag("--delivered", set->is_delivered, "The book that comes with the program");
 }
@@ -58,7 +62,7 @@ void AddCheck(CommandSet& commands, CLI::App& group) {
                                        return check->Run(surroundings.engines, std::cin, surroundings.out);
                                      });
   command.add_option("URL", check->url, kUrl)->required();
-  command.add_option("CCY", check->currency, "The currency's code, or ALL")->required();
+  command.add_option("CCY", check->currency, "The currency's code or number, or ALL")->required();
   command.add_option("FILE", check->file, "A text to look at instead of the stored book");
 }
 

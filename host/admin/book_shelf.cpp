@@ -1,6 +1,7 @@
 #include "host/admin/book_shelf.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "ferrowind/platform/values/failure.h"
 
@@ -13,19 +14,8 @@ using almanac::NamedBook;
 using planning::Currency;
 using planning::StoredBook;
 
-template <typename Range, typename Entry>
-bool Contains(const Range& range, const Entry& entry) {
-  return std::find(range.begin(), range.end(), entry) != range.end();
-}
-
-/// The faults between `books` and `others` that are not between `others` alone.
-void AddFaultsBetween(std::vector<NamedBook> books, const std::vector<NamedBook>& others,
-                      std::vector<std::string>& faults) {
-  const std::vector<std::string> known = almanac::FaultsBetween(others);
-  books.insert(books.end(), others.begin(), others.end());
-  for (const std::string& fault : almanac::FaultsBetween(books)) {
-    if (!Contains(known, fault)) faults.push_back(fault);
-  }
+void Append(std::vector<std::string> more, std::vector<std::string>& faults) {
+  faults.insert(faults.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
 }
 
 }  // namespace
@@ -47,50 +37,60 @@ const StoredBook& BookShelf::Get(const Currency& currency) const {
   return *stored;
 }
 
-std::vector<std::string> BookShelf::Codes() const {
-  std::vector<std::string> codes;
-  for (const StoredBook& stored : books_) codes.push_back(CodeOf(stored));
-  std::sort(codes.begin(), codes.end());
-  return codes;
+std::vector<Currency> BookShelf::WithBooks() const {
+  std::vector<Currency> currencies;
+  for (const StoredBook& stored : books_) currencies.push_back(CurrencyOf(stored));
+  std::sort(currencies.begin(), currencies.end(),
+            [](const Currency& left, const Currency& right) { return left.code < right.code; });
+  return currencies;
 }
 
-std::vector<std::string> BookShelf::FaultsWith(const std::vector<NamedBook>& placed) const {
+std::vector<std::string> BookShelf::FaultsWith(const std::vector<PlacedBook>& placed) const {
   std::vector<std::string> faults;
-  std::vector<std::string> codes;
-  for (const auto& [code, book] : placed) {
-    codes.push_back(code);
-    for (const std::string& fault : almanac::FaultsOf(book, DeliveredDateTables())) {
-      faults.push_back(code + ": " + fault);
+  std::set<std::int32_t> ids;
+  std::vector<NamedBook> named;
+  for (const auto& [currency, book, lines, source] : placed) {
+    ids.insert(currency.id);
+    named.push_back({currency.code, book, lines});
+    for (const std::string& fault : almanac::FaultsOf(book, DeliveredDateTables(), lines)) {
+      faults.push_back((source.empty() ? currency.code : source) + ": " + fault);
     }
   }
-  AddFaultsBetween(placed, Readable(codes), faults);
+  Append(almanac::FaultsBetween(named, Readable(ids)), faults);
   return faults;
 }
 
-std::vector<std::string> BookShelf::FaultsOf(const std::vector<std::string>& codes) const {
+std::vector<std::string> BookShelf::FaultsOf(const std::vector<Currency>& currencies) const {
   std::vector<std::string> faults;
+  std::set<std::int32_t> ids;
   std::vector<NamedBook> looked_at;
-  for (const std::string& code : codes) {
-    const StoredBook& stored = Get(currencies_.Named(code));
-    for (const std::string& fault : stored.faults) faults.push_back(code + ": " + fault);
-    if (stored.book) looked_at.push_back({code, *stored.book});
+  for (const Currency& currency : currencies) {
+    ids.insert(currency.id);
+    const StoredBook& stored = Get(currency);
+    for (const std::string& fault : stored.faults) faults.push_back(currency.code + ": " + fault);
+    if (stored.book) looked_at.push_back({currency.code, *stored.book});
   }
-  AddFaultsBetween(std::move(looked_at), Readable(codes), faults);
+  Append(almanac::FaultsBetween(looked_at, Readable(ids)), faults);
   return faults;
 }
 
-std::vector<NamedBook> BookShelf::Readable(const std::vector<std::string>& without) const {
+std::vector<NamedBook> BookShelf::Readable(const std::set<std::int32_t>& without) const {
   std::vector<NamedBook> books;
   for (const StoredBook& stored : books_) {
-    std::string code = CodeOf(stored);
-    if (stored.book && !Contains(without, code)) books.push_back({std::move(code), *stored.book});
+    if (stored.book && !without.contains(stored.currency)) {
+      books.push_back({CurrencyOf(stored).code, *stored.book});
+    }
   }
   return books;
 }
 
-std::string BookShelf::CodeOf(const StoredBook& stored) const {
-  const Currency* const currency = currencies_.Find(stored.currency);
-  return currency != nullptr ? currency->code : std::to_string(stored.currency);
+Currency BookShelf::CurrencyOf(const StoredBook& stored) const {
+  if (const Currency* const currency = currencies_.Find(stored.currency)) return *currency;
+  // Only a broken database has a book of no currency.
+  Currency unknown;
+  unknown.id = stored.currency;
+  unknown.code = std::to_string(stored.currency);
+  return unknown;
 }
 
 }  // namespace ferrowind::host

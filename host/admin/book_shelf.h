@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,6 +11,15 @@
 #include "ferrowind/planning/currency_list.h"
 
 namespace ferrowind::host {
+
+/// A book that is to be a currency's.
+struct PlacedBook {
+  planning::Currency currency;
+  almanac::RuleBook book;
+  /// Of a text the lines in which the rules stand, and what the text is called.
+  std::vector<std::size_t> lines = {};
+  std::string source = {};
+};
 
 /// The rule books of the calling thread's database as they were when this was made. All fail as
 /// ferrowind/planning/database_call.h says.
@@ -20,19 +32,20 @@ class BookShelf {
   [[nodiscard]] const planning::StoredBook* Find(const planning::Currency& currency) const;
   /// The same; no book is a failure that says so.
   [[nodiscard]] const planning::StoredBook& Get(const planning::Currency& currency) const;
-  /// The codes of the currencies that have a book, in their order.
-  [[nodiscard]] std::vector<std::string> Codes() const;
+  /// Those that have a book, ordered by code.
+  [[nodiscard]] std::vector<planning::Currency> WithBooks() const;
 
-  /// What is wrong with the books `placed` and would be wrong between them and the rest of the shelf, if they
-  /// stood in it: sentences without a full stop, each with the code of the book in front.
-  [[nodiscard]] std::vector<std::string> FaultsWith(const std::vector<almanac::NamedBook>& placed) const;
+  /// What is wrong with the books `placed`, and would be wrong between them and the rest of the shelf, if
+  /// they stood in it: sentences without a full stop, with the code of the book in front when the fault is
+  /// its own.
+  [[nodiscard]] std::vector<std::string> FaultsWith(const std::vector<PlacedBook>& placed) const;
   /// What is wrong with the stored books of these currencies, and between them and any other.
-  [[nodiscard]] std::vector<std::string> FaultsOf(const std::vector<std::string>& codes) const;
+  [[nodiscard]] std::vector<std::string> FaultsOf(const std::vector<planning::Currency>& currencies) const;
 
  private:
   /// Those that can be read, but for the ones of the currencies `without`.
-  [[nodiscard]] std::vector<almanac::NamedBook> Readable(const std::vector<std::string>& without) const;
-  [[nodiscard]] std::string CodeOf(const planning::StoredBook& stored) const;
+  [[nodiscard]] std::vector<almanac::NamedBook> Readable(const std::set<std::int32_t>& without) const;
+  [[nodiscard]] planning::Currency CurrencyOf(const planning::StoredBook& stored) const;
 
   planning::CurrencyList currencies_;
   std::vector<planning::StoredBook> books_;

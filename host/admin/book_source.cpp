@@ -6,8 +6,10 @@
 #include <cstring>
 #include <fstream>
 #include <istream>
+#include <sstream>
+#include <string_view>
 
-#include "ferrowind/almanac/book_text.h"
+#include "ferrowind/almanac/text_lines.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::host {
@@ -16,6 +18,7 @@ namespace {
 using platform::Failure;
 
 constexpr const char* kStandardInput = "-";
+constexpr std::string_view kState = "# state ";
 
 [[noreturn]] void RefuseToRead(const std::string& name, int error) {
   throw Failure(platform::failure_number::kInvalidArgument,
@@ -34,25 +37,32 @@ std::string ReadAll(std::istream& in, const std::string& name) {
   return text;
 }
 
-almanac::RuleBook ReadText(const std::string& text, const std::string& name) {
-  try {
-    return almanac::ReadBook(text);
-  } catch (const Failure& failure) {
-    throw Failure(failure.Number(), name + ": " + failure.Description());
+/// What the first line that begins as a `StateLine` does says.
+std::optional<std::string> StateIn(const std::string& text) {
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    const std::string_view whole = almanac::WithoutOuterBlanks(line);
+    if (whole.starts_with(kState)) {
+      return std::string(almanac::WithoutOuterBlanks(whole.substr(kState.size())));
+    }
   }
+  return std::nullopt;
 }
 
 }  // namespace
 
-almanac::RuleBook ReadBookFrom(const std::string& file, std::istream& in) {
-  if (file.empty() || file == kStandardInput) {
-    const std::string name = "Standard input";
-    return ReadText(ReadAll(in, name), name);
-  }
+BookSource ReadBookFrom(const std::string& file, std::istream& in) {
+  const auto read = [](std::istream& from, const std::string& name) {
+    const std::string text = ReadAll(from, name);
+    return BookSource{name, almanac::ReadWholeBook(text), StateIn(text)};
+  };
+  if (file.empty() || file == kStandardInput) return read(in, "Standard input");
   errno = 0;
   std::ifstream opened(file, std::ios::binary);
   if (!opened) RefuseToRead(file, errno);
-  return ReadText(ReadAll(opened, file), file);
+  return read(opened, file);
 }
+
+std::string StateLine(const std::string& fingerprint) { return std::string(kState) + fingerprint + '\n'; }
 
 }  // namespace ferrowind::host

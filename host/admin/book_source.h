@@ -1,15 +1,27 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 
-#include "ferrowind/almanac/rule_book.h"
+#include "ferrowind/almanac/book_text.h"
 
 namespace ferrowind::host {
 
-/// The book whose text the file holds, or `in` when `file` is empty or "-". What cannot be read, and a text
-/// that is no book, are a `platform::Failure` that names the file, and of a text the line and the place in
-/// it.
-[[nodiscard]] almanac::RuleBook ReadBookFrom(const std::string& file, std::istream& in);
+/// The text of a book that an operator gave.
+struct BookSource {
+  /// What messages call it: the file, or "Standard input".
+  std::string name;
+  almanac::BookReading reading;
+  /// The fingerprint in the text's line `StateLine`: which stored book the text was made of.
+  std::optional<std::string> state;
+};
+
+/// The text that the file holds, or `in` when `file` is empty or "-". What cannot be read is a
+/// `platform::Failure` that names the file; what is wrong in the text is left to the reading.
+[[nodiscard]] BookSource ReadBookFrom(const std::string& file, std::istream& in);
+
+/// The line, a comment, which tells of what stored book a text is made.
+[[nodiscard]] std::string StateLine(const std::string& fingerprint);
 
 }  // namespace ferrowind::host

@@ -34,20 +34,22 @@ void MakeCalendar(const planning::Currency& currency, int year, const almanac::P
 Delivery Deliver(int first_year, const DeliveryObserver& observe) {
   const auto currencies = planning::CurrencyList::Load();
   std::vector<almanac::NamedBook> books = DeliveredBooks();
-  for (const auto& [code, book] : books) planning::StoreBook(currencies.Named(code).id, code, "", book);
+  for (const almanac::NamedBook& named : books) {
+    planning::StoreBook(currencies.Named(named.name).id, named.name, "", named.book);
+  }
 
   Delivery delivery;
   delivery.first_year = first_year;
   delivery.last_year = first_year + kYears - 1;
   std::size_t done = 0;
   const std::size_t total = books.size() * kYears;
-  for (auto& [code, book] : books) {
-    const almanac::Planner planner(std::move(book), DeliveredDateTables());
+  for (almanac::NamedBook& named : books) {
+    const almanac::Planner planner(std::move(named.book), DeliveredDateTables());
     for (int year = delivery.first_year; year <= delivery.last_year; ++year) {
       if (observe) observe(done++, total);
-      MakeCalendar(currencies.Named(code), year, planner, delivery.unknown);
+      MakeCalendar(currencies.Named(named.name), year, planner, delivery.unknown);
     }
-    delivery.currencies.push_back(code);
+    delivery.currencies.push_back(named.name);
   }
   return delivery;
 }

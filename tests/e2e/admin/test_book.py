@@ -61,7 +61,48 @@ class BookTests:
         self.assertRegex(shown, r"\ncelebration +\| Midsummer Day +\| 06-24 to next free day +\| 24 June +\| Midsummer Holiday\n")
         self.assertEqual(self.set_book("SEK", shown), "SEK has this book already.\n")
         self.assertEqual(self.history(), ["CldIUBook"])
-        self.assertEqual(self.set_book("SEK", BOOK + "point | Fair | 2028-03-01 |\n"), "SEK has a new book of 5 rules now.\n")
+        self.assertEqual(self.set_book("SEK", BOOK + "point | Fair | 2028-03-01 |\n"),
+                         "+ point | Fair | 2028-03-01 |\nSEK has a new book of 5 rules now.\n")
+
+    def test_prints_the_lines_that_are_removed_and_added(self):
+        self.set_book("SEK", BOOK)
+        lines = BOOK.replace("Small Bank", "Big Bank").replace("  ", " ").splitlines()
+        # Good Friday before New Year's Day, and Midsummer Day for another day.
+        lines[5], lines[6] = lines[6], lines[5]
+        lines[7] = lines[7].replace("06-24", "06-23")
+        output = self.set_book("SEK", "\n".join(lines))
+        self.assertEqual(output, "- publisher Small Bank\n+ publisher Big Bank\n"
+                                 "+ point | Good Friday | easter-2 |\n"
+                                 "- point | Good Friday | easter-2 |\n"
+                                 "- celebration | Midsummer Day | 06-24 to next free day | 24 June | Midsummer Holiday\n"
+                                 "+ celebration | Midsummer Day | 06-23 to next free day | 24 June | Midsummer Holiday\n"
+                                 "SEK has a new book of 4 rules now.\n")
+
+    def test_does_not_overwrite_what_another_has_changed_since_the_text_was_shown(self):
+        self.set_book("SEK", BOOK)
+        one = self.show("SEK")
+        self.assertRegex(one, r"\A# state \S+\npublisher ")
+        self.set_book("SEK", one + "point | Fair | 2028-03-01 |\n")
+        other = one + "point | Market | 2028-03-02 |\n"
+        stored = self.books()
+        _, errors = self.assert_run(NOT_DONE, "book", "set", self.database, "SEK", self.write(other))
+        self.assertIn("another state of the book of SEK", errors)
+        self.assertIn('"book show" it again', errors)
+        # Nor is it the book of a currency that has none.
+        self.assertIn("another state", self.assert_run(NOT_DONE, "book", "set", self.database, "DKK", self.path("book.txt"))[1])
+        self.assertEqual(self.books(), stored)
+        output = self.set_book("SEK", other.partition("\n")[2])
+        self.assertEqual(output, "- point | Fair | 2028-03-01 |\n+ point | Market | 2028-03-02 |\nSEK has a new book of 5 rules now.\n")
+
+    def test_takes_the_number_for_the_currency_whose_code_means_all(self):
+        self.assertEqual(self.assert_run(DONE, "book", "set", self.database, "008", self.write(BOOK))[0],
+                         "ALL has a book of 4 rules now.\n")
+        self.assertEqual(self.show("8"), self.show("008"))
+        self.assertEqual(self.assert_run(DONE, "book", "check", self.database, "8")[0], "The book is in order.\n")
+        self.assertEqual(self.assert_run(DONE, "book", "check", self.database, "ALL")[0], "The book is in order.\n")
+        for command in (("book", "show", self.database, "ALL"), ("plan", self.database, "all", "2028"),
+                        ("why", self.database, "ALL", "2028-01-01")):
+            self.assertIn("means all currencies, and here it takes one; write 8 ", self.assert_run(NOT_DONE, *command)[1])
 
     def test_reads_standard_input_too(self):
         for arguments in ((), ("-",)):
@@ -76,11 +117,31 @@ class BookTests:
         self.assertIn("Line 9, at ", self.refuse_book("SEK", BOOK + "holiday | A | 01-02 |\n"))
         self.assertIn("Line 1", self.refuse_book("SEK", ""))
 
+    def test_names_every_wrong_line_of_a_text(self):
+        wrong = BOOK.replace("weekday Sunday", "weekday Sonntag").replace("01-01", "13-01") + "nonsense\n"
+        errors = self.refuse_book("SEK", wrong)
+        file = self.path("book.txt")
+        self.assertEqual([line.partition(", at")[0] for line in errors.splitlines()],
+                         [f"ferrowindctl: {file}: Line {line}" for line in (5, 6, 9)] + ["ferrowindctl: nothing was changed"])
+        output = ferrowindctl.run("book", "check", self.database, "SEK", file).stdout.decode()
+        self.assertEqual(errors.replace("ferrowindctl: ", "").splitlines()[:-1], [line[:-1] for line in output.splitlines()])
+
+    def test_names_the_lines_behind_the_faults_of_a_book(self):
+        errors = self.refuse_book("SEK", BOOK + "\n\npoint | Fair | table no-such-table |\n")
+        self.assertIn(f"{self.path('book.txt')}: Line 11 (Fair) asks for the table no-such-table", errors)
+
+    def test_tells_a_clash_with_several_books_once(self):
+        for currency in ("SEK", "DKK", "NOK", "EUR"):
+            self.set_book(currency, BOOK)
+        errors = self.refuse_book("USD", BOOK.replace("celebration | New Year's Day", "point | New Year's Day"))
+        self.assertEqual(errors, "ferrowindctl: \"New Year's Day\" is a point in line 6 of USD and a celebration in "
+                                 "DKK, NOK and 2 others: a name has one kind\nferrowindctl: nothing was changed\n")
+
     def test_names_every_fault_of_a_book(self):
         errors = self.refuse_book("SEK", BOOK.replace("01-01 ", "easter") + "point | Fair | table no-such-table |\n")
         self.assertIn("New Year's Day", errors)
         self.assertIn("no-such-table", errors)
-        self.assertIn("Nothing was changed.", errors)
+        self.assertIn("ferrowindctl: nothing was changed\n", errors)
 
     def test_stores_no_book_that_opens_weekends_or_names_the_built_in_rule(self):
         head = "publisher P\ndocument D\n"
