@@ -27,10 +27,10 @@ WITH AsLeft AS (
   WHERE r.EntryID = :EntryID
   GROUP BY r.RowNumber
   UNION ALL
-  -- The days of a calendar that the call made.
+  -- The days of a calendar that the call made. From its row to theirs, not through all days that were ever replaced.
   SELECT l.TableName, l.ID1, l.Year1, l.Day1, NULL, NULL, l.OldRow, min(l.EntryID)
   FROM CldHistoryRow r
-    JOIN CldHistoryRow l ON l.TableName = 'CldDay' AND l.ID1 = r.ID1 AND l.Year1 = r.Year1 AND l.EntryID > r.EntryID
+    CROSS JOIN CldHistoryRow l ON l.TableName = 'CldDay' AND l.ID1 = r.ID1 AND l.Year1 = r.Year1 AND l.EntryID > r.EntryID
   WHERE r.EntryID = :EntryID AND r.TableName = 'CldCalendar' AND r.OldRow IS NULL
   GROUP BY l.Day1
 ), Now AS (

@@ -88,7 +88,8 @@ SELECT c.Ccy, k.Year1 AS Year
 FROM CldCalendar k JOIN DicCcy c ON c.CcyID = k.ID1;
 
 CREATE VIEW CalendarDay AS
-SELECT c.Ccy, d.Year1 AS Year, d.ODate AS Date, d.TID1 = 1 AS IsWorkingDay, t.Description1 AS Type, h.Name1 AS Rule, d.Comment
+SELECT c.Ccy, d.Year1 AS Year, d.ODate AS Date, d.TID1 = 1 AS IsWorkingDay, t.Description1 AS Type,
+  h.Name1 COLLATE BINARY AS Rule, d.Comment
 FROM CldDay d
   JOIN DicCcy c ON c.CcyID = d.ID1
   JOIN CldHolidayType t ON t.TID1 = d.TID1

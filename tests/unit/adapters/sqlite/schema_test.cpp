@@ -1,11 +1,15 @@
 // The constraints that keep wrong rows out, whoever writes them.
 
+#include <memory>
 #include <string>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
+#include "ferrowind/adapters/sql_script/statement_splitter.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -147,6 +151,66 @@ TEST_F(SchemaTest, OthersReadTheCalendarsInViewsAndByDate) {
             "EUR|2026|2026-01-05|0|Holiday|Sunday|c|EUR|2026|2026-01-06|1|Working day|||");
   EXPECT_THAT(row("EXPLAIN QUERY PLAN SELECT * FROM CldDay WHERE ODate = '2026-01-05'"),
               HasSubstr("CldDayByDate"));
+}
+
+TEST_F(SchemaTest, AnUndoReadsOfTheHistoryOnlyTheDaysThatItAsksFor) {
+  const DatabaseHandle database(database_.Path());
+  const auto undo = ProcedureCatalogue(database).Find("CldUndo");
+  ASSERT_TRUE(undo);
+  std::size_t searches = 0;
+  for (const auto& statement : sql_script::SplitStatements(undo->body)) {
+    Statement ask(database, "EXPLAIN QUERY PLAN " + std::string(statement.text));
+    while (ask.Step()) {
+      const std::string step(ask.Text(3));
+      if (!step.starts_with("SEARCH l ")) continue;
+      EXPECT_THAT(step, HasSubstr("CldHistoryRowByKey (TableName=? AND ID1=? AND Year1=?"));
+      ++searches;
+    }
+  }
+  EXPECT_EQ(searches, 3U);
+}
+
+/// Of a program that has SQLite and nothing of ours.
+class BareDatabase {
+ public:
+  explicit BareDatabase(const std::string& path) {
+    sqlite3* database = nullptr;
+    EXPECT_EQ(sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
+    database_.reset(database);
+  }
+
+  /// The cells of all rows, or SQLite's message.
+  std::string Read(const std::string& query) {
+    std::string cells;
+    const auto add_row = [](void* to, int columns, char** texts, char** /*names*/) {
+      for (int column = 0; column < columns; ++column) {
+        *static_cast<std::string*>(to) += std::string(texts[column] ? texts[column] : "") + '|';
+      }
+      return 0;
+    };
+    const int result = sqlite3_exec(database_.get(), query.c_str(), add_row, &cells, nullptr);
+    return result == SQLITE_OK ? cells : sqlite3_errmsg(database_.get());
+  }
+
+ private:
+  struct Close {
+    void operator()(sqlite3* database) const { sqlite3_close(database); }
+  };
+  std::unique_ptr<sqlite3, Close> database_;
+};
+
+TEST_F(SchemaTest, AnyProgramCanReadTheViews) {
+  database_.Execute("UPDATE CldDay SET TID1 = 2, ID2 = 2, Comment = 'c' WHERE Day1 = 5");
+  BareDatabase database(database_.Path());
+  const std::string of_one_day = " FROM CalendarDay WHERE Date = '2026-01-05'";
+  const std::string day = "EUR|2026|2026-01-05|0|Holiday|Sunday|c|";
+  EXPECT_EQ(database.Read("SELECT Ccy, Year FROM CalendarList"), "EUR|2026|");
+  EXPECT_EQ(database.Read("SELECT *" + of_one_day), day);
+  EXPECT_EQ(database.Read("SELECT DISTINCT Ccy, Year, Date, IsWorkingDay, Type, Rule, Comment" + of_one_day),
+            day);
+  EXPECT_EQ(database.Read("SELECT Date FROM CalendarDay WHERE Rule = 'Sunday'"), "2026-01-05|");
+  EXPECT_EQ(database.Read("SELECT Rule, count(*) FROM CalendarDay GROUP BY Rule ORDER BY Rule"),
+            "|364|Sunday|1|");
 }
 
 TEST_F(SchemaTest, ACatalogueRowIsWhatTheEngineCanRead) {
