@@ -264,6 +264,18 @@ class BookInspection {
       Add("neither moves nor is dropped: it is a working day, a weekday or a day between holidays");
     } else if (expression.moves.empty() && !rule.moved_name.empty()) {
       Add("names its moved day, but does not move");
+    } else {
+      InspectTargets(expression);
+    }
+  }
+
+  /// The weekday that is nearest to a day is the day itself when it is that weekday.
+  void InspectTargets(const DateExpression& expression) {
+    for (const Move& move : expression.moves) {
+      const int weekday = move.target.weekday;
+      if (move.target.direction != Direction::kNearest || !move.weekdays.Contains(weekday)) continue;
+      const std::string name(WeekdayName(weekday));
+      Add("moves off a " + name + " to the nearest " + name + ", which is the same day");
     }
   }
 

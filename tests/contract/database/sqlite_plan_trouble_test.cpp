@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <latch>
 #include <random>
 #include <string>
 #include <thread>
@@ -170,21 +171,23 @@ TEST_F(SqlitePlanTrouble, APlanAndAnUndoThatAreKilledAreThereWhollyOrNotAtAll) {
   EXPECT_LT(done, kRounds);
 }
 
-/// Another operator changes the calendar between any two steps of this one.
+/// Both have seen the same content. Each waits for the other before it calls, so that their calls overlap.
 TEST_F(SqlitePlanTrouble, OfTwoPlansForOneContentOneIsApplied) {
   ASSERT_EQ(Apply(1), 0);
   const std::string seen = Fingerprint();
+  std::latch ready(2);
   const auto apply = [&](int number) {
-    return caller_.Return("CldApplyPlan",
-                          {{"ID1", kEuro}, {"Year1", 2028}, {"Expected", seen}, {"Days", WholeYear(number)}});
+    const std::string days = WholeYear(number);
+    const auto connection = database_.Engine().Connect(database_.ConnectionString());
+    (void)connection->DescribeProcedure("CldApplyPlan");
+    ready.arrive_and_wait();
+    return CallOver(*connection, "CldApplyPlan",
+                    {{"ID1", kEuro}, {"Year1", 2028}, {"Expected", seen}, {"Days", days}})
+        .return_value;
   };
   int outcomes[2] = {-1, -1};
   {
-    std::thread other([&] {
-      ProcedureCaller caller(database_);
-      outcomes[0] = caller.Return(
-          "CldApplyPlan", {{"ID1", kEuro}, {"Year1", 2028}, {"Expected", seen}, {"Days", WholeYear(2)}});
-    });
+    std::thread other([&] { outcomes[0] = apply(2); });
     outcomes[1] = apply(3);
     other.join();
   }

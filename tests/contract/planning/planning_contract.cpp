@@ -2,6 +2,8 @@
 
 #include "tests/contract/planning/planning_contract.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <set>
@@ -130,6 +132,24 @@ class PlannedDatabase {
         for (rules->MoveFirst(); !rules->Eof(); rules->MoveNext()) Assign(id, *rules);
       }
     });
+  }
+
+  /// Makes every day of the calendar of `kYear` a working day by exception, with a comment.
+  static void MakeEveryDayAnException(const std::string& code) {
+    const YearPlanner planner(host::DeliveredDateTables());
+    const std::int32_t id = planner.Currencies().Named(code).id;
+    std::string dates;
+    for (Date day(kYear, 1, 1); day.Year() == kYear; day = day.AddDays(1)) {
+      dates += (dates.empty() ? "\"" : ", \"") + day.ToIso() + '"';
+    }
+    const auto fingerprint =
+        CallDatabase("Reading", "CldGetFingerprint", Parameters({{"ID1", id}, {"Year1", kYear}}), 1);
+    (void)CallDatabase(
+        "Filling", "CldApplyPlan",
+        Parameters({{"ID1", id},
+                    {"Year1", kYear},
+                    {"Expected", (*fingerprint.record_sets.front())["Fingerprint"]},
+                    {"Days", R"([{"TID1": 1, "DayComment": "open", "Dates": [)" + dates + "]}]"}}));
   }
 
   /// The newest entries, the newest first.
@@ -265,6 +285,41 @@ TEST_P(PlanningContract, RepairsWithOneCallACalendarEachToWhichAllRulesWereAssig
 
   for (std::size_t i = 0; i + 1 < entries.size(); ++i) database.Undo(entries[i]);
   EXPECT_EQ(database.Calendars(), mess);
+}
+
+TEST_P(PlanningContract, RepairsACalendarFullOfExceptionsOrKeepsThemAllAndUndoBringsThemBack) {
+  PlannedDatabase database(GetParam());
+  ASSERT_EQ(database.ApplyPlans(2026, kYear), 15);
+  const auto right = database.Names();
+  database.Run([] { PlannedDatabase::MakeEveryDayAnException("EUR"); });
+  const auto full = database.Calendars();
+  std::size_t closed = 0;
+  for (const auto& [day, name] : database.Names()) {
+    if (day.first == "EUR" && right.at(day) != name && !right.at(day).IsEmpty()) ++closed;
+  }
+  ASSERT_GT(closed, 100U) << "weekends and holidays";
+
+  const auto review = database.Review();
+  ASSERT_EQ(review.Worst(), FindingLevel::kError);
+  EXPECT_THAT(review.findings.front().sentence, HasSubstr("no weekends"));
+  database.Run([&] {
+    const YearPlanner planner(host::DeliveredDateTables());
+    const auto preparation = planner.Prepare(planner.Currencies().Named("EUR"), kYear);
+    EXPECT_FALSE(preparation->Changes(ExceptionHandling::kKeep));
+    const auto& days = preparation->Compared().Days();
+    EXPECT_EQ(std::count_if(days.begin(), days.end(),
+                            [](const auto& day) { return day.action == almanac::PlanAction::kException; }),
+              static_cast<std::ptrdiff_t>(closed));
+    EXPECT_TRUE(PlannedDatabase::ApplyPlan("EUR", kYear));
+    EXPECT_FALSE(PlannedDatabase::ApplyPlan("EUR", kYear));
+  });
+  // An exception on a day that is open anyway does no harm and stays, with what was written on it.
+  for (const auto& [day, name] : database.Names()) {
+    if (!right.at(day).IsEmpty()) EXPECT_EQ(name, right.at(day)) << day.second.ToIso();
+  }
+  EXPECT_THAT(database.Review().findings, IsEmpty());
+  database.Undo(database.NewestEntries(1).front());
+  EXPECT_EQ(database.Calendars(), full);
 }
 
 }  // namespace

@@ -150,6 +150,15 @@ TEST(BookFaults, TellOfMovesThatMeanNothing) {
   EXPECT_THAT(FaultsOfRules("working day | A | 2026-02-14 to monday\n"), ElementsAre(fault));
 }
 
+TEST(BookFaults, TellOfAMoveToTheDayItself) {
+  const std::string fault = "Rule 3 (A) moves off a Saturday to the nearest Saturday, which is the same day";
+  EXPECT_THAT(FaultsOfRules("point | A | 12-24 saturday to saturday\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | 12-24 taken to monday saturday, sunday to saturday\n"),
+              ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | 12-24 saturday to next saturday sunday to previous sunday\n"),
+              IsEmpty());
+}
+
 TEST(BookFaults, TellOfANameForAMovedDayThatIsNone) {
   EXPECT_THAT(FaultsOfRules("celebration | A | 01-01 | | B\n"),
               ElementsAre("Rule 3 (A) names its moved day, but does not move"));
