@@ -25,9 +25,12 @@ class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<Calendar
  protected:
   void SetUp() override {
     database_ = GetParam().make();
-    caller_.emplace(*database_);
+    caller_.emplace(*database_, kCallsPerConnection);
   }
-  void TearDown() override { EXPECT_TRUE(database_->IsSound()); }
+  void TearDown() override {
+    caller_.reset();
+    EXPECT_TRUE(database_->IsSound());
+  }
 
   [[nodiscard]] CalendarDatabaseUnderTest& database() { return *database_; }
   [[nodiscard]] ProcedureCaller& caller() { return *caller_; }
@@ -68,6 +71,10 @@ class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<Calendar
   }
 
  private:
+  /// So that opening connections is not most of the time, and every longer test still goes from one to the
+  /// next.
+  static constexpr int kCallsPerConnection = 5;
+
   std::int32_t Add(const Arguments& arguments) {
     EXPECT_EQ(caller().Return("CldIUCelebrate", arguments), 0);
     return *Rules().back().at(0).If<std::int32_t>();

@@ -1,8 +1,12 @@
 // What CldUndo does.
 
+#include <cstdio>
+#include <random>
+
 #include <gmock/gmock.h>
 
 #include "tests/contract/database/procedures_contract.h"
+#include "tests/contract/database/random_calls.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -79,6 +83,31 @@ TEST_P(ProceduresContract, UndoPutsBackWhatACallChangedAndCanBeUndoneItself) {
     EXPECT_EQ(Undo(entry), 9) << what << " is undone already";
     EXPECT_EQ(Content(), before) << what;
   }
+}
+
+TEST_P(ProceduresContract, UndoPutsBackWhatAnyOfManyRandomCallsChanged) {
+  const auto seed = std::random_device()();
+  RecordProperty("seed", std::to_string(seed));
+  std::printf("The calls come from the seed %u\n", seed);
+  RandomCalls calls(caller(), seed);
+  auto before = Content();
+  int undone = 0;
+  for (int call = 0; call < 80; ++call) {
+    const auto entry = LastEntry();
+    calls.Make();
+    if (LastEntry() == entry) continue;
+    const auto after = Content();
+    const int outcome = Undo(entry + 1);
+    ASSERT_EQ(outcome, after == before ? 9 : 0) << "call " << call;
+    if (outcome != 0) continue;
+    ASSERT_EQ(Content(), before) << "call " << call;
+    ASSERT_EQ(Undo(entry + 2), 0) << "call " << call;
+    before = after;
+    ++undone;
+  }
+  // What was undone and done again is as it was after the last call.
+  EXPECT_EQ(Content(), before);
+  EXPECT_GT(undone, 10);
 }
 
 TEST_P(ProceduresContract, UndoPutsBackAWholePlan) {
