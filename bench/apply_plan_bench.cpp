@@ -3,13 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include <sqlite3.h>
-#include <stdlib.h>
 
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
@@ -17,11 +15,13 @@
 #include "ferrowind/platform/values/date.h"
 
 #include "bench/measurement.h"
+#include "bench/temporary_folder.h"
 
 namespace {
 
 using ferrowind::bench::Benchmark;
 using ferrowind::bench::KeepResult;
+using ferrowind::bench::TemporaryFolder;
 using ferrowind::platform::CallOutcome;
 using ferrowind::platform::Date;
 using ferrowind::platform::Value;
@@ -31,23 +31,6 @@ constexpr int kDollar = 840;
 /// Of these the rules 2 and 3 are Saturday and Sunday, and the holidays follow.
 constexpr int kFirstHoliday = 4;
 constexpr int kHolidays = 11;
-
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("cannot make " + path_);
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  [[nodiscard]] std::string File() const { return path_ + "/calendars.db"; }
-
- private:
-  std::string path_ = std::filesystem::temp_directory_path() / "ferrowind-bench-XXXXXX";
-};
 
 class Calendars {
  public:

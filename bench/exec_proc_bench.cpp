@@ -3,13 +3,11 @@
 // cells.
 
 #include <cstddef>
-#include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
 #include <sqlite3.h>
-#include <stdlib.h>
 
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
@@ -17,6 +15,7 @@
 
 #include "bench/calendar_calls.h"
 #include "bench/measurement.h"
+#include "bench/temporary_folder.h"
 #include "host/session/procedure_session.h"
 
 namespace {
@@ -25,23 +24,7 @@ using ferrowind::bench::Benchmark;
 using ferrowind::bench::KeepResult;
 using ferrowind::bench::kEuro;
 using ferrowind::bench::kYear;
-
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("cannot make " + path_);
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  [[nodiscard]] std::string File() const { return path_ + "/calendars.db"; }
-
- private:
-  std::string path_ = std::filesystem::temp_directory_path() / "ferrowind-bench-XXXXXX";
-};
+using ferrowind::bench::TemporaryFolder;
 
 void Require(bool is_true, sqlite3* database) {
   if (!is_true) throw std::runtime_error(sqlite3_errmsg(database));

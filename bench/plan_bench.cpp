@@ -2,22 +2,23 @@
 // QuantLib.
 
 #include <cstddef>
+#include <ql/time/calendars/japan.hpp>
 #include <ql/time/calendars/target.hpp>
+#include <ql/time/calendars/unitedkingdom.hpp>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "ferrowind/almanac/book_text.h"
-#include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/planner.h"
 
 #include "bench/measurement.h"
-#include "database/seed/delivered_books.h"
+#include "host/delivery/delivered_books.h"
+#include "host/delivery/delivered_tables.h"
 
 namespace {
 
-using ferrowind::almanac::DateTables;
 using ferrowind::almanac::PlannedDay;
 using ferrowind::almanac::Planner;
 using ferrowind::almanac::RuleKind;
@@ -29,12 +30,8 @@ constexpr int kFirstYear = 2015;
 constexpr int kLastYear = 2030;
 
 Planner PlannerOf(std::string_view currency) {
-  DateTables tables;
-  for (const auto& table : ferrowind::embedded::DeliveredTables()) {
-    tables.Add(ferrowind::almanac::ReadDateTable(std::string(table.name), table.text));
-  }
-  for (const auto& book : ferrowind::embedded::DeliveredBooks()) {
-    if (book.name == currency) return {ferrowind::almanac::ReadBook(book.text), tables};
+  for (auto& [name, book] : ferrowind::host::DeliveredBooks()) {
+    if (name == currency) return {std::move(book), ferrowind::host::DeliveredDateTables()};
   }
   throw std::runtime_error("no delivered book " + std::string(currency));
 }
@@ -86,6 +83,10 @@ void MeasurePlan(const Benchmark& benchmark, const std::string& currency,
 }  // namespace
 
 int main(int argc, char** argv) {
-  return ferrowind::bench::RunBenchmark(
-      argc, argv, [](const Benchmark& benchmark) { MeasurePlan(benchmark, "EUR", QuantLib::TARGET()); });
+  return ferrowind::bench::RunBenchmark(argc, argv, [](const Benchmark& benchmark) {
+    MeasurePlan(benchmark, "EUR", QuantLib::TARGET());
+    // Substitutes, which look at other holidays; and equinoxes, days between holidays.
+    MeasurePlan(benchmark, "GBP", QuantLib::UnitedKingdom(QuantLib::UnitedKingdom::Settlement));
+    MeasurePlan(benchmark, "JPY", QuantLib::Japan());
+  });
 }

@@ -3,24 +3,22 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
 #include <sqlite3.h>
-#include <stdlib.h>
 
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
-#include "ferrowind/almanac/book_text.h"
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/database_review.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/database/engine_registry.h"
 
 #include "bench/measurement.h"
-#include "database/seed/delivered_books.h"
+#include "bench/temporary_folder.h"
+#include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
 #include "host/session/procedure_session.h"
 
@@ -28,35 +26,17 @@ namespace {
 
 using ferrowind::bench::Benchmark;
 using ferrowind::bench::KeepResult;
+using ferrowind::bench::TemporaryFolder;
 
 constexpr int kFirstYear = 2015;
 constexpr int kLastYear = 2064;
 const ferrowind::platform::Date kToday(2026, 11, 22);
 
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("cannot make " + path_);
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  [[nodiscard]] std::string File() const { return path_ + "/calendars.db"; }
-
- private:
-  std::string path_ = std::filesystem::temp_directory_path() / "ferrowind-bench-XXXXXX";
-};
-
 /// The calendars of all delivered books, as planned.
 void MakeCalendars() {
   const auto currencies = ferrowind::planning::CurrencyList::Load();
-  for (const auto& book : ferrowind::embedded::DeliveredBooks()) {
-    const std::string code(book.name);
-    ferrowind::planning::StoreBook(currencies.Named(code).id, code, "",
-                                   ferrowind::almanac::ReadBook(book.text));
+  for (const auto& [code, book] : ferrowind::host::DeliveredBooks()) {
+    ferrowind::planning::StoreBook(currencies.Named(code).id, code, "", book);
   }
   const ferrowind::planning::YearPlanner planner(ferrowind::host::DeliveredDateTables());
   for (const auto* const currency : planner.WithBooks()) {
@@ -103,7 +83,7 @@ std::size_t ReadByPeer(const std::string& path) {
 
 std::size_t Review() {
   const auto review = ferrowind::planning::ReviewDatabase(ferrowind::host::DeliveredDateTables(), kToday, {});
-  if (review.Worst() && *review.Worst() > ferrowind::almanac::FindingLevel::kWarning) {
+  if (review.Worst() && *review.Worst() >= ferrowind::almanac::FindingLevel::kWarning) {
     throw std::runtime_error("The calendars are not as planned");
   }
   return review.calendars;
