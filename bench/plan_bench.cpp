@@ -30,8 +30,9 @@ constexpr int kFirstYear = 2015;
 constexpr int kLastYear = 2030;
 
 Planner PlannerOf(std::string_view currency) {
-  for (auto& [name, book] : ferrowind::host::DeliveredBooks()) {
-    if (name == currency) return {std::move(book), ferrowind::host::DeliveredDateTables()};
+  for (auto& delivered : ferrowind::host::DeliveredBooks()) {
+    if (delivered.name == currency)
+      return {std::move(delivered.book), ferrowind::host::DeliveredDateTables()};
   }
   throw std::runtime_error("no delivered book " + std::string(currency));
 }

@@ -5,7 +5,8 @@ import pathlib
 import re
 import sys
 
-FOLDERS = ("ferrowind/adapters", "ferrowind/control", "ferrowind/data", "ferrowind/platform", "host")
+FOLDERS = ("ferrowind/adapters", "ferrowind/almanac", "ferrowind/control", "ferrowind/data", "ferrowind/planning", "ferrowind/platform",
+           "host")
 # Sources whose every text of several words is told to people, and so is in the guide.
 COMPLETE = ("ferrowind/adapters/content/content_copy.cpp", "ferrowind/adapters/content/schema_upgrade.cpp",
             "ferrowind/adapters/postgres/connection_uri.cpp", "ferrowind/adapters/postgres/postgres_failure.cpp",

@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/almanac/book_faults.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/delivery/delivered_books.h"
@@ -131,9 +132,9 @@ TEST_F(FirstDatabaseTest, IsNotThereWhenItsYearsCannotBePlanned) {
 
 TEST(DeliveredBooks, AreThoseOf26CurrenciesBeginningWithTheOnesThatAreTradedMost) {
   std::vector<std::string> names;
-  for (const auto& [name, book] : DeliveredBooks()) {
-    names.push_back(name);
-    EXPECT_FALSE(book.publisher.empty()) << name;
+  for (const almanac::NamedBook& delivered : DeliveredBooks()) {
+    names.push_back(delivered.name);
+    EXPECT_FALSE(delivered.book.publisher.empty()) << delivered.name;
   }
   ASSERT_THAT(names, SizeIs(26));
   EXPECT_THAT(std::vector<std::string>(names.begin(), names.begin() + 5),
