@@ -44,14 +44,14 @@ std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, 
     throw platform::Failure(platform::failure_number::kInvalidArgument,
                             currency.code + " has no book, so nothing tells what its calendars should be");
   }
+  if (!currency.IsLiveIn(year)) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            EndOfMoney(currency) + ", so it has no calendar of " + std::to_string(year));
+  }
   if (!found->second.faults.empty()) {
     throw platform::Failure(
         platform::failure_number::kInvalidArgument,
         "The book of " + currency.code + " cannot be used: " + Joined(found->second.faults));
-  }
-  if (!currency.IsLiveIn(year)) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            EndOfMoney(currency) + ", so it has no calendar of " + std::to_string(year));
   }
   return std::make_unique<YearPreparation>(currency, year, *found->second.planner, rules_);
 }
