@@ -132,9 +132,8 @@ TEST_F(SqlitePlanTrouble, APlanAndAnUndoThatAreKilledAreThereWhollyOrNotAtAll) {
   std::mt19937 random(seed);
   const auto start = std::chrono::steady_clock::now();
   ASSERT_EQ(Apply(1), 0);
-  const auto time =
-      std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start);
-  std::uniform_int_distribution<std::chrono::microseconds::rep> microseconds(0, 3 * time.count() / 2);
+  std::chrono::duration<double> longest = std::chrono::steady_clock::now() - start;
+  std::uniform_real_distribution<double> part(0, 1);
   int done = 0;
   for (int round = 0; round < kRounds; ++round) {
     // After a plan its undo, after an undo the plan.
@@ -149,7 +148,7 @@ TEST_F(SqlitePlanTrouble, APlanAndAnUndoThatAreKilledAreThereWhollyOrNotAtAll) {
         _exit(99);
       }
     }
-    std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
+    std::this_thread::sleep_for(part(random) * longest);
     kill(child, SIGKILL);
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
@@ -157,6 +156,8 @@ TEST_F(SqlitePlanTrouble, APlanAndAnUndoThatAreKilledAreThereWhollyOrNotAtAll) {
 
     ASSERT_TRUE(database_.IsSound()) << "round " << round;
     const State after = Now();
+    // However busy the machine is, some calls come to their end and some do not.
+    longest *= after == before ? 1.25 : 0.75;
     if (after == before) {
       EXPECT_TRUE(WIFSIGNALED(status)) << "the call said that it was done";
       continue;
