@@ -41,7 +41,8 @@ HeadlessForm::HeadlessForm(std::shared_ptr<ToolkitState> toolkit, platform::Form
   height_ = design_.client_height + (has_frame ? kFrameHeight : 0);
   for (const auto& control : design_.controls) controls_.emplace(control.name, MakeControl(control));
   for (const auto& [control, container] : toolkit_->containers[design_.name]) {
-    CoreOf(control).SetContainer(&CoreOf(container));
+    if (controls_.contains(control) && controls_.contains(container))
+      CoreOf(control).SetContainer(&CoreOf(container));
   }
 }
 

@@ -33,7 +33,7 @@ class Toolkit {
 
   /// Makes the form of that name with the controls of the design, not loaded and not shown; never null. A
   /// form that the toolkit has no layout for, or a layout that lacks a control of the design, is a failure
-  /// that names it.
+  /// that names it. Controls of the layout that the design does not have are left out, and take no room.
   [[nodiscard]] virtual std::shared_ptr<Form> CreateForm(const FormDesign& design) = 0;
 
   /// The whole screen that new windows open on, with the areas that the desktop keeps for itself: half of it

@@ -50,6 +50,21 @@ TEST_F(FormContract, TakesAControlOfAnotherKindForNone) {
                 [&] { static_cast<void>(The<platform::Grid>("lblText")); });
 }
 
+TEST_F(FormContract, HasNoControlThatItsDesignLeavesOut) {
+  platform::FormDesign design = ContractForm();
+  std::erase_if(design.controls, [](const auto& control) {
+    return control.name == "txtOther" || control.name == "tvNodes" || control.name == "txtInside";
+  });
+  const auto smaller = toolkit.CreateForm(design);
+  smaller->Show();
+  for (const char* name : {"txtOther", "tvNodes", "txtInside"}) {
+    ExpectFailure(failure_number::kElementNotFound, name,
+                  [&] { static_cast<void>(smaller->ControlNamed(name)); });
+  }
+  for (const auto& control : design.controls)
+    EXPECT_NO_THROW(static_cast<void>(smaller->ControlNamed(control.name)));
+}
+
 TEST_F(FormContract, CannotBeMadeWithoutALayout) {
   try {
     static_cast<void>(toolkit.CreateForm(FormWithoutLayout()));

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSplitter>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -18,6 +19,8 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/controls/element.h"
+#include "ferrowind/adapters/qt/controls/refusal_note.h"
+#include "ferrowind/adapters/qt/controls/tree_view.h"
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 
@@ -104,6 +107,74 @@ class FormWindowTest : public ::testing::Test {
 
   QtToolkit toolkit_{Layouts()};
 };
+
+/// Controls of every sort on one line each, in holders and beside a note of the layout's own.
+void BuildWithAdditions(QDialog& window) {
+  auto* layout = new QVBoxLayout(&window);
+  layout->addWidget(Named<QLineEdit>("txtGiven"));
+  auto* frame = Named<QFrame>("additions");
+  auto* inside = new QVBoxLayout(frame);
+  inside->addWidget(Named<QLabel>("lblAddition"));
+  inside->addWidget(Named<QPushButton>("cmdAddition"));
+  layout->addWidget(frame);
+  auto* line = new QHBoxLayout;
+  line->addWidget(Named<QLineEdit>("txtAddition"));
+  line->addStretch();
+  layout->addLayout(line);
+  auto* splitter = Named<QSplitter>("sssp");
+  splitter->addWidget(Named<TreeView>("tvGiven"));
+  splitter->addWidget(Named<TreeView>("tvAddition"));
+  layout->addWidget(splitter);
+  layout->addWidget(Named<RefusalNote>("noteGiven"));
+  layout->addWidget(Named<QFrame>("emptyFrame"));
+}
+
+/// The same layout, made without the additions.
+void BuildWithoutAdditions(QDialog& window) {
+  auto* layout = new QVBoxLayout(&window);
+  layout->addWidget(Named<QLineEdit>("txtGiven"));
+  auto* splitter = Named<QSplitter>("sssp");
+  splitter->addWidget(Named<TreeView>("tvGiven"));
+  layout->addWidget(splitter);
+  layout->addWidget(Named<RefusalNote>("noteGiven"));
+  layout->addWidget(Named<QFrame>("emptyFrame"));
+}
+
+TEST_F(FormWindowTest, LeavesOutWithTheirRoomTheControlsThatTheDesignDoesNotHave) {
+  FormLayouts layouts;
+  layouts.Add("fmSmall", BuildWithAdditions);
+  layouts.Add("fmPlain", BuildWithoutAdditions);
+  QtToolkit toolkit(layouts);
+  FormDesign design{.name = "fmSmall",
+                    .client_width = 6000,
+                    .client_height = 6000,
+                    .controls = {{ControlKind::kTextBox, "txtGiven"},
+                                 {ControlKind::kSplitter, "sssp"},
+                                 {ControlKind::kTree, "tvGiven"}}};
+  const auto small = toolkit.CreateForm(design);
+  design.name = "fmPlain";
+  const auto plain = toolkit.CreateForm(design);
+  small->Show();
+  plain->Show();
+  QWidget& window = WindowOf(*small);
+  for (const char* gone : {"additions", "lblAddition", "cmdAddition", "txtAddition", "tvAddition"})
+    EXPECT_EQ(window.findChild<QWidget*>(QLatin1String(gone)), nullptr) << gone;
+  for (const char* there : {"txtGiven", "tvGiven", "sssp", "noteGiven", "emptyFrame"}) {
+    const auto* widget = window.findChild<QWidget*>(QLatin1String(there));
+    ASSERT_NE(widget, nullptr) << there;
+    EXPECT_EQ(widget->geometry(), WindowOf(*plain).findChild<QWidget*>(QLatin1String(there))->geometry())
+        << there;
+  }
+}
+
+TEST_F(FormWindowTest, KeepsAHolderOfAdditionsThatTheDesignHas) {
+  FormLayouts layouts;
+  layouts.Add("fmSmall", BuildWithAdditions);
+  QtToolkit toolkit(layouts);
+  const auto form = toolkit.CreateForm({.name = "fmSmall", .controls = {{ControlKind::kPanel, "additions"}}});
+  EXPECT_EQ(WindowOf(*form).findChild<QWidget*>(QStringLiteral("cmdAddition")), nullptr);
+  EXPECT_TRUE(form->ControlNamed("additions").Visible());
+}
 
 TEST_F(FormWindowTest, NamesTheControlThatItsLayoutLacks) {
   FormDesign design = Design(FormBorder::kSizable);

@@ -45,6 +45,23 @@ bool IsHolder(const QWidget& widget) {
 
 }  // namespace
 
+bool CanBeControl(const QWidget& widget) {
+  // Of the labels only the plain ones: those derived from them belong to the layout, as notes and pictures.
+  if (widget.metaObject() == &QLabel::staticMetaObject) return true;
+  return qobject_cast<const QPushButton*>(&widget) != nullptr ||
+         qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr ||
+         qobject_cast<const UpDownArrows*>(&widget) != nullptr ||
+         qobject_cast<const TreeView*>(&widget) != nullptr ||
+         qobject_cast<const GridWidget*>(&widget) != nullptr ||
+         qobject_cast<const QToolBar*>(&widget) != nullptr ||
+         qobject_cast<const QStatusBar*>(&widget) != nullptr;
+}
+
+bool CanHoldControls(const QWidget& widget) {
+  return IsHolder(widget) || qobject_cast<const QSplitter*>(&widget) != nullptr;
+}
+
 std::unique_ptr<platform::Control> MakeControl(ControlKind kind, QWidget& widget) {
   switch (kind) {
     case ControlKind::kLabel:

@@ -12,4 +12,9 @@ namespace ferrowind::qt {
 /// not of that kind.
 [[nodiscard]] std::unique_ptr<platform::Control> MakeControl(platform::ControlKind kind, QWidget& widget);
 
+/// Whether a widget of a layout is there to be a control that the operator reads or uses.
+[[nodiscard]] bool CanBeControl(const QWidget& widget);
+/// Whether a widget of a layout is there for what stands in it.
+[[nodiscard]] bool CanHoldControls(const QWidget& widget);
+
 }  // namespace ferrowind::qt

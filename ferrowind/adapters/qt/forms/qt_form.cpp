@@ -10,6 +10,7 @@
 #include "ferrowind/adapters/qt/controls/qt_control.h"
 #include "ferrowind/adapters/qt/forms/control_maker.h"
 #include "ferrowind/adapters/qt/forms/design_traits.h"
+#include "ferrowind/adapters/qt/forms/left_out_controls.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 #include "ferrowind/platform/values/failure.h"
@@ -77,6 +78,7 @@ void QtForm::MakeControls(const platform::FormDesign& design, const FormLayouts&
     throw Failure(failure_number::kElementNotFound, "There is no layout of a form " + design.name);
   }
   window_->setObjectName(ToQt(design.name));
+  LeaveOutUndesigned(*window_, design);
   for (const platform::ControlDesign& control : design.controls)
     controls_.push_back(MakeDesignedControl(control));
   SetCaption(design.caption);
