@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ferrowind/platform/additions/additions.h"
 #include "ferrowind/platform/database/command.h"
 #include "ferrowind/platform/services/action_observer.h"
 #include "ferrowind/platform/services/clock.h"
@@ -27,6 +28,8 @@ struct Platform {
   std::string component_folder;
   /// Told of the operator's actions; null for a host that wants to know nothing of them.
   ActionObserver* action_observer = nullptr;
+  /// What the host adds to the windows; null for the windows as they are.
+  Additions* additions = nullptr;
 };
 
 }  // namespace ferrowind::platform

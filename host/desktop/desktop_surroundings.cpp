@@ -12,7 +12,9 @@
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/platform/database/engine_command.h"
+#include "ferrowind/views/planning/planning_additions.h"
 
+#include "host/delivery/delivered_tables.h"
 #include "host/desktop/telling_services.h"
 
 namespace ferrowind::host {
@@ -31,6 +33,7 @@ struct DesktopSurroundings::Parts {
     objects.Register(platform::kSharedServicesIdentifier, [this, &news] {
       return std::make_shared<TellingServices>(news, qt::SettingsStore(), trace);
     });
+    platform.additions = &additions;
   }
 
   void RegisterIn(platform::EngineRegistry& registry, std::shared_ptr<platform::Engine> files) {
@@ -52,6 +55,8 @@ struct DesktopSurroundings::Parts {
   qt::QtLocale locale;
   qt::QtClock clock;
   platform::Platform platform;
+  PlanningWindows windows{platform, DeliveredDateTables()};
+  PlanningAdditions additions{{platform, DeliveredDateTables(), windows}};
 };
 
 DesktopSurroundings::DesktopSurroundings(OperatorNews& news, std::shared_ptr<sqlite::WaitBudget> patience)
@@ -68,6 +73,8 @@ void DesktopSurroundings::UseDatabase(const std::string& connection_string) {
 }
 
 const platform::EngineRegistry& DesktopSurroundings::Engines() const { return parts_->engines; }
+
+PlanningWindows& DesktopSurroundings::Windows() { return parts_->windows; }
 
 const platform::Platform& DesktopSurroundings::Get() const { return parts_->platform; }
 

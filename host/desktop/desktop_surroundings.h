@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/wait_budget.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/platform.h"
+#include "ferrowind/views/planning/planning_windows.h"
 
 #include "host/desktop/operator_news.h"
 
@@ -36,6 +37,8 @@ class DesktopSurroundings {
 
   /// The engines for what the host does itself.
   [[nodiscard]] const platform::EngineRegistry& Engines() const;
+  /// The windows of planning, which the windows that `Get` has the additions for open as well.
+  [[nodiscard]] PlanningWindows& Windows();
   /// Valid as long as this object lives.
   [[nodiscard]] const platform::Platform& Get() const;
 

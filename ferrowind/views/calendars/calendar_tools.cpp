@@ -1,5 +1,6 @@
 #include "ferrowind/views/calendars/calendar_tools.h"
 
+#include "ferrowind/views/common/additional_parts.h"
 #include "ferrowind/views/common/group_by_box_tool.h"
 
 namespace ferrowind {
@@ -41,15 +42,19 @@ constexpr const char* kGridTools[] = {"ID_Copy", GroupByBoxTool::kId, "ID_ExpSel
 
 }  // namespace
 
-void SetupCalendarTools(platform::ToolBar& tool_bar) {
+void SetupCalendarTools(platform::ToolBar& tool_bar, const platform::WindowParts& additional) {
   for (const auto& tool : kTools) {
     tool_bar.AddTool({tool.id, tool.caption, kCategory, tool.description, tool.kind});
   }
+  AddTools(tool_bar, additional);
   tool_bar.SetBar("ToolBar",
-                  {"ID_Refresh", "ID_New", "ID_Expand", "ID_Collapse", kToolSeparator, GroupByBoxTool::kId,
-                   "ID_ExpandGrid", "ID_CollapseGrid", "ID_ExpSel", "ID_Copy"});
-  tool_bar.AddPopupMenu(kDayMenu, "StatesMenu",
-                        {"ID_AssignSingle", "ID_AssignMany", kToolSeparator, "ID_Except", "ID_Except2"});
+                  WithIds({"ID_Refresh", "ID_New", "ID_Expand", "ID_Collapse", kToolSeparator,
+                           GroupByBoxTool::kId, "ID_ExpandGrid", "ID_CollapseGrid", "ID_ExpSel", "ID_Copy"},
+                          additional.bar));
+  tool_bar.AddPopupMenu(
+      kDayMenu, "StatesMenu",
+      WithIds({"ID_AssignSingle", "ID_AssignMany", kToolSeparator, "ID_Except", "ID_Except2"},
+              additional.menu));
 }
 
 void RefreshCalendarTools(platform::ToolBar& tool_bar, const platform::Tree& tree,

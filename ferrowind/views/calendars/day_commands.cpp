@@ -102,15 +102,22 @@ void DayCommands::AssignHolidays(std::int32_t mode) {
 void DayCommands::CreateNewCalendar() {
   const auto node = window_.tree.Selected();
   if (!node) return;
+  // The dialog is gone by then, and with it the action that it has begun.
+  if (const auto created = AskForNewCalendar(*node)) window_.on_created(*created);
+}
+
+std::optional<platform::CalendarOnShow> DayCommands::AskForNewCalendar(const std::string& node) {
   fmSelectYear dialog(platform_);
-  const auto currency_node = window_.tree.Parent(*node);
-  dialog.SetCcyID(currency_node ? node_key::CurrencyOfCalendarNode(*node)
-                                : node_key::CurrencyOfCurrencyNode(*node));
-  const std::string currency = window_.tree.Text(currency_node.value_or(*node));
+  const auto currency_node = window_.tree.Parent(node);
+  dialog.SetCcyID(currency_node ? node_key::CurrencyOfCalendarNode(node)
+                                : node_key::CurrencyOfCurrencyNode(node));
+  const std::string currency = window_.tree.Text(currency_node.value_or(node));
   dialog.SetCurrency(currency);
   dialog.SetCaption(dialog.Caption() + " " + currency + " currency");
   dialog.ShowModal();
   if (dialog.Result() == 0) window_.refresh_and_select(dialog.CcyID(), dialog.EnterYear());
+  if (!dialog.HasCreated()) return std::nullopt;
+  return platform::CalendarOnShow{dialog.CcyID(), currency, dialog.EnterYear()};
 }
 
 bool DayCommands::ForceCloseHolidaysWindow() {

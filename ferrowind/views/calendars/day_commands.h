@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "ferrowind/control/grid_fields.h"
@@ -22,6 +23,8 @@ class DayCommands {
     std::function<void()> show_days_of_selected_node;
     std::function<void(std::int32_t currency_id, std::int32_t year)> refresh_and_select;
     std::function<std::shared_ptr<HolidaysWindow>()> create_holidays_window;
+    /// The operator has created that calendar, which is selected now.
+    std::function<void(const platform::CalendarOnShow& calendar)> on_created;
   };
 
   DayCommands(const platform::Platform& platform, Window window);
@@ -43,6 +46,9 @@ class DayCommands {
   bool ForceCloseHolidaysWindow();
 
  private:
+  /// The calendar that the operator has created, if it could be stored.
+  [[nodiscard]] std::optional<platform::CalendarOnShow> AskForNewCalendar(const std::string& node);
+
   /// The day that a command starts on.
   struct SelectedDay {
     platform::Value date;

@@ -66,9 +66,12 @@ void DayGrid::ShowDaysOf(const std::optional<std::string>& node) {
     ShowNothing();
     return;
   }
+  const platform::CalendarOnShow calendar{node_key::CurrencyOfCurrencyNode(*currency_node),
+                                          controls_.tree.Text(*currency_node),
+                                          node_key::YearOfCalendarNode(*node)};
   SourceValues params;
-  params.Add("ID1", node_key::CurrencyOfCurrencyNode(*currency_node));
-  params.Add("Year1", node_key::YearOfCalendarNode(*node));
+  params.Add("ID1", calendar.currency_id);
+  params.Add("Year1", calendar.year);
   std::shared_ptr<SourceValues> results;
   const std::int32_t answer = ExecProc("CldGetMain", &params, results);
   TellRead(platform_.action_observer, answer);
@@ -78,6 +81,7 @@ void DayGrid::ShowDaysOf(const std::optional<std::string>& node) {
   TellChanges(*node, *days);
   ShowRecords(std::move(days));
   days_node_ = *node;
+  on_show_ = calendar;
 }
 
 void DayGrid::TellChanges(const std::string& node, const platform::RecordSet& days) {
@@ -88,6 +92,7 @@ void DayGrid::TellChanges(const std::string& node, const platform::RecordSet& da
 }
 
 void DayGrid::ShowNothing() {
+  on_show_.reset();
   controls_.grid.SetEnabled(false);
   controls_.on_fill();
   if (controls_.grid.Records()) reload_.ShowNothing();

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "ferrowind/control/grid_fields.h"
+#include "ferrowind/platform/additions/calendars_scene.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/grid_reload.h"
 #include "ferrowind/views/common/update_lock.h"
@@ -36,6 +37,9 @@ class DayGrid {
   /// days cannot be read the grid stays as it was, and the gateway keeps the failure.
   void ShowDaysOf(const std::optional<std::string>& node);
 
+  /// The calendar whose days the grid shows; nothing while it shows none.
+  [[nodiscard]] const std::optional<platform::CalendarOnShow>& OnShow() const { return on_show_; }
+
   /// The tree node whose days the grid shows, or the node that was clicked last.
   [[nodiscard]] const std::optional<std::string>& CurrentNode() const { return current_node_; }
   void SetCurrentNode(const std::string& node) { current_node_ = node; }
@@ -63,6 +67,7 @@ class DayGrid {
   std::shared_ptr<GridFields> headers_;
   /// The node whose days the grid has.
   std::string days_node_;
+  std::optional<platform::CalendarOnShow> on_show_;
   std::optional<std::string> current_node_;
   GridReload reload_;
   std::unique_ptr<UpdateLock> regrouping_lock_;

@@ -11,8 +11,11 @@
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/runtime_failure.h"
+#include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/calendars/action_subject.h"
 #include "ferrowind/views/calendars/calendar_tools.h"
+#include "ferrowind/views/calendars/node_key.h"
+#include "ferrowind/views/common/additional_parts.h"
 #include "ferrowind/views/common/grid_setup.h"
 #include "ferrowind/views/common/holiday_type_formats.h"
 #include "ferrowind/views/common/value_list.h"
@@ -27,6 +30,10 @@ using platform::ControlOf;
 constexpr const char* kLayoutSection = "Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8";
 constexpr const char* kAnimationFile = "/Progress.pra";
 constexpr std::int32_t kDescriptionPanel = 1;
+
+platform::WindowParts AdditionalParts(const platform::Platform& platform) {
+  return platform.additions == nullptr ? platform::WindowParts() : platform.additions->CalendarsParts();
+}
 
 platform::FormDesign Design() {
   return {.name = "fmCalendar",
@@ -57,8 +64,11 @@ std::shared_ptr<fmCalendar> fmCalendar::Create(const platform::Platform& platfor
 }
 
 fmCalendar::fmCalendar(const platform::Platform& platform)
+    : fmCalendar(platform, AdditionalParts(platform)) {}
+
+fmCalendar::fmCalendar(const platform::Platform& platform, const platform::WindowParts& additional)
     : platform_(platform),
-      form_(platform.toolkit.CreateForm(Design())),
+      form_(platform.toolkit.CreateForm(WithControls(Design(), additional))),
       tvCalendar_(ControlOf<platform::Tree>(*form_, "tvCalendar")),
       gexCalendar_(ControlOf<platform::Grid>(*form_, "gexCalendar")),
       ssatb_(ControlOf<platform::ToolBar>(*form_, "ssatb")),
@@ -70,12 +80,16 @@ fmCalendar::fmCalendar(const platform::Platform& platform)
       currencies_(
           platform.toolkit, *form_, tvCalendar_, [this] { RefreshTools(); }, platform.action_observer),
       day_grid_(platform, {*form_, tvCalendar_, gexCalendar_, sssp_, [this] { RefreshTools(); }}),
+      extension_({*form_, tvCalendar_, gexCalendar_, ssatb_, sbCalendar_, day_grid_,
+                  [this](std::int32_t currency_id, std::int32_t year) { Choose(currency_id, year); },
+                  [this] { Refresh(); }, [this] { ShowDayMenu(); }}),
       day_commands_(platform, {tvCalendar_, gexCalendar_, [this] { ShowDaysOfSelectedNode(); },
                                [this](std::int32_t currency_id, std::int32_t year) {
                                  RefreshAll(currency_id, year, "");
                                },
-                               [this] { return CreateHolidaysWindow(); }}) {
-  SetupCalendarTools(ssatb_);
+                               [this] { return CreateHolidaysWindow(); },
+                               [this](const auto& created) { extension_.CalendarCreated(created); }}) {
+  SetupCalendarTools(ssatb_, additional);
   gexCalendar_.SetEnabled(false);
 }
 
@@ -115,6 +129,9 @@ void fmCalendar::Connect() {
   subscribe(gexCalendar_.OnBeforeGroupChange(handler(&fmCalendar::gexCalendar_BeforeGroupChange)));
   subscribe(gexCalendar_.OnAfterGroupChange(handler(&fmCalendar::gexCalendar_AfterGroupChange)));
   subscribe(gexCalendar_.OnMouseUp(handler(&fmCalendar::gexCalendar_MouseUp)));
+  if (platform_.additions == nullptr) return;
+  subscribe(gexCalendar_.OnCurrentRowChange(handler(&fmCalendar::gexCalendar_CurrentRowChange)));
+  RunHandler(platform_, [this] { extension_.Make(platform_.additions); });
 }
 
 // Starting and closing
@@ -150,7 +167,9 @@ std::optional<std::int32_t> fmCalendar::Start(std::shared_ptr<GridFields> header
   }
   if (gexCalendar_.FormatCount() == 0) AddHolidayTypeFormats(gexCalendar_);
   day_commands_.SetHolidayHeaders(std::move(holiday_headers));
+  extension_.AddColumns();
   SharedServicesObject().LoadGridLayout(gexCalendar_, kLayoutSection);
+  extension_.Started();
   return std::nullopt;
 }
 
@@ -169,7 +188,9 @@ bool fmCalendar::ForceClosing() {
 
 std::shared_ptr<HolidaysWindow> fmCalendar::CreateHolidaysWindow() {
   platform::OperatorAction subject;
-  if (platform_.action_observer != nullptr) IgnoringFailure([&] { TellOfNode(subject); });
+  if (platform_.action_observer != nullptr || platform_.additions != nullptr) {
+    IgnoringFailure([&] { TellOfNode(subject); });
+  }
   return std::make_shared<fmEnterHolidays>(
       platform_, [this](const auto& work) { WhileAnimated(work); }, subject.currency);
 }
@@ -193,6 +214,7 @@ void fmCalendar::Form_Resize() {
 void fmCalendar::Form_QueryUnload() {
   has_closed_ = true;
   closing_.Emit();
+  extension_.Closing();
   SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection);
   placement_.Save(*form_);
   platform_.toolkit.ProcessPendingEvents();
@@ -236,6 +258,16 @@ void fmCalendar::TellOfNode(platform::OperatorAction& action) const {
   DescribeNode(action, tvCalendar_, tvCalendar_.Selected());
 }
 
+void fmCalendar::Choose(std::int32_t currency_id, std::int32_t year) {
+  const auto node = node_key::OfCalendar(platform::ToText(currency_id), platform::ToText(year));
+  currencies_.SelectNode(currency_id, year, "");
+  if (tvCalendar_.Selected() == node) {
+    ChooseSelectedNode();
+  } else {
+    RefreshAll(currency_id, year, "");
+  }
+}
+
 void fmCalendar::SetAllCurrenciesExpanded(bool expanded) {
   if (tvCalendar_.Count() == 0) return;
   currencies_.SetAllExpanded(expanded);
@@ -246,7 +278,7 @@ void fmCalendar::tvCalendar_NodeClick(const NodeKey& node) {
   const ActionScope action(platform_.action_observer, platform::ActionKind::kShowDays,
                            [&](auto& about) { DescribeNode(about, tvCalendar_, node); });
   day_grid_.SetCurrentNode(node);
-  day_grid_.ShowDaysOf(node);
+  ShowDaysOf(node);
 }
 
 void fmCalendar::tvCalendar_ExpandedOrCollapsed() {
@@ -260,7 +292,11 @@ void fmCalendar::ChooseSelectedNode() {
 }
 
 void fmCalendar::ShowDaysOfSelectedNode() {
-  if (!has_closed_) day_grid_.ShowDaysOf(tvCalendar_.Selected());
+  if (!has_closed_) ShowDaysOf(tvCalendar_.Selected());
+}
+
+void fmCalendar::ShowDaysOf(const std::optional<NodeKey>& node) {
+  extension_.WhileFilling([&] { day_grid_.ShowDaysOf(node); });
 }
 
 // Tools
@@ -294,6 +330,7 @@ void fmCalendar::ssatb_ToolClick(const std::string& id) {
       return;
     }
   }
+  extension_.RunTool(id);
 }
 
 void fmCalendar::ssatb_ToolEnter(const std::string& id) {
@@ -309,11 +346,19 @@ void fmCalendar::gexCalendar_BeforeGroupChange() { day_grid_.BeforeRegrouping();
 void fmCalendar::gexCalendar_AfterGroupChange() { day_grid_.AfterRegrouping(); }
 
 void fmCalendar::gexCalendar_MouseUp(std::int32_t button) {
+  if (button == platform::kRightButton) ShowDayMenu();
+}
+
+void fmCalendar::ShowDayMenu() {
   const std::int32_t row = gexCalendar_.CurrentRow();
-  if (button != platform::kRightButton || row == 0) return;
+  if (row == 0) return;
   // A group row is no day.
-  EnableDayTools(ssatb_, gexCalendar_.RowBookmark(row) != 0);
+  const bool is_of_day = gexCalendar_.RowBookmark(row) != 0;
+  EnableDayTools(ssatb_, is_of_day);
+  extension_.DayMenuOpens(is_of_day);
   ssatb_.ShowPopupMenu(kDayMenu);
 }
+
+void fmCalendar::gexCalendar_CurrentRowChange() { extension_.CurrentDayChanged(); }
 
 }  // namespace ferrowind

@@ -8,6 +8,7 @@
 
 #include "ferrowind/platform/events/signal.h"
 #include "ferrowind/platform/platform.h"
+#include "ferrowind/views/calendars/calendars_extension.h"
 #include "ferrowind/views/calendars/calendars_window.h"
 #include "ferrowind/views/calendars/currency_tree.h"
 #include "ferrowind/views/calendars/day_commands.h"
@@ -46,19 +47,24 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
  private:
   using NodeKey = std::string;
 
+  fmCalendar(const platform::Platform& platform, const platform::WindowParts& additional);
+
   /// The index of the message that ends the start, or nothing when the window is ready.
   std::optional<std::int32_t> Start(std::shared_ptr<GridFields> headers,
                                     std::shared_ptr<GridFields> holiday_headers);
   void FailStart(std::int32_t error_index);
   void RefreshAll(std::int32_t currency_id, std::int32_t year, const std::string& key);
   void Refresh();
+  void Choose(std::int32_t currency_id, std::int32_t year);
   /// Shows the days of the selected node, as an action of the operator's own.
   void ChooseSelectedNode();
   void TellOfNode(platform::OperatorAction& action) const;
   /// Runs work while the animation plays; a failure of it is reported.
   void WhileAnimated(const std::function<void()>& work);
   void SetAllCurrenciesExpanded(bool expanded);
+  void ShowDaysOf(const std::optional<NodeKey>& node);
   void ShowDaysOfSelectedNode();
+  void ShowDayMenu();
   void RefreshTools();
 
   void Form_Load();
@@ -73,6 +79,7 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   void gexCalendar_BeforeGroupChange();
   void gexCalendar_AfterGroupChange();
   void gexCalendar_MouseUp(std::int32_t button);
+  void gexCalendar_CurrentRowChange();
 
   const platform::Platform& platform_;
   std::shared_ptr<platform::Form> form_;
@@ -86,6 +93,7 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   GroupByBoxTool group_by_box_tool_;
   CurrencyTree currencies_;
   DayGrid day_grid_;
+  CalendarsExtension extension_;
   DayCommands day_commands_;
   bool is_closing_after_failed_start_ = false;
   /// The program may have closed it while a dialog of it was just being answered.

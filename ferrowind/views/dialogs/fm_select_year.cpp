@@ -129,7 +129,8 @@ void fmSelectYear::Store(std::int32_t year) {
   // intention.
   const std::int32_t answer = ExecProc("CldIUMain", &params, results);
   TellWrite(platform_.action_observer, {}, answer);
-  if (answer != 0) platform_.toolkit.Beep();
+  has_created_ = answer == 0;
+  if (!has_created_) platform_.toolkit.Beep();
 }
 
 void fmSelectYear::Cancel() {

@@ -33,6 +33,8 @@ class fmSelectYear {
   /// 0 for "Create", 1 for "Cancel"; 0 while nothing was pressed. 0 does not mean that the calendar could be
   /// stored.
   [[nodiscard]] std::int32_t Result() const { return result_; }
+  /// Whether "Create" was pressed and the calendar could be stored.
+  [[nodiscard]] bool HasCreated() const { return has_created_; }
   /// The year in the field when "Create" was pressed; 0 until then.
   [[nodiscard]] std::int32_t EnterYear() const { return year_; }
 
@@ -53,6 +55,7 @@ class fmSelectYear {
   std::string currency_;
   std::int32_t result_ = 0;
   std::int32_t year_ = 0;
+  bool has_created_ = false;
   platform::Subscription loaded_;
   platform::Subscription spinner_changed_;
   platform::Subscription year_changed_;

@@ -8,6 +8,7 @@
 #include "ferrowind/data/error_table.h"
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/views/common/additional_parts.h"
 #include "ferrowind/views/editor/fm_add_holiday.h"
 
 namespace ferrowind {
@@ -20,6 +21,10 @@ using platform::ControlOf;
 
 /// The buttons by their index in the control array.
 enum ActionIndex : std::size_t { kAdd, kEdit, kRemove, kRestore, kFilter, kAssign };
+
+platform::WindowParts AdditionalParts(const platform::Platform& platform) {
+  return platform.additions == nullptr ? platform::WindowParts() : platform.additions->HolidaysParts();
+}
 
 platform::FormDesign Design() {
   return {.name = "fmEnterHolidays",
@@ -48,18 +53,24 @@ platform::FormDesign Design() {
 
 fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, BusyRunner run_busy,
                                  std::string currency)
+    : fmEnterHolidays(platform, AdditionalParts(platform), std::move(run_busy), std::move(currency)) {}
+
+fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, const platform::WindowParts& additional,
+                                 BusyRunner run_busy, std::string currency)
     : platform_(platform),
       run_busy_(std::move(run_busy)),
       currency_(std::move(currency)),
-      form_(platform.toolkit.CreateForm(Design())),
+      form_(platform.toolkit.CreateForm(WithControls(Design(), additional))),
       gexHolidays_(ControlOf<platform::Grid>(*form_, "gexHolidays")),
       ssatb_(ControlOf<platform::ToolBar>(*form_, "ssatb")),
       group_by_box_tool_(platform.toolkit, *form_, ssatb_, gexHolidays_),
       list_(platform, gexHolidays_,
-            [this](const std::string& text) { cmdAction_[kFilter]->SetCaption(text); }) {
+            [this](const std::string& text) { cmdAction_[kFilter]->SetCaption(text); }),
+      extension_({*form_, gexHolidays_, ssatb_, list_, [this] { Reload(); }}) {
   ssatb_.AddTool({GroupByBoxTool::kId, GroupByBoxTool::kText, "General", GroupByBoxTool::kText,
                   platform::ToolKind::kTwoStateButton});
-  ssatb_.SetBar("ToolBar", {GroupByBoxTool::kId});
+  AddTools(ssatb_, additional);
+  ssatb_.SetBar("ToolBar", WithIds({GroupByBoxTool::kId}, additional.bar));
 
   const auto subscribe = [this](platform::Subscription subscription) {
     subscriptions_.push_back(std::move(subscription));
@@ -94,6 +105,7 @@ bool fmEnterHolidays::Init(std::shared_ptr<GridFields> holiday_headers, std::int
     form_->Load();
     target_ = {.mode = mode, .year = year, .currency_id = currency_id, .day_of_year = day_of_year};
     list_.SetHeaders(std::move(holiday_headers));
+    OpenAdditions();
     if (!list_.Load()) return;
     SetMode(mode);
     RefreshButtons();
@@ -102,9 +114,17 @@ bool fmEnterHolidays::Init(std::shared_ptr<GridFields> holiday_headers, std::int
   return is_ready;
 }
 
+void fmEnterHolidays::OpenAdditions() {
+  if (platform_.additions == nullptr) return;
+  extension_.Open(platform_.additions, target_, currency_);
+  list_.SetChoice([this](auto rules) { return extension_.RulesToShow(std::move(rules)); });
+}
+
 void fmEnterHolidays::SetMode(std::int32_t mode) {
-  if (mode == kSingleDayMode) form_->SetCaption("Assign holiday for single day");
-  if (mode == kWholeCalendarMode) form_->SetCaption("Assign groups holidays for calendar");
+  if (mode == kSingleDayMode) form_->SetCaption(extension_.Caption("Assign holiday for single day"));
+  if (mode == kWholeCalendarMode) {
+    form_->SetCaption(extension_.Caption("Assign groups holidays for calendar"));
+  }
   if (mode == kSingleDayMode || mode == kWholeCalendarMode)
     gexHolidays_.SetMultiSelect(mode == kWholeCalendarMode);
 }
@@ -113,6 +133,7 @@ void fmEnterHolidays::Form_Load() { placement_.Restore(platform_.toolkit, *form_
 
 void fmEnterHolidays::Form_QueryUnload() {
   has_closed_ = true;
+  extension_.Closing();
   placement_.Save(*form_);
 }
 
@@ -129,6 +150,7 @@ bool fmEnterHolidays::ForceClosing() {
 // ------------------------------------------------------------------------------------------------------------
 
 void fmEnterHolidays::Assign() {
+  if (!extension_.BeforeAssign() || has_closed_) return;
   result_ = 1;
   assignment_.emplace(platform_.action_observer, ActionKind::kAssignRules, [this](auto& about) {
     about.currency = currency_;
@@ -249,7 +271,11 @@ void fmEnterHolidays::RefreshButtons() {
 }
 
 void fmEnterHolidays::ssatb_ToolClick(const std::string& id) {
-  if (id == GroupByBoxTool::kId) group_by_box_tool_.ShowOrHideBox();
+  if (id == GroupByBoxTool::kId) {
+    group_by_box_tool_.ShowOrHideBox();
+  } else {
+    extension_.RunTool(id);
+  }
 }
 
 }  // namespace ferrowind

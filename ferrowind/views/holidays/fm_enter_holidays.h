@@ -12,6 +12,7 @@
 #include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/holidays/holiday_list.h"
 #include "ferrowind/views/holidays/holiday_rule.h"
+#include "ferrowind/views/holidays/holidays_extension.h"
 #include "ferrowind/views/holidays/holidays_window.h"
 
 namespace ferrowind {
@@ -27,7 +28,7 @@ class fmEnterHolidays : public HolidaysWindow {
 
   /// `platform` must outlive the window. `run_busy` runs the assignment of rules; the work throws nothing but
   /// an `Interruption`, which ends it.
-  /// `currency` is the name that the host's observer is told for the calendar's currency.
+  /// `currency` is the name that the host's observer and the additions are told for the calendar's currency.
   explicit fmEnterHolidays(
       const platform::Platform& platform, BusyRunner run_busy = [](const auto& work) { work(); },
       std::string currency = {});
@@ -43,10 +44,14 @@ class fmEnterHolidays : public HolidaysWindow {
   bool ForceClosing() override;
 
  private:
+  fmEnterHolidays(const platform::Platform& platform, const platform::WindowParts& additional,
+                  BusyRunner run_busy, std::string currency);
+
   using Command = void (fmEnterHolidays::*)();
   /// What becomes of the rules after one that the database refuses to mark.
   enum class AtRefusal { kStop, kGoOn };
 
+  void OpenAdditions();
   void SetMode(std::int32_t mode);
   void Add();
   void Edit();
@@ -78,6 +83,7 @@ class fmEnterHolidays : public HolidaysWindow {
   /// The control array of the six buttons.
   std::vector<platform::Button*> cmdAction_;
   HolidayList list_;
+  HolidaysExtension extension_;
   AssignmentTarget target_;
   std::int32_t result_ = 0;
   bool has_closed_ = false;

@@ -101,7 +101,7 @@ bool HolidayList::Load() {
     if (IsEmpty(*holiday_types_)) tell_lacking("the types of holidays");
     return false;
   }
-  FillGrid(holidays);
+  FillGrid(choice_ ? choice_(holidays) : holidays);
   return true;
 }
 
@@ -170,6 +170,16 @@ std::vector<HolidayRule> HolidayList::SelectedRules() const {
     if (platform_.action_observer != nullptr) {
       IgnoringFailure([&] { rules.back().name = platform::ToText(FieldOf(rule, "Name")); });
     }
+  }
+  return rules;
+}
+
+std::vector<platform::ChosenRule> HolidayList::ChosenRules() const {
+  std::vector<platform::ChosenRule> rules;
+  for (const auto bookmark : SelectedRows()) {
+    const RecordSet& rule = MoveTo(bookmark);
+    rules.push_back({FieldOf(rule, "ID_Holiday"), FieldOf(rule, kTypeColumn), FieldOf(rule, "Name"),
+                     FieldOf(rule, kDateColumn), FieldOf(rule, "DayOfWeek")});
   }
   return rules;
 }

@@ -5,9 +5,11 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ferrowind/control/grid_fields.h"
+#include "ferrowind/platform/additions/holidays_scene.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/grid_reload.h"
 #include "ferrowind/views/holidays/holiday_filter.h"
@@ -21,6 +23,10 @@ class HolidayList {
   /// `grid` must outlive the list. `on_filter` is called with the new text of the filter button.
   HolidayList(const platform::Platform& platform, platform::Grid& grid,
               std::function<void(const std::string& button_text)> on_filter);
+
+  /// Which of the rules that were read are to be shown, before the filter; all of them unless this is called.
+  using Choice = std::function<std::shared_ptr<platform::RecordSet>(std::shared_ptr<platform::RecordSet>)>;
+  void SetChoice(Choice choice) { choice_ = std::move(choice); }
 
   /// Builds the columns and the initial sort; called once.
   void SetHeaders(std::shared_ptr<GridFields> headers);
@@ -42,6 +48,8 @@ class HolidayList {
   /// current rule.
   [[nodiscard]] std::vector<platform::RecordSet::Bookmark> SelectedRows() const;
   [[nodiscard]] std::vector<HolidayRule> SelectedRules() const;
+  /// The same rules with all that tells what they would do.
+  [[nodiscard]] std::vector<platform::ChosenRule> ChosenRules() const;
   /// A record set of its own that stands on that row.
   [[nodiscard]] std::shared_ptr<platform::RecordSet> RecordsAt(platform::RecordSet::Bookmark row) const;
 
@@ -67,6 +75,7 @@ class HolidayList {
   std::int32_t first_weekday_ = 0;
   /// Made at the first fill.
   std::optional<HolidayFilter> filter_;
+  Choice choice_;
   GridReload reload_;
 };
 

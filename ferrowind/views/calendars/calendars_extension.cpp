@@ -1,0 +1,84 @@
+#include "ferrowind/views/calendars/calendars_extension.h"
+
+#include <utility>
+
+#include "ferrowind/data/ignoring_failure.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind {
+
+using platform::CalendarsAdditions;
+
+CalendarsExtension::CalendarsExtension(Surface surface) : window_(std::move(surface)) {}
+
+void CalendarsExtension::Make(platform::Additions* additions) {
+  if (additions == nullptr) return;
+  RunStep([&] { additions_ = additions->ForCalendars(*this); });
+}
+
+void CalendarsExtension::Tell(const std::function<void(CalendarsAdditions& additions)>& what) {
+  if (additions_) RunStep([&] { what(*additions_); });
+}
+
+void CalendarsExtension::AddColumns() {
+  Tell([](auto& additions) { additions.AddColumns(); });
+}
+
+void CalendarsExtension::Started() {
+  Tell([](auto& additions) { additions.Started(); });
+}
+
+void CalendarsExtension::RunTool(const std::string& id) {
+  Tell([&](auto& additions) { additions.RunTool(id); });
+}
+
+void CalendarsExtension::CurrentDayChanged() {
+  if (is_filling_) return;
+  Tell([](auto& additions) { additions.CurrentDayChanged(); });
+}
+
+void CalendarsExtension::DayMenuOpens(bool is_of_day) {
+  Tell([=](auto& additions) { additions.DayMenuOpens(is_of_day); });
+}
+
+void CalendarsExtension::CalendarCreated(const platform::CalendarOnShow& calendar) {
+  Tell([&](auto& additions) { additions.CalendarCreated(calendar); });
+}
+
+void CalendarsExtension::Closing() {
+  Tell([](auto& additions) { additions.Closing(); });
+}
+
+void CalendarsExtension::WhileFilling(const std::function<void()>& fill) {
+  class Filling {
+   public:
+    explicit Filling(bool& is_filling) : is_filling_(is_filling), before_(std::exchange(is_filling, true)) {}
+    ~Filling() { is_filling_ = before_; }
+    Filling(const Filling&) = delete;
+    Filling& operator=(const Filling&) = delete;
+
+   private:
+    bool& is_filling_;
+    bool before_;
+  };
+  {
+    const Filling filling(is_filling_);
+    fill();
+  }
+  Tell([](auto& additions) { additions.DaysShown(); });
+}
+
+std::optional<platform::CalendarOnShow> CalendarsExtension::OnShow() const { return window_.days.OnShow(); }
+
+std::optional<platform::Date> CalendarsExtension::CurrentDay() const {
+  std::optional<platform::Date> day;
+  // A host may have given the column of the dates another content: then no day is known.
+  IgnoringFailure([&] {
+    const std::int32_t row = window_.grid.CurrentRow();
+    if (window_.grid.RowBookmark(row) != 0) day = platform::ToDate(window_.grid.CellValue(row, "FullDate"));
+  });
+  return day;
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,10 @@
+#include "ferrowind/views/planning/day_text.h"
+
+namespace ferrowind {
+
+std::string DayText(const platform::Locale& locale, const platform::Date& day) {
+  return locale.WeekdayName(day.Weekday()) + " " + std::to_string(day.Day()) + " " +
+         locale.MonthName(day.Month()) + " " + std::to_string(day.Year());
+}
+
+}  // namespace ferrowind

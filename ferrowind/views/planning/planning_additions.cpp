@@ -1,0 +1,75 @@
+#include "ferrowind/views/planning/planning_additions.h"
+
+#include <array>
+#include <utility>
+
+#include "ferrowind/views/planning/calendars_addition_list.h"
+#include "ferrowind/views/planning/holidays_addition_list.h"
+#include "ferrowind/views/planning/holidays_caption.h"
+#include "ferrowind/views/planning/refreshed_calendars.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::WindowParts;
+
+/// An addition to a window: what it puts there, and how it is made.
+template <typename Additions, typename Scene>
+struct Entry {
+  WindowParts (*parts)();
+  std::unique_ptr<Additions> (*make)(const PlanningContext& context, Scene& scene);
+};
+
+template <typename Addition, typename Additions, typename Scene>
+constexpr Entry<Additions, Scene> EntryOf() {
+  return {&Addition::Parts, [](const PlanningContext& context, Scene& scene) -> std::unique_ptr<Additions> {
+            return std::make_unique<Addition>(context, scene);
+          }};
+}
+
+template <typename Addition>
+constexpr auto Calendars = EntryOf<Addition, platform::CalendarsAdditions, platform::CalendarsScene>();
+template <typename Addition>
+constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platform::HolidaysScene>();
+
+// The order of their controls and tools.
+constexpr std::array kCalendarsAdditions{Calendars<RefreshedCalendars>};
+constexpr std::array kHolidaysAdditions{Holidays<HolidaysCaption>};
+
+template <typename Entries>
+WindowParts PartsOf(const Entries& entries) {
+  WindowParts all;
+  const auto append = [](auto& to, const auto& from) { to.insert(to.end(), from.begin(), from.end()); };
+  for (const auto& entry : entries) {
+    const WindowParts parts = entry.parts();
+    append(all.controls, parts.controls);
+    append(all.tools, parts.tools);
+    append(all.bar, parts.bar);
+    append(all.menu, parts.menu);
+  }
+  return all;
+}
+
+template <typename List, typename Entries, typename Scene>
+std::unique_ptr<List> MakeAll(const Entries& entries, const PlanningContext& context, Scene& scene) {
+  typename List::Additions additions;
+  for (const auto& entry : entries) additions.push_back(entry.make(context, scene));
+  return std::make_unique<List>(std::move(additions));
+}
+
+}  // namespace
+
+WindowParts PlanningAdditions::CalendarsParts() const { return PartsOf(kCalendarsAdditions); }
+
+WindowParts PlanningAdditions::HolidaysParts() const { return PartsOf(kHolidaysAdditions); }
+
+std::unique_ptr<platform::CalendarsAdditions> PlanningAdditions::ForCalendars(
+    platform::CalendarsScene& scene) {
+  return MakeAll<CalendarsAdditionList>(kCalendarsAdditions, context_, scene);
+}
+
+std::unique_ptr<platform::HolidaysAdditions> PlanningAdditions::ForHolidays(platform::HolidaysScene& scene) {
+  return MakeAll<HolidaysAdditionList>(kHolidaysAdditions, context_, scene);
+}
+
+}  // namespace ferrowind

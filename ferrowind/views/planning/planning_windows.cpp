@@ -1,0 +1,40 @@
+#include "ferrowind/views/planning/planning_windows.h"
+
+#include <utility>
+
+#include "ferrowind/views/planning/planning_context.h"
+
+namespace ferrowind {
+
+PlanningWindows::PlanningWindows(const platform::Platform& platform, const almanac::DateTables& tables)
+    : platform_(platform), tables_(tables) {}
+
+PlanningWindows::~PlanningWindows() = default;
+
+void PlanningWindows::Open(const std::string& name, const Maker& make) {
+  std::erase_if(windows_, [](const auto& entry) { return !entry.second->IsOpen(); });
+  auto found = windows_.find(name);
+  if (found == windows_.end()) found = windows_.emplace(name, make({platform_, tables_, *this})).first;
+  // Held here, because what it does when it comes to the front may close it.
+  const auto window = found->second;
+  window->ShowInFront();
+}
+
+bool PlanningWindows::CloseAll() {
+  bool are_closed = true;
+  // Taken off, because a window that closes may open or close another.
+  for (const auto& [name, window] : std::exchange(windows_, {})) {
+    if (!window->IsOpen() || window->Close()) continue;
+    windows_.emplace(name, window);
+    are_closed = false;
+  }
+  return are_closed;
+}
+
+void PlanningWindows::TellChanged(const Changed& calendars) { changed_.Emit(calendars); }
+
+platform::Subscription PlanningWindows::OnChanged(std::function<void(const Changed& calendars)> handler) {
+  return changed_.Subscribe(std::move(handler));
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ferrowind/almanac/date_table.h"
+#include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/platform/events/signal.h"
+#include "ferrowind/platform/platform.h"
+#include "ferrowind/views/planning/planning_window.h"
+
+namespace ferrowind {
+
+struct PlanningContext;
+
+/// The windows of planning: opens them, brings one that is open to the front instead of opening it again, and
+/// tells the others what one of them has changed.
+///
+/// To be used in handlers (`RunHandler`), whose failure a window that cannot be opened is.
+class PlanningWindows {
+ public:
+  /// The calendars that were changed. Empty when it was something else, such as a rule, or not known which.
+  using Changed = std::vector<planning::CalendarKey>;
+
+  using Maker = std::function<std::shared_ptr<PlanningWindow>(const PlanningContext& context)>;
+
+  /// Both must outlive this object.
+  PlanningWindows(const platform::Platform& platform, const almanac::DateTables& tables);
+  /// Drops the windows without asking them.
+  ~PlanningWindows();
+  PlanningWindows(const PlanningWindows&) = delete;
+  PlanningWindows& operator=(const PlanningWindows&) = delete;
+
+  /// Closes all windows; false, with the others closed, when one of them refuses.
+  bool CloseAll();
+
+  /// To be called by whoever has changed something in the database, once it is done.
+  void TellChanged(const Changed& calendars);
+  [[nodiscard]] platform::Subscription OnChanged(std::function<void(const Changed& calendars)> handler);
+
+ protected:
+  /// Brings the window that was opened under `name` to the front, or makes one with `make` and shows it.
+  void Open(const std::string& name, const Maker& make);
+
+ private:
+  const platform::Platform& platform_;
+  const almanac::DateTables& tables_;
+  std::map<std::string, std::shared_ptr<PlanningWindow>> windows_;
+  platform::Signal<const Changed&> changed_;
+};
+
+}  // namespace ferrowind
