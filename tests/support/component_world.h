@@ -31,7 +31,7 @@ class ComponentWorld {
   }
 
   headless::World world;
-  const platform::Platform platform = world.Platform();
+  platform::Platform platform = world.Platform();
 };
 
 /// A numbered message as `SeenByOperator` writes it.

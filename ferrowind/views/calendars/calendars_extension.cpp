@@ -51,16 +51,13 @@ void CalendarsExtension::Closing() {
 }
 
 void CalendarsExtension::WhileFilling(const std::function<void()>& fill) {
-  class Filling {
-   public:
-    explicit Filling(bool& is_filling) : is_filling_(is_filling), before_(std::exchange(is_filling, true)) {}
-    ~Filling() { is_filling_ = before_; }
+  if (is_filling_) return fill();
+  struct Filling {
+    explicit Filling(bool& flag) : is_filling(flag) { is_filling = true; }
+    ~Filling() { is_filling = false; }
     Filling(const Filling&) = delete;
     Filling& operator=(const Filling&) = delete;
-
-   private:
-    bool& is_filling_;
-    bool before_;
+    bool& is_filling;
   };
   {
     const Filling filling(is_filling_);

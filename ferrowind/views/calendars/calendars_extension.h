@@ -43,8 +43,8 @@ class CalendarsExtension : private platform::CalendarsScene {
   void CalendarCreated(const platform::CalendarOnShow& calendar);
   void Closing();
 
-  /// Runs `fill`, which reads the days anew, and tells of it once instead of each row that becomes current
-  /// meanwhile.
+  /// Runs `fill`, which reads the days anew, and then tells of it: once, also when it did so in several
+  /// steps, and instead of each row that became current meanwhile.
   void WhileFilling(const std::function<void()>& fill);
 
  private:

@@ -225,7 +225,7 @@ void fmCalendar::Form_QueryUnload() {
 
 void fmCalendar::RefreshAll(std::int32_t currency_id, std::int32_t year, const std::string& key) {
   if (has_closed_) return;
-  WhileAnimated([&] {
+  const auto reload = [&] {
     {
       const UpdateLock lock(platform_.toolkit, sssp_);
       currencies_.LoadCurrencies();
@@ -233,7 +233,8 @@ void fmCalendar::RefreshAll(std::int32_t currency_id, std::int32_t year, const s
       currencies_.SelectNode(currency_id, year, key);
     }
     ShowDaysOfSelectedNode();
-  });
+  };
+  WhileAnimated([&] { extension_.WhileFilling(reload); });
 }
 
 void fmCalendar::WhileAnimated(const std::function<void()>& work) {
