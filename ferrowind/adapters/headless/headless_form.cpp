@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/headless/headless_button.h"
+#include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -26,6 +27,7 @@ bool CanHaveFocus(ControlKind kind) {
     case ControlKind::kDatePicker:
     case ControlKind::kTree:
     case ControlKind::kGrid:
+    case ControlKind::kTable:
       return true;
     default:
       return false;
@@ -355,6 +357,10 @@ void HeadlessForm::PressEnter() {
   const auto keep = Keep();
   RequireInput(CallText(Name(), "PressEnter"));
   Log().Record("operator." + CallText(Name(), "PressEnter"));
+  if (focused_ != nullptr) {
+    auto* table = dynamic_cast<HeadlessTable*>(&ControlNamed(focused_->Name()));
+    if (table != nullptr && table->RowCount() > 0) return table->PressEnter();
+  }
   std::string target;
   for (const auto& control : design_.controls) {
     if (control.is_default_button) target = control.name;

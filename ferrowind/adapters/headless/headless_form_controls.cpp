@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/headless/headless_grid.h"
 #include "ferrowind/adapters/headless/headless_label.h"
 #include "ferrowind/adapters/headless/headless_status_bar.h"
+#include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_tree.h"
@@ -41,6 +42,8 @@ std::unique_ptr<platform::Control> HeadlessForm::MakeControl(const platform::Con
       return std::make_unique<HeadlessTree>(*this, design.name);
     case ControlKind::kGrid:
       return std::make_unique<HeadlessGrid>(*this, design.name, design.marks_row_ranges);
+    case ControlKind::kTable:
+      return std::make_unique<HeadlessTable>(*this, design, toolkit_->clipboard);
     case ControlKind::kToolBar:
       return std::make_unique<HeadlessToolBar>(*this, design.name);
     case ControlKind::kStatusBar:

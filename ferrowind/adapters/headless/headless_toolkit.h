@@ -55,6 +55,8 @@ class HeadlessToolkit : public platform::Toolkit {
   /// The name of the element that is locked against repainting, "" for none.
   [[nodiscard]] std::string LockedElement() const;
   [[nodiscard]] int BeepCount() const { return beep_count_; }
+  /// The text that was copied last, by the operator or the program.
+  [[nodiscard]] const std::string& Clipboard() const { return state_->clipboard; }
   /// How many scripts wait for a modal form that was not shown yet.
   [[nodiscard]] std::size_t WaitingScripts() const;
 

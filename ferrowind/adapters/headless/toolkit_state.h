@@ -45,6 +45,8 @@ struct ToolkitState {
   std::map<std::string, std::deque<ModalScript>> modal_scripts = {};
   /// The paths that there is an animated image under.
   std::set<std::string> animations = {};
+  /// The text that was copied last.
+  std::string clipboard = {};
   /// The names of the containers that controls stand in, by form and control.
   std::map<std::string, std::map<std::string, std::string>> containers = {};
 };

@@ -16,6 +16,7 @@ enum class ControlKind {
   kPanel,
   kTree,
   kGrid,
+  kTable,
   kToolBar,
   kStatusBar,
   kSplitter,
@@ -35,6 +36,13 @@ struct ControlDesign {
   bool takes_typing = false;
   /// Of a grid: the operator can mark a range of rows to copy, see `Grid::MarkedRows`.
   bool marks_row_ranges = false;
+  /// Of a table: a single cell is current, not a whole row.
+  bool selects_cells = false;
+  /// Of a table: the operator can select several rows.
+  bool selects_many = false;
+  /// Of a table: a click on a header sorts by that column, a second one the other way round, a third one puts
+  /// the rows into the program's order again.
+  bool sorts = false;
 };
 
 enum class FormBorder {

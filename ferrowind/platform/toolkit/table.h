@@ -44,6 +44,9 @@ enum class CellMark {
   kToday,
 };
 
+/// The English word for a mark; "" for none.
+[[nodiscard]] const char* WordOf(CellMark mark);
+
 /// How much a cell asks for attention.
 enum class CellTone {
   kNormal,
@@ -105,6 +108,8 @@ class Table : public Control {
   /// can, the place that is scrolled to. Where the current row is gone, the one at its place is current, or
   /// the last; where none was, the first.
   virtual void SetRows(const std::vector<TableRow>& rows) = 0;
+  /// What the table says while it has no rows; nothing at first.
+  virtual void SetEmptyText(const std::string& text) = 0;
   [[nodiscard]] virtual std::size_t RowCount() const = 0;
   /// The keys of all rows in the order on show.
   [[nodiscard]] virtual std::vector<std::string> RowKeys() const = 0;

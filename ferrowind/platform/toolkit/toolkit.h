@@ -13,6 +13,7 @@
 #include "ferrowind/platform/toolkit/grid.h"
 #include "ferrowind/platform/toolkit/label.h"
 #include "ferrowind/platform/toolkit/status_bar.h"
+#include "ferrowind/platform/toolkit/table.h"
 #include "ferrowind/platform/toolkit/text_box.h"
 #include "ferrowind/platform/toolkit/tool_bar.h"
 #include "ferrowind/platform/toolkit/tree.h"

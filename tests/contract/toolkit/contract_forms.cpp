@@ -54,6 +54,21 @@ FormDesign ContractClosableDialog() {
           .controls = {{ControlKind::kButton, "cmdOk", "Ok"}}};
 }
 
+FormDesign ContractTables() {
+  return {
+      .name = "fmContractTables",
+      .caption = "Tables",
+      .client_width = 12000,
+      .client_height = 9000,
+      .controls = {{ControlKind::kTable, "tblRows"},
+                   {.kind = ControlKind::kTable,
+                    .name = "tblCells",
+                    .selects_cells = true,
+                    .selects_many = true,
+                    .sorts = true},
+                   {.kind = ControlKind::kButton, .name = "cmdOk", .text = "Ok", .is_default_button = true}}};
+}
+
 FormDesign FormWithoutLayout() { return {.name = "fmNowhere", .caption = "Nowhere"}; }
 
 }  // namespace ferrowind::contract

@@ -12,6 +12,9 @@ namespace ferrowind::contract {
 [[nodiscard]] platform::FormDesign ContractFixedDialog();
 /// "fmContractClosable": a dialog that its frame can close, with the button `cmdOk`.
 [[nodiscard]] platform::FormDesign ContractClosableDialog();
+/// "fmContractTables": the table `tblRows`, in which one row is current, the table `tblCells`, in which one
+/// cell is current and the operator can sort and select many rows, and the default button `cmdOk`.
+[[nodiscard]] platform::FormDesign ContractTables();
 /// "fmNowhere", a form that no adapter has a layout for.
 [[nodiscard]] platform::FormDesign FormWithoutLayout();
 

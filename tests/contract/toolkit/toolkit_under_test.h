@@ -13,6 +13,7 @@
 #include "ferrowind/platform/toolkit/grid.h"
 #include "ferrowind/platform/toolkit/label.h"
 #include "ferrowind/platform/toolkit/status_bar.h"
+#include "ferrowind/platform/toolkit/table.h"
 #include "ferrowind/platform/toolkit/text_box.h"
 #include "ferrowind/platform/toolkit/tool_bar.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
@@ -78,6 +79,19 @@ class ToolkitUnderTest {
   /// Calls `ShowPopupMenu` and chooses that tool, or dismisses the menu where `tool_id` is empty.
   virtual void ShowPopupAndChoose(platform::ToolBar& tool_bar, const std::string& menu_id,
                                   const std::string& tool_id) = 0;
+
+  /// Clicks a cell of a table.
+  virtual void ClickCell(platform::Table& table, const std::string& row, const std::string& column) = 0;
+  virtual void DoubleClickCell(platform::Table& table, const std::string& row, const std::string& column) = 0;
+  /// Clicks a table's row while the Shift key is held.
+  virtual void ExtendToTableRow(platform::Table& table, const std::string& row) = 0;
+  /// Clicks the box of a table's row.
+  virtual void ClickBox(platform::Table& table, const std::string& row) = 0;
+  virtual void ClickTableHeader(platform::Table& table, const std::string& column) = 0;
+  /// Presses the space bar, and Ctrl+C, in the table, which takes the focus.
+  virtual void PressSpace(platform::Table& table) = 0;
+  virtual void PressCopy(platform::Table& table) = 0;
+  [[nodiscard]] virtual std::string ClipboardText() = 0;
 
   /// Clicks a row with `kLeftButton` or `kRightButton`.
   virtual void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) = 0;

@@ -17,6 +17,7 @@
 #include "ferrowind/adapters/qt/controls/qt_up_down.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
+#include "ferrowind/adapters/qt/table/qt_table.h"
 
 namespace ferrowind::qt {
 
@@ -54,6 +55,7 @@ bool CanBeControl(const QWidget& widget) {
          qobject_cast<const UpDownArrows*>(&widget) != nullptr ||
          qobject_cast<const TreeView*>(&widget) != nullptr ||
          qobject_cast<const GridWidget*>(&widget) != nullptr ||
+         qobject_cast<const TableView*>(&widget) != nullptr ||
          qobject_cast<const QToolBar*>(&widget) != nullptr ||
          qobject_cast<const QStatusBar*>(&widget) != nullptr;
 }
@@ -85,6 +87,8 @@ std::unique_ptr<platform::Control> MakeControl(ControlKind kind, QWidget& widget
       return MakeOver<QtTree, TreeView>(widget);
     case ControlKind::kGrid:
       return MakeOver<QtGrid, GridWidget>(widget);
+    case ControlKind::kTable:
+      return MakeOver<QtTable, TableView>(widget);
     case ControlKind::kToolBar:
       return MakeOver<QtToolBar, QToolBar>(widget);
     case ControlKind::kStatusBar:

@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/qt/controls/select_on_focus.h"
 #include "ferrowind/adapters/qt/forms/dialog_keys.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
+#include "ferrowind/adapters/qt/table/qt_table.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/toolkit/button.h"
 #include "ferrowind/platform/toolkit/label.h"
@@ -77,6 +78,7 @@ void ApplyDesign(FormWindow& window, const platform::FormDesign& design, const F
     ApplyTyping(window, design.controls[i]);
     if (auto* grid = dynamic_cast<QtGrid*>(controls[i].get()))
       grid->SetMarksRowRanges(design.controls[i].marks_row_ranges);
+    if (auto* table = dynamic_cast<QtTable*>(controls[i].get())) table->ApplyDesign(design.controls[i]);
   }
   ApplyMnemonics(controls);
   ApplyTabOrder(window, controls);

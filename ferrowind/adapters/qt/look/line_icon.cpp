@@ -4,18 +4,15 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <algorithm>
 #include <map>
 #include <tuple>
 #include <utility>
 
+#include "ferrowind/adapters/qt/look/glyph_painter.h"
+
 namespace ferrowind::qt {
 namespace {
 
-constexpr qreal kUnits = 24;
-constexpr qreal kLineWidth = 1.6;
-/// Below this a line would look grey rather than thin.
-constexpr qreal kThinnestPixels = 1.25;
 /// Of one icon, in all its sizes and modes.
 constexpr std::size_t kMostPixmaps = 32;
 
@@ -47,14 +44,7 @@ class LineIconEngine : public QIconEngine {
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
     const Colors colors = ColorsOf(mode, accent_);
-    const qreal side = std::min(rect.width(), rect.height());
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->translate(QRectF(rect).center() - QPointF(side / 2, side / 2));
-    painter->scale(side / kUnits, side / kUnits);
-    Draw(*painter, glyph_.lines, glyph_.solids, colors.line, side);
-    Draw(*painter, glyph_.accent_lines, glyph_.accent_solids, colors.accent, side);
-    painter->restore();
+    PaintGlyph(*painter, glyph_, rect, colors.line, colors.accent);
   }
 
   [[nodiscard]] QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -75,13 +65,6 @@ class LineIconEngine : public QIconEngine {
   }
 
  private:
-  static void Draw(QPainter& painter, const QPainterPath& lines, const QPainterPath& solids,
-                   const QColor& color, qreal side) {
-    const qreal width = std::max(kLineWidth, kThinnestPixels * kUnits / side);
-    painter.strokePath(lines, QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(solids, color);
-  }
-
   Glyph (*make_glyph_)();
   Glyph glyph_;
   QColor accent_;

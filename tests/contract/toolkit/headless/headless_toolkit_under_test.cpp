@@ -5,6 +5,7 @@
 #include "ferrowind/adapters/headless/headless_date_picker.h"
 #include "ferrowind/adapters/headless/headless_drop_down_list.h"
 #include "ferrowind/adapters/headless/headless_grid.h"
+#include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_tree.h"
@@ -93,6 +94,25 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
     if (!tool_id.empty()) As<HeadlessToolBar>(tool_bar).ChooseFromNextPopup(tool_id);
     tool_bar.ShowPopupMenu(menu_id);
   }
+
+  void ClickCell(platform::Table& table, const std::string& row, const std::string& column) override {
+    As<HeadlessTable>(table).ClickRow(row, column);
+  }
+  void DoubleClickCell(platform::Table& table, const std::string& row, const std::string& column) override {
+    As<HeadlessTable>(table).DoubleClickRow(row, column);
+  }
+  void ExtendToTableRow(platform::Table& table, const std::string& row) override {
+    As<HeadlessTable>(table).ExtendToRow(row);
+  }
+  void ClickBox(platform::Table& table, const std::string& row) override {
+    As<HeadlessTable>(table).ClickBox(row);
+  }
+  void ClickTableHeader(platform::Table& table, const std::string& column) override {
+    As<HeadlessTable>(table).ClickHeader(column);
+  }
+  void PressSpace(platform::Table& table) override { As<HeadlessTable>(table).PressSpace(); }
+  void PressCopy(platform::Table& table) override { As<HeadlessTable>(table).PressCopy(); }
+  [[nodiscard]] std::string ClipboardText() override { return world_.toolkit.Clipboard(); }
 
   void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) override {
     if (button == platform::kRightButton) {

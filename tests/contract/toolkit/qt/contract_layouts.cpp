@@ -14,6 +14,7 @@
 #include "ferrowind/adapters/qt/controls/tree_view.h"
 #include "ferrowind/adapters/qt/controls/up_down_arrows.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
+#include "ferrowind/adapters/qt/table/table_view.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -55,6 +56,13 @@ void BuildFixed(QDialog& window) {
   for (const char* name : {"cmdFirst", "cmdOk", "cmdCancel"}) layout->addWidget(Named<QPushButton>(name));
 }
 
+void BuildTables(QDialog& window) {
+  auto* layout = new QVBoxLayout(&window);
+  layout->addWidget(Named<qt::TableView>("tblRows"));
+  layout->addWidget(Named<qt::TableView>("tblCells"));
+  layout->addWidget(Named<QPushButton>("cmdOk"));
+}
+
 void BuildClosable(QDialog& window) { (new QVBoxLayout(&window))->addWidget(Named<QPushButton>("cmdOk")); }
 
 }  // namespace
@@ -64,6 +72,7 @@ qt::FormLayouts ContractLayouts() {
   layouts.Add("fmContract", BuildContract);
   layouts.Add("fmContractFixed", BuildFixed);
   layouts.Add("fmContractClosable", BuildClosable);
+  layouts.Add("fmContractTables", BuildTables);
   return layouts;
 }
 

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -16,6 +17,8 @@
 #include "ferrowind/adapters/qt/controls/tree_model.h"
 #include "ferrowind/adapters/qt/controls/tree_view.h"
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
+#include "ferrowind/adapters/qt/table/table_header.h"
+#include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 
@@ -165,6 +168,40 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     tool_bar.ShowPopupMenu(menu_id);
   }
 
+  void ClickCell(platform::Table& table, const std::string& row, const std::string& column) override {
+    ClickAt(table, CellArea(table, row, column).center(), {});
+  }
+  void DoubleClickCell(platform::Table& table, const std::string& row, const std::string& column) override {
+    QWidget* cells = WidgetOf<qt::TableView>(table).viewport();
+    QTest::mouseClick(cells, Qt::LeftButton, {}, CellArea(table, row, column).center());
+    QTest::mouseDClick(cells, Qt::LeftButton, {}, CellArea(table, row, column).center());
+  }
+  void ExtendToTableRow(platform::Table& table, const std::string& row) override {
+    ClickAt(table, CellArea(table, row, ColumnKeys(table).front()).center(), Qt::ShiftModifier);
+  }
+  void ClickBox(platform::Table& table, const std::string& row) override {
+    const QRect cell = CellArea(table, row, ColumnKeys(table).front());
+    ClickAt(table, QPoint(cell.left() + 14, cell.center().y()), {});
+  }
+  void ClickTableHeader(platform::Table& table, const std::string& column) override {
+    auto& header = WidgetOf<qt::TableView>(table).Header();
+    const int place = ColumnPlace(table, column);
+    QTest::mouseClick(
+        header.viewport(), Qt::LeftButton, {},
+        {header.sectionViewportPosition(place) + header.sectionSize(place) / 2, header.height() / 2});
+  }
+  void PressSpace(platform::Table& table) override {
+    Activate(WidgetOf<QWidget>(table));
+    WidgetOf<QWidget>(table).setFocus();
+    QTest::keyClick(&WidgetOf<QWidget>(table), Qt::Key_Space);
+  }
+  void PressCopy(platform::Table& table) override {
+    Activate(WidgetOf<QWidget>(table));
+    WidgetOf<QWidget>(table).setFocus();
+    QTest::keyClick(&WidgetOf<QWidget>(table), Qt::Key_C, Qt::ControlModifier);
+  }
+  [[nodiscard]] std::string ClipboardText() override { return qt::FromQt(QApplication::clipboard()->text()); }
+
   void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) override {
     GridOperator(grid).ClickRow(row, button == platform::kRightButton ? Qt::RightButton : Qt::LeftButton, {});
   }
@@ -212,6 +249,24 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   }
   static QModelIndex NodeOf(const qt::TreeView& view, const std::string& key) {
     return dynamic_cast<const qt::TreeModel&>(*view.model()).Find(key);
+  }
+  static std::vector<std::string> ColumnKeys(platform::Table& table) {
+    std::vector<std::string> keys;
+    for (const auto& column : WidgetOf<qt::TableView>(table).Model()->Content().Columns())
+      keys.push_back(column.key);
+    return keys;
+  }
+  static int ColumnPlace(platform::Table& table, const std::string& column) {
+    return static_cast<int>(WidgetOf<qt::TableView>(table).Model()->Content().ColumnOf(column));
+  }
+  static QRect CellArea(platform::Table& table, const std::string& row, const std::string& column) {
+    auto& view = WidgetOf<qt::TableView>(table);
+    QTest::qWait(0);
+    const int place = static_cast<int>(view.Model()->Content().RowOf(row));
+    return view.visualRect(view.Model()->index(place, ColumnPlace(table, column)));
+  }
+  static void ClickAt(platform::Table& table, const QPoint& at, Qt::KeyboardModifiers modifiers) {
+    QTest::mouseClick(WidgetOf<qt::TableView>(table).viewport(), Qt::LeftButton, modifiers, at);
   }
   static QToolButton* ToolButton(platform::ToolBar& tool_bar, const std::string& id) {
     return WidgetOf<QWidget>(tool_bar).findChild<QToolButton*>(qt::ToQt(id));
