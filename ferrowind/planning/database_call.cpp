@@ -1,6 +1,7 @@
 #include "ferrowind/planning/database_call.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/module_state.h"
@@ -34,8 +35,9 @@ std::string InWords(std::int32_t return_value) {
   }
 }
 
-platform::Failure FailureOfCall(const std::string& doing) {
-  if (Module().pending_failure_count == 0) {
+/// The failure that the gateway keeps, which it keeps no longer: it would be reported beside this one.
+platform::Failure TakeFailureOfCall(const std::string& doing) {
+  if (std::exchange(Module().pending_failure_count, 0) == 0) {
     return {platform::failure_number::kInvalidArgument, doing + ": the call failed"};
   }
   const FailureRecord& pending = Module().pending_failures.front();
@@ -57,7 +59,8 @@ CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
   std::shared_ptr<SourceValues> results;
   answer.return_value = ExecProc(procedure, &parameters, results);
   // A failure after the return value was read leaves it standing, but not all of the answer.
-  if (answer.return_value == kCallFailed || Module().pending_failure_count != 0) throw FailureOfCall(doing);
+  if (answer.return_value == kCallFailed || Module().pending_failure_count != 0)
+    throw TakeFailureOfCall(doing);
   if (answer.return_value != return_value::kDone) {
     const bool is_expected =
         std::find(expected.begin(), expected.end(), answer.return_value) != expected.end();

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "ferrowind/data/run_handler.h"
+
 #include "tests/unit/planning/planning_world.h"
 
 namespace ferrowind::planning {
@@ -10,6 +12,7 @@ namespace {
 using headless::CommandStep;
 using platform::Failure;
 using ::testing::AllOf;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing::RunInFreshThread;
 
@@ -69,6 +72,16 @@ TEST(DatabaseCall, PassesAFailureOnWithItsNumber) {
     const Failure failure = testing::FailureOf([] { (void)CallDatabase("Reading EUR 2028", "P", {}); });
     EXPECT_EQ(failure.Number(), 1234);
     EXPECT_EQ(failure.Description(), "Reading EUR 2028: The disk is full");
+  });
+}
+
+TEST(DatabaseCall, LeavesNothingToBeReportedBesideItsFailure) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    component.world.commands.Answer("P");
+    component.world.commands.FailAt(CommandStep::kExecute, Failure(-5, "line lost"));
+    RunHandler([] { (void)CallDatabase("Reading", "P", {}); });
+    EXPECT_THAT(component.SeenByOperator(), ElementsAre(HasSubstr("Reading: line lost")));
   });
 }
 
