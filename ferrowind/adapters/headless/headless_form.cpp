@@ -7,6 +7,7 @@
 #include "ferrowind/adapters/headless/headless_button.h"
 #include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
+#include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::headless {
@@ -350,6 +351,15 @@ void HeadlessForm::TypeText(const std::string& text) {
   for (const auto& control : design_.controls) {
     if (control.takes_typing && CoreOf(control.name).Usable())
       return Part<HeadlessTextBox>(control.name).TypeText(text);
+  }
+}
+
+void HeadlessForm::PressShortcut(const std::string& shortcut) {
+  const auto keep = Keep();
+  RequireInput(CallText(Name(), "PressShortcut", {shortcut}));
+  for (const auto& control : design_.controls) {
+    if (control.kind != ControlKind::kToolBar || !CoreOf(control.name).Usable()) continue;
+    if (Part<HeadlessToolBar>(control.name).PressShortcut(shortcut)) return;
   }
 }
 

@@ -81,6 +81,9 @@ class HeadlessForm : public platform::Form,
   void ResizeByOperator(float width, float height);
   /// Types on the keyboard: into the focused text box, else into the one of the design that takes typing.
   void TypeText(const std::string& text);
+  /// Presses the shortcut of a tool, written as its design has it; does nothing when no tool that the
+  /// operator can use has it.
+  void PressShortcut(const std::string& shortcut);
   /// Presses Enter: the focused table or button or else the default button, if the operator can use it.
   void PressEnter();
   /// Presses Escape: the cancel button, if there is one that the operator can use, or else what closes the

@@ -40,6 +40,16 @@ void HeadlessToolBar::SetToolPressed(const std::string& id, bool pressed) {
   ToolOf(id).pressed = pressed;
 }
 
+void HeadlessToolBar::SetToolCaption(const std::string& id, const std::string& caption) {
+  core_.Record("SetToolCaption", {id, caption});
+  ToolOf(id).design.caption = caption;
+}
+
+void HeadlessToolBar::SetToolDescription(const std::string& id, const std::string& description) {
+  core_.Record("SetToolDescription", {id, description});
+  ToolOf(id).design.description = description;
+}
+
 void HeadlessToolBar::ShowPopupMenu(const std::string& id) {
   core_.Record("ShowPopupMenu", {id});
   const auto menu = menus_.find(id);
@@ -56,6 +66,16 @@ void HeadlessToolBar::ShowPopupMenu(const std::string& id) {
 void HeadlessToolBar::ClickTool(const std::string& id) {
   const auto keep = core_.BeginAction("ClickTool", {id});
   Activate(id, bar_);
+}
+
+bool HeadlessToolBar::PressShortcut(const std::string& shortcut) {
+  const auto keep = core_.BeginAction("PressShortcut", {shortcut});
+  for (auto& [id, tool] : tools_) {
+    if (tool.design.shortcut != shortcut || !tool.enabled) continue;
+    Click(tool);
+    return true;
+  }
+  return false;
 }
 
 void HeadlessToolBar::EnterTool(const std::string& id) {
@@ -106,7 +126,12 @@ void HeadlessToolBar::Activate(const std::string& id, const Menu& place) {
   }
   Tool& tool = ToolOf(id);
   if (!tool.enabled) core_.RaiseScriptError("The operator cannot choose " + id + ": it is disabled");
+  Click(tool);
+}
+
+void HeadlessToolBar::Click(Tool& tool) {
   if (tool.design.kind == platform::ToolKind::kTwoStateButton) tool.pressed = !tool.pressed;
+  const std::string id = tool.design.id;
   clicked_.Emit(id);
 }
 

@@ -27,6 +27,11 @@ class HeadlessToolBar : public HeadlessControl<platform::ToolBar> {
   [[nodiscard]] std::string ToolDescription(const std::string& id) const override {
     return ToolOf(id).design.description;
   }
+  [[nodiscard]] std::string ToolCaption(const std::string& id) const override {
+    return ToolOf(id).design.caption;
+  }
+  void SetToolCaption(const std::string& id, const std::string& caption) override;
+  void SetToolDescription(const std::string& id, const std::string& description) override;
   void ShowPopupMenu(const std::string& id) override;
   [[nodiscard]] platform::Subscription OnToolClick(
       std::function<void(const std::string& id)> handler) override {
@@ -53,6 +58,8 @@ class HeadlessToolBar : public HeadlessControl<platform::ToolBar> {
 
   /// The operator clicks a tool of the bar; script error when it is not there or disabled.
   void ClickTool(const std::string& id);
+  /// The operator presses the shortcut of a tool of this bar; false when no tool that is enabled has it.
+  bool PressShortcut(const std::string& shortcut);
   void EnterTool(const std::string& id);
   void LeaveTool(const std::string& id);
   /// The operator will choose that tool in the next popup menu that has no choice yet. A menu without one is
@@ -72,6 +79,7 @@ class HeadlessToolBar : public HeadlessControl<platform::ToolBar> {
   void RequireTools(const std::vector<std::string>& ids) const;
   void RequireToolOnBar(const std::string& id);
   void Activate(const std::string& id, const Menu& place);
+  void Click(Tool& tool);
 
   std::map<std::string, Tool> tools_;
   std::map<std::string, Menu> menus_;

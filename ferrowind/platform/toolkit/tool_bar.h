@@ -18,6 +18,10 @@ struct ToolDesign {
   std::string category;
   std::string description;
   ToolKind kind = ToolKind::kButton;
+  /// The keys that click the tool while its window is active, as "Ctrl+F", "F5" or "Ctrl+Shift+Z"; menus and
+  /// the tooltip tell them as the desktop writes them. A text box that has the focus keeps those it needs
+  /// itself, as for undoing what was typed. "" for those that the layout gives it, if any.
+  std::string shortcut = {};
 };
 
 /// The place of a separator in a list of tool ids.
@@ -28,7 +32,8 @@ inline constexpr const char* kToolSeparator = "-";
 class ToolBar : public Control {
  public:
   /// Adds a tool, enabled and not pressed; it is not shown until it is put on the bar or into a menu. An id
-  /// in use is the failure Key not unique (35602).
+  /// in use is the failure Key not unique (35602). Its shortcut works wherever the tool stands,
+  /// and also while it stands nowhere.
   virtual void AddTool(const ToolDesign& tool) = 0;
   /// Puts the tools of those ids on the bar, in that order, in place of what was there.
   virtual void SetBar(const std::string& caption, const std::vector<std::string>& ids) = 0;
@@ -43,12 +48,17 @@ class ToolBar : public Control {
   /// Raises no event.
   virtual void SetToolPressed(const std::string& id, bool pressed) = 0;
   [[nodiscard]] virtual std::string ToolDescription(const std::string& id) const = 0;
+  [[nodiscard]] virtual std::string ToolCaption(const std::string& id) const = 0;
+  /// Both show at once, wherever the tool stands: so it can name what it would do now.
+  virtual void SetToolCaption(const std::string& id, const std::string& caption) = 0;
+  virtual void SetToolDescription(const std::string& id, const std::string& description) = 0;
 
   /// Shows the popup menu at the mouse position, or at the grid's current row when a key asked for it.
   /// Returns once it is closed; a tool chosen in it has raised `OnToolClick` by then.
   virtual void ShowPopupMenu(const std::string& id) = 0;
 
-  /// A tool was clicked, on the bar or in a menu; a two-state button has its new state already.
+  /// A tool was clicked, on the bar or in a menu, or its shortcut was pressed; a two-state button has its new
+  /// state already.
   [[nodiscard]] virtual Subscription OnToolClick(std::function<void(const std::string& id)> handler) = 0;
   /// The mouse, or the keyboard's selection in a menu, came to a tool; the tool may be disabled.
   [[nodiscard]] virtual Subscription OnToolEnter(std::function<void(const std::string& id)> handler) = 0;

@@ -29,6 +29,34 @@ TEST_F(ToolBarContract, AddsToolsEnabledAndNotPressed) {
   EXPECT_EQ(bar.ToolDescription("ID_Refresh"), "Refresh all");
 }
 
+TEST_F(ToolBarContract, ClicksAToolByItsShortcutWhereverItStands) {
+  bar.AddTool({.id = "ID_Find", .caption = "Find", .shortcut = "Ctrl+F"});
+  bar.AddTool({.id = "ID_Undo", .caption = "Undo", .shortcut = "Ctrl+Shift+P"});
+  bar.AddTool({.id = "ID_Year", .caption = "Year", .kind = ToolKind::kTwoStateButton, .shortcut = "F7"});
+  bar.SetBar("ToolBar", {"ID_Find", "ID_Refresh"});
+  bar.AddPopupMenu("ID_Other", "Other", {"ID_Undo"});
+  const Subscription clicked = bar.OnToolClick(
+      [&](const std::string& id) { notes.push_back(id + (bar.ToolPressed(id) ? " pressed" : "")); });
+  for (const char* keys : {"Ctrl+F", "Ctrl+Shift+P", "F7", "F7"}) under_test->PressShortcut(*form, keys);
+  EXPECT_THAT(notes, ElementsAre("ID_Find", "ID_Undo", "ID_Year pressed", "ID_Year"));
+}
+
+TEST_F(ToolBarContract, DoesNotClickADisabledToolByItsShortcut) {
+  bar.AddTool({.id = "ID_Find", .caption = "Find", .shortcut = "Ctrl+F"});
+  bar.SetToolEnabled("ID_Find", false);
+  const Subscription clicked = bar.OnToolClick(NoteKey("click"));
+  under_test->PressShortcut(*form, "Ctrl+F");
+  EXPECT_THAT(notes, IsEmpty());
+}
+
+TEST_F(ToolBarContract, TakesANewCaptionAndDescription) {
+  EXPECT_EQ(bar.ToolCaption("ID_New"), "New");
+  bar.SetToolCaption("ID_New", "New & better");
+  bar.SetToolDescription("ID_New", "Undo: Assigned Good Friday");
+  EXPECT_EQ(bar.ToolCaption("ID_New"), "New & better");
+  EXPECT_EQ(bar.ToolDescription("ID_New"), "Undo: Assigned Good Friday");
+}
+
 TEST_F(ToolBarContract, RefusesAnIdInUse) {
   ExpectFailure(failure_number::kKeyNotUnique, "ID_New", [&] { bar.AddTool({"ID_New", "x", "x", "x"}); });
   EXPECT_EQ(bar.ToolDescription("ID_New"), "Create new calendar");
@@ -45,6 +73,9 @@ TEST_F(ToolBarContract, NamesTheIdOfNoTool) {
   expect([&] { static_cast<void>(bar.ToolPressed("ID_None")); });
   expect([&] { bar.SetToolPressed("ID_None", true); });
   expect([&] { static_cast<void>(bar.ToolDescription("ID_None")); });
+  expect([&] { static_cast<void>(bar.ToolCaption("ID_None")); });
+  expect([&] { bar.SetToolCaption("ID_None", "x"); });
+  expect([&] { bar.SetToolDescription("ID_None", "x"); });
   expect([&] { bar.ShowPopupMenu("ID_None"); });
 }
 

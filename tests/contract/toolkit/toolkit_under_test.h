@@ -73,6 +73,8 @@ class ToolkitUnderTest {
   virtual void ToggleNode(platform::Tree& tree, const std::string& key) = 0;
 
   virtual void ClickTool(platform::ToolBar& tool_bar, const std::string& id) = 0;
+  /// Presses a tool's shortcut, written as its design has it, while the form is active.
+  virtual void PressShortcut(platform::Form& form, const std::string& shortcut) = 0;
   /// Moves the mouse onto the tool of the bar and away again.
   virtual void EnterTool(platform::ToolBar& tool_bar, const std::string& id) = 0;
   virtual void LeaveTool(platform::ToolBar& tool_bar, const std::string& id) = 0;

@@ -184,5 +184,38 @@ TEST(PopupPlace, IsTheFocusedItemAfterAKeyAndTheMouseOtherwise) {
   EXPECT_EQ(PopupPlace(), QCursor::pos());
 }
 
+TEST(ToolShortcutTest, IsToldInTheTooltipAndInMenus) {
+  QDialog window;
+  auto* widget = new QToolBar(&window);
+  QtToolBar bar(*widget);
+  bar.AddTool({.id = "ID_Find", .caption = "Find", .description = "Find days", .shortcut = "Ctrl+Shift+F"});
+  bar.AddPopupMenu("ID_Menu", "Menu", {"ID_Find"});
+  bar.SetBar("ToolBar", {"ID_Find"});
+  auto& button = *widget->findChild<QToolButton*>("ID_Find");
+  EXPECT_EQ(button.toolTip(), "Find days (Ctrl+Shift+F)");
+  EXPECT_EQ(button.defaultAction()->shortcut(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F));
+  EXPECT_TRUE(button.defaultAction()->isShortcutVisibleInContextMenu());
+}
+
+TEST(ToolShortcutTest, IsTheDesignsInPlaceOfTheLayouts) {
+  QDialog window;
+  auto* widget = new QToolBar(&window);
+  QtToolBar bar(*widget);
+  bar.AddTool({.id = "ID_Refresh", .caption = "Refresh", .shortcut = "F6"});
+  bar.SetBar("ToolBar", {"ID_Refresh"});
+  EXPECT_EQ(widget->findChild<QToolButton*>("ID_Refresh")->defaultAction()->shortcut(),
+            QKeySequence(Qt::Key_F6));
+}
+
+TEST_F(ToolBarTest, ShowsANewCaptionAndDescriptionAtOnce) {
+  bar_.SetToolCaption("ID_Copy", "Undo & redo");
+  bar_.SetToolDescription("ID_Copy", "Undo: Assigned Good Friday to 14 April 2028");
+  QToolButton& button = Button("ID_Copy");
+  EXPECT_EQ(button.accessibleName(), "Undo & redo");
+  EXPECT_EQ(button.accessibleDescription(), "Undo: Assigned Good Friday to 14 April 2028");
+  EXPECT_EQ(button.toolTip().left(43), "Undo: Assigned Good Friday to 14 April 2028");
+  EXPECT_EQ(button.defaultAction()->text(), "Undo && redo");
+}
+
 }  // namespace
 }  // namespace ferrowind::qt

@@ -15,6 +15,23 @@ namespace failure_number = platform::failure_number;
 
 namespace {
 
+QKeySequence ShortcutOf(const platform::ToolDesign& tool, const ToolLook& look) {
+  if (tool.shortcut.empty()) return look.shortcut;
+  return QKeySequence::fromString(ToQt(tool.shortcut), QKeySequence::PortableText);
+}
+
+void SetCaptionOf(QAction& tool, const std::string& caption) {
+  tool.setText(MarkedCaption(ToQt(caption)));
+  tool.setIconText(ToQt(caption));
+}
+
+void SetDescriptionOf(QAction& tool, const std::string& description) {
+  // As data and not as "What's this?", for which a dialog would open a menu and a window of its own.
+  tool.setData(ToQt(description));
+  const QString keys = tool.shortcut().toString(QKeySequence::NativeText);
+  tool.setToolTip(ToQt(description) + (keys.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(keys)));
+}
+
 /// Closes a menu when the window that it was opened from is closed from elsewhere.
 class ClosingWithWindow : public QObject {
  public:
@@ -46,19 +63,18 @@ QtToolBar::~QtToolBar() = default;
 
 void QtToolBar::AddTool(const platform::ToolDesign& tool) {
   RequireUnusedId(tool.id);
-  auto action = std::make_unique<QAction>(MarkedCaption(ToQt(tool.caption)));
-  action->setObjectName(ToQt(tool.id));
-  action->setIconText(ToQt(tool.caption));
-  action->setStatusTip({});
-  // As data and not as "What's this?", for which a dialog would open a menu and a window of its own.
-  action->setData(ToQt(tool.description));
-  action->setCheckable(tool.kind == platform::ToolKind::kTwoStateButton);
   const ToolLook look = ToolLookOf(tool.id);
+  const QKeySequence shortcut = ShortcutOf(tool, look);
+  auto action = std::make_unique<QAction>();
+  action->setObjectName(ToQt(tool.id));
+  action->setStatusTip({});
+  action->setCheckable(tool.kind == platform::ToolKind::kTwoStateButton);
   action->setIcon(look.icon);
-  action->setShortcut(look.shortcut);
-  const QString shortcut = look.shortcut.toString(QKeySequence::NativeText);
-  action->setToolTip(ToQt(tool.description) +
-                     (shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(shortcut)));
+  action->setShortcut(shortcut);
+  SetCaptionOf(*action, tool.caption);
+  SetDescriptionOf(*action, tool.description);
+  // An action has its shortcut where it stands, and a menu of its own stands in no window.
+  if (!tool.shortcut.empty() && !bar_.isWindow()) bar_.window()->addAction(action.get());
   QObject::connect(action.get(), &QAction::triggered, Context(),
                    [this, id = tool.id] { Raise(clicked_, id); });
   tools_.emplace(tool.id, std::move(action));
@@ -77,8 +93,7 @@ void QtToolBar::SetBar(const std::string& caption, const std::vector<std::string
     bar_.addAction(tool);
     QWidget* button = bar_.widgetForAction(tool);
     button->setObjectName(tool->objectName());
-    button->setAccessibleName(tool->iconText());
-    button->setAccessibleDescription(tool->data().toString());
+    DescribeButton(*tool);
     // A bar's buttons are out of the keyboard's reach by default.
     button->setFocusPolicy(Qt::TabFocus);
     hover_.WatchButton(*button, *tool);
@@ -116,6 +131,20 @@ std::string QtToolBar::ToolDescription(const std::string& id) const {
   return FromQt(ToolOf(id).data().toString());
 }
 
+std::string QtToolBar::ToolCaption(const std::string& id) const { return FromQt(ToolOf(id).iconText()); }
+
+void QtToolBar::SetToolCaption(const std::string& id, const std::string& caption) {
+  QAction& tool = ToolOf(id);
+  SetCaptionOf(tool, caption);
+  DescribeButton(tool);
+}
+
+void QtToolBar::SetToolDescription(const std::string& id, const std::string& description) {
+  QAction& tool = ToolOf(id);
+  SetDescriptionOf(tool, description);
+  DescribeButton(tool);
+}
+
 void QtToolBar::ShowPopupMenu(const std::string& id) {
   const auto menu = menus_.find(id);
   if (menu == menus_.end()) {
@@ -135,6 +164,13 @@ platform::Subscription QtToolBar::OnToolEnter(std::function<void(const std::stri
 
 platform::Subscription QtToolBar::OnToolLeave(std::function<void(const std::string&)> handler) {
   return left_.Subscribe(std::move(handler));
+}
+
+void QtToolBar::DescribeButton(QAction& tool) {
+  QWidget* button = bar_.widgetForAction(&tool);
+  if (button == nullptr) return;
+  button->setAccessibleName(tool.iconText());
+  button->setAccessibleDescription(tool.data().toString());
 }
 
 QAction& QtToolBar::ToolOf(const std::string& id) const {

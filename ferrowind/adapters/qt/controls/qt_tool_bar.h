@@ -29,12 +29,17 @@ class QtToolBar : public QtControl<platform::ToolBar> {
   [[nodiscard]] bool ToolPressed(const std::string& id) const override;
   void SetToolPressed(const std::string& id, bool pressed) override;
   [[nodiscard]] std::string ToolDescription(const std::string& id) const override;
+  [[nodiscard]] std::string ToolCaption(const std::string& id) const override;
+  void SetToolCaption(const std::string& id, const std::string& caption) override;
+  void SetToolDescription(const std::string& id, const std::string& description) override;
   void ShowPopupMenu(const std::string& id) override;
   [[nodiscard]] platform::Subscription OnToolClick(std::function<void(const std::string&)> handler) override;
   [[nodiscard]] platform::Subscription OnToolEnter(std::function<void(const std::string&)> handler) override;
   [[nodiscard]] platform::Subscription OnToolLeave(std::function<void(const std::string&)> handler) override;
 
  private:
+  /// Has the tool's button on the bar, if it has one, tell the same as the tool.
+  void DescribeButton(QAction& tool);
   [[nodiscard]] QAction& ToolOf(const std::string& id) const;
   /// The actions of those ids, null for a separator.
   [[nodiscard]] std::vector<QAction*> ToolsOf(const std::vector<std::string>& ids) const;

@@ -83,6 +83,9 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
   void ClickTool(platform::ToolBar& tool_bar, const std::string& id) override {
     As<HeadlessToolBar>(tool_bar).ClickTool(id);
   }
+  void PressShortcut(platform::Form& form, const std::string& shortcut) override {
+    As<HeadlessForm>(form).PressShortcut(shortcut);
+  }
   void EnterTool(platform::ToolBar& tool_bar, const std::string& id) override {
     As<HeadlessToolBar>(tool_bar).EnterTool(id);
   }

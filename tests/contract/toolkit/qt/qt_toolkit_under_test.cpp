@@ -153,6 +153,13 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   void ClickTool(platform::ToolBar& tool_bar, const std::string& id) override {
     QTest::mouseClick(ToolButton(tool_bar, id), Qt::LeftButton);
   }
+  void PressShortcut(platform::Form& form, const std::string& shortcut) override {
+    auto& window = WidgetOf<QWidget>(form);
+    Activate(window);
+    const QKeyCombination keys = QKeySequence::fromString(qt::ToQt(shortcut))[0];
+    QWidget* focused = window.focusWidget();
+    QTest::keyClick(focused != nullptr ? focused : &window, keys.key(), keys.keyboardModifiers());
+  }
   void EnterTool(platform::ToolBar& tool_bar, const std::string& id) override {
     QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
     QCoreApplication::sendEvent(ToolButton(tool_bar, id), &enter);
