@@ -43,6 +43,7 @@ class NoToolkit : public platform::Toolkit {
   [[nodiscard]] float TwipsPerPixelX() const override { return 1440.0F / 96.0F; }
   bool LockUpdates(platform::Element&) override { return false; }
   void UnlockUpdates() override {}
+  [[nodiscard]] platform::Subscription After(std::int32_t, std::function<void()>) override { return {}; }
   void ProcessPendingEvents() override {}
   void Beep() override {}
 };

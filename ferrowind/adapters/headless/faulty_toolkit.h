@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "ferrowind/adapters/headless/fault_plan.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
@@ -21,6 +24,10 @@ class FaultyToolkit : public platform::Toolkit {
   [[nodiscard]] float TwipsPerPixelX() const override { return inner_.TwipsPerPixelX(); }
   bool LockUpdates(platform::Element& element) override { return inner_.LockUpdates(element); }
   void UnlockUpdates() override { inner_.UnlockUpdates(); }
+  [[nodiscard]] platform::Subscription After(std::int32_t milliseconds,
+                                             std::function<void()> handler) override {
+    return inner_.After(milliseconds, std::move(handler));
+  }
   void ProcessPendingEvents() override { inner_.ProcessPendingEvents(); }
   void Beep() override { inner_.Beep(); }
 

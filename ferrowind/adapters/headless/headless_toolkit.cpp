@@ -33,6 +33,31 @@ void HeadlessToolkit::UnlockUpdates() {
   state_->locked = nullptr;
 }
 
+platform::Subscription HeadlessToolkit::After(std::int32_t milliseconds, std::function<void()> handler) {
+  state_->log.Record("toolkit.After(" + std::to_string(milliseconds) + ")");
+  if (milliseconds < 0) throw platform::InvalidArgument();
+  const std::int64_t id = ++timer_count_;
+  timers_->emplace(id, Timer{now_ + milliseconds, std::move(handler)});
+  return platform::Subscription([timers = std::weak_ptr(timers_), id] {
+    if (const auto all = timers.lock()) all->erase(id);
+  });
+}
+
+void HeadlessToolkit::Advance(std::int32_t milliseconds) {
+  const std::int64_t end = now_ + milliseconds;
+  for (;;) {
+    const auto next = std::min_element(
+        timers_->begin(), timers_->end(),
+        [](const auto& left, const auto& right) { return left.second.due < right.second.due; });
+    if (next == timers_->end() || next->second.due > end) break;
+    now_ = std::max(now_, next->second.due);
+    const std::function<void()> handler = std::move(next->second.handler);
+    timers_->erase(next);
+    handler();
+  }
+  now_ = end;
+}
+
 void HeadlessToolkit::ProcessPendingEvents() { state_->log.Record("toolkit.ProcessPendingEvents()"); }
 
 void HeadlessToolkit::Beep() {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -24,6 +27,8 @@ class HeadlessToolkit : public platform::Toolkit {
   [[nodiscard]] float TwipsPerPixelX() const override { return state_->twips_per_pixel; }
   bool LockUpdates(platform::Element& element) override;
   void UnlockUpdates() override;
+  [[nodiscard]] platform::Subscription After(std::int32_t milliseconds,
+                                             std::function<void()> handler) override;
   void ProcessPendingEvents() override;
   void Beep() override;
 
@@ -45,9 +50,14 @@ class HeadlessToolkit : public platform::Toolkit {
   /// script error.
   void ScriptModal(const std::string& form, ModalScript script);
 
+  /// Lets time pass: what `After` was asked for meanwhile is called, in the order of its time.
+  void Advance(std::int32_t milliseconds);
+
   // What a test can ask
   // -----------------------------------------------------------------------------------------
 
+  /// How many calls `After` was asked for and has neither made nor called off.
+  [[nodiscard]] std::size_t WaitingTimers() const { return timers_->size(); }
   /// The youngest living form of that name; script error when there is none.
   [[nodiscard]] HeadlessForm& FormNamed(const std::string& name) const;
   /// How many forms of that name were made so far.
@@ -66,7 +76,17 @@ class HeadlessToolkit : public platform::Toolkit {
     std::weak_ptr<HeadlessForm> form;
   };
 
+  struct Timer {
+    std::int64_t due;
+    std::function<void()> handler;
+  };
+
   std::shared_ptr<ToolkitState> state_;
+  /// By the order of the calls for them. Subscriptions may outlive the toolkit.
+  std::shared_ptr<std::map<std::int64_t, Timer>> timers_ = std::make_shared<std::map<std::int64_t, Timer>>();
+  std::int64_t timer_count_ = 0;
+  /// Milliseconds since the toolkit was made.
+  std::int64_t now_ = 0;
   std::vector<MadeForm> made_forms_;
   std::set<std::string> missing_layouts_;
   int beep_count_ = 0;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 
+#include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/animation.h"
 #include "ferrowind/platform/toolkit/button.h"
 #include "ferrowind/platform/toolkit/control.h"
@@ -50,6 +53,11 @@ class Toolkit {
   /// Ends the lock and repaints once what has changed; does nothing without a lock, or when the locked
   /// element is gone.
   virtual void UnlockUpdates() = 0;
+
+  /// Calls `handler` once, that many milliseconds from now or a little later, on the user-interface thread
+  /// and never from inside this call; dropping the subscription before calls it off. A negative time is the
+  /// failure Invalid argument. Handlers must not throw.
+  [[nodiscard]] virtual Subscription After(std::int32_t milliseconds, std::function<void()> handler) = 0;
 
   /// Handles the user-interface messages that wait, and returns.
   virtual void ProcessPendingEvents() = 0;

@@ -53,6 +53,9 @@ class ToolkitUnderTest {
   virtual void PressEnter(platform::Form& form) = 0;
   virtual void PressEscape(platform::Form& form) = 0;
 
+  /// Lets so much time pass, and what waits for it happen.
+  virtual void Wait(std::int32_t milliseconds) = 0;
+
   /// Clicks the button, whether it is enabled or not.
   virtual void Click(platform::Button& button) = 0;
   /// Goes to the text box and types behind its text, or in place of the selected text.

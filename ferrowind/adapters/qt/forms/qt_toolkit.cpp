@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QSessionManager>
+#include <QTimer>
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/controls/element.h"
@@ -13,6 +14,7 @@
 #include "ferrowind/adapters/qt/forms/update_hold.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
 #include "ferrowind/adapters/qt/values/twips.h"
+#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -82,6 +84,22 @@ void QtToolkit::UnlockUpdates() {
 }
 
 bool QtToolkit::UpdatesAreLocked() const { return !IsGone(locked_); }
+
+platform::Subscription QtToolkit::After(std::int32_t milliseconds, std::function<void()> handler) {
+  if (milliseconds < 0) throw platform::InvalidArgument();
+  auto* timer = new QTimer(&context_);
+  timer->setSingleShot(true);
+  QObject::connect(timer, &QTimer::timeout, timer, [timer, handler = std::move(handler)] {
+    timer->deleteLater();
+    RunGuarded("toolkit", handler);
+  });
+  timer->start(milliseconds);
+  return platform::Subscription([guarded = QPointer<QTimer>(timer)] {
+    if (!guarded) return;
+    guarded->stop();
+    guarded->deleteLater();
+  });
+}
 
 void QtToolkit::ProcessPendingEvents() { QCoreApplication::processEvents(); }
 

@@ -32,6 +32,8 @@ class QtToolkit : public platform::Toolkit {
   void UnlockUpdates() override;
   /// Whether a lock is on, of an element that is still there.
   [[nodiscard]] bool UpdatesAreLocked() const;
+  [[nodiscard]] platform::Subscription After(std::int32_t milliseconds,
+                                             std::function<void()> handler) override;
   void ProcessPendingEvents() override;
   void Beep() override;
 

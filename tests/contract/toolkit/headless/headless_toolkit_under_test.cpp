@@ -48,6 +48,8 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
   void PressEnter(platform::Form& form) override { As<HeadlessForm>(form).PressEnter(); }
   void PressEscape(platform::Form& form) override { As<HeadlessForm>(form).PressEscape(); }
 
+  void Wait(std::int32_t milliseconds) override { world_.toolkit.Advance(milliseconds); }
+
   void Click(platform::Button& button) override {
     // The headless operator refuses what a real one tries in vain.
     if (button.Enabled()) As<HeadlessButton>(button).Click();

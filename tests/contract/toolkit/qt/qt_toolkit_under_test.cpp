@@ -85,6 +85,8 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   void PressEnter(platform::Form& form) override { PressKey(form, Qt::Key_Return); }
   void PressEscape(platform::Form& form) override { PressKey(form, Qt::Key_Escape); }
 
+  void Wait(std::int32_t milliseconds) override { QTest::qWait(milliseconds); }
+
   void Click(platform::Button& button) override {
     auto& widget = WidgetOf<QWidget>(button);
     Activate(widget);
