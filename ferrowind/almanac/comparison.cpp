@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace ferrowind::almanac {
 namespace {
@@ -21,22 +22,6 @@ const char* TypeInWords(RuleKind kind) {
 }
 
 }  // namespace
-
-std::string_view TextOf(PlanAction action) {
-  switch (action) {
-    case PlanAction::kKeep:
-      return "keep";
-    case PlanAction::kAdd:
-      return "add";
-    case PlanAction::kReplace:
-      return "replace";
-    case PlanAction::kRemove:
-      return "remove";
-    case PlanAction::kException:
-      return "exception";
-  }
-  return {};
-}
 
 Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches)
     : plan_(plan), matches_(matches) {
@@ -127,23 +112,26 @@ ComparedDay Comparison::DayAt(int day_of_year) const {
   return ComparedDay{static_cast<std::int16_t>(day_of_year)};
 }
 
-std::vector<std::string> Comparison::Obstacles(ExceptionHandling exceptions) const {
+std::optional<std::string> Comparison::ObstacleOf(const ComparedDay& day) const {
+  if (day.action == PlanAction::kKeep || day.should == nullptr) return std::nullopt;
+  const KnownRule* const rule = matches_.RuleOf(*day.should);
+  if (rule == nullptr) return std::nullopt;
+  if (rule->is_removed) return "The rule \"" + rule->name + "\" is removed; restore it before";
+  const RuleKind planned = plan_.KindOf(*day.should);
+  if (rule->kind == planned) return std::nullopt;
+  return "The rule \"" + rule->name + "\" is " + TypeInWords(rule->kind) + ", and the plan needs " +
+         TypeInWords(planned) + " of that name; rename it before";
+}
+
+std::vector<std::string> Comparison::Obstacles(const DayChoice& choice) const {
   std::vector<std::string> obstacles;
   std::set<const KnownRule*> told;
   for (const ComparedDay& day : days_) {
-    if (day.should == nullptr || !day.Changes(exceptions)) continue;
-    const KnownRule* const rule = matches_.RuleOf(*day.should);
-    if (rule == nullptr || told.contains(rule)) continue;
-    const RuleKind planned = plan_.KindOf(*day.should);
-    if (rule->is_removed) {
-      obstacles.push_back("The rule \"" + rule->name + "\" is removed; restore it before");
-    } else if (rule->kind != planned) {
-      obstacles.push_back("The rule \"" + rule->name + "\" is " + TypeInWords(rule->kind) +
-                          ", and the plan needs " + TypeInWords(planned) + " of that name; rename it before");
-    } else {
-      continue;
+    if (!day.Changes(choice)) continue;
+    auto obstacle = ObstacleOf(day);
+    if (obstacle && told.insert(matches_.RuleOf(*day.should)).second) {
+      obstacles.push_back(std::move(*obstacle));
     }
-    told.insert(rule);
   }
   return obstacles;
 }

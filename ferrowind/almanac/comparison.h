@@ -3,34 +3,16 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "ferrowind/almanac/calendar_content.h"
+#include "ferrowind/almanac/day_choice.h"
+#include "ferrowind/almanac/plan_action.h"
 #include "ferrowind/almanac/rule_matches.h"
 #include "ferrowind/almanac/year_plan.h"
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::almanac {
-
-/// What has to happen to a day so that the calendar is as planned.
-enum class PlanAction : std::uint8_t {
-  kKeep,
-  /// An ordinary working day gets a rule.
-  kAdd,
-  /// A day gets another rule.
-  kReplace,
-  /// A day becomes an ordinary working day.
-  kRemove,
-  /// The day is a working day by exception, and the plan has a holiday or a weekend there.
-  kException,
-};
-
-/// "keep", "add", "replace", "remove" or "exception".
-[[nodiscard]] std::string_view TextOf(PlanAction action);
-
-/// What becomes of days that are working days by exception and that the plan has closed.
-enum class ExceptionHandling : std::uint8_t { kOverwrite, kKeep };
 
 /// A day that the plan or the calendar marks.
 struct ComparedDay {
@@ -46,10 +28,7 @@ struct ComparedDay {
   const UnknownDates* unknown = nullptr;
 
   /// Whether the day becomes another when the plan is applied.
-  [[nodiscard]] bool Changes(ExceptionHandling exceptions) const {
-    return action != PlanAction::kKeep &&
-           (action != PlanAction::kException || exceptions == ExceptionHandling::kOverwrite);
-  }
+  [[nodiscard]] bool Changes(const DayChoice& choice) const { return choice.Takes(day_of_year, action); }
 };
 
 /// A compared day in words.
@@ -84,9 +63,11 @@ class Comparison {
   [[nodiscard]] ComparedDay DayAt(int day_of_year) const;
   [[nodiscard]] ComparisonLine LineOf(const ComparedDay& day) const;
 
-  /// Why the database would refuse the plan: a sentence without a full stop for each rule that a day would
-  /// get and that stands in the database as a removed rule, or as one of another type.
-  [[nodiscard]] std::vector<std::string> Obstacles(ExceptionHandling exceptions) const;
+  /// Why the database would refuse to make the day as planned, a sentence without a full stop: the rule that
+  /// it should have stands there as a removed one, or as one of another type. Nothing when it would not.
+  [[nodiscard]] std::optional<std::string> ObstacleOf(const ComparedDay& day) const;
+  /// The obstacles of the days that `choice` takes, one for each rule.
+  [[nodiscard]] std::vector<std::string> Obstacles(const DayChoice& choice) const;
 
  private:
   [[nodiscard]] ComparedDay Compare(const MarkedDay* now, const PlannedDay* should) const;

@@ -47,12 +47,12 @@ struct Days {
 
 }  // namespace
 
-std::string DaysJson(const almanac::Comparison& comparison, almanac::ExceptionHandling exceptions) {
+std::string DaysJson(const almanac::Comparison& comparison, const almanac::DayChoice& choice) {
   const YearPlan& plan = comparison.Plan();
   const platform::Date new_year(plan.Year(), 1, 1);
   std::map<std::string, Days> days_by_rule;
   for (const ComparedDay& day : comparison.Days()) {
-    if (!day.Changes(exceptions)) continue;
+    if (!day.Changes(choice)) continue;
     Days& days = days_by_rule.try_emplace(Becomes(plan, day), Days{PlaceOf(day), {}, {}}).first->second;
     days.place = std::min(days.place, PlaceOf(day));
     if (days.comment.empty() && day.should != nullptr && plan.KindOf(*day.should) != RuleKind::kWorkingDay) {

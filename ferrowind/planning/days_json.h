@@ -6,9 +6,8 @@
 
 namespace ferrowind::planning {
 
-/// The days that `comparison` would change, and nothing else, as `CldApplyPlan` takes them: a list of rules,
-/// each with its dates.
-[[nodiscard]] std::string DaysJson(const almanac::Comparison& comparison,
-                                   almanac::ExceptionHandling exceptions);
+/// The days of `comparison` that `choice` takes, and nothing else, as `CldApplyPlan` takes them: a list of
+/// rules, each with its dates.
+[[nodiscard]] std::string DaysJson(const almanac::Comparison& comparison, const almanac::DayChoice& choice);
 
 }  // namespace ferrowind::planning

@@ -14,8 +14,6 @@ constexpr const char* kApplyPlan = "CldApplyPlan";
 
 }  // namespace
 
-using almanac::ExceptionHandling;
-
 YearPreparation::YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                                  const almanac::RuleDirectory& rules)
     : currency_(currency),
@@ -26,10 +24,10 @@ YearPreparation::YearPreparation(const Currency& currency, int year, const alman
 
 std::string YearPreparation::Name() const { return currency_.code + " " + std::to_string(Year()); }
 
-bool YearPreparation::Changes(ExceptionHandling exceptions) const {
+bool YearPreparation::Changes(const almanac::DayChoice& choice) const {
   const auto& days = comparison_.Days();
   return !calendar_.exists ||
-         std::any_of(days.begin(), days.end(), [&](const auto& day) { return day.Changes(exceptions); });
+         std::any_of(days.begin(), days.end(), [&](const auto& day) { return day.Changes(choice); });
 }
 
 std::optional<std::int32_t> YearPreparation::NewestEntry() const {
@@ -44,12 +42,12 @@ std::optional<std::int32_t> YearPreparation::NewestEntry() const {
   return platform::ToInt32(rows["EntryID"]);
 }
 
-void YearPreparation::Apply(ExceptionHandling exceptions) const {
+void YearPreparation::Apply(const almanac::DayChoice& choice) const {
   SourceValues parameters;
   parameters.Add("ID1", currency_.id);
   parameters.Add("Year1", static_cast<std::int32_t>(Year()));
   parameters.Add("Expected", calendar_.fingerprint);
-  parameters.Add("Days", DaysJson(comparison_, exceptions));
+  parameters.Add("Days", DaysJson(comparison_, choice));
   (void)CallDatabase("Applying the plan of " + Name(), kApplyPlan, parameters);
 }
 

@@ -34,12 +34,12 @@ class YearPreparation {
   [[nodiscard]] const almanac::YearPlan& Plan() const { return plan_; }
   [[nodiscard]] const almanac::Comparison& Compared() const { return comparison_; }
   /// Whether `Apply` has anything to do.
-  [[nodiscard]] bool Changes(almanac::ExceptionHandling exceptions) const;
+  [[nodiscard]] bool Changes(const almanac::DayChoice& choice) const;
 
   /// Makes the calendar as planned, in one call: it is created when it is missing, gets the rules that are
-  /// missing, and the days that differ become what they should be. All of it or nothing: a `Refusal` when the
-  /// calendar is another by now, or when there are obstacles (`Comparison::Obstacles`).
-  void Apply(almanac::ExceptionHandling exceptions) const;
+  /// missing, and the days that `choice` takes become what they should be. All of it or nothing: a `Refusal`
+  /// when the calendar is another by now, or when there are obstacles (`Comparison::Obstacles`).
+  void Apply(const almanac::DayChoice& choice) const;
 
   /// The number of the history's newest entry of this calendar, which is that of `Apply` unless somebody else
   /// has changed the calendar since; nothing when the newest one is no plan's.

@@ -9,13 +9,14 @@
 
 #include <unistd.h>
 
+#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/plan_words.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/admin/comparison_rows.h"
-#include "host/admin/counted.h"
 #include "host/admin/database_content.h"
 #include "host/admin/interruption.h"
 #include "host/admin/outcome_writer.h"
@@ -28,7 +29,12 @@ namespace {
 
 using almanac::ComparedDay;
 using almanac::ExceptionHandling;
+using planning::ButForExceptions;
+using planning::Counted;
+using planning::CountedExceptions;
 using planning::Currency;
+using planning::IsNewWeekend;
+using planning::KeptExceptions;
 using planning::YearPreparation;
 using Preparations = std::vector<std::unique_ptr<YearPreparation>>;
 

@@ -7,38 +7,25 @@
 #include <vector>
 
 #include "ferrowind/almanac/date_words.h"
-
-#include "host/admin/counted.h"
+#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/plan_words.h"
 
 namespace ferrowind::host {
 
-namespace {
-
-using almanac::ComparedDay;
 using platform::Value;
-
-std::string WhyOf(const ComparedDay& day, const almanac::ComparisonLine& line) {
-  const bool has_reason = day.action == almanac::PlanAction::kException && !day.now->comment.empty();
-  return has_reason ? line.why + "; now open by exception: " + day.now->comment : line.why;
-}
-
-}  // namespace
-
-bool IsNewWeekend(const almanac::YearPlan& plan, const ComparedDay& day) {
-  return day.now == nullptr && plan.KindOf(*day.should) == almanac::RuleKind::kWeekday;
-}
 
 std::shared_ptr<platform::RecordSet> ComparisonRows(
     const almanac::Comparison& comparison, OutputFormat format,
     const std::function<bool(const almanac::ComparedDay& day)>& is_shown) {
-  const Value ordinary = format == OutputFormat::kTable ? Value("working day") : Value();
+  const Value ordinary = format == OutputFormat::kTable ? Value(planning::kOrdinaryDay) : Value();
   const auto named = [&](const std::optional<std::string>& name) { return name ? Value(*name) : ordinary; };
   std::vector<std::vector<Value>> rows;
   for (const almanac::ComparedDay& day : comparison.Days()) {
     if (!is_shown(day)) continue;
     const almanac::ComparisonLine line = comparison.LineOf(day);
     rows.push_back({line.date, std::string(almanac::WeekdayName(line.date.Weekday())), named(line.now),
-                    named(line.should), std::string(almanac::TextOf(line.action)), WhyOf(day, line)});
+                    named(line.should), std::string(almanac::TextOf(line.action)),
+                    planning::WhyOf(day, line)});
   }
   return std::make_shared<platform::RecordSet>(
       std::vector<std::string>{"date", "weekday", "now", "should", "action", "why"}, std::move(rows));
@@ -47,7 +34,8 @@ std::shared_ptr<platform::RecordSet> ComparisonRows(
 void WriteWithWeekends(const platform::RecordSet& rows, std::size_t weekends, std::ostream& out) {
   const bool has_rows = rows.RowCount() != 0;
   if (has_rows) WriteList(rows, OutputFormat::kTable, out);
-  if (weekends != 0) out << (has_rows ? "and " : "") << Counted(weekends, "day", "days") << " of weekends\n";
+  if (weekends != 0)
+    out << (has_rows ? "and " : "") << planning::Counted(weekends, "day", "days") << " of weekends\n";
 }
 
 }  // namespace ferrowind::host

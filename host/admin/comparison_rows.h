@@ -12,9 +12,6 @@
 
 namespace ferrowind::host {
 
-/// A weekend day of a new calendar, which everybody knows.
-[[nodiscard]] bool IsNewWeekend(const almanac::YearPlan& plan, const almanac::ComparedDay& day);
-
 /// Rows `date` (a date), `weekday`, `now`, `should` (empty for an ordinary working day), `action`, `why` of
 /// those days of the comparison that `is_shown` tells. `why` has the reason of an exception, too.
 [[nodiscard]] std::shared_ptr<platform::RecordSet> ComparisonRows(

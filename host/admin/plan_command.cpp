@@ -4,6 +4,7 @@
 #include <functional>
 #include <ostream>
 
+#include "ferrowind/planning/plan_words.h"
 #include "ferrowind/planning/year_planner.h"
 
 #include "host/admin/comparison_rows.h"
@@ -31,7 +32,7 @@ void ShowTable(const planning::YearPreparation& preparation, const DayChoice& is
   const bool counts_weekends = !preparation.CalendarExists() && !shows_all;
   std::size_t weekends = 0;
   const auto rows = ComparisonRows(comparison, OutputFormat::kTable, [&](const ComparedDay& day) {
-    const bool is_counted = counts_weekends && IsNewWeekend(comparison.Plan(), day);
+    const bool is_counted = counts_weekends && planning::IsNewWeekend(comparison.Plan(), day);
     if (is_counted) ++weekends;
     return !is_counted && is_shown(day);
   });
@@ -60,7 +61,7 @@ ExitStatus PlanCommand::Run(const platform::EngineRegistry& engines, std::ostrea
       ShowTable(*preparation, is_shown, shows_all, out);
     } else {
       out << preparation->Name() << " is as planned"
-          << ButForExceptions(KeptExceptions(comparison, exceptions)) << ".\n";
+          << planning::ButForExceptions(planning::KeptExceptions(comparison, exceptions)) << ".\n";
     }
     if (!preparation->CalendarExists()) {
       errors << preparation->Name() << " does not exist yet, and counts as empty.\n";

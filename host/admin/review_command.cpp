@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "ferrowind/data/module_state.h"
+#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/database_review.h"
 
-#include "host/admin/counted.h"
 #include "host/admin/database_content.h"
 #include "host/delivery/delivered_tables.h"
 
@@ -45,13 +45,13 @@ std::shared_ptr<RecordSet> InSentences(const std::vector<Finding>& findings) {
 }
 
 std::string Summary(const planning::DatabaseReview& review) {
-  const std::string calendars = Counted(review.calendars, "calendar", "calendars") + " of " +
-                                Counted(review.currencies, "currency", "currencies");
+  const std::string calendars = planning::Counted(review.calendars, "calendar", "calendars") + " of " +
+                                planning::Counted(review.currencies, "currency", "currencies");
   if (review.findings.empty()) return "All is right: " + calendars + ".";
   std::array<std::size_t, 3> counts{};
   for (const Finding& finding : review.findings) ++counts[static_cast<std::size_t>(finding.level)];
   const auto of = [&](FindingLevel level, std::string_view one, std::string_view many) {
-    return Counted(counts[static_cast<std::size_t>(level)], one, many);
+    return planning::Counted(counts[static_cast<std::size_t>(level)], one, many);
   };
   const std::string notes = of(FindingLevel::kNote, "note", "notes");
   if (review.Worst() == FindingLevel::kNote) {

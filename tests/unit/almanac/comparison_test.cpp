@@ -187,6 +187,18 @@ TEST(ObstaclesOfAPlan, AreOnlyRulesThatADayWouldGet) {
   EXPECT_EQ(excepted.comparison.Obstacles(ExceptionHandling::kOverwrite).size(), 1U);
 }
 
+TEST(ObstaclesOfAPlan, AreNoneWhereTheDayIsLeftOut) {
+  std::vector<KnownRule> rules = SmallRules();
+  rules[4].is_removed = true;
+  const Compared compared(kChristmasAndGoodFriday, {}, rules);
+  DayChoice choice = ExceptionHandling::kOverwrite;
+  choice.Decide(105, false);
+  EXPECT_THAT(compared.comparison.Obstacles(choice), IsEmpty());
+  EXPECT_THAT(compared.comparison.ObstacleOf(compared.comparison.DayAt(105)).value_or(""),
+              HasSubstr("\"Good Friday\" is removed"));
+  EXPECT_EQ(compared.comparison.ObstacleOf(compared.comparison.DayAt(360)), std::nullopt);
+}
+
 TEST(ObstaclesOfAPlan, AreToldOnceForEachRule) {
   std::vector<KnownRule> rules = SmallRules();
   rules[1].is_removed = true;

@@ -18,13 +18,13 @@ using almanac::MarkedDay;
 
 /// What applying the book to a calendar of 2028 with these days sends.
 std::string JsonOf(const std::string& book_lines, const std::vector<MarkedDay>& days,
-                   ExceptionHandling exceptions = ExceptionHandling::kOverwrite) {
+                   const almanac::DayChoice& choice = ExceptionHandling::kOverwrite) {
   const almanac::RuleBook book = BookOf(book_lines);
   const almanac::YearPlan plan = almanac::PlanYear(book, 2028, {});
   const almanac::CalendarContent content{2028, days};
   const almanac::RuleDirectory directory(almanac::SmallRules());
   const almanac::RuleMatches matches(book, directory);
-  return DaysJson(almanac::Comparison(plan, content, matches), exceptions);
+  return DaysJson(almanac::Comparison(plan, content, matches), choice);
 }
 
 TEST(JsonText, EscapesWhatCannotStandInJson) {
@@ -68,6 +68,18 @@ TEST(DaysJson, OverwritesExceptionsUnlessTheyAreKept) {
   const std::vector<MarkedDay> days = {almanac::Marked("2028-12-25", almanac::kExceptionRule)};
   EXPECT_EQ(JsonOf(book, days), R"([{"Name1":"Christmas Day","TID1":3,"Dates":["2028-12-25"]}])");
   EXPECT_EQ(JsonOf(book, days, ExceptionHandling::kKeep), "[]");
+}
+
+TEST(DaysJson, LeavesOutTheDaysThatAreNotChosen) {
+  almanac::DayChoice choice = ExceptionHandling::kKeep;
+  choice.Decide(2, false);
+  choice.Decide(360, true);
+  EXPECT_EQ(JsonOf("celebration | Christmas Day | 12-25 |\n"
+                   "point | Fair | 2028-01-02 |\n"
+                   "point | Good Friday | easter-2 |\n",
+                   {almanac::Marked("2028-12-25", almanac::kExceptionRule)}, choice),
+            R"([{"Name1":"Christmas Day","TID1":3,"Dates":["2028-12-25"]},)"
+            R"({"Name1":"Good Friday","TID1":4,"Dates":["2028-04-14"]}])");
 }
 
 TEST(DaysJson, MakesAPlannedWorkingDayAnExceptionWithItsNameAsTheReason) {

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "ferrowind/almanac/comparison.h"
+#include "ferrowind/planning/day_totals.h"
+#include "ferrowind/planning/year_preparation.h"
+
+/// What is said of plans to people, by windows and commands alike.
+namespace ferrowind::planning {
+
+/// What the day of an empty name is called.
+inline constexpr const char* kOrdinaryDay = "working day";
+
+/// A weekend day of a new calendar, which everybody knows.
+[[nodiscard]] bool IsNewWeekend(const almanac::YearPlan& plan, const almanac::ComparedDay& day);
+
+/// Why the day should be so, and the reason for which it is an exception now; without a full stop.
+[[nodiscard]] std::string WhyOf(const almanac::ComparedDay& day, const almanac::ComparisonLine& line);
+
+/// Which dates the plan lacks, a sentence with a full stop each.
+[[nodiscard]] std::vector<std::string> Incomplete(const YearPreparation& preparation);
+
+/// How many working days by exception `choice` leaves open where the plan has closed them.
+[[nodiscard]] std::size_t KeptExceptions(const almanac::Comparison& comparison,
+                                         const almanac::DayChoice& choice);
+
+/// "1 working day by exception".
+[[nodiscard]] std::string CountedExceptions(std::size_t count);
+
+/// What stands behind "as planned" when so many exceptions are kept: " but for 2 working days by exception",
+/// or nothing.
+[[nodiscard]] std::string ButForExceptions(std::size_t kept);
+
+/// The same of all that stay otherwise than planned: " but for 2 working days by exception and 1 day that is
+/// left out".
+[[nodiscard]] std::string ButFor(const DayTotals& totals);
+
+}  // namespace ferrowind::planning
