@@ -1,0 +1,134 @@
+#include "ferrowind/planning/plan_batch.h"
+
+#include <algorithm>
+#include <memory>
+#include <numeric>
+#include <optional>
+
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/plan_words.h"
+#include "ferrowind/planning/year_planner.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using Kind = PlanOutcome::Kind;
+
+/// Nothing when the history cannot be read or has no such entry: the plan is applied all the same, and can
+/// be undone from the history.
+std::optional<std::int32_t> EntryOf(const YearPreparation& applied) {
+  try {
+    return applied.NewestEntry();
+  } catch (const platform::Failure&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+PlanBatch::PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars)
+    : tables_(tables) {
+  for (const CalendarKey& key : calendars) {
+    calendars_.emplace_back(key, std::to_string(key.first) + " " + std::to_string(key.second));
+  }
+  PlanAnew();
+}
+
+DayTotals PlanBatch::Totals() const {
+  DayTotals totals;
+  for (const PlannedCalendar& calendar : calendars_) totals += calendar.Totals();
+  return totals;
+}
+
+std::size_t PlanBatch::CalendarsToChange() const {
+  return static_cast<std::size_t>(std::count_if(calendars_.begin(), calendars_.end(),
+                                                [](const auto& calendar) { return calendar.HasWork(); }));
+}
+
+void PlanBatch::PlanAnew() {
+  std::vector<std::size_t> all(calendars_.size());
+  std::iota(all.begin(), all.end(), std::size_t{0});
+  PlanAnew(all);
+}
+
+void PlanBatch::PlanAnew(const std::vector<std::size_t>& positions) {
+  if (positions.empty()) return;
+  try {
+    const auto planner = std::make_shared<const YearPlanner>(tables_);
+    for (const std::size_t position : positions) calendars_[position].Plan(planner);
+  } catch (const platform::Failure& failure) {
+    for (const std::size_t position : positions) calendars_[position].Fail(failure.Description());
+  }
+}
+
+void PlanBatch::PlanTried(const std::vector<PlanOutcome>& outcomes) {
+  std::vector<std::size_t> tried;
+  for (const PlanOutcome& outcome : outcomes) {
+    if (outcome.kind != Kind::kNotTried) tried.push_back(outcome.calendar);
+  }
+  PlanAnew(tried);
+}
+
+std::vector<PlanOutcome> PlanBatch::Apply() {
+  std::vector<PlanOutcome> outcomes;
+  applied_.clear();
+  bool has_failed = false;
+  for (std::size_t i = 0; i < calendars_.size(); ++i) {
+    if (!calendars_[i].HasWork()) continue;
+    if (has_failed) {
+      outcomes.push_back({i, Kind::kNotTried, calendars_[i].Name() + " was not tried."});
+      continue;
+    }
+    outcomes.push_back(ApplyOne(i));
+    has_failed = outcomes.back().kind == Kind::kFailed;
+  }
+  PlanTried(outcomes);
+  return outcomes;
+}
+
+PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
+  const PlannedCalendar& calendar = calendars_[position];
+  const bool existed = calendar.Preparation()->CalendarExists();
+  try {
+    calendar.Apply();
+  } catch (const Refusal& refusal) {
+    return {position, Kind::kRefused,
+            refusal.ReturnValue() == return_value::kContentIsAnother
+                ? calendar.Name() +
+                      " was changed meanwhile; nothing was changed in it, and its plan is made anew."
+                : refusal.Description() + "."};
+  } catch (const platform::Failure& failure) {
+    return {position, Kind::kFailed, failure.Description() + "."};
+  }
+  if (const auto entry = EntryOf(*calendar.Preparation())) applied_.push_back({position, *entry});
+  return {position, Kind::kDone,
+          calendar.Name() + (existed ? " is as planned now" : " is made") + ButFor(calendar.Totals()) + "."};
+}
+
+std::vector<PlanOutcome> PlanBatch::Undo() {
+  std::vector<PlanOutcome> outcomes;
+  while (!applied_.empty()) {
+    outcomes.push_back(UndoOne(applied_.back()));
+    if (outcomes.back().kind == Kind::kFailed) break;
+    applied_.pop_back();
+  }
+  PlanTried(outcomes);
+  return outcomes;
+}
+
+PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
+  const std::string& name = calendars_[applied.calendar].Name();
+  SourceValues parameters;
+  parameters.Add("EntryID", applied.entry);
+  try {
+    (void)CallDatabase("Undoing the plan of " + name, "CldUndo", parameters);
+  } catch (const Refusal& refusal) {
+    return {applied.calendar, Kind::kRefused, refusal.Description() + "."};
+  } catch (const platform::Failure& failure) {
+    return {applied.calendar, Kind::kFailed, failure.Description() + "."};
+  }
+  return {applied.calendar, Kind::kDone, name + " is as it was before."};
+}
+
+}  // namespace ferrowind::planning

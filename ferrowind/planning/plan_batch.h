@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ferrowind/almanac/date_table.h"
+#include "ferrowind/planning/plan_lines.h"
+#include "ferrowind/planning/planned_calendar.h"
+
+namespace ferrowind::planning {
+
+/// What became of a calendar when its plan was applied or undone.
+struct PlanOutcome {
+  enum class Kind : std::uint8_t {
+    kDone,
+    /// The database refused: somebody else has changed something meanwhile. Nothing was changed in it.
+    kRefused,
+    /// The call failed; its calendar shows what came of it, as far as that can be read.
+    kFailed,
+    /// A call before it has failed, so that it was not tried.
+    kNotTried,
+  };
+
+  /// The position of the calendar in the batch.
+  std::size_t calendar = 0;
+  Kind kind = Kind::kDone;
+  /// For operators, with the calendar's name in it and a full stop.
+  std::string sentence;
+};
+
+/// Calendars of the calling thread's database that somebody is about to make as planned, each in one call.
+///
+/// What cannot be read or planned is told by the calendar that it concerns, so that nothing here fails.
+class PlanBatch {
+ public:
+  /// Plans each of `calendars`, in that order; none twice. `tables` must outlive the batch.
+  PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars);
+
+  [[nodiscard]] const std::vector<PlannedCalendar>& Calendars() const { return calendars_; }
+  /// To decide about days of. Precondition: a position in `Calendars`.
+  [[nodiscard]] PlannedCalendar& At(std::size_t position) { return calendars_.at(position); }
+  /// Of all days of all calendars.
+  [[nodiscard]] DayTotals Totals() const;
+  /// How many calendars `Apply` would change.
+  [[nodiscard]] std::size_t CalendarsToChange() const;
+
+  /// Plans all calendars anew, as they are by now; what was left out stays left out
+  /// (`PlannedCalendar::Plan`).
+  void PlanAnew();
+
+  /// Changes each calendar that has work, and plans those that were tried anew; tells of each, in order. A
+  /// calendar that is refused does not keep the others from being changed; a call that fails does.
+  std::vector<PlanOutcome> Apply();
+
+  /// Whether there are calls of the last `Apply` that changed something and are not undone yet.
+  [[nodiscard]] bool CanUndo() const { return !applied_.empty(); }
+  /// Undoes those calls, the last one first, and plans the calendars anew; tells of each. A call that the
+  /// database refuses to undo, because a later one has changed the same, is given up; one that fails is not,
+  /// and neither are those before it.
+  std::vector<PlanOutcome> Undo();
+
+ private:
+  /// A call that has changed a calendar.
+  struct Applied {
+    std::size_t calendar = 0;
+    /// Its number in the history.
+    std::int32_t entry = 0;
+  };
+
+  [[nodiscard]] PlanOutcome ApplyOne(std::size_t position);
+  [[nodiscard]] PlanOutcome UndoOne(const Applied& applied) const;
+  void PlanAnew(const std::vector<std::size_t>& positions);
+  void PlanTried(const std::vector<PlanOutcome>& outcomes);
+
+  const almanac::DateTables& tables_;
+  std::vector<PlannedCalendar> calendars_;
+  std::vector<Applied> applied_;
+};
+
+}  // namespace ferrowind::planning
