@@ -5,6 +5,7 @@
 #include <numeric>
 #include <optional>
 
+#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/plan_words.h"
 #include "ferrowind/planning/year_planner.h"
@@ -129,6 +130,34 @@ PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
     return {applied.calendar, Kind::kFailed, failure.Description() + "."};
   }
   return {applied.calendar, Kind::kDone, name + " is as it was before."};
+}
+
+std::string SummaryOf(const PlanBatch& batch) {
+  const auto& calendars = batch.Calendars();
+  const auto count = [&](const auto& is_counted) {
+    return static_cast<std::size_t>(std::count_if(calendars.begin(), calendars.end(), is_counted));
+  };
+  const std::size_t planned = count([](const auto& calendar) { return calendar.Preparation() != nullptr; });
+  const DayTotals totals = batch.Totals();
+  std::string summary;
+  if (calendars.size() == 1 && planned == 1) {
+    summary = calendars.front().Name() + ": " + CountOf(calendars.front()) + ".";
+  } else if (const std::size_t changing = batch.CalendarsToChange(); changing != 0) {
+    summary = Counted(changing, "calendar", "calendars") + ": " + CountedChanges(totals) + ".";
+  } else if (planned != 0) {
+    summary = Counted(planned, "calendar is", "calendars are") + " as planned" + ButFor(totals) + ".";
+  }
+  const auto add = [&](std::size_t number, const char* one, const char* many) {
+    if (number != 0) summary += (summary.empty() ? "" : " ") + Counted(number, one, many);
+  };
+  add(calendars.size() - planned, "calendar cannot be planned.", "calendars cannot be planned.");
+  add(count([](const auto& calendar) {
+        return calendar.Preparation() != nullptr && !calendar.Preparation()->Plan().Unknown().empty();
+      }),
+      "plan lacks dates that are not known yet.", "plans lack dates that are not known yet.");
+  add(totals.lost_reasons, "working day by exception that has a reason will be closed.",
+      "working days by exception that have a reason will be closed.");
+  return summary;
 }
 
 }  // namespace ferrowind::planning

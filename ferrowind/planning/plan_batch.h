@@ -79,4 +79,8 @@ class PlanBatch {
   std::vector<Applied> applied_;
 };
 
+/// What `Apply` would do, in sentences for operators: "26 calendars: 2912 days, 2704 of them weekends, but
+/// for 2 working days by exception. 1 calendar cannot be planned."
+[[nodiscard]] std::string SummaryOf(const PlanBatch& batch);
+
 }  // namespace ferrowind::planning

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/plan_words.h"
 
 namespace ferrowind::planning {
@@ -130,10 +129,7 @@ std::string CountOf(const PlannedCalendar& calendar) {
   const DayTotals totals = calendar.Totals();
   const bool is_new = !calendar.Preparation()->CalendarExists();
   if (totals.taken == 0) return is_new ? "no calendar is made" : "as planned" + ButFor(totals);
-  std::string count = is_new ? "a new calendar, " : "";
-  count += Counted(totals.taken, "day", "days");
-  if (totals.new_weekends != 0) count += ", " + std::to_string(totals.new_weekends) + " of them weekends";
-  return count + ButFor(totals);
+  return (is_new ? "a new calendar, " : "") + CountedChanges(totals);
 }
 
 }  // namespace ferrowind::planning

@@ -61,8 +61,8 @@ struct PlanLineFilter {
 [[nodiscard]] std::vector<PlanLine> LinesOf(const std::vector<PlannedCalendar>& calendars,
                                             const PlanLineFilter& filter);
 
-/// What happens to the calendar: "a new calendar, 112 days, 104 of them weekends", "2 days but for 1 day that
-/// is left out", "as planned". Precondition: it is planned.
+/// What happens to the calendar: "a new calendar, 112 days, 104 of them weekends", "2 days, but not 1 day
+/// that is left out", "as planned". Precondition: it is planned.
 [[nodiscard]] std::string CountOf(const PlannedCalendar& calendar);
 
 }  // namespace ferrowind::planning

@@ -42,7 +42,7 @@ std::string ButForExceptions(std::size_t kept) {
   return ButFor(totals);
 }
 
-std::string ButFor(const DayTotals& totals) {
+std::string StayingDays(const DayTotals& totals) {
   std::vector<std::string> parts;
   if (totals.kept_exceptions != 0) parts.push_back(CountedExceptions(totals.kept_exceptions));
   if (totals.left_out != 0) {
@@ -54,10 +54,22 @@ std::string ButFor(const DayTotals& totals) {
   }
   std::string joined;
   for (std::size_t i = 0; i < parts.size(); ++i) {
-    joined += i == 0 ? " but for " : i + 1 == parts.size() ? " and " : ", ";
+    if (i != 0) joined += i + 1 == parts.size() ? " and " : ", ";
     joined += parts[i];
   }
   return joined;
+}
+
+std::string ButFor(const DayTotals& totals) {
+  const std::string staying = StayingDays(totals);
+  return staying.empty() ? staying : " but for " + staying;
+}
+
+std::string CountedChanges(const DayTotals& totals) {
+  std::string changes = Counted(totals.taken, "day", "days");
+  if (totals.new_weekends != 0) changes += ", " + std::to_string(totals.new_weekends) + " of them weekends";
+  const std::string staying = StayingDays(totals);
+  return staying.empty() ? changes : changes + ", but not " + staying;
 }
 
 }  // namespace ferrowind::planning

@@ -34,8 +34,12 @@ inline constexpr const char* kOrdinaryDay = "working day";
 /// or nothing.
 [[nodiscard]] std::string ButForExceptions(std::size_t kept);
 
-/// The same of all that stay otherwise than planned: " but for 2 working days by exception and 1 day that is
-/// left out".
+/// The days that stay otherwise than planned: "2 working days by exception and 1 day that is left out", or
+/// nothing.
+[[nodiscard]] std::string StayingDays(const DayTotals& totals);
+/// The same behind "as planned": " but for 1 day that is left out", or nothing.
 [[nodiscard]] std::string ButFor(const DayTotals& totals);
+/// "112 days, 104 of them weekends, but not 1 day that is left out".
+[[nodiscard]] std::string CountedChanges(const DayTotals& totals);
 
 }  // namespace ferrowind::planning

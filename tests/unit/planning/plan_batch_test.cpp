@@ -222,6 +222,37 @@ TEST(PlanBatch, TellsWhyACalendarCannotBePlannedAndPlansTheOthers) {
   });
 }
 
+TEST(SummaryOfPlans, TellsWhatWillHappenToOneCalendar) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    PlanBatch batch(kNoTables, {{kDollar, 2028}});
+    EXPECT_EQ(SummaryOf(batch), "USD 2028: a new calendar, 2 days.");
+    batch.At(0).Take(kGoodFriday, false);
+    EXPECT_EQ(SummaryOf(batch), "USD 2028: a new calendar, 1 day, but not 1 day that is left out.");
+    batch.At(0).TakeAll(false);
+    EXPECT_EQ(SummaryOf(batch), "USD 2028: no calendar is made.");
+    EXPECT_EQ(SummaryOf(PlanBatch(kNoTables, {{kDollar, 1899}})), "1 calendar cannot be planned.");
+  });
+}
+
+TEST(SummaryOfPlans, CountsWhatWillHappenToMany) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    BatchWorld::Except(kEuro, "2028-04-14", "Stock-taking");
+    PlanBatch batch(kNoTables, {{kEuro, 2028}, {kDollar, 2028}, {kDollar, 1899}});
+    EXPECT_EQ(SummaryOf(batch),
+              "2 calendars: 3 days, but not 1 working day by exception. 1 calendar cannot be planned.");
+    batch.At(0).Take(kGoodFriday, true);
+    EXPECT_EQ(SummaryOf(batch),
+              "2 calendars: 4 days. 1 calendar cannot be planned. 1 working day by exception that has a "
+              "reason will be closed.");
+    batch.At(0).Take(kGoodFriday, false);
+    (void)batch.Apply();
+    EXPECT_EQ(SummaryOf(batch),
+              "2 calendars are as planned but for 1 working day by exception. 1 calendar cannot be planned.");
+  });
+}
+
 TEST(PlanBatch, PlansOrTellsWhyNotWhicheverCallFails) {
   RunInFreshThread([] {
     BatchWorld world;

@@ -1,0 +1,220 @@
+#include "ferrowind/views/planning/fm_year_plan.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/plan_words.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::Counted;
+using planning::PlanOutcome;
+using platform::ControlKind;
+using platform::ControlOf;
+
+constexpr const char* kRefresh = "ID_RefreshPlan";
+constexpr const char* kAllDays = "ID_AllDays";
+constexpr std::int32_t kAllCalendars = -1;
+
+platform::FormDesign Design(std::size_t calendars) {
+  platform::FormDesign design = {
+      .name = "fmYearPlan",
+      .caption = "Year plan",
+      .border = platform::FormBorder::kSizable,
+      .start = platform::FormStart::kAsPlaced,
+      .client_width = 14400,
+      .client_height = 8400,
+      .closes_by_escape = true,
+      .controls = {
+          {ControlKind::kToolBar, "tbPlan"},
+          {ControlKind::kLabel, "lblSummary"},
+          {.kind = ControlKind::kTable, .name = "tblPlan", .selects_many = true, .sorts = true},
+          {ControlKind::kTextView, "txtOutcome"},
+          {ControlKind::kButton, "cmdUndo", "Undo"},
+          {ControlKind::kButton, "cmdApply", "Apply"},
+          {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
+  if (calendars > 1) {
+    const std::vector<platform::ControlDesign> filter = {{ControlKind::kLabel, "lblCalendar", "Calendar"},
+                                                         {ControlKind::kDropDownList, "cmbCalendar"}};
+    design.controls.insert(design.controls.begin() + 1, filter.begin(), filter.end());
+  }
+  return design;
+}
+
+bool IsBad(const PlanOutcome& outcome) { return outcome.kind != PlanOutcome::Kind::kDone; }
+
+}  // namespace
+
+// Starting and closing
+// ------------------------------------------------------------------------------------------------
+
+std::shared_ptr<fmYearPlan> fmYearPlan::Create(const PlanningContext& context,
+                                               const std::vector<planning::CalendarKey>& calendars) {
+  struct Creatable : fmYearPlan {
+    Creatable(const PlanningContext& surroundings, const std::vector<planning::CalendarKey>& keys)
+        : fmYearPlan(surroundings, keys) {}
+  };
+  auto window = std::make_shared<Creatable>(context, calendars);
+  window->Connect();
+  return window;
+}
+
+std::string fmYearPlan::NameFor(const std::vector<planning::CalendarKey>& calendars) {
+  std::string name = "fmYearPlan";
+  for (const auto& [currency, year] : calendars) {
+    name += " " + std::to_string(currency) + "/" + std::to_string(year);
+  }
+  return name;
+}
+
+fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<planning::CalendarKey>& calendars)
+    : platform_(context.platform),
+      windows_(context.windows),
+      batch_(context.tables, calendars),
+      form_(platform_.toolkit.CreateForm(Design(calendars.size()))),
+      tools_(ControlOf<platform::ToolBar>(*form_, "tbPlan")),
+      summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
+      outcome_(ControlOf<platform::TextView>(*form_, "txtOutcome")),
+      undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
+      apply_(ControlOf<platform::Button>(*form_, "cmdApply")),
+      table_(platform_, ControlOf<platform::Table>(*form_, "tblPlan"), batch_, [this] { RefreshSummary(); }) {
+  tools_.AddTool({kRefresh, "Refresh", "Plan", "Reads the calendars and plans them anew"});
+  tools_.AddTool({kAllDays, "All days", "Plan", "Shows the days that stay as they are and all weekends, too",
+                  platform::ToolKind::kTwoStateButton});
+  tools_.SetBar("Plan", {kRefresh, kAllDays});
+  outcome_.SetVisible(false);
+  if (calendars.size() > 1) FillCalendarList();
+  form_->SetCaption(calendars.size() == 1 ? "Plan of " + batch_.Calendars().front().Name()
+                                          : "Plans of " + Counted(calendars.size(), "calendar", "calendars"));
+  ShowLines();
+}
+
+void fmYearPlan::FillCalendarList() {
+  filter_ = &ControlOf<platform::DropDownList>(*form_, "cmbCalendar");
+  filter_->AddItem("All", kAllCalendars);
+  std::int32_t position = 0;
+  for (const planning::PlannedCalendar& calendar : batch_.Calendars()) {
+    filter_->AddItem(calendar.Name(), position++);
+  }
+  filter_->Choose(0);
+}
+
+void fmYearPlan::Connect() {
+  // A handler keeps the window alive while it runs: whoever opened it may drop it meanwhile.
+  const auto handler = [weak = weak_from_this()](auto member) {
+    return [weak, member](auto&&... arguments) {
+      if (const auto self = weak.lock())
+        RunHandler(self->platform_, [&] { ((*self).*member)(arguments...); });
+    };
+  };
+  const auto subscribe = [this](platform::Subscription subscription) {
+    subscriptions_.push_back(std::move(subscription));
+  };
+  subscribe(form_->OnLoad(handler(&fmYearPlan::Form_Load)));
+  const auto query_unload = handler(&fmYearPlan::Form_QueryUnload);
+  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(tools_.OnToolClick(handler(&fmYearPlan::RunTool)));
+  if (filter_ != nullptr) subscribe(filter_->OnChoice(handler(&fmYearPlan::ShowLines)));
+  subscribe(undo_.OnClick(handler(&fmYearPlan::Undo)));
+  subscribe(apply_.OnClick(handler(&fmYearPlan::Apply)));
+  subscribe(ControlOf<platform::Button>(*form_, "cmdClose").OnClick(handler(&fmYearPlan::CloseByButton)));
+  subscribe(windows_.OnChanged(handler(&fmYearPlan::PlanAnewAfter)));
+}
+
+void fmYearPlan::ShowInFront() {
+  form_->Show();
+  form_->Raise();
+}
+
+bool fmYearPlan::Close() { return form_->Unload(); }
+
+void fmYearPlan::CloseByButton() { (void)Close(); }
+
+void fmYearPlan::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+
+void fmYearPlan::Form_QueryUnload() {
+  has_closed_ = true;
+  placement_.Save(*form_);
+}
+
+// Showing
+// ------------------------------------------------------------------------------------------------
+
+void fmYearPlan::ShowLines() {
+  planning::PlanLineFilter filter;
+  if (filter_ != nullptr && filter_->Chosen() > 0) {
+    filter.calendar = static_cast<std::size_t>(filter_->ItemData(filter_->Chosen()));
+  }
+  filter.shows_all = tools_.ToolPressed(kAllDays);
+  table_.Show(filter);
+  RefreshSummary();
+}
+
+void fmYearPlan::RefreshSummary() {
+  summary_.SetText(planning::SummaryOf(batch_));
+  apply_.SetEnabled(batch_.CalendarsToChange() != 0);
+  undo_.SetVisible(batch_.CanUndo());
+}
+
+void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes) {
+  // What went wrong stands first, where it is seen without scrolling.
+  std::string text;
+  for (const bool is_bad : {true, false}) {
+    for (const PlanOutcome& outcome : outcomes) {
+      if (IsBad(outcome) == is_bad) text += (text.empty() ? "" : "\n") + outcome.sentence;
+    }
+  }
+  outcome_.SetText(text);
+  outcome_.SetVisible(!text.empty());
+  if (std::any_of(outcomes.begin(), outcomes.end(), IsBad)) platform_.toolkit.Beep();
+}
+
+// Doing
+// ------------------------------------------------------------------------------------------------
+
+void fmYearPlan::RunTool(const std::string& id) {
+  if (id == kAllDays) ShowLines();
+  if (id == kRefresh) PlanAnew();
+}
+
+void fmYearPlan::PlanAnew() {
+  batch_.PlanAnew();
+  Tell({});
+  ShowLines();
+}
+
+void fmYearPlan::Apply() { ShowDone(batch_.Apply()); }
+
+void fmYearPlan::Undo() { ShowDone(batch_.Undo()); }
+
+void fmYearPlan::ShowDone(const std::vector<PlanOutcome>& outcomes) {
+  Tell(outcomes);
+  ShowLines();
+  PlanningWindows::Changed changed;
+  for (const PlanOutcome& outcome : outcomes) {
+    // A call that failed may have come to its end all the same.
+    const bool may_have_changed =
+        outcome.kind == PlanOutcome::Kind::kDone || outcome.kind == PlanOutcome::Kind::kFailed;
+    if (may_have_changed) changed.push_back(batch_.Calendars()[outcome.calendar].Key());
+  }
+  if (changed.empty()) return;
+  is_telling_ = true;
+  windows_.TellChanged(changed);
+  is_telling_ = false;
+}
+
+void fmYearPlan::PlanAnewAfter(const PlanningWindows::Changed& changed) {
+  if (is_telling_ || has_closed_) return;
+  const auto is_changed = [&](const planning::PlannedCalendar& calendar) {
+    return changed.empty() || std::find(changed.begin(), changed.end(), calendar.Key()) != changed.end();
+  };
+  const auto& calendars = batch_.Calendars();
+  if (std::none_of(calendars.begin(), calendars.end(), is_changed)) return;
+  batch_.PlanAnew();
+  ShowLines();
+}
+
+}  // namespace ferrowind

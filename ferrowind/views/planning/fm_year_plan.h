@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ferrowind/planning/plan_batch.h"
+#include "ferrowind/platform/platform.h"
+#include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/planning/plan_table.h"
+#include "ferrowind/views/planning/planning_context.h"
+#include "ferrowind/views/planning/planning_window.h"
+
+namespace ferrowind {
+
+/// The window that shows where calendars differ from what they should be, and makes them so.
+class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fmYearPlan> {
+ public:
+  /// Of `calendars`, none twice, at least one. What `context` refers to must outlive the window. Failure when
+  /// the toolkit cannot make the form; what cannot be planned is told in the window.
+  [[nodiscard]] static std::shared_ptr<fmYearPlan> Create(
+      const PlanningContext& context, const std::vector<planning::CalendarKey>& calendars);
+  /// Under which `PlanningWindows` keeps it.
+  [[nodiscard]] static std::string NameFor(const std::vector<planning::CalendarKey>& calendars);
+
+  void ShowInFront() override;
+  [[nodiscard]] bool IsOpen() const override { return !has_closed_; }
+  bool Close() override;
+
+ protected:
+  fmYearPlan(const PlanningContext& context, const std::vector<planning::CalendarKey>& calendars);
+
+ private:
+  void Connect();
+  void FillCalendarList();
+  void RunTool(const std::string& id);
+  void ShowLines();
+  void Apply();
+  void Undo();
+  void PlanAnew();
+  void PlanAnewAfter(const PlanningWindows::Changed& changed);
+  /// Tells what became of the calls, until the next of them or until the plans are made anew.
+  void Tell(const std::vector<planning::PlanOutcome>& outcomes);
+  void RefreshSummary();
+  /// Shows and tells the others what `outcomes` have changed.
+  void ShowDone(const std::vector<planning::PlanOutcome>& outcomes);
+  void Form_Load();
+  void Form_QueryUnload();
+  void CloseByButton();
+
+  const platform::Platform& platform_;
+  PlanningWindows& windows_;
+  planning::PlanBatch batch_;
+  std::shared_ptr<platform::Form> form_;
+  platform::ToolBar& tools_;
+  /// Null when there is only one calendar.
+  platform::DropDownList* filter_ = nullptr;
+  platform::Label& summary_;
+  platform::TextView& outcome_;
+  platform::Button& undo_;
+  platform::Button& apply_;
+  PlanTable table_;
+  StoredPlacement placement_{"Window Year Plan"};
+  bool has_closed_ = false;
+  /// While it tells the other windows of its own changes.
+  bool is_telling_ = false;
+  std::vector<platform::Subscription> subscriptions_;
+};
+
+}  // namespace ferrowind

@@ -1,0 +1,132 @@
+#include "ferrowind/views/planning/plan_table.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/plan_words.h"
+#include "ferrowind/views/planning/day_text.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::PlanLine;
+using platform::CellMark;
+using platform::CellTone;
+using platform::TableCell;
+
+CellMark MarkOf(const PlanLine& line) {
+  switch (line.kind) {
+    case PlanLine::Kind::kNotPlanned:
+      return CellMark::kError;
+    case PlanLine::Kind::kIncomplete:
+      return CellMark::kWarning;
+    case PlanLine::Kind::kCalendar:
+      return CellMark::kNone;
+    case PlanLine::Kind::kDay:
+      break;
+  }
+  if (line.is_blocked) return CellMark::kError;
+  switch (line.action) {
+    case almanac::PlanAction::kKeep:
+      return CellMark::kKept;
+    case almanac::PlanAction::kAdd:
+      return CellMark::kAdded;
+    case almanac::PlanAction::kReplace:
+      return CellMark::kReplaced;
+    case almanac::PlanAction::kRemove:
+      return CellMark::kRemoved;
+    case almanac::PlanAction::kException:
+      return CellMark::kException;
+  }
+  return CellMark::kNone;
+}
+
+std::string ActionOf(const PlanLine& line) {
+  switch (line.kind) {
+    case PlanLine::Kind::kNotPlanned:
+      return "no plan";
+    case PlanLine::Kind::kIncomplete:
+      return "incomplete";
+    case PlanLine::Kind::kCalendar:
+      return "";
+    case PlanLine::Kind::kDay:
+      return std::string(almanac::TextOf(line.action));
+  }
+  return "";
+}
+
+}  // namespace
+
+PlanTable::PlanTable(const platform::Platform& platform, platform::Table& table, planning::PlanBatch& batch,
+                     std::function<void()> on_decision)
+    : platform_(platform), table_(table), batch_(batch), on_decision_(std::move(on_decision)) {
+  std::vector<platform::TableColumn> columns = {
+      {"Date", "Date"},        {"Weekday", "Weekday"}, {"Now", "Now"},
+      {"Should", "Should be"}, {"Action", "Action"},   {.key = "Why", .caption = "Why", .stretches = true}};
+  if (batch.Calendars().size() > 1) columns.insert(columns.begin(), {"Calendar", "Calendar"});
+  table_.SetColumns(columns);
+  decided_ = table_.OnCheckChange([this](const std::string& row, bool is_taken) {
+    RunHandler(platform_, [&] { Decide(row, is_taken); });
+  });
+}
+
+void PlanTable::Show(const planning::PlanLineFilter& filter) {
+  filter_ = filter;
+  ShowAnew();
+}
+
+void PlanTable::ShowAnew() {
+  lines_ = planning::LinesOf(batch_.Calendars(), filter_);
+  std::vector<platform::TableRow> rows;
+  rows.reserve(lines_.size());
+  for (const PlanLine& line : lines_) rows.push_back(RowOf(line));
+  table_.SetRows(rows);
+  // A row that was there before has kept its box as it was.
+  for (const PlanLine& line : lines_) {
+    if (line.is_taken && table_.Checked(line.key) != *line.is_taken) {
+      table_.SetChecked(line.key, *line.is_taken);
+    }
+  }
+}
+
+platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
+  const bool is_day = line.kind == PlanLine::Kind::kDay;
+  const CellTone tone = line.kind == PlanLine::Kind::kCalendar               ? CellTone::kLoud
+                        : is_day && !line.is_taken.value_or(line.is_blocked) ? CellTone::kQuiet
+                                                                             : CellTone::kNormal;
+  const auto cell = [&](std::string text) { return TableCell{.text = std::move(text), .tone = tone}; };
+  const auto name_of = [](const std::optional<std::string>& rule) {
+    return rule.value_or(planning::kOrdinaryDay);
+  };
+  platform::TableRow row{.key = line.key, .checked = line.is_taken};
+  if (batch_.Calendars().size() > 1) row.cells.push_back(cell(batch_.Calendars()[line.calendar].Name()));
+  TableCell date = cell(line.date ? DateText(platform_.locale, *line.date) : "");
+  if (line.date) date.order = line.date->Serial();
+  row.cells.push_back(std::move(date));
+  row.cells.push_back(cell(line.date ? platform_.locale.WeekdayName(line.date->Weekday()) : ""));
+  row.cells.push_back(cell(is_day ? name_of(line.now) : ""));
+  row.cells.push_back(cell(is_day ? name_of(line.should) : ""));
+  TableCell action = cell(ActionOf(line));
+  action.mark = MarkOf(line);
+  row.cells.push_back(std::move(action));
+  row.cells.push_back(cell(line.why));
+  return row;
+}
+
+void PlanTable::Decide(const std::string& row, bool is_taken) {
+  const auto line =
+      std::find_if(lines_.begin(), lines_.end(), [&](const PlanLine& each) { return each.key == row; });
+  if (line == lines_.end() || line->is_taken == is_taken) return;
+  planning::PlannedCalendar& calendar = batch_.At(line->calendar);
+  if (line->kind == PlanLine::Kind::kCalendar) {
+    calendar.TakeAll(is_taken);
+  } else {
+    calendar.Take(line->date->DayOfYear(), is_taken);
+  }
+  ShowAnew();
+  on_decision_();
+}
+
+}  // namespace ferrowind
