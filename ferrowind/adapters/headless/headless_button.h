@@ -18,9 +18,15 @@ class HeadlessButton : public HeadlessControl<platform::Button> {
     core_.Record("SetCaption", {caption});
     caption_ = caption;
   }
+  void SetDescription(const std::string& description) override {
+    core_.Record("SetDescription", {description});
+    description_ = description;
+  }
   [[nodiscard]] platform::Subscription OnClick(std::function<void()> handler) override {
     return clicked_.Subscribe(std::move(handler));
   }
+
+  [[nodiscard]] const std::string& Description() const { return description_; }
 
   /// The operator clicks the button, which takes the focus.
   void Click() {
@@ -36,6 +42,7 @@ class HeadlessButton : public HeadlessControl<platform::Button> {
 
  private:
   std::string caption_;
+  std::string description_;
   platform::Signal<> clicked_;
 };
 

@@ -24,6 +24,7 @@ bool CanHaveFocus(ControlKind kind) {
   switch (kind) {
     case ControlKind::kButton:
     case ControlKind::kTextBox:
+    case ControlKind::kTextView:
     case ControlKind::kDropDownList:
     case ControlKind::kDatePicker:
     case ControlKind::kTree:
@@ -204,6 +205,21 @@ void HeadlessForm::InterruptModalForms() {
   }
 }
 
+void HeadlessForm::Raise() {
+  Log().Record(CallText(Name(), "Raise"));
+  if (is_shown_) is_minimised_ = false;
+}
+
+void HeadlessForm::MinimiseByOperator() {
+  const auto keep = Keep();
+  const std::string action = CallText(Name(), "MinimiseByOperator");
+  RequireInput(action);
+  if (design_.border != FormBorder::kSizable)
+    Errors().Raise("The operator cannot minimise the form " + Name());
+  Log().Record("operator." + action);
+  is_minimised_ = true;
+}
+
 void HeadlessForm::Hide() {
   Log().Record(CallText(Name(), "Hide"));
   is_shown_ = false;
@@ -370,6 +386,8 @@ void HeadlessForm::PressEnter() {
   if (focused_ != nullptr) {
     auto* table = dynamic_cast<HeadlessTable*>(&ControlNamed(focused_->Name()));
     if (table != nullptr && table->RowCount() > 0) return table->PressEnter();
+    auto* box = dynamic_cast<HeadlessTextBox*>(&ControlNamed(focused_->Name()));
+    if (box != nullptr && box->TakesEnter()) return box->PressEnter();
   }
   std::string target;
   for (const auto& control : design_.controls) {

@@ -43,6 +43,7 @@ class HeadlessForm : public platform::Form,
   void Load() override;
   void Show() override;
   void ShowModal() override;
+  void Raise() override;
   void Hide() override;
   [[nodiscard]] bool IsShown() const override { return is_shown_; }
   bool Unload() override;
@@ -62,6 +63,7 @@ class HeadlessForm : public platform::Form,
   [[nodiscard]] bool IsLoaded() const { return is_loaded_; }
   [[nodiscard]] bool HasUnloaded() const { return has_unloaded_; }
   [[nodiscard]] const platform::FormDesign& Design() const { return design_; }
+  [[nodiscard]] bool IsMinimised() const { return is_minimised_; }
   /// The name of the control that has the keyboard focus, "" for none.
   [[nodiscard]] std::string FocusedControl() const;
   /// The control of that name as the headless kind `Kind`, for example
@@ -77,6 +79,8 @@ class HeadlessForm : public platform::Form,
   /// Closes the form by its frame; true when it closed. False, with nothing asked, when its border offers no
   /// closing.
   bool CloseByOperator();
+  /// Minimises the form; script error for a border that offers no such box.
+  void MinimiseByOperator();
   /// Drags the frame to that outer size in twips; script error for a border that cannot be dragged.
   void ResizeByOperator(float width, float height);
   /// Types on the keyboard: into the focused text box, else into the one of the design that takes typing.
@@ -84,7 +88,8 @@ class HeadlessForm : public platform::Form,
   /// Presses the shortcut of a tool, written as its design has it; does nothing when no tool that the
   /// operator can use has it.
   void PressShortcut(const std::string& shortcut);
-  /// Presses Enter: the focused table or button or else the default button, if the operator can use it.
+  /// Presses Enter: the focused table, text box or button that takes the key or else the default button, if
+  /// the operator can use it.
   void PressEnter();
   /// Presses Escape: the cancel button, if there is one that the operator can use, or else what closes the
   /// form, if it is designed so.
@@ -115,6 +120,7 @@ class HeadlessForm : public platform::Form,
   bool is_loaded_ = false;
   bool is_shown_ = false;
   bool was_shown_ = false;
+  bool is_minimised_ = false;
   bool is_closing_ = false;
   bool has_unloaded_ = false;
   std::map<std::string, std::unique_ptr<platform::Control>> controls_;

@@ -11,6 +11,7 @@
 #include "ferrowind/adapters/headless/headless_status_bar.h"
 #include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
+#include "ferrowind/adapters/headless/headless_text_view.h"
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_tree.h"
 #include "ferrowind/adapters/headless/headless_up_down.h"
@@ -28,6 +29,8 @@ std::unique_ptr<platform::Control> HeadlessForm::MakeControl(const platform::Con
       return std::make_unique<HeadlessButton>(*this, design.name, design.text);
     case ControlKind::kTextBox:
       return std::make_unique<HeadlessTextBox>(*this, design.name, design.text, design.takes_typing);
+    case ControlKind::kTextView:
+      return std::make_unique<HeadlessTextView>(*this, design.name, design.text);
     case ControlKind::kDropDownList:
       return std::make_unique<HeadlessDropDownList>(*this, design.name);
     case ControlKind::kDatePicker:

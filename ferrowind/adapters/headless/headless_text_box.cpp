@@ -60,6 +60,12 @@ void HeadlessTextBox::ReplaceText(const std::string& text) {
   Change({});
 }
 
+void HeadlessTextBox::PressEnter() {
+  const auto keep = core_.BeginAction("PressEnter");
+  core_.TakeFocus();
+  entered_.Emit();
+}
+
 void HeadlessTextBox::Change(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);

@@ -24,11 +24,22 @@ class HeadlessTextBox : public HeadlessControl<platform::TextBox> {
   [[nodiscard]] platform::Subscription OnChange(std::function<void()> handler) override {
     return changed_.Subscribe(std::move(handler));
   }
+  void SetPlaceholder(const std::string& text) override {
+    core_.Record("SetPlaceholder", {text});
+    placeholder_ = text;
+  }
+  [[nodiscard]] platform::Subscription OnEnter(std::function<void()> handler) override {
+    takes_enter_ = true;
+    return entered_.Subscribe(std::move(handler));
+  }
   [[nodiscard]] platform::Subscription OnLostFocus(std::function<void()> handler) override {
     return core_.lost_focus.Subscribe(std::move(handler));
   }
 
   [[nodiscard]] std::int32_t MaxLength() const { return max_length_; }
+  [[nodiscard]] const std::string& Placeholder() const { return placeholder_; }
+  /// Whether Enter is the box's key and not the form's.
+  [[nodiscard]] bool TakesEnter() const { return takes_enter_; }
 
   /// The operator goes to the box and types `text` behind what stands there, or in place of a selected text.
   /// Characters beyond the greatest length are not taken. Every character that is taken raises `OnChange`.
@@ -36,6 +47,9 @@ class HeadlessTextBox : public HeadlessControl<platform::TextBox> {
   /// The operator goes to the box, selects everything and types `text`; an empty one deletes what stands
   /// there.
   void ReplaceText(const std::string& text);
+  /// The operator presses Enter in the box, which takes the focus. The key does nothing when it is the
+  /// form's.
+  void PressEnter();
 
  private:
   void Change(std::string text);
@@ -43,7 +57,10 @@ class HeadlessTextBox : public HeadlessControl<platform::TextBox> {
   std::string text_;
   std::int32_t max_length_ = 0;
   bool all_selected_ = false;
+  std::string placeholder_;
+  bool takes_enter_ = false;
   platform::Signal<> changed_;
+  platform::Signal<> entered_;
   platform::Subscription got_focus_;
 };
 

@@ -13,6 +13,9 @@ class Button : public Control {
   /// Without the mark of its mnemonic.
   [[nodiscard]] virtual std::string Caption() const = 0;
   virtual void SetCaption(const std::string& caption) = 0;
+  /// What the button does in a sentence: its tooltip, and what assistive tools add to its caption. "" for
+  /// nothing to add.
+  virtual void SetDescription(const std::string& description) = 0;
   /// The operator pressed the button, by mouse, key or as the form's default or cancel button.
   [[nodiscard]] virtual Subscription OnClick(std::function<void()> handler) = 0;
 };

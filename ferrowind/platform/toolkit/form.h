@@ -48,6 +48,9 @@ class Form : public Element {
   /// nobody has answered. The call returns, and fails, only once the modal forms shown above this one are
   /// gone.
   virtual void ShowModal() = 0;
+  /// Brings a form on show to the front, out of being minimised too, and gives it the focus; does nothing to
+  /// one that is hidden.
+  virtual void Raise() = 0;
   virtual void Hide() = 0;
   [[nodiscard]] virtual bool IsShown() const = 0;
   /// Closes the form: raises `OnCloseQuery` when it was loaded and not yet unloaded, then hides it for good,

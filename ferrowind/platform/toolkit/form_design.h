@@ -9,6 +9,7 @@ enum class ControlKind {
   kLabel,
   kButton,
   kTextBox,
+  kTextView,
   kDropDownList,
   kDatePicker,
   kUpDown,

@@ -16,8 +16,13 @@ class TextBox : public Control {
   /// The most characters that the operator can type; 0 is no limit.
   virtual void SetMaxLength(std::int32_t characters) = 0;
   virtual void SelectAll() = 0;
+  /// What the box shows, fainter than its text, while it is empty: what it is for, or an example.
+  virtual void SetPlaceholder(const std::string& text) = 0;
   /// The text changed, by the operator or the program; not raised when the same text is set again.
   [[nodiscard]] virtual Subscription OnChange(std::function<void()> handler) = 0;
+  /// The operator pressed Enter in the box. From the first subscription on the key is the box's and no longer
+  /// presses the form's default button.
+  [[nodiscard]] virtual Subscription OnEnter(std::function<void()> handler) = 0;
   [[nodiscard]] virtual Subscription OnLostFocus(std::function<void()> handler) = 0;
 };
 

@@ -18,6 +18,7 @@
 #include "ferrowind/platform/toolkit/status_bar.h"
 #include "ferrowind/platform/toolkit/table.h"
 #include "ferrowind/platform/toolkit/text_box.h"
+#include "ferrowind/platform/toolkit/text_view.h"
 #include "ferrowind/platform/toolkit/tool_bar.h"
 #include "ferrowind/platform/toolkit/tree.h"
 #include "ferrowind/platform/toolkit/up_down.h"

@@ -13,6 +13,7 @@ FormDesign ContractForm() {
           .client_height = 9000,
           .controls = {{ControlKind::kTextBox, "txtText", "First text"},
                        {ControlKind::kTextBox, "txtOther"},
+                       {ControlKind::kTextView, "txtView", "Two\nlines"},
                        {ControlKind::kButton, "cmdPush", "Push"},
                        {ControlKind::kLabel, "lblText", "A label"},
                        {ControlKind::kDropDownList, "cmbList"},

@@ -130,6 +130,22 @@ TEST_F(ButtonContract, TakesANewCaptionAsItIs) {
   EXPECT_EQ(The<Button>("cmdPush").Caption(), "Save & close");
 }
 
+TEST_F(ButtonContract, TakesADescriptionBesideItsCaption) {
+  The<Button>("cmdPush").SetDescription("Does <b>all</b> of it");
+  EXPECT_EQ(The<Button>("cmdPush").Caption(), "Push");
+}
+
+class TextViewContract : public ToolkitContract {};
+
+TEST_F(TextViewContract, ShowsTextsOfManyLinesAsTheyAre) {
+  auto& view = The<platform::TextView>("txtView");
+  EXPECT_EQ(view.Text(), "Two\nlines");
+  for (const char* text : {"<b>not bold</b>", "a\n\nb\n", "  a  ", ""}) {
+    view.SetText(text);
+    EXPECT_EQ(view.Text(), text);
+  }
+}
+
 class LabelContract : public ToolkitContract {};
 
 TEST_F(LabelContract, ShowsTextAsItIs) {

@@ -74,6 +74,23 @@ TEST_F(FormContract, CannotBeMadeWithoutALayout) {
   }
 }
 
+TEST_F(FormContract, ComesBackFromBeingMinimisedWhenRaised) {
+  under_test->Minimise(*form);
+  ASSERT_TRUE(under_test->IsMinimised(*form));
+  form->Raise();
+  EXPECT_FALSE(under_test->IsMinimised(*form));
+  EXPECT_TRUE(form->IsShown());
+}
+
+TEST_F(FormContract, StaysHiddenWhenRaised) {
+  const auto other = NewForm();
+  other->Raise();
+  EXPECT_FALSE(other->IsShown());
+  form->Hide();
+  form->Raise();
+  EXPECT_FALSE(form->IsShown());
+}
+
 TEST_F(FormContract, IsNeitherLoadedNorShownWhenMade) {
   const auto other = NewForm();
   const Subscription loaded = other->OnLoad(Note("load"));

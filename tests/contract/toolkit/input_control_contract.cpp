@@ -83,6 +83,26 @@ TEST_F(TextBoxContract, LetsAHandlerSetItsTextAgain) {
   EXPECT_THAT(notes, ElementsAre("moving", "settled"));
 }
 
+TEST_F(TextBoxContract, KeepsItsTextBesideAPlaceholder) {
+  box.SetPlaceholder("Name or date");
+  EXPECT_EQ(box.Text(), "First text");
+  box.SetText("");
+  EXPECT_EQ(box.Text(), "");
+}
+
+TEST_F(TextBoxContract, TellsOfEnterInPlaceOfTheDefaultButton) {
+  const auto dialog = toolkit.CreateForm(ContractFixedDialog());
+  dialog->Show();
+  auto& text = platform::ControlOf<TextBox>(*dialog, "txtText");
+  const Subscription pressed = platform::ControlOf<platform::Button>(*dialog, "cmdOk").OnClick(Note("ok"));
+  text.SetFocus();
+  under_test->PressEnter(*dialog);
+  const Subscription entered = text.OnEnter([&] { notes.push_back("enter " + text.Text()); });
+  under_test->TypeText(text, "abc");
+  under_test->PressEnter(*dialog);
+  EXPECT_THAT(notes, ElementsAre("ok", "enter abc"));
+}
+
 TEST_F(TextBoxContract, CallsNoHandlerWhoseSubscriptionWasDropped) {
   Subscription changed = box.OnChange(Note("change"));
   Subscription lost = box.OnLostFocus(Note("lost"));

@@ -15,6 +15,7 @@
 #include "ferrowind/platform/toolkit/status_bar.h"
 #include "ferrowind/platform/toolkit/table.h"
 #include "ferrowind/platform/toolkit/text_box.h"
+#include "ferrowind/platform/toolkit/text_view.h"
 #include "ferrowind/platform/toolkit/tool_bar.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 #include "ferrowind/platform/toolkit/tree.h"
@@ -50,6 +51,9 @@ class ToolkitUnderTest {
   virtual void CloseByFrame(platform::Form& form) = 0;
   /// Gives the form another outer size, in twips, by its frame.
   virtual void ResizeByFrame(platform::Form& form, float width, float height) = 0;
+  /// Minimises the form by its frame.
+  virtual void Minimise(platform::Form& form) = 0;
+  [[nodiscard]] virtual bool IsMinimised(platform::Form& form) = 0;
   virtual void PressEnter(platform::Form& form) = 0;
   virtual void PressEscape(platform::Form& form) = 0;
 

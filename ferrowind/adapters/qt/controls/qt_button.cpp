@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/controls/qt_button.h"
 
 #include "ferrowind/adapters/qt/controls/caption_text.h"
+#include "ferrowind/adapters/qt/look/text_tip.h"
 
 namespace ferrowind::qt {
 
@@ -14,6 +15,11 @@ void QtButton::SetCaption(const std::string& caption) {
   caption_ = ToQt(caption);
   button_.setText(MarkedCaption(caption_, mnemonic_));
   button_.setAccessibleName(caption_);
+}
+
+void QtButton::SetDescription(const std::string& description) {
+  button_.setToolTip(PlainToolTip(ToQt(description)));
+  button_.setAccessibleDescription(ToQt(description));
 }
 
 platform::Subscription QtButton::OnClick(std::function<void()> handler) {

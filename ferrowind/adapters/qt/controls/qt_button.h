@@ -14,6 +14,7 @@ class QtButton : public QtControl<platform::Button>, public Captioned {
 
   [[nodiscard]] std::string Caption() const override;
   void SetCaption(const std::string& caption) override;
+  void SetDescription(const std::string& description) override;
   [[nodiscard]] platform::Subscription OnClick(std::function<void()> handler) override;
 
   [[nodiscard]] bool TakesMnemonic() const override { return true; }

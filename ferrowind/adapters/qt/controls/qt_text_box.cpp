@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/controls/qt_text_box.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <algorithm>
 #include <limits>
 
@@ -8,15 +9,28 @@
 
 namespace ferrowind::qt {
 
-class QtTextBox::FocusWatch : public QObject {
+namespace {
+
+bool IsEnter(const QKeyEvent& event) {
+  return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
+         (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+}  // namespace
+
+class QtTextBox::LineWatch : public QObject {
  public:
-  explicit FocusWatch(QtTextBox& box) : box_(box) { box_.line_.installEventFilter(this); }
+  explicit LineWatch(QtTextBox& box) : box_(box) { box_.line_.installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusOut) {
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
       if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
         box_.Raise(box_.lost_focus_);
+    }
+    if (event->type() == QEvent::KeyPress && box_.takes_enter_ && IsEnter(*static_cast<QKeyEvent*>(event))) {
+      box_.Raise(box_.entered_);
+      return true;
     }
     return QObject::eventFilter(watched, event);
   }
@@ -26,7 +40,7 @@ class QtTextBox::FocusWatch : public QObject {
 };
 
 QtTextBox::QtTextBox(QLineEdit& line)
-    : QtControl(line), line_(line), focus_watch_(std::make_unique<FocusWatch>(*this)) {
+    : QtControl(line), line_(line), line_watch_(std::make_unique<LineWatch>(*this)) {
   LimitTyping(line_.text().size());
   QObject::connect(&line_, &QLineEdit::textChanged, Context(), [this] { Raise(changed_); });
 }
@@ -52,6 +66,13 @@ void QtTextBox::SelectAll() { line_.selectAll(); }
 
 platform::Subscription QtTextBox::OnChange(std::function<void()> handler) {
   return changed_.Subscribe(std::move(handler));
+}
+
+void QtTextBox::SetPlaceholder(const std::string& text) { line_.setPlaceholderText(ToQt(text)); }
+
+platform::Subscription QtTextBox::OnEnter(std::function<void()> handler) {
+  takes_enter_ = true;
+  return entered_.Subscribe(std::move(handler));
 }
 
 platform::Subscription QtTextBox::OnLostFocus(std::function<void()> handler) {

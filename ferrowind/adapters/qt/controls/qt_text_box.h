@@ -18,18 +18,22 @@ class QtTextBox : public QtControl<platform::TextBox> {
   void SetMaxLength(std::int32_t characters) override;
   void SelectAll() override;
   [[nodiscard]] platform::Subscription OnChange(std::function<void()> handler) override;
+  void SetPlaceholder(const std::string& text) override;
+  [[nodiscard]] platform::Subscription OnEnter(std::function<void()> handler) override;
   [[nodiscard]] platform::Subscription OnLostFocus(std::function<void()> handler) override;
 
  private:
-  class FocusWatch;
+  class LineWatch;
 
   void LimitTyping(qsizetype length_now);
 
   QLineEdit& line_;
   std::int32_t max_length_ = 0;
+  bool takes_enter_ = false;
   platform::Signal<> changed_;
+  platform::Signal<> entered_;
   platform::Signal<> lost_focus_;
-  std::unique_ptr<FocusWatch> focus_watch_;
+  std::unique_ptr<LineWatch> line_watch_;
 };
 
 }  // namespace ferrowind::qt

@@ -1,20 +1,12 @@
 #include "ferrowind/adapters/qt/controls/tree_model.h"
 
-#include <QTextDocument>
 #include <utility>
 
+#include "ferrowind/adapters/qt/look/text_tip.h"
 #include "ferrowind/adapters/qt/look/tree_images.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
 namespace ferrowind::qt {
-namespace {
-
-/// Tooltips take what looks like markup for markup.
-QString AsPlainToolTip(const QString& text) {
-  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
-}
-
-}  // namespace
 
 struct TreeModel::Node {
   std::string key;
@@ -81,7 +73,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
   const Node& node = NodeAt(index);
   if (role == Qt::DisplayRole) return node.text;
   if (role == Qt::AccessibleDescriptionRole && !node.description.isEmpty()) return node.description;
-  if (role == Qt::ToolTipRole && !node.description.isEmpty()) return AsPlainToolTip(node.description);
+  if (role == Qt::ToolTipRole && !node.description.isEmpty()) return PlainToolTip(node.description);
   if (role == Qt::DecorationRole && node.icon != nullptr) return *node.icon;
   return {};
 }

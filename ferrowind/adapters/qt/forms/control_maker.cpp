@@ -12,6 +12,7 @@
 #include "ferrowind/adapters/qt/controls/qt_label.h"
 #include "ferrowind/adapters/qt/controls/qt_status_bar.h"
 #include "ferrowind/adapters/qt/controls/qt_text_box.h"
+#include "ferrowind/adapters/qt/controls/qt_text_view.h"
 #include "ferrowind/adapters/qt/controls/qt_tool_bar.h"
 #include "ferrowind/adapters/qt/controls/qt_tree.h"
 #include "ferrowind/adapters/qt/controls/qt_up_down.h"
@@ -51,6 +52,7 @@ bool CanBeControl(const QWidget& widget) {
   if (widget.metaObject() == &QLabel::staticMetaObject) return true;
   return qobject_cast<const QPushButton*>(&widget) != nullptr ||
          qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
          qobject_cast<const QComboBox*>(&widget) != nullptr ||
          qobject_cast<const UpDownArrows*>(&widget) != nullptr ||
          qobject_cast<const TreeView*>(&widget) != nullptr ||
@@ -72,6 +74,8 @@ std::unique_ptr<platform::Control> MakeControl(ControlKind kind, QWidget& widget
       return MakeOver<QtButton, QPushButton>(widget);
     case ControlKind::kTextBox:
       return MakeOver<QtTextBox, QLineEdit>(widget);
+    case ControlKind::kTextView:
+      return MakeOver<QtTextView, QPlainTextEdit>(widget);
     case ControlKind::kDropDownList:
       return MakeOver<QtDropDownList, QComboBox>(widget);
     case ControlKind::kDatePicker:

@@ -14,6 +14,7 @@
 #include "ferrowind/platform/toolkit/button.h"
 #include "ferrowind/platform/toolkit/label.h"
 #include "ferrowind/platform/toolkit/text_box.h"
+#include "ferrowind/platform/toolkit/text_view.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -26,6 +27,7 @@ void ApplyText(const FormWindow& window, const std::string& text, platform::Cont
   if (auto* label = dynamic_cast<platform::Label*>(&control)) label->SetText(text);
   if (auto* button = dynamic_cast<platform::Button*>(&control)) button->SetCaption(text);
   if (auto* box = dynamic_cast<platform::TextBox*>(&control)) box->SetText(text);
+  if (auto* view = dynamic_cast<platform::TextView*>(&control)) view->SetText(text);
   if (auto* frame = qobject_cast<QGroupBox*>(WidgetOf(window, control))) frame->setTitle(ToQt(text));
 }
 

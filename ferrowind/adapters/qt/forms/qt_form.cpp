@@ -188,6 +188,13 @@ void QtForm::ShowModal() {
   if (is_left_open) throw Interruption("The application is ending; the form " + name_ + " was left open");
 }
 
+void QtForm::Raise() {
+  if (!window_->isVisible()) return;
+  window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+  window_->raise();
+  window_->activateWindow();
+}
+
 void QtForm::Hide() { window_->hide(); }
 
 bool QtForm::IsShown() const { return window_->isVisible(); }

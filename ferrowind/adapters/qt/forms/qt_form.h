@@ -40,6 +40,7 @@ class QtForm : public platform::Form, public WidgetElement, public std::enable_s
   void Load() override;
   void Show() override;
   void ShowModal() override;
+  void Raise() override;
   void Hide() override;
   [[nodiscard]] bool IsShown() const override;
   bool Unload() override;

@@ -1,8 +1,13 @@
 #include "ferrowind/adapters/qt/look/text_tip.h"
 
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace ferrowind::qt {
+
+QString PlainToolTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+}
 
 void ShowTextTip(const QHelpEvent& event, QWidget& widget, const QRect& area, const QString& text) {
   if (text.isEmpty()) {

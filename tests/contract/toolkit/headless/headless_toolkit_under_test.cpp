@@ -45,6 +45,10 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
   void ResizeByFrame(platform::Form& form, float width, float height) override {
     As<HeadlessForm>(form).ResizeByOperator(width, height);
   }
+  void Minimise(platform::Form& form) override { As<HeadlessForm>(form).MinimiseByOperator(); }
+  [[nodiscard]] bool IsMinimised(platform::Form& form) override {
+    return As<HeadlessForm>(form).IsMinimised();
+  }
   void PressEnter(platform::Form& form) override { As<HeadlessForm>(form).PressEnter(); }
   void PressEscape(platform::Form& form) override { As<HeadlessForm>(form).PressEscape(); }
 

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStatusBar>
@@ -31,6 +32,9 @@ void BuildContract(QDialog& window) {
   layout->addWidget(Named<QToolBar>("ssatbTools"));
   layout->addWidget(Named<QLineEdit>("txtText"));
   layout->addWidget(Named<QLineEdit>("txtOther"));
+  auto* view = Named<QPlainTextEdit>("txtView");
+  view->setMaximumHeight(40);
+  layout->addWidget(view);
   layout->addWidget(Named<QPushButton>("cmdPush"));
   layout->addWidget(Named<QLabel>("lblText"));
   layout->addWidget(Named<QComboBox>("cmbList"));

@@ -82,6 +82,10 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     const QSize frame = window.frameGeometry().size() - window.size();
     window.resize(QSize(qt::PixelsX(width), qt::PixelsY(height)) - frame);
   }
+  void Minimise(platform::Form& form) override { WidgetOf<QWidget>(form).showMinimized(); }
+  [[nodiscard]] bool IsMinimised(platform::Form& form) override {
+    return WidgetOf<QWidget>(form).isMinimized();
+  }
   void PressEnter(platform::Form& form) override { PressKey(form, Qt::Key_Return); }
   void PressEscape(platform::Form& form) override { PressKey(form, Qt::Key_Escape); }
 

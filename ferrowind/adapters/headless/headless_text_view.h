@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "ferrowind/adapters/headless/headless_control.h"
+#include "ferrowind/platform/toolkit/text_view.h"
+
+namespace ferrowind::headless {
+
+class HeadlessTextView : public HeadlessControl<platform::TextView> {
+ public:
+  HeadlessTextView(ControlHost& host, std::string name, std::string text)
+      : HeadlessControl(host, std::move(name)), text_(std::move(text)) {}
+
+  [[nodiscard]] std::string Text() const override { return text_; }
+  void SetText(const std::string& text) override {
+    core_.Record("SetText", {text});
+    text_ = text;
+  }
+
+ private:
+  std::string text_;
+};
+
+}  // namespace ferrowind::headless
