@@ -44,6 +44,11 @@ class NoToolkit : public platform::Toolkit {
   bool LockUpdates(platform::Element&) override { return false; }
   void UnlockUpdates() override {}
   [[nodiscard]] platform::Subscription After(std::int32_t, std::function<void()>) override { return {}; }
+  [[nodiscard]] std::optional<std::string> ChooseFileToSave(const std::string&, const std::string&,
+                                                            const std::vector<platform::FileKind>&) override {
+    RefuseWindow();
+  }
+  void SetClipboardText(const std::string&) override {}
   void ProcessPendingEvents() override {}
   void Beep() override {}
 };

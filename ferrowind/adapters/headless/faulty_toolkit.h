@@ -3,14 +3,17 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "ferrowind/adapters/headless/fault_plan.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 
 namespace ferrowind::headless {
 
-/// A toolkit of which making a form, the only operation of it that may fail, passes a plan first.
+/// A toolkit of which those operations that may fail pass a plan first: making a form, and asking for a file.
 class FaultyToolkit : public platform::Toolkit {
  public:
   /// Both must outlive this.
@@ -28,6 +31,13 @@ class FaultyToolkit : public platform::Toolkit {
                                              std::function<void()> handler) override {
     return inner_.After(milliseconds, std::move(handler));
   }
+  [[nodiscard]] std::optional<std::string> ChooseFileToSave(
+      const std::string& title, const std::string& suggested_name,
+      const std::vector<platform::FileKind>& kinds) override {
+    plan_.Pass("toolkit.ChooseFileToSave");
+    return inner_.ChooseFileToSave(title, suggested_name, kinds);
+  }
+  void SetClipboardText(const std::string& text) override { inner_.SetClipboardText(text); }
   void ProcessPendingEvents() override { inner_.ProcessPendingEvents(); }
   void Beep() override { inner_.Beep(); }
 

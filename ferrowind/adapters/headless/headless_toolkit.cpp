@@ -58,6 +58,26 @@ void HeadlessToolkit::Advance(std::int32_t milliseconds) {
   now_ = end;
 }
 
+std::optional<std::string> HeadlessToolkit::ChooseFileToSave(const std::string& title,
+                                                             const std::string& suggested_name,
+                                                             const std::vector<platform::FileKind>& kinds) {
+  std::vector<std::string> suffixes;
+  for (const auto& kind : kinds) suffixes.push_back(kind.suffix);
+  state_->log.Record("toolkit.ChooseFileToSave(" + ArgumentText(title) + ", " + ArgumentText(suggested_name) +
+                     ", " + ArgumentText(suffixes) + ")");
+  if (file_answers_.empty()) {
+    state_->errors.Raise("A file was asked for (" + title + "), but the test has no answer");
+  }
+  std::optional<std::string> answer = std::move(file_answers_.front());
+  file_answers_.pop_front();
+  return answer;
+}
+
+void HeadlessToolkit::SetClipboardText(const std::string& text) {
+  state_->log.Record("toolkit.SetClipboardText(" + ArgumentText(text) + ")");
+  state_->clipboard = text;
+}
+
 void HeadlessToolkit::ProcessPendingEvents() { state_->log.Record("toolkit.ProcessPendingEvents()"); }
 
 void HeadlessToolkit::Beep() {

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ferrowind/adapters/headless/headless_form.h"
@@ -29,6 +32,10 @@ class HeadlessToolkit : public platform::Toolkit {
   void UnlockUpdates() override;
   [[nodiscard]] platform::Subscription After(std::int32_t milliseconds,
                                              std::function<void()> handler) override;
+  [[nodiscard]] std::optional<std::string> ChooseFileToSave(
+      const std::string& title, const std::string& suggested_name,
+      const std::vector<platform::FileKind>& kinds) override;
+  void SetClipboardText(const std::string& text) override;
   void ProcessPendingEvents() override;
   void Beep() override;
 
@@ -50,6 +57,9 @@ class HeadlessToolkit : public platform::Toolkit {
   /// script error.
   void ScriptModal(const std::string& form, ModalScript script);
 
+  /// The operator will choose that file, or none, the next time that one is asked for and no answer waits. A
+  /// question without an answer is a script error.
+  void AnswerNextFile(std::optional<std::string> path) { file_answers_.push_back(std::move(path)); }
   /// Lets time pass: what `After` was asked for meanwhile is called, in the order of its time.
   void Advance(std::int32_t milliseconds);
 
@@ -89,6 +99,7 @@ class HeadlessToolkit : public platform::Toolkit {
   std::int64_t now_ = 0;
   std::vector<MadeForm> made_forms_;
   std::set<std::string> missing_layouts_;
+  std::deque<std::optional<std::string>> file_answers_;
   int beep_count_ = 0;
 };
 

@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/animation.h"
@@ -29,6 +32,14 @@ namespace ferrowind::platform {
 struct ScreenSize {
   float width = 0;
   float height = 0;
+};
+
+/// A kind of file that the operator can choose.
+struct FileKind {
+  /// "PDF document".
+  std::string caption;
+  /// Without a dot: "pdf".
+  std::string suffix;
 };
 
 /// The user-interface toolkit of the host's thread.
@@ -59,6 +70,19 @@ class Toolkit {
   /// and never from inside this call; dropping the subscription before calls it off. A negative time is the
   /// failure Invalid argument. Handlers must not throw.
   [[nodiscard]] virtual Subscription After(std::int32_t milliseconds, std::function<void()> handler) = 0;
+
+  /// Asks the operator for a file to write and returns its path in UTF-8, or nothing when they chose none.
+  /// `title` says what for; `suggested_name` has neither folder nor suffix; `kinds`, of which there is at
+  /// least one, begin with the usual one. A name that is chosen without a suffix gets that of the kind
+  /// chosen. The operator has agreed to replace a file that is there already.
+  ///
+  /// The question belongs to a window as a modal form does (`Form::ShowModal`) and goes with it: then, and at
+  /// the end of the application, it fails with an `Interruption`.
+  [[nodiscard]] virtual std::optional<std::string> ChooseFileToSave(const std::string& title,
+                                                                    const std::string& suggested_name,
+                                                                    const std::vector<FileKind>& kinds) = 0;
+  /// Puts a text where the operator can paste it from.
+  virtual void SetClipboardText(const std::string& text) = 0;
 
   /// Handles the user-interface messages that wait, and returns.
   virtual void ProcessPendingEvents() = 0;

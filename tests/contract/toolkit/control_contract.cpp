@@ -213,5 +213,26 @@ TEST_F(ScreenContract, CanSoundABeepAndHandleWhatWaits) {
   EXPECT_NO_THROW(toolkit.ProcessPendingEvents());
 }
 
+class FileQuestionContract : public ToolkitContract {};
+
+TEST_F(FileQuestionContract, GivesTheFileOfTheOperatorsChoice) {
+  EXPECT_EQ(under_test->AskForFile("year.png"), "year.png");
+}
+
+TEST_F(FileQuestionContract, AddsTheSuffixOfTheKindToANameWithoutOne) {
+  EXPECT_EQ(under_test->AskForFile("year"), "year.pdf");
+}
+
+TEST_F(FileQuestionContract, GivesNothingWhenItIsTurnedDown) {
+  EXPECT_EQ(under_test->AskForFile(std::nullopt), std::nullopt);
+}
+
+class ClipboardContract : public ToolkitContract {};
+
+TEST_F(ClipboardContract, TakesATextAsItIs) {
+  toolkit.SetClipboardText("a\tb\nJos\xC3\xA9 <b>");
+  EXPECT_EQ(under_test->ClipboardText(), "a\tb\nJos\xC3\xA9 <b>");
+}
+
 }  // namespace
 }  // namespace ferrowind::contract

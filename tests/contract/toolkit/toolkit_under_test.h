@@ -60,6 +60,10 @@ class ToolkitUnderTest {
   /// Lets so much time pass, and what waits for it happen.
   virtual void Wait(std::int32_t milliseconds) = 0;
 
+  /// Calls `ChooseFileToSave` for PDF documents and PNG pictures, and types `name` into the question, or
+  /// turns it down where that is nothing. The file's name without its folder, or nothing.
+  [[nodiscard]] virtual std::optional<std::string> AskForFile(const std::optional<std::string>& name) = 0;
+
   /// Clicks the button, whether it is enabled or not.
   virtual void Click(platform::Button& button) = 0;
   /// Goes to the text box and types behind its text, or in place of the selected text.

@@ -1,6 +1,8 @@
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QFileInfo>
 #include <QScreen>
 #include <QSessionManager>
 #include <QTimer>
@@ -9,10 +11,12 @@
 #include "ferrowind/adapters/qt/controls/element.h"
 #include "ferrowind/adapters/qt/controls/modal_show.h"
 #include "ferrowind/adapters/qt/controls/popup_place.h"
+#include "ferrowind/adapters/qt/forms/file_question.h"
 #include "ferrowind/adapters/qt/forms/form_window.h"
 #include "ferrowind/adapters/qt/forms/qt_form.h"
 #include "ferrowind/adapters/qt/forms/update_hold.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
+#include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -100,6 +104,17 @@ platform::Subscription QtToolkit::After(std::int32_t milliseconds, std::function
     guarded->deleteLater();
   });
 }
+
+std::optional<std::string> QtToolkit::ChooseFileToSave(const std::string& title,
+                                                       const std::string& suggested_name,
+                                                       const std::vector<platform::FileKind>& kinds) {
+  const auto path = AskForFileToSave(ToQt(title), ToQt(suggested_name), kinds, last_folder_);
+  if (!path) return std::nullopt;
+  last_folder_ = QFileInfo(*path).absolutePath();
+  return FromQt(*path);
+}
+
+void QtToolkit::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
 
 void QtToolkit::ProcessPendingEvents() { QCoreApplication::processEvents(); }
 

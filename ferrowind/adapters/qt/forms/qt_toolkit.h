@@ -34,6 +34,10 @@ class QtToolkit : public platform::Toolkit {
   [[nodiscard]] bool UpdatesAreLocked() const;
   [[nodiscard]] platform::Subscription After(std::int32_t milliseconds,
                                              std::function<void()> handler) override;
+  [[nodiscard]] std::optional<std::string> ChooseFileToSave(
+      const std::string& title, const std::string& suggested_name,
+      const std::vector<platform::FileKind>& kinds) override;
+  void SetClipboardText(const std::string& text) override;
   void ProcessPendingEvents() override;
   void Beep() override;
 
@@ -48,6 +52,8 @@ class QtToolkit : public platform::Toolkit {
   QPointer<QWidget> locked_;
   std::unique_ptr<UpdateHold> hold_;
   std::unique_ptr<QObject> quit_watch_;
+  /// Where the operator saved last; empty before that.
+  QString last_folder_;
   QObject context_;
 };
 

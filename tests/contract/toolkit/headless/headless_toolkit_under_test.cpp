@@ -54,6 +54,13 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
 
   void Wait(std::int32_t milliseconds) override { world_.toolkit.Advance(milliseconds); }
 
+  [[nodiscard]] std::optional<std::string> AskForFile(const std::optional<std::string>& name) override {
+    // The headless operator is asked for what the dialog makes of their answer.
+    world_.toolkit.AnswerNextFile(name && name->find('.') == std::string::npos ? *name + ".pdf" : name);
+    return world_.toolkit.ChooseFileToSave("Save the year", "EUR 2027",
+                                           {{"PDF document", "pdf"}, {"PNG picture", "png"}});
+  }
+
   void Click(platform::Button& button) override {
     // The headless operator refuses what a real one tries in vain.
     if (button.Enabled()) As<HeadlessButton>(button).Click();

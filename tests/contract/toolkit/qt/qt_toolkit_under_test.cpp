@@ -1,8 +1,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -90,6 +93,26 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   void PressEscape(platform::Form& form) override { PressKey(form, Qt::Key_Escape); }
 
   void Wait(std::int32_t milliseconds) override { QTest::qWait(milliseconds); }
+
+  [[nodiscard]] std::optional<std::string> AskForFile(const std::optional<std::string>& name) override {
+    const auto question = [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); };
+    const WhenReady ready([&] { return question() != nullptr; },
+                          [&] {
+                            auto* line = question()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                            EXPECT_EQ(line->text(), QStringLiteral("EUR 2027"));
+                            if (!name) return question()->reject();
+                            question()->setDirectory(folder_.path());
+                            line->setText(qt::ToQt(*name));
+                            QTest::keyClick(line, Qt::Key_Return);
+                          },
+                          [&] { question()->reject(); });
+    const auto path = toolkit_.ChooseFileToSave("Save the year", "EUR 2027",
+                                                {{"PDF document", "pdf"}, {"PNG picture", "png"}});
+    if (!path) return std::nullopt;
+    const QFileInfo file(qt::ToQt(*path));
+    EXPECT_EQ(file.absolutePath(), folder_.path());
+    return qt::FromQt(file.fileName());
+  }
 
   void Click(platform::Button& button) override {
     auto& widget = WidgetOf<QWidget>(button);
@@ -296,6 +319,7 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     }
   }
 
+  QTemporaryDir folder_;
   qt::QtToolkit toolkit_;
 };
 
