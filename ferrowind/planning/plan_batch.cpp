@@ -141,7 +141,8 @@ std::string SummaryOf(const PlanBatch& batch) {
   const DayTotals totals = batch.Totals();
   std::string summary;
   if (calendars.size() == 1 && planned == 1) {
-    summary = calendars.front().Name() + ": " + CountOf(calendars.front()) + ".";
+    const bool is_as_planned = totals.taken == 0 && calendars.front().Preparation()->CalendarExists();
+    summary = calendars.front().Name() + (is_as_planned ? " is " : ": ") + CountOf(calendars.front()) + ".";
   } else if (const std::size_t changing = batch.CalendarsToChange(); changing != 0) {
     summary = Counted(changing, "calendar", "calendars") + ": " + CountedChanges(totals) + ".";
   } else if (planned != 0) {

@@ -15,7 +15,7 @@ using planning::PlanOutcome;
 using platform::ControlKind;
 using platform::ControlOf;
 
-constexpr const char* kRefresh = "ID_RefreshPlan";
+constexpr const char* kRefresh = "ID_Refresh";
 constexpr const char* kAllDays = "ID_AllDays";
 constexpr std::int32_t kAllCalendars = -1;
 
@@ -32,7 +32,7 @@ platform::FormDesign Design(std::size_t calendars) {
           {ControlKind::kToolBar, "tbPlan"},
           {ControlKind::kLabel, "lblSummary"},
           {.kind = ControlKind::kTable, .name = "tblPlan", .selects_many = true, .sorts = true},
-          {ControlKind::kTextView, "txtOutcome"},
+          {ControlKind::kTable, "tblOutcome"},
           {ControlKind::kButton, "cmdUndo", "Undo"},
           {ControlKind::kButton, "cmdApply", "Apply"},
           {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
@@ -42,6 +42,19 @@ platform::FormDesign Design(std::size_t calendars) {
     design.controls.insert(design.controls.begin() + 1, filter.begin(), filter.end());
   }
   return design;
+}
+
+platform::CellMark MarkOf(PlanOutcome::Kind kind) {
+  switch (kind) {
+    case PlanOutcome::Kind::kDone:
+      return platform::CellMark::kPrepared;
+    case PlanOutcome::Kind::kRefused:
+    case PlanOutcome::Kind::kNotTried:
+      return platform::CellMark::kWarning;
+    case PlanOutcome::Kind::kFailed:
+      return platform::CellMark::kError;
+  }
+  return platform::CellMark::kNone;
 }
 
 bool IsBad(const PlanOutcome& outcome) { return outcome.kind != PlanOutcome::Kind::kDone; }
@@ -77,7 +90,7 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
       form_(platform_.toolkit.CreateForm(Design(calendars.size()))),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbPlan")),
       summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
-      outcome_(ControlOf<platform::TextView>(*form_, "txtOutcome")),
+      outcome_(ControlOf<platform::Table>(*form_, "tblOutcome")),
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       apply_(ControlOf<platform::Button>(*form_, "cmdApply")),
       table_(platform_, ControlOf<platform::Table>(*form_, "tblPlan"), batch_, [this] { RefreshSummary(); }) {
@@ -85,6 +98,7 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
   tools_.AddTool({kAllDays, "All days", "Plan", "Shows the days that stay as they are and all weekends, too",
                   platform::ToolKind::kTwoStateButton});
   tools_.SetBar("Plan", {kRefresh, kAllDays});
+  outcome_.SetColumns({{.key = "Outcome", .caption = "What was done", .stretches = true}});
   outcome_.SetVisible(false);
   if (calendars.size() > 1) FillCalendarList();
   form_->SetCaption(calendars.size() == 1 ? "Plan of " + batch_.Calendars().front().Name()
@@ -124,10 +138,7 @@ void fmYearPlan::Connect() {
   subscribe(windows_.OnChanged(handler(&fmYearPlan::PlanAnewAfter)));
 }
 
-void fmYearPlan::ShowInFront() {
-  form_->Show();
-  form_->Raise();
-}
+void fmYearPlan::ShowInFront() { form_->Show(); }
 
 bool fmYearPlan::Close() { return form_->Unload(); }
 
@@ -154,21 +165,28 @@ void fmYearPlan::ShowLines() {
 }
 
 void fmYearPlan::RefreshSummary() {
-  summary_.SetText(planning::SummaryOf(batch_));
+  std::string summary = planning::SummaryOf(batch_);
+  if (const auto shown = table_.Filter().calendar) {
+    // What is applied is all of it.
+    summary += " Only " + batch_.Calendars()[*shown].Name() + " is on show.";
+  }
+  summary_.SetText(summary);
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);
   undo_.SetVisible(batch_.CanUndo());
 }
 
 void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes) {
   // What went wrong stands first, where it is seen without scrolling.
-  std::string text;
+  std::vector<platform::TableRow> rows;
   for (const bool is_bad : {true, false}) {
     for (const PlanOutcome& outcome : outcomes) {
-      if (IsBad(outcome) == is_bad) text += (text.empty() ? "" : "\n") + outcome.sentence;
+      if (IsBad(outcome) != is_bad) continue;
+      rows.push_back({.key = std::to_string(outcome.calendar),
+                      .cells = {{.text = outcome.sentence, .mark = MarkOf(outcome.kind)}}});
     }
   }
-  outcome_.SetText(text);
-  outcome_.SetVisible(!text.empty());
+  outcome_.SetRows(rows);
+  outcome_.SetVisible(!rows.empty());
   if (std::any_of(outcomes.begin(), outcomes.end(), IsBad)) platform_.toolkit.Beep();
 }
 

@@ -58,7 +58,7 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   /// Null when there is only one calendar.
   platform::DropDownList* filter_ = nullptr;
   platform::Label& summary_;
-  platform::TextView& outcome_;
+  platform::Table& outcome_;
   platform::Button& undo_;
   platform::Button& apply_;
   PlanTable table_;

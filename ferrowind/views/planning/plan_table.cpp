@@ -67,9 +67,8 @@ PlanTable::PlanTable(const platform::Platform& platform, platform::Table& table,
       {"Should", "Should be"}, {"Action", "Action"},   {.key = "Why", .caption = "Why", .stretches = true}};
   if (batch.Calendars().size() > 1) columns.insert(columns.begin(), {"Calendar", "Calendar"});
   table_.SetColumns(columns);
-  decided_ = table_.OnCheckChange([this](const std::string& row, bool is_taken) {
-    RunHandler(platform_, [&] { Decide(row, is_taken); });
-  });
+  decided_ = table_.OnCheckChange(
+      [this](const std::string&, bool) { RunHandler(platform_, [this] { TakeDecisions(); }); });
 }
 
 void PlanTable::Show(const planning::PlanLineFilter& filter) {
@@ -115,15 +114,23 @@ platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
   return row;
 }
 
-void PlanTable::Decide(const std::string& row, bool is_taken) {
-  const auto line =
-      std::find_if(lines_.begin(), lines_.end(), [&](const PlanLine& each) { return each.key == row; });
-  if (line == lines_.end() || line->is_taken == is_taken) return;
-  planning::PlannedCalendar& calendar = batch_.At(line->calendar);
-  if (line->kind == PlanLine::Kind::kCalendar) {
-    calendar.TakeAll(is_taken);
-  } else {
-    calendar.Take(line->date->DayOfYear(), is_taken);
+void PlanTable::TakeDecisions() {
+  std::vector<const PlanLine*> decided;
+  for (const PlanLine& line : lines_) {
+    if (line.is_taken && table_.Checked(line.key) != *line.is_taken) decided.push_back(&line);
+  }
+  // Told for each of several rows that one action has changed, all of which are checked by the first time.
+  if (decided.empty()) return;
+  // What is decided about a calendar holds for its days, unless something is decided about them as well.
+  std::stable_partition(decided.begin(), decided.end(),
+                        [](const PlanLine* line) { return line->kind == PlanLine::Kind::kCalendar; });
+  for (const PlanLine* const line : decided) {
+    planning::PlannedCalendar& calendar = batch_.At(line->calendar);
+    if (line->kind == PlanLine::Kind::kCalendar) {
+      calendar.TakeAll(!*line->is_taken);
+    } else {
+      calendar.Take(line->date->DayOfYear(), !*line->is_taken);
+    }
   }
   ShowAnew();
   on_decision_();

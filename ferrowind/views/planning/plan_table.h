@@ -25,17 +25,16 @@ class PlanTable {
 
  private:
   [[nodiscard]] platform::TableRow RowOf(const planning::PlanLine& line) const;
-  void Decide(const std::string& row, bool is_taken);
+  void TakeDecisions();
 
   const platform::Platform& platform_;
   platform::Table& table_;
   planning::PlanBatch& batch_;
   std::function<void()> on_decision_;
   planning::PlanLineFilter filter_;
-  /// As they are on show, whatever the table sorts them by.
+  /// As the table shows them, but in the order of the plans.
   std::vector<planning::PlanLine> lines_;
   platform::Subscription decided_;
-  platform::Subscription shown_soon_;
 };
 
 }  // namespace ferrowind

@@ -6,6 +6,7 @@
 #include "ferrowind/views/planning/calendars_addition_list.h"
 #include "ferrowind/views/planning/holidays_addition_list.h"
 #include "ferrowind/views/planning/holidays_caption.h"
+#include "ferrowind/views/planning/plan_year_tool.h"
 #include "ferrowind/views/planning/refreshed_calendars.h"
 
 namespace ferrowind {
@@ -33,7 +34,7 @@ template <typename Addition>
 constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platform::HolidaysScene>();
 
 // The order of their controls and tools.
-constexpr std::array kCalendarsAdditions{Calendars<RefreshedCalendars>};
+constexpr std::array kCalendarsAdditions{Calendars<RefreshedCalendars>, Calendars<PlanYearTool>};
 constexpr std::array kHolidaysAdditions{Holidays<HolidaysCaption>};
 
 template <typename Entries>

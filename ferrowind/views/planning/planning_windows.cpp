@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ferrowind/views/planning/fm_year_plan.h"
 #include "ferrowind/views/planning/planning_context.h"
 
 namespace ferrowind {
@@ -18,6 +19,11 @@ void PlanningWindows::Open(const std::string& name, const Maker& make) {
   // Held here, because what it does when it comes to the front may close it.
   const auto window = found->second;
   window->ShowInFront();
+}
+
+void PlanningWindows::OpenYearPlan(const std::vector<planning::CalendarKey>& calendars) {
+  Open(fmYearPlan::NameFor(calendars),
+       [&](const PlanningContext& context) { return fmYearPlan::Create(context, calendars); });
 }
 
 bool PlanningWindows::CloseAll() {

@@ -34,6 +34,9 @@ class PlanningWindows {
   PlanningWindows(const PlanningWindows&) = delete;
   PlanningWindows& operator=(const PlanningWindows&) = delete;
 
+  /// The plans of those calendars, at least one and none twice.
+  void OpenYearPlan(const std::vector<planning::CalendarKey>& calendars);
+
   /// Closes all windows; false, with the others closed, when one of them refuses.
   bool CloseAll();
 

@@ -7,6 +7,7 @@
 #include "ui_fmMessage.h"
 #include "ui_fmSelectYear.h"
 #include "ui_fmWait.h"
+#include "ui_fmYearPlan.h"
 
 namespace ferrowind::qt {
 
@@ -26,6 +27,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
   layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");
   layouts.AddGenerated<Ui::fmWait>("fmWait");
+  layouts.AddGenerated<Ui::fmYearPlan>("fmYearPlan");
   return layouts;
 }
 

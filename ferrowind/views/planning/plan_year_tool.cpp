@@ -1,0 +1,41 @@
+#include "ferrowind/views/planning/plan_year_tool.h"
+
+#include "ferrowind/data/confirm.h"
+#include "ferrowind/planning/book_store.h"
+
+namespace ferrowind {
+namespace {
+
+constexpr const char* kTool = "ID_PlanYear";
+
+}  // namespace
+
+platform::WindowParts PlanYearTool::Parts() {
+  return {.tools = {{.id = kTool,
+                     .caption = "Plan year...",
+                     .category = "Planning",
+                     .description = "Shows where the calendar differs from what it should be"}},
+          .bar = {kTool}};
+}
+
+void PlanYearTool::RefreshTool() { scene_.Tools().SetToolEnabled(kTool, scene_.OnShow().has_value()); }
+
+bool PlanYearTool::RunTool(const std::string& id) {
+  if (id != kTool) return false;
+  if (const auto calendar = scene_.OnShow()) Open(*calendar);
+  return true;
+}
+
+void PlanYearTool::CalendarCreated(const platform::CalendarOnShow& calendar) {
+  // Without a book nothing tells what the year should be.
+  if (!planning::LoadBook(calendar.currency_id, calendar.currency, context_.tables)) return;
+  const std::string question = "Nothing is closed in " + calendar.currency + " " +
+                               std::to_string(calendar.year) + " yet. Prepare it now?";
+  if (Confirm(context_.platform.toolkit, "New calendar", question, 1) == 0) Open(calendar);
+}
+
+void PlanYearTool::Open(const platform::CalendarOnShow& calendar) {
+  context_.windows.OpenYearPlan({{calendar.currency_id, calendar.year}});
+}
+
+}  // namespace ferrowind
