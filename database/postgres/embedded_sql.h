@@ -41,5 +41,6 @@ extern const std::string_view kPostgresRights;
 /// The scripts that bring older databases here, by version.
 extern const std::string_view kPostgresUpgradeToHistory;
 extern const std::string_view kPostgresUpgradeToPlans;
+extern const std::string_view kPostgresUpgradeToFirstYears;
 
 }  // namespace ferrowind::embedded

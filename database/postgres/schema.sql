@@ -11,7 +11,7 @@ CREATE TABLE SchemaVersion (
   Version integer NOT NULL CHECK (Version >= 1)
 );
 CREATE UNIQUE INDEX SchemaVersionHasOneRow ON SchemaVersion ((1));
-INSERT INTO SchemaVersion (Version) VALUES (3);
+INSERT INTO SchemaVersion (Version) VALUES (4);
 
 -- LastDay: the last day as legal money; null for a currency that lives.
 CREATE TABLE DicCcy (
@@ -97,12 +97,13 @@ CREATE INDEX CldDayByDate ON CldDay (ODate);
 -- Which days have a rule, when a rule is to go.
 CREATE INDEX CldDayByRule ON CldDay (ID2) WHERE ID2 IS NOT NULL;
 
--- The rule book of a currency: which document its calendars follow, and the rules that make every year's days, in the order
--- of the book. The grammar of an expression is the callers' business.
+-- The rule book of a currency: which document its calendars follow, the first year that it tells of (null: it tells of all),
+-- and the rules that make a year's days, in the order of the book. The grammar of an expression is the callers' business.
 CREATE TABLE CldBook (
   ID1 integer PRIMARY KEY REFERENCES DicCcy (CcyID),
   Publisher text NOT NULL,
-  Document text NOT NULL
+  Document text NOT NULL,
+  FromYear integer CHECK (FromYear BETWEEN 1900 AND 3000)
 );
 
 CREATE TABLE CldRecurrence (

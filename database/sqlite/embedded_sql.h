@@ -26,5 +26,6 @@ extern const std::string_view kSqliteCldGetCurrencies;
 /// The scripts that bring older databases here, by version.
 extern const std::string_view kSqliteUpgradeToHistory;
 extern const std::string_view kSqliteUpgradeToRuleBooks;
+extern const std::string_view kSqliteUpgradeToFirstYears;
 
 }  // namespace ferrowind::embedded

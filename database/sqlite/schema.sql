@@ -6,7 +6,7 @@
 -- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here and of the
 -- procedures. A change comes with a script in upgrade/ that brings older databases to the same state.
 PRAGMA application_id = 0x46657277;
-PRAGMA user_version = 3;
+PRAGMA user_version = 4;
 
 -- LastDay: the last day as legal money; NULL as long as it is.
 CREATE TABLE DicCcy (
@@ -64,12 +64,14 @@ CREATE TABLE CldDay (
 
 CREATE INDEX CldDayByDate ON CldDay (ODate);
 
--- The rule book of a currency: whose document it follows, and in their order the recurring rules from which the plan of any
--- year is made. Expression says on which dates; MovedName is the name of a day that a holiday was moved to.
+-- The rule book of a currency: whose document it follows, the first year that it tells of (NULL: it tells of all), and in
+-- their order the recurring rules from which the plan of a year is made. Expression says on which dates; MovedName is the
+-- name of a day that a holiday was moved to.
 CREATE TABLE CldBook (
   ID1 INTEGER PRIMARY KEY REFERENCES DicCcy (CcyID),
   Publisher TEXT NOT NULL CHECK (typeof(Publisher) = 'text'),
-  Document TEXT NOT NULL CHECK (typeof(Document) = 'text')
+  Document TEXT NOT NULL CHECK (typeof(Document) = 'text'),
+  FromYear INTEGER CHECK (FromYear BETWEEN 1900 AND 3000 AND typeof(FromYear) = 'integer' OR FromYear IS NULL)
 );
 CREATE TABLE CldRecurrence (
   ID1 INTEGER NOT NULL REFERENCES CldBook (ID1),
@@ -185,7 +187,7 @@ FROM CldCalendar k;
 
 CREATE VIEW BookFingerprint AS
 SELECT b.ID1, (
-  SELECT FERROWIND_FINGERPRINT(b.Publisher, b.Document, Name1, TID1, Expression, Comment, MovedName)
+  SELECT FERROWIND_FINGERPRINT(b.Publisher, b.Document, b.FromYear, Name1, TID1, Expression, Comment, MovedName)
   FROM (
     SELECT 0 AS Position, NULL AS Name1, NULL AS TID1, NULL AS Expression, NULL AS Comment, NULL AS MovedName
     UNION ALL

@@ -182,6 +182,10 @@ class BookInspection {
   std::vector<std::string> Inspect() {
     if (IsBlank(book_.publisher)) faults_.push_back("The book names no publisher");
     if (IsBlank(book_.document)) faults_.push_back("The book names no document");
+    if (book_.since && (*book_.since < kFirstYear || *book_.since > kLastYear)) {
+      faults_.push_back("The book holds from " + std::to_string(*book_.since) + " on, which is not " +
+                        AYear());
+    }
     for (const BookRule& rule : book_.rules) {
       if (rule.expression.IsEveryWeekday() && rule.kind == RuleKind::kWeekday) {
         weekend_.Add(std::get<EveryWeekday>(rule.expression.anchor).weekday);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "ferrowind/almanac/date_words.h"
 #include "ferrowind/almanac/expression_error.h"
 #include "ferrowind/almanac/quotation.h"
 #include "ferrowind/almanac/text_error.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr std::string_view kPublisher = "publisher";
 constexpr std::string_view kDocument = "document";
+constexpr std::string_view kSince = "since";
 constexpr std::size_t kFewestFields = 3;
 constexpr std::size_t kMostFields = 5;
 constexpr std::size_t kAlignedFields = 3;
@@ -87,16 +89,30 @@ class BookReader {
       ReadHead(kPublisher, *publisher, has_publisher_, reading_.book.publisher);
     } else if (const auto document = AfterWord(line, kDocument)) {
       ReadHead(kDocument, *document, has_document_, reading_.book.document);
+    } else if (const auto since = AfterWord(line, kSince)) {
+      ReadSince(*since);
     } else {
-      throw ErrorAt(line, "publisher, document or a rule \"kind | name | expression | comment\" is expected");
+      throw ErrorAt(
+          line, "publisher, document, since or a rule \"kind | name | expression | comment\" is expected");
     }
   }
 
   void ReadHead(std::string_view word, std::string_view text, bool& has_one, std::string& kept) {
-    if (has_one) throw ErrorAt(lines_.Line(), "there is a line \"" + std::string(word) + "\" already");
+    ExpectFirst(word, has_one);
     if (text.empty()) throw ErrorAt(text, "a name is expected");
     kept = text;
     has_one = true;
+  }
+
+  void ReadSince(std::string_view text) {
+    ExpectFirst(kSince, reading_.book.since.has_value());
+    const std::optional<int> year = YearIn(text);
+    if (!year) throw ErrorAt(text, AYear() + " is expected");
+    reading_.book.since = year;
+  }
+
+  void ExpectFirst(std::string_view word, bool has_one) const {
+    if (has_one) throw ErrorAt(lines_.Line(), "there is a line \"" + std::string(word) + "\" already");
   }
 
   void ReadRule(const std::vector<std::string_view>& fields) {
@@ -160,6 +176,14 @@ void ExpectWritableName(const std::string& text, const std::string& what) {
   ExpectWritable(text, what);
 }
 
+/// The lines in front of the rules.
+std::vector<std::string> HeadOf(const RuleBook& book) {
+  std::vector<std::string> lines = {std::string(kPublisher) + ' ' + book.publisher,
+                                    std::string(kDocument) + ' ' + book.document};
+  if (book.since) lines.push_back(std::string(kSince) + ' ' + std::to_string(*book.since));
+  return lines;
+}
+
 /// How many columns a text takes: its characters, as far as UTF-8 tells them.
 std::size_t WidthOf(const std::string& text) {
   return static_cast<std::size_t>(std::count_if(
@@ -202,8 +226,7 @@ RuleBook ReadBook(std::string_view text) {
 }
 
 std::vector<std::string> PlainLinesOf(const RuleBook& book) {
-  std::vector<std::string> lines = {std::string(kPublisher) + ' ' + book.publisher,
-                                    std::string(kDocument) + ' ' + book.document};
+  std::vector<std::string> lines = HeadOf(book);
   for (const BookRule& rule : book.rules) {
     std::string line;
     for (const std::string& field : FieldsOf(rule)) line += (line.empty() ? "" : " | ") + field;
@@ -226,7 +249,9 @@ std::string WriteBook(const RuleBook& book) {
   for (const auto& fields : lines) {
     for (std::size_t i = 0; i < widths.size(); ++i) widths[i] = std::max(widths[i], WidthOf(fields[i]));
   }
-  std::string text = "publisher " + book.publisher + "\ndocument " + book.document + "\n\n";
+  std::string text;
+  for (const std::string& line : HeadOf(book)) text += line + '\n';
+  text += '\n';
   for (const auto& fields : lines) text += LineOf(fields, widths);
   return text;
 }

@@ -13,11 +13,13 @@
 ///
 ///     publisher European Central Bank
 ///     document Calendar of TARGET closing days
+///     since 2015
 ///     # kind      | name       | expression | comment [| name of the moved day]
 ///     weekday     | Saturday   | weekday Saturday | Weekend
 ///     celebration | New Year's Day | 01-01 | 1 January
 ///
-/// The kinds are "working day", "weekday", "celebration" and "point".
+/// The line "since" may be missing: such a book tells of all years. The kinds are "working day", "weekday",
+/// "celebration" and "point".
 namespace ferrowind::almanac {
 
 /// `TextError` when the text is no book; the failure of an expression is among them, with its place in the
@@ -36,7 +38,7 @@ struct BookReading {
 /// Reads on behind a wrong line, so that all of them can be told at once.
 [[nodiscard]] BookReading ReadWholeBook(std::string_view text);
 
-/// The book as lines of a text without columns: publisher, document and then each rule.
+/// The book as lines of a text without columns: its head and then each rule.
 [[nodiscard]] std::vector<std::string> PlainLinesOf(const RuleBook& book);
 
 /// The text that `ReadBook` reads as this book, with columns aligned. A text of the book cannot be written

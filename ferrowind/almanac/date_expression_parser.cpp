@@ -23,8 +23,6 @@ bool IsWord(std::string_view text, std::string_view word) {
 
 constexpr const char* kBeforeYears = " (a move stands before else, from and to)";
 
-std::string Years() { return "a year " + std::to_string(kFirstYear) + " to " + std::to_string(kLastYear); }
-
 }  // namespace
 
 DateExpression DateExpressionParser::Parse() {
@@ -233,7 +231,7 @@ void DateExpressionParser::ParseYears() {
   if (TakeWord("to")) {
     SkipBlanks();
     const std::size_t start = place_;
-    if (IsLetter(Next())) throw Expected(Years() + kBeforeYears);
+    if (IsLetter(Next())) throw Expected(AYear() + kBeforeYears);
     years.to = ParseYear();
     if (years.from && *years.to < *years.from) {
       throw ExpectedAt(start, "a year from " + std::to_string(*years.from) + " on");
@@ -260,7 +258,7 @@ void DateExpressionParser::ParseYears() {
   if (place_ < text_.size()) throw Expected("a comma or the end");
 }
 
-int DateExpressionParser::ParseYear() { return ParseNumber(4, kFirstYear, kLastYear, Years()); }
+int DateExpressionParser::ParseYear() { return ParseNumber(4, kFirstYear, kLastYear, AYear()); }
 
 int DateExpressionParser::ParseWeekday() {
   if (const auto weekday = TakeWeekday()) return *weekday;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "ferrowind/almanac/date_expression.h"
+#include "ferrowind/almanac/date_words.h"
 #include "ferrowind/almanac/text_error.h"
 #include "ferrowind/almanac/text_lines.h"
 
@@ -15,22 +15,13 @@ constexpr std::string_view kYears = "years";
 bool IsSmallLetter(char c) { return c >= 'a' && c <= 'z'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// The year that is the whole of `text`; 0 when it is none.
-int YearIn(std::string_view text) {
-  if (text.size() != 4 || !std::all_of(text.begin(), text.end(), IsDigit)) return 0;
-  int year = 0;
-  for (const char c : text) year = year * 10 + (c - '0');
-  return year >= kFirstYear && year <= kLastYear ? year : 0;
-}
-
 void ReadYears(const TextLines& lines, DateTable& table) {
   const std::string_view years = WithoutOuterBlanks(lines.Line().substr(kYears.size()));
   const std::string_view first = years.substr(0, years.find_first_of(" \t"));
   const std::string_view last = WithoutOuterBlanks(years.substr(first.size()));
-  table.first_year = YearIn(first);
-  table.last_year = YearIn(last);
-  if (table.first_year == 0)
-    throw TextError(lines.Number(), lines.PlaceOf(first), "a year 1900 to 2199 is expected");
+  table.first_year = YearIn(first).value_or(0);
+  table.last_year = YearIn(last).value_or(0);
+  if (table.first_year == 0) throw TextError(lines.Number(), lines.PlaceOf(first), AYear() + " is expected");
   if (table.last_year < table.first_year) {
     throw TextError(lines.Number(), lines.PlaceOf(last),
                     "a year " + std::to_string(table.first_year) + " to 2199 is expected");

@@ -1,5 +1,6 @@
 #include "ferrowind/almanac/date_words.h"
 
+#include <algorithm>
 #include <array>
 #include <compare>
 #include <cstddef>
@@ -78,6 +79,18 @@ std::string_view RelationWords(Relation relation) {
 std::string UtcOffset(int minutes) {
   const int size = std::abs(minutes);
   return (minutes < 0 ? "-" : "+") + Digits(size / 60, 2) + ':' + Digits(size % 60, 2);
+}
+
+std::string AYear() { return "a year " + std::to_string(kFirstYear) + " to " + std::to_string(kLastYear); }
+
+std::optional<int> YearIn(std::string_view text) {
+  constexpr std::size_t kDigits = 4;
+  const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+  if (text.size() != kDigits || !std::all_of(text.begin(), text.end(), is_digit)) return std::nullopt;
+  int year = 0;
+  for (const char c : text) year = year * 10 + (c - '0');
+  if (year < kFirstYear || year > kLastYear) return std::nullopt;
+  return year;
 }
 
 std::string Digits(int number, std::size_t width) {

@@ -30,6 +30,10 @@ namespace ferrowind::almanac {
 [[nodiscard]] std::string_view RelationWords(Relation relation);
 /// "+09:00".
 [[nodiscard]] std::string UtcOffset(int minutes);
+/// "a year 1900 to 2199": what is expected where `YearIn` finds none.
+[[nodiscard]] std::string AYear();
+/// The year, `kFirstYear` to `kLastYear`, that is the whole of `text`, in four digits.
+[[nodiscard]] std::optional<int> YearIn(std::string_view text);
 /// `number` with leading zeros.
 [[nodiscard]] std::string Digits(int number, std::size_t width);
 

@@ -38,6 +38,8 @@ enum class FindingSubject : std::uint8_t {
   kUnusualNumber,
   /// A currency whose calendars are compared with nothing.
   kNoBook,
+  /// Calendars of years that the book does not tell of.
+  kBeforeBook,
   kFaultyBook,
 };
 

@@ -14,11 +14,19 @@ Planner::Planner(RuleBook book, const DateTables& tables)
 
 const RuleBook& Planner::Book() const { return *prepared_->Book(); }
 
+bool Planner::Reaches(int year) const {
+  return year >= kFirstYear && year <= kLastYear && Book().HoldsIn(year);
+}
+
 YearPlan Planner::Plan(int year) const {
   if (year < kFirstYear || year > kLastYear) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
                             "Years can be planned from " + std::to_string(kFirstYear) + " to " +
                                 std::to_string(kLastYear) + ", not " + std::to_string(year));
+  }
+  if (!Book().HoldsIn(year)) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            Book().WhyNotIn(year, Book().publisher));
   }
   return PlanBuilder(*prepared_, year).Build();
 }

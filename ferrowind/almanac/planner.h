@@ -39,7 +39,9 @@ class Planner {
 
   [[nodiscard]] const RuleBook& Book() const;
 
-  /// `kFirstYear` to `kLastYear`; a `platform::Failure` for another year. Threads may plan at once.
+  /// Whether `year` is one from `kFirstYear` to `kLastYear` for which the book holds.
+  [[nodiscard]] bool Reaches(int year) const;
+  /// A year that the planner does not reach is a `platform::Failure` that says why. Threads may plan at once.
   [[nodiscard]] YearPlan Plan(int year) const;
 
  private:

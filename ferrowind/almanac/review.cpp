@@ -69,6 +69,17 @@ class CurrencyReview {
       Add(FindingLevel::kNote, FindingSubject::kNoBook, {}, {},
           currency_.code + " has no book, so nothing tells what its calendars should be.");
     }
+    if (currency_.book) ReviewYearsBeforeBook(*currency_.book);
+  }
+
+  void ReviewYearsBeforeBook(const RuleBook& book) {
+    const auto before = std::count_if(currency_.calendars.begin(), currency_.calendars.end(),
+                                      [&](const auto& calendar) { return !book.HoldsIn(calendar.year); });
+    if (before == 0) return;
+    Add(FindingLevel::kNote, FindingSubject::kBeforeBook, {}, {},
+        "The book of " + currency_.code + " holds from " + std::to_string(*book.since) + " on, and " +
+            (before == 1 ? "a calendar of an earlier year is" : "calendars of earlier years are") +
+            " compared with no plan.");
   }
 
   void ReviewYears(const ReviewHorizon& horizon) {
@@ -92,7 +103,7 @@ class CurrencyReview {
       Add(FindingLevel::kError, FindingSubject::kNoWeekends, calendar.year, {},
           Calendar(calendar.year) + " has no weekends: no weekday holiday closes any of its days.");
     }
-    const bool is_planned = planner_ && calendar.year >= kFirstYear && calendar.year <= kLastYear;
+    const bool is_planned = planner_ && planner_->Reaches(calendar.year);
     bool is_odd = !is_planned;
     if (is_planned) {
       const YearPlan plan = planner_->Plan(calendar.year);

@@ -38,9 +38,9 @@ struct ReviewedCurrency {
 
 /// What is wrong or odd about the calendars of a currency, in no particular order.
 ///
-/// A calendar is judged by the plan of its year. Only days that no plan judges, for lack of a book or of the
-/// dates of a rule, are judged by the other years of the currency: whether a holiday stands on another
-/// weekday than ever before, or a celebration on another date than its rule says.
+/// A calendar is judged by the plan of its year. Only days that no plan judges, for lack of a book that
+/// holds in the year or of the dates of a rule, are judged by the other years of the currency: whether a
+/// holiday stands on another weekday than ever before, or a celebration on another date than its rule says.
 [[nodiscard]] std::vector<Finding> ReviewCurrency(const ReviewedCurrency& currency,
                                                   const RuleDirectory& rules, const DateTables& tables,
                                                   const ReviewHorizon& horizon);

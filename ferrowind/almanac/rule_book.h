@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,9 +39,16 @@ struct BookRule {
 struct RuleBook {
   std::string publisher;
   std::string document;
+  /// The first year that it tells of; nothing when it tells of all years.
+  std::optional<int> since;
   /// The order counts: of two holidays on one day the first has it (planner.h).
   std::vector<BookRule> rules;
 
+  [[nodiscard]] bool HoldsIn(int year) const { return !since || year >= *since; }
+  /// Why nothing can be planned for `year` by the book of `owner`, without a full stop: "The book of EUR
+  /// holds from 2015 on, so it does not tell what 2012 should be". Precondition: it does not hold in that
+  /// year.
+  [[nodiscard]] std::string WhyNotIn(int year, const std::string& owner) const;
   bool operator==(const RuleBook&) const = default;
 };
 

@@ -62,6 +62,7 @@ std::vector<StoredBook> Load(const std::string& doing, const Value& currency,
     RuleBook book;
     book.publisher = platform::ToTextOrEmpty(heads["Publisher"]);
     book.document = platform::ToTextOrEmpty(heads["Document"]);
+    if (!heads["FromYear"].IsEmpty()) book.since = platform::ToInt32(heads["FromYear"]);
     ReadRules(rules, book, stored);
     if (!stored.faults.empty()) continue;
     stored.faults = almanac::FaultsOf(book, tables);
@@ -103,6 +104,7 @@ void StoreBook(std::int32_t id, const std::string& code, const std::string& expe
   parameters.Add("Publisher", book.publisher);
   parameters.Add("Document", book.document);
   parameters.Add("Rules", RulesJson(book));
+  if (book.since) parameters.Add("FromYear", static_cast<std::int32_t>(*book.since));
   (void)CallDatabase("Writing the book of " + code, "CldIUBook", parameters);
 }
 

@@ -38,6 +38,12 @@ std::vector<const Currency*> YearPlanner::WithBooks() const {
   return found;
 }
 
+std::optional<int> YearPlanner::FirstYearOf(const Currency& currency) const {
+  const auto found = books_.find(currency.id);
+  if (found == books_.end() || found->second.planner == nullptr) return std::nullopt;
+  return found->second.planner->Book().since;
+}
+
 std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, int year) const {
   const auto found = books_.find(currency.id);
   if (found == books_.end()) {
@@ -52,6 +58,10 @@ std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, 
     throw platform::Failure(
         platform::failure_number::kInvalidArgument,
         "The book of " + currency.code + " cannot be used: " + Joined(found->second.faults));
+  }
+  const almanac::RuleBook& book = found->second.planner->Book();
+  if (!book.HoldsIn(year)) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument, book.WhyNotIn(year, currency.code));
   }
   return std::make_unique<YearPreparation>(currency, year, *found->second.planner, rules_);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
@@ -27,9 +28,13 @@ class YearPlanner {
   [[nodiscard]] std::vector<const Currency*> WithBooks() const;
   [[nodiscard]] bool HasBook(const Currency& currency) const { return books_.contains(currency.id); }
 
+  /// The first year that the book of the currency tells of; nothing when it has none that can be used, or one
+  /// that tells of all years.
+  [[nodiscard]] std::optional<int> FirstYearOf(const Currency& currency) const;
+
   /// The calendar as it is now beside its plan; must not outlive this. A currency without a book, or with one
-  /// that has faults, is a failure that says so, and so are a year after its last day and one that cannot be
-  /// planned.
+  /// that has faults, is a failure that says so, and so are a year after its last day, one before its book
+  /// holds and one that cannot be planned.
   [[nodiscard]] std::unique_ptr<YearPreparation> Prepare(const Currency& currency, int year) const;
 
  private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -61,6 +62,12 @@ void Show(const YearPreparation& preparation, ExceptionHandling exceptions, std:
   out << '\n';
 }
 
+/// "2028", or "2028..2030".
+std::string TextOf(const YearRange& years) {
+  const std::string first = std::to_string(years.first);
+  return years.first == years.last ? first : first + ".." + std::to_string(years.last);
+}
+
 /// Works on the calling thread's database.
 class Application {
  public:
@@ -77,6 +84,10 @@ class Application {
     const Preparations changing = Prepare(ReadYears(command_.years));
     if (is_blocked_) {
       errors_ << "ferrowindctl: nothing was changed\n";
+      return ExitStatus::kNotDone;
+    }
+    if (looked_at_ == 0) {
+      errors_ << "ferrowindctl: nothing was changed, as nothing is planned for these years\n";
       return ExitStatus::kNotDone;
     }
     if (changing.empty()) {
@@ -106,24 +117,38 @@ class Application {
     return all;
   }
 
-  /// The last of `years` in which the currency is money; tells which of them are left out.
-  [[nodiscard]] int LastLiveYear(const Currency& currency, const YearRange& years) {
-    int last = years.last;
-    while (last >= years.first && !currency.IsLiveIn(last)) --last;
-    if (last == years.last) return last;
-    const int first_left_out = std::max(years.first, last + 1);
-    errors_ << currency.code << ' ' << first_left_out;
-    if (first_left_out != years.last) errors_ << ".." << years.last;
-    errors_ << " is left out: " << planning::EndOfMoney(currency) << ".\n";
-    return last;
+  /// Those of `years` in which the currency is money and its book holds; tells which are left out.
+  [[nodiscard]] YearRange PlannedYears(const Currency& currency, const YearRange& years) {
+    YearRange planned = years;
+    while (planned.last >= planned.first && !currency.IsLiveIn(planned.last)) --planned.last;
+    if (planned.last < years.last) {
+      const YearRange after{std::max(years.first, planned.last + 1), years.last};
+      errors_ << currency.code << ' ' << TextOf(after) << " is left out: " << planning::EndOfMoney(currency)
+              << ".\n";
+    }
+    if (const auto first = planner_.FirstYearOf(currency)) {
+      planned.first = std::clamp(*first, planned.first, planned.last + 1);
+      if (planned.first > years.first) {
+        before_books_[{TextOf({years.first, planned.first - 1}), *first}].push_back(currency.code);
+      }
+    }
+    return planned;
+  }
+
+  void TellYearsBeforeBooks() {
+    for (const auto& [years, codes] : before_books_) {
+      for (const std::string& code : codes) errors_ << code << ' ';
+      errors_ << years.first << " is left out: the " << (codes.size() == 1 ? "book holds" : "books hold")
+              << " from " << years.second << " on.\n";
+    }
   }
 
   /// Those that would change, all of which are shown.
   Preparations Prepare(const YearRange& years) {
     Preparations changing;
     for (const Currency* const currency : Chosen()) {
-      const int last = TakesAll() ? LastLiveYear(*currency, years) : years.last;
-      for (int year = years.first; year <= last; ++year) {
+      const YearRange planned = TakesAll() ? PlannedYears(*currency, years) : years;
+      for (int year = planned.first; year <= planned.last; ++year) {
         auto preparation = planner_.Prepare(*currency, year);
         ++looked_at_;
         kept_ += KeptExceptions(preparation->Compared(), exceptions_);
@@ -133,6 +158,7 @@ class Application {
         if (preparation->Changes(exceptions_)) changing.push_back(std::move(preparation));
       }
     }
+    TellYearsBeforeBooks();
     return changing;
   }
 
@@ -211,6 +237,8 @@ class Application {
   std::size_t looked_at_ = 0;
   /// Working days by exception that stay where the plan has closed them.
   std::size_t kept_ = 0;
+  /// The currencies whose books do not tell of all years: by these years, and the first of which they tell.
+  std::map<std::pair<std::string, int>, std::vector<std::string>> before_books_;
   bool is_blocked_ = false;
 };
 

@@ -24,7 +24,8 @@ members of the role ferrowind_operator.
 It holds the currencies, the holiday types and the built-in rule, the rule books
 of 26 currencies, and their calendars of this year and the next as the books
 plan them, weekends and bank holidays. --year makes those of another year and
-the one after it. --empty leaves out books, rules and calendars.)";
+the one after it; the books tell of 2015 and later years. --empty leaves out
+books, rules and calendars.)";
 
 constexpr const char* kCheckManual =
     R"(Nothing is changed. The schema must be of this program's version, the catalogue
@@ -70,7 +71,10 @@ as they are. It happens in one transaction: an upgrade that fails or is stopped
 leaves the database as it was. A database of this version is left alone, and a
 newer one is refused. Back up the database first all the same, and upgrade when
 no operator is at work. On a server the user must be one who could create the
-database.)";
+database.
+
+Since version 4 a rule book says since when it holds. Those that are as delivered
+get their year, as changes that the history tells; which are not is printed.)";
 
 void AddInit(CommandSet& commands) {
   const auto init = std::make_shared<InitCommand>();
@@ -84,7 +88,7 @@ void AddInit(CommandSet& commands) {
   command
       .add_option("--year", init->content.first_year, "The first year of the calendars; this year without it")
       ->option_text("YEAR")
-      ->check(CLI::Range(kFirstDeliverableYear, kLastDeliverableYear))
+      ->check(CLI::Range(almanac::kFirstYear, kLastDeliverableYear))
       ->excludes(empty);
 }
 

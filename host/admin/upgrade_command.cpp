@@ -7,7 +7,25 @@
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 
+#include "host/admin/counted.h"
+#include "host/delivery/first_years.h"
+#include "host/session/procedure_session.h"
+
 namespace ferrowind::host {
+namespace {
+
+void TellFirstYears(const FirstYears& years, std::ostream& out) {
+  if (years.given != 0) {
+    out << Counted(years.given, "rule book says", "rule books say") << " since when "
+        << (years.given == 1 ? "it holds" : "they hold") << " now, as delivered.\n";
+  }
+  if (years.others.empty()) return;
+  out << "Rule books that are not as delivered tell of all years as before:";
+  for (const std::string& code : years.others) out << ' ' << code;
+  out << ". A line \"since YEAR\" in them says otherwise.\n";
+}
+
+}  // namespace
 
 ExitStatus UpgradeCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   // Says that there is no such engine, where an adapter can only say that it is not its own.
@@ -20,6 +38,12 @@ ExitStatus UpgradeCommand::Run(const platform::EngineRegistry& engines, std::ost
   } else {
     out << "The database was upgraded from the schema version " << outcome.from << " to " << outcome.to
         << ".\n";
+  }
+  if (outcome.from < kVersionOfFirstYears) {
+    out.flush();
+    FirstYears years;
+    RunWithDatabase(engines, url, [&] { years = GiveFirstYears(); });
+    TellFirstYears(years, out);
   }
   return ExitStatus::kDone;
 }

@@ -6,6 +6,9 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/platform/values/failure.h"
 
+#include "host/delivery/first_years.h"
+#include "host/session/procedure_session.h"
+
 namespace ferrowind::host {
 namespace {
 
@@ -23,8 +26,11 @@ std::optional<std::string> ReadableFile(const std::string& url) {
 
 }  // namespace
 
-void UpgradeOwnDatabase(const std::string& url) {
-  if (const auto path = ReadableFile(url)) (void)sqlite::UpgradeDatabase(*path);
+void UpgradeOwnDatabase(const platform::EngineRegistry& engines, const std::string& url) {
+  const auto path = ReadableFile(url);
+  if (!path) return;
+  if (sqlite::UpgradeDatabase(*path).from >= kVersionOfFirstYears) return;
+  RunWithDatabase(engines, url, [] { (void)GiveFirstYears(); });
 }
 
 void RequireThisVersion(const std::string& url) {

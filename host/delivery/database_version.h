@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "ferrowind/platform/database/engine_registry.h"
+
 namespace ferrowind::host {
 
 /// What a program with windows does about a database that another version of it has made, before it shows
@@ -10,9 +12,10 @@ namespace ferrowind::host {
 /// windows, which tell what is wrong with it.
 
 /// Brings the database of `url`, which belongs to this program alone and has no administrator, to this
-/// program's version: an upgrade happens whole or not at all. A newer one, and one that cannot be upgraded,
-/// are a `platform::Failure` and stay as they are.
-void UpgradeOwnDatabase(const std::string& url);
+/// program's version: an upgrade happens whole or not at all. The delivered books in it learn since when they
+/// hold (first_years.h). A newer database, and one that cannot be upgraded, are a `platform::Failure` and
+/// stay as they are. `engines` must be safe to use on another thread.
+void UpgradeOwnDatabase(const platform::EngineRegistry& engines, const std::string& url);
 
 /// A `platform::Failure` that tells how to upgrade the database of `url` when it is older, and that it takes
 /// a newer program when it is newer. Other programs may be at work with it, so it is not upgraded unasked. An

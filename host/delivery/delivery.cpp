@@ -8,6 +8,7 @@
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/year_preparation.h"
+#include "ferrowind/platform/values/failure.h"
 
 #include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
@@ -16,6 +17,15 @@ namespace ferrowind::host {
 namespace {
 
 constexpr int kYears = 2;
+
+void RequireBooksOf(int year, const std::vector<almanac::NamedBook>& books) {
+  for (const almanac::NamedBook& named : books) {
+    if (named.book.HoldsIn(year)) continue;
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            "The delivered rule books hold from " + std::to_string(*named.book.since) +
+                                " on, so there are no calendars of " + std::to_string(year) + " to deliver");
+  }
+}
 
 /// Makes the calendar of the year. What the plan lacks is added to `unknown`.
 void MakeCalendar(const planning::Currency& currency, int year, const almanac::Planner& planner,
@@ -32,8 +42,9 @@ void MakeCalendar(const planning::Currency& currency, int year, const almanac::P
 }  // namespace
 
 Delivery Deliver(int first_year, const DeliveryObserver& observe) {
-  const auto currencies = planning::CurrencyList::Load();
   std::vector<almanac::NamedBook> books = DeliveredBooks();
+  RequireBooksOf(first_year, books);
+  const auto currencies = planning::CurrencyList::Load();
   for (const almanac::NamedBook& named : books) {
     planning::StoreBook(currencies.Named(named.name).id, named.name, "", named.book);
   }

@@ -12,8 +12,8 @@ namespace ferrowind::host {
 /// Is called with the number of calendars that are finished, and of all; what it throws ends the work.
 using DeliveryObserver = std::function<void(std::size_t done, std::size_t total)>;
 
-/// The years that the calendars of a new database can begin with.
-inline constexpr int kFirstDeliverableYear = almanac::kFirstYear;
+/// The last year that the calendars of a new database can begin with; the first is that of the delivered
+/// books.
 inline constexpr int kLastDeliverableYear = almanac::kLastYear - 1;
 
 /// What a new database was delivered with.
@@ -27,9 +27,9 @@ struct Delivery {
 };
 
 /// Stores the delivered rule books in the calling thread's database, which must know their currencies and
-/// have no book, and makes the calendars of `first_year` and the next year as they plan them. A year out of
-/// the range above, and whatever else fails, is a `platform::Failure` that names the book or calendar; what
-/// was made before it stays.
+/// have no book, and makes the calendars of `first_year` and the next year as they plan them. A year that
+/// not all books tell of is a `platform::Failure` before anything is made; whatever else fails is one that
+/// names the book or calendar, and what was made before it stays.
 [[nodiscard]] Delivery Deliver(int first_year, const DeliveryObserver& observe = {});
 
 }  // namespace ferrowind::host

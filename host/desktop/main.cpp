@@ -69,7 +69,7 @@ int main(int argc, char** argv) {
   if (database.empty()) {
     TellWhenFailing(
         [&] { database = ferrowind::host::UserDatabase(surroundings.Engines(), surroundings.Get().clock); });
-    TellWhenFailing([&] { ferrowind::host::UpgradeOwnDatabase(database); });
+    TellWhenFailing([&] { ferrowind::host::UpgradeOwnDatabase(surroundings.Engines(), database); });
   } else {
     TellWhenFailing([&] {
       (void)surroundings.Engines().EngineFor(database);

@@ -14,7 +14,7 @@ $$;
 CREATE OR REPLACE FUNCTION BookFingerprint(of_currency integer) RETURNS text
 LANGUAGE sql STABLE
 AS $$
-  SELECT encode(sha256(convert_to(concat_ws(';', quote_literal(b.Publisher), quote_literal(b.Document),
+  SELECT encode(sha256(convert_to(concat_ws(';', quote_literal(b.Publisher), quote_literal(b.Document), b.FromYear,
     (SELECT string_agg(concat_ws(',', r.TID1, quote_literal(r.Name1), quote_literal(r.Expression), quote_nullable(r.Comment),
        quote_nullable(r.MovedName)), ';' ORDER BY r.Position)
      FROM CldRecurrence r WHERE r.ID1 = b.ID1)), 'UTF8')), 'hex')

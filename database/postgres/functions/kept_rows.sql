@@ -34,7 +34,7 @@ BEGIN
   FOR of IN VALUES
     ('DicCcy', 'ID1', 'CcyID', 'CurrencyContent(Ccy, CcyType, Name, LastDay)', 'true', '{INSERT,UPDATE,DELETE}'::text[]),
     ('CldHoliday', 'ID2', 'ID2', 'RuleContent(Name1, Comment, TID1, D1, MY, MD, WD, Del)', 'true', '{INSERT,UPDATE,DELETE}'),
-    ('CldBook', 'ID1', 'ID1', 'BookContent(Publisher, Document)', 'true', '{INSERT,UPDATE,DELETE}'),
+    ('CldBook', 'ID1', 'ID1', 'BookContent(Publisher, Document, FromYear)', 'true', '{INSERT,UPDATE,DELETE}'),
     ('CldRecurrence', 'ID1, Position', 'ID1, Position', 'RecurrenceContent(Name1, TID1, Expression, Comment, MovedName)',
       'true', '{INSERT,UPDATE,DELETE}'),
     ('CldCalendar', 'ID1, Year1', 'ID1, Year1', 'json_build_object()', 'true', '{INSERT,DELETE}'),

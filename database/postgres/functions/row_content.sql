@@ -21,10 +21,10 @@ AS $$
   SELECT json_build_object('TID1', rule_type, 'ID2', rule, 'Comment', comment)
 $$;
 
-CREATE OR REPLACE FUNCTION BookContent(publisher text, document text) RETURNS json
+CREATE OR REPLACE FUNCTION BookContent(publisher text, document text, from_year integer) RETURNS json
 LANGUAGE sql STABLE
 AS $$
-  SELECT json_build_object('Publisher', publisher, 'Document', document)
+  SELECT json_build_object('Publisher', publisher, 'Document', document, 'FromYear', from_year)
 $$;
 
 CREATE OR REPLACE FUNCTION RecurrenceContent(name text, rule_type integer, expression text, comment text, moved_name text)
@@ -48,7 +48,7 @@ AS $$
     WHEN 'CldHoliday' THEN
       (SELECT RuleContent(Name1, Comment, TID1, D1, MY, MD, WD, Del) FROM CldHoliday WHERE ID2 = kept.ID2)
     WHEN 'CldBook' THEN
-      (SELECT BookContent(Publisher, Document) FROM CldBook WHERE ID1 = kept.ID1)
+      (SELECT BookContent(Publisher, Document, FromYear) FROM CldBook WHERE ID1 = kept.ID1)
     WHEN 'CldRecurrence' THEN
       (SELECT RecurrenceContent(Name1, TID1, Expression, Comment, MovedName) FROM CldRecurrence
        WHERE ID1 = kept.ID1 AND Position = kept.Position)

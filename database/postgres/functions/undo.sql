@@ -31,8 +31,9 @@ CREATE OR REPLACE FUNCTION CanBeUndone(entry bigint) RETURNS boolean
 LANGUAGE sql STABLE
 AS $$
   SELECT NOT EXISTS (
-    -- What the entry left is what the next change replaced.
-    SELECT FROM NextChanges(entry) AS next WHERE next.OldRow::jsonb IS DISTINCT FROM ContentNow(next)::jsonb
+    -- What the entry left is what the next change replaced. A column that is not in an old row did not exist then, and is null.
+    SELECT FROM NextChanges(entry) AS next
+    WHERE jsonb_strip_nulls(next.OldRow::jsonb) IS DISTINCT FROM jsonb_strip_nulls(ContentNow(next)::jsonb)
   ) AND NOT EXISTS (
     -- A calendar that came or went since.
     SELECT FROM CldHistoryRow later
@@ -101,11 +102,12 @@ BEGIN
   GET DIAGNOSTICS row_count = ROW_COUNT;
   changed := changed + row_count;
 
-  INSERT INTO CldBook (ID1, Publisher, Document)
+  INSERT INTO CldBook (ID1, Publisher, Document, FromYear)
   SELECT kept.ID1, old.*
-  FROM CldHistoryRow kept, json_to_record(kept.OldRow) AS old ("Publisher" text, "Document" text)
+  FROM CldHistoryRow kept, json_to_record(kept.OldRow) AS old ("Publisher" text, "Document" text, "FromYear" integer)
   WHERE kept.EntryID = entry AND kept.TableName = 'CldBook' AND kept.OldRow IS NOT NULL
-  ON CONFLICT (ID1) DO UPDATE SET Publisher = excluded.Publisher, Document = excluded.Document;
+  ON CONFLICT (ID1) DO UPDATE SET
+    Publisher = excluded.Publisher, Document = excluded.Document, FromYear = excluded.FromYear;
   GET DIAGNOSTICS row_count = ROW_COUNT;
   changed := changed + row_count;
 

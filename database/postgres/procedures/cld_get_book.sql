@@ -1,4 +1,5 @@
--- The rule book of the currency ID1, or all books: their heads, with the fingerprint that CldIUBook expects, and their rules.
+-- The rule book of the currency ID1, or all books: their heads, with the fingerprint that CldIUBook expects and
+-- the first year that the book tells of (null: it tells of all), and their rules.
 -- Returns 0; 3 unknown currency.
 CREATE PROCEDURE CldGetBook(
   "ID1" integer DEFAULT NULL,
@@ -22,7 +23,8 @@ BEGIN
   SELECT array_agg(ID1), array_agg(BookFingerprint(ID1)) INTO currencies, fingerprints
   FROM CldBook WHERE ID1 = coalesce("ID1", ID1);
   OPEN "Books" FOR
-    SELECT b.ID1 AS "ID1", b.Publisher AS "Publisher", b.Document AS "Document", f.Fingerprint AS "Fingerprint"
+    SELECT b.ID1 AS "ID1", b.Publisher AS "Publisher", b.Document AS "Document", f.Fingerprint AS "Fingerprint",
+      b.FromYear AS "FromYear"
     FROM CldBook b JOIN unnest(currencies, fingerprints) AS f (ID1, Fingerprint) ON f.ID1 = b.ID1 ORDER BY b.ID1;
   OPEN "Rules" FOR
     SELECT ID1 AS "ID1", Position AS "Position", Name1 AS "Name1", TID1 AS "TID1", Expression AS "Expression",

@@ -1,6 +1,7 @@
 -- Replaces the rule book of the currency ID1, rules and all; without Publisher, Document and Rules removes it. Rules is a
 -- JSON list of {"Name1": "Good Friday", "TID1": 4, "Expression": "easter-2"} with "Comment" and "MovedName" where there are
 -- any; the callers know what an expression is. Expected is the book's fingerprint (CldGetBook), empty without a book.
+-- FromYear is the first year that the book tells of; without it the book tells of all years.
 -- Returns 0; 7 a value is missing, or Rules is no such list or has more than 10,000 rules; 3 unknown currency; 8 the book is
 -- another than expected.
 -- Whoever changes a book locks its currency first.
@@ -10,6 +11,7 @@ CREATE PROCEDURE CldIUBook(
   "Publisher" text DEFAULT NULL,
   "Document" text DEFAULT NULL,
   "Rules" text DEFAULT NULL,
+  "FromYear" integer DEFAULT NULL,
   INOUT "RETURN_VALUE" integer DEFAULT NULL
 )
 LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp
@@ -22,7 +24,9 @@ DECLARE
   rows_changed bigint := 0;
 BEGIN
   "RETURN_VALUE" := 7;
-  IF "ID1" IS NULL OR "Expected" IS NULL OR num_nonnulls("Publisher", "Document", "Rules") IN (1, 2) THEN
+  IF "ID1" IS NULL OR "Expected" IS NULL OR num_nonnulls("Publisher", "Document", "Rules") IN (1, 2)
+    OR "FromYear" IS NOT NULL AND (is_removal OR "FromYear" NOT BETWEEN 1900 AND 3000)
+  THEN
     RETURN;
   END IF;
   IF NOT is_removal THEN
@@ -44,16 +48,17 @@ BEGIN
 
   entry := BeginEntry('CldIUBook', "ID1", NULL,
     json_build_object('ID1', "ID1", 'Expected', "Expected", 'Publisher', "Publisher", 'Document', "Document",
-      'Rules', "Rules"));
+      'Rules', "Rules", 'FromYear', "FromYear"));
   DELETE FROM CldRecurrence WHERE ID1 = "ID1" AND Position > cardinality(rules);
   GET DIAGNOSTICS row_count = ROW_COUNT;
   rows_changed := rows_changed + row_count;
   IF is_removal THEN
     DELETE FROM CldBook WHERE ID1 = "ID1";
   ELSE
-    INSERT INTO CldBook AS b (ID1, Publisher, Document) VALUES ("ID1", "Publisher", "Document")
-    ON CONFLICT (ID1) DO UPDATE SET Publisher = excluded.Publisher, Document = excluded.Document
-    WHERE (b.Publisher, b.Document) IS DISTINCT FROM (excluded.Publisher, excluded.Document);
+    INSERT INTO CldBook AS b (ID1, Publisher, Document, FromYear) VALUES ("ID1", "Publisher", "Document", "FromYear")
+    ON CONFLICT (ID1) DO UPDATE SET
+      Publisher = excluded.Publisher, Document = excluded.Document, FromYear = excluded.FromYear
+    WHERE b IS DISTINCT FROM excluded;
   END IF;
   GET DIAGNOSTICS row_count = ROW_COUNT;
   rows_changed := rows_changed + row_count;

@@ -4,10 +4,11 @@
 -- parameter @Publisher text
 -- parameter @Document text
 -- parameter @Rules text
+-- parameter @FromYear int32
 -- Replaces the rule book of the currency ID1 as a whole; without Publisher, Document and Rules removes it. Expected is
 -- the fingerprint of the book that the caller saw, '' when it saw none. Rules is a JSON list of
 -- {"Name1", "TID1", "Expression", "Comment", "MovedName"}, the last two may be missing; whether the expressions make
--- sense is the caller's concern.
+-- sense is the caller's concern. FromYear is the first year that the book tells of; without it the book tells of all years.
 -- Returns 0; 7 a value is missing or of another shape, or there are more than 10,000 rules; 3 unknown currency; 8 the
 -- book is another than expected.
 
@@ -18,7 +19,8 @@ WHERE :ID1 IS NULL OR :Expected IS NULL
   OR NOT :Removes AND (:Publisher IS NULL OR :Document IS NULL OR :Rules IS NULL
     OR instr(:Rules, char(0)) > 0 OR NOT json_valid(:Rules)
     -- SQLite cuts a text at this escape. What is left of doubled backslashes begins one.
-    OR instr(replace(:Rules, '\\', ''), '\u0000') > 0);
+    OR instr(replace(:Rules, '\\', ''), '\u0000') > 0)
+  OR :FromYear IS NOT NULL AND (:Removes OR :FromYear NOT BETWEEN 1900 AND 3000);
 
 SELECT 7 AS "@return" WHERE json_type(:Rules) <> 'array' OR json_array_length(:Rules) > 10000;
 
@@ -53,8 +55,9 @@ DELETE FROM CldBook WHERE ID1 = :ID1 AND :Removes;
 
 SELECT 0 AS "@return" WHERE :Removes;
 
-INSERT INTO CldBook (ID1, Publisher, Document) VALUES (:ID1, :Publisher, :Document)
-ON CONFLICT (ID1) DO UPDATE SET Publisher = excluded.Publisher, Document = excluded.Document;
+INSERT INTO CldBook (ID1, Publisher, Document, FromYear) VALUES (:ID1, :Publisher, :Document, :FromYear)
+ON CONFLICT (ID1) DO UPDATE
+SET Publisher = excluded.Publisher, Document = excluded.Document, FromYear = excluded.FromYear;
 
 INSERT INTO CldRecurrence (ID1, Position, Name1, TID1, Expression, Comment, MovedName)
 SELECT :ID1, key + 1, json_extract(value, '$.Name1'), json_extract(value, '$.TID1'), json_extract(value, '$.Expression'),

@@ -40,7 +40,7 @@ WITH AsLeft AS (
     WHEN 'CldHoliday' THEN (
       SELECT json_array(Name1, Comment, TID1, D1, MY, MD, WD, Del) FROM CldHoliday h WHERE h.ID2 = l.ID2)
     WHEN 'DicCcy' THEN (SELECT json_array(Ccy, CcyType, Name, LastDay) FROM DicCcy c WHERE c.CcyID = l.ID1)
-    WHEN 'CldBook' THEN (SELECT json_array(Publisher, Document) FROM CldBook b WHERE b.ID1 = l.ID1)
+    WHEN 'CldBook' THEN (SELECT json_array(Publisher, Document, FromYear) FROM CldBook b WHERE b.ID1 = l.ID1)
     WHEN 'CldRecurrence' THEN (
       SELECT json_array(Name1, TID1, Expression, Comment, MovedName)
       FROM CldRecurrence e WHERE e.ID1 = l.ID1 AND e.Position = l.Position)
@@ -50,7 +50,7 @@ WITH AsLeft AS (
     WHEN 'CldHoliday' THEN
       json_extract(l.OldRow, '$.Name1', '$.Comment', '$.TID1', '$.D1', '$.MY', '$.MD', '$.WD', '$.Del')
     WHEN 'DicCcy' THEN json_extract(l.OldRow, '$.Ccy', '$.CcyType', '$.Name', '$.LastDay')
-    WHEN 'CldBook' THEN json_extract(l.OldRow, '$.Publisher', '$.Document')
+    WHEN 'CldBook' THEN json_extract(l.OldRow, '$.Publisher', '$.Document', '$.FromYear')
     WHEN 'CldRecurrence' THEN json_extract(l.OldRow, '$.Name1', '$.TID1', '$.Expression', '$.Comment', '$.MovedName')
   END AS RowAsLeft
   FROM AsLeft l
@@ -130,11 +130,12 @@ DELETE FROM CldHoliday
 WHERE ID2 IN (SELECT ID2 FROM CldHistoryRow WHERE EntryID = :EntryID AND TableName = 'CldHoliday' AND OldRow IS NULL)
   AND ID2 NOT IN (SELECT ID2 FROM CldDay WHERE ID2 IS NOT NULL);
 
-INSERT INTO CldBook (ID1, Publisher, Document)
-SELECT ID1, json_extract(OldRow, '$.Publisher'), json_extract(OldRow, '$.Document')
+INSERT INTO CldBook (ID1, Publisher, Document, FromYear)
+SELECT ID1, json_extract(OldRow, '$.Publisher'), json_extract(OldRow, '$.Document'), json_extract(OldRow, '$.FromYear')
 FROM CldHistoryRow
 WHERE EntryID = :EntryID AND TableName = 'CldBook' AND OldRow IS NOT NULL
-ON CONFLICT (ID1) DO UPDATE SET Publisher = excluded.Publisher, Document = excluded.Document;
+ON CONFLICT (ID1) DO UPDATE
+SET Publisher = excluded.Publisher, Document = excluded.Document, FromYear = excluded.FromYear;
 
 INSERT INTO CldRecurrence (ID1, Position, Name1, TID1, Expression, Comment, MovedName)
 SELECT ID1, Position, json_extract(OldRow, '$.Name1'), json_extract(OldRow, '$.TID1'), json_extract(OldRow, '$.Expression'),

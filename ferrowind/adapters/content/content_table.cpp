@@ -22,7 +22,7 @@ const std::vector<Table>& Tables() {
       {"CldSetting", "settings", {"FirstDay"}, 1},
       {"CldCalendar", "calendars", {"ID1", "Year1"}, 2},
       {"CldDay", "days", {"ID1", "Year1", "Day1", "ODate", "TID1", "ID2", "Comment"}, 3},
-      {"CldBook", "rule books", {"ID1", "Publisher", "Document"}, 1},
+      {"CldBook", "rule books", {"ID1", "Publisher", "Document", "FromYear"}, 1},
       {"CldRecurrence",
        "recurring rules",
        {"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"},

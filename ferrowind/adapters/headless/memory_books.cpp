@@ -27,6 +27,7 @@ std::string FingerprintOf(const MemoryBook& book) {
   platform::Fingerprint fingerprint;
   fingerprint.Add(book.publisher);
   fingerprint.Add(book.document);
+  Add(fingerprint, book.from_year);
   for (const MemoryRecurrence& rule : book.rules) {
     fingerprint.Add(rule.name);
     fingerprint.Add(std::to_string(rule.type));
@@ -44,7 +45,7 @@ CallOutcome GetBook(MemoryTables& tables, const std::vector<Value>& inputs) {
   Rows rules;
   for (const auto& [currency, book] : tables.books) {
     if (!wanted.IsEmpty() && wanted != Value(currency)) continue;
-    books.push_back({currency, book.publisher, book.document, FingerprintOf(book)});
+    books.push_back({currency, book.publisher, book.document, FingerprintOf(book), book.from_year});
     std::int32_t position = 0;
     for (const MemoryRecurrence& rule : book.rules) {
       rules.push_back(
@@ -52,7 +53,7 @@ CallOutcome GetBook(MemoryTables& tables, const std::vector<Value>& inputs) {
     }
   }
   return {kDone,
-          {Records({"ID1", "Publisher", "Document", "Fingerprint"}, std::move(books)),
+          {Records({"ID1", "Publisher", "Document", "Fingerprint", "FromYear"}, std::move(books)),
            Records({"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"},
                    std::move(rules))}};
 }
@@ -91,6 +92,8 @@ CallOutcome InsertOrUpdateBook(MemoryTables& tables, const std::vector<Value>& i
   const auto missing =
       std::count_if(texts.begin(), texts.end(), [](const Value& text) { return text.IsEmpty(); });
   if (currency.IsEmpty() || expected.IsEmpty() || missing == 1 || missing == 2) return {kWrongValue, {}};
+  const Value& from_year = inputs[5];
+  if (!from_year.IsEmpty() && (missing != 0 || !IsYear(from_year))) return {kWrongValue, {}};
   std::optional<std::vector<MemoryRecurrence>> rules;
   if (missing == 0) {
     rules = ReadRules(platform::ToText(inputs[4]));
@@ -103,7 +106,8 @@ CallOutcome InsertOrUpdateBook(MemoryTables& tables, const std::vector<Value>& i
   if (platform::ToText(expected) != fingerprint) return {kAnotherContent, {}};
   tables.books.erase(id);
   if (rules) {
-    tables.books[id] = {platform::ToText(inputs[2]), platform::ToText(inputs[3]), std::move(*rules)};
+    tables.books[id] = {platform::ToText(inputs[2]), platform::ToText(inputs[3]), from_year,
+                        std::move(*rules)};
   }
   return {kDone, {}};
 }
@@ -118,7 +122,8 @@ void AddBookProcedures(MemoryDatabase& database) {
                          {"@Expected", kText},
                          {"@Publisher", kText},
                          {"@Document", kText},
-                         {"@Rules", kText}},
+                         {"@Rules", kText},
+                         {"@FromYear", ParameterType::kInt32}},
                         InsertOrUpdateBook, MemoryProcedure::Kind::kRecorded);
 }
 

@@ -64,6 +64,8 @@ struct MemoryRecurrence {
 struct MemoryBook {
   std::string publisher;
   std::string document;
+  /// Null when the book holds for all years.
+  platform::Value from_year;
   std::vector<MemoryRecurrence> rules;
 
   friend bool operator==(const MemoryBook&, const MemoryBook&) = default;

@@ -19,7 +19,8 @@ platform::Value Answer(ServerConnection& connection, const char* question) {
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
   static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kPostgresUpgradeToHistory},
-                                                              {3, embedded::kPostgresUpgradeToPlans}};
+                                                              {3, embedded::kPostgresUpgradeToPlans},
+                                                              {4, embedded::kPostgresUpgradeToFirstYears}};
   return scripts;
 }
 

@@ -17,20 +17,28 @@ namespace {
 
 using platform::Value;
 
+void RequireVersion(const DatabaseHandle& database, std::int64_t found) {
+  content::RequireSchemaVersion("The database " + database.Path(), found, DeliveredUpgrades().back().version);
+}
+
 Statement PrepareEntry(const DatabaseHandle& database) {
   try {
     return Statement(database,
                      "INSERT INTO CldHistory (UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue,"
                      " RowsChanged, Moment) VALUES (?1, ?2, ?3, ?4, ?5, 0, ?6, ?7)");
   } catch (const platform::Failure&) {
-    // A database of another version has none, or another one.
-    content::RequireSchemaVersion("The database " + database.Path(), SchemaVersionOf(database),
-                                  DeliveredUpgrades().back().version);
+    // A database of a newer version may have another one.
+    RequireVersion(database, SchemaVersionOf(database));
     throw;
   }
 }
 
 }  // namespace
+
+void RequireNoOlderVersion(const DatabaseHandle& database) {
+  const std::int64_t version = SchemaVersionOf(database);
+  if (version < DeliveredUpgrades().back().version) RequireVersion(database, version);
+}
 
 std::int64_t AddToHistory(const DatabaseHandle& database, const HistoryEntry& call) {
   const Value moment(platform::MomentNow());

@@ -35,7 +35,8 @@ void FillWithDeliveredSchema(DatabaseHandle& database) {
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
   static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kSqliteUpgradeToHistory},
-                                                              {3, embedded::kSqliteUpgradeToRuleBooks}};
+                                                              {3, embedded::kSqliteUpgradeToRuleBooks},
+                                                              {4, embedded::kSqliteUpgradeToFirstYears}};
   return scripts;
 }
 

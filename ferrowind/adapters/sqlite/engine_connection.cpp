@@ -44,6 +44,7 @@ platform::CallOutcome EngineConnection::Read(const std::vector<Value>& inputs) {
 }
 
 platform::CallOutcome EngineConnection::Change(const std::vector<Value>& inputs) {
+  RequireNoOlderVersion(database_);
   const auto changes_before = sqlite3_total_changes64(database_.Get());
   RowRecorder recorder(database_);
   ProcedureInterpreter interpreter(database_, *procedure_, inputs);

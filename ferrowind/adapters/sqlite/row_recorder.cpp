@@ -38,7 +38,7 @@ const std::vector<RecordedTable>& Tables() {
        {kID2},
        {{1, "Name1"}, {2, "Comment"}, {3, "TID1"}, {4, "D1"}, {5, "MY"}, {6, "MD"}, {7, "WD"}, {8, "Del"}}},
       {"DicCcy", {kID1}, {{1, "Ccy"}, {2, "CcyType"}, {3, "Name"}, {4, "LastDay"}}},
-      {"CldBook", {kID1}, {{1, "Publisher"}, {2, "Document"}}},
+      {"CldBook", {kID1}, {{1, "Publisher"}, {2, "Document"}, {3, "FromYear"}}},
       {"CldRecurrence",
        {kID1, kPosition},
        {{2, "Name1"}, {3, "TID1"}, {4, "Expression"}, {5, "Comment"}, {6, "MovedName"}}},

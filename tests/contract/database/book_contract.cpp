@@ -123,6 +123,27 @@ TEST_P(ProceduresContract, ABooksFingerprintFollowsEachOfItsTexts) {
                       {"Name1": "A", "TID1": 3, "Expression": "01-01"}])");
 }
 
+TEST_P(ProceduresContract, ABookSaysSinceWhenItHolds) {
+  ASSERT_EQ(StoreBook(kEuro, kRules), 0);
+  const Book of_all_years(caller(), kEuro);
+  EXPECT_EQ(of_all_years.Heads().at(0).at(4), Value());
+  for (const std::int32_t year : {1900, 2015, 3000}) {
+    ASSERT_EQ(StoreBook(kEuro, kRules, year), 0);
+    const Book book(caller(), kEuro);
+    EXPECT_EQ(book.Heads().at(0).at(4), Value(year));
+    EXPECT_EQ(book.Rules(), of_all_years.Rules());
+    EXPECT_NE(book.Fingerprint(), of_all_years.Fingerprint());
+  }
+  const auto before = Content();
+  for (const std::int32_t year : {1899, 3001, 0, -1}) EXPECT_EQ(StoreBook(kEuro, kRules, year), 7) << year;
+  const Value fingerprint = Book(caller(), kEuro).Fingerprint();
+  EXPECT_EQ(caller().Return("CldIUBook", {{"ID1", kEuro}, {"Expected", fingerprint}, {"FromYear", 2015}}), 7)
+      << "a removal with a year";
+  EXPECT_EQ(Content(), before);
+  ASSERT_EQ(caller().Return("CldIUBook", BookOf(kEuro, fingerprint, kRules)), 0);
+  EXPECT_EQ(Book(caller(), kEuro).Heads().at(0).at(4), Value()) << "what is left out is gone";
+}
+
 TEST_P(ProceduresContract, ABookThatAnotherHasChangedIsNotReplaced) {
   ASSERT_EQ(StoreBook(kEuro, kRules), 0);
   const auto before = Content();

@@ -18,14 +18,15 @@ int ProceduresContract::Apply(std::int32_t currency, std::int32_t year, const st
       {{"ID1", currency}, {"Year1", year}, {"Expected", Fingerprint(currency, year)}, {"Days", days}});
 }
 
-int ProceduresContract::StoreBook(std::int32_t currency, const std::string& rules) {
+int ProceduresContract::StoreBook(std::int32_t currency, const std::string& rules, const Value& from_year) {
   const auto books = caller().Call("CldGetBook", {{"ID1", currency}}).record_sets.at(0);
   const Value expected = books->RowCount() == 0 ? Value("") : (*books)["Fingerprint"];
   return caller().Return("CldIUBook", {{"ID1", currency},
                                        {"Expected", expected},
                                        {"Publisher", "Publisher"},
                                        {"Document", "Document"},
-                                       {"Rules", rules}});
+                                       {"Rules", rules},
+                                       {"FromYear", from_year}});
 }
 
 std::int32_t ProceduresContract::LastEntry() {

@@ -52,8 +52,8 @@ class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<Calendar
   std::string Fingerprint(std::int32_t currency, std::int32_t year);
   /// Applies the plan `days` to the calendar as it is now.
   int Apply(std::int32_t currency, std::int32_t year, const std::string& days);
-  /// Replaces the book of `currency` as it is now by one of the rules `rules`.
-  int StoreBook(std::int32_t currency, const std::string& rules);
+  /// Replaces the book of `currency` as it is now by one of the rules `rules` that holds from `from_year` on.
+  int StoreBook(std::int32_t currency, const std::string& rules, const platform::Value& from_year = {});
   int Undo(std::int32_t entry) { return caller().Return("CldUndo", {{"EntryID", entry}}); }
   /// The number of the newest entry of the history; 0 when there is none.
   std::int32_t LastEntry();

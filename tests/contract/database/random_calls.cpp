@@ -113,7 +113,8 @@ void RandomCalls::StoreBook() {
   if (!rules.empty()) {
     arguments.insert(arguments.end(), {{"Publisher", "publisher " + std::to_string(UpTo(2))},
                                        {"Document", "document"},
-                                       {"Rules", rules + "]"}});
+                                       {"Rules", rules + "]"},
+                                       {"FromYear", UpTo(1) == 0 ? Value() : Value(2015 + UpTo(1))}});
   }
   Call("CldIUBook", arguments);
 }

@@ -144,9 +144,9 @@ TEST_P(ProceduresContract, UndoPutsBackABook) {
     {"Name1": "A", "TID1": 3, "Expression": "01-01", "Comment": "c", "MovedName": "m"},
     {"Name1": "B", "TID1": 4, "Expression": "easter"}, {"Name1": "C", "TID1": 4, "Expression": "easter+1"}])";
   const auto empty = Content();
-  ASSERT_EQ(StoreBook(kEuro, kFirst), 0);
+  ASSERT_EQ(StoreBook(kEuro, kFirst, 2015), 0);
   const auto first = Content();
-  ASSERT_EQ(StoreBook(kEuro, R"([{"Name1": "B", "TID1": 4, "Expression": "easter"}])"), 0);
+  ASSERT_EQ(StoreBook(kEuro, R"([{"Name1": "B", "TID1": 4, "Expression": "easter"}])", 2016), 0);
   const auto second = Content();
   const auto fingerprint = (*caller().Call("CldGetBook", {{"ID1", kEuro}}).record_sets.at(0))["Fingerprint"];
   ASSERT_EQ(caller().Return("CldIUBook", {{"ID1", kEuro}, {"Expected", fingerprint}}), 0);

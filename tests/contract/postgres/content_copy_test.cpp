@@ -74,8 +74,11 @@ std::vector<std::vector<Row>> EverythingToldOf(CopyEnd& database) {
     told.push_back(RowsOf(*days.record_sets.at(0)));
   }
   told.push_back(RowsOf(*caller.Call("CldGetCurrencies").record_sets.at(0)));
-  // Without the fingerprints, which each engine makes in its own way.
-  told.push_back(RowsOf(*caller.Call("CldGetBook").record_sets.at(1)));
+  const auto books = caller.Call("CldGetBook");
+  told.push_back(RowsOf(*books.record_sets.at(0)));
+  // Each engine makes fingerprints in its own way.
+  for (Row& book : told.back()) book.erase(book.begin() + 3);
+  told.push_back(RowsOf(*books.record_sets.at(1)));
   return told;
 }
 
@@ -160,7 +163,8 @@ void FillWithTrickyContent(CopyEnd& database) {
                                         {"Document", "line\nbreak \\N tab\t"},
                                         {"Rules", R"([{"Name1": "Größe", "TID1": 3, "Expression": "01-01"},
                                            {"Name1": "\\N", "TID1": 4, "Expression": "\\.", "Comment": "",
-                                            "MovedName": "a\tb\n祝日"}])"}}),
+                                            "MovedName": "a\tb\n祝日"}])"},
+                                        {"FromYear", 2015}}),
             0);
   ASSERT_EQ(caller.Return("CldApplyPlan", PlanOfTheDollar()), 0);
   ASSERT_EQ(caller.Return("CldUndo", {{"EntryID", kEntries - 1}}), 0);

@@ -206,7 +206,7 @@ TEST(PostgresCheck, EveryChangeOfTheSchemaIsFound) {
        "column cldhistory.username is not this program's"},
       {"GRANT INSERT ON ferrowind.CldHistory TO ferrowind_operator",
        "table cldhistory is not this program's"},
-      {"UPDATE ferrowind.SchemaVersion SET Version = 4", "schema version 4"},
+      {"UPDATE ferrowind.SchemaVersion SET Version = 5", "schema version 5"},
   };
   for (const auto& [change, problem] : changes) {
     PostgresDatabase database;

@@ -155,6 +155,7 @@ class CallMaker {
     }
     arguments.insert(arguments.end(),
                      {{"Publisher", "P"}, {"Document", Name()}, {"Rules", "[" + rules + "]"}});
+    if (Sometimes(2)) arguments.emplace_back("FromYear", Sometimes(10) ? 1899 : 2014 + Pick(3));
     return arguments;
   }
   Arguments CurrencyValues() {
@@ -215,7 +216,7 @@ std::vector<std::vector<Row>> ComparableRows(const std::string& procedure,
   for (const auto& record_set : outcome.record_sets) {
     rows.push_back(RowsOf(*record_set));
     for (Row& row : rows.back()) {
-      if (procedure == "CldGetBook" && row.size() == 4) row.pop_back();
+      if (procedure == "CldGetBook" && row.size() == 5) row.erase(row.begin() + 3);
       if (procedure == "CldGetHistory") row = {row.at(0), row.at(3), row.at(4), row.at(5)};
     }
   }

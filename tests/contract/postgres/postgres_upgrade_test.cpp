@@ -1,9 +1,9 @@
 // Bringing a calendar database of an older version on a server to this one.
 
-#include <fstream>
-#include <sstream>
+#include <cstdint>
 #include <string>
 #include <thread>
+#include <utility>
 
 #include <gmock/gmock.h>
 
@@ -11,14 +11,15 @@
 #include "ferrowind/adapters/postgres/history_query.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 
+#include "tests/contract/database/old_version.h"
 #include "tests/contract/database/procedure_caller.h"
-#include "tests/contract/database/version_1/version_1.h"
 #include "tests/contract/postgres/postgres_database.h"
 #include "tests/contract/postgres/postgres_server.h"
 
 namespace ferrowind::contract {
 namespace {
 
+using platform::Value;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -27,19 +28,12 @@ using ::testing::SizeIs;
 
 const Arguments kWeekdayRule = {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}};
 
-std::string VersionTwoScript() {
-  const std::ifstream file(FERROWIND_VERSION_2 "/postgres.sql");
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
 /// A database as an older version made it, with a calendar and a rule.
 class OldDatabase : public DatabaseUnderTest {
  public:
   explicit OldDatabase(int version = 1) : name_(postgres_server::CreateEmptyDatabase()) {
-    Execute("BEGIN;" + (version == 1 ? VersionOneScript("postgres") : VersionTwoScript()) + "COMMIT");
-    Execute("SET search_path = ferrowind;" + std::string(kVersionOneContent));
+    Execute("BEGIN;" + OldVersionScript(version, "postgres") + "COMMIT");
+    Execute("SET search_path = ferrowind;" + std::string(kOldContent));
     Execute(
         "INSERT INTO ferrowind.CldDay SELECT 978, 2026, n, date '2026-01-01' + (n - 1), 1"
         " FROM generate_series(1, 365) AS n");
@@ -86,7 +80,9 @@ SELECT concat(
   (SELECT string_agg(format('%s %s %s', CcyID, Ccy, Name), ',' ORDER BY CcyID) FROM ferrowind.DicCcy
    WHERE CcyID NOT IN (396, 530, 532, 924))))sql";
 
-void ExpectUpgradeTo3(int version) {
+constexpr std::int64_t kThisVersion = 4;
+
+void ExpectUpgradeFrom(int version) {
   const OldDatabase old(version);
   const PostgresDatabase fresh;
   const std::string data = old.Ask(kData);
@@ -94,15 +90,47 @@ void ExpectUpgradeTo3(int version) {
   ASSERT_NE(old.Ask(kSchema), postgres_server::Ask(fresh.Name(), kSchema));
   const auto outcome = postgres::UpgradeDatabase(old.Uri());
   EXPECT_EQ(outcome.from, version);
-  EXPECT_EQ(outcome.to, 3);
+  EXPECT_EQ(outcome.to, kThisVersion);
   EXPECT_EQ(old.Ask(kSchema), postgres_server::Ask(fresh.Name(), kSchema));
   EXPECT_EQ(old.Ask(kData), data);
   EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
 }
 
-TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion1IsLikeANewOneAndKeepsItsData) { ExpectUpgradeTo3(1); }
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion1IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(1); }
 
-TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion2IsLikeANewOneAndKeepsItsData) { ExpectUpgradeTo3(2); }
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion2IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(2); }
+
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion3IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(3); }
+
+TEST(PostgresUpgrade, BooksFromBeforeTellOfAllYearsAndChangesOfThemCanBeUndone) {
+  OldDatabase old(3);
+  ProcedureCaller caller(old);
+  const auto store = [&](const char* publisher, const Value& from_year) {
+    const auto books = caller.Call("CldGetBook", {{"ID1", 978}}).record_sets.at(0);
+    const Value expected = books->RowCount() == 0 ? Value("") : (*books)["Fingerprint"];
+    Arguments book = {{"ID1", 978},
+                      {"Expected", expected},
+                      {"Publisher", publisher},
+                      {"Document", "D"},
+                      {"Rules", R"([{"Name1": "A", "TID1": 3, "Expression": "01-01"}])"}};
+    if (!from_year.IsEmpty()) book.emplace_back("FromYear", from_year);
+    return caller.Return("CldIUBook", book);
+  };
+  const auto book = [&] {
+    return old.Ask("SELECT concat_ws(' ', Publisher, FromYear) FROM ferrowind.CldBook");
+  };
+  ASSERT_EQ(store("First", {}), 0);
+  ASSERT_EQ(store("Second", {}), 0);
+  postgres::UpgradeDatabase(old.Uri());
+  EXPECT_EQ(book(), "Second");
+  ASSERT_EQ(store("Third", 2015), 0);
+  EXPECT_EQ(book(), "Third 2015");
+  for (const auto& [entry, left] : {std::pair(3, "Second"), {2, "First"}, {1, ""}}) {
+    EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", entry}}), 0) << entry;
+    EXPECT_EQ(book(), left);
+  }
+  EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
+}
 
 TEST(PostgresUpgrade, CurrenciesThatAreNoLegalMoneyAnyMoreGetTheirLastDayAndStayMoneyWithCalendars) {
   OldDatabase old(2);
@@ -153,7 +181,7 @@ TEST(PostgresUpgrade, OperatorsWorkBeforeAndAfterIt) {
   OldDatabase old;
   ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
   EXPECT_THAT(FailureTextOf([&] { (void)postgres::ReadHistory(old.Uri(), {}); }),
-              AllOf(HasSubstr("has the schema version 1; this program's is 3"), HasSubstr("upgrade")));
+              AllOf(HasSubstr("has the schema version 1; this program's is 4"), HasSubstr("upgrade")));
   postgres::UpgradeDatabase(old.Uri());
   EXPECT_THAT(RowsOf(*postgres::ReadHistory(old.Uri(), {})), IsEmpty());
   ASSERT_EQ(ProcedureCaller(old).Return("CldIUMain", kWeekdayRule), 0);
@@ -170,16 +198,16 @@ TEST(PostgresUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
       "'ferrowind'::regnamespace";
   const std::string before = postgres_server::Ask(fresh.Name(), oids);
   const auto outcome = postgres::UpgradeDatabase(uri);
-  EXPECT_EQ(outcome.from, 3);
-  EXPECT_EQ(outcome.to, 3);
+  EXPECT_EQ(outcome.from, kThisVersion);
+  EXPECT_EQ(outcome.to, kThisVersion);
   EXPECT_EQ(postgres_server::Ask(fresh.Name(), oids), before);
 }
 
 TEST(PostgresUpgrade, ADatabaseOfANewerVersionIsRefused) {
   PostgresDatabase fresh;
-  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 4");
+  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 5");
   EXPECT_THAT(FailureTextOf([&] { postgres::UpgradeDatabase(postgres_server::SuperuserUri(fresh.Name())); }),
-              AllOf(HasSubstr("has the schema version 4; this program's is 3"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 5; this program's is 4"), HasSubstr("newer")));
 }
 
 TEST(PostgresUpgrade, AScriptThatFailsAtTheEndLeavesTheDatabaseAsItWas) {
@@ -216,7 +244,7 @@ TEST(PostgresUpgrade, OfTwoUpgradesAtTheSameTimeOneDoesTheWork) {
     outcomes[1] = postgres::UpgradeDatabase(old.Uri());
     first.join();
   }
-  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + 3);
+  EXPECT_EQ(outcomes[0].from + outcomes[1].from, 1 + kThisVersion);
   EXPECT_THAT(postgres::CheckDatabase(old.Uri()), IsEmpty());
 }
 

@@ -23,11 +23,11 @@ class WithSmallBooks(ferrowindctl.InAFolder):
         self.store_book(EURO, [*WEEKEND, GOOD_FRIDAY, CHRISTMAS])
         self.store_book(DOLLAR, [*WEEKEND, INDEPENDENCE])
 
-    def store_book(self, currency, rules):
+    def store_book(self, currency, rules, since=None):
         [books, _] = self.call("CldGetBook", f"ID1={currency}")
         expected = books[0]["Fingerprint"] if books else ""
         self.call("CldIUBook", f"ID1={currency}", f"Expected={expected}", "Publisher=Small Bank", "Document=Closing days",
-                  "Rules=" + json.dumps(rules))
+                  "Rules=" + json.dumps(rules), *([f"FromYear={since}"] if since else []))
 
     def ctl(self, status, *arguments, **options):
         """Standard output and standard error of a run that ends with that status."""

@@ -80,6 +80,19 @@ class Apply(small_book.WithSmallBooks):
         _, errors = self.ctl(DONE, "apply", self.url(), "ALL", "2028..2030", "--yes")
         self.assertEqual(errors, "USD 2028..2030 is left out: USD is money until 2027-06-30.\n")
 
+    def test_passes_over_years_before_the_books_hold(self):
+        self.store_book(EURO, [*small_book.WEEKEND, small_book.CHRISTMAS], since=2028)
+        _, errors = self.ctl(DONE, "apply", self.url(), "ALL", "2026..2028", "--yes")
+        self.assertEqual(errors, "EUR 2026..2027 is left out: the book holds from 2028 on.\n")
+        self.assertEqual(self.calendars(), [(DOLLAR, 2026), (DOLLAR, 2027), (DOLLAR, 2028), (EURO, 2028)])
+        self.store_book(DOLLAR, [*small_book.WEEKEND, small_book.INDEPENDENCE], since=2028)
+        before = self.entries()
+        output, errors = self.ctl(NOT_DONE, "apply", self.url(), "ALL", 2027, "--yes")
+        self.assertEqual(output, "")
+        self.assertEqual(errors, "EUR USD 2027 is left out: the books hold from 2028 on.\n"
+                                 "ferrowindctl: nothing was changed, as nothing is planned for these years\n")
+        self.assertEqual(self.entries(), before)
+
     def test_refuses_a_year_after_the_last_day_of_a_money_before_it_plans(self):
         self.call("CldIUCurrency", f"CcyID={DOLLAR}", "Ccy=USD", "CcyType=0", "Name=US Dollar", "LastDay=2027-06-30")
         self.assertEqual(self.ctl(NOT_DONE, "apply", self.url(), "USD", 2028, "--yes"),

@@ -105,6 +105,14 @@ class Init(ferrowindctl.InAFolder):
         self.assertEqual([row["FirstDay"] for row in setting], [1])
         self.assertEqual(self.open_from_outside().execute("SELECT count(*) FROM DicCcy").fetchone(), (184,))
 
+    def test_refuses_years_of_which_the_books_do_not_tell_in_one_line(self):
+        for year in (1900, 2014):
+            output, errors = self.assert_run(NOT_DONE, "init", self.url(), "--year", year)
+            self.assertEqual(output, "")
+            self.assertEqual(errors, "ferrowindctl: The delivered rule books hold from 2015 on, so there are no calendars of "
+                                     f"{year} to deliver\n")
+            self.assertEqual(list(self.folder.iterdir()), [])
+
     def test_leaves_a_file_of_that_name_as_it_is(self):
         self.path().write_bytes(b"mine")
         _, errors = self.assert_run(NOT_DONE, "init", self.url())

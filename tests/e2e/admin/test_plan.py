@@ -122,6 +122,17 @@ class Plan(small_book.WithSmallBooks):
                 self.assertIn(reason, errors)
         self.assertIn("EUR 2028", self.ctl(NOT_DONE, "plan", self.url(), "eur", 2028)[1])
 
+    def test_refuses_years_before_the_book_holds(self):
+        self.store_book(EURO, [*small_book.WEEKEND, small_book.CHRISTMAS], since=2015)
+        sentence = "ferrowindctl: The book of EUR holds from 2015 on, so it does not tell what 2014 should be\n"
+        for command in (("plan", "EUR", 2014), ("plan", "EUR", 2014, "--all", "--format", "json"),
+                        ("apply", "EUR", "2014..2016", "--yes"), ("why", "EUR", "2014-12-25")):
+            with self.subTest(command):
+                self.assertEqual(self.ctl(NOT_DONE, command[0], self.url(), *command[1:]), ("", sentence))
+        self.assertEqual(self.call("CldAllInfo")[0], [])
+        self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2015)
+        self.ctl(DONE, "why", self.url(), "EUR", "2015-01-01")
+
     def test_refuses_a_book_with_faults(self):
         self.store_book(EURO, [{"Name1": "Feast", "TID1": 4, "Expression": "12-32"}])
         output, errors = self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2028)

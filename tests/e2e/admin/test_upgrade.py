@@ -1,5 +1,6 @@
 """ferrowindctl upgrade: older databases of both engines become like new ones, or stay as they were."""
 
+import json
 import unittest
 
 import ferrowindctl
@@ -7,7 +8,14 @@ import server
 import version_1
 from ferrowindctl import CALL_FAILED, DONE, NOT_DONE
 
+VERSION_3 = version_1.SCRIPTS.parent / "version_3"
 SCHEMA = "SELECT type, name, sql FROM sqlite_schema ORDER BY type, name"
+
+
+def quoted(rows):
+    """The rows as JSON in an SQL text, with the names of columns as a server spells them."""
+    lowered = [{name.lower(): value for name, value in row.items()} for row in rows]
+    return "'" + json.dumps(lowered).replace("'", "''") + "'"
 
 
 class UpgradeOfAFile(ferrowindctl.InAFolder):
@@ -21,11 +29,31 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", url)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", url)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 3.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 4.\n")
         self.assert_run(DONE, "check", url)
         self.assert_run(DONE, "init", self.url("new.db"), "--empty")
         self.assertEqual(self.schema("a.db"), self.schema("new.db"))
         self.assertEqual(len(self.call("CldGetMain", "ID1=978", "Year1=2026")[0]), 365)
+
+    def test_lets_delivered_books_say_since_when_they_hold_and_leaves_others(self):
+        self.assert_run(DONE, "init", self.url("new.db"), "--year", 2026)
+        old = self.open_from_outside()
+        old.executescript((VERSION_3 / "sqlite.sql").read_text())
+        old.execute("ATTACH ? AS New", [str(self.path("new.db"))])
+        old.executescript("INSERT INTO main.CldBook SELECT ID1, Publisher, Document FROM New.CldBook; "
+                          "INSERT INTO main.CldRecurrence SELECT * FROM New.CldRecurrence; "
+                          "UPDATE main.CldRecurrence SET Comment = 'Our own' WHERE ID1 = 978 AND Position = 1")
+        old.close()
+        output, _ = self.assert_run(DONE, "upgrade", self.url())
+        self.assertEqual(output, "The database was upgraded from the schema version 3 to 4.\n"
+                                 "25 rule books say since when they hold now, as delivered.\n"
+                                 "Rule books that are not as delivered tell of all years as before: EUR. A line "
+                                 "\"since YEAR\" in them says otherwise.\n")
+        books = self.call("CldGetBook")[0]
+        self.assertEqual({book["ID1"] for book in books if book["FromYear"] is None}, {978})
+        self.assertEqual({book["FromYear"] for book in books}, {2015, None})
+        self.assertEqual(len(self.call("CldGetHistory")[0]), 25)
+        self.assertIn("There is nothing to do", self.assert_run(DONE, "upgrade", self.url())[0])
 
     def test_is_what_commands_ask_for_that_an_old_database_has_no_procedures_for(self):
         url = version_1.make_file(self)
@@ -33,21 +61,21 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
                         ("review", url), ("undo", url, 1), ("as-of", url, "EUR", 2026, "2026-01-01")):
             with self.subTest(command[0]):
                 _, errors = self.assert_run(NOT_DONE, *command)
-                self.assertIn("a.db has the schema version 1; this program's is 3. "
+                self.assertIn("a.db has the schema version 1; this program's is 4. "
                               "Bring it there with \"ferrowindctl upgrade\" first\n", errors)
 
     def test_says_when_there_is_nothing_to_do(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         before = self.path().read_bytes()
         output, _ = self.assert_run(DONE, "upgrade", self.url())
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 3.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 4.\n")
         self.assertEqual(self.path().read_bytes(), before)
 
     def test_refuses_a_newer_database(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         self.open_from_outside().execute("PRAGMA user_version = 7")
         _, errors = self.assert_run(NOT_DONE, "upgrade", self.url())
-        self.assertIn("a.db has the schema version 7; this program's is 3", errors)
+        self.assertIn("a.db has the schema version 7; this program's is 4", errors)
         self.assertIn("newer version of this program", errors)
 
     def test_that_fails_leaves_the_database_as_it_was(self):
@@ -82,12 +110,26 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", database.uri)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 3.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 4.\n")
         # The check compares every object and right with those of a new database.
         self.assert_run(DONE, "check", database.uri)
         self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "365")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 3.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 4.\n")
+
+    def test_lets_a_delivered_book_say_since_when_it_holds(self):
+        self.assert_run(DONE, "init", self.url(), "--year", 2026)
+        heads, rules = self.call("CldGetBook", "ID1=978")
+        database = server.Database(self)
+        database.ask("BEGIN; " + (VERSION_3 / "postgres.sql").read_text() + "; COMMIT")
+        database.ask("INSERT INTO ferrowind.CldBook SELECT * FROM json_populate_recordset(NULL::ferrowind.CldBook, "
+                     + quoted(heads) + "); INSERT INTO ferrowind.CldRecurrence "
+                     "SELECT * FROM json_populate_recordset(NULL::ferrowind.CldRecurrence, " + quoted(rules) + ")")
+        output, _ = self.assert_run(DONE, "upgrade", database.uri)
+        self.assertEqual(output, "The database was upgraded from the schema version 3 to 4.\n"
+                                 "1 rule book says since when it holds now, as delivered.\n")
+        self.assertEqual(database.ask("SELECT FromYear FROM ferrowind.CldBook"), "2015")
+        self.assert_run(DONE, "check", database.uri)
 
     def test_that_fails_leaves_the_database_as_it_was(self):
         database = version_1.make_on_server(self)
@@ -102,7 +144,7 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         database = version_1.make_on_server(self)
         database.ask("UPDATE ferrowind.SchemaVersion SET Version = 7")
         _, errors = self.assert_run(NOT_DONE, "upgrade", database.uri)
-        self.assertIn("has the schema version 7; this program's is 3", errors)
+        self.assertIn("has the schema version 7; this program's is 4", errors)
 
 
 if __name__ == "__main__":

@@ -54,6 +54,14 @@ TEST(BookFaults, TellOfAMissingHead) {
   EXPECT_THAT(Faults(book), ElementsAre("The book names no publisher", "The book names no document"));
 }
 
+TEST(BookFaults, TellOfAFirstYearThatCannotBePlanned) {
+  RuleBook book = BookWithWeekends("celebration | A | 01-01");
+  book.since = 2200;
+  EXPECT_THAT(Faults(book), ElementsAre("The book holds from 2200 on, which is not a year 1900 to 2199"));
+  book.since = 1900;
+  EXPECT_THAT(Faults(book), IsEmpty());
+}
+
 TEST(BookFaults, TellOfANamelessRule) {
   RuleBook book = BookWithWeekends("celebration | A | 01-01");
   book.rules[2].name = " ";

@@ -65,6 +65,23 @@ TEST(BookText, IsReadWithItsHeadAndRules) {
             (BookRule{"Good Friday", RuleKind::kPoint, DateExpression::Parse("easter-2"), "", ""}));
 }
 
+TEST(BookText, SaysSinceWhenItHolds) {
+  EXPECT_EQ(ReadBook("since\t2015\n" + kHead).since, 2015);
+  EXPECT_EQ(ReadBook(kHead).since, std::nullopt);
+  RuleBook book = SmallBook();
+  book.since = 1999;
+  EXPECT_THAT(WriteBook(book), ::testing::HasSubstr("#days\nsince 1999\n\n# kind"));
+  EXPECT_EQ(ReadBook(WriteBook(book)), book);
+  EXPECT_EQ(PlainLinesOf(book)[2], "since 1999");
+}
+
+TEST(BookText, NamesTheLineAndPlaceOfAWrongFirstYear) {
+  for (const char* year : {"", "1899", "2200", "15", "2015 2016", "2015."}) {
+    ExpectRefused(kHead + "since " + year, 3, *year == '\0' ? 6 : 7, "a year 1900 to 2199 is expected");
+  }
+  ExpectRefused(kHead + "since 2015\nsince 2015", 4, 1, "there is a line \"since\" already");
+}
+
 TEST(BookText, MayHaveNoRules) { EXPECT_THAT(ReadBook(kHead).rules, IsEmpty()); }
 
 TEST(BookText, IsReadAsItWasWritten) { EXPECT_EQ(ReadBook(WriteBook(SmallBook())), SmallBook()); }
@@ -106,7 +123,7 @@ TEST(BookText, NamesTheLineAndPlaceOfAWrongRule) {
   ExpectRefused(kHead + "point | A", 3, 9, "\"| expression | comment\" is missing after the name");
   ExpectRefused(kHead + "point | A | 01-01 | c | m | x", 3, 29, "the end of the line is expected");
   ExpectRefused(kHead + "\npoint A 01-01", 4, 1,
-                "publisher, document or a rule \"kind | name | expression | comment\" is expected");
+                "publisher, document, since or a rule \"kind | name | expression | comment\" is expected");
 }
 
 TEST(BookText, NamesEveryWrongLine) {
@@ -137,7 +154,7 @@ TEST(BookText, NamesWhatItsHeadLacks) {
   ExpectRefused("publisher\n", 1, 10, "a name is expected");
   ExpectRefused(kHead + "document E\n", 3, 1, "there is a line \"document\" already");
   ExpectRefused("publishers P\n", 1, 1,
-                "publisher, document or a rule \"kind | name | expression | comment\" is expected");
+                "publisher, document, since or a rule \"kind | name | expression | comment\" is expected");
 }
 
 TEST(BookText, RefusesWhatIsNoUtf8) {

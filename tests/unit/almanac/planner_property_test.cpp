@@ -39,7 +39,7 @@ std::map<Date, std::string> DaysOf(const YearPlan& plan) {
 
 /// A book whose holidays fall on each other: many of them around the turn of the year and in one spring.
 RuleBook RandomBook(RandomExpressions& random) {
-  RuleBook book{"P", "D", {}};
+  RuleBook book{"P", "D", {}, {}};
   for (const char* text : {"weekday Saturday", "weekday Sunday"}) {
     if (!random.Once(10))
       book.rules.push_back({text, RuleKind::kWeekday, DateExpression::Parse(text), "", ""});

@@ -376,6 +376,16 @@ TEST(Planner, PlansTheFirstAndTheLastYearAndNoOther) {
             platform::failure_number::kInvalidArgument);
 }
 
+TEST(Planner, PlansNoYearBeforeTheFirstOfTheBook) {
+  const Planner planner(BookWithWeekends("since 2015\ncelebration | A | 12-31 to next free day\n"), {});
+  EXPECT_TRUE(planner.Reaches(2015));
+  EXPECT_EQ(planner.Plan(2015).Year(), 2015);
+  EXPECT_FALSE(planner.Reaches(2014));
+  EXPECT_EQ(FailureOf([&] { (void)planner.Plan(2014); }).Description(),
+            "The book of The Bank holds from 2015 on, so it does not tell what 2014 should be");
+  EXPECT_FALSE(planner.Reaches(kLastYear + 1));
+}
+
 TEST(Planner, PlansABookOfTenThousandRules) {
   std::string rules;
   for (int i = 0; i < 10'000; ++i)

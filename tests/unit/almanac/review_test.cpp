@@ -84,6 +84,29 @@ TEST(ReviewOfACurrency, MissesNoYearAfterTheLastDayOfTheMoney) {
               ElementsAre(Is(FindingLevel::kError, FindingSubject::kMissingYear, "2028")));
 }
 
+TEST(ReviewOfACurrency, JudgesNoYearBeforeTheBookByThePlan) {
+  const std::string book = std::string("since 2028\n") + kSmallBook;
+  // Without a holiday of the book, and with one that it does not have.
+  const CalendarContent before = CalendarOf(2026, {Marked("2026-01-02", rule::kFair)});
+  EXPECT_THAT(Review(CurrencyWith({before, CalendarOf(2028, {Marked("2028-12-25", rule::kChristmas)})},
+                                  book.c_str())),
+              ElementsAre(Is(FindingLevel::kNote, FindingSubject::kBeforeBook,
+                             "The book of EUR holds from 2028 on, and a calendar of an earlier year is "
+                             "compared with no plan.")));
+  EXPECT_THAT(
+      Review(CurrencyWith({before, CalendarOf(2027, {}), CalendarOf(2028, {})}, book.c_str())),
+      ElementsAre(Is(FindingLevel::kNote, FindingSubject::kBeforeBook, "calendars of earlier years are"),
+                  Is(FindingLevel::kWarning, FindingSubject::kDiffersFromPlan, "25 December 2028")));
+}
+
+TEST(ReviewOfACurrency, JudgesYearsBeforeTheBookByTheOtherYears) {
+  const std::string book = std::string("since 2029\n") + kSmallBook;
+  EXPECT_THAT(
+      Review(CurrencyWith({CalendarOf(2028, {Marked("2028-12-24", rule::kChristmas)})}, book.c_str())),
+      ::testing::Contains(Is(FindingLevel::kWarning, FindingSubject::kOtherDate,
+                             "is Christmas Day, whose date is 25 December")));
+}
+
 // Days that a plan judges
 // ------------------------------------------------------------------------------------------------
 

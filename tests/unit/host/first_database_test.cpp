@@ -13,6 +13,7 @@
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/delivery/delivered_books.h"
+#include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/database/sqlite_database.h"
 
 namespace ferrowind::host {
@@ -122,10 +123,19 @@ TEST_F(FirstDatabaseTest, TellsItsProgressAndIsNotThereWhenThatEndsTheWork) {
 }
 
 TEST_F(FirstDatabaseTest, IsNotThereWhenItsYearsCannotBePlanned) {
-  for (const int year : {kFirstDeliverableYear - 1, kLastDeliverableYear + 1}) {
+  FirstContent content;
+  content.first_year = kLastDeliverableYear + 1;
+  EXPECT_THROW((void)Create(content), platform::Failure);
+  EXPECT_TRUE(IsFolderEmpty());
+}
+
+TEST_F(FirstDatabaseTest, IsNotThereWhenTheBooksDoNotTellOfItsYears) {
+  for (const int year : {1900, 2014}) {
     FirstContent content;
     content.first_year = year;
-    EXPECT_THROW((void)Create(content), platform::Failure) << year;
+    EXPECT_THAT(contract::FailureTextOf([&] { (void)Create(content); }),
+                HasSubstr("The delivered rule books hold from 2015 on, so there are no calendars of " +
+                          std::to_string(year) + " to deliver"));
     EXPECT_TRUE(IsFolderEmpty());
   }
 }

@@ -23,16 +23,18 @@ void TakeBook(PlanningWorld& component) {
       .Takes("@Expected", ParameterType::kText)
       .Takes("@Publisher", ParameterType::kText)
       .Takes("@Document", ParameterType::kText)
-      .Takes("@Rules", ParameterType::kText);
+      .Takes("@Rules", ParameterType::kText)
+      .Takes("@FromYear", ParameterType::kInt32);
 }
 
 TEST(BookStore, ReadsTheBooksOfAllCurrencies) {
   RunInFreshThread([] {
     PlanningWorld component;
-    component.AnswerBooks({{840, "Federal Reserve", "Holidays", "f1"}, {978, "ECB", "Closing days", "f2"}},
-                          {{840, 1, "Sunday", 2, "weekday Sunday", {}, {}},
-                           {840, 2, "Veterans Day", 3, "11-11 sunday to monday", "11 November", "Day off"},
-                           {978, 1, "Good Friday", 4, "easter-2", "", {}}});
+    component.AnswerBooks(
+        {{840, "Federal Reserve", "Holidays", "f1", {}}, {978, "ECB", "Closing days", "f2", {}}},
+        {{840, 1, "Sunday", 2, "weekday Sunday", {}, {}},
+         {840, 2, "Veterans Day", 3, "11-11 sunday to monday", "11 November", "Day off"},
+         {978, 1, "Good Friday", 4, "easter-2", "", {}}});
     const auto books = LoadBooks({});
     ASSERT_THAT(books, SizeIs(2));
     EXPECT_EQ(books[0].currency, 840);
@@ -50,10 +52,30 @@ TEST(BookStore, ReadsTheBooksOfAllCurrencies) {
   });
 }
 
+TEST(BookStore, ReadsAndWritesTheFirstYearThatABookTellsOf) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    component.AnswerBooks(
+        {{840, "Fed", "Holidays", "f1", {}}, {978, "ECB", "Closing days", "f2", 2015}},
+        {{840, 1, "Sunday", 2, "weekday Sunday", {}, {}}, {978, 1, "Sunday", 2, "weekday Sunday", {}, {}}});
+    const auto books = LoadBooks({});
+    ASSERT_THAT(books, SizeIs(2));
+    EXPECT_EQ(books[0].book->since, std::nullopt);
+    EXPECT_EQ(books[1].book->since, 2015);
+    for (const StoredBook& stored : books) {
+      TakeBook(component);
+      StoreBook(stored.currency, "CCY", stored.fingerprint, *stored.book);
+    }
+    const auto calls = component.world.commands.CallsOf("CldIUBook");
+    EXPECT_FALSE(calls[0].HasParameter("@FromYear"));
+    EXPECT_EQ(calls[1].Parameter("@FromYear"), Value(2015));
+  });
+}
+
 TEST(BookStore, TellsOfRulesThatCannotBeReadAndKeepsTheOtherBooks) {
   RunInFreshThread([] {
     PlanningWorld component;
-    component.AnswerBooks({{840, "Fed", "Holidays", "f1"}, {978, "ECB", "Closing days", "f2"}},
+    component.AnswerBooks({{840, "Fed", "Holidays", "f1", {}}, {978, "ECB", "Closing days", "f2", {}}},
                           {{840, 1, "Fine", 4, "easter-2", {}, {}},
                            {840, 2, "Odd", 4, "12-32", {}, {}},
                            {840, 3, "Odder", 5, "12-31", {}, {}},
@@ -72,7 +94,7 @@ TEST(BookStore, TellsOfRulesThatCannotBeReadAndKeepsTheOtherBooks) {
 TEST(BookStore, TellsOfTheFaultsOfABookThatCanBeRead) {
   RunInFreshThread([] {
     PlanningWorld component;
-    component.AnswerBooks({{978, "ECB", "Closing days", "f2"}},
+    component.AnswerBooks({{978, "ECB", "Closing days", "f2", {}}},
                           {{978, 1, "Sunday", 2, "weekday Sunday", {}, {}},
                            {978, 2, "Fair", 4, "table no-such-table", {}, {}}});
     const auto books = LoadBooks({});
@@ -85,7 +107,7 @@ TEST(BookStore, TellsOfTheFaultsOfABookThatCanBeRead) {
 TEST(BookStore, ReadsTheBookOfOneCurrencyIfThereIsOne) {
   RunInFreshThread([] {
     PlanningWorld component;
-    component.AnswerBooks({{978, "ECB", "Closing days", "f2"}}, {});
+    component.AnswerBooks({{978, "ECB", "Closing days", "f2", {}}}, {});
     component.AnswerBooks({}, {});
     const auto book = LoadBook(978, "EUR", {});
     ASSERT_TRUE(book);

@@ -36,7 +36,7 @@ std::vector<std::string> Texts(const DatabaseReview& review) {
   return texts;
 }
 
-const Rows kEuroBook = {{978, "ECB", "Closing days", "f"}};
+const Rows kEuroBook = {{978, "ECB", "Closing days", "f", {}}};
 
 const Rows kEuroRules = {{978, 1, "Sunday", 2, "weekday Sunday only 2020", {}, {}},
                          {978, 2, "Christmas Day", 3, "12-25", {}, {}}};

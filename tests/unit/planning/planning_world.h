@@ -23,7 +23,7 @@ class PlanningWorld : public testing::ComponentWorld {
   ProcedureScript& AnswerBooks(Rows heads, Rows rules) {
     return world.commands.Answer("CldGetBook")
         .Takes("@ID1", ParameterType::kInt32)
-        .Gives({"ID1", "Publisher", "Document", "Fingerprint"}, std::move(heads))
+        .Gives({"ID1", "Publisher", "Document", "Fingerprint", "FromYear"}, std::move(heads))
         .Gives({"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"}, std::move(rules));
   }
 

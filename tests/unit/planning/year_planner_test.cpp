@@ -21,7 +21,7 @@ class PlannerWorld : public PlanningWorld {
   PlannerWorld() {
     AnswerCurrencies();
     AnswerRules({});
-    AnswerBooks({{840, "Fed", "Holidays", "f1"}, {978, "ECB", "Closing days", "f2"}},
+    AnswerBooks({{840, "Fed", "Holidays", "f1", {}}, {978, "ECB", "Closing days", "f2", {}}},
                 {{840, 1, "Odd", 4, "12-32", {}, {}},
                  {978, 1, "Christmas Day", 3, "12-25", "25 December", {}},
                  // Closed in years that no test looks at, so that the days are few.
@@ -66,12 +66,29 @@ TEST(YearPlanner, SaysWhyACurrencyCannotBePlanned) {
   });
 }
 
+TEST(YearPlanner, PlansNoYearBeforeTheFirstOfTheBook) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    component.AnswerCurrencies();
+    component.AnswerRules({});
+    component.AnswerBooks({{978, "ECB", "Closing days", "f1", 2015}},
+                          {{978, 1, "Sunday", 2, "weekday Sunday", {}, {}}});
+    component.AnswerCalendar("f9", {});
+    const YearPlanner planner({});
+    const Currency& euro = planner.Currencies().Named("EUR");
+    EXPECT_EQ(testing::FailureOf([&] { (void)planner.Prepare(euro, 2014); }).Description(),
+              "The book of EUR holds from 2015 on, so it does not tell what 2014 should be");
+    EXPECT_EQ(planner.Prepare(euro, 2015)->Year(), 2015);
+  });
+}
+
 TEST(YearPlanner, HasNoCalendarAfterTheLastDayOfAMoney) {
   RunInFreshThread([] {
     PlanningWorld component;
     component.AnswerCurrencies();
     component.AnswerRules({});
-    component.AnswerBooks({{191, "HNB", "Holidays", "f1"}}, {{191, 1, "Christmas Day", 3, "12-25", {}, {}}});
+    component.AnswerBooks({{191, "HNB", "Holidays", "f1", {}}},
+                          {{191, 1, "Christmas Day", 3, "12-25", {}, {}}});
     const YearPlanner planner({});
     EXPECT_EQ(testing::FailureOf([&] {
                 (void)planner.Prepare(planner.Currencies().Named("HRK"), 2023);

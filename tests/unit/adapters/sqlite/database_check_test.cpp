@@ -36,8 +36,8 @@ class DatabaseCheckTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 4"),
-              ElementsAre("The database has the schema version 4; this program's is 3"));
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 5"),
+              ElementsAre("The database has the schema version 5; this program's is 4"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {
@@ -101,7 +101,7 @@ TEST_F(DatabaseCheckTest, FindsMissingViewsIndexesAndTriggersOfTheHistory) {
 }
 
 TEST_F(DatabaseCheckTest, FindsARuleBookOfNoCurrencyAndOneWithAGap) {
-  EXPECT_THAT(ProblemsAfter("INSERT INTO CldBook VALUES (959, 'P', 'D');"
+  EXPECT_THAT(ProblemsAfter("INSERT INTO CldBook VALUES (959, 'P', 'D', NULL);"
                             "INSERT INTO CldRecurrence VALUES (959, 2, 'A', 3, '01-01', NULL, NULL)"),
               ElementsAre("The rule book of 959 is of no currency",
                           "The rule book of 959 has 1 rules, of which the last is number 2"));

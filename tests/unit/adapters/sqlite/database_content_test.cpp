@@ -29,7 +29,8 @@ TEST(DatabaseContent, ACopyHasTheBooksAndTheRowsThatCallsReplaced) {
                      {"Expected", ""},
                      {"Publisher", "P"},
                      {"Document", "D"},
-                     {"Rules", R"([{"Name1": "A", "TID1": 3, "Expression": "01-01", "MovedName": "M"}])"}}),
+                     {"Rules", R"([{"Name1": "A", "TID1": 3, "Expression": "01-01", "MovedName": "M"}])"},
+                     {"FromYear", 2015}}),
       0);
   ASSERT_EQ(
       caller.Return("CldApplyPlan", {{"ID1", 978},

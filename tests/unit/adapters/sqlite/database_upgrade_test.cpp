@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string>
 #include <thread>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,9 +16,9 @@
 #include "ferrowind/adapters/sqlite/history_query.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 
+#include "tests/contract/database/old_version.h"
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/database/sqlite_database.h"
-#include "tests/contract/database/version_1/version_1.h"
 
 namespace ferrowind::sqlite {
 namespace {
@@ -41,17 +42,16 @@ std::string ContentOfFile(const std::string& path) {
   return content.str();
 }
 
-constexpr std::int64_t kThisVersion = 3;
+constexpr std::int64_t kThisVersion = 4;
 
 /// A database as an older version made it, with a calendar and a rule.
 class OldDatabase : public contract::DatabaseUnderTest {
  public:
   explicit OldDatabase(int version = 1) {
     std::ofstream(Path()).close();
-    Execute(version == 1 ? contract::VersionOneScript("sqlite")
-                         : ContentOfFile(FERROWIND_VERSION_2 "/sqlite.sql"));
+    Execute(contract::OldVersionScript(version, "sqlite"));
     Execute("PRAGMA journal_mode = WAL");
-    Execute(contract::kVersionOneContent);
+    Execute(contract::kOldContent);
     Execute(
         "WITH RECURSIVE Day (N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Day WHERE N < 365)"
         " INSERT INTO CldDay SELECT 978, 2026, N, date('2026-01-01', (N - 1) || ' days'), 1, NULL, NULL FROM "
@@ -99,7 +99,7 @@ std::string DataOf(const std::string& path) {
 
 TEST(DatabaseUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
   const SqliteDatabase fresh;
-  for (const int version : {1, 2}) {
+  for (const int version : {1, 2, 3}) {
     OldDatabase old(version);
     const std::string data = DataOf(old.Path());
     ASSERT_NE(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
@@ -153,6 +153,38 @@ TEST(DatabaseUpgrade, WhatCallsReplacedIsKnownFromTheUpgradeOn) {
   EXPECT_EQ(as_of(Answer(old.Path(), "SELECT max(Moment) FROM CldHistoryStart").substr(0, 24)), 0);
 }
 
+TEST(DatabaseUpgrade, BooksFromBeforeTellOfAllYearsAndChangesOfThemCanBeUndone) {
+  OldDatabase old(3);
+  // As version 3 kept two calls for the book.
+  old.Execute(
+      "INSERT INTO CldBook VALUES (978, 'Second', 'D');"
+      "INSERT INTO CldRecurrence VALUES (978, 1, 'A', 3, '01-01', NULL, NULL);"
+      "INSERT INTO CldHistory (Moment, UserName, ProcedureName, ID1, Parameters, ReturnValue, RowsChanged)"
+      " VALUES ('2026-01-02T03:04:05.678Z', 'somebody', 'CldIUBook', 978, '{}', 0, 2),"
+      " ('2026-01-02T03:04:06.678Z', 'somebody', 'CldIUBook', 978, '{}', 0, 1);"
+      "INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName, ID1, Position, OldRow) VALUES"
+      " (1, 1, 'CldBook', 978, NULL, NULL), (1, 2, 'CldRecurrence', 978, 1, NULL),"
+      R"( (2, 1, 'CldBook', 978, NULL, '{"Publisher" : "First", "Document" : "D"}'))");
+  UpgradeDatabase(old.Path());
+  const auto book = [&] { return Answer(old.Path(), "SELECT Publisher, FromYear FROM CldBook"); };
+  EXPECT_EQ(book(), "Second||\n");
+  ProcedureCaller caller(old);
+  const auto expected = (*caller.Call("CldGetBook", {{"ID1", 978}}).record_sets.at(0))["Fingerprint"];
+  ASSERT_EQ(caller.Return("CldIUBook", {{"ID1", 978},
+                                        {"Expected", expected},
+                                        {"Publisher", "Third"},
+                                        {"Document", "D"},
+                                        {"Rules", R"([{"Name1": "A", "TID1": 3, "Expression": "01-01"}])"},
+                                        {"FromYear", 2015}}),
+            0);
+  EXPECT_EQ(book(), "Third|2015|\n");
+  for (const auto& [entry, left] : {std::pair(3, "Second||\n"), {2, "First||\n"}, {1, ""}}) {
+    EXPECT_EQ(caller.Return("CldUndo", {{"EntryID", entry}}), 0) << entry;
+    EXPECT_EQ(book(), left);
+  }
+  EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+}
+
 TEST(DatabaseUpgrade, AnUpgradedDatabaseKeepsAHistory) {
   OldDatabase old;
   UpgradeDatabase(old.Path());
@@ -162,14 +194,18 @@ TEST(DatabaseUpgrade, AnUpgradedDatabaseKeepsAHistory) {
 }
 
 TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
-  OldDatabase old;
-  const std::string data = DataOf(old.Path());
-  EXPECT_EQ(ProcedureCaller(old).Call("CldGetMain", {{"ID1", 978}, {"Year1", 2026}}).record_sets.size(), 1U);
-  const auto says_how = AllOf(HasSubstr("old.db has the schema version 1; this program's is 3"),
-                              HasSubstr("ferrowindctl upgrade"));
-  EXPECT_THAT(FailureTextOf([&] { (void)ProcedureCaller(old).Call("CldIUMain", kWeekdayRule); }), says_how);
-  EXPECT_THAT(FailureTextOf([&] { (void)ReadHistory(old.Path(), {}); }), says_how);
-  EXPECT_EQ(DataOf(old.Path()), data);
+  for (const int version : {1, 2, 3}) {
+    OldDatabase old(version);
+    const std::string data = DataOf(old.Path());
+    ProcedureCaller caller(old);
+    EXPECT_EQ(caller.Call("CldGetMain", {{"ID1", 978}, {"Year1", 2026}}).record_sets.size(), 1U);
+    const auto says_how = AllOf(HasSubstr("old.db has the schema version " + std::to_string(version) +
+                                          "; this program's is " + std::to_string(kThisVersion)),
+                                HasSubstr("ferrowindctl upgrade"));
+    EXPECT_THAT(FailureTextOf([&] { (void)caller.Call("CldIUMain", kWeekdayRule); }), says_how);
+    EXPECT_THAT(FailureTextOf([&] { (void)ReadHistory(old.Path(), {}); }), says_how);
+    EXPECT_EQ(DataOf(old.Path()), data);
+  }
 }
 
 TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
@@ -183,10 +219,10 @@ TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
 
 TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
   SqliteDatabase fresh;
-  fresh.Execute("PRAGMA user_version = 4");
+  fresh.Execute("PRAGMA user_version = 5");
   const std::string before = SchemaOf(fresh.Path());
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }),
-              AllOf(HasSubstr("has the schema version 4; this program's is 3"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 5; this program's is 4"), HasSubstr("newer")));
   EXPECT_EQ(SchemaOf(fresh.Path()), before);
   fresh.Execute("PRAGMA user_version = 0");
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }), HasSubstr("schema version 0"));
@@ -194,16 +230,15 @@ TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
 
 TEST(DatabaseUpgrade, AScriptThatFailsAtItsEndLeavesTheDatabaseAsItWas) {
   OldDatabase old;
-  // In the way of the last object that the scripts make.
-  old.Execute("CREATE VIEW BookFingerprint AS SELECT 1");
+  // In the way of what the last script makes.
+  old.Execute("CREATE TABLE OldCldBook (N)");
   const std::string schema = SchemaOf(old.Path());
   const std::string data = DataOf(old.Path());
-  EXPECT_THAT(
-      FailureTextOf([&] { UpgradeDatabase(old.Path()); }),
-      AllOf(HasSubstr("The upgrade failed, and the database is as it was"), HasSubstr("BookFingerprint")));
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(old.Path()); }),
+              AllOf(HasSubstr("The upgrade failed, and the database is as it was"), HasSubstr("OldCldBook")));
   EXPECT_EQ(SchemaOf(old.Path()), schema);
   EXPECT_EQ(DataOf(old.Path()), data);
-  old.Execute("DROP VIEW BookFingerprint");
+  old.Execute("DROP TABLE OldCldBook");
   EXPECT_EQ(UpgradeDatabase(old.Path()).to, kThisVersion);
   EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
 }

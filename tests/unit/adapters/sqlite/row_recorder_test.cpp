@@ -62,7 +62,7 @@ TEST_F(RowRecorderTest, KeepsNoRowThatIsAsItWas) {
 
 TEST_F(RowRecorderTest, KeepsAddedAndRemovedRowsOfEveryTable) {
   EXPECT_THAT(
-      RowsReplacedBy("INSERT INTO CldBook VALUES (978, 'P', 'D');"
+      RowsReplacedBy("INSERT INTO CldBook VALUES (978, 'P', 'D', 2015);"
                      "INSERT INTO CldRecurrence VALUES (978, 1, 'A', 3, '01-01', NULL, NULL);"
                      "DELETE FROM CldHoliday WHERE ID2 = 2;"
                      "UPDATE DicCcy SET LastDay = '2027-12-31' WHERE CcyID = 978"),
@@ -74,7 +74,7 @@ TEST_F(RowRecorderTest, KeepsAddedAndRemovedRowsOfEveryTable) {
   EXPECT_THAT(RowsReplacedBy("DELETE FROM CldRecurrence; DELETE FROM CldBook"),
               ElementsAre(R"(CldRecurrence|978||||1|{"Name1" : "A", "TID1" : 3, "Expression" : "01-01", )"
                           R"("Comment" : null, "MovedName" : null})",
-                          R"(CldBook|978|||||{"Publisher" : "P", "Document" : "D"})"));
+                          R"(CldBook|978|||||{"Publisher" : "P", "Document" : "D", "FromYear" : 2015})"));
 }
 
 TEST_F(RowRecorderTest, KeepsOfACalendarThatGoesTheDaysThatCarriedSomething) {

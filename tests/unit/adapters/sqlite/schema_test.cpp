@@ -113,11 +113,14 @@ TEST_F(SchemaTest, TheRowsOfTheHistoryAreOnlyAddedTo) {
 }
 
 TEST_F(SchemaTest, ARuleBookIsOfACurrencyAndItsRulesAreWhole) {
-  ExpectRefused("INSERT INTO CldBook VALUES (1, 'P', 'D')");
-  ExpectRefused("INSERT INTO CldBook VALUES (978, NULL, 'D')");
-  ExpectRefused("INSERT INTO CldBook VALUES (978, 'P', NULL)");
+  ExpectRefused("INSERT INTO CldBook VALUES (1, 'P', 'D', NULL)");
+  ExpectRefused("INSERT INTO CldBook VALUES (978, NULL, 'D', NULL)");
+  ExpectRefused("INSERT INTO CldBook VALUES (978, 'P', NULL, NULL)");
+  for (const char* year : {"1899", "3001", "2015.5", "'soon'"}) {
+    ExpectRefused(std::string("INSERT INTO CldBook VALUES (978, 'P', 'D', ") + year + ")");
+  }
   ExpectRefused("INSERT INTO CldRecurrence VALUES (978, 1, 'A', 3, '01-01', NULL, NULL)");
-  database_.Execute("INSERT INTO CldBook VALUES (978, 'P', 'D')");
+  database_.Execute("INSERT INTO CldBook VALUES (978, 'P', 'D', 2015)");
   for (const char* row : {"(978, 0, 'A', 3, '01-01', NULL, NULL)", "(978, 1, ' ', 3, '01-01', NULL, NULL)",
                           "(978, 1, NULL, 3, '01-01', NULL, NULL)", "(978, 1, 'A', 5, '01-01', NULL, NULL)",
                           "(978, 1, 'A', 3, '', NULL, NULL)", "(978, 1, 'A', 3, NULL, NULL, NULL)"}) {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace ferrowind::host {
+
+/// Before this version of the schema no book said since when it holds.
+inline constexpr int kVersionOfFirstYears = 4;
+
+/// What has become of the books of a database that was upgraded to that version.
+struct FirstYears {
+  /// How many books say since when they hold now: those that are the delivered ones otherwise.
+  std::size_t given = 0;
+  /// The codes of the currencies whose books are others, and tell of all years as before.
+  std::vector<std::string> others;
+};
+
+/// Lets each book of the calling thread's database that is as delivered say since when it holds, too. Fails
+/// as ferrowind/planning/database_call.h says; books that were changed before stay so.
+[[nodiscard]] FirstYears GiveFirstYears();
+
+}  // namespace ferrowind::host
