@@ -35,8 +35,8 @@ const ferrowind::platform::Date kToday(2026, 11, 22);
 /// The calendars of all delivered books, as planned.
 void MakeCalendars() {
   const auto currencies = ferrowind::planning::CurrencyList::Load();
-  for (const auto& [code, book] : ferrowind::host::DeliveredBooks()) {
-    ferrowind::planning::StoreBook(currencies.Named(code).id, code, "", book);
+  for (const auto& delivered : ferrowind::host::DeliveredBooks()) {
+    ferrowind::planning::StoreBook(currencies.Named(delivered.name).id, delivered.name, "", delivered.book);
   }
   const ferrowind::planning::YearPlanner planner(ferrowind::host::DeliveredDateTables());
   for (const auto* const currency : planner.WithBooks()) {
