@@ -112,6 +112,12 @@ ComparedDay Comparison::DayAt(int day_of_year) const {
   return ComparedDay{static_cast<std::int16_t>(day_of_year)};
 }
 
+bool Comparison::IsEntered(const UnknownDates& unknown) const {
+  return std::any_of(days_.begin(), days_.end(), [&](const ComparedDay& day) {
+    return day.now != nullptr && day.now->IsClosed() && matches_.HasNameOf(unknown.rule, day.now->rule);
+  });
+}
+
 std::optional<std::string> Comparison::ObstacleOf(const ComparedDay& day) const {
   if (day.action == PlanAction::kKeep || day.should == nullptr) return std::nullopt;
   const KnownRule* const rule = matches_.RuleOf(*day.should);

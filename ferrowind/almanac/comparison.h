@@ -63,6 +63,10 @@ class Comparison {
   [[nodiscard]] ComparedDay DayAt(int day_of_year) const;
   [[nodiscard]] ComparisonLine LineOf(const ComparedDay& day) const;
 
+  /// Whether the calendar has a closed day of the rule whose dates the plan lacks. Precondition: it is one of
+  /// the plan's `Unknown`.
+  [[nodiscard]] bool IsEntered(const UnknownDates& unknown) const;
+
   /// Why the database would refuse to make the day as planned, a sentence without a full stop: the rule that
   /// it should have stands there as a removed one, or as one of another type. Nothing when it would not.
   [[nodiscard]] std::optional<std::string> ObstacleOf(const ComparedDay& day) const;

@@ -110,7 +110,7 @@ class CurrencyReview {
       const Comparison comparison(plan, calendar, *matches_);
       is_odd = comparison.Differs();
       ReviewPlanned(comparison, has_weekends);
-      if (!plan.Unknown().empty()) ReviewUnknown(plan, calendar, horizon);
+      if (!plan.Unknown().empty()) ReviewUnknown(comparison, horizon);
     } else {
       for (const MarkedDay& day : calendar.days) ReviewUnplanned(day, calendar.year);
     }
@@ -151,16 +151,13 @@ class CurrencyReview {
     }
   }
 
-  void ReviewUnknown(const YearPlan& plan, const CalendarContent& calendar, const ReviewHorizon& horizon) {
+  void ReviewUnknown(const Comparison& comparison, const ReviewHorizon& horizon) {
+    const YearPlan& plan = comparison.Plan();
     const std::vector<std::string> sentences = plan.Incomplete();
     for (std::size_t i = 0; i < sentences.size(); ++i) {
-      const std::size_t rule = plan.Unknown()[i].rule;
-      const bool is_entered = std::any_of(
-          calendar.days.begin(), calendar.days.end(),
-          [&](const MarkedDay& day) { return day.IsClosed() && matches_->HasNameOf(rule, day.rule); });
-      const bool is_late = calendar.year <= horizon.running_year && !is_entered;
+      const bool is_late = plan.Year() <= horizon.running_year && !comparison.IsEntered(plan.Unknown()[i]);
       Add(is_late ? FindingLevel::kWarning : FindingLevel::kNote, FindingSubject::kIncompletePlan,
-          calendar.year, {}, Calendar(calendar.year) + " cannot be judged in full. " + sentences[i] + ".");
+          plan.Year(), {}, Calendar(plan.Year()) + " cannot be judged in full. " + sentences[i] + ".");
     }
   }
 
@@ -218,8 +215,10 @@ class CurrencyReview {
 
 }  // namespace
 
+bool ReviewHorizon::NextYearIsUrgent(const Date& today) { return today.Month() >= kSeptember; }
+
 ReviewHorizon ReviewHorizon::Of(const Date& today, std::optional<int> further_years) {
-  const int usual = today.Month() >= kSeptember ? 2 : 1;
+  const int usual = NextYearIsUrgent(today) ? 2 : 1;
   return {today.Year(), today.Year() + further_years.value_or(usual)};
 }
 

@@ -18,6 +18,8 @@ struct ReviewHorizon {
   int running_year = 0;
   int last_year = 0;
 
+  /// From September on, when whoever has not prepared the next year is late.
+  [[nodiscard]] static bool NextYearIsUrgent(const platform::Date& today);
   /// The year of `today` and `further_years` after it; without a number the next year and, from September on,
   /// the one after.
   [[nodiscard]] static ReviewHorizon Of(const platform::Date& today, std::optional<int> further_years);

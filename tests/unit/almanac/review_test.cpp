@@ -66,6 +66,11 @@ TEST(ReviewHorizon, IsThisYearAndTheNextAndFromSeptemberTheOneAfter) {
   EXPECT_EQ(ReviewHorizon::Of(Date(2026, 1, 1), 5).last_year, 2031);
 }
 
+TEST(ReviewHorizon, CallsTheNextYearUrgentFromSeptemberOn) {
+  EXPECT_FALSE(ReviewHorizon::NextYearIsUrgent(Date(2026, 8, 31)));
+  EXPECT_TRUE(ReviewHorizon::NextYearIsUrgent(Date(2026, 9, 1)));
+}
+
 TEST(ReviewOfACurrency, FindsNothingInCalendarsAsPlanned) {
   EXPECT_THAT(Review(CurrencyWith({CalendarOf(2028, {Marked("2028-12-25", rule::kChristmas)})})), IsEmpty());
 }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ferrowind/almanac/date_table.h"
+#include "ferrowind/almanac/review.h"
+#include "ferrowind/almanac/rule_directory.h"
+
+namespace ferrowind::almanac {
+
+/// How far a year of a currency is prepared.
+enum class Readiness : std::uint8_t {
+  /// There is no calendar, or none of its days is closed.
+  kNotPrepared,
+  /// The only closed days are those of weekday rules, and nothing says that there are no others.
+  kWeekendsOnly,
+  /// Some days are not as planned.
+  kDiffers,
+  /// There are holidays, and no book that could be used to tell whether they are the right ones.
+  kNotCompared,
+  /// As planned, as far as the dates are published.
+  kPrepared,
+  /// The currency is money no longer in that year.
+  kEnded,
+};
+
+/// What the calendar of a currency and a year is like beside its plan. The counts are 0 where there is no
+/// plan.
+struct YearReadiness {
+  int year = 0;
+  Readiness readiness = Readiness::kNotPrepared;
+  bool has_calendar = false;
+  /// Days that are not as planned.
+  int differing_days = 0;
+  /// Days that the plan closes and that are working days by exception, with a reason; not among the differing
+  /// ones, since somebody has decided so.
+  int excepted_days = 0;
+  /// What the plan does not know and nobody has entered, a sentence without a full stop for each rule.
+  std::vector<std::string> unpublished;
+};
+
+/// How `currency` stands in each of the years from `first_year` to `last_year`.
+[[nodiscard]] std::vector<YearReadiness> ReadinessOf(const ReviewedCurrency& currency,
+                                                     const RuleDirectory& rules, const DateTables& tables,
+                                                     int first_year, int last_year);
+
+}  // namespace ferrowind::almanac
