@@ -18,4 +18,17 @@ std::vector<platform::Date> BaseDates(const DateExpression& expression, int year
   return dates;
 }
 
+bool HasBaseDates(const DateExpression& expression, const DateTables& tables) {
+  const PreparedBase base(expression, tables);
+  const auto [first, last] = base.PossibleYears();
+  for (int year = first; year <= last; ++year) {
+    const YearsAround years(year);
+    bool is_found = false;
+    base.ForEach(years, years.FirstDayOf(year), years.FirstDayOf(year + 1) - 1,
+                 [&is_found](std::int32_t) { is_found = true; });
+    if (is_found) return true;
+  }
+  return false;
+}
+
 }  // namespace ferrowind::almanac

@@ -13,4 +13,7 @@ namespace ferrowind::almanac {
 [[nodiscard]] std::vector<platform::Date> BaseDates(const DateExpression& expression, int year,
                                                     const DateTables& tables);
 
+/// Whether there is a base date in any of the years that plans know; false for `between`.
+[[nodiscard]] bool HasBaseDates(const DateExpression& expression, const DateTables& tables);
+
 }  // namespace ferrowind::almanac

@@ -291,13 +291,15 @@ class BookInspection {
         return;
       }
     }
+    if (!HasDates(expression)) Add("is on no day of any year");
+  }
+
+  [[nodiscard]] bool HasDates(const DateExpression& expression) const {
+    if (!expression.IsBetween()) return HasBaseDates(expression, tables_);
     for (int year = kFirstYear; year <= kLastYear; ++year) {
-      if (expression.IsBetween() ? expression.years.Include(year)
-                                 : !BaseDates(expression, year, tables_).empty()) {
-        return;
-      }
+      if (expression.years.Include(year)) return true;
     }
-    Add("is on no day of any year");
+    return false;
   }
 
   [[nodiscard]] std::string PlaceOf(std::size_t position) const {

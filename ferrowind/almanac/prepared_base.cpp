@@ -1,5 +1,7 @@
 #include "ferrowind/almanac/prepared_base.h"
 
+#include <algorithm>
+
 namespace ferrowind::almanac {
 
 YearsAround::YearsAround(int year) : middle_(year), first_days_() {
@@ -58,6 +60,23 @@ void PreparedBase::KeepTable(const DateTables& tables, const std::string& name, 
 
 bool PreparedBase::Knows(int year) const {
   return source_ != Source::kTable || (first_known_ <= year && year <= last_known_);
+}
+
+PreparedBase::YearSpan PreparedBase::PossibleYears() const {
+  if (source_ == Source::kNone) return {kFirstYear, kFirstYear - 1};
+  const YearLimits& limits = expression_->years;
+  YearSpan span{std::max(kFirstYear, limits.from.value_or(kFirstYear)),
+                std::min(kLastYear, limits.to.value_or(kLastYear))};
+  if (limits.choice == YearChoice::kOnly) {
+    span = {std::max(span.first, limits.years.front()), std::min(span.last, limits.years.back())};
+  }
+  if (source_ == Source::kTable) {
+    span = {std::max(span.first, first_known_), std::min(span.last, last_known_)};
+  } else if (source_ == Source::kSingle) {
+    const int year = platform::Date::FromSerial(single_day_).Year();
+    span = {std::max(span.first, year), std::min(span.last, year)};
+  }
+  return span;
 }
 
 bool PreparedBase::Counts(std::int32_t day, const YearsAround& years) const {

@@ -49,6 +49,13 @@ class PreparedBase {
 
   /// Whether every base date of the year is known; only tables know less.
   [[nodiscard]] bool Knows(int year) const;
+  struct YearSpan {
+    int first;
+    int last;
+  };
+  /// Of the years that plans know those in which a known base date can be; none when the first comes after
+  /// the last.
+  [[nodiscard]] YearSpan PossibleYears() const;
 
  private:
   enum class Source : std::uint8_t { kYearly, kSingle, kTable, kWeekly, kNone };

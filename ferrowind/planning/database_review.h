@@ -6,6 +6,8 @@
 
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/finding.h"
+#include "ferrowind/almanac/review.h"
+#include "ferrowind/planning/database_content.h"
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::planning {
@@ -23,9 +25,12 @@ struct DatabaseReview {
   [[nodiscard]] std::optional<almanac::FindingLevel> Worst() const;
 };
 
-/// Reviews every calendar of the calling thread's database, and whether those that must be there by `today`
-/// are
-/// (`almanac::ReviewHorizon`). Reads only; fails as database_call.h says.
+/// Reviews every calendar of `content`, and whether those that must be there are.
+[[nodiscard]] DatabaseReview ReviewContent(const DatabaseContent& content, const almanac::DateTables& tables,
+                                           const almanac::ReviewHorizon& horizon);
+
+/// Reviews the content of the calling thread's database by `almanac::ReviewHorizon::Of`. Reads only; fails as
+/// database_call.h says.
 [[nodiscard]] DatabaseReview ReviewDatabase(const almanac::DateTables& tables, const platform::Date& today,
                                             std::optional<int> further_years);
 

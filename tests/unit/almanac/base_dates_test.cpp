@@ -162,5 +162,41 @@ TEST(BaseDates, CountInTheYearsOfTheExpressionOnly) {
   EXPECT_THAT(Dates("easter+300 only 2027", 2028), IsEmpty());
 }
 
+TEST(BaseDates, AreThereWhenAnyYearThatPlansKnowHasOne) {
+  const char* const expressions[] = {"12-25",
+                                     "02-29 only 1900, 2100",
+                                     "02-29 only 1900, 1904",
+                                     "02-29 from 1900 to 1903",
+                                     "02-29 from 2197",
+                                     "01-01 if Monday only 2026",
+                                     "01-01 if Thursday only 2026",
+                                     "01-01 not 2026",
+                                     "2026-09-17",
+                                     "2026-09-17 if Monday",
+                                     "2026-09-17 from 2027",
+                                     "2026-09-17 to 2025",
+                                     "Monday after 2026-12-31",
+                                     "Monday after 2026-12-31 only 2026",
+                                     "Monday after 2026-12-31 only 2027",
+                                     "Friday before 1900-01-01",
+                                     "easter+300 only 2028",
+                                     "table feast",
+                                     "table feast only 2024",
+                                     "table feast from 2027",
+                                     "table feast+40 only 2028",
+                                     "table fast",
+                                     "weekday Sunday",
+                                     "weekday Sunday only 2020",
+                                     "between"};
+  for (const char* const text : expressions) {
+    const auto expression = DateExpression::Parse(text);
+    bool is_found = false;
+    for (int year = kFirstYear; year <= kLastYear; ++year) {
+      is_found = is_found || !BaseDates(expression, year, Tables()).empty();
+    }
+    EXPECT_EQ(HasBaseDates(expression, Tables()), is_found) << text;
+  }
+}
+
 }  // namespace
 }  // namespace ferrowind::almanac

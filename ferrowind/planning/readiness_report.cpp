@@ -1,0 +1,77 @@
+#include "ferrowind/planning/readiness_report.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "ferrowind/almanac/review.h"
+#include "ferrowind/planning/database_content.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using almanac::Readiness;
+using almanac::ReviewHorizon;
+using almanac::YearReadiness;
+
+CurrencyReadiness ReadinessIn(const DatabaseContent& content, std::int32_t id,
+                              const almanac::ReviewedCurrency& judged, const almanac::DateTables& tables,
+                              const ReadinessReport& report) {
+  CurrencyReadiness readiness;
+  if (const Currency* const known = content.currencies.Find(id)) {
+    readiness.currency = *known;
+  } else {
+    readiness.currency.id = id;
+    readiness.currency.code = judged.code;
+  }
+  readiness.can_be_planned = judged.book.has_value();
+  readiness.years =
+      almanac::ReadinessOf(judged, content.rules, tables, report.FirstYear(), report.LastYear());
+  return readiness;
+}
+
+/// Whether what stands in the calendar could not be traded on.
+bool IsUnprepared(const YearReadiness& year) {
+  return year.readiness == Readiness::kNotPrepared || year.readiness == Readiness::kWeekendsOnly;
+}
+
+}  // namespace
+
+bool ReadinessReport::IsUrgent(const YearReadiness& year) const {
+  const bool is_due =
+      year.year == today.Year() || (year.year == NextYear() && ReviewHorizon::NextYearIsUrgent(today));
+  return is_due && IsUnprepared(year);
+}
+
+int ReadinessReport::CountUrgent(int year) const {
+  return static_cast<int>(
+      std::count_if(currencies.begin(), currencies.end(), [&](const CurrencyReadiness& currency) {
+        return std::any_of(currency.years.begin(), currency.years.end(),
+                           [&](const YearReadiness& of) { return of.year == year && IsUrgent(of); });
+      }));
+}
+
+std::vector<CalendarKey> ReadinessReport::ToPrepare(int year) const {
+  std::vector<CalendarKey> calendars;
+  for (const CurrencyReadiness& currency : currencies) {
+    if (!currency.can_be_planned) continue;
+    for (const YearReadiness& of : currency.years) {
+      const bool changes = IsUnprepared(of) || of.readiness == Readiness::kDiffers;
+      if (of.year == year && changes) calendars.emplace_back(currency.currency.id, year);
+    }
+  }
+  return calendars;
+}
+
+ReadinessReport ReadReadiness(const almanac::DateTables& tables, const platform::Date& today) {
+  const DatabaseContent content = LoadContent(tables);
+  ReadinessReport report{today, {}, ReviewContent(content, tables, ReviewHorizon::Of(today, {}))};
+  for (const auto& [id, judged] : content.judged) {
+    report.currencies.push_back(ReadinessIn(content, id, judged, tables, report));
+  }
+  std::sort(report.currencies.begin(), report.currencies.end(),
+            [](const auto& left, const auto& right) { return left.currency.code < right.currency.code; });
+  return report;
+}
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,147 @@
+#include "ferrowind/planning/readiness_report.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/unit/planning/planning_world.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using almanac::Readiness;
+using almanac::YearReadiness;
+using platform::Date;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using testing::RunInFreshThread;
+
+constexpr std::int32_t kEuro = 978;
+constexpr std::int32_t kDollar = 840;
+constexpr std::int32_t kKuna = 191;
+
+/// EUR has a book; HRK is money until the end of 2022.
+class ReportWorld : public PlanningWorld {
+ public:
+  ReportWorld(Rows calendars, Rows marked_days, Rows books = {{kEuro, "ECB", "Closing days", "f"}}) {
+    AnswerCurrencies();
+    AnswerRules(std::move(calendars));
+    const bool has_books = !books.empty();
+    AnswerBooks(std::move(books), has_books
+                                      ? Rows{{kEuro, 1, "Sunday", 2, "weekday Sunday only 2020", {}, {}},
+                                             {kEuro, 2, "Christmas Day", 3, "12-25", {}, {}}}
+                                      : Rows());
+    world.commands.Answer("CldGetMarkedDays")
+        .Takes("@FromYear", ParameterType::kInt32)
+        .Takes("@ToYear", ParameterType::kInt32)
+        .Gives({"ID1", "Year1", "Day1", "TID1", "ID2", "Comment"}, std::move(marked_days));
+  }
+};
+
+std::vector<std::string> Codes(const ReadinessReport& report) {
+  std::vector<std::string> codes;
+  for (const CurrencyReadiness& currency : report.currencies) codes.push_back(currency.currency.code);
+  return codes;
+}
+
+std::vector<Readiness> StatesOf(const ReadinessReport& report, const std::string& code) {
+  std::vector<Readiness> states;
+  for (const CurrencyReadiness& currency : report.currencies) {
+    if (currency.currency.code != code) continue;
+    for (const YearReadiness& year : currency.years) states.push_back(year.readiness);
+  }
+  return states;
+}
+
+const Rows kCalendars = {{kKuna, 2022}, {kDollar, 2026}, {kEuro, 2026}, {kEuro, 2027}, {kEuro, 2028}};
+const Rows kDays = {{kDollar, 2026, 359, 3, 3, {}},
+                    {kEuro, 2026, 359, 3, 3, {}},
+                    {kEuro, 2027, 3, 2, 2, {}},
+                    {kEuro, 2028, 358, 3, 3, {}}};
+
+TEST(ReadinessReport, ListsCurrenciesWithACalendarOrABookByCodeWithLastYearToTheOneAfterTheNext) {
+  RunInFreshThread([] {
+    ReportWorld component(kCalendars, kDays);
+    const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
+    EXPECT_THAT(Codes(report), ElementsAre("EUR", "HRK", "USD"));
+    EXPECT_EQ(report.currencies[0].currency.name, "Euro");
+    EXPECT_EQ(report.FirstYear(), 2025);
+    EXPECT_EQ(report.LastYear(), 2028);
+    EXPECT_THAT(StatesOf(report, "EUR"), ElementsAre(Readiness::kNotPrepared, Readiness::kPrepared,
+                                                     Readiness::kWeekendsOnly, Readiness::kDiffers));
+    EXPECT_THAT(StatesOf(report, "HRK"),
+                ElementsAre(Readiness::kEnded, Readiness::kEnded, Readiness::kEnded, Readiness::kEnded));
+    EXPECT_THAT(StatesOf(report, "USD"), ElementsAre(Readiness::kNotPrepared, Readiness::kNotCompared,
+                                                     Readiness::kNotPrepared, Readiness::kNotPrepared));
+    EXPECT_TRUE(report.currencies[0].can_be_planned);
+    EXPECT_FALSE(report.currencies[2].can_be_planned);
+  });
+}
+
+TEST(ReadinessReport, HoldsTheFindingsOfTheReview) {
+  RunInFreshThread([] {
+    ReportWorld component(kCalendars, kDays);
+    const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
+    ASSERT_FALSE(report.review.findings.empty());
+    EXPECT_EQ(report.review.findings.front().level, almanac::FindingLevel::kError);
+    EXPECT_EQ(report.review.calendars, 5U);
+  });
+}
+
+TEST(ReadinessReport, CallsAnUnpreparedNextYearUrgentFromSeptemberOn) {
+  RunInFreshThread([] {
+    ReportWorld component(kCalendars, kDays);
+    EXPECT_EQ(ReadReadiness({}, Date(2026, 8, 31)).CountUrgent(2027), 0);
+    const ReadinessReport autumn = ReadReadiness({}, Date(2026, 9, 1));
+    // EUR has weekends only and USD nothing; HRK is money no longer.
+    EXPECT_EQ(autumn.CountUrgent(2027), 2);
+    EXPECT_EQ(autumn.CountUrgent(2028), 0);
+  });
+}
+
+TEST(ReadinessReport, CallsAnUnpreparedRunningYearUrgentAtAnyTime) {
+  RunInFreshThread([] {
+    ReportWorld component(kCalendars, kDays);
+    const ReadinessReport report = ReadReadiness({}, Date(2027, 1, 2));
+    EXPECT_EQ(report.CountUrgent(2027), 2);
+    EXPECT_EQ(report.CountUrgent(2028), 0);
+  });
+}
+
+TEST(ReadinessReport, PreparesWhatAPlanWouldChangeAndCurrenciesThatHaveOne) {
+  RunInFreshThread([] {
+    ReportWorld component(kCalendars, kDays);
+    const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
+    EXPECT_THAT(report.ToPrepare(2025), ElementsAre(CalendarKey(kEuro, 2025)));
+    EXPECT_THAT(report.ToPrepare(2026), IsEmpty());
+    EXPECT_THAT(report.ToPrepare(2027), ElementsAre(CalendarKey(kEuro, 2027)));
+    EXPECT_THAT(report.ToPrepare(2028), ElementsAre(CalendarKey(kEuro, 2028)));
+  });
+}
+
+TEST(ReadinessReport, ACurrencyThatTheDictionaryLacksIsListedByItsNumber) {
+  RunInFreshThread([] {
+    ReportWorld component({{4711, 2026}}, {{4711, 2026, 359, 3, 3, {}}}, {});
+    EXPECT_THAT(Codes(ReadReadiness({}, Date(2026, 3, 1))), ElementsAre("4711"));
+  });
+}
+
+TEST(ReadinessReport, OfADatabaseWithNothingHasNoCurrencyAndSaysThatThereIsNoCalendar) {
+  RunInFreshThread([] {
+    ReportWorld component({}, {}, {});
+    const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
+    EXPECT_THAT(Codes(report), IsEmpty());
+    EXPECT_EQ(report.review.findings.size(), 1U);
+  });
+}
+
+TEST(ReadinessReport, OfADatabaseThatDoesNotAnswerIsAFailureThatSaysWhatWasRead) {
+  RunInFreshThread([] {
+    ReportWorld component(kCalendars, kDays);
+    component.world.commands.FailAt(headless::CommandStep::kExecute,
+                                    platform::Failure(5, "The disk is full"));
+    const platform::Failure failure = testing::FailureOf([] { (void)ReadReadiness({}, Date(2026, 3, 1)); });
+    EXPECT_THAT(failure.Description(), ::testing::HasSubstr("Reading the rules: The disk is full"));
+  });
+}
+
+}  // namespace
+}  // namespace ferrowind::planning
