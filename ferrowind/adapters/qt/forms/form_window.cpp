@@ -44,6 +44,7 @@ class AccessibleFormWindow final : public QAccessibleWidget {
   explicit AccessibleFormWindow(FormWindow& window) : QAccessibleWidget(&window), window_(window) {}
 
   [[nodiscard]] QAccessible::Role role() const override {
+    if (!window_.isWindow()) return QAccessible::Grouping;
     return window_.Border() == FormBorder::kSizable ? QAccessible::Window : QAccessible::Dialog;
   }
 
@@ -99,9 +100,15 @@ void FormWindow::SetBorder(FormBorder border) {
   setWindowFlags(FlagsOf(border));
 }
 
+void FormWindow::PutInto(QWidget& place) {
+  setParent(&place, Qt::Widget);
+  if (place.layout() != nullptr) place.layout()->addWidget(this);
+}
+
 void FormWindow::SetTypingTarget(QLineEdit& line) { typing_target_ = &line; }
 
 void FormWindow::SetDesignedSize(const QSize& size) {
+  if (!isWindow()) return;
   designed_size_ = size;
   if (IsFixed()) {
     FitToTexts();
@@ -116,6 +123,7 @@ QSize FormWindow::OuterSize() const {
 }
 
 void FormWindow::SetOuterSize(const QSize& size) {
+  if (!isWindow()) return;
   if (IsFixed()) return SetDesignedSize(Affordable(size) - FrameExtents());
   wanted_outer_size_ = Affordable(size);
   extents_applied_ = FrameExtents();
@@ -123,6 +131,7 @@ void FormWindow::SetOuterSize(const QSize& size) {
 }
 
 void FormWindow::SetOuterPosition(const QPoint& position) {
+  if (!isWindow()) return;
   is_placed_ = true;
   move(position);
 }

@@ -10,7 +10,9 @@
 
 namespace ferrowind::qt {
 
-/// The window of a form: frame and size by the form's border kind, and the keys that press buttons.
+/// The window of a form: frame and size by the form's border kind, and the keys that press buttons. Or, where
+/// a host has given the form a place, a part of the host's window, which has neither frame nor size nor
+/// position of its own and is not closed by keys.
 ///
 /// What the window cannot decide it asks through the callbacks, each of which may be empty.
 class FormWindow : public QDialog {
@@ -30,6 +32,8 @@ class FormWindow : public QDialog {
   void SetCallbacks(Callbacks callbacks) { callbacks_ = std::move(callbacks); }
   /// Sets the window's frame; to be called before it is first shown, with its controls in place.
   void SetBorder(platform::FormBorder border);
+  /// Makes it a part of `place`, and of its layout where it has one; instead of `SetBorder`.
+  void PutInto(QWidget& place);
   [[nodiscard]] platform::FormBorder Border() const { return border_; }
   /// The line edit, of this window, that takes what is typed while the focus is on a widget that takes no
   /// text; but no blank at its beginning, which would replace a selected text by nothing to be seen.

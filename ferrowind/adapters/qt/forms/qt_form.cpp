@@ -38,9 +38,10 @@ void RequireSize(float size) {
 // Making and dropping
 // ------------------------------------------------------------------------------------------------
 
-std::shared_ptr<QtForm> QtForm::Create(const platform::FormDesign& design, const FormLayouts& layouts) {
+std::shared_ptr<QtForm> QtForm::Create(const platform::FormDesign& design, const FormLayouts& layouts,
+                                       QWidget* place) {
   std::shared_ptr<QtForm> form(new QtForm(design), &QtForm::Retire);
-  form->MakeControls(design, layouts);
+  form->MakeControls(design, layouts, place);
   return form;
 }
 
@@ -73,7 +74,7 @@ void QtForm::Mute() {
   window_->SetCallbacks({});
 }
 
-void QtForm::MakeControls(const platform::FormDesign& design, const FormLayouts& layouts) {
+void QtForm::MakeControls(const platform::FormDesign& design, const FormLayouts& layouts, QWidget* place) {
   if (!layouts.Build(design.name, *window_)) {
     throw Failure(failure_number::kElementNotFound, "There is no layout of a form " + design.name);
   }
@@ -82,8 +83,12 @@ void QtForm::MakeControls(const platform::FormDesign& design, const FormLayouts&
   for (const platform::ControlDesign& control : design.controls)
     controls_.push_back(MakeDesignedControl(control));
   SetCaption(design.caption);
-  window_->SetBorder(design.border);
-  window_->SetClosesByEscape(design.closes_by_escape);
+  if (place != nullptr) {
+    window_->PutInto(*place);
+  } else {
+    window_->SetBorder(design.border);
+    window_->SetClosesByEscape(design.closes_by_escape);
+  }
   ApplyDesign(*window_, design, controls_);
   window_->SetDesignedSize({PixelsX(design.client_width), PixelsY(design.client_height)});
 }
@@ -163,6 +168,7 @@ void QtForm::Show() {
 }
 
 void QtForm::ShowModal() {
+  if (IsPart()) throw Failure(failure_number::kInvalidArgument, name_ + " is a part of another window");
   const auto keep = shared_from_this();
   Load();
   if (is_unloaded_ || modal_loop_) return;
@@ -222,7 +228,7 @@ bool QtForm::AwaitsAnswer() const {
 }
 
 void QtForm::Place(const QWidget* owner) {
-  if (start_ == FormStart::kAsPlaced || window_->IsPlaced()) return;
+  if (start_ == FormStart::kAsPlaced || window_->IsPlaced() || IsPart()) return;
   const QScreen* screen = owner == nullptr ? QGuiApplication::primaryScreen() : owner->screen();
   const QRect room = screen->availableGeometry();
   const bool is_on_owner = start_ == FormStart::kCenterOwner && owner != nullptr;
@@ -236,6 +242,7 @@ void QtForm::Place(const QWidget* owner) {
 }
 
 void QtForm::Appear(Qt::WindowModality modality) {
+  if (IsPart()) return window_->show();
   window_->setWindowModality(modality);
   if (window_->focusWidget() == nullptr) FocusFirst(*window_, controls_);
   window_->show();

@@ -19,9 +19,10 @@ namespace ferrowind::qt {
 /// from the event loop, so that a handler of theirs may be what drops it.
 class QtForm : public platform::Form, public WidgetElement, public std::enable_shared_from_this<QtForm> {
  public:
-  /// Fails as `Toolkit::CreateForm`.
+  /// Fails as `Toolkit::CreateForm`. With a `place` the form is a part of that widget
+  /// (`QtToolkit::PlaceForm`).
   [[nodiscard]] static std::shared_ptr<QtForm> Create(const platform::FormDesign& design,
-                                                      const FormLayouts& layouts);
+                                                      const FormLayouts& layouts, QWidget* place = nullptr);
 
   [[nodiscard]] const std::string& Name() const override { return name_; }
   [[nodiscard]] std::string Caption() const override;
@@ -44,6 +45,8 @@ class QtForm : public platform::Form, public WidgetElement, public std::enable_s
   void Hide() override;
   [[nodiscard]] bool IsShown() const override;
   bool Unload() override;
+  /// Whether it is a part of a host's window.
+  [[nodiscard]] bool IsPart() const { return !window_->isWindow(); }
   /// Whether it is a dialog on show that only its own buttons close.
   [[nodiscard]] bool AwaitsAnswer() const;
 
@@ -58,7 +61,7 @@ class QtForm : public platform::Form, public WidgetElement, public std::enable_s
   explicit QtForm(const platform::FormDesign& design);
   static void Retire(QtForm* form);
 
-  void MakeControls(const platform::FormDesign& design, const FormLayouts& layouts);
+  void MakeControls(const platform::FormDesign& design, const FormLayouts& layouts, QWidget* place);
   [[nodiscard]] std::unique_ptr<platform::Control> MakeDesignedControl(const platform::ControlDesign& design);
   void Place(const QWidget* owner);
   void Appear(Qt::WindowModality modality);

@@ -61,11 +61,14 @@ QtToolkit::QtToolkit(FormLayouts layouts)
 QtToolkit::~QtToolkit() = default;
 
 std::shared_ptr<platform::Form> QtToolkit::CreateForm(const platform::FormDesign& design) {
-  auto form = QtForm::Create(design, layouts_);
+  const auto place = places_.find(design.name);
+  auto form = QtForm::Create(design, layouts_, place == places_.end() ? nullptr : place->second.data());
   std::erase_if(forms_, [](const auto& known) { return known.expired(); });
   forms_.push_back(form);
   return form;
 }
+
+void QtToolkit::PlaceForm(const std::string& form_name, QWidget& place) { places_[form_name] = &place; }
 
 platform::ScreenSize QtToolkit::Screen() const {
   const QSize size = QGuiApplication::primaryScreen()->size();
@@ -129,7 +132,7 @@ bool QtToolkit::CloseForms() {
     return false;
   }
   return std::all_of(forms.rbegin(), forms.rend(),
-                     [](const auto& form) { return !form->IsShown() || form->Unload(); });
+                     [](const auto& form) { return form->IsPart() || !form->IsShown() || form->Unload(); });
 }
 
 }  // namespace ferrowind::qt

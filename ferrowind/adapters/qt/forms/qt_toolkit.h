@@ -3,7 +3,9 @@
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "ferrowind/adapters/qt/forms/form_layouts.h"
@@ -41,13 +43,19 @@ class QtToolkit : public platform::Toolkit {
   void ProcessPendingEvents() override;
   void Beep() override;
 
-  /// Asks the forms on show to close, the newest first, until one refuses. Closes none while a dialog without
-  /// a close box is open: what waits for the operator's answer would take the closing for one. True when all
-  /// are closed.
+  /// Makes the forms of that name that are created from now on a part of `place`, and of its layout where it
+  /// has one, instead of windows. `place` must outlive them. Showing such a form does not show the window
+  /// around it, and that window alone decides when it closes.
+  void PlaceForm(const std::string& form_name, QWidget& place);
+
+  /// Asks the windows on show to close, the newest first, until one refuses. Closes none while a dialog
+  /// without a close box is open: what waits for the operator's answer would take the closing for one. True
+  /// when all are closed.
   [[nodiscard]] bool CloseForms();
 
  private:
   FormLayouts layouts_;
+  std::map<std::string, QPointer<QWidget>> places_;
   std::vector<std::weak_ptr<QtForm>> forms_;
   QPointer<QWidget> locked_;
   std::unique_ptr<UpdateHold> hold_;
