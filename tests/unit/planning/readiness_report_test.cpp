@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/unit/planning/planning_world.h"
+#include "tests/unit/planning/report_world.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -13,28 +13,6 @@ using platform::Date;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using testing::RunInFreshThread;
-
-constexpr std::int32_t kEuro = 978;
-constexpr std::int32_t kDollar = 840;
-constexpr std::int32_t kKuna = 191;
-
-/// EUR has a book; HRK is money until the end of 2022.
-class ReportWorld : public PlanningWorld {
- public:
-  ReportWorld(Rows calendars, Rows marked_days, Rows books = {{kEuro, "ECB", "Closing days", "f"}}) {
-    AnswerCurrencies();
-    AnswerRules(std::move(calendars));
-    const bool has_books = !books.empty();
-    AnswerBooks(std::move(books), has_books
-                                      ? Rows{{kEuro, 1, "Sunday", 2, "weekday Sunday only 2020", {}, {}},
-                                             {kEuro, 2, "Christmas Day", 3, "12-25", {}, {}}}
-                                      : Rows());
-    world.commands.Answer("CldGetMarkedDays")
-        .Takes("@FromYear", ParameterType::kInt32)
-        .Takes("@ToYear", ParameterType::kInt32)
-        .Gives({"ID1", "Year1", "Day1", "TID1", "ID2", "Comment"}, std::move(marked_days));
-  }
-};
 
 std::vector<std::string> Codes(const ReadinessReport& report) {
   std::vector<std::string> codes;
@@ -51,15 +29,9 @@ std::vector<Readiness> StatesOf(const ReadinessReport& report, const std::string
   return states;
 }
 
-const Rows kCalendars = {{kKuna, 2022}, {kDollar, 2026}, {kEuro, 2026}, {kEuro, 2027}, {kEuro, 2028}};
-const Rows kDays = {{kDollar, 2026, 359, 3, 3, {}},
-                    {kEuro, 2026, 359, 3, 3, {}},
-                    {kEuro, 2027, 3, 2, 2, {}},
-                    {kEuro, 2028, 358, 3, 3, {}}};
-
 TEST(ReadinessReport, ListsCurrenciesWithACalendarOrABookByCodeWithLastYearToTheOneAfterTheNext) {
   RunInFreshThread([] {
-    ReportWorld component(kCalendars, kDays);
+    ReportWorld component(kSmallCalendars, kSmallDays);
     const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
     EXPECT_THAT(Codes(report), ElementsAre("EUR", "HRK", "USD"));
     EXPECT_EQ(report.currencies[0].currency.name, "Euro");
@@ -78,7 +50,7 @@ TEST(ReadinessReport, ListsCurrenciesWithACalendarOrABookByCodeWithLastYearToThe
 
 TEST(ReadinessReport, HoldsTheFindingsOfTheReview) {
   RunInFreshThread([] {
-    ReportWorld component(kCalendars, kDays);
+    ReportWorld component(kSmallCalendars, kSmallDays);
     const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
     ASSERT_FALSE(report.review.findings.empty());
     EXPECT_EQ(report.review.findings.front().level, almanac::FindingLevel::kError);
@@ -88,7 +60,7 @@ TEST(ReadinessReport, HoldsTheFindingsOfTheReview) {
 
 TEST(ReadinessReport, CallsAnUnpreparedNextYearUrgentFromSeptemberOn) {
   RunInFreshThread([] {
-    ReportWorld component(kCalendars, kDays);
+    ReportWorld component(kSmallCalendars, kSmallDays);
     EXPECT_EQ(ReadReadiness({}, Date(2026, 8, 31)).CountUrgent(2027), 0);
     const ReadinessReport autumn = ReadReadiness({}, Date(2026, 9, 1));
     // EUR has weekends only and USD nothing; HRK is money no longer.
@@ -99,7 +71,7 @@ TEST(ReadinessReport, CallsAnUnpreparedNextYearUrgentFromSeptemberOn) {
 
 TEST(ReadinessReport, CallsAnUnpreparedRunningYearUrgentAtAnyTime) {
   RunInFreshThread([] {
-    ReportWorld component(kCalendars, kDays);
+    ReportWorld component(kSmallCalendars, kSmallDays);
     const ReadinessReport report = ReadReadiness({}, Date(2027, 1, 2));
     EXPECT_EQ(report.CountUrgent(2027), 2);
     EXPECT_EQ(report.CountUrgent(2028), 0);
@@ -108,7 +80,7 @@ TEST(ReadinessReport, CallsAnUnpreparedRunningYearUrgentAtAnyTime) {
 
 TEST(ReadinessReport, PreparesWhatAPlanWouldChangeAndCurrenciesThatHaveOne) {
   RunInFreshThread([] {
-    ReportWorld component(kCalendars, kDays);
+    ReportWorld component(kSmallCalendars, kSmallDays);
     const ReadinessReport report = ReadReadiness({}, Date(2026, 3, 1));
     EXPECT_THAT(report.ToPrepare(2025), ElementsAre(CalendarKey(kEuro, 2025)));
     EXPECT_THAT(report.ToPrepare(2026), IsEmpty());
@@ -135,7 +107,7 @@ TEST(ReadinessReport, OfADatabaseWithNothingHasNoCurrencyAndSaysThatThereIsNoCal
 
 TEST(ReadinessReport, OfADatabaseThatDoesNotAnswerIsAFailureThatSaysWhatWasRead) {
   RunInFreshThread([] {
-    ReportWorld component(kCalendars, kDays);
+    ReportWorld component(kSmallCalendars, kSmallDays);
     component.world.commands.FailAt(headless::CommandStep::kExecute,
                                     platform::Failure(5, "The disk is full"));
     const platform::Failure failure = testing::FailureOf([] { (void)ReadReadiness({}, Date(2026, 3, 1)); });

@@ -5,6 +5,7 @@
 #include "ui_fmEnterHolidays.h"
 #include "ui_fmExceptMess.h"
 #include "ui_fmMessage.h"
+#include "ui_fmReadiness.h"
 #include "ui_fmSelectYear.h"
 #include "ui_fmWait.h"
 #include "ui_fmYearPlan.h"
@@ -25,6 +26,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmEnterHolidays>("fmEnterHolidays");
   layouts.AddGenerated<Ui::fmExceptMess>("fmExceptMess");
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
+  layouts.AddGenerated<Ui::fmReadiness>("fmReadiness");
   layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");
   layouts.AddGenerated<Ui::fmWait>("fmWait");
   layouts.AddGenerated<Ui::fmYearPlan>("fmYearPlan");

@@ -102,6 +102,8 @@ void FormWindow::SetBorder(FormBorder border) {
 
 void FormWindow::PutInto(QWidget& place) {
   setParent(&place, Qt::Widget);
+  // The place has margins of its own.
+  if (layout() != nullptr) layout()->setContentsMargins({});
   if (place.layout() != nullptr) place.layout()->addWidget(this);
 }
 

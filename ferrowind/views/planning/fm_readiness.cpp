@@ -1,0 +1,259 @@
+#include "ferrowind/views/planning/fm_readiness.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/data/action_scope.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/views/planning/readiness_words.h"
+
+namespace ferrowind {
+namespace {
+
+using almanac::Finding;
+using almanac::FindingSubject;
+using planning::CalendarKey;
+using planning::CurrencyReadiness;
+using platform::ControlKind;
+using platform::ControlOf;
+using platform::TableCell;
+using platform::TableRow;
+
+constexpr const char* kCodeColumn = "code";
+constexpr const char* kNameColumn = "name";
+
+platform::FormDesign Design() {
+  return {
+      .name = "fmReadiness",
+      .caption = "Readiness",
+      .client_width = 13500,
+      .client_height = 8700,
+      .closes_by_escape = true,
+      .controls = {{ControlKind::kLabel, "lblUrgent"},
+                   {ControlKind::kLabel, "lblSummary"},
+                   {ControlKind::kLabel, "lblProblem"},
+                   {.kind = ControlKind::kTable, .name = "tblBoard", .selects_cells = true},
+                   {ControlKind::kLabel, "lblFindings"},
+                   {.kind = ControlKind::kTable, .name = "tblFindings", .selects_many = true, .sorts = true},
+                   {ControlKind::kSplitter, "spBoard"},
+                   {ControlKind::kButton, "cmdPrepareAll", "Prepare all..."},
+                   {ControlKind::kButton, "cmdPlan", "Year plan..."},
+                   {ControlKind::kButton, "cmdRefresh", "Refresh"}}};
+}
+
+bool IsAboutBook(const Finding& finding) {
+  return finding.subject == FindingSubject::kNoBook || finding.subject == FindingSubject::kFaultyBook;
+}
+
+}  // namespace
+
+std::shared_ptr<fmReadiness> fmReadiness::Create(const PlanningContext& context, ReadinessDoors doors) {
+  std::shared_ptr<fmReadiness> window(new fmReadiness(context, std::move(doors)));
+  window->Subscribe();
+  return window;
+}
+
+fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
+    : context_(context),
+      doors_(std::move(doors)),
+      form_(context.platform.toolkit.CreateForm(Design())),
+      lblUrgent_(ControlOf<platform::Label>(*form_, "lblUrgent")),
+      lblSummary_(ControlOf<platform::Label>(*form_, "lblSummary")),
+      lblProblem_(ControlOf<platform::Label>(*form_, "lblProblem")),
+      tblBoard_(ControlOf<platform::Table>(*form_, "tblBoard")),
+      lblFindings_(ControlOf<platform::Label>(*form_, "lblFindings")),
+      tblFindings_(ControlOf<platform::Table>(*form_, "tblFindings")),
+      cmdRefresh_(ControlOf<platform::Button>(*form_, "cmdRefresh")),
+      cmdPlan_(ControlOf<platform::Button>(*form_, "cmdPlan")),
+      cmdPrepareAll_(ControlOf<platform::Button>(*form_, "cmdPrepareAll")) {}
+
+std::function<void()> fmReadiness::Running(void (fmReadiness::*command)()) {
+  return [window = weak_from_this(), command] {
+    const auto keep = window.lock();
+    if (!keep) return;
+    RunHandler(keep->context_.platform, [&] { ((*keep).*command)(); });
+  };
+}
+
+void fmReadiness::Subscribe() {
+  const auto closing = Running(&fmReadiness::Closing);
+  const auto changed = Running(&fmReadiness::Read);
+  subscriptions_.push_back(form_->OnLoad(Running(&fmReadiness::Load)));
+  subscriptions_.push_back(form_->OnCloseQuery([closing](bool&) { closing(); }));
+  subscriptions_.push_back(tblBoard_.OnActivate(Running(&fmReadiness::OpenPlanOfCell)));
+  subscriptions_.push_back(tblBoard_.OnCurrentChange(Running(&fmReadiness::EnableButtons)));
+  subscriptions_.push_back(tblFindings_.OnActivate(Running(&fmReadiness::OpenFinding)));
+  subscriptions_.push_back(cmdRefresh_.OnClick(Running(&fmReadiness::Read)));
+  subscriptions_.push_back(cmdPlan_.OnClick(Running(&fmReadiness::OpenPlanOfCell)));
+  subscriptions_.push_back(cmdPrepareAll_.OnClick(Running(&fmReadiness::PrepareAll)));
+  subscriptions_.push_back(
+      context_.windows.OnChanged([changed](const PlanningWindows::Changed&) { changed(); }));
+}
+
+// Showing and closing
+// ------------------------------------------------------------------------------------------------------------
+
+void fmReadiness::Show() { form_->Show(); }
+
+void fmReadiness::ShowInFront() { form_->Show(); }
+
+bool fmReadiness::Close() { return form_->Unload(); }
+
+void fmReadiness::Refresh() { Running (&fmReadiness::Read)(); }
+
+void fmReadiness::Load() {
+  RunStep([this] { placement_.Restore(context_.platform.toolkit, *form_); });
+  lblUrgent_.SetVisible(false);
+  lblProblem_.SetVisible(false);
+  tblFindings_.SetColumns({{"level", "Level"},
+                           {"currency", "Currency"},
+                           {"year", "Year"},
+                           {"finding", "Finding", platform::CellAlignment::kLeading, true}});
+  EnableButtons();
+  Read();
+}
+
+void fmReadiness::Closing() {
+  has_closed_ = true;
+  placement_.Save(*form_);
+}
+
+// What is on show
+// ----------------------------------------------------------------------------------------------------------------
+
+void fmReadiness::Read() {
+  if (has_closed_) return;
+  const ActionScope reading(context_.platform.action_observer, platform::ActionKind::kRefresh);
+  try {
+    report_ = planning::ReadReadiness(context_.tables, context_.platform.clock.Today());
+  } catch (const platform::Interruption&) {
+    throw;
+  } catch (const platform::Failure& failure) {
+    return ShowProblem(failure.Description());
+  }
+  ShowReport();
+}
+
+void fmReadiness::ShowProblem(const std::string& problem) {
+  lblProblem_.SetText((report_ ? "What stands here may be out of date, for the database could not be read: "
+                               : "The database could not be read: ") +
+                      problem);
+  lblProblem_.SetVisible(true);
+  if (!report_) tblBoard_.SetEmptyText("Nothing could be read");
+}
+
+void fmReadiness::ShowReport() {
+  const ReadinessWords words(*report_);
+  lblProblem_.SetVisible(false);
+  const std::string urgent = words.Urgent();
+  lblUrgent_.SetText(urgent);
+  lblUrgent_.SetVisible(!urgent.empty());
+  lblSummary_.SetText(words.Summary());
+  ShowBoard();
+  ShowFindings();
+  cmdPrepareAll_.SetCaption("Prepare all for " + std::to_string(report_->NextYear()) + "...");
+  EnableButtons();
+}
+
+void fmReadiness::ShowBoard() {
+  const ReadinessWords words(*report_);
+  ShowYears(words);
+  std::vector<TableRow> rows;
+  for (const CurrencyReadiness& currency : report_->currencies) {
+    TableRow row{currency.currency.code, {{currency.currency.code}, {currency.currency.name}}, {}};
+    for (const almanac::YearReadiness& year : currency.years) row.cells.push_back(words.Cell(currency, year));
+    rows.push_back(std::move(row));
+  }
+  tblBoard_.SetEmptyText("There is no calendar and no rule book");
+  tblBoard_.SetRows(rows);
+}
+
+// Columns that stay keep what the operator has chosen.
+void fmReadiness::ShowYears(const ReadinessWords& words) {
+  if (first_year_on_show_ == report_->FirstYear()) return;
+  first_year_on_show_ = report_->FirstYear();
+  std::vector<platform::TableColumn> columns = {
+      {kCodeColumn, "Currency"}, {kNameColumn, "Name", platform::CellAlignment::kLeading, true}};
+  for (int year = report_->FirstYear(); year <= report_->LastYear(); ++year) {
+    columns.push_back({std::to_string(year), words.YearCaption(year)});
+  }
+  tblBoard_.SetColumns(columns);
+  tblBoard_.SetCurrentColumn(std::to_string(report_->NextYear()));
+}
+
+void fmReadiness::ShowFindings() {
+  const ReadinessWords words(*report_);
+  lblFindings_.SetText(words.FindingsTitle());
+  findings_.clear();
+  std::vector<TableRow> rows;
+  std::int64_t place = 0;
+  for (const Finding& finding : report_->review.findings) {
+    const std::string year = finding.year ? std::to_string(*finding.year) : std::string();
+    // Two findings may say the same, and each row has a key of its own.
+    std::string key = finding.sentence;
+    while (findings_.contains(key)) key += '\n';
+    findings_[key] = {finding.currency, finding.year, IsAboutBook(finding)};
+    TableCell level = ReadinessWords::LevelCell(finding.level);
+    level.order = place++;
+    rows.push_back({key, {level, {finding.currency}, {year}, {finding.sentence}}, {}});
+  }
+  tblFindings_.SetEmptyText("All calendars are as planned, as far as it is published");
+  tblFindings_.SetRows(rows);
+}
+
+void fmReadiness::EnableButtons() {
+  const bool has_way = doors_.open_year_plan != nullptr;
+  cmdPlan_.SetEnabled(has_way && ChosenCalendar().has_value());
+  cmdPrepareAll_.SetEnabled(has_way && report_ && !report_->ToPrepare(report_->NextYear()).empty());
+}
+
+// Ways to the plans
+// ---------------------------------------------------------------------------------------------------------------
+
+const CurrencyReadiness* fmReadiness::CurrencyOfCode(const std::string& code) const {
+  const auto& currencies = report_->currencies;
+  const auto found = std::find_if(currencies.begin(), currencies.end(),
+                                  [&](const auto& currency) { return currency.currency.code == code; });
+  return found == currencies.end() ? nullptr : &*found;
+}
+
+std::optional<CalendarKey> fmReadiness::ChosenCalendar() const {
+  const std::optional<std::string> code = tblBoard_.CurrentRow();
+  if (!report_ || !code) return std::nullopt;
+  const CurrencyReadiness* const currency = CurrencyOfCode(*code);
+  if (currency == nullptr) return std::nullopt;
+  const std::string column = tblBoard_.CurrentColumn().value_or(kCodeColumn);
+  const bool is_year = column != kCodeColumn && column != kNameColumn;
+  return CalendarKey(currency->currency.id, is_year ? platform::ToInt32(column) : report_->NextYear());
+}
+
+void fmReadiness::OpenPlanOfCell() {
+  if (const auto calendar = ChosenCalendar()) OpenPlan({*calendar});
+}
+
+void fmReadiness::OpenFinding() {
+  const std::optional<std::string> row = tblFindings_.CurrentRow();
+  if (!row || !report_) return;
+  const FindingPlace place = findings_.at(*row);
+  const CurrencyReadiness* const currency = CurrencyOfCode(place.currency);
+  if (currency == nullptr) return;
+  const std::int32_t id = currency->currency.id;
+  if (place.is_about_book) {
+    if (doors_.open_rule_book) doors_.open_rule_book(id);
+  } else {
+    OpenPlan({CalendarKey(id, place.year.value_or(report_->NextYear()))});
+  }
+}
+
+void fmReadiness::PrepareAll() {
+  if (!report_) return;
+  const std::vector<CalendarKey> calendars = report_->ToPrepare(report_->NextYear());
+  if (!calendars.empty()) OpenPlan(calendars);
+}
+
+void fmReadiness::OpenPlan(const std::vector<CalendarKey>& calendars) {
+  if (doors_.open_year_plan) doors_.open_year_plan(calendars);
+}
+
+}  // namespace ferrowind

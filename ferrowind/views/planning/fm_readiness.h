@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/readiness_report.h"
+#include "ferrowind/platform/toolkit/toolkit.h"
+#include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/planning/planning_context.h"
+#include "ferrowind/views/planning/planning_window.h"
+
+namespace ferrowind {
+
+class ReadinessWords;
+
+/// What the board has done by others. One that is empty is not offered.
+struct ReadinessDoors {
+  std::function<void(const std::vector<planning::CalendarKey>& calendars)> open_year_plan = {};
+  /// Of the currency of that number.
+  std::function<void(std::int32_t currency)> open_rule_book = {};
+};
+
+/// The readiness board: how far each currency is prepared for the years around today, what a review of all
+/// calendars finds, and the way to the plans that mend it.
+class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<fmReadiness> {
+ public:
+  /// What `context` refers to must outlive the window.
+  [[nodiscard]] static std::shared_ptr<fmReadiness> Create(const PlanningContext& context,
+                                                           ReadinessDoors doors);
+  fmReadiness(const fmReadiness&) = delete;
+  fmReadiness& operator=(const fmReadiness&) = delete;
+
+  /// Shows the window with what the database holds now; as a part of a host's window, which the host shows.
+  void Show();
+  void ShowInFront() override;
+  [[nodiscard]] bool IsOpen() const override { return !has_closed_; }
+  bool Close() override;
+
+  /// Reads the database again. What the operator has chosen stays chosen. When it cannot be read, what was
+  /// read before stays on show, and the window says that it may be out of date, and why.
+  void Refresh();
+
+ private:
+  /// What a row of the findings is about.
+  struct FindingPlace {
+    std::string currency;
+    std::optional<int> year;
+    bool is_about_book = false;
+  };
+
+  fmReadiness(const PlanningContext& context, ReadinessDoors doors);
+  void Subscribe();
+  /// A handler that runs the command as long as the window is there.
+  [[nodiscard]] std::function<void()> Running(void (fmReadiness::*command)());
+
+  void Load();
+  void Closing();
+  void Read();
+  void ShowProblem(const std::string& problem);
+  void ShowReport();
+  void ShowBoard();
+  void ShowYears(const ReadinessWords& words);
+  void ShowFindings();
+  void EnableButtons();
+
+  void OpenPlanOfCell();
+  void OpenFinding();
+  void PrepareAll();
+  void OpenPlan(const std::vector<planning::CalendarKey>& calendars);
+  /// What the operator has chosen on the board; nothing without a row.
+  [[nodiscard]] std::optional<planning::CalendarKey> ChosenCalendar() const;
+  [[nodiscard]] const planning::CurrencyReadiness* CurrencyOfCode(const std::string& code) const;
+
+  const PlanningContext context_;
+  ReadinessDoors doors_;
+  std::shared_ptr<platform::Form> form_;
+  platform::Label& lblUrgent_;
+  platform::Label& lblSummary_;
+  platform::Label& lblProblem_;
+  platform::Table& tblBoard_;
+  platform::Label& lblFindings_;
+  platform::Table& tblFindings_;
+  platform::Button& cmdRefresh_;
+  platform::Button& cmdPlan_;
+  platform::Button& cmdPrepareAll_;
+  /// Nothing until the database was read.
+  std::optional<planning::ReadinessReport> report_;
+  /// Of the columns on show.
+  std::optional<int> first_year_on_show_;
+  /// By the key of the row.
+  std::map<std::string, FindingPlace> findings_;
+  bool has_closed_ = false;
+  StoredPlacement placement_{"Window Readiness"};
+  std::vector<platform::Subscription> subscriptions_;
+};
+
+}  // namespace ferrowind

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "ferrowind/almanac/finding.h"
+#include "ferrowind/almanac/year_readiness.h"
+#include "ferrowind/planning/readiness_report.h"
+#include "ferrowind/platform/toolkit/table.h"
+
+namespace ferrowind {
+
+/// A report on readiness in the operator's words and shapes.
+class ReadinessWords {
+ public:
+  /// `report` must outlive this object.
+  explicit ReadinessWords(const planning::ReadinessReport& report) : report_(report) {}
+
+  /// "2027, next year".
+  [[nodiscard]] std::string YearCaption(int year) const;
+  /// A cell of the board: a word and a shape, and in its description a sentence.
+  [[nodiscard]] platform::TableCell Cell(const planning::CurrencyReadiness& currency,
+                                         const almanac::YearReadiness& year) const;
+
+  /// What cannot wait: currencies without days to trade on in the running year or, from September on, in the
+  /// next. Empty when there are none.
+  [[nodiscard]] std::string Urgent() const;
+  /// How many currencies are prepared for the running and for the next year.
+  [[nodiscard]] std::string Summary() const;
+
+  /// "Findings of the review: 1 error, 2 warnings, 3 notes".
+  [[nodiscard]] std::string FindingsTitle() const;
+  [[nodiscard]] static platform::TableCell LevelCell(almanac::FindingLevel level);
+
+ private:
+  [[nodiscard]] std::string Sentence(const planning::CurrencyReadiness& currency,
+                                     const almanac::YearReadiness& year) const;
+  [[nodiscard]] std::string UrgentIn(int year) const;
+
+  const planning::ReadinessReport& report_;
+};
+
+}  // namespace ferrowind
