@@ -3,24 +3,18 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <stdexcept>
 #include <string>
 
 #include <sqlite3.h>
 
 #include "ferrowind/adapters/sqlite/database_file.h"
-#include "ferrowind/adapters/sqlite/engine.h"
-#include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/database_review.h"
-#include "ferrowind/planning/year_planner.h"
-#include "ferrowind/platform/database/engine_registry.h"
 
 #include "bench/measurement.h"
+#include "bench/planned_calendars.h"
 #include "bench/temporary_folder.h"
-#include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
-#include "host/session/procedure_session.h"
 
 namespace {
 
@@ -31,20 +25,6 @@ using ferrowind::bench::TemporaryFolder;
 constexpr int kFirstYear = 2015;
 constexpr int kLastYear = 2064;
 const ferrowind::platform::Date kToday(2026, 11, 22);
-
-/// The calendars of all delivered books, as planned.
-void MakeCalendars() {
-  const auto currencies = ferrowind::planning::CurrencyList::Load();
-  for (const auto& delivered : ferrowind::host::DeliveredBooks()) {
-    ferrowind::planning::StoreBook(currencies.Named(delivered.name).id, delivered.name, "", delivered.book);
-  }
-  const ferrowind::planning::YearPlanner planner(ferrowind::host::DeliveredDateTables());
-  for (const auto* const currency : planner.WithBooks()) {
-    for (int year = kFirstYear; year <= kLastYear; ++year) {
-      planner.Prepare(*currency, year)->Apply(ferrowind::almanac::ExceptionHandling::kOverwrite);
-    }
-  }
-}
 
 void Require(bool is_true, sqlite3* database) {
   if (!is_true) throw std::runtime_error(sqlite3_errmsg(database));
@@ -90,7 +70,7 @@ std::size_t Review() {
 }
 
 void MeasureReview(const Benchmark& benchmark, const std::string& path) {
-  MakeCalendars();
+  ferrowind::bench::MakePlannedCalendars(kFirstYear, kLastYear);
   benchmark.Compare("review of 26 currencies x 50 years, peer: raw sqlite3 calls", 1.5,
                     {.run = [] { KeepResult(Review()); }}, {.run = [&] { KeepResult(ReadByPeer(path)); }});
 }
@@ -101,10 +81,6 @@ int main(int argc, char** argv) {
   return ferrowind::bench::RunBenchmark(argc, argv, [](const Benchmark& benchmark) {
     const TemporaryFolder folder;
     ferrowind::sqlite::CreateDatabase(folder.File());
-    ferrowind::platform::EngineRegistry engines;
-    engines.Register(ferrowind::sqlite::Engine::kScheme, std::make_shared<ferrowind::sqlite::Engine>());
-    ferrowind::host::RunWithDatabase(engines,
-                                     std::string(ferrowind::sqlite::Engine::kScheme) + ":" + folder.File(),
-                                     [&] { MeasureReview(benchmark, folder.File()); });
+    ferrowind::bench::RunWithFile(folder.File(), [&] { MeasureReview(benchmark, folder.File()); });
   });
 }

@@ -53,7 +53,7 @@ QLineEdit* MakeAddress(const QString& url) {
 
 BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QString& database,
                                    const QString& url)
-    : control_(new qt::CalendarWidget(platform)), trouble_(new TroubleBar) {
+    : control_(new qt::CalendarWidget(platform)), trouble_(new TroubleBar), start_page_(new QWidget) {
   setObjectName(QStringLiteral("backOffice"));
   setWindowTitle(tr("Back office"));
 
@@ -79,15 +79,18 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   auto* const close = new QPushButton(tr("&Close calendars"));
   close->setObjectName(QStringLiteral("closeCalendars"));
   connect(close, &QPushButton::clicked, this, &BackOfficeWindow::CloseCalendars);
-  auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(open);
-  buttons->addWidget(close);
-  buttons->addStretch();
 
-  auto* const place = new QVBoxLayout;
-  place->setSpacing(2);
-  place->addWidget(MakeDatabaseName(database));
-  place->addWidget(MakeAddress(url));
+  auto* const name = new QVBoxLayout;
+  name->setSpacing(2);
+  name->addWidget(MakeDatabaseName(database));
+  name->addWidget(MakeAddress(url));
+  auto* const place = new QHBoxLayout;
+  place->addLayout(name, 1);
+  place->addWidget(open);
+  place->addWidget(close);
+
+  auto* const start_page = new QVBoxLayout(start_page_);
+  start_page->setContentsMargins({});
 
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
@@ -96,8 +99,7 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   layout->addLayout(heading);
   layout->addLayout(place);
   layout->addWidget(trouble_);
-  layout->addStretch();
-  layout->addLayout(buttons);
+  layout->addWidget(start_page_, 1);
   setCentralWidget(content);
   resize(520, 200);
   open->setFocus();
@@ -136,8 +138,13 @@ void BackOfficeWindow::CloseCalendars() {
     statusBar()->showMessage(tr("The Calendars window is busy."), 5000);
 }
 
+void BackOfficeWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) emit Activated();
+}
+
 void BackOfficeWindow::closeEvent(QCloseEvent* event) {
-  if (control_->Control().ForceClosing()) {
+  if ((!may_close_ || may_close_()) && control_->Control().ForceClosing()) {
     event->accept();
   } else {
     event->ignore();

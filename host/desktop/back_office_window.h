@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 
 #include "ferrowind/adapters/qt/embedding/calendar_widget.h"
 
@@ -19,6 +20,11 @@ class BackOfficeWindow : public QMainWindow {
   /// Closes the Calendars window.
   ~BackOfficeWindow() override;
 
+  /// Where a host puts its start page, for which the window keeps its room; empty at first.
+  [[nodiscard]] QWidget& PlaceOfStartPage() { return *start_page_; }
+  /// `may_close` is asked before the window closes, and keeps it open by a false.
+  void AskBeforeClosing(std::function<bool()> may_close) { may_close_ = std::move(may_close); }
+
   void OpenCalendars();
   /// Shows what is wrong with the database; an empty text when nothing is.
   void TellTrouble(const QString& text);
@@ -30,10 +36,13 @@ class BackOfficeWindow : public QMainWindow {
  signals:
   /// The operator has read the trouble.
   void TroubleDismissed();
+  /// The operator has come to this window.
+  void Activated();
 
  protected:
-  /// Stays open when the Calendars window refuses to close.
+  /// Stays open when the Calendars window, or what is asked before closing, refuses.
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void CloseCalendars();
@@ -41,6 +50,8 @@ class BackOfficeWindow : public QMainWindow {
 
   qt::CalendarWidget* control_;
   TroubleBar* trouble_;
+  QWidget* start_page_;
+  std::function<bool()> may_close_;
   QString trouble_text_;
   bool is_told_elsewhere_ = false;
 };

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "ferrowind/adapters/postgres/engine.h"
-#include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 #include "ferrowind/adapters/qt/services/qt_clock.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
 #include "ferrowind/adapters/services/desktop_dictionary.h"
@@ -73,6 +72,8 @@ void DesktopSurroundings::UseDatabase(const std::string& connection_string) {
 }
 
 const platform::EngineRegistry& DesktopSurroundings::Engines() const { return parts_->engines; }
+
+qt::QtToolkit& DesktopSurroundings::Toolkit() { return parts_->toolkit; }
 
 PlanningWindows& DesktopSurroundings::Windows() { return parts_->windows; }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/adapters/qt/forms/qt_toolkit.h"
 #include "ferrowind/adapters/sqlite/wait_budget.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/platform.h"
@@ -37,6 +38,7 @@ class DesktopSurroundings {
 
   /// The engines for what the host does itself.
   [[nodiscard]] const platform::EngineRegistry& Engines() const;
+  [[nodiscard]] qt::QtToolkit& Toolkit();
   /// The windows of planning, which the windows that `Get` has the additions for open as well.
   [[nodiscard]] PlanningWindows& Windows();
   /// Valid as long as this object lives.

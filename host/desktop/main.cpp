@@ -17,6 +17,7 @@
 #include "host/desktop/desktop_surroundings.h"
 #include "host/desktop/news_windows.h"
 #include "host/desktop/operator_news.h"
+#include "host/desktop/start_page.h"
 #include "host/desktop/user_database.h"
 #include "host/desktop/wait_cursor.h"
 #include "host/session/private_arguments.h"
@@ -81,6 +82,7 @@ int main(int argc, char** argv) {
   BackOfficeWindow window(surroundings.Get(), DatabaseNameText(options),
                           QString::fromStdString(ferrowind::PasswordFree(database)));
   const ferrowind::host::NewsWindows news_windows(news, window);
+  const ferrowind::host::StartPage start_page(surroundings, news, window);
   window.show();
   if (options.open) window.OpenCalendars();
   return QApplication::exec();

@@ -63,6 +63,7 @@ void OperatorNews::ActionEnded() {
   TellBusy();
   if (!record.writes.empty()) SetNote(words_.Success(record));
   Conclude(record, true);
+  if (std::any_of(record.writes.begin(), record.writes.end(), IsDone)) changed_.Emit();
 }
 
 void OperatorNews::QuestionOpens(const OperatorAction& action) {
@@ -171,6 +172,10 @@ platform::Subscription OperatorNews::OnNote(TextHandler handler) {
 
 platform::Subscription OperatorNews::OnBusy(std::function<void(bool)> handler) {
   return busy_changed_.Subscribe(std::move(handler));
+}
+
+platform::Subscription OperatorNews::OnChange(std::function<void()> handler) {
+  return changed_.Subscribe(std::move(handler));
 }
 
 platform::Subscription OperatorNews::OnAction(std::function<void()> handler) {

@@ -54,6 +54,8 @@ class OperatorNews : public platform::ActionObserver {
   [[nodiscard]] platform::Subscription OnNote(TextHandler handler);
   /// True when the program starts to work for the operator, false when it waits for them again.
   [[nodiscard]] platform::Subscription OnBusy(std::function<void(bool is_busy)> handler);
+  /// An action that has changed the database has ended.
+  [[nodiscard]] platform::Subscription OnChange(std::function<void()> handler);
   /// An action begins that is not a part of another one.
   [[nodiscard]] platform::Subscription OnAction(std::function<void()> handler);
 
@@ -90,6 +92,7 @@ class OperatorNews : public platform::ActionObserver {
   platform::Signal<const std::string&> trouble_changed_;
   platform::Signal<const std::string&> note_changed_;
   platform::Signal<bool> busy_changed_;
+  platform::Signal<> changed_;
   platform::Signal<> action_began_;
 };
 

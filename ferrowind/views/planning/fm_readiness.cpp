@@ -37,9 +37,9 @@ platform::FormDesign Design() {
                    {ControlKind::kLabel, "lblFindings"},
                    {.kind = ControlKind::kTable, .name = "tblFindings", .selects_many = true, .sorts = true},
                    {ControlKind::kSplitter, "spBoard"},
-                   {ControlKind::kButton, "cmdPrepareAll", "Prepare all..."},
+                   {ControlKind::kButton, "cmdRefresh", "Refresh"},
                    {ControlKind::kButton, "cmdPlan", "Year plan..."},
-                   {ControlKind::kButton, "cmdRefresh", "Refresh"}}};
+                   {ControlKind::kButton, "cmdPrepareAll", "Prepare all..."}}};
 }
 
 bool IsAboutBook(const Finding& finding) {
@@ -158,28 +158,28 @@ void fmReadiness::ShowReport() {
 
 void fmReadiness::ShowBoard() {
   const ReadinessWords words(*report_);
-  ShowYears(words);
   std::vector<TableRow> rows;
   for (const CurrencyReadiness& currency : report_->currencies) {
     TableRow row{currency.currency.code, {{currency.currency.code}, {currency.currency.name}}, {}};
     for (const almanac::YearReadiness& year : currency.years) row.cells.push_back(words.Cell(currency, year));
     rows.push_back(std::move(row));
   }
+  // Columns that stay keep what the operator has chosen.
+  const bool has_other_years = first_year_on_show_ != report_->FirstYear();
+  if (has_other_years) ShowYears(words);
   tblBoard_.SetEmptyText("There is no calendar and no rule book");
   tblBoard_.SetRows(rows);
+  if (has_other_years) tblBoard_.SetCurrentColumn(std::to_string(report_->NextYear()));
 }
 
-// Columns that stay keep what the operator has chosen.
 void fmReadiness::ShowYears(const ReadinessWords& words) {
-  if (first_year_on_show_ == report_->FirstYear()) return;
-  first_year_on_show_ = report_->FirstYear();
   std::vector<platform::TableColumn> columns = {
       {kCodeColumn, "Currency"}, {kNameColumn, "Name", platform::CellAlignment::kLeading, true}};
   for (int year = report_->FirstYear(); year <= report_->LastYear(); ++year) {
     columns.push_back({std::to_string(year), words.YearCaption(year)});
   }
   tblBoard_.SetColumns(columns);
-  tblBoard_.SetCurrentColumn(std::to_string(report_->NextYear()));
+  first_year_on_show_ = report_->FirstYear();
 }
 
 void fmReadiness::ShowFindings() {

@@ -59,12 +59,6 @@ Share ShareOf(const ReadinessReport& report, int year) {
   return share;
 }
 
-std::string PreparedIn(const ReadinessReport& report, int year) {
-  const Share share = ShareOf(report, year);
-  return std::to_string(share.prepared) + " of " + Counted(share.all, "currency", "currencies") +
-         (share.all == 1 ? " is" : " are") + " prepared for " + std::to_string(year);
-}
-
 }  // namespace
 
 std::string ReadinessWords::YearCaption(int year) const {
@@ -134,7 +128,12 @@ std::string ReadinessWords::Urgent() const {
 
 std::string ReadinessWords::Summary() const {
   if (report_.currencies.empty()) return "There is no calendar and no rule book.";
-  return PreparedIn(report_, report_.today.Year()) + ", " + PreparedIn(report_, report_.NextYear()) + ".";
+  const int this_year = report_.today.Year();
+  const Share now = ShareOf(report_, this_year);
+  const Share next = ShareOf(report_, report_.NextYear());
+  return "Prepared: " + std::to_string(now.prepared) + " of " + Counted(now.all, "currency", "currencies") +
+         " for " + std::to_string(this_year) + ", " + std::to_string(next.prepared) + " of " +
+         std::to_string(next.all) + " for " + std::to_string(report_.NextYear()) + ".";
 }
 
 std::string ReadinessWords::FindingsTitle() const {

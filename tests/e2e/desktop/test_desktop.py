@@ -166,10 +166,10 @@ class DesktopTest(unittest.TestCase):
 
     def test_mouse_over_a_tool_shows_its_description_in_the_status_bar(self):
         self.open_calendars()
-        app = self.accessible.application()
-        tool = self.accessible.wait_find(app, 'push button', 'Refresh')
+        window = self.accessible.wait_window('Calendars')
+        tool = self.accessible.wait_find(window, 'push button', 'Refresh')
         self.session.xdotool('mousemove', '--sync', *self.screen_place(tool))
-        status_bar = self.accessible.wait_find(app, 'status bar')
+        status_bar = self.accessible.wait_find(window, 'status bar')
         self.accessible.wait_find(status_bar, 'label', 'Refresh all')
 
     def test_popup_menu_excepts_the_day_under_the_mouse(self):

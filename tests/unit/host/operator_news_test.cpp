@@ -58,6 +58,21 @@ class OperatorNewsTest : public ::testing::Test {
   std::vector<platform::Subscription> subscriptions_;
 };
 
+TEST_F(OperatorNewsTest, TellsOfAChangeWhenAnActionHasEndedThatMadeOne) {
+  int changes = 0;
+  const auto changed = news_.OnChange([&changes] { ++changes; });
+  Do(ActionKind::kRefresh, {}, {Done()});
+  Do(ActionKind::kExceptDay, {Returned(5)}, {Done()});
+  EXPECT_EQ(changes, 0);
+  Do(ActionKind::kAssignRules, {Returned(5), Done(), Done()}, {Done()});
+  EXPECT_EQ(changes, 1);
+  news_.ActionBegan(Action(ActionKind::kExceptDay));
+  news_.WriteEnded(Done());
+  EXPECT_EQ(changes, 1);
+  news_.ActionEnded();
+  EXPECT_EQ(changes, 2);
+}
+
 TEST_F(OperatorNewsTest, ARefusedWriteStaysToldWhateverIsReadAfterIt) {
   Do(ActionKind::kExceptDay, {Failed("The database is read-only")}, {Done()});
   EXPECT_EQ(news_.Trouble(), "14:05:10: Except, EUR: refused.\nThe database is read-only");

@@ -242,10 +242,10 @@ void QtForm::Place(const QWidget* owner) {
 }
 
 void QtForm::Appear(Qt::WindowModality modality) {
-  if (IsPart()) return window_->show();
-  window_->setWindowModality(modality);
+  if (!IsPart()) window_->setWindowModality(modality);
   if (window_->focusWidget() == nullptr) FocusFirst(*window_, controls_);
   window_->show();
+  if (IsPart()) return;
   window_->raise();
   window_->activateWindow();
 }

@@ -80,8 +80,7 @@ TEST(Readiness, HasARowForEachCurrencyWithItsNameAndAWordForEachYear) {
                 ElementsAre("EUR", "Euro", "Not prepared", "Prepared", "Weekends only", "Differs by 2 days"));
     EXPECT_EQ(board.Board().Cell("EUR", "2026").mark, CellMark::kPrepared);
     EXPECT_EQ(board.Board().Cell("EUR", "2025").description, "EUR 2025 has no calendar.");
-    EXPECT_EQ(board.Label("lblSummary"),
-              "1 of 2 currencies are prepared for 2026, 0 of 2 currencies are prepared for 2027.");
+    EXPECT_EQ(board.Label("lblSummary"), "Prepared: 1 of 2 currencies for 2026, 0 of 2 for 2027.");
   });
 }
 

@@ -128,8 +128,7 @@ TEST(ReadinessWords, SumUpThisYearAndTheNextWithoutMoneyThatHasEnded) {
   const ReadinessReport report =
       ReportOn(Date(2026, 3, 1), {Euro({Year(2026, Readiness::kPrepared), Year(2027, Readiness::kPrepared)}),
                                   Euro({Year(2026, Readiness::kDiffers), Year(2027, Readiness::kEnded)})});
-  EXPECT_EQ(ReadinessWords(report).Summary(),
-            "1 of 2 currencies are prepared for 2026, 1 of 1 currency is prepared for 2027.");
+  EXPECT_EQ(ReadinessWords(report).Summary(), "Prepared: 1 of 2 currencies for 2026, 1 of 1 for 2027.");
   const ReadinessReport empty = ReportOn(Date(2026, 3, 1));
   EXPECT_EQ(ReadinessWords(empty).Summary(), "There is no calendar and no rule book.");
 }

@@ -1,0 +1,144 @@
+// The start page of the desktop: the readiness board in the back office.
+#include "host/desktop/start_page.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QLabel>
+#include <QPushButton>
+
+#include "ferrowind/adapters/qt/table/table_view.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+
+#include "tests/gui/host/host_desk.h"
+
+namespace ferrowind::gui {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr int kEuro = 978;
+
+class StartPage : public HostTest {
+ protected:
+  StartPage() { Open(); }
+  ~StartPage() override { page_.reset(); }
+
+  void Open() {
+    page_ = std::make_unique<host::StartPage>(*surroundings_, news_, *back_office_);
+    Activate(*back_office_);
+    QCoreApplication::processEvents();
+  }
+  [[nodiscard]] static int ThisYear() { return QDate::currentDate().year(); }
+  [[nodiscard]] qt::TableView& Board() const { return Find<qt::TableView>(*back_office_, "tblBoard"); }
+  /// The text in the row of the currency and the column whose caption begins with that; "" without one.
+  [[nodiscard]] std::string Cell(const std::string& currency, const std::string& caption) const {
+    const QAbstractItemModel& cells = *Board().model();
+    for (int row = 0; row < cells.rowCount(); ++row) {
+      if (cells.index(row, 0).data().toString().toStdString() != currency) continue;
+      for (int column = 0; column < cells.columnCount(); ++column) {
+        const QString header = cells.headerData(column, Qt::Horizontal).toString();
+        if (header.startsWith(QString::fromStdString(caption)))
+          return cells.index(row, column).data().toString().toStdString();
+      }
+    }
+    return {};
+  }
+  [[nodiscard]] std::string Problem() const {
+    const auto& label = Find<QLabel>(*back_office_, "lblProblem");
+    return label.isVisible() ? label.text().toStdString() : std::string();
+  }
+  /// What another program does, of which this one is not told.
+  void CreateCalendarElsewhere(int currency, int year) const {
+    sqlite::Engine engine;
+    (void)engine.Connect("sqlite:" + DatabasePath())->Call("CldIUMain", {currency, year, {}, {}, {}, {}, {}});
+  }
+  /// The operator is elsewhere, and comes back.
+  void ComeBack() const {
+    QWidget elsewhere;
+    elsewhere.show();
+    Activate(elsewhere);
+    QCoreApplication::processEvents();
+    Activate(*back_office_);
+    QCoreApplication::processEvents();
+  }
+
+  std::unique_ptr<host::StartPage> page_;
+};
+
+TEST_F(StartPage, FillsTheBackOfficeWithTheBoardAndGivesItTheKeyboard) {
+  EXPECT_TRUE(Board().isVisible());
+  EXPECT_EQ(Board().window(), back_office_.get());
+  EXPECT_EQ(QApplication::focusWidget(), &Board());
+  EXPECT_EQ(Cell("USD", "Name"), "US Dollar");
+  EXPECT_EQ(Board().model()->rowCount(), 1);
+}
+
+TEST_F(StartPage, KeepsTheBackOfficeInReachOfItsButtons) {
+  auto& open = Find<QPushButton>(*back_office_, "openCalendars");
+  EXPECT_TRUE(open.isVisible());
+  Press(Board(), Qt::Key_Escape);
+  EXPECT_TRUE(Board().isVisible());
+  ClickButton(*back_office_, "openCalendars");
+  EXPECT_NE(WindowOnShow("fmCalendar"), nullptr);
+}
+
+TEST_F(StartPage, FitsASmallScreen) {
+  back_office_->resize(100, 100);
+  EXPECT_LE(back_office_->width(), 780);
+  EXPECT_LE(back_office_->height(), 540);
+}
+
+TEST_F(StartPage, ShowsWhatThisProgramHasChangedWhenTheOperatorComesBack) {
+  OpenCalendars();
+  script_.Expect("fmSelectYear", [](QWidget& dialog) {
+    TypeInto(dialog, "txtYear", std::to_string(ThisYear()));
+    ClickButton(dialog, "cmdCreate");
+  });
+  EXPECT_EQ(Cell("USD", std::to_string(ThisYear())), "Not prepared");
+  ClickTool(Calendars(), "ID_New");
+  ReturnToCalendars();
+  // The calendar of another currency comes into the same reading.
+  CreateCalendarElsewhere(kEuro, ThisYear());
+  ASSERT_EQ(Cell("EUR", "Name"), "");
+  Activate(*back_office_);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Cell("EUR", "Name"), "Euro");
+}
+
+TEST_F(StartPage, IsNotReadAgainForNothing) {
+  CreateCalendarElsewhere(kEuro, ThisYear());
+  ComeBack();
+  EXPECT_EQ(Cell("EUR", "Name"), "");
+  ClickButton(*back_office_, "cmdRefresh");
+  EXPECT_EQ(Cell("EUR", "Name"), "Euro");
+}
+
+TEST_F(StartPage, FollowsAtOnceWhatAWindowOfPlanningHasChanged) {
+  CreateCalendarElsewhere(kEuro, ThisYear());
+  surroundings_->Windows().TellChanged({{kEuro, ThisYear()}});
+  EXPECT_EQ(Cell("EUR", "Name"), "Euro");
+}
+
+TEST_F(StartPage, SaysThatTheDatabaseIsAwayAndForgetsItWhenItIsBack) {
+  TakeDatabaseAway();
+  ClickButton(*back_office_, "cmdRefresh");
+  EXPECT_THAT(Problem(), HasSubstr("there is no such file"));
+  EXPECT_EQ(Cell("USD", "Name"), "US Dollar");
+  BringDatabaseBack();
+  ClickButton(*back_office_, "cmdRefresh");
+  EXPECT_THAT(Problem(), IsEmpty());
+}
+
+TEST_F(StartPage, OpensOverADatabaseThatIsAway) {
+  TakeDatabaseAway();
+  page_.reset();
+  WorkOn("sqlite:" + DatabasePath());
+  Open();
+  EXPECT_THAT(Problem(), HasSubstr("The database could not be read"));
+  EXPECT_TRUE(Find<QPushButton>(*back_office_, "openCalendars").isEnabled());
+  BringDatabaseBack();
+}
+
+}  // namespace
+}  // namespace ferrowind::gui
