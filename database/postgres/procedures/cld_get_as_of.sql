@@ -1,11 +1,13 @@
 -- The days of the calendar as they were after the last call at or before Moment, which is UTC: "2026-11-21T19:28:57.647Z",
--- or without milliseconds. The names and comments of the rules are those of that time, too.
+-- or without milliseconds; or after the call of the entry EntryID of the history, 0 for before all of them. Either of the two
+-- is given. The names and comments of the rules are those of that time, too.
 -- Returns 0; 7 a value is missing or out of range; 3 unknown currency; 9 the history does not reach back so far; 5 there was
 -- no such calendar then.
 CREATE PROCEDURE CldGetAsOf(
   "ID1" integer DEFAULT NULL,
   "Year1" integer DEFAULT NULL,
   "Moment" text DEFAULT NULL,
+  "EntryID" integer DEFAULT NULL,
   INOUT "RETURN_VALUE" integer DEFAULT NULL,
   INOUT "Days" refcursor DEFAULT 'Days'
 )
@@ -17,7 +19,9 @@ DECLARE
   calendar_now boolean;
   change CldHistoryRow;
 BEGIN
-  IF "ID1" IS NULL OR as_of IS NULL OR "Year1" IS NULL OR "Year1" NOT BETWEEN 1900 AND 3000 THEN
+  IF "ID1" IS NULL OR "Year1" IS NULL OR "Year1" NOT BETWEEN 1900 AND 3000
+    OR ("Moment" IS NULL) = ("EntryID" IS NULL) OR (as_of IS NULL) <> ("Moment" IS NULL) OR "EntryID" < 0
+  THEN
     "RETURN_VALUE" := 7;
     RETURN;
   END IF;
@@ -26,7 +30,7 @@ BEGIN
     "RETURN_VALUE" := 3;
     RETURN;
   END IF;
-  IF EXISTS (SELECT FROM CldHistoryStart WHERE Moment > as_of) THEN
+  IF EXISTS (SELECT FROM CldHistoryStart WHERE Moment > as_of OR EntryID > "EntryID") THEN
     "RETURN_VALUE" := 9;
     RETURN;
   END IF;
@@ -34,7 +38,7 @@ BEGIN
   -- What a row was then is what the first change since has replaced, or what it is now. A calendar that has gone since was
   -- there; what came to be under its number later is another.
   SELECT EntryID INTO last_entry FROM CldHistory WHERE Moment <= as_of ORDER BY EntryID DESC LIMIT 1;
-  last_entry := coalesce(last_entry, 0);
+  last_entry := coalesce("EntryID", last_entry, 0);
   SELECT * INTO change FROM CldHistoryRow
   WHERE ID1 = "ID1" AND Year1 = "Year1" AND Day1 IS NULL AND EntryID > last_entry ORDER BY EntryID LIMIT 1;
   IF FOUND AND change.OldRow IS NULL OR NOT FOUND AND NOT calendar_now THEN

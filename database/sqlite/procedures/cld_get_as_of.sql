@@ -2,22 +2,24 @@
 -- parameter @ID1 int32
 -- parameter @Year1 int32
 -- parameter @Moment text
+-- parameter @EntryID int32
 -- The days of one calendar, as CldGetMain gave them behind the last call at or before Moment, a UTC time written
--- YYYY-MM-DDTHH:MM:SSZ, with or without milliseconds.
--- Returns 0; 7 a value is missing, out of range or malformed; 3 unknown currency; 9 the history does not reach back to
--- that moment; 5 there was no such calendar.
+-- YYYY-MM-DDTHH:MM:SSZ, with or without milliseconds; or behind the call of the entry EntryID of the history, 0 for before
+-- all of them. Either of the two is given.
+-- Returns 0; 7 a value is missing, out of range or malformed; 3 unknown currency; 9 the history does not reach back
+-- to then; 5 there was no such calendar.
 
 SELECT iif(length(:Moment) = 20 AND substr(:Moment, 20) = 'Z', substr(:Moment, 1, 19) || '.000Z', :Moment) AS "@Moment";
 
 SELECT CASE
-    WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 OR :Moment IS NULL
-      OR :Moment IS NOT strftime('%Y-%m-%dT%H:%M:%fZ', :Moment, '0 days') THEN 7
+    WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 OR (:Moment IS NULL) = (:EntryID IS NULL)
+      OR :Moment IS NOT strftime('%Y-%m-%dT%H:%M:%fZ', :Moment, '0 days') OR :EntryID < 0 THEN 7
     WHEN NOT EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1)
       AND NOT EXISTS (SELECT 1 FROM DicCcy WHERE CcyID = :ID1 AND CcyType = 0) THEN 3
-    WHEN EXISTS (SELECT 1 FROM CldHistoryStart WHERE Moment > :Moment) THEN 9
+    WHEN EXISTS (SELECT 1 FROM CldHistoryStart WHERE Moment > :Moment OR EntryID > :EntryID) THEN 9
     ELSE 0
   END AS "@Refusal",
-  ifnull((SELECT EntryID FROM CldHistory WHERE Moment <= :Moment ORDER BY EntryID DESC LIMIT 1), 0) AS "@EntryID";
+  coalesce(:EntryID, (SELECT EntryID FROM CldHistory WHERE Moment <= :Moment ORDER BY EntryID DESC LIMIT 1), 0) AS "@EntryID";
 
 SELECT :Refusal AS "@return" WHERE :Refusal <> 0;
 

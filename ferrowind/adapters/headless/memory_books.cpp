@@ -13,7 +13,9 @@ namespace ferrowind::headless {
 namespace {
 
 using platform::CallOutcome;
+using platform::JsonValue;
 using platform::ParameterType;
+using platform::ReadJson;
 using platform::Value;
 
 constexpr std::size_t kMostRules = 10000;

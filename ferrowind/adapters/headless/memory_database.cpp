@@ -62,7 +62,8 @@ MemoryDatabase::MemoryDatabase() {
   AddCalendarProcedures(*this);
   AddBookProcedures(*this);
   AddPlanProcedures(*this);
-  AddHistoryProcedures(*this);
+  AddUndoProcedure(*this);
+  AddPastProcedures(*this);
   AddYearProcedures(*this);
   AddCurrencyProcedures(*this);
 }

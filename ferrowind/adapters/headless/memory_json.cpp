@@ -1,205 +1,12 @@
 #include "ferrowind/adapters/headless/memory_json.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <set>
+#include <string>
 
 namespace ferrowind::headless {
-namespace {
 
-constexpr int kDeepest = 100;
-
-/// Thrown where the text is no JSON, and caught where its reading began.
-struct NoJson {};
-
-void AppendUtf8(std::uint32_t code, std::string& text) {
-  const auto add = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
-  if (code < 0x80) {
-    add(code);
-  } else if (code < 0x800) {
-    add(0xC0 | (code >> 6));
-    add(0x80 | (code & 0x3F));
-  } else if (code < 0x10000) {
-    add(0xE0 | (code >> 12));
-    add(0x80 | ((code >> 6) & 0x3F));
-    add(0x80 | (code & 0x3F));
-  } else {
-    add(0xF0 | (code >> 18));
-    add(0x80 | ((code >> 12) & 0x3F));
-    add(0x80 | ((code >> 6) & 0x3F));
-    add(0x80 | (code & 0x3F));
-  }
-}
-
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
-
-class Reader {
- public:
-  explicit Reader(std::string_view text) : text_(text) {}
-
-  JsonValue ReadAll() {
-    JsonValue value = ReadValue(0);
-    SkipBlanks();
-    if (place_ != text_.size()) throw NoJson();
-    return value;
-  }
-
- private:
-  JsonValue ReadValue(int depth) {
-    if (depth > kDeepest) throw NoJson();
-    SkipBlanks();
-    JsonValue value;
-    switch (Next()) {
-      case '{':
-        ReadMembers(value, depth);
-        break;
-      case '[':
-        ReadItems(value, depth);
-        break;
-      case '"':
-        value.kind = JsonValue::Kind::kText;
-        value.text = ReadText();
-        break;
-      case 't':
-      case 'f':
-        value.kind = JsonValue::Kind::kTruth;
-        value.text = ReadWord(Next() == 't' ? "true" : "false");
-        break;
-      case 'n':
-        ReadWord("null");
-        break;
-      default:
-        value.kind = JsonValue::Kind::kNumber;
-        value.text = ReadNumber();
-    }
-    return value;
-  }
-
-  void ReadMembers(JsonValue& object, int depth) {
-    object.kind = JsonValue::Kind::kObject;
-    ++place_;
-    if (TakesAfterBlanks('}')) return;
-    do {
-      SkipBlanks();
-      object.names.push_back(ReadText());
-      if (!TakesAfterBlanks(':')) throw NoJson();
-      object.items.push_back(ReadValue(depth + 1));
-    } while (TakesAfterBlanks(','));
-    if (!TakesAfterBlanks('}')) throw NoJson();
-  }
-
-  void ReadItems(JsonValue& list, int depth) {
-    list.kind = JsonValue::Kind::kList;
-    ++place_;
-    if (TakesAfterBlanks(']')) return;
-    do {
-      list.items.push_back(ReadValue(depth + 1));
-    } while (TakesAfterBlanks(','));
-    if (!TakesAfterBlanks(']')) throw NoJson();
-  }
-
-  std::string ReadWord(std::string_view word) {
-    if (text_.substr(place_, word.size()) != word) throw NoJson();
-    place_ += word.size();
-    return std::string(word);
-  }
-
-  std::string ReadNumber() {
-    const std::size_t start = place_;
-    Takes('-');
-    if (!Takes('0')) ReadDigits();
-    if (Takes('.')) ReadDigits();
-    if (Takes('e') || Takes('E')) {
-      if (!Takes('+')) Takes('-');
-      ReadDigits();
-    }
-    return std::string(text_.substr(start, place_ - start));
-  }
-
-  void ReadDigits() {
-    if (!IsDigit(Next())) throw NoJson();
-    while (place_ < text_.size() && IsDigit(text_[place_])) ++place_;
-  }
-
-  std::string ReadText() {
-    if (!Takes('"')) throw NoJson();
-    std::string text;
-    while (!Takes('"')) {
-      const char character = Next();
-      ++place_;
-      if (static_cast<unsigned char>(character) < 0x20) throw NoJson();
-      if (character == '\\') {
-        ReadEscape(text);
-      } else {
-        text += character;
-      }
-    }
-    return text;
-  }
-
-  void ReadEscape(std::string& text) {
-    constexpr std::string_view kLetters = "\"\\/bfnrt";
-    constexpr std::string_view kMeanings = "\"\\/\b\f\n\r\t";
-    const char letter = Next();
-    ++place_;
-    if (letter == 'u') return AppendUtf8(ReadCodePoint(), text);
-    const std::size_t meaning = kLetters.find(letter);
-    if (meaning == std::string_view::npos) throw NoJson();
-    text += kMeanings[meaning];
-  }
-
-  std::uint32_t ReadCodePoint() {
-    const std::uint32_t first = ReadHexadecimal();
-    if (first == 0 || (first >= 0xDC00 && first < 0xE000)) throw NoJson();
-    if (first < 0xD800 || first >= 0xE000) return first;
-    ReadWord("\\u");
-    const std::uint32_t second = ReadHexadecimal();
-    if (second < 0xDC00 || second >= 0xE000) throw NoJson();
-    return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
-  }
-
-  std::uint32_t ReadHexadecimal() {
-    constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
-    std::uint32_t number = 0;
-    for (int i = 0; i < 4; ++i, ++place_) {
-      const std::size_t digit = kDigits.find(Next());
-      if (digit == std::string_view::npos) throw NoJson();
-      number = number * 16 + static_cast<std::uint32_t>(digit < 16 ? digit : digit - 6);
-    }
-    return number;
-  }
-
-  [[nodiscard]] char Next() const {
-    if (place_ == text_.size()) throw NoJson();
-    return text_[place_];
-  }
-
-  bool Takes(char character) {
-    if (place_ == text_.size() || text_[place_] != character) return false;
-    ++place_;
-    return true;
-  }
-
-  bool TakesAfterBlanks(char character) {
-    SkipBlanks();
-    return Takes(character);
-  }
-
-  void SkipBlanks() { place_ = std::min(text_.find_first_not_of(" \t\r\n", place_), text_.size()); }
-
-  std::string_view text_;
-  std::size_t place_ = 0;
-};
-
-}  // namespace
-
-std::optional<JsonValue> ReadJson(std::string_view text) {
-  try {
-    return Reader(text).ReadAll();
-  } catch (const NoJson&) {
-    return std::nullopt;
-  }
-}
+using platform::JsonValue;
 
 JsonMembers::JsonMembers(const JsonValue& object, std::initializer_list<std::string_view> known_names)
     : object_(object), are_well_formed_(object.kind == JsonValue::Kind::kObject) {
@@ -210,21 +17,15 @@ JsonMembers::JsonMembers(const JsonValue& object, std::initializer_list<std::str
   }
 }
 
-const JsonValue* JsonMembers::Find(std::string_view name) const {
-  const auto found = std::find(object_.names.begin(), object_.names.end(), name);
-  if (found == object_.names.end()) return nullptr;
-  return &object_.items[static_cast<std::size_t>(found - object_.names.begin())];
-}
-
 std::optional<platform::Value> JsonMembers::TextOrNothing(std::string_view name) const {
-  const JsonValue* const value = Find(name);
+  const JsonValue* const value = object_.Find(name);
   if (value == nullptr || value->kind == JsonValue::Kind::kNull) return platform::Value();
   if (value->kind != JsonValue::Kind::kText) return std::nullopt;
   return value->text;
 }
 
 std::optional<std::int32_t> JsonMembers::RuleType(std::string_view name) const {
-  const JsonValue* const value = Find(name);
+  const JsonValue* const value = object_.Find(name);
   if (value == nullptr || value->kind != JsonValue::Kind::kNumber || value->text.size() != 1)
     return std::nullopt;
   const std::int32_t type = value->text.front() - '0';

@@ -15,7 +15,9 @@ namespace {
 
 using platform::CallOutcome;
 using platform::Date;
+using platform::JsonValue;
 using platform::ParameterType;
+using platform::ReadJson;
 using platform::Value;
 
 constexpr std::size_t kMostBytes = 1048576;

@@ -10,8 +10,10 @@ void AddCalendarProcedures(MemoryDatabase& database);
 void AddBookProcedures(MemoryDatabase& database);
 /// Adds `CldGetFingerprint` and `CldApplyPlan`.
 void AddPlanProcedures(MemoryDatabase& database);
-/// Adds `CldUndo`, `CldGetHistory` and `CldGetAsOf`, on the history of `database`.
-void AddHistoryProcedures(MemoryDatabase& database);
+/// Adds `CldUndo`, on the history of `database`.
+void AddUndoProcedure(MemoryDatabase& database);
+/// Adds `CldGetHistory` and `CldGetAsOf`, on the history of `database`.
+void AddPastProcedures(MemoryDatabase& database);
 /// Adds `CldGetClosedDays` and `CldGetMarkedDays`.
 void AddYearProcedures(MemoryDatabase& database);
 /// Adds `CldIUCurrency` and `CldGetCurrencies`.

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <set>
-#include <tuple>
 #include <utility>
 
 #include "ferrowind/adapters/headless/memory_database.h"
@@ -13,12 +12,8 @@ namespace ferrowind::headless {
 namespace {
 
 using platform::CallOutcome;
-using platform::Date;
 using platform::ParameterType;
 using platform::Value;
-
-// CldUndo
-// ------------------------------------------------------------------------------------------------------------
 
 /// Putting back what one call changed.
 class Undoing {
@@ -130,93 +125,16 @@ CallOutcome Undo(const MemoryHistory& history, MemoryTables& tables, const std::
   return {ChangesBetween(before, tables).CountRows() == 0 ? kChangedSince : kDone, {}};
 }
 
-// CldGetHistory
-// ------------------------------------------------------------------------------------------------------
-
-bool Concerns(const MemoryEntry& entry, const CalendarKey& calendar, std::int32_t day) {
-  return entry.changes.calendars.contains(calendar) || entry.changes.days.contains({calendar, day});
-}
-
-CallOutcome GetHistory(const MemoryHistory& history, const std::vector<Value>& inputs) {
-  constexpr std::int32_t kUsualCount = 100;
-  constexpr std::int32_t kMostEntries = 10000;
-  const auto& [currency, year, day, before, count] =
-      std::tie(inputs[0], inputs[1], inputs[2], inputs[3], inputs[4]);
-  if (!count.IsEmpty() && !IsBetween(count, 1, kMostEntries)) return {kWrongValue, {}};
-  if (!day.IsEmpty() && (currency.IsEmpty() || year.IsEmpty())) return {kWrongValue, {}};
-  const auto most = static_cast<std::size_t>(count.IsEmpty() ? kUsualCount : platform::ToInt32(count));
-  Rows rows;
-  for (auto entry = history.rbegin(); entry != history.rend() && rows.size() < most; ++entry) {
-    if (!before.IsEmpty() && entry->id >= platform::ToInt32(before)) continue;
-    if (!currency.IsEmpty() && entry->currency != currency) continue;
-    if (!year.IsEmpty() && entry->year != year) continue;
-    if (!day.IsEmpty() &&
-        !Concerns(*entry, {platform::ToInt32(currency), platform::ToInt32(year)}, platform::ToInt32(day))) {
-      continue;
-    }
-    rows.push_back({entry->id, entry->moment, "memory", entry->procedure, entry->currency, entry->year,
-                    entry->parameters, entry->changes.CountRows()});
-  }
-  return {kDone,
-          {Records(
-              {"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters", "RowsChanged"},
-              std::move(rows))}};
-}
-
-// CldGetAsOf
-// ---------------------------------------------------------------------------------------------------------
-
-/// With milliseconds; empty when it is no moment.
-std::string WholeMoment(const Value& input) {
-  if (input.IsEmpty()) return "";
-  std::string moment = platform::ToText(input);
-  if (moment.size() == 20) moment.insert(19, ".000");
-  const std::string form = "dddd-dd-ddTdd:dd:dd.dddZ";
-  const auto fits = [](char wanted, char found) {
-    return wanted == 'd' ? found >= '0' && found <= '9' : found == wanted;
-  };
-  if (!std::equal(form.begin(), form.end(), moment.begin(), moment.end(), fits)) return "";
-  if (!Date::FromIso(moment.substr(0, 10))) return "";
-  if (moment.substr(11, 2) > "23" || moment.substr(14, 2) > "59" || moment.substr(17, 2) > "59") return "";
-  return moment;
-}
-
-CallOutcome GetAsOf(const MemoryHistory& history, const MemoryTables& tables,
-                    const std::vector<Value>& inputs) {
-  const std::string moment = WholeMoment(inputs[2]);
-  if (inputs[0].IsEmpty() || !IsYear(inputs[1]) || moment.empty()) return {kWrongValue, {}};
-  const CalendarKey key{platform::ToInt32(inputs[0]), platform::ToInt32(inputs[1])};
-  if (!tables.calendars.contains(key) && !IsMoney(tables, inputs[0])) return {kUnknownCurrency, {}};
-  MemoryTables then = tables;
-  for (auto entry = history.rbegin(); entry != history.rend() && entry->moment > moment; ++entry) {
-    PutBack(entry->changes, then);
-  }
-  if (!then.calendars.contains(key)) return {kUnknownCalendar, {}};
-  return {
-      kDone,
-      {Records({"ODate", "TID1", "Name1", "Comment2", "Comment", "ID2", "Day1"}, RowsOfCalendar(then, key))}};
-}
-
 }  // namespace
 
-void AddHistoryProcedures(MemoryDatabase& database) {
-  constexpr auto kNumber = ParameterType::kInt32;
+void AddUndoProcedure(MemoryDatabase& database) {
   const MemoryHistory& history = database.History();
   database.AddProcedure(
-      "CldUndo", {{"@EntryID", kNumber}},
+      "CldUndo", {{"@EntryID", ParameterType::kInt32}},
       [&history](MemoryTables& tables, const std::vector<Value>& inputs) {
         return Undo(history, tables, inputs);
       },
       MemoryProcedure::Kind::kRecorded);
-  database.AddProcedure(
-      "CldGetHistory",
-      {{"@ID1", kNumber}, {"@Year1", kNumber}, {"@Day1", kNumber}, {"@Before", kNumber}, {"@Count", kNumber}},
-      [&history](MemoryTables&, const std::vector<Value>& inputs) { return GetHistory(history, inputs); });
-  database.AddProcedure("CldGetAsOf",
-                        {{"@ID1", kNumber}, {"@Year1", kNumber}, {"@Moment", ParameterType::kText}},
-                        [&history](MemoryTables& tables, const std::vector<Value>& inputs) {
-                          return GetAsOf(history, tables, inputs);
-                        });
 }
 
 }  // namespace ferrowind::headless

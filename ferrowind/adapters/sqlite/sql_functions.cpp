@@ -5,6 +5,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "ferrowind/adapters/sqlite/system_user.h"
 #include "ferrowind/platform/values/fingerprint.h"
 #include "ferrowind/platform/values/utf8_validation.h"
 
@@ -55,16 +56,28 @@ void GiveIsText(sqlite3_context* context, int /*count*/, sqlite3_value** argumen
   sqlite3_result_int(context, is_text ? 1 : 0);
 }
 
+void GiveUser(sqlite3_context* context, int /*count*/, sqlite3_value** /*arguments*/) noexcept {
+  try {
+    const std::string& user = SystemUserName();
+    sqlite3_result_text(context, user.data(), static_cast<int>(user.size()), SQLITE_TRANSIENT);
+  } catch (const std::bad_alloc&) {
+    sqlite3_result_error_nomem(context);
+  }
+}
+
 }  // namespace
 
 int AddSqlFunctions(sqlite3* database) noexcept {
   // Harmless ones, so that the views of an untrusted schema may use them too.
   constexpr int kKind = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-  const int code = sqlite3_create_function_v2(database, "FERROWIND_FINGERPRINT", -1, kKind, nullptr, nullptr,
-                                              AddRow, GiveFingerprint, nullptr);
+  int code = sqlite3_create_function_v2(database, "FERROWIND_FINGERPRINT", -1, kKind, nullptr, nullptr,
+                                        AddRow, GiveFingerprint, nullptr);
   if (code != SQLITE_OK) return code;
-  return sqlite3_create_function_v2(database, "FERROWIND_IS_TEXT", 1, kKind, nullptr, GiveIsText, nullptr,
+  code = sqlite3_create_function_v2(database, "FERROWIND_IS_TEXT", 1, kKind, nullptr, GiveIsText, nullptr,
                                     nullptr, nullptr);
+  if (code != SQLITE_OK) return code;
+  return sqlite3_create_function_v2(database, "FERROWIND_USER", 0, SQLITE_UTF8 | SQLITE_DIRECTONLY, nullptr,
+                                    GiveUser, nullptr, nullptr, nullptr);
 }
 
 }  // namespace ferrowind::sqlite

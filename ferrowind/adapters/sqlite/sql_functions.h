@@ -8,7 +8,8 @@ namespace ferrowind::sqlite {
 ///  - FERROWIND_FINGERPRINT(a, b, ...): the digits of the `platform::Fingerprint` of the values of all rows,
 ///  an aggregate; rows come from a subquery that orders them;
 ///  - FERROWIND_IS_TEXT(text): whether the text is well-formed UTF-8 without the character NUL, which a text
-///  made from the escapes of JSON need not be; 1 of NULL.
+///  made from the escapes of JSON need not be; 1 of NULL;
+///  - FERROWIND_USER(): the user whom the history names for the calls of this program.
 /// Returns SQLite's result code.
 [[nodiscard]] int AddSqlFunctions(sqlite3* database) noexcept;
 

@@ -86,6 +86,37 @@ TEST_P(ProceduresContract, ACalendarThatIsGoneIsGivenAsItWas) {
   EXPECT_EQ(AsOf(caller(), kEuro, 2028, kLate), Days(2028));
 }
 
+TEST_P(ProceduresContract, ACalendarIsGivenAsACallLeftIt) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto empty = Days(2028);
+  ASSERT_EQ(Apply(kEuro, 2028, R"([{"Name1": "A", "TID1": 3, "Dates": ["2028-01-05"]}])"), 0);
+  const auto planned = Days(2028);
+  ASSERT_EQ(Undo(2), 0);
+  ASSERT_EQ(Undo(1), 0);
+  const auto as_of = [&](const Value& entry) {
+    return CalendarOf(caller().Call("CldGetAsOf", {{"ID1", kEuro}, {"Year1", 2028}, {"EntryID", entry}}));
+  };
+  EXPECT_EQ(as_of(0), std::nullopt);
+  EXPECT_EQ(as_of(1), empty);
+  EXPECT_EQ(as_of(2), planned);
+  EXPECT_EQ(as_of(3), empty);
+  EXPECT_EQ(as_of(4), std::nullopt);
+  EXPECT_EQ(as_of(77), std::nullopt);
+}
+
+TEST_P(ProceduresContract, ACalendarIsGivenAsOfAMomentOrOfACall) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto returned = [&](const Value& moment, const Value& entry) {
+    return caller().Return("CldGetAsOf",
+                           {{"ID1", kEuro}, {"Year1", 2028}, {"Moment", moment}, {"EntryID", entry}});
+  };
+  EXPECT_EQ(returned({}, {}), 7);
+  EXPECT_EQ(returned(kLate, 1), 7);
+  EXPECT_EQ(returned({}, -1), 7);
+  EXPECT_EQ(returned({}, 1), 0);
+  EXPECT_EQ(returned(kLate, {}), 0);
+}
+
 TEST_P(ProceduresContract, AMomentHasOneForm) {
   ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
   const auto at = [&](const Value& moment) {
@@ -135,6 +166,7 @@ TEST_P(ProceduresContract, ACalendarAsItWasIsRefusedLikeTheDays) {
 TEST_P(ProceduresContract, EveryMomentOfTwoThousandRandomCallsIsGivenAsItWas) {
   struct Record {
     std::string moment;
+    Value entry;
     int currency;
     int year;
     Calendar calendar;
@@ -159,13 +191,17 @@ TEST_P(ProceduresContract, EveryMomentOfTwoThousandRandomCallsIsGivenAsItWas) {
     while (!records.empty() && records.back().moment == moment) records.pop_back();
     const int currency = calls.Currency();
     const int year = calls.Year();
-    records.push_back({moment, currency, year,
+    records.push_back({moment, last_entry, currency, year,
                        CalendarOf(caller.Call("CldGetMain", {{"ID1", currency}, {"Year1", year}}))});
   }
   int wrong = 0;
-  for (const auto& [moment, currency, year, calendar] : records) {
+  for (const auto& [moment, entry, currency, year, calendar] : records) {
     const Arguments then = {{"ID1", currency}, {"Year1", year}, {"Moment", moment}};
-    if (CalendarOf(caller.Call("CldGetAsOf", then)) == calendar) continue;
+    const Arguments behind = {{"ID1", currency}, {"Year1", year}, {"EntryID", entry}};
+    if (CalendarOf(caller.Call("CldGetAsOf", then)) == calendar &&
+        CalendarOf(caller.Call("CldGetAsOf", behind)) == calendar) {
+      continue;
+    }
     ADD_FAILURE() << "the calendar " << currency << " of " << year << " as of " << moment;
     if (++wrong == 3) break;
   }

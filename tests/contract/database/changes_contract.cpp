@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "ferrowind/platform/database/json_value.h"
 #include "ferrowind/platform/values/conversion.h"
 
 #include "tests/contract/database/procedures_contract.h"
@@ -15,6 +16,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
+using ::testing::Not;
 using ::testing::SizeIs;
 
 constexpr const char* kException = R"([{"TID1": 1, "Dates": ["2028-02-29"], "DayComment": "why"}])";
@@ -44,7 +46,7 @@ TEST_P(ProceduresContract, TheHistoryHasTheNewestEntryFirst) {
   for (const auto& moment : TextsOf(*history, "Moment")) {
     EXPECT_THAT(moment, MatchesRegex("....-..-..T..:..:......Z"));
   }
-  EXPECT_THAT(TextsOf(*history, "UserName").at(0), ::testing::Not(IsEmpty()));
+  EXPECT_THAT(TextsOf(*history, "UserName").at(0), Not(IsEmpty()));
 }
 
 TEST_P(ProceduresContract, TheHistoryOfACalendarAndOfACurrencyIsFound) {
@@ -96,6 +98,121 @@ TEST_P(ProceduresContract, TheHistoryIsGivenInPages) {
   EXPECT_THAT(entries({{"Before", 1}}), IsEmpty());
   EXPECT_THAT(entries({{"Year1", 2003}, {"Before", 5}}), ElementsAre("4"));
   EXPECT_THAT(entries({{"Year1", 2003}, {"Before", 4}}), IsEmpty());
+}
+
+TEST_P(ProceduresContract, TheHistoryOfAUserIsFoundAndTellsWhoAsks) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto own = caller().Call("CldGetHistory");
+  const auto asker = TextsOf(*own.record_sets.at(1), "UserName");
+  ASSERT_THAT(asker, ElementsAre(Not(IsEmpty())));
+  EXPECT_EQ(TextsOf(*own.record_sets.at(0), "UserName"), asker);
+  const auto entries = [&](const std::string& user) {
+    return TextsOf(*caller().Call("CldGetHistory", {{"UserName", user}}).record_sets.at(0), "EntryID");
+  };
+  EXPECT_THAT(entries(asker.front()), ElementsAre("1"));
+  EXPECT_THAT(entries(asker.front() + "x"), IsEmpty());
+}
+
+TEST_P(ProceduresContract, AnEntryTellsTheNameThatItsRuleHadThen) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto rule = AddWeekdayRule("Sunday", 1);
+  const auto give = [&] {
+    return caller().Return("CldIUMain", {{"ID1", kEuro}, {"Year1", 2028}, {"TID1", 2}, {"ID2", rule}});
+  };
+  ASSERT_EQ(give(), 0);
+  ASSERT_EQ(caller().Return("CldIUCelebrate", {{"ID2", rule}, {"Name1", "Rest"}, {"TID1", 2}, {"WD", 1}}), 0);
+  ASSERT_EQ(give(), 0);
+  ASSERT_EQ(caller().Return("CldIUCelebrate", {{"ID2", rule}, {"Del", 2}}), 0);
+  const auto history = caller().Call("CldGetHistory").record_sets.at(0);
+  EXPECT_THAT(TextsOf(*history, "Name1"), ElementsAre("Rest", "Rest", "Rest", "Sunday", "", ""));
+}
+
+TEST_P(ProceduresContract, AnEntryTellsTheNameOfARuleThatIsGone) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  const auto gone = AddWeekdayRule("Sunday", 1);
+  ASSERT_EQ(caller().Return("CldIUCelebrate", {{"ID2", gone}, {"Del", 2}}), 0);
+  ASSERT_EQ(Undo(3), 0);
+  ASSERT_EQ(Undo(2), 0);
+  // On an engine that gives numbers again the new rule has that of the old one.
+  AddWeekdayRule("Monday", 2);
+  const auto history = caller().Call("CldGetHistory").record_sets.at(0);
+  EXPECT_THAT(TextsOf(*history, "Name1"), ElementsAre("", "", "", "Sunday", "", ""));
+}
+
+/// The rows that the call of the entry replaced, but days and calendars: table, keys, before and behind.
+std::vector<Row> Replaced(ProcedureCaller& caller, int entry) {
+  const auto outcome = caller.Call("CldGetHistory", {{"EntryID", entry}});
+  EXPECT_THAT(TextsOf(*outcome.record_sets.at(0), "EntryID"), ElementsAre(std::to_string(entry)));
+  return RowsOf(*outcome.record_sets.at(2));
+}
+
+std::string MemberOf(const Row& row, std::size_t field, const char* name) {
+  const auto json = platform::ReadJson(platform::ToTextOrEmpty(row.at(field)));
+  if (!json || json->Find(name) == nullptr) return "none";
+  return json->Find(name)->text;
+}
+
+constexpr std::size_t kBefore = 4;
+constexpr std::size_t kBehind = 5;
+
+TEST_P(ProceduresContract, AnEntryTellsTheRuleBeforeAndBehindItsCall) {
+  const auto rule = AddWeekdayRule("Sunday", 1);
+  ASSERT_EQ(caller().Return("CldIUCelebrate",
+                            {{"ID2", rule}, {"Name1", "Rest"}, {"TID1", 2}, {"WD", 7}, {"Comment", "c"}}),
+            0);
+  ASSERT_EQ(caller().Return("CldIUCelebrate", {{"ID2", rule}, {"Del", 2}}), 0);
+  for (int entry = 1; entry <= 3; ++entry) {
+    const auto rows = Replaced(caller(), entry);
+    ASSERT_THAT(rows, SizeIs(1));
+    EXPECT_EQ(Row(rows[0].begin(), rows[0].begin() + kBefore), (Row{"CldHoliday", {}, rule, {}}));
+    EXPECT_EQ(MemberOf(rows[0], kBefore, "Name1"), entry == 1 ? "none" : entry == 2 ? "Sunday" : "Rest");
+    EXPECT_EQ(MemberOf(rows[0], kBehind, "Name1"), entry == 1 ? "Sunday" : "Rest");
+    EXPECT_EQ(MemberOf(rows[0], kBehind, "WD"), entry == 1 ? "1" : "7");
+    EXPECT_EQ(MemberOf(rows[0], kBehind, "Comment"), entry == 1 ? "" : "c");
+    EXPECT_EQ(MemberOf(rows[0], kBehind, "Del"), entry == 3 ? "2" : "");
+  }
+  EXPECT_THAT(RowsOf(*caller().Call("CldGetHistory").record_sets.at(2)), IsEmpty());
+  EXPECT_THAT(RowsOf(*caller().Call("CldGetHistory", {{"EntryID", 77}}).record_sets.at(0)), IsEmpty());
+}
+
+TEST_P(ProceduresContract, AnEntryTellsTheBookBeforeAndBehindItsCall) {
+  ASSERT_EQ(StoreBook(kEuro, R"([{"Name1": "A", "TID1": 3, "Expression": "01-01"},
+                                 {"Name1": "B", "TID1": 3, "Expression": "12-25"}])"),
+            0);
+  ASSERT_EQ(StoreBook(kEuro, R"([{"Name1": "A", "TID1": 3, "Expression": "01-01"},
+                                 {"Name1": "B", "TID1": 3, "Expression": "12-26"}])"),
+            0);
+  const auto made = Replaced(caller(), 1);
+  ASSERT_THAT(made, SizeIs(3));
+  EXPECT_EQ(made[0].at(0), Value("CldBook"));
+  EXPECT_EQ(made[0].at(1), Value(kEuro));
+  EXPECT_EQ(made[0].at(kBefore), Value());
+  EXPECT_EQ(MemberOf(made[0], kBehind, "Publisher"), "Publisher");
+  EXPECT_EQ(made[2].at(3), Value(2));
+  EXPECT_EQ(MemberOf(made[2], kBehind, "Expression"), "12-25");
+  const auto changed = Replaced(caller(), 2);
+  ASSERT_THAT(changed, SizeIs(1));
+  EXPECT_EQ(Row(changed[0].begin(), changed[0].begin() + kBefore), (Row{"CldRecurrence", kEuro, {}, 2}));
+  EXPECT_EQ(MemberOf(changed[0], kBefore, "Expression"), "12-25");
+  EXPECT_EQ(MemberOf(changed[0], kBehind, "Expression"), "12-26");
+}
+
+TEST_P(ProceduresContract, AnEntryTellsTheCurrencyBeforeAndBehindItsCall) {
+  const auto store = [&](const Value& last_day) {
+    return caller().Return("CldIUCurrency", {{"CcyID", kEuro},
+                                             {"Ccy", "EUR"},
+                                             {"CcyType", std::int16_t{0}},
+                                             {"Name", "Money"},
+                                             {"LastDay", last_day}});
+  };
+  ASSERT_EQ(store({}), 0);
+  ASSERT_EQ(store(Date(2030, 12, 31)), 0);
+  const auto rows = Replaced(caller(), 2);
+  ASSERT_THAT(rows, SizeIs(1));
+  EXPECT_EQ(Row(rows[0].begin(), rows[0].begin() + kBefore), (Row{"DicCcy", kEuro, {}, {}}));
+  EXPECT_EQ(MemberOf(rows[0], kBefore, "LastDay"), "");
+  EXPECT_EQ(MemberOf(rows[0], kBehind, "LastDay"), "2030-12-31");
+  EXPECT_EQ(MemberOf(rows[0], kBehind, "Name"), "Money");
 }
 
 TEST_P(ProceduresContract, AHistoryIsRefusedForValuesOutOfRange) {

@@ -1,13 +1,13 @@
-#include "ferrowind/adapters/headless/memory_json.h"
+#include "ferrowind/platform/database/json_value.h"
 
 #include <string>
 
 #include <gtest/gtest.h>
 
-namespace ferrowind::headless {
+namespace ferrowind::platform {
 namespace {
 
-TEST(MemoryJson, ReadsValuesOfEveryKind) {
+TEST(JsonValue, ReadsValuesOfEveryKind) {
   const auto json = ReadJson(
       " {\"a\" : [1, -2.5e+3, true, false, null], "
       "\"b\":\"x\\\"\\\\\\/\\b\\f\\n\\r\\t\\u00e9\\ud83d\\ude00\"} ");
@@ -26,7 +26,7 @@ TEST(MemoryJson, ReadsValuesOfEveryKind) {
   EXPECT_EQ(json->items[1].text, "x\"\\/\b\f\n\r\t\u00e9\U0001F600");
 }
 
-TEST(MemoryJson, ReadsNothingElse) {
+TEST(JsonValue, ReadsNothingElse) {
   for (const char* text : {"",
                            " ",
                            "[",
@@ -61,10 +61,10 @@ TEST(MemoryJson, ReadsNothingElse) {
   }
 }
 
-TEST(MemoryJson, GoesAHundredDeepAtMost) {
+TEST(JsonValue, GoesAHundredDeepAtMost) {
   EXPECT_TRUE(ReadJson(std::string(100, '[') + std::string(100, ']')));
   EXPECT_FALSE(ReadJson(std::string(200, '[') + std::string(200, ']')));
 }
 
 }  // namespace
-}  // namespace ferrowind::headless
+}  // namespace ferrowind::platform

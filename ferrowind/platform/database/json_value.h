@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ferrowind::platform {
+
+/// A value of a JSON text.
+struct JsonValue {
+  enum class Kind { kNull, kTruth, kNumber, kText, kList, kObject };
+
+  Kind kind = Kind::kNull;
+  /// Of a text what it says; of a number and a truth value how it is written.
+  std::string text;
+  /// Of a list and, beside their names, of an object, which may have a name twice.
+  std::vector<JsonValue> items;
+  std::vector<std::string> names;
+
+  /// The first member of that name; null when there is none, or this is no object.
+  [[nodiscard]] const JsonValue* Find(std::string_view name) const;
+};
+
+/// Reads JSON (RFC 8259). Nothing when `text` is something else, is nested more than 100 deep, or has a text
+/// with the character NUL or with half a surrogate pair in it, which databases do not keep.
+[[nodiscard]] std::optional<JsonValue> ReadJson(std::string_view text);
+
+}  // namespace ferrowind::platform
