@@ -1,7 +1,8 @@
 -- Entries of the history, the newest first: all, or those of a currency ID1, of a year Year1, of one day's changes (Day1,
 -- with both; the creation and the removal of its calendar are among them), before the entry Before, of the user UserName, or
 -- the entry EntryID; at most Count, 100 when it is not given. Name1 is the name that the rule of the parameter ID2 had
--- behind the call. Behind them comes who asks, and then what the call of the entry EntryID replaced besides days and
+-- behind the call; KeepsRows 0 says that nothing can be put back: the call left everything as it was, or is older than what
+-- the history keeps. Behind them comes who asks, and then what the call of the entry EntryID replaced besides days and
 -- calendars: each row's key, and its other columns before and behind the call as JSON, null where there was no such row.
 -- Returns 0; 7 Day1 without its calendar, or Count out of range.
 CREATE PROCEDURE CldGetHistory(
@@ -19,6 +20,8 @@ CREATE PROCEDURE CldGetHistory(
 )
 LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp
 AS $$
+DECLARE
+  replaced json;
 BEGIN
   IF "Day1" IS NOT NULL AND ("ID1" IS NULL OR "Year1" IS NULL) OR "Count" NOT BETWEEN 1 AND 10000 THEN
     "RETURN_VALUE" := 7;
@@ -35,7 +38,8 @@ BEGIN
         SELECT later.OldRow ->> 'Name1' FROM CldHistoryRow later
         WHERE later.ID2 = (h.Parameters ->> 'ID2')::integer AND later.EntryID > h.EntryID
         ORDER BY later.EntryID LIMIT 1
-      ), (SELECT rule.Name1 FROM CldHoliday rule WHERE rule.ID2 = (h.Parameters ->> 'ID2')::integer)) AS "Name1"
+      ), (SELECT rule.Name1 FROM CldHoliday rule WHERE rule.ID2 = (h.Parameters ->> 'ID2')::integer)) AS "Name1",
+      (EXISTS (SELECT FROM CldHistoryRow kept WHERE kept.EntryID = h.EntryID))::integer AS "KeepsRows"
     FROM CldHistory h
     WHERE ("ID1" IS NULL OR h.ID1 = "ID1") AND ("Year1" IS NULL OR h.Year1 = "Year1")
       AND ("Before" IS NULL OR h.EntryID < "Before")
@@ -48,15 +52,18 @@ BEGIN
 
   OPEN "Asker" FOR SELECT session_user::text AS "UserName";
 
+  -- Looked up here, where the functions find the tables; a cursor's rows are fetched when the call is over.
+  SELECT json_agg(json_build_object('TableName', kept.TableName, 'ID1', kept.ID1, 'ID2', kept.ID2, 'Position', kept.Position,
+    'OldRow', kept.OldRow::text,
+    'NewRow', CASE WHEN next.EntryID IS NULL THEN ContentNow(kept) ELSE next.OldRow END::text) ORDER BY kept.RowNumber)
+  INTO replaced
+  FROM CldHistoryRow kept
+    LEFT JOIN NextChanges("EntryID") AS next ON next.TableName = kept.TableName
+      AND (next.ID1, next.ID2, next.Position) IS NOT DISTINCT FROM (kept.ID1, kept.ID2, kept.Position)
+  WHERE kept.EntryID = "EntryID" AND kept.TableName NOT IN ('CldCalendar', 'CldDay');
   OPEN "Rows" FOR
-    SELECT kept.TableName AS "TableName", kept.ID1 AS "ID1", kept.ID2 AS "ID2", kept.Position AS "Position",
-      kept.OldRow::text AS "OldRow",
-      CASE WHEN next.EntryID IS NULL THEN ContentNow(kept) ELSE next.OldRow END::text AS "NewRow"
-    FROM CldHistoryRow kept
-      LEFT JOIN NextChanges("EntryID") AS next ON next.TableName = kept.TableName
-        AND (next.ID1, next.ID2, next.Position) IS NOT DISTINCT FROM (kept.ID1, kept.ID2, kept.Position)
-    WHERE kept.EntryID = "EntryID" AND kept.TableName NOT IN ('CldCalendar', 'CldDay')
-    ORDER BY kept.RowNumber;
+    SELECT * FROM json_to_recordset(coalesce(replaced, '[]')) AS kept ("TableName" text, "ID1" integer, "ID2" integer,
+      "Position" integer, "OldRow" text, "NewRow" text);
   "RETURN_VALUE" := 0;
 END
 $$;

@@ -8,7 +8,8 @@
 -- parameter @EntryID int32
 -- The calls for the currency ID1 and the year Year1, whichever is given, the newest first; with Day1 those that changed
 -- that day, or made or removed its calendar. Only entries before the entry Before, those of the user UserName, the entry
--- EntryID, and Count at most (100). Name1 is the name that the rule of the parameter ID2 had behind the call.
+-- EntryID, and Count at most (100). Name1 is the name that the rule of the parameter ID2 had behind the call; KeepsRows 0
+-- says that nothing can be put back: the call left everything as it was, or is older than what the history keeps.
 -- Behind the entries comes who asks, and then what the call of the entry EntryID replaced besides days and calendars: each
 -- row's key, and its other columns before and behind the call as JSON, NULL where there was no such row.
 -- Returns 0; 7 a value is out of range, or a day is given without its calendar.
@@ -42,7 +43,8 @@ SELECT e.EntryID, e.Moment, e.UserName, e.ProcedureName, e.ID1, e.Year1, e.Param
       AND l.Position IS NULL AND l.EntryID > e.EntryID
     ORDER BY l.EntryID
     LIMIT 1
-  ), (SELECT h.Name1 FROM CldHoliday h WHERE h.ID2 = e.ID2)) AS Name1
+  ), (SELECT h.Name1 FROM CldHoliday h WHERE h.ID2 = e.ID2)) AS Name1,
+  EXISTS (SELECT 1 FROM CldHistoryRow r WHERE r.EntryID = e.EntryID) AS KeepsRows
 FROM Entry e
 ORDER BY e.EntryID DESC;
 

@@ -117,6 +117,7 @@ void MemoryDatabase::AddToHistory(const MemoryProcedure& procedure, const std::v
   MemoryEntry entry;
   entry.id = static_cast<std::int32_t>(history_.size()) + 1;
   entry.moment = platform::MomentNow();
+  entry.user = user_;
   entry.procedure = procedure.name;
   entry.currency = InputNamed("@ID1", procedure, inputs);
   entry.year = InputNamed("@Year1", procedure, inputs);

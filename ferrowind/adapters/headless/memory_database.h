@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ferrowind/adapters/headless/memory_history.h"
@@ -44,6 +45,9 @@ class MemoryDatabase {
                     MemoryProcedure::Kind kind = MemoryProcedure::Kind::kUnrecorded);
   /// Of the calls; lives as long as the database.
   [[nodiscard]] const MemoryHistory& History() const { return history_; }
+  /// Whom the history names for the calls from now on; "memory" at first.
+  void SetUser(std::string user) { user_ = std::move(user); }
+  [[nodiscard]] const std::string& User() const { return user_; }
   /// Found without regard to case; a failure that names it when there is none.
   [[nodiscard]] const MemoryProcedure& ProcedureNamed(const std::string& name) const;
   /// Calls it in a transaction, as `platform::Connection::Call` promises.
@@ -58,6 +62,7 @@ class MemoryDatabase {
 
   MemoryTables tables_;
   MemoryHistory history_;
+  std::string user_ = "memory";
   std::vector<MemoryProcedure> procedures_;
 };
 

@@ -43,6 +43,7 @@ void PutBack(const MemoryChanges& changes, MemoryTables& tables);
 struct MemoryEntry {
   std::int32_t id = 0;
   std::string moment;
+  std::string user;
   std::string procedure;
   /// Numbers, or empty when the call was for no calendar.
   platform::Value currency;

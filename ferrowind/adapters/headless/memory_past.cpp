@@ -21,8 +21,6 @@ using platform::Value;
 // CldGetHistory
 // ------------------------------------------------------------------------------------------------------
 
-constexpr const char* kUser = "memory";
-
 bool Concerns(const MemoryEntry& entry, const CalendarKey& calendar, std::int32_t day) {
   return entry.changes.calendars.contains(calendar) || entry.changes.days.contains({calendar, day});
 }
@@ -135,8 +133,9 @@ struct Wanted {
     const auto is_wanted = [](const Value& wanted, const Value& value) {
       return wanted.IsEmpty() || wanted == value;
     };
-    return is_wanted(currency, found.currency) && is_wanted(year, found.year) && is_wanted(user, kUser) &&
-           is_wanted(entry, found.id) && (before.IsEmpty() || found.id < platform::ToInt32(before)) &&
+    return is_wanted(currency, found.currency) && is_wanted(year, found.year) &&
+           is_wanted(user, found.user) && is_wanted(entry, found.id) &&
+           (before.IsEmpty() || found.id < platform::ToInt32(before)) &&
            (day.IsEmpty() ||
             Concerns(found, {platform::ToInt32(currency), platform::ToInt32(year)}, platform::ToInt32(day)));
   }
@@ -155,8 +154,9 @@ struct Wanted {
   const Value& entry;
 };
 
-CallOutcome GetHistory(const MemoryHistory& history, const MemoryTables& tables,
+CallOutcome GetHistory(const MemoryDatabase& database, const MemoryTables& tables,
                        const std::vector<Value>& inputs) {
+  const MemoryHistory& history = database.History();
   const Wanted wanted(inputs);
   if (!wanted.IsInRange()) return {kWrongValue, {}};
   Rows rows;
@@ -164,17 +164,18 @@ CallOutcome GetHistory(const MemoryHistory& history, const MemoryTables& tables,
   for (auto next = history.end(); next != history.begin() && rows.size() < wanted.Most(); --next) {
     const auto entry = std::prev(next);
     if (!wanted.Fits(*entry)) continue;
-    rows.push_back({entry->id, entry->moment, kUser, entry->procedure, entry->currency, entry->year,
-                    entry->parameters, entry->changes.CountRows(), RuleNameBehind(entry, history, tables)});
+    rows.push_back({entry->id, entry->moment, entry->user, entry->procedure, entry->currency, entry->year,
+                    entry->parameters, entry->changes.CountRows(), RuleNameBehind(entry, history, tables),
+                    std::int32_t{entry->changes.CountRows() == 0 ? 0 : 1}});
   }
   if (!wanted.entry.IsEmpty() && IsBetween(wanted.entry, 1, static_cast<std::int32_t>(history.size()))) {
     replaced = RowsOf(history[static_cast<std::size_t>(platform::ToInt32(wanted.entry)) - 1].changes);
   }
   return {kDone,
           {Records({"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters",
-                    "RowsChanged", "Name1"},
+                    "RowsChanged", "Name1", "KeepsRows"},
                    std::move(rows)),
-           Records({"UserName"}, {{kUser}}),
+           Records({"UserName"}, {{database.User()}}),
            Records({"TableName", "ID1", "ID2", "Position", "OldRow", "NewRow"}, std::move(replaced))}};
 }
 
@@ -236,8 +237,8 @@ void AddPastProcedures(MemoryDatabase& database) {
                          {"@Count", kNumber},
                          {"@UserName", ParameterType::kText},
                          {"@EntryID", kNumber}},
-                        [&history](MemoryTables& tables, const std::vector<Value>& inputs) {
-                          return GetHistory(history, tables, inputs);
+                        [&database](MemoryTables& tables, const std::vector<Value>& inputs) {
+                          return GetHistory(database, tables, inputs);
                         });
   database.AddProcedure(
       "CldGetAsOf",

@@ -139,6 +139,17 @@ TEST_P(ProceduresContract, AnEntryTellsTheNameOfARuleThatIsGone) {
   EXPECT_THAT(TextsOf(*history, "Name1"), ElementsAre("", "", "", "Sunday", "", ""));
 }
 
+TEST_P(ProceduresContract, AnEntryTellsWhetherItKeepsRows) {
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  ASSERT_EQ(Apply(kEuro, 2028, kException), 0);
+  ASSERT_EQ(caller().Return(
+                "CldIUMain",
+                {{"ID1", kEuro}, {"Year1", 2028}, {"TID1", 1}, {"ID2", 1}, {"Day1", 60}, {"Comment", "why"}}),
+            0);
+  const auto history = caller().Call("CldGetHistory").record_sets.at(0);
+  EXPECT_THAT(TextsOf(*history, "KeepsRows"), ElementsAre("0", "1", "1"));
+}
+
 /// The rows that the call of the entry replaced, but days and calendars: table, keys, before and behind.
 std::vector<Row> Replaced(ProcedureCaller& caller, int entry) {
   const auto outcome = caller.Call("CldGetHistory", {{"EntryID", entry}});

@@ -1,0 +1,182 @@
+#include "ferrowind/planning/entry_changes.h"
+
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/one_line.h"
+#include "ferrowind/platform/database/json_value.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using platform::Date;
+using platform::JsonValue;
+
+// Days
+// -----------------------------------------------------------------------------------------------------------
+
+std::string LongDay(const Date& date) {
+  return std::string(almanac::WeekdayName(date.Weekday())) + " " + almanac::LongDate(date.Serial());
+}
+
+bool IsSame(const PastDay& left, const PastDay& right) {
+  return left.type == right.type && left.rule == right.rule && left.comment == right.comment;
+}
+
+bool IsOrdinary(const PastDay& day) { return !day.rule && day.comment.empty(); }
+
+void AddDays(const PastCalendar& before, const PastCalendar& behind, const std::string& calendar,
+             EntryChanges& changes) {
+  using State = PastCalendar::State;
+  if (before.state == State::kNotKept || behind.state == State::kNotKept) {
+    changes.remark = "The history does not keep what was there before: the call is older than its upgrade.";
+    return;
+  }
+  const bool was_there = before.state == State::kThere;
+  const bool is_there = behind.state == State::kThere;
+  const auto days_of = [](const PastCalendar& past) { return std::to_string(past.days.size()) + " days"; };
+  if (!was_there && !is_there) return;
+  if (!was_there) changes.changes.push_back({"Calendar " + calendar, "", days_of(behind)});
+  if (!is_there) changes.changes.push_back({"Calendar " + calendar, days_of(before), ""});
+  const std::size_t count = was_there ? before.days.size() : behind.days.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    if (was_there && is_there) {
+      if (IsSame(before.days[i], behind.days[i])) continue;
+      changes.changes.push_back(
+          {LongDay(before.days[i].date), DayInWords(before.days[i]), DayInWords(behind.days[i])});
+      continue;
+    }
+    const PastDay& day = was_there ? before.days[i] : behind.days[i];
+    if (IsOrdinary(day)) continue;
+    changes.changes.push_back(
+        {LongDay(day.date), was_there ? DayInWords(day) : "", was_there ? "" : DayInWords(day)});
+  }
+}
+
+// Rows
+// -----------------------------------------------------------------------------------------------------------
+
+/// The weekday that the rules' weekdays count from, 1 Sunday to 7 Saturday.
+int LoadFirstDay() {
+  const CallAnswer answer = CallDatabase("Reading the first day of the week", "CldAllInfo", {}, 4);
+  platform::RecordSet& setting = *answer.record_sets[3];
+  setting.MoveFirst();
+  return setting.Eof() ? 1 : platform::ToInt32(setting["FirstDay"]);
+}
+
+std::string TypeText(const std::string& number) {
+  if (number == "1") return "working day";
+  if (number == "2") return "weekday";
+  if (number == "3") return "celebration";
+  if (number == "4") return "holiday point";
+  return number;
+}
+
+std::string DateText(const std::string& iso) {
+  const auto date = Date::FromIso(iso);
+  return date ? almanac::LongDate(date->Serial()) : iso;
+}
+
+std::string WeekdayText(const std::string& number) {
+  if (number.size() != 1 || number < "1" || number > "7") return number;
+  return std::string(almanac::WeekdayName((number.front() - '1' + LoadFirstDay() - 1) % 7 + 1));
+}
+
+std::string AsItStands(const std::string& text) { return text; }
+
+/// How a column of any of the tables is told.
+struct Column {
+  std::string_view name;
+  const char* label;
+  std::string (*tell)(const std::string& value);
+};
+
+std::string RemovalText(const std::string& mark) { return mark == "2" ? "yes" : "no"; }
+std::string MoneyText(const std::string& type) { return type == "0" ? "money" : "no money"; }
+
+const Column kColumns[] = {{"Name1", "name", AsItStands},
+                           {"TID1", "type", TypeText},
+                           {"D1", "date", DateText},
+                           {"WD", "weekday", WeekdayText},
+                           {"Del", "removed", RemovalText},
+                           {"Expression", "dates", AsItStands},
+                           {"MovedName", "name of a moved day", AsItStands},
+                           {"Comment", "comment", AsItStands},
+                           {"Publisher", "publisher", AsItStands},
+                           {"Document", "document", AsItStands},
+                           {"Ccy", "code", AsItStands},
+                           {"CcyType", "kind", MoneyText},
+                           {"Name", "name", AsItStands},
+                           {"LastDay", "last day as money", DateText}};
+
+/// Nothing when there was no such row, or no value in it.
+std::string MemberText(const JsonValue& row, const Column& column) {
+  const JsonValue* const value = row.Find(column.name);
+  if (value == nullptr || value->kind == JsonValue::Kind::kNull) return "";
+  return column.tell(value->text);
+}
+
+JsonValue RowIn(const std::string& json) { return platform::ReadJson(json).value_or(JsonValue()); }
+
+std::string NameOf(const JsonValue& before, const JsonValue& behind, std::string_view member) {
+  for (const JsonValue* const row : {&before, &behind}) {
+    const JsonValue* const name = row->Find(member);
+    if (name != nullptr && name->kind == JsonValue::Kind::kText) return name->text;
+  }
+  return "";
+}
+
+std::string CodeOf(const ReplacedRow& row, const CurrencyList& currencies) {
+  if (!row.currency) return "";
+  const Currency* const currency = currencies.Find(*row.currency);
+  return currency != nullptr ? currency->code : std::to_string(*row.currency);
+}
+
+std::string SubjectOf(const ReplacedRow& row, const JsonValue& before, const JsonValue& behind,
+                      const CurrencyList& currencies) {
+  if (row.table == "CldHoliday") return "Rule " + NameOf(before, behind, "Name1");
+  if (row.table == "DicCcy") return "Currency " + NameOf(before, behind, "Ccy");
+  const std::string book = "Rule book of " + CodeOf(row, currencies);
+  if (!row.position) return book;
+  return book + ", rule " + std::to_string(*row.position);
+}
+
+void AddRow(const ReplacedRow& row, const CurrencyList& currencies, EntryChanges& changes) {
+  const JsonValue before = RowIn(row.before);
+  const JsonValue behind = RowIn(row.behind);
+  const std::string subject = SubjectOf(row, before, behind, currencies);
+  for (const Column& column : kColumns) {
+    std::string was = MemberText(before, column);
+    std::string is = MemberText(behind, column);
+    if (was != is) changes.changes.push_back({subject + ": " + column.label, std::move(was), std::move(is)});
+  }
+}
+
+}  // namespace
+
+std::string DayInWords(const PastDay& day) {
+  std::string words = day.rule ? day.name : "Working day";
+  if (!day.comment.empty()) words += ": " + day.comment;
+  return OneLine(std::move(words));
+}
+
+EntryChanges LoadChanges(const HistoryEntry& entry, const CurrencyList& currencies) {
+  EntryChanges changes;
+  if (const auto detailed = LoadEntry(entry.id)) {
+    for (const ReplacedRow& row : detailed->rows) AddRow(row, currencies, changes);
+  }
+  if (entry.currency && entry.year) {
+    const Currency* const currency = currencies.Find(*entry.currency);
+    const std::string code = currency != nullptr ? currency->code : std::to_string(*entry.currency);
+    AddDays(LoadCalendarBehind(*entry.currency, *entry.year, entry.id - 1),
+            LoadCalendarBehind(*entry.currency, *entry.year, entry.id),
+            code + " " + std::to_string(*entry.year), changes);
+  }
+  return changes;
+}
+
+}  // namespace ferrowind::planning

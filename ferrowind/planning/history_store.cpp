@@ -1,0 +1,118 @@
+#include "ferrowind/planning/history_store.h"
+
+#include <utility>
+
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/platform/values/conversion.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using platform::RecordSet;
+using platform::Value;
+
+constexpr std::int32_t kChangedSince = 9;
+
+std::optional<std::int32_t> NumberOrNothing(const Value& value) {
+  if (value.IsEmpty()) return std::nullopt;
+  return platform::ToInt32(value);
+}
+
+HistoryEntry EntryIn(const RecordSet& rows) {
+  HistoryEntry entry;
+  entry.id = platform::ToInt32(rows["EntryID"]);
+  entry.moment = platform::ToText(rows["Moment"]);
+  entry.user = platform::ToText(rows["UserName"]);
+  entry.procedure = platform::ToText(rows["ProcedureName"]);
+  entry.currency = NumberOrNothing(rows["ID1"]);
+  entry.year = NumberOrNothing(rows["Year1"]);
+  entry.parameters = platform::ToTextOrEmpty(rows["Parameters"]);
+  entry.rows_changed = platform::ToInt32(rows["RowsChanged"]);
+  entry.rule = platform::ToTextOrEmpty(rows["Name1"]);
+  entry.keeps_rows = platform::ToInt32(rows["KeepsRows"]) != 0;
+  return entry;
+}
+
+std::vector<HistoryEntry> EntriesIn(RecordSet& rows) {
+  std::vector<HistoryEntry> entries;
+  for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) entries.push_back(EntryIn(rows));
+  return entries;
+}
+
+}  // namespace
+
+HistoryPage LoadHistory(const HistoryFilter& filter, std::optional<std::int32_t> before, std::int32_t count) {
+  SourceValues parameters;
+  if (filter.currency) parameters.Add("ID1", *filter.currency);
+  if (filter.year) parameters.Add("Year1", *filter.year);
+  if (filter.day_of_year) parameters.Add("Day1", *filter.day_of_year);
+  if (filter.user) parameters.Add("UserName", *filter.user);
+  if (before) parameters.Add("Before", *before);
+  // One more tells whether there is any.
+  parameters.Add("Count", count + 1);
+  const CallAnswer answer = CallDatabase("Reading the history", "CldGetHistory", parameters, 2);
+  HistoryPage page;
+  page.entries = EntriesIn(*answer.record_sets[0]);
+  page.has_older = page.entries.size() > static_cast<std::size_t>(count);
+  if (page.has_older) page.entries.pop_back();
+  RecordSet& asker = *answer.record_sets[1];
+  asker.MoveFirst();
+  if (!asker.Eof()) page.asker = platform::ToTextOrEmpty(asker["UserName"]);
+  return page;
+}
+
+std::optional<DetailedEntry> LoadEntry(std::int32_t id) {
+  SourceValues parameters;
+  parameters.Add("EntryID", id);
+  const CallAnswer answer = CallDatabase("Reading the entry " + std::to_string(id) + " of the history",
+                                         "CldGetHistory", parameters, 3);
+  std::vector<HistoryEntry> entries = EntriesIn(*answer.record_sets[0]);
+  if (entries.empty()) return std::nullopt;
+  DetailedEntry detailed{std::move(entries.front()), {}};
+  RecordSet& rows = *answer.record_sets[2];
+  for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+    detailed.rows.push_back({platform::ToText(rows["TableName"]), NumberOrNothing(rows["ID1"]),
+                             NumberOrNothing(rows["ID2"]), NumberOrNothing(rows["Position"]),
+                             platform::ToTextOrEmpty(rows["OldRow"]),
+                             platform::ToTextOrEmpty(rows["NewRow"])});
+  }
+  return detailed;
+}
+
+PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::int32_t entry) {
+  SourceValues parameters;
+  parameters.Add("ID1", currency);
+  parameters.Add("Year1", year);
+  parameters.Add("EntryID", entry);
+  const CallAnswer answer =
+      CallDatabase("Reading a calendar of " + std::to_string(year) + " as the entry " +
+                       std::to_string(entry) + " of the history left it",
+                   "CldGetAsOf", parameters, 1, {return_value::kUnknownCalendar, kChangedSince});
+  if (answer.return_value == return_value::kUnknownCalendar) return {PastCalendar::State::kNotThere, {}};
+  if (answer.return_value == kChangedSince) return {PastCalendar::State::kNotKept, {}};
+  PastCalendar calendar{PastCalendar::State::kThere, {}};
+  RecordSet& rows = *answer.record_sets.front();
+  for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+    calendar.days.push_back({platform::ToDate(rows["ODate"]), platform::ToInt32(rows["TID1"]),
+                             NumberOrNothing(rows["ID2"]), platform::ToTextOrEmpty(rows["Name1"]),
+                             platform::ToTextOrEmpty(rows["Comment"])});
+  }
+  return calendar;
+}
+
+UndoOutcome UndoEntry(const HistoryEntry& entry) {
+  SourceValues parameters;
+  parameters.Add("EntryID", entry.id);
+  const CallAnswer answer = CallDatabase("Undoing the entry " + std::to_string(entry.id), "CldUndo",
+                                         parameters, 0, {kChangedSince});
+  if (answer.return_value == return_value::kDone) return {true, std::nullopt};
+  UndoOutcome outcome;
+  if (!entry.currency || !entry.year) return outcome;
+  HistoryPage newest = LoadHistory({entry.currency, entry.year}, std::nullopt, 1);
+  if (!newest.entries.empty() && newest.entries.front().id > entry.id) {
+    outcome.later = std::move(newest.entries.front());
+  }
+  return outcome;
+}
+
+}  // namespace ferrowind::planning

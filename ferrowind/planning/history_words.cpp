@@ -1,0 +1,189 @@
+#include "ferrowind/planning/history_words.h"
+
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+#include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/one_line.h"
+#include "ferrowind/platform/database/json_value.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using platform::Date;
+using platform::JsonValue;
+using platform::ReadJson;
+
+/// Thrown for parameters that no call of the procedure has, and caught where the entry is told.
+struct CannotBeTold {};
+
+/// The parameters of a call by name.
+class Parameters {
+ public:
+  explicit Parameters(const std::string& json) {
+    auto object = ReadJson(json);
+    if (!object || object->kind != JsonValue::Kind::kObject) throw CannotBeTold();
+    object_ = std::move(*object);
+  }
+
+  [[nodiscard]] bool Has(std::string_view name) const {
+    const JsonValue* const value = object_.Find(name);
+    return value != nullptr && value->kind != JsonValue::Kind::kNull;
+  }
+  /// Empty when it was not given.
+  [[nodiscard]] std::string Text(std::string_view name) const {
+    if (!Has(name)) return "";
+    const JsonValue& value = *object_.Find(name);
+    if (value.kind != JsonValue::Kind::kText) throw CannotBeTold();
+    return value.text;
+  }
+  [[nodiscard]] std::string NeededText(std::string_view name) const {
+    std::string text = Text(name);
+    if (text.empty()) throw CannotBeTold();
+    return text;
+  }
+  [[nodiscard]] std::int32_t Number(std::string_view name) const {
+    const JsonValue* const value = object_.Find(name);
+    if (value == nullptr || value->kind != JsonValue::Kind::kNumber) throw CannotBeTold();
+    std::int32_t number = 0;
+    const std::string& digits = value->text;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc() || end != digits.data() + digits.size()) throw CannotBeTold();
+    return number;
+  }
+  /// The items of a list that was given as a text.
+  [[nodiscard]] std::vector<JsonValue> List(std::string_view name) const {
+    auto list = ReadJson(Text(name));
+    if (!list || list->kind != JsonValue::Kind::kList) throw CannotBeTold();
+    return std::move(list->items);
+  }
+
+ private:
+  JsonValue object_;
+};
+
+std::string Counted(std::size_t count, const std::string& noun) {
+  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+std::string DayText(const Parameters& parameters) {
+  const std::int32_t year = parameters.Number("Year1");
+  const std::int32_t day = parameters.Number("Day1");
+  if (year < 1 || year > 9999 || day < 1 || day > platform::DaysInYear(year)) throw CannotBeTold();
+  return almanac::LongDate(Date(year, 1, 1).AddDays(day - 1).Serial());
+}
+
+std::string NeededRule(const HistoryEntry& entry) {
+  if (entry.rule.empty()) throw CannotBeTold();
+  return entry.rule;
+}
+
+std::string WordsOfDays(const HistoryEntry& entry, const std::string& calendar) {
+  const Parameters parameters(entry.parameters);
+  if (!parameters.Has("TID1")) return "Created the calendar " + calendar;
+  constexpr std::int32_t kWorkingDay = 1;
+  if (parameters.Number("TID1") == kWorkingDay) {
+    const std::string reason = parameters.Text("Comment");
+    return "Excepted " + DayText(parameters) + (reason.empty() ? "" : ": " + reason);
+  }
+  if (parameters.Has("Day1")) return "Assigned " + NeededRule(entry) + " to " + DayText(parameters);
+  return "Assigned " + NeededRule(entry) + " to " +
+         Counted(static_cast<std::size_t>(entry.rows_changed), "day") + " of " +
+         std::to_string(parameters.Number("Year1"));
+}
+
+std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) {
+  std::size_t days = 0;
+  for (const JsonValue& item : Parameters(entry.parameters).List("Days")) {
+    const JsonValue* const dates = item.Find("Dates");
+    if (dates == nullptr || dates->kind != JsonValue::Kind::kList) throw CannotBeTold();
+    days += dates->items.size();
+  }
+  return "Prepared " + calendar + ": " + Counted(days, "day");
+}
+
+std::string WordsOfRule(const HistoryEntry& entry) {
+  const Parameters parameters(entry.parameters);
+  constexpr std::int32_t kRemoved = 2;
+  if (parameters.Has("Del")) {
+    return (parameters.Number("Del") == kRemoved ? "Removed the rule " : "Restored the rule ") +
+           NeededRule(entry);
+  }
+  return (parameters.Has("ID2") ? "Changed the rule " : "Added the rule ") + parameters.NeededText("Name1");
+}
+
+std::string WordsOfBook(const HistoryEntry& entry, const std::string& currency) {
+  const Parameters parameters(entry.parameters);
+  const std::string book = "the rule book of " + currency;
+  if (!parameters.Has("Rules")) return "Removed " + book;
+  return (parameters.Text("Expected").empty() ? "Added " : "Changed ") + book + ": " +
+         Counted(parameters.List("Rules").size(), "rule");
+}
+
+std::string WordsOfCurrency(const HistoryEntry& entry) {
+  const Parameters parameters(entry.parameters);
+  std::string words =
+      "Set the currency " + parameters.NeededText("Ccy") + " (" + parameters.NeededText("Name") + ")";
+  if (parameters.Number("CcyType") != 0) return words + ", no money";
+  if (!parameters.Has("LastDay")) return words;
+  const auto last_day = Date::FromIso(parameters.Text("LastDay"));
+  if (!last_day) throw CannotBeTold();
+  return words + ", money until " + almanac::LongDate(last_day->Serial());
+}
+
+std::string WordsOf(const HistoryEntry& entry, const std::string& calendar) {
+  try {
+    if (entry.procedure == "CldIUMain") return OneLine(WordsOfDays(entry, calendar));
+    if (entry.procedure == "CldApplyPlan") return OneLine(WordsOfPlan(entry, calendar));
+    if (entry.procedure == "CldIUCelebrate") return OneLine(WordsOfRule(entry));
+    if (entry.procedure == "CldIUBook") return OneLine(WordsOfBook(entry, calendar));
+    if (entry.procedure == "CldIUCurrency") return OneLine(WordsOfCurrency(entry));
+  } catch (const CannotBeTold&) {
+    // As it stands, below.
+  }
+  return OneLine(entry.procedure + " " + entry.parameters);
+}
+
+}  // namespace
+
+std::string ToldEntry::Sentence() const {
+  if (turns == 0) return change;
+  return (IsDoing() ? "Redid: " : "Undid: ") + change;
+}
+
+std::optional<std::int32_t> UndoneEntry(const HistoryEntry& entry) {
+  if (entry.procedure != "CldUndo") return std::nullopt;
+  try {
+    const std::int32_t undone = Parameters(entry.parameters).Number("EntryID");
+    // An entry undoes older ones alone, whatever else somebody may have written there.
+    if (undone < entry.id) return undone;
+  } catch (const CannotBeTold&) {
+    // Nobody knows which.
+  }
+  return std::nullopt;
+}
+
+HistoryWords::HistoryWords(const CurrencyList& currencies, EntryLookup find)
+    : currencies_(currencies), find_(std::move(find)) {}
+
+std::string HistoryWords::Calendar(const HistoryEntry& entry) const {
+  if (!entry.currency) return "";
+  const Currency* const currency = currencies_.Find(*entry.currency);
+  const std::string code = currency != nullptr ? currency->code : std::to_string(*entry.currency);
+  return code + (entry.year ? " " + std::to_string(*entry.year) : "");
+}
+
+ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {
+  HistoryEntry first = entry;
+  int turns = 0;
+  for (auto undone = UndoneEntry(first); undone; undone = UndoneEntry(first)) {
+    auto found = find_(*undone);
+    if (!found) break;
+    first = std::move(*found);
+    ++turns;
+  }
+  return {first.id, WordsOf(first, Calendar(first)), turns};
+}
+
+}  // namespace ferrowind::planning

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/history_store.h"
+
+namespace ferrowind::planning {
+
+/// Finds an entry by its number; nothing when there is none.
+using EntryLookup = std::function<std::optional<HistoryEntry>(std::int32_t id)>;
+
+/// What the call of an entry did in the end: an undone call's undoing does what the call did.
+struct ToldEntry {
+  /// The entry whose call did it first.
+  std::int32_t first = 0;
+  /// "Assigned Good Friday to 14 April 2028".
+  std::string change;
+  /// How often that was turned round: 0 it was done, 1 undone, 2 done again.
+  int turns = 0;
+
+  [[nodiscard]] bool IsDoing() const { return turns % 2 == 0; }
+  /// "Undid: Assigned Good Friday to 14 April 2028"; "Redid: ..." of the undoing of an undo.
+  [[nodiscard]] std::string Sentence() const;
+};
+
+/// Entries of the history in the words of operators, in one line. An entry that this program cannot read is
+/// told as it stands: the procedure and its parameters.
+class HistoryWords {
+ public:
+  /// `currencies` must outlive this. `find` is asked for the entries that others undid.
+  HistoryWords(const CurrencyList& currencies, EntryLookup find);
+
+  /// Fails as `find` does.
+  [[nodiscard]] ToldEntry Tell(const HistoryEntry& entry) const;
+  /// "EUR 2028", "EUR" of a rule book, or an empty text of what is of no currency.
+  [[nodiscard]] std::string Calendar(const HistoryEntry& entry) const;
+
+ private:
+  const CurrencyList& currencies_;
+  EntryLookup find_;
+};
+
+/// The entry that the call of `entry` undid; nothing when it is no undoing.
+[[nodiscard]] std::optional<std::int32_t> UndoneEntry(const HistoryEntry& entry);
+
+}  // namespace ferrowind::planning

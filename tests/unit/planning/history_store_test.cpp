@@ -1,0 +1,128 @@
+#include "ferrowind/planning/history_store.h"
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/planning/database_call.h"
+
+#include "tests/support/failure_of.h"
+#include "tests/unit/planning/memory_world.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using testing::RunInFreshThread;
+
+std::vector<int> Numbers(const HistoryPage& page) {
+  std::vector<int> numbers;
+  for (const auto& entry : page.entries) numbers.push_back(entry.id);
+  return numbers;
+}
+
+TEST(HistoryStore, GivesPagesAndTellsWhetherThereIsMore) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    EXPECT_THAT(LoadHistory({}, {}, 3).entries, IsEmpty());
+    for (int year = 2020; year < 2025; ++year) component.Call("CldIUMain", {{"ID1", 978}, {"Year1", year}});
+    const auto newest = LoadHistory({}, {}, 3);
+    EXPECT_THAT(Numbers(newest), ElementsAre(5, 4, 3));
+    EXPECT_TRUE(newest.has_older);
+    const auto older = LoadHistory({}, 3, 3);
+    EXPECT_THAT(Numbers(older), ElementsAre(2, 1));
+    EXPECT_FALSE(older.has_older);
+    EXPECT_FALSE(LoadHistory({}, {}, 5).has_older);
+  });
+}
+
+TEST(HistoryStore, GivesAllThatAnEntryTells) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    component.AddSundayAndGoodFriday();
+    component.ActAs("anna");
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
+    component.ActAs("otto");
+    component.AssignGoodFriday();
+    const auto page = LoadHistory({}, {}, 10);
+    EXPECT_EQ(page.asker, "otto");
+    const HistoryEntry& entry = page.entries.front();
+    EXPECT_EQ(entry.id, 4);
+    EXPECT_EQ(entry.user, "otto");
+    EXPECT_EQ(entry.procedure, "CldIUMain");
+    EXPECT_EQ(entry.currency, 978);
+    EXPECT_EQ(entry.year, 2028);
+    EXPECT_EQ(entry.rows_changed, 1);
+    EXPECT_EQ(entry.rule, "Good Friday");
+    EXPECT_TRUE(entry.keeps_rows);
+    component.AssignGoodFriday();
+    EXPECT_FALSE(LoadHistory({}, {}, 1).entries.front().keeps_rows);
+    EXPECT_THAT(entry.parameters, HasSubstr(R"("ODate" : "2028-04-14")"));
+    EXPECT_EQ(page.entries.back().currency, std::nullopt);
+    EXPECT_THAT(Numbers(LoadHistory({{}, {}, {}, "anna"}, {}, 10)), ElementsAre(3));
+    EXPECT_THAT(Numbers(LoadHistory({978, 2028}, {}, 10)), ElementsAre(5, 4, 3));
+    EXPECT_THAT(Numbers(LoadHistory({978, 2028, 1}, {}, 10)), ElementsAre(3));
+  });
+}
+
+TEST(HistoryStore, GivesACalendarAsACallLeftIt) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    component.AddSundayAndGoodFriday();
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
+    component.AssignGoodFriday();
+    EXPECT_EQ(LoadCalendarBehind(978, 2028, 2).state, PastCalendar::State::kNotThere);
+    const auto created = LoadCalendarBehind(978, 2028, 3);
+    ASSERT_EQ(created.state, PastCalendar::State::kThere);
+    ASSERT_EQ(created.days.size(), 366U);
+    EXPECT_EQ(created.days[104].rule, std::nullopt);
+    const auto assigned = LoadCalendarBehind(978, 2028, 4);
+    EXPECT_EQ(assigned.days[104].rule, 3);
+    EXPECT_EQ(assigned.days[104].name, "Good Friday");
+    EXPECT_EQ(assigned.days[104].date, platform::Date(2028, 4, 14));
+  });
+}
+
+TEST(HistoryStore, UndoesAnEntry) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    component.AddSundayAndGoodFriday();
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
+    component.AssignGoodFriday();
+    EXPECT_TRUE(UndoEntry(LoadEntry(4).value().entry).is_done);
+    EXPECT_EQ(LoadCalendarBehind(978, 2028, 5).days[104].rule, std::nullopt);
+  });
+}
+
+TEST(HistoryStore, TellsWhichLaterEntryMayStandAgainstUndoing) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    component.AddSundayAndGoodFriday();
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
+    component.AssignGoodFriday();
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}, {"TID1", 1}, {"ID2", 1}, {"Day1", 105}});
+    const auto outcome = UndoEntry(LoadEntry(4).value().entry);
+    EXPECT_FALSE(outcome.is_done);
+    ASSERT_TRUE(outcome.later);
+    EXPECT_EQ(outcome.later->id, 5);
+    // Of a rule, which is of no calendar, nothing is known.
+    component.Call("CldIUCelebrate", {{"ID2", 2}, {"Name1", "Rest"}, {"TID1", 2}, {"WD", 1}});
+    const auto of_rule = UndoEntry(LoadEntry(1).value().entry);
+    EXPECT_FALSE(of_rule.is_done);
+    EXPECT_FALSE(of_rule.later);
+  });
+}
+
+TEST(HistoryStore, FailsForAnEntryThatDoesNotExist) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    EXPECT_FALSE(LoadEntry(4711));
+    HistoryEntry entry;
+    entry.id = 4711;
+    EXPECT_THAT(testing::FailureOf([&] { (void)UndoEntry(entry); }).Description(),
+                HasSubstr("CldUndo returned 7"));
+  });
+}
+
+}  // namespace
+}  // namespace ferrowind::planning

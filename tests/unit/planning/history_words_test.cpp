@@ -1,0 +1,203 @@
+#include "ferrowind/planning/history_words.h"
+
+#include <map>
+
+#include <gmock/gmock.h>
+
+namespace ferrowind::planning {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const CurrencyList kCurrencies({{978, "EUR", "Euro", true, {}}, {840, "USD", "US Dollar", true, {}}});
+
+HistoryEntry Entry(const std::string& procedure, const std::string& parameters, const std::string& rule = "",
+                   int rows_changed = 1) {
+  HistoryEntry entry;
+  entry.id = 100;
+  entry.procedure = procedure;
+  entry.parameters = parameters;
+  entry.rule = rule;
+  entry.rows_changed = rows_changed;
+  return entry;
+}
+
+HistoryEntry OfCalendar(HistoryEntry entry) {
+  entry.currency = 978;
+  entry.year = 2028;
+  return entry;
+}
+
+/// Told without a database: no entry is found.
+std::string Told(const HistoryEntry& entry) {
+  return HistoryWords(kCurrencies, [](std::int32_t) { return std::nullopt; }).Tell(entry).Sentence();
+}
+
+TEST(HistoryWords, TellANewCalendar) {
+  EXPECT_EQ(Told(OfCalendar(Entry("CldIUMain", R"({"ID1" : 978, "Year1" : 2028, "TID1" : null})", "", 367))),
+            "Created the calendar EUR 2028");
+}
+
+TEST(HistoryWords, TellTheRuleAndTheDayThatItWasAssignedTo) {
+  EXPECT_EQ(Told(OfCalendar(Entry("CldIUMain",
+                                  R"({"ID1" : 978, "Year1" : 2028, "TID1" : 4, "ID2" : 3, "Day1" : 105,
+                                      "ODate" : "2028-04-14", "Comment" : null})",
+                                  "Good Friday"))),
+            "Assigned Good Friday to 14 April 2028");
+  EXPECT_EQ(
+      Told(OfCalendar(Entry(
+          "CldIUMain", R"({"ID1" : 978, "Year1" : 2028, "TID1" : 2, "ID2" : 2, "Day1" : 1})", "Sunday"))),
+      "Assigned Sunday to 1 January 2028");
+}
+
+TEST(HistoryWords, TellHowManyDaysAWeekdayRuleClosed) {
+  const char* const parameters =
+      R"({"ID1" : 978, "Year1" : 2028, "TID1" : 2, "ID2" : 2, "Day1" : null, "ODate" : null})";
+  EXPECT_EQ(Told(OfCalendar(Entry("CldIUMain", parameters, "Sunday", 52))),
+            "Assigned Sunday to 52 days of 2028");
+  EXPECT_EQ(Told(OfCalendar(Entry("CldIUMain", parameters, "Sunday", 1))),
+            "Assigned Sunday to 1 day of 2028");
+}
+
+TEST(HistoryWords, TellAnExceptionAndItsReason) {
+  EXPECT_EQ(
+      Told(OfCalendar(Entry(
+          "CldIUMain",
+          R"({"ID1" : 978, "Year1" : 2028, "TID1" : 1, "ID2" : 1, "Day1" : 366, "Comment" : "Audit"})"))),
+      "Excepted 31 December 2028: Audit");
+  EXPECT_EQ(Told(OfCalendar(Entry(
+                "CldIUMain",
+                R"({"ID1" : 978, "Year1" : 2028, "TID1" : 1, "ID2" : 1, "Day1" : 60, "Comment" : null})"))),
+            "Excepted 29 February 2028");
+}
+
+TEST(HistoryWords, TellAPlanByItsDays) {
+  EXPECT_EQ(Told(OfCalendar(Entry("CldApplyPlan",
+                                  R"({"Expected" : "", "Days" : "[)"
+                                  R"({\"Name1\": \"A\", \"TID1\": 3, \"Dates\": [\"2028-01-05\"]}, )"
+                                  R"({\"TID1\": 1, \"Dates\": [\"2028-01-06\", \"2028-01-07\"]}]"})"))),
+            "Prepared EUR 2028: 3 days");
+  EXPECT_EQ(Told(OfCalendar(Entry("CldApplyPlan", R"({"Expected" : "", "Days" : "[]"})"))),
+            "Prepared EUR 2028: 0 days");
+}
+
+TEST(HistoryWords, TellWhatBecameOfARule) {
+  EXPECT_EQ(Told(Entry("CldIUCelebrate", R"({"Name1" : "Sunday", "TID1" : 2, "WD" : 1, "ID2" : null})")),
+            "Added the rule Sunday");
+  EXPECT_EQ(Told(Entry("CldIUCelebrate", R"({"Name1" : "Rest", "TID1" : 2, "WD" : 1, "ID2" : 2})", "Rest")),
+            "Changed the rule Rest");
+  EXPECT_EQ(Told(Entry("CldIUCelebrate", R"({"Name1" : null, "ID2" : 2, "Del" : 2})", "Rest")),
+            "Removed the rule Rest");
+  EXPECT_EQ(Told(Entry("CldIUCelebrate", R"({"Name1" : null, "ID2" : 2, "Del" : 4})", "Rest")),
+            "Restored the rule Rest");
+}
+
+TEST(HistoryWords, TellWhatBecameOfARuleBook) {
+  HistoryEntry entry =
+      Entry("CldIUBook", R"({"ID1" : 840, "Expected" : "", "Publisher" : "Fed", "Document" : "d",
+                             "Rules" : "[{\"Name1\": \"A\"}, {\"Name1\": \"B\"}]"})");
+  entry.currency = 840;
+  EXPECT_EQ(Told(entry), "Added the rule book of USD: 2 rules");
+  entry.parameters = R"({"ID1" : 840, "Expected" : "f1", "Rules" : "[{\"Name1\": \"A\"}]"})";
+  EXPECT_EQ(Told(entry), "Changed the rule book of USD: 1 rule");
+  entry.parameters = R"({"ID1" : 840, "Expected" : "f1", "Publisher" : null, "Rules" : null})";
+  EXPECT_EQ(Told(entry), "Removed the rule book of USD");
+  entry.currency = 77;
+  EXPECT_EQ(Told(entry), "Removed the rule book of 77");
+}
+
+TEST(HistoryWords, TellWhatBecameOfACurrency) {
+  EXPECT_EQ(
+      Told(Entry("CldIUCurrency",
+                 R"({"CcyID" : 752, "Ccy" : "SEK", "CcyType" : 0, "Name" : "Krona", "LastDay" : null})")),
+      "Set the currency SEK (Krona)");
+  EXPECT_EQ(Told(Entry("CldIUCurrency", R"({"CcyID" : 191, "Ccy" : "HRK", "CcyType" : 0, "Name" : "Kuna",
+                                            "LastDay" : "2022-12-31"})")),
+            "Set the currency HRK (Kuna), money until 31 December 2022");
+  EXPECT_EQ(
+      Told(Entry("CldIUCurrency",
+                 R"({"CcyID" : 959, "Ccy" : "XAU", "CcyType" : 1, "Name" : "Gold", "LastDay" : null})")),
+      "Set the currency XAU (Gold), no money");
+}
+
+TEST(HistoryWords, LeaveAsItStandsWhatTheyCannotRead) {
+  for (const auto& [procedure, parameters] : std::vector<std::pair<std::string, std::string>>{
+           {"CldIUEverything", R"({"ID1" : 978})"},
+           {"CldIUMain", "{"},
+           {"CldIUMain", ""},
+           {"CldIUMain", "[]"},
+           {"CldIUMain", R"({"TID1" : "4"})"},
+           {"CldIUMain", R"({"TID1" : 1, "Year1" : 2028, "Day1" : 367})"},
+           {"CldIUMain", R"({"TID1" : 1, "Year1" : 99999, "Day1" : 3})"},
+           {"CldIUMain", R"({"TID1" : 1, "Year1" : 2028, "Day1" : 3.5})"},
+           {"CldIUMain", R"({"TID1" : 4, "Year1" : 2028, "Day1" : 3, "ID2" : 17})"},
+           {"CldApplyPlan", R"({"Days" : "no list"})"},
+           {"CldApplyPlan", R"({"Days" : "[1]"})"},
+           {"CldIUCelebrate", R"({"ID2" : 2, "Del" : 2})"},
+           {"CldIUCelebrate", R"({"Name1" : null})"},
+           {"CldIUBook", R"({"Expected" : "", "Rules" : "{}"})"},
+           {"CldIUCurrency", R"({"Ccy" : "HRK", "CcyType" : 0, "Name" : "Kuna", "LastDay" : "never"})"},
+           {"CldUndo", R"({"EntryID" : 99})"},
+           {"CldUndo", R"({"EntryID" : "one"})"}}) {
+    EXPECT_EQ(Told(Entry(procedure, parameters)), procedure + " " + parameters);
+  }
+}
+
+TEST(HistoryWords, KeepToOneLine) {
+  EXPECT_EQ(Told(Entry("CldIUCelebrate", R"({"Name1" : "New\nYear\u0007"})")), "Added the rule New Year ");
+}
+
+class HistoryOfUndos : public ::testing::Test {
+ protected:
+  HistoryOfUndos() {
+    Add(1, Entry("CldIUCelebrate", R"({"Name1" : "Sunday"})"));
+    for (int id = 2; id <= 5; ++id) {
+      Add(id, Entry("CldUndo", R"({"EntryID" : )" + std::to_string(id - 1) + "}"));
+    }
+  }
+
+  void Add(int id, HistoryEntry entry) {
+    entry.id = id;
+    entries_[id] = std::move(entry);
+  }
+
+  [[nodiscard]] ToldEntry Tell(int id) const {
+    return HistoryWords(kCurrencies,
+                        [this](std::int32_t wanted) -> std::optional<HistoryEntry> {
+                          const auto found = entries_.find(wanted);
+                          if (found == entries_.end()) return std::nullopt;
+                          return found->second;
+                        })
+        .Tell(entries_.at(id));
+  }
+
+  std::map<int, HistoryEntry> entries_;
+};
+
+TEST_F(HistoryOfUndos, TellsUndosAndRedosByWhatTheyAreOf) {
+  EXPECT_EQ(Tell(1).Sentence(), "Added the rule Sunday");
+  EXPECT_EQ(Tell(2).Sentence(), "Undid: Added the rule Sunday");
+  EXPECT_EQ(Tell(3).Sentence(), "Redid: Added the rule Sunday");
+  EXPECT_EQ(Tell(4).Sentence(), "Undid: Added the rule Sunday");
+  EXPECT_EQ(Tell(5).Sentence(), "Redid: Added the rule Sunday");
+  EXPECT_EQ(Tell(5).first, 1);
+  EXPECT_TRUE(Tell(3).IsDoing());
+  EXPECT_FALSE(Tell(4).IsDoing());
+}
+
+TEST_F(HistoryOfUndos, EndsWithWhatTellsNothingOlder) {
+  Add(2, Entry("CldUndo", R"({"EntryID" : 2})"));
+  Add(3, Entry("CldUndo", R"({"EntryID" : 4})"));
+  EXPECT_EQ(Tell(2).Sentence(), R"(CldUndo {"EntryID" : 2})");
+  EXPECT_EQ(Tell(3).Sentence(), R"(CldUndo {"EntryID" : 4})");
+}
+
+TEST(HistoryWords, NameTheCalendar) {
+  const HistoryWords words(kCurrencies, [](std::int32_t) { return std::nullopt; });
+  EXPECT_EQ(words.Calendar(OfCalendar({})), "EUR 2028");
+  EXPECT_EQ(words.Calendar({}), "");
+}
+
+}  // namespace
+}  // namespace ferrowind::planning
