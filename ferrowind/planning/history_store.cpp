@@ -11,6 +11,7 @@ namespace {
 using platform::RecordSet;
 using platform::Value;
 
+constexpr std::int32_t kNoSuchEntry = 7;
 constexpr std::int32_t kChangedSince = 9;
 
 std::optional<std::int32_t> NumberOrNothing(const Value& value) {
@@ -101,12 +102,14 @@ PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::i
 }
 
 UndoOutcome UndoEntry(const HistoryEntry& entry) {
+  using Kind = UndoOutcome::Kind;
   SourceValues parameters;
   parameters.Add("EntryID", entry.id);
   const CallAnswer answer = CallDatabase("Undoing the entry " + std::to_string(entry.id), "CldUndo",
-                                         parameters, 0, {kChangedSince});
-  if (answer.return_value == return_value::kDone) return {true, std::nullopt};
-  UndoOutcome outcome;
+                                         parameters, 0, {kNoSuchEntry, kChangedSince});
+  if (answer.return_value == return_value::kDone) return {Kind::kDone, {}};
+  if (answer.return_value == kNoSuchEntry) return {Kind::kNoSuchEntry, {}};
+  UndoOutcome outcome{Kind::kRefused, {}};
   if (!entry.currency || !entry.year) return outcome;
   HistoryPage newest = LoadHistory({entry.currency, entry.year}, std::nullopt, 1);
   if (!newest.entries.empty() && newest.entries.front().id > entry.id) {

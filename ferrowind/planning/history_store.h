@@ -97,14 +97,19 @@ struct PastCalendar {
 [[nodiscard]] PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::int32_t entry);
 
 struct UndoOutcome {
-  /// Otherwise nothing was changed: a later call changed the same, or the history does not keep what was
-  /// there before.
-  bool is_done = false;
+  enum class Kind {
+    kDone,
+    /// A later call changed the same, or the history does not keep what was there before.
+    kRefused,
+    kNoSuchEntry,
+  };
+
+  Kind kind = Kind::kDone;
   /// When it was refused, the newest later entry of the same calendar, if there is one.
   std::optional<HistoryEntry> later;
 };
 
-/// Puts back what the call of the entry changed, as a call of its own.
+/// Puts back what the call of the entry changed, as a call of its own; all of it or nothing.
 [[nodiscard]] UndoOutcome UndoEntry(const HistoryEntry& entry);
 
 }  // namespace ferrowind::planning

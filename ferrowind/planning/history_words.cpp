@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/local_moment.h"
 #include "ferrowind/planning/one_line.h"
 #include "ferrowind/platform/database/json_value.h"
 
@@ -172,6 +173,19 @@ std::string HistoryWords::Calendar(const HistoryEntry& entry) const {
   const Currency* const currency = currencies_.Find(*entry.currency);
   const std::string code = currency != nullptr ? currency->code : std::to_string(*entry.currency);
   return code + (entry.year ? " " + std::to_string(*entry.year) : "");
+}
+
+std::string HistoryWords::WhyNotUndone(const HistoryEntry& entry, const UndoOutcome& outcome) const {
+  if (outcome.kind == UndoOutcome::Kind::kNoSuchEntry) {
+    return "The history has no entry " + std::to_string(entry.id) + ".";
+  }
+  const std::string why =
+      "This cannot be undone: a later change is of the same, or the history does not keep what was there "
+      "before.";
+  if (!outcome.later) return why;
+  return why + " The newest change of " + Calendar(*outcome.later) + " is \"" +
+         Tell(*outcome.later).Sentence() + "\" (" + outcome.later->user + ", " +
+         LocalMoment(outcome.later->moment) + "). Undo that first.";
 }
 
 ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {

@@ -37,6 +37,9 @@ class HistoryWords {
 
   /// Fails as `find` does.
   [[nodiscard]] ToldEntry Tell(const HistoryEntry& entry) const;
+  /// Why the call of `entry` could not be undone, in sentences; `outcome` is not `kDone`. Fails as `find`
+  /// does.
+  [[nodiscard]] std::string WhyNotUndone(const HistoryEntry& entry, const UndoOutcome& outcome) const;
   /// "EUR 2028", "EUR" of a rule book, or an empty text of what is of no currency.
   [[nodiscard]] std::string Calendar(const HistoryEntry& entry) const;
 

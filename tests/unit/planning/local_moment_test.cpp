@@ -1,0 +1,51 @@
+#include "ferrowind/planning/local_moment.h"
+
+#include <cstdlib>
+#include <ctime>
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace ferrowind::planning {
+namespace {
+
+/// This program's clock is in that time zone as long as this lives.
+class TimeZone {
+ public:
+  explicit TimeZone(const char* zone) {
+    if (const char* const old = std::getenv("TZ")) old_ = old;
+    Set(zone);
+  }
+  ~TimeZone() { Set(old_ ? old_->c_str() : nullptr); }
+  TimeZone(const TimeZone&) = delete;
+  TimeZone& operator=(const TimeZone&) = delete;
+
+ private:
+  static void Set(const char* zone) {
+    if (zone != nullptr) {
+      setenv("TZ", zone, 1);
+    } else {
+      unsetenv("TZ");
+    }
+    tzset();
+  }
+
+  std::optional<std::string> old_;
+};
+
+TEST(LocalMoment, IsToldByThisComputersClock) {
+  // Nine hours before UTC's, without daylight saving.
+  const TimeZone zone("XST-9");
+  EXPECT_EQ(LocalMoment("2026-11-22T19:05:31.647Z"), "2026-11-23 04:05:31");
+  EXPECT_EQ(LocalMoment("2026-12-31T15:00:00.000Z"), "2027-01-01 00:00:00");
+}
+
+TEST(LocalMoment, LeavesWhatIsNoMomentAsItIs) {
+  for (const char* text : {"", "now", "2026-11-22", "2026-13-22T19:05:31Z", "2026-11-22T1x:05:31Z"}) {
+    EXPECT_EQ(LocalMoment(text), text);
+  }
+}
+
+}  // namespace
+}  // namespace ferrowind::planning
