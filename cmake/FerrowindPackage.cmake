@@ -6,7 +6,7 @@ set(ferrowind_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Ferrowind)
 # Only what the installed libraries were built with is asked of the machine that uses them.
 set(FERROWIND_FIND_DEPENDENCIES "")
 if(TARGET ferrowind_adapters_qt)
-  string(APPEND FERROWIND_FIND_DEPENDENCIES "find_dependency(Qt6 6.4 COMPONENTS Widgets)\n")
+  string(APPEND FERROWIND_FIND_DEPENDENCIES "find_dependency(Qt6 6.4 COMPONENTS PrintSupport Widgets)\n")
 endif()
 if(TARGET ferrowind_adapters_sqlite)
   string(APPEND FERROWIND_FIND_DEPENDENCIES "find_dependency(SQLite3 3.40)\n")

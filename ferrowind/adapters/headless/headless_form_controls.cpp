@@ -15,6 +15,7 @@
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_tree.h"
 #include "ferrowind/adapters/headless/headless_up_down.h"
+#include "ferrowind/adapters/headless/headless_year_view.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::headless {
@@ -53,6 +54,8 @@ std::unique_ptr<platform::Control> HeadlessForm::MakeControl(const platform::Con
       return std::make_unique<HeadlessStatusBar>(*this, design.name);
     case ControlKind::kAnimation:
       return std::make_unique<HeadlessAnimation>(*this, design.name, toolkit_->animations);
+    case ControlKind::kYearView:
+      return std::make_unique<HeadlessYearView>(*this, design.name);
   }
   throw platform::InvalidArgument();
 }

@@ -22,6 +22,7 @@ enum class ControlKind {
   kStatusBar,
   kSplitter,
   kAnimation,
+  kYearView,
 };
 
 /// A control as a view needs it. Where it stands is the adapter's layout.

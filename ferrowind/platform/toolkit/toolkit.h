@@ -25,6 +25,7 @@
 #include "ferrowind/platform/toolkit/tool_bar.h"
 #include "ferrowind/platform/toolkit/tree.h"
 #include "ferrowind/platform/toolkit/up_down.h"
+#include "ferrowind/platform/toolkit/year_view.h"
 
 namespace ferrowind::platform {
 

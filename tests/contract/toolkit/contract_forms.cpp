@@ -28,7 +28,8 @@ FormDesign ContractForm() {
                        {ControlKind::kToolBar, "ssatbTools"},
                        {ControlKind::kStatusBar, "sbLine"},
                        {ControlKind::kSplitter, "sssp"},
-                       {ControlKind::kAnimation, "anim"}}};
+                       {ControlKind::kAnimation, "anim"},
+                       {ControlKind::kYearView, "yvYear"}}};
 }
 
 FormDesign ContractFixedDialog() {

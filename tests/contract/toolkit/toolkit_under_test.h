@@ -20,6 +20,7 @@
 #include "ferrowind/platform/toolkit/toolkit.h"
 #include "ferrowind/platform/toolkit/tree.h"
 #include "ferrowind/platform/toolkit/up_down.h"
+#include "ferrowind/platform/toolkit/year_view.h"
 
 namespace ferrowind::contract {
 
@@ -30,6 +31,9 @@ struct RowLook {
   bool bold = false;
   bool strike_through = false;
 };
+
+/// The keys that go from day to day.
+enum class DayKey { kLeft, kRight, kUp, kDown, kHome, kEnd, kPageUp, kPageDown };
 
 /// One adapter of the toolkit port, and an operator who uses it. A new one is made for every test.
 ///
@@ -127,6 +131,22 @@ class ToolkitUnderTest {
   /// What a group row says.
   [[nodiscard]] virtual std::string GroupText(platform::Grid& grid, std::int32_t row) = 0;
   [[nodiscard]] virtual RowLook LookOf(platform::Grid& grid, std::int32_t row) = 0;
+
+  /// Clicks a day with `kLeftButton` or `kRightButton`.
+  virtual void ClickDay(platform::YearView& view, const platform::YearCell& cell, std::int32_t button) = 0;
+  /// Clicks a day with the left button while the Ctrl key is held.
+  virtual void ToggleDay(platform::YearView& view, const platform::YearCell& cell) = 0;
+  /// Clicks a day with the left button while the Shift key is held.
+  virtual void ExtendToDay(platform::YearView& view, const platform::YearCell& cell) = 0;
+  /// Presses the left button on one day and releases it on another.
+  virtual void DragDays(platform::YearView& view, const platform::YearCell& from,
+                        const platform::YearCell& to) = 0;
+  /// Presses the key, with the Shift key held where it `extends` the selection.
+  virtual void PressDayKey(platform::YearView& view, DayKey key, bool extends) = 0;
+  virtual void PressEnterOnDay(platform::YearView& view) = 0;
+  virtual void PressMenuKeyOnDay(platform::YearView& view) = 0;
+  /// What assistive tools say of a day.
+  [[nodiscard]] virtual std::string DayText(platform::YearView& view, const platform::YearCell& cell) = 0;
 };
 
 /// Supplied by each adapter that the suite is built for.

@@ -19,6 +19,7 @@
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
 #include "ferrowind/adapters/qt/table/qt_table.h"
+#include "ferrowind/adapters/qt/year/qt_year_view.h"
 
 namespace ferrowind::qt {
 
@@ -99,6 +100,8 @@ std::unique_ptr<platform::Control> MakeControl(ControlKind kind, QWidget& widget
       return MakeOver<QtStatusBar, QStatusBar>(widget);
     case ControlKind::kAnimation:
       return MakeOver<QtAnimation, QLabel>(widget);
+    case ControlKind::kYearView:
+      return MakeOver<QtYearView, YearWidget>(widget);
   }
   return nullptr;
 }

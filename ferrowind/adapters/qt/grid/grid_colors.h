@@ -29,9 +29,6 @@ struct GridColors {
   QColor header_line;
 };
 
-/// How well one colour is read on the other: 1 (not at all) to 21, as WCAG 2 defines the contrast ratio.
-[[nodiscard]] double Contrast(const QColor& left, const QColor& right);
-
 /// `color` as it is where it can be read on `background`, else the nearest lighter or darker shade of its hue
 /// that can.
 [[nodiscard]] QColor ReadableOn(const QColor& background, const QColor& color);

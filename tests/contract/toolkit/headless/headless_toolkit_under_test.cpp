@@ -1,3 +1,4 @@
+#include <map>
 #include <utility>
 
 #include "ferrowind/adapters/headless/headless_animation.h"
@@ -10,6 +11,7 @@
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_tree.h"
 #include "ferrowind/adapters/headless/headless_up_down.h"
+#include "ferrowind/adapters/headless/headless_year_view.h"
 #include "ferrowind/adapters/headless/world.h"
 
 #include "tests/contract/toolkit/toolkit_under_test.h"
@@ -164,6 +166,42 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
   [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
     const GridRowStyle style = As<HeadlessGrid>(grid).RowStyle(row);
     return {style.fore_color, style.bold, style.strike_through};
+  }
+
+  void ClickDay(platform::YearView& view, const platform::YearCell& cell, std::int32_t button) override {
+    if (button == platform::kRightButton) {
+      As<HeadlessYearView>(view).RightClickDay(cell);
+    } else {
+      As<HeadlessYearView>(view).ClickDay(cell);
+    }
+  }
+  void ToggleDay(platform::YearView& view, const platform::YearCell& cell) override {
+    As<HeadlessYearView>(view).ToggleDay(cell);
+  }
+  void ExtendToDay(platform::YearView& view, const platform::YearCell& cell) override {
+    As<HeadlessYearView>(view).ExtendToDay(cell);
+  }
+  void DragDays(platform::YearView& view, const platform::YearCell& from,
+                const platform::YearCell& to) override {
+    As<HeadlessYearView>(view).ClickDay(from);
+    As<HeadlessYearView>(view).ExtendToDay(to);
+  }
+  void PressDayKey(platform::YearView& view, DayKey key, bool extends) override {
+    using year_engine::YearStep;
+    static const std::map<DayKey, YearStep> kSteps = {{DayKey::kLeft, YearStep::kDayBefore},
+                                                      {DayKey::kRight, YearStep::kDayAfter},
+                                                      {DayKey::kUp, YearStep::kUp},
+                                                      {DayKey::kDown, YearStep::kDown},
+                                                      {DayKey::kHome, YearStep::kMonthStart},
+                                                      {DayKey::kEnd, YearStep::kMonthEnd},
+                                                      {DayKey::kPageUp, YearStep::kMonthBefore},
+                                                      {DayKey::kPageDown, YearStep::kMonthAfter}};
+    As<HeadlessYearView>(view).PressStep(kSteps.at(key), extends);
+  }
+  void PressEnterOnDay(platform::YearView& view) override { As<HeadlessYearView>(view).ActivateDay(); }
+  void PressMenuKeyOnDay(platform::YearView& view) override { As<HeadlessYearView>(view).PressMenuKey(); }
+  [[nodiscard]] std::string DayText(platform::YearView& view, const platform::YearCell& cell) override {
+    return As<HeadlessYearView>(view).TextOf(cell);
   }
 
  private:

@@ -16,6 +16,7 @@
 #include "ferrowind/adapters/qt/controls/up_down_arrows.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
 #include "ferrowind/adapters/qt/table/table_view.h"
+#include "ferrowind/adapters/qt/year/year_widget.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -48,7 +49,8 @@ void BuildContract(QDialog& window) {
   splitter->addWidget(Named<qt::TreeView>("tvNodes"));
   splitter->addWidget(Named<qt::GridWidget>("gexRows"));
   splitter->addWidget(Named<qt::GridWidget>("gexRanges"));
-  splitter->setSizes({200, 600, 300});
+  splitter->addWidget(Named<qt::YearWidget>("yvYear"));
+  splitter->setSizes({200, 600, 300, 600});
   layout->addWidget(splitter, 1);
   layout->addWidget(Named<QLabel>("anim"));
   layout->addWidget(Named<QStatusBar>("sbLine"));

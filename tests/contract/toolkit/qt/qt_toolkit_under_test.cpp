@@ -27,6 +27,7 @@
 
 #include "tests/contract/toolkit/qt/contract_layouts.h"
 #include "tests/contract/toolkit/qt/grid_operator.h"
+#include "tests/contract/toolkit/qt/year_operator.h"
 #include "tests/contract/toolkit/toolkit_under_test.h"
 #include "tests/support/click_in_menu.h"
 
@@ -267,6 +268,28 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
   }
   [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
     return GridOperator(grid).LookOf(row);
+  }
+
+  void ClickDay(platform::YearView& view, const platform::YearCell& cell, std::int32_t button) override {
+    YearOperator(view).Click(cell, button == platform::kRightButton ? Qt::RightButton : Qt::LeftButton, {});
+  }
+  void ToggleDay(platform::YearView& view, const platform::YearCell& cell) override {
+    YearOperator(view).Click(cell, Qt::LeftButton, Qt::ControlModifier);
+  }
+  void ExtendToDay(platform::YearView& view, const platform::YearCell& cell) override {
+    YearOperator(view).Click(cell, Qt::LeftButton, Qt::ShiftModifier);
+  }
+  void DragDays(platform::YearView& view, const platform::YearCell& from,
+                const platform::YearCell& to) override {
+    YearOperator(view).Drag(from, to);
+  }
+  void PressDayKey(platform::YearView& view, DayKey key, bool extends) override {
+    YearOperator(view).PressKey(key, extends ? Qt::ShiftModifier : Qt::NoModifier);
+  }
+  void PressEnterOnDay(platform::YearView& view) override { YearOperator(view).PressEnter(); }
+  void PressMenuKeyOnDay(platform::YearView& view) override { YearOperator(view).PressMenuKey(); }
+  [[nodiscard]] std::string DayText(platform::YearView& view, const platform::YearCell& cell) override {
+    return YearOperator(view).TextOf(cell);
   }
 
  private:

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+#include "ferrowind/platform/toolkit/year_view.h"
+
+namespace ferrowind::qt {
+
+/// Draws the mark of that shape into `box`, which is square; nothing for `kNone` and `kHatching`.
+void DrawDayMark(QPainter& painter, const QRectF& box, platform::DayShape shape, const QColor& color);
+
+/// Draws the hatching of a day's ground.
+void DrawHatching(QPainter& painter, const QRectF& area, const QColor& color);
+
+}  // namespace ferrowind::qt
