@@ -26,6 +26,7 @@ struct MarkedDay {
   std::string comment;
 
   [[nodiscard]] bool IsClosed() const { return kind != RuleKind::kWorkingDay; }
+  friend bool operator==(const MarkedDay&, const MarkedDay&) = default;
 };
 
 /// What the calendar of a currency and a year holds.
@@ -34,6 +35,8 @@ struct CalendarContent {
   /// The days that have a rule, ascending, each once. All others are ordinary working days; so are all days
   /// of a calendar that does not exist yet.
   std::vector<MarkedDay> days;
+
+  friend bool operator==(const CalendarContent&, const CalendarContent&) = default;
 };
 
 }  // namespace ferrowind::almanac

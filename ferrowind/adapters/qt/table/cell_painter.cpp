@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ferrowind/adapters/qt/look/contrast.h"
 #include "ferrowind/adapters/qt/look/glyph_painter.h"
 #include "ferrowind/adapters/qt/look/mark_glyphs.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
@@ -21,7 +22,6 @@ namespace {
 constexpr int kPadding = 7;
 constexpr int kGap = 5;
 constexpr int kRowPadding = 8;
-constexpr double kLeastContrast = 4.5;
 
 const Glyph& GlyphOf(CellMark mark) {
   static const std::array glyphs = {
@@ -40,7 +40,7 @@ QString LineOf(const TableCell& cell) {
 }
 
 QColor ColorOf(CellTone tone, const QColor& ground, const GridColors& colors) {
-  const bool is_quiet_readable = Contrast(colors.muted, ground) >= kLeastContrast;
+  const bool is_quiet_readable = Contrast(colors.muted, ground) >= kTextContrast;
   return tone == CellTone::kQuiet && is_quiet_readable ? colors.muted : colors.text;
 }
 
