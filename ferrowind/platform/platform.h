@@ -10,6 +10,7 @@
 #include "ferrowind/platform/services/locale.h"
 #include "ferrowind/platform/services/object_factory.h"
 #include "ferrowind/platform/services/shared_services.h"
+#include "ferrowind/platform/services/words.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 
 namespace ferrowind::platform {
@@ -30,6 +31,8 @@ struct Platform {
   ActionObserver* action_observer = nullptr;
   /// What the host adds to the windows; null for the windows as they are.
   Additions* additions = nullptr;
+  /// The component's texts in the operator's language; null for English.
+  const Words* words = nullptr;
 };
 
 }  // namespace ferrowind::platform

@@ -6,6 +6,7 @@
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/qt/services/qt_clock.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
+#include "ferrowind/adapters/qt/services/qt_words.h"
 #include "ferrowind/adapters/services/desktop_dictionary.h"
 #include "ferrowind/adapters/services/object_makers.h"
 #include "ferrowind/adapters/services/trace_file.h"
@@ -33,6 +34,7 @@ struct DesktopSurroundings::Parts {
       return std::make_shared<TellingServices>(news, qt::SettingsStore(), trace);
     });
     platform.additions = &additions;
+    platform.words = &words;
   }
 
   void RegisterIn(platform::EngineRegistry& registry, std::shared_ptr<platform::Engine> files) {
@@ -53,6 +55,7 @@ struct DesktopSurroundings::Parts {
   qt::QtToolkit toolkit;
   qt::QtLocale locale;
   qt::QtClock clock;
+  qt::QtWords words;
   platform::Platform platform;
   PlanningWindows windows{platform, DeliveredDateTables()};
   PlanningAdditions additions{{platform, DeliveredDateTables(), windows}};
