@@ -5,12 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/qt/look/contrast.h"
 #include "ferrowind/adapters/qt/look/program_icon.h"
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/adapters/qt/look/tool_looks.h"
 #include "ferrowind/adapters/qt/look/tree_images.h"
-
-#include "tests/gui/controls/contrast.h"
 
 namespace ferrowind::qt {
 namespace {

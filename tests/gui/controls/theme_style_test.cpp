@@ -15,9 +15,8 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/controls/question_image.h"
+#include "ferrowind/adapters/qt/look/contrast.h"
 #include "ferrowind/adapters/qt/look/theme.h"
-
-#include "tests/gui/controls/contrast.h"
 
 namespace ferrowind::qt {
 namespace {

@@ -5,6 +5,7 @@
 #include <QMimeData>
 
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
+#include "ferrowind/adapters/qt/look/contrast.h"
 
 #include "tests/gui/grid/grid_fixture.h"
 

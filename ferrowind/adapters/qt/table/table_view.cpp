@@ -226,8 +226,8 @@ bool TableView::IsOnBox(const QPoint& point) const {
 }
 
 void TableView::mousePressEvent(QMouseEvent* event) {
-  const bool is_for_box = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
-                          IsOnBox(event->pos());
+  const bool is_for_box =
+      event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && IsOnBox(event->pos());
   if (!is_for_box) {
     const Work work(*this);
     return UniformTableView::mousePressEvent(event);
