@@ -1,7 +1,9 @@
 #include "ferrowind/planning/calendar_store.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -15,6 +17,10 @@ using almanac::MarkedDay;
 using almanac::RuleKind;
 using platform::RecordSet;
 using platform::Value;
+
+std::string Reading(const Currency& currency, int year) {
+  return "Reading the calendar " + currency.code + " " + std::to_string(year);
+}
 
 SourceValues CalendarParameters(const Currency& currency, int year) {
   SourceValues parameters;
@@ -49,28 +55,39 @@ struct DayFields {
   std::size_t day, kind, rule, comment;
 };
 
-}  // namespace
-
-StoredCalendar LoadCalendar(const Currency& currency, int year) {
-  const std::string doing = "Reading the calendar " + currency.code + " " + std::to_string(year);
-  StoredCalendar calendar;
-  calendar.content.year = year;
-  const CallAnswer fingerprint =
-      CallDatabase(doing, "CldGetFingerprint", CalendarParameters(currency, year), 1);
-  const CallAnswer days = CallDatabase(doing, "CldGetMain", CalendarParameters(currency, year), 1,
-                                       {return_value::kUnknownCalendar});
-  RecordSet& fingerprints = *fingerprint.record_sets.front();
-  fingerprints.MoveFirst();
-  calendar.fingerprint = fingerprints.Eof() ? "" : platform::ToTextOrEmpty(fingerprints["Fingerprint"]);
-  calendar.exists = days.return_value == return_value::kDone;
-  if (!calendar.exists) return calendar;
+/// Nothing when the procedure returns one of `no_calendar`.
+std::optional<CalendarContent> ReadDays(const Currency& currency, int year,
+                                        std::initializer_list<std::int32_t> no_calendar) {
+  const CallAnswer days =
+      CallDatabase(Reading(currency, year), "CldGetMain", CalendarParameters(currency, year), 1, no_calendar);
+  if (days.return_value != return_value::kDone) return std::nullopt;
+  CalendarContent content{year, {}};
   const RecordSet& rows = *days.record_sets.front();
   const DayFields fields(rows);
   for (std::size_t i = 0; i < rows.RowCount(); ++i) {
     const auto row = rows.BookmarkAt(i);
-    if (!rows.Cell(row, fields.rule).IsEmpty()) calendar.content.days.push_back(fields.Read(rows, row));
+    if (!rows.Cell(row, fields.rule).IsEmpty()) content.days.push_back(fields.Read(rows, row));
   }
+  return content;
+}
+
+}  // namespace
+
+StoredCalendar LoadCalendar(const Currency& currency, int year) {
+  StoredCalendar calendar;
+  const CallAnswer fingerprint =
+      CallDatabase(Reading(currency, year), "CldGetFingerprint", CalendarParameters(currency, year), 1);
+  auto days = ReadDays(currency, year, {return_value::kUnknownCalendar});
+  RecordSet& fingerprints = *fingerprint.record_sets.front();
+  fingerprints.MoveFirst();
+  calendar.fingerprint = fingerprints.Eof() ? "" : platform::ToTextOrEmpty(fingerprints["Fingerprint"]);
+  calendar.exists = days.has_value();
+  calendar.content = days ? *std::move(days) : CalendarContent{year, {}};
   return calendar;
+}
+
+std::optional<CalendarContent> LoadDays(const Currency& currency, int year) {
+  return ReadDays(currency, year, {return_value::kUnknownCalendar, return_value::kUnknownCurrency});
 }
 
 StoredRules LoadRules() {

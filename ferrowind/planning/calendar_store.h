@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,6 +25,10 @@ struct StoredCalendar {
 };
 
 [[nodiscard]] StoredCalendar LoadCalendar(const Currency& currency, int year);
+
+/// The content alone; nothing when the calendar does not exist, also where its currency is unknown or no
+/// money in that year.
+[[nodiscard]] std::optional<almanac::CalendarContent> LoadDays(const Currency& currency, int year);
 
 /// A calendar's place: the number of its currency and its year.
 using CalendarKey = std::pair<std::int32_t, int>;

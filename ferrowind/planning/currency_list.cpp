@@ -51,6 +51,14 @@ const Currency* CurrencyList::Find(std::int32_t id) const {
   return found == currencies_.end() ? nullptr : &*found;
 }
 
+Currency CurrencyList::FindOrNumber(std::int32_t id) const {
+  if (const Currency* const found = Find(id)) return *found;
+  Currency unknown;
+  unknown.id = id;
+  unknown.code = std::to_string(id);
+  return unknown;
+}
+
 const Currency& CurrencyList::Named(std::string_view text) const {
   const auto refuse = [](const std::string& why) {
     return platform::Failure(platform::failure_number::kInvalidArgument, why);

@@ -42,6 +42,9 @@ class CurrencyList {
   [[nodiscard]] const std::vector<Currency>& All() const { return currencies_; }
   /// Null when there is none of that number.
   [[nodiscard]] const Currency* Find(std::int32_t id) const;
+  /// The same; one that is not there has its number for a code, as a calendar may be of a currency that the
+  /// dictionary lacks.
+  [[nodiscard]] Currency FindOrNumber(std::int32_t id) const;
   /// The currency that a person means by `text`: by its code, in any letter case, or by its number, such as
   /// 8 or 008. A failure that names the text when there is none. "ALL" means all currencies, never the one
   /// that has that code.

@@ -26,6 +26,7 @@ class Refusal : public platform::Failure {
 /// The return values of the calendar procedures that callers look at.
 namespace return_value {
 inline constexpr std::int32_t kDone = 0;
+inline constexpr std::int32_t kUnknownCurrency = 3;
 inline constexpr std::int32_t kUnknownCalendar = 5;
 inline constexpr std::int32_t kContentIsAnother = 8;
 }  // namespace return_value

@@ -38,13 +38,18 @@ std::vector<const Currency*> YearPlanner::WithBooks() const {
   return found;
 }
 
-std::optional<int> YearPlanner::FirstYearOf(const Currency& currency) const {
+const almanac::Planner* YearPlanner::PlannerOf(const Currency& currency) const {
   const auto found = books_.find(currency.id);
-  if (found == books_.end() || found->second.planner == nullptr) return std::nullopt;
-  return found->second.planner->Book().since;
+  return found == books_.end() ? nullptr : found->second.planner.get();
 }
 
-std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, int year) const {
+std::optional<int> YearPlanner::FirstYearOf(const Currency& currency) const {
+  const almanac::Planner* const planner = PlannerOf(currency);
+  if (planner == nullptr) return std::nullopt;
+  return planner->Book().since;
+}
+
+const almanac::Planner& YearPlanner::RequirePlanner(const Currency& currency, int year) const {
   const auto found = books_.find(currency.id);
   if (found == books_.end()) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
@@ -63,7 +68,15 @@ std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, 
   if (!book.HoldsIn(year)) {
     throw platform::Failure(platform::failure_number::kInvalidArgument, book.WhyNotIn(year, currency.code));
   }
-  return std::make_unique<YearPreparation>(currency, year, *found->second.planner, rules_);
+  return *found->second.planner;
+}
+
+almanac::YearPlan YearPlanner::Plan(const Currency& currency, int year) const {
+  return RequirePlanner(currency, year).Plan(year);
+}
+
+std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, int year) const {
+  return std::make_unique<YearPreparation>(currency, year, RequirePlanner(currency, year), rules_);
 }
 
 }  // namespace ferrowind::planning

@@ -31,6 +31,11 @@ class YearPlanner {
   /// The first year that the book of the currency tells of; nothing when it has none that can be used, or one
   /// that tells of all years.
   [[nodiscard]] std::optional<int> FirstYearOf(const Currency& currency) const;
+  /// Plans the years of the currency; null when it has no book, or one that cannot be used.
+  [[nodiscard]] const almanac::Planner* PlannerOf(const Currency& currency) const;
+
+  /// What the calendar should be, without reading it; fails as `Prepare` does.
+  [[nodiscard]] almanac::YearPlan Plan(const Currency& currency, int year) const;
 
   /// The calendar as it is now beside its plan; must not outlive this. A currency without a book, or with one
   /// that has faults, is a failure that says so, and so are a year after its last day, one before its book
@@ -38,6 +43,8 @@ class YearPlanner {
   [[nodiscard]] std::unique_ptr<YearPreparation> Prepare(const Currency& currency, int year) const;
 
  private:
+  [[nodiscard]] const almanac::Planner& RequirePlanner(const Currency& currency, int year) const;
+
   struct BookState {
     std::unique_ptr<const almanac::Planner> planner;
     std::vector<std::string> faults;

@@ -33,6 +33,8 @@ class YearPreparation {
   [[nodiscard]] bool CalendarExists() const { return calendar_.exists; }
   [[nodiscard]] const almanac::YearPlan& Plan() const { return plan_; }
   [[nodiscard]] const almanac::Comparison& Compared() const { return comparison_; }
+  /// The rules of the database that have the names of the book's.
+  [[nodiscard]] const almanac::RuleMatches& Matches() const { return matches_; }
   /// Whether `Apply` has anything to do.
   [[nodiscard]] bool Changes(const almanac::DayChoice& choice) const;
 
