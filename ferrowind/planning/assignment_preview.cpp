@@ -6,6 +6,7 @@
 
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/plan_words.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -13,8 +14,6 @@ namespace {
 using almanac::MarkedDay;
 using almanac::RuleKind;
 using platform::Date;
-
-constexpr const char* kWorkingDay = "working day";
 
 std::string Weekday(int weekday) { return std::string(almanac::WeekdayName(weekday)); }
 
@@ -126,7 +125,7 @@ class Preview {
   void AssignTo(const Date& day, const RuleToAssign& rule, AssignmentLine& line) {
     line.day = day;
     const auto marked = days_.find(day.DayOfYear());
-    line.now = marked == days_.end() ? kWorkingDay : NameOf(marked->second);
+    line.now = marked == days_.end() ? kOrdinaryDay : NameOf(marked->second);
     line.changes = marked == days_.end() || marked->second.rule != rule.id;
     if (marked != days_.end() && marked->second.rule == almanac::kExceptionRule) {
       line.warnings.emplace_back("The day is a working day by exception, and would be closed");

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/planning/history_store.h"
+#include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/local_moment.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::planning {
@@ -19,6 +22,8 @@ std::string InSentence(std::string sentence) {
   if (!sentence.empty() && sentence[0] == 'A') sentence[0] = 'a';
   return sentence;
 }
+
+bool HasDatedRule(const MarkedDay& day) { return day.IsClosed() && day.kind != RuleKind::kWeekday; }
 
 Date DateIn(int year, int day_of_year) { return Date(year, 1, 1).AddDays(day_of_year - 1); }
 
@@ -59,6 +64,7 @@ DayStory CalendarStory::Of(const Date& day) const {
   if (const MarkedDay* const marked = MarkedIn(year_, day.DayOfYear())) {
     story.state = marked->IsClosed() ? DayStory::State::kClosed : DayStory::State::kException;
     story.rule = NameOf(*marked);
+    story.has_dated_rule = HasDatedRule(*marked);
     story.comment = marked->comment;
   }
   if (!preparation_) {
@@ -102,9 +108,22 @@ std::string CalendarStory::ExpressionOf(const ComparedDay& day) const {
   return {};
 }
 
+std::string CalendarStory::LoadLastChange(const Date& day) const {
+  const HistoryPage page =
+      LoadHistory({.currency = currency_.id, .year = year_, .day_of_year = day.DayOfYear()}, std::nullopt, 1);
+  if (page.entries.empty()) return {};
+  const HistoryWords words(planner_.Currencies(), [](std::int32_t id) -> std::optional<HistoryEntry> {
+    auto found = LoadEntry(id);
+    if (!found) return std::nullopt;
+    return std::move(found->entry);
+  });
+  const HistoryEntry& entry = page.entries.front();
+  return entry.user + ", " + LocalMoment(entry.moment) + ": " + words.Tell(entry).Sentence();
+}
+
 std::vector<SameDay> CalendarStory::Around(const Date& day) const {
   const MarkedDay* const asked = MarkedIn(year_, day.DayOfYear());
-  const bool is_dated = asked != nullptr && asked->IsClosed() && asked->kind != RuleKind::kWeekday;
+  const bool is_dated = asked != nullptr && HasDatedRule(*asked);
   std::vector<SameDay> years;
   for (int year = year_ - kYearsAround; year <= year_ + kYearsAround; ++year) {
     if (year == year_ || year < kFirstCalendarYear || year > kLastCalendarYear) continue;

@@ -30,6 +30,9 @@ struct DayStory {
   State state = State::kOrdinary;
   /// The name of its rule; empty on an ordinary working day.
   std::string rule;
+  /// Whether the rule has single days in a year, which are told in `SameDay`: not one for a weekday, and not
+  /// the built-in one.
+  bool has_dated_rule = false;
   /// The day's own text, which is the reason of an exception; empty without one.
   std::string comment;
   /// By which the currency's book gives the rule its days; empty where the book has no such rule.
@@ -50,8 +53,8 @@ struct SameDay {
   platform::Date day;
   /// The name of the rule that it has; empty on an ordinary working day.
   std::string rule;
-  /// The days of the year that have the rule of the day asked for, ascending; of a rule for a weekday, and of
-  /// the built-in one, none.
+  /// The days of the year that have the rule of the day asked for, ascending; none where that has no dated
+  /// rule.
   std::vector<platform::Date> days_of_rule = {};
 };
 
@@ -68,6 +71,9 @@ class CalendarStory {
   [[nodiscard]] DayStory Of(const platform::Date& day) const;
   /// The years around, ascending, without the calendar's own.
   [[nodiscard]] std::vector<SameDay> Around(const platform::Date& day) const;
+  /// Who changed the day last, when and how: "anna, 3 March 2027 09:14: Assigned Good Friday to 14 April
+  /// 2028"; empty when the history knows of no change. Reads it now; fails as database_call.h says.
+  [[nodiscard]] std::string LoadLastChange(const platform::Date& day) const;
 
  private:
   [[nodiscard]] const almanac::MarkedDay* MarkedIn(int year, int day_of_year) const;

@@ -48,8 +48,12 @@ void RestoreWindowPlacement(const platform::Toolkit& toolkit, Form& window, cons
   }
 }
 
+std::string SettingsSectionOf(const std::string& window) {
+  return SharedServicesObject().SettingsRoot() + kComponentSection + window;
+}
+
 void StoredPlacement::Restore(const platform::Toolkit& toolkit, platform::Form& window) {
-  section_ = SharedServicesObject().SettingsRoot() + kComponentSection + window_;
+  section_ = SettingsSectionOf(window_);
   RestoreWindowPlacement(toolkit, window, section_);
 }
 

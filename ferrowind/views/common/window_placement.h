@@ -17,6 +17,9 @@ void SaveWindowPlacement(const platform::Form& window, const std::string& sectio
 void RestoreWindowPlacement(const platform::Toolkit& toolkit, platform::Form& window,
                             const std::string& section);
 
+/// The section, below the settings root, of one of the component's windows, as "Window Calendars".
+[[nodiscard]] std::string SettingsSectionOf(const std::string& window);
+
 /// The placement of one of the component's windows, in its section below the settings root.
 class StoredPlacement {
  public:

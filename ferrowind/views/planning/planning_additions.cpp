@@ -8,6 +8,7 @@
 #include "ferrowind/views/planning/holidays_caption.h"
 #include "ferrowind/views/planning/plan_year_tool.h"
 #include "ferrowind/views/planning/refreshed_calendars.h"
+#include "ferrowind/views/planning/why_pane.h"
 
 namespace ferrowind {
 namespace {
@@ -34,7 +35,11 @@ template <typename Addition>
 constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platform::HolidaysScene>();
 
 // The order of their controls and tools.
-constexpr std::array kCalendarsAdditions{Calendars<RefreshedCalendars>, Calendars<PlanYearTool>};
+constexpr std::array kCalendarsAdditions{
+    Calendars<RefreshedCalendars>,
+    Calendars<PlanYearTool>,
+    Calendars<WhyPane>,
+};
 constexpr std::array kHolidaysAdditions{Holidays<HolidaysCaption>};
 
 template <typename Entries>

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/run_in_fresh_thread.h"
-#include "tests/unit/planning/memory_world.h"
+#include "tests/unit/planning/euro_world.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -33,22 +33,22 @@ RuleToAssign GoodFriday(const Date& date) {
 }
 
 /// The preview for EUR 2028 without its weekends, so that days are few.
-std::vector<AssignmentLine> LinesFor(MemoryWorld& world, const std::vector<RuleToAssign>& rules,
+std::vector<AssignmentLine> LinesFor(EuroWorld& world, const std::vector<RuleToAssign>& rules,
                                      const std::optional<Date>& day = {}) {
-  world.Tables().calendars[{MemoryWorld::kEuro, 2028}].resize(366);
-  return PreviewAssignment(CalendarRules(MemoryWorld::kEuro, 2028, {}), rules, day);
+  world.Tables().calendars[{EuroWorld::kEuro, 2028}].resize(366);
+  return PreviewAssignment(CalendarRules(EuroWorld::kEuro, 2028, {}), rules, day);
 }
 
-void OnAPreview(const std::function<void(MemoryWorld& world)>& body) {
+void OnAPreview(const std::function<void(EuroWorld& world)>& body) {
   RunInFreshThread([&] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     body(world);
   });
 }
 
 TEST(AssignmentPreview, TellsTheDayOfThisYearAndWhatStandsThere) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     const auto lines = LinesFor(world, {GoodFriday(Date(2028, 4, 14))});
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_EQ(lines[0].rule, "Good Friday");
@@ -60,7 +60,7 @@ TEST(AssignmentPreview, TellsTheDayOfThisYearAndWhatStandsThere) {
 }
 
 TEST(AssignmentPreview, MovesACelebrationIntoTheYearWithoutAWarning) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     world.Tables().books.at(978).rules.erase(world.Tables().books.at(978).rules.begin());
     world.Give(Date(2028, 1, 1), kNewYearRule, "Half day");
     const auto lines = LinesFor(world, {kNewYear});
@@ -72,7 +72,7 @@ TEST(AssignmentPreview, MovesACelebrationIntoTheYearWithoutAWarning) {
 }
 
 TEST(AssignmentPreview, WarnsOfAPointOfAnotherYearAndTellsWhereTheBookHasIt) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     const auto lines = LinesFor(world, {GoodFriday(Date(2026, 4, 3))});
     EXPECT_EQ(lines[0].day, Date(2028, 4, 3));
     EXPECT_THAT(lines[0].warnings, ElementsAre("It is dated for 2026, on Friday 3 April 2026",
@@ -81,13 +81,13 @@ TEST(AssignmentPreview, WarnsOfAPointOfAnotherYearAndTellsWhereTheBookHasIt) {
 }
 
 TEST(AssignmentPreview, WarnsOfNoPointOfAnotherYearWhoseDateIsThePlansToo) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     EXPECT_THAT(LinesFor(world, {GoodFriday(Date(2017, 4, 14))})[0].warnings, IsEmpty());
   });
 }
 
 TEST(AssignmentPreview, WarnsOfAPointOfAnotherYearThatNoBookKnows) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     RuleToAssign fair = kFair;
     fair.date = Date(2025, 7, 3);
     EXPECT_THAT(LinesFor(world, {fair})[0].warnings,
@@ -96,9 +96,9 @@ TEST(AssignmentPreview, WarnsOfAPointOfAnotherYearThatNoBookKnows) {
 }
 
 TEST(AssignmentPreview, WarnsOfAWeekendByTheCalendarItsBookOrAsIsUsual) {
-  const auto warns_on_saturday = [](const std::function<void(MemoryWorld & world)>& prepare, bool expected) {
+  const auto warns_on_saturday = [](const std::function<void(EuroWorld & world)>& prepare, bool expected) {
     RunInFreshThread([&] {
-      MemoryWorld world;
+      EuroWorld world;
       world.Tables().calendars[{978, 2028}].resize(366);
       prepare(world);
       RuleToAssign fair = kFair;
@@ -108,16 +108,16 @@ TEST(AssignmentPreview, WarnsOfAWeekendByTheCalendarItsBookOrAsIsUsual) {
                 expected ? std::vector<std::string>{"It falls on a Saturday"} : std::vector<std::string>{});
     });
   };
-  warns_on_saturday([](MemoryWorld&) {}, true);
-  warns_on_saturday([](MemoryWorld& world) { world.Tables().books.clear(); }, true);
+  warns_on_saturday([](EuroWorld&) {}, true);
+  warns_on_saturday([](EuroWorld& world) { world.Tables().books.clear(); }, true);
   warns_on_saturday(
-      [](MemoryWorld& world) {
+      [](EuroWorld& world) {
         auto& rules = world.Tables().books.at(978).rules;
         rules.erase(rules.begin());
       },
       false);
   warns_on_saturday(
-      [](MemoryWorld& world) {
+      [](EuroWorld& world) {
         auto& rules = world.Tables().books.at(978).rules;
         rules.erase(rules.begin());
         world.Give(Date(2028, 7, 1), 2);
@@ -126,7 +126,7 @@ TEST(AssignmentPreview, WarnsOfAWeekendByTheCalendarItsBookOrAsIsUsual) {
 }
 
 TEST(AssignmentPreview, WarnsOfARuleThatStandsElsewhereInTheYear) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     world.Give(Date(2028, 7, 4), kFairRule);
     EXPECT_THAT(LinesFor(world, {kFair})[0].warnings,
                 ElementsAre("It stands on Tuesday 4 July 2028 already"));
@@ -138,7 +138,7 @@ TEST(AssignmentPreview, WarnsOfARuleThatStandsElsewhereInTheYear) {
 }
 
 TEST(AssignmentPreview, WarnsOfAnExceptionThatWouldBeClosed) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     world.Give(Date(2028, 7, 3), kExceptionRule, "Settlement works");
     const auto lines = LinesFor(world, {kFair});
     EXPECT_EQ(lines[0].now, "Working day by exception: Settlement works");
@@ -147,7 +147,7 @@ TEST(AssignmentPreview, WarnsOfAnExceptionThatWouldBeClosed) {
 }
 
 TEST(AssignmentPreview, WarnsOfARuleOfAnotherCurrencysBook) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     const headless::MemoryRecurrence fair{"Street fair", 4, "07-03", {}, {}};
     world.AddBook(840, fair);
     EXPECT_THAT(LinesFor(world, {kFair})[0].warnings,
@@ -162,7 +162,7 @@ TEST(AssignmentPreview, WarnsOfARuleOfAnotherCurrencysBook) {
 
 TEST(AssignmentPreview, CountsTheDaysOfAWeekdayRule) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.Tables().calendars[{978, 2028}].resize(366);
     world.Give(Date(2028, 1, 1), kNewYearRule);
     world.Give(Date(2028, 1, 8), kExceptionRule);
@@ -177,7 +177,7 @@ TEST(AssignmentPreview, CountsTheDaysOfAWeekdayRule) {
 }
 
 TEST(AssignmentPreview, TellsThatAWeekdayRuleChangesNothingWhereAllDaysHaveIt) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     const auto lines = LinesFor(world, {kSaturday});
     EXPECT_FALSE(lines[0].changes);
     EXPECT_EQ(lines[0].now, "0 days take it and 53 have it");
@@ -185,7 +185,7 @@ TEST(AssignmentPreview, TellsThatAWeekdayRuleChangesNothingWhereAllDaysHaveIt) {
 }
 
 TEST(AssignmentPreview, WarnsOfAWeekdayOnWhichTheBookIsOpen) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     EXPECT_THAT(LinesFor(world, {kWednesday})[0].warnings,
                 ElementsAre("The book of EUR closes no Wednesdays"));
     world.Tables().books.clear();
@@ -194,7 +194,7 @@ TEST(AssignmentPreview, WarnsOfAWeekdayOnWhichTheBookIsOpen) {
 }
 
 TEST(AssignmentPreview, GivesAWeekdayRuleToASingleDayAndADatedRuleToItsOwn) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     const Date friday(2028, 4, 7);
     const auto lines = LinesFor(world, {kSaturday, GoodFriday(Date(2028, 4, 14))}, friday);
     EXPECT_EQ(lines[0].day, friday);
@@ -206,7 +206,7 @@ TEST(AssignmentPreview, GivesAWeekdayRuleToASingleDayAndADatedRuleToItsOwn) {
 }
 
 TEST(AssignmentPreview, TellsOfARuleWithoutADateThatNothingIsAssigned) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     RuleToAssign fair = kFair;
     fair.date.reset();
     const auto lines = LinesFor(world, {fair});
@@ -216,7 +216,7 @@ TEST(AssignmentPreview, TellsOfARuleWithoutADateThatNothingIsAssigned) {
 }
 
 TEST(AssignmentPreview, SeesWhatTheRulesBeforeHaveLeft) {
-  OnAPreview([](MemoryWorld& world) {
+  OnAPreview([](EuroWorld& world) {
     RuleToAssign second = kNewYear;
     second.date = Date(2026, 7, 3);
     const auto lines = LinesFor(world, {kFair, second, kFair});
@@ -227,7 +227,7 @@ TEST(AssignmentPreview, SeesWhatTheRulesBeforeHaveLeft) {
 
 TEST(AssignmentPreview, PutsALeapDayOnTheTwentyEighthOfACommonYear) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2027);
     RuleToAssign fair = kFair;
     fair.date = Date(2024, 2, 29);

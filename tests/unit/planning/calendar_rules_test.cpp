@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/run_in_fresh_thread.h"
-#include "tests/unit/planning/memory_world.h"
+#include "tests/unit/planning/euro_world.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -19,11 +19,11 @@ constexpr std::int32_t kGoodFriday = 5;
 constexpr std::int32_t kFair = 6;
 constexpr std::int32_t kDollar = 840;
 
-CalendarRules RulesOf(MemoryWorld&, int year = 2028) { return {MemoryWorld::kEuro, year, {}}; }
+CalendarRules RulesOf(EuroWorld&, int year = 2028) { return {EuroWorld::kEuro, year, {}}; }
 
 TEST(CalendarRules, KnowTheDaysOfARuleInTheCalendarAndInItsPlan) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Give(Date(2028, 4, 3), kGoodFriday);
     world.Give(Date(2028, 5, 3), kGoodFriday);
@@ -37,7 +37,7 @@ TEST(CalendarRules, KnowTheDaysOfARuleInTheCalendarAndInItsPlan) {
 
 TEST(CalendarRules, AreOfInterestByTheBookOfTheCurrency) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddBook(kDollar, {"Street fair", 4, "07-01", {}, {}});
     const CalendarRules rules = RulesOf(world);
     EXPECT_TRUE(rules.IsOfInterest(kGoodFriday));
@@ -50,7 +50,7 @@ TEST(CalendarRules, AreOfInterestByTheBookOfTheCurrency) {
 
 TEST(CalendarRules, AreOfInterestByTheCalendarsOfTheCurrencyThatAreNear) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddBook(kDollar, {"Street fair", 4, "07-01", {}, {}});
     world.AddYear(2026);
     world.Give(Date(2026, 7, 1), kFair);
@@ -63,7 +63,7 @@ TEST(CalendarRules, AreOfInterestByTheCalendarsOfTheCurrencyThatAreNear) {
 
 TEST(CalendarRules, ThatOnlyOthersCalendarsHaveAreOfNoInterest) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2027);
     world.Give(Date(2027, 7, 1), kFair);
     world.Tables().calendars[{kDollar, 2027}] = world.Tables().calendars.at({978, 2027});
@@ -74,7 +74,7 @@ TEST(CalendarRules, ThatOnlyOthersCalendarsHaveAreOfNoInterest) {
 
 TEST(CalendarRules, ThatNobodyHasAreOfInterestToAll) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     EXPECT_TRUE(RulesOf(world).IsOfInterest(kFair));
     EXPECT_TRUE(RulesOf(world).IsOfInterest(999));
   });
@@ -82,7 +82,7 @@ TEST(CalendarRules, ThatNobodyHasAreOfInterestToAll) {
 
 TEST(CalendarRules, HaveTheNamesOfMovedDaysFromTheirBooks) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddBook(kDollar, {"Independence Day", 3, "07-04 Sunday to Monday", {}, "Street fair"});
     EXPECT_THAT(RulesOf(world).OtherBooksOf(kFair), ElementsAre("USD"));
   });
@@ -90,7 +90,7 @@ TEST(CalendarRules, HaveTheNamesOfMovedDaysFromTheirBooks) {
 
 TEST(CalendarRules, OfAYearThatNobodyCanPlanHaveNoPlan) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     EXPECT_EQ(RulesOf(world, 2500).Plan(), nullptr);
     world.Tables().books.clear();
     EXPECT_EQ(RulesOf(world).Plan(), nullptr);

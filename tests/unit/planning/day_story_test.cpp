@@ -5,15 +5,18 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/run_in_fresh_thread.h"
-#include "tests/unit/planning/memory_world.h"
+#include "tests/unit/planning/euro_world.h"
 
 namespace ferrowind::planning {
 namespace {
 
 using platform::Date;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using testing::RunInFreshThread;
+using ::testing::StartsWith;
 using Opinion = DayStory::Opinion;
 using State = DayStory::State;
 
@@ -23,13 +26,13 @@ constexpr std::int32_t kNewYear = 4;
 constexpr std::int32_t kGoodFriday = 5;
 constexpr std::int32_t kFair = 6;
 
-DayStory StoryOf(MemoryWorld&, const Date& day, const almanac::DateTables& tables = {}) {
-  return CalendarStory(MemoryWorld::kEuro, day.Year(), tables).Of(day);
+DayStory StoryOf(EuroWorld&, const Date& day, const almanac::DateTables& tables = {}) {
+  return CalendarStory(EuroWorld::kEuro, day.Year(), tables).Of(day);
 }
 
 TEST(DayStory, TellsRuleExpressionPlanAndSourceOfAHoliday) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Give(Date(2028, 4, 14), kGoodFriday, "All day");
     const DayStory story = StoryOf(world, Date(2028, 4, 14));
@@ -46,7 +49,7 @@ TEST(DayStory, TellsRuleExpressionPlanAndSourceOfAHoliday) {
 
 TEST(DayStory, TellsThatAnOrdinaryDayIsAsPlanned) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     const DayStory story = StoryOf(world, Date(2028, 4, 12));
     EXPECT_EQ(story.state, State::kOrdinary);
@@ -59,7 +62,7 @@ TEST(DayStory, TellsThatAnOrdinaryDayIsAsPlanned) {
 
 TEST(DayStory, TellsWhatAnOrdinaryDayShouldBe) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     const DayStory story = StoryOf(world, Date(2028, 4, 14));
     EXPECT_EQ(story.state, State::kOrdinary);
@@ -71,7 +74,7 @@ TEST(DayStory, TellsWhatAnOrdinaryDayShouldBe) {
 
 TEST(DayStory, TellsThatADayOfNoPlannedRuleShouldBeOrdinary) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Give(Date(2028, 6, 1), kFair);
     const DayStory story = StoryOf(world, Date(2028, 6, 1));
@@ -84,7 +87,7 @@ TEST(DayStory, TellsThatADayOfNoPlannedRuleShouldBeOrdinary) {
 
 TEST(DayStory, TellsTheExpressionOfTheRuleThatADayHasAndNotOfTheOneThatItShouldHave) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Give(Date(2028, 4, 14), kNewYear);
     const DayStory story = StoryOf(world, Date(2028, 4, 14));
@@ -97,7 +100,7 @@ TEST(DayStory, TellsTheExpressionOfTheRuleThatADayHasAndNotOfTheOneThatItShouldH
 
 TEST(DayStory, TellsTheReasonOfAnException) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Give(Date(2028, 4, 14), kExceptionRule, "Settlement works");
     const DayStory story = StoryOf(world, Date(2028, 4, 14));
@@ -110,7 +113,7 @@ TEST(DayStory, TellsTheReasonOfAnException) {
 
 TEST(DayStory, SaysWhyThereIsNoPlan) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.AddYear(2600);
     EXPECT_THAT(StoryOf(world, Date(2600, 1, 1)).opinion, HasSubstr("2199"));
@@ -126,7 +129,7 @@ TEST(DayStory, SaysWhyThereIsNoPlan) {
 
 TEST(DayStory, SaysThatThePlanLacksTheDatesOfARule) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Tables().books.at(978).rules.push_back({"Street fair", 4, "table fairs", {}, {}});
     world.Give(Date(2028, 6, 1), kFair);
@@ -141,7 +144,7 @@ TEST(DayStory, SaysThatThePlanLacksTheDatesOfARule) {
 
 TEST(DayStory, OfACalendarWhoseCurrencyIsUnknownNamesItsNumber) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     world.Tables().calendars[{777, 2028}] = world.Tables().calendars.at({978, 2028});
     EXPECT_THAT(CalendarStory(777, 2028, {}).Of(Date(2028, 4, 14)).opinion, HasSubstr("777 has no book"));
@@ -150,7 +153,7 @@ TEST(DayStory, OfACalendarWhoseCurrencyIsUnknownNamesItsNumber) {
 
 TEST(DayStory, IsRightOrSaysThatItIsNotKnownAtAnyFailingCall) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
     int call = 1;
     int told = 0;
@@ -172,16 +175,31 @@ TEST(DayStory, IsRightOrSaysThatItIsNotKnownAtAnyFailingCall) {
   });
 }
 
+TEST(DayStory, TellsWhoChangedTheDayLast) {
+  RunInFreshThread([] {
+    EuroWorld world;
+    world.AddYear(2028);
+    const CalendarStory story(EuroWorld::kEuro, 2028, {});
+    EXPECT_EQ(story.LoadLastChange(Date(2028, 4, 14)), "");
+    world.world.database->SetUser("anna");
+    world.Call("CldIUMain", {978, 2028, 4, 5, 105, Date(2028, 4, 14), {}});
+    world.world.database->SetUser("otto");
+    world.Call("CldIUMain", {978, 2028, 4, 6, 106, Date(2028, 4, 15), {}});
+    EXPECT_THAT(story.LoadLastChange(Date(2028, 4, 14)),
+                AllOf(StartsWith("anna, "), EndsWith(": Assigned Good Friday to 14 April 2028")));
+  });
+}
+
 TEST(SameDay, TellsTheDateAndTheDaysOfTheRuleInTheYearsAround) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     for (const int year : {2026, 2027, 2028, 2029}) world.AddYear(year);
     world.Give(Date(2026, 4, 3), kGoodFriday);
     world.Give(Date(2027, 3, 26), kGoodFriday);
     world.Give(Date(2028, 4, 14), kGoodFriday);
     world.Give(Date(2029, 3, 30), kGoodFriday);
     world.Give(Date(2029, 4, 2), kGoodFriday);
-    const CalendarStory story(MemoryWorld::kEuro, 2028, {});
+    const CalendarStory story(EuroWorld::kEuro, 2028, {});
     const auto around = story.Around(Date(2028, 4, 14));
     ASSERT_EQ(around.size(), 4u);
     EXPECT_EQ(around[0].day, Date(2026, 4, 14));
@@ -198,12 +216,12 @@ TEST(SameDay, TellsTheDateAndTheDaysOfTheRuleInTheYearsAround) {
 
 TEST(SameDay, OfAWeekendOrAnExceptionTellsNoDaysOfItsRule) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2027);
     world.AddYear(2028);
     world.Give(Date(2028, 4, 14), kExceptionRule);
     world.Give(Date(2027, 5, 3), kExceptionRule);
-    const CalendarStory story(MemoryWorld::kEuro, 2028, {});
+    const CalendarStory story(EuroWorld::kEuro, 2028, {});
     for (const Date& day : {Date(2028, 4, 14), Date(2028, 4, 15), Date(2028, 4, 13)}) {
       EXPECT_TRUE(story.Around(day)[1].days_of_rule.empty());
     }
@@ -213,20 +231,19 @@ TEST(SameDay, OfAWeekendOrAnExceptionTellsNoDaysOfItsRule) {
 
 TEST(SameDay, OfALeapDayIsTheDayBeforeTheFirstOfMarch) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(2028);
-    EXPECT_EQ(CalendarStory(MemoryWorld::kEuro, 2028, {}).Around(Date(2028, 2, 29))[0].day,
-              Date(2026, 2, 28));
+    EXPECT_EQ(CalendarStory(EuroWorld::kEuro, 2028, {}).Around(Date(2028, 2, 29))[0].day, Date(2026, 2, 28));
   });
 }
 
 TEST(SameDay, StaysWithinTheYearsThatCalendarsCanHave) {
   RunInFreshThread([] {
-    MemoryWorld world;
+    EuroWorld world;
     world.AddYear(1900);
     world.AddYear(3000);
-    EXPECT_EQ(CalendarStory(MemoryWorld::kEuro, 1900, {}).Around(Date(1900, 5, 5)).size(), 2u);
-    EXPECT_EQ(CalendarStory(MemoryWorld::kEuro, 3000, {}).Around(Date(3000, 5, 5)).size(), 2u);
+    EXPECT_EQ(CalendarStory(EuroWorld::kEuro, 1900, {}).Around(Date(1900, 5, 5)).size(), 2u);
+    EXPECT_EQ(CalendarStory(EuroWorld::kEuro, 3000, {}).Around(Date(3000, 5, 5)).size(), 2u);
   });
 }
 

@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "ferrowind/adapters/headless/world.h"
 #include "ferrowind/data/module_state.h"
 
@@ -13,11 +15,11 @@ namespace ferrowind::planning {
 /// The component over a calendar database in memory that has the rules "Saturday" (2), "Sunday" (3),
 /// "New Year's Day" (4), "Good Friday" (5) and "Street fair" (6), and a book of EUR with all but the last.
 /// Make one on a fresh thread.
-class MemoryWorld {
+class EuroWorld {
  public:
   static constexpr std::int32_t kEuro = 978;
 
-  MemoryWorld() {
+  EuroWorld() {
     AttachPlatform(platform);
     EnsureDictionaryObject();
     static_cast<void>(SharedServicesObject());
@@ -40,12 +42,14 @@ class MemoryWorld {
     Tables().rules[4] = dated("New Year's Day", 3, Date(2026, 1, 1));
     Tables().rules[5] = dated("Good Friday", 4, Date(2026, 4, 3));
     Tables().rules[6] = dated("Street fair", 4, Date(2026, 7, 1));
-    Tables().books[kEuro] = {"ECB",
-                             "Closing days",
-                             {{"Saturday", 2, "weekday Saturday", {}, {}},
-                              {"Sunday", 2, "weekday Sunday", {}, {}},
-                              {"New Year's Day", 3, "01-01", {}, {}},
-                              {"Good Friday", 4, "easter-2", {}, {}}}};
+    headless::MemoryBook book;
+    book.publisher = "ECB";
+    book.document = "Closing days";
+    book.rules = {{"Saturday", 2, "weekday Saturday", {}, {}},
+                  {"Sunday", 2, "weekday Sunday", {}, {}},
+                  {"New Year's Day", 3, "01-01", {}, {}},
+                  {"Good Friday", 4, "easter-2", {}, {}}};
+    Tables().books[kEuro] = book;
   }
 
   /// Makes the calendar of EUR with its weekends.
@@ -65,7 +69,15 @@ class MemoryWorld {
   }
   /// Gives another currency a book with that rule and a weekend.
   void AddBook(std::int32_t currency, const headless::MemoryRecurrence& rule) {
-    Tables().books[currency] = {"Bank", "Holidays", {{"Sunday", 2, "weekday Sunday", {}, {}}, rule}};
+    headless::MemoryBook book;
+    book.publisher = "Bank";
+    book.document = "Holidays";
+    book.rules = {{"Sunday", 2, "weekday Sunday", {}, {}}, rule};
+    Tables().books[currency] = book;
+  }
+  /// By position, as the procedure has its parameters; returns 0.
+  void Call(const std::string& procedure, const std::vector<platform::Value>& inputs) {
+    EXPECT_EQ(world.database->Call(procedure, inputs).return_value, 0);
   }
   [[nodiscard]] headless::MemoryTables& Tables() { return world.database->Tables(); }
 
