@@ -46,9 +46,12 @@ class CurrencyReadiness {
     readiness.has_calendar = calendar != currency_.calendars.end();
     if (currency_.last_day && currency_.last_day->Year() < year) {
       readiness.readiness = Readiness::kEnded;
-    } else if (readiness.has_calendar) {
+      return readiness;
+    }
+    readiness.can_be_planned = planner_ && planner_->Reaches(year);
+    if (readiness.has_calendar) {
       readiness.readiness = ByClosedDays(*calendar);
-      if (planner_ && year >= kFirstYear && year <= kLastYear) Compare(*calendar, readiness);
+      if (readiness.can_be_planned) Compare(*calendar, readiness);
     }
     return readiness;
   }

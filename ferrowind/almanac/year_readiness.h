@@ -18,7 +18,7 @@ enum class Readiness : std::uint8_t {
   kWeekendsOnly,
   /// Some days are not as planned.
   kDiffers,
-  /// There are holidays, and no book that could be used to tell whether they are the right ones.
+  /// There are holidays, and no plan to tell whether they are the right ones.
   kNotCompared,
   /// As planned, as far as the dates are published.
   kPrepared,
@@ -32,6 +32,9 @@ struct YearReadiness {
   int year = 0;
   Readiness readiness = Readiness::kNotPrepared;
   bool has_calendar = false;
+  /// Whether a plan can be made of the year: there is a book that can be used and tells of it, and the money
+  /// has not ended.
+  bool can_be_planned = false;
   /// Days that are not as planned.
   int differing_days = 0;
   /// Days that the plan closes and that are working days by exception, with a reason; not among the differing

@@ -24,7 +24,6 @@ CurrencyReadiness ReadinessIn(const DatabaseContent& content, std::int32_t id,
     readiness.currency.id = id;
     readiness.currency.code = judged.code;
   }
-  readiness.can_be_planned = judged.book.has_value();
   readiness.years =
       almanac::ReadinessOf(judged, content.rules, tables, report.FirstYear(), report.LastYear());
   return readiness;
@@ -54,10 +53,9 @@ int ReadinessReport::CountUrgent(int year) const {
 std::vector<CalendarKey> ReadinessReport::ToPrepare(int year) const {
   std::vector<CalendarKey> calendars;
   for (const CurrencyReadiness& currency : currencies) {
-    if (!currency.can_be_planned) continue;
     for (const YearReadiness& of : currency.years) {
       const bool changes = IsUnprepared(of) || of.readiness == Readiness::kDiffers;
-      if (of.year == year && changes) calendars.emplace_back(currency.currency.id, year);
+      if (of.year == year && of.can_be_planned && changes) calendars.emplace_back(currency.currency.id, year);
     }
   }
   return calendars;

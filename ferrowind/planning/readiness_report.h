@@ -15,8 +15,6 @@ namespace ferrowind::planning {
 struct CurrencyReadiness {
   /// One that the dictionary lacks has its number for a code, and no name.
   Currency currency;
-  /// Whether its book can be used, so that years can be planned.
-  bool can_be_planned = false;
   /// One for each year of the report, ascending.
   std::vector<almanac::YearReadiness> years;
 };

@@ -12,15 +12,13 @@ constexpr const char* kForm = "fmReadiness";
 constexpr QSize kSize(1040, 760);
 constexpr double kShareOfScreen = 0.92;
 
-ReadinessDoors DoorsTo(PlanningWindows& /*windows*/) { return {}; }
-
 }  // namespace
 
 StartPage::StartPage(DesktopSurroundings& surroundings, OperatorNews& news, BackOfficeWindow& window)
     : platform_(surroundings.Get()), day_read_(platform_.clock.Today()) {
   surroundings.Toolkit().PlaceForm(kForm, window.PlaceOfStartPage());
   PlanningWindows& windows = surroundings.Windows();
-  board_ = fmReadiness::Create({platform_, DeliveredDateTables(), windows}, DoorsTo(windows));
+  board_ = fmReadiness::Create({platform_, DeliveredDateTables(), windows}, fmReadiness::DoorsTo(windows));
   changed_ = news.OnChange([this] { is_out_of_date_ = true; });
   connect(&window, &BackOfficeWindow::Activated, this, &StartPage::FollowWhenOld);
   window.AskBeforeClosing([&windows] { return windows.CloseAll(); });

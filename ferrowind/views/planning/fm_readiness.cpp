@@ -5,6 +5,7 @@
 
 #include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/planning/readiness_words.h"
 
@@ -54,10 +55,14 @@ std::shared_ptr<fmReadiness> fmReadiness::Create(const PlanningContext& context,
   return window;
 }
 
+ReadinessDoors fmReadiness::DoorsTo(PlanningWindows& windows) {
+  return {.open_year_plan = [&windows](const auto& calendars) { windows.OpenYearPlan(calendars); }};
+}
+
 fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
     : context_(context),
       doors_(std::move(doors)),
-      form_(context.platform.toolkit.CreateForm(Design())),
+      form_(context.platform.toolkit.CreateForm(Said(context.platform, Design()))),
       lblUrgent_(ControlOf<platform::Label>(*form_, "lblUrgent")),
       lblSummary_(ControlOf<platform::Label>(*form_, "lblSummary")),
       lblProblem_(ControlOf<platform::Label>(*form_, "lblProblem")),
@@ -91,12 +96,19 @@ void fmReadiness::Subscribe() {
       context_.windows.OnChanged([changed](const PlanningWindows::Changed&) { changed(); }));
 }
 
+std::string fmReadiness::Say(const std::string& text, const std::vector<std::string>& arguments) const {
+  return Said(context_.platform, text, arguments);
+}
+
 // Showing and closing
 // ------------------------------------------------------------------------------------------------------------
 
 void fmReadiness::Show() { form_->Show(); }
 
-void fmReadiness::ShowInFront() { form_->Show(); }
+void fmReadiness::ShowInFront() {
+  form_->Show();
+  form_->Raise();
+}
 
 bool fmReadiness::Close() { return form_->Unload(); }
 
@@ -106,10 +118,10 @@ void fmReadiness::Load() {
   RunStep([this] { placement_.Restore(context_.platform.toolkit, *form_); });
   lblUrgent_.SetVisible(false);
   lblProblem_.SetVisible(false);
-  tblFindings_.SetColumns({{"level", "Level"},
-                           {"currency", "Currency"},
-                           {"year", "Year"},
-                           {"finding", "Finding", platform::CellAlignment::kLeading, true}});
+  tblFindings_.SetColumns({{"level", Say("Level")},
+                           {"currency", Say("Currency")},
+                           {"year", Say("Year")},
+                           {"finding", Say("Finding"), platform::CellAlignment::kLeading, true}});
   EnableButtons();
   Read();
 }
@@ -136,15 +148,16 @@ void fmReadiness::Read() {
 }
 
 void fmReadiness::ShowProblem(const std::string& problem) {
-  lblProblem_.SetText((report_ ? "What stands here may be out of date, for the database could not be read: "
-                               : "The database could not be read: ") +
-                      problem);
+  lblProblem_.SetText(Say(report_
+                              ? "What stands here may be out of date, for the database could not be read: %1"
+                              : "The database could not be read: %1",
+                          {problem}));
   lblProblem_.SetVisible(true);
-  if (!report_) tblBoard_.SetEmptyText("Nothing could be read");
+  if (!report_) tblBoard_.SetEmptyText(Say("Nothing could be read"));
 }
 
 void fmReadiness::ShowReport() {
-  const ReadinessWords words(*report_);
+  const ReadinessWords words(context_.platform, *report_);
   lblProblem_.SetVisible(false);
   const std::string urgent = words.Urgent();
   lblUrgent_.SetText(urgent);
@@ -152,12 +165,12 @@ void fmReadiness::ShowReport() {
   lblSummary_.SetText(words.Summary());
   ShowBoard();
   ShowFindings();
-  cmdPrepareAll_.SetCaption("Prepare all for " + std::to_string(report_->NextYear()) + "...");
+  cmdPrepareAll_.SetCaption(Say("Prepare all for %1...", {std::to_string(report_->NextYear())}));
   EnableButtons();
 }
 
 void fmReadiness::ShowBoard() {
-  const ReadinessWords words(*report_);
+  const ReadinessWords words(context_.platform, *report_);
   std::vector<TableRow> rows;
   for (const CurrencyReadiness& currency : report_->currencies) {
     TableRow row{currency.currency.code, {{currency.currency.code}, {currency.currency.name}}, {}};
@@ -167,14 +180,14 @@ void fmReadiness::ShowBoard() {
   // Columns that stay keep what the operator has chosen.
   const bool has_other_years = first_year_on_show_ != report_->FirstYear();
   if (has_other_years) ShowYears(words);
-  tblBoard_.SetEmptyText("There is no calendar and no rule book");
+  tblBoard_.SetEmptyText(Say("There is no calendar and no rule book"));
   tblBoard_.SetRows(rows);
   if (has_other_years) tblBoard_.SetCurrentColumn(std::to_string(report_->NextYear()));
 }
 
 void fmReadiness::ShowYears(const ReadinessWords& words) {
   std::vector<platform::TableColumn> columns = {
-      {kCodeColumn, "Currency"}, {kNameColumn, "Name", platform::CellAlignment::kLeading, true}};
+      {kCodeColumn, Say("Currency")}, {kNameColumn, Say("Name"), platform::CellAlignment::kLeading, true}};
   for (int year = report_->FirstYear(); year <= report_->LastYear(); ++year) {
     columns.push_back({std::to_string(year), words.YearCaption(year)});
   }
@@ -183,7 +196,7 @@ void fmReadiness::ShowYears(const ReadinessWords& words) {
 }
 
 void fmReadiness::ShowFindings() {
-  const ReadinessWords words(*report_);
+  const ReadinessWords words(context_.platform, *report_);
   lblFindings_.SetText(words.FindingsTitle());
   findings_.clear();
   std::vector<TableRow> rows;
@@ -194,11 +207,11 @@ void fmReadiness::ShowFindings() {
     std::string key = finding.sentence;
     while (findings_.contains(key)) key += '\n';
     findings_[key] = {finding.currency, finding.year, IsAboutBook(finding)};
-    TableCell level = ReadinessWords::LevelCell(finding.level);
+    TableCell level = words.LevelCell(finding.level);
     level.order = place++;
     rows.push_back({key, {level, {finding.currency}, {year}, {finding.sentence}}, {}});
   }
-  tblFindings_.SetEmptyText("All calendars are as planned, as far as it is published");
+  tblFindings_.SetEmptyText(Say("All calendars are as planned, as far as it is published"));
   tblFindings_.SetRows(rows);
 }
 

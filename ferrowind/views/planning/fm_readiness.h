@@ -19,7 +19,7 @@ namespace ferrowind {
 
 class ReadinessWords;
 
-/// What the board has done by others. One that is empty is not offered.
+/// What the board leaves to other windows. One that is empty is not offered.
 struct ReadinessDoors {
   std::function<void(const std::vector<planning::CalendarKey>& calendars)> open_year_plan = {};
   /// Of the currency of that number.
@@ -33,6 +33,8 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   /// What `context` refers to must outlive the window.
   [[nodiscard]] static std::shared_ptr<fmReadiness> Create(const PlanningContext& context,
                                                            ReadinessDoors doors);
+  /// The doors to the windows of planning; these must outlive them.
+  [[nodiscard]] static ReadinessDoors DoorsTo(PlanningWindows& windows);
   fmReadiness(const fmReadiness&) = delete;
   fmReadiness& operator=(const fmReadiness&) = delete;
 
@@ -58,6 +60,9 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   void Subscribe();
   /// A handler that runs the command as long as the window is there.
   [[nodiscard]] std::function<void()> Running(void (fmReadiness::*command)());
+
+  [[nodiscard]] std::string Say(const std::string& text,
+                                const std::vector<std::string>& arguments = {}) const;
 
   void Load();
   void Closing();

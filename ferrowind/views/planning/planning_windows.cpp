@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ferrowind/views/planning/fm_readiness.h"
 #include "ferrowind/views/planning/fm_year_plan.h"
 #include "ferrowind/views/planning/planning_context.h"
 
@@ -24,6 +25,12 @@ void PlanningWindows::Open(const std::string& name, const Maker& make) {
 void PlanningWindows::OpenYearPlan(const std::vector<planning::CalendarKey>& calendars) {
   Open(fmYearPlan::NameFor(calendars),
        [&](const PlanningContext& context) { return fmYearPlan::Create(context, calendars); });
+}
+
+void PlanningWindows::OpenReadiness() {
+  Open("readiness", [](const PlanningContext& context) {
+    return fmReadiness::Create(context, fmReadiness::DoorsTo(context.windows));
+  });
 }
 
 bool PlanningWindows::CloseAll() {

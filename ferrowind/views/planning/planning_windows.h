@@ -37,6 +37,9 @@ class PlanningWindows {
   /// The plans of those calendars, at least one and none twice.
   void OpenYearPlan(const std::vector<planning::CalendarKey>& calendars);
 
+  /// The readiness board.
+  void OpenReadiness();
+
   /// Closes all windows; false, with the others closed, when one of them refuses.
   bool CloseAll();
 

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <vector>
+
+#include "ferrowind/data/said.h"
 
 namespace ferrowind {
 namespace {
@@ -16,28 +19,6 @@ using planning::ReadinessReport;
 using platform::CellMark;
 using platform::CellTone;
 using platform::TableCell;
-
-std::string Counted(int count, const char* one, const char* many) {
-  return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
-TableCell WordAndShape(const YearReadiness& year) {
-  switch (year.readiness) {
-    case Readiness::kNotPrepared:
-      return {"Not prepared", CellMark::kMissing};
-    case Readiness::kWeekendsOnly:
-      return {"Weekends only", CellMark::kPartly};
-    case Readiness::kDiffers:
-      return {"Differs by " + Counted(year.differing_days, "day", "days"), CellMark::kDiffers};
-    case Readiness::kNotCompared:
-      return {"Not compared", CellMark::kNote};
-    case Readiness::kPrepared:
-      return {year.unpublished.empty() ? "Prepared" : "Prepared as published", CellMark::kPrepared};
-    case Readiness::kEnded:
-      return {"No money then", CellMark::kNone, CellTone::kQuiet};
-  }
-  return {};
-}
 
 bool IsPrepared(const YearReadiness& year) { return year.readiness == Readiness::kPrepared; }
 
@@ -63,10 +44,13 @@ Share ShareOf(const ReadinessReport& report, int year) {
 
 std::string ReadinessWords::YearCaption(int year) const {
   const std::string number = std::to_string(year);
-  if (year == report_.today.Year()) return number + ", this year";
-  if (year == report_.NextYear()) return number + ", next year";
+  if (year == report_.today.Year()) return Said(platform_, "%1, this year", {number});
+  if (year == report_.NextYear()) return Said(platform_, "%1, next year", {number});
   return number;
 }
+
+// Cells
+// --------------------------------------------------------------------------------------------------------------------
 
 TableCell ReadinessWords::Cell(const CurrencyReadiness& currency, const YearReadiness& year) const {
   TableCell cell = WordAndShape(year);
@@ -75,92 +59,125 @@ TableCell ReadinessWords::Cell(const CurrencyReadiness& currency, const YearRead
   return cell;
 }
 
+TableCell ReadinessWords::WordAndShape(const YearReadiness& year) const {
+  switch (year.readiness) {
+    case Readiness::kNotPrepared:
+      return {Said(platform_, "Not prepared"), CellMark::kMissing};
+    case Readiness::kWeekendsOnly:
+      return {Said(platform_, "Weekends only"), CellMark::kPartly};
+    case Readiness::kDiffers:
+      return {SaidOfNumber(platform_, year.differing_days, "Differs by %n day", "Differs by %n days"),
+              CellMark::kDiffers};
+    case Readiness::kNotCompared:
+      return {Said(platform_, "Not compared"), CellMark::kNote};
+    case Readiness::kPrepared:
+      return {Said(platform_, year.unpublished.empty() ? "Prepared" : "Prepared as published"),
+              CellMark::kPrepared};
+    case Readiness::kEnded:
+      return {Said(platform_, "No money then"), CellMark::kNone, CellTone::kQuiet};
+  }
+  return {};
+}
+
 std::string ReadinessWords::Sentence(const CurrencyReadiness& currency, const YearReadiness& year) const {
-  const std::string calendar = currency.currency.code + " " + std::to_string(year.year);
+  const std::vector<std::string> calendar = {currency.currency.code + " " + std::to_string(year.year)};
   std::string sentence;
   switch (year.readiness) {
     case Readiness::kNotPrepared:
-      sentence = calendar + (year.has_calendar ? " has no closed day." : " has no calendar.");
+      sentence =
+          Said(platform_, year.has_calendar ? "%1 has no closed day." : "%1 has no calendar.", calendar);
       break;
     case Readiness::kWeekendsOnly:
-      sentence = calendar + " is closed on weekends only.";
+      sentence = Said(platform_, "%1 is closed on weekends only.", calendar);
       if (year.differing_days != 0) {
-        sentence += " " + Counted(year.differing_days, "day is", "days are") + " not as planned.";
+        sentence += " " + SaidOfNumber(platform_, year.differing_days, "%n day is not as planned.",
+                                       "%n days are not as planned.");
       }
       break;
     case Readiness::kDiffers:
-      sentence = calendar + ": " + Counted(year.differing_days, "day is", "days are") + " not as planned.";
+      sentence = SaidOfNumber(platform_, year.differing_days, "%1: %n day is not as planned.",
+                              "%1: %n days are not as planned.", calendar);
       break;
     case Readiness::kNotCompared:
-      sentence = calendar + " has holidays, and no book that could be used tells whether they are right.";
+      sentence = Said(platform_, "%1 has holidays, and no rule book tells whether they are right.", calendar);
       break;
     case Readiness::kPrepared:
-      sentence = calendar + " is as planned.";
+      sentence = Said(platform_, "%1 is as planned.", calendar);
       break;
     case Readiness::kEnded:
       return planning::EndOfMoney(currency.currency) + ".";
   }
   if (year.excepted_days != 0) {
-    sentence +=
-        " " + Counted(year.excepted_days, "working day by exception has", "working days by exception have") +
-        " a reason.";
+    sentence += " " + SaidOfNumber(platform_, year.excepted_days, "%n working day by exception has a reason.",
+                                   "%n working days by exception have a reason.");
   }
   for (const std::string& unpublished : year.unpublished) sentence += " " + unpublished + ".";
   return sentence;
 }
 
-std::string ReadinessWords::UrgentIn(int year) const {
+TableCell ReadinessWords::LevelCell(FindingLevel level) const {
+  switch (level) {
+    case FindingLevel::kError:
+      return {Said(platform_, "Error"), CellMark::kError, CellTone::kLoud};
+    case FindingLevel::kWarning:
+      return {Said(platform_, "Warning"), CellMark::kWarning};
+    case FindingLevel::kNote:
+      return {Said(platform_, "Note"), CellMark::kNote, CellTone::kQuiet};
+  }
+  return {};
+}
+
+// All together
+// -------------------------------------------------------------------------------------------------------------
+
+std::string ReadinessWords::UrgentNow() const {
+  const int year = report_.today.Year();
   const int count = report_.CountUrgent(year);
   if (count == 0) return {};
-  return Counted(count, "currency has", "currencies have") + " no holidays in " + std::to_string(year);
+  return SaidOfNumber(platform_, count, "%n currency has no holidays in %1, the running year.",
+                      "%n currencies have no holidays in %1, the running year.", {std::to_string(year)});
+}
+
+std::string ReadinessWords::UrgentSoon() const {
+  const int year = report_.NextYear();
+  const int count = report_.CountUrgent(year);
+  if (count == 0) return {};
+  const int days = platform::Date(year, 1, 1).Serial() - report_.today.Serial();
+  const std::string when =
+      days == 1 ? Said(platform_, "tomorrow") : SaidOfNumber(platform_, days, "in %n day", "in %n days");
+  return SaidOfNumber(platform_, count, "%n currency has no holidays in %1, which begins %2.",
+                      "%n currencies have no holidays in %1, which begins %2.", {std::to_string(year), when});
 }
 
 std::string ReadinessWords::Urgent() const {
-  const std::string now = UrgentIn(report_.today.Year());
-  const std::string next = UrgentIn(report_.NextYear());
-  std::string urgent;
-  if (!now.empty()) urgent = now + ", the running year.";
-  if (next.empty()) return urgent;
-  const int days = platform::Date(report_.NextYear(), 1, 1).Serial() - report_.today.Serial();
-  return urgent + (urgent.empty() ? "" : " ") + next + ", which begins " +
-         (days == 1 ? std::string("tomorrow") : "in " + std::to_string(days) + " days") + ".";
+  const std::string now = UrgentNow();
+  const std::string soon = UrgentSoon();
+  return now + (now.empty() || soon.empty() ? "" : " ") + soon;
 }
 
 std::string ReadinessWords::Summary() const {
-  if (report_.currencies.empty()) return "There is no calendar and no rule book.";
-  const int this_year = report_.today.Year();
-  const Share now = ShareOf(report_, this_year);
-  const Share next = ShareOf(report_, report_.NextYear());
-  return "Prepared: " + std::to_string(now.prepared) + " of " + Counted(now.all, "currency", "currencies") +
-         " for " + std::to_string(this_year) + ", " + std::to_string(next.prepared) + " of " +
-         std::to_string(next.all) + " for " + std::to_string(report_.NextYear()) + ".";
+  if (report_.currencies.empty()) return Said(platform_, "There is no calendar and no rule book.");
+  const auto share_in = [this](int year) {
+    const Share share = ShareOf(report_, year);
+    return Said(platform_, "%1 of %2 currencies for %3",
+                {std::to_string(share.prepared), std::to_string(share.all), std::to_string(year)});
+  };
+  return Said(platform_, "Prepared: %1, %2.", {share_in(report_.today.Year()), share_in(report_.NextYear())});
 }
 
 std::string ReadinessWords::FindingsTitle() const {
-  if (report_.review.findings.empty()) return "The review has found nothing";
+  if (report_.review.findings.empty()) return Said(platform_, "The review has found nothing");
   std::array<int, 3> counts{};
   for (const Finding& finding : report_.review.findings) ++counts[static_cast<std::size_t>(finding.level)];
-  std::string title;
+  std::string list;
   const auto add = [&](FindingLevel level, const char* one, const char* many) {
     const int count = counts[static_cast<std::size_t>(level)];
-    if (count != 0) title += (title.empty() ? "" : ", ") + Counted(count, one, many);
+    if (count != 0) list += (list.empty() ? "" : ", ") + SaidOfNumber(platform_, count, one, many);
   };
-  add(FindingLevel::kError, "error", "errors");
-  add(FindingLevel::kWarning, "warning", "warnings");
-  add(FindingLevel::kNote, "note", "notes");
-  return "Findings of the review: " + title;
-}
-
-TableCell ReadinessWords::LevelCell(FindingLevel level) {
-  switch (level) {
-    case FindingLevel::kError:
-      return {"Error", CellMark::kError, CellTone::kLoud};
-    case FindingLevel::kWarning:
-      return {"Warning", CellMark::kWarning};
-    case FindingLevel::kNote:
-      return {"Note", CellMark::kNote, CellTone::kQuiet};
-  }
-  return {};
+  add(FindingLevel::kError, "%n error", "%n errors");
+  add(FindingLevel::kWarning, "%n warning", "%n warnings");
+  add(FindingLevel::kNote, "%n note", "%n notes");
+  return Said(platform_, "Findings of the review: %1", {list});
 }
 
 }  // namespace ferrowind

@@ -5,6 +5,7 @@
 #include "ferrowind/almanac/finding.h"
 #include "ferrowind/almanac/year_readiness.h"
 #include "ferrowind/planning/readiness_report.h"
+#include "ferrowind/platform/platform.h"
 #include "ferrowind/platform/toolkit/table.h"
 
 namespace ferrowind {
@@ -12,8 +13,9 @@ namespace ferrowind {
 /// A report on readiness in the operator's words and shapes.
 class ReadinessWords {
  public:
-  /// `report` must outlive this object.
-  explicit ReadinessWords(const planning::ReadinessReport& report) : report_(report) {}
+  /// Both must outlive this object.
+  ReadinessWords(const platform::Platform& platform, const planning::ReadinessReport& report)
+      : platform_(platform), report_(report) {}
 
   /// "2027, next year".
   [[nodiscard]] std::string YearCaption(int year) const;
@@ -29,13 +31,16 @@ class ReadinessWords {
 
   /// "Findings of the review: 1 error, 2 warnings, 3 notes".
   [[nodiscard]] std::string FindingsTitle() const;
-  [[nodiscard]] static platform::TableCell LevelCell(almanac::FindingLevel level);
+  [[nodiscard]] platform::TableCell LevelCell(almanac::FindingLevel level) const;
 
  private:
   [[nodiscard]] std::string Sentence(const planning::CurrencyReadiness& currency,
                                      const almanac::YearReadiness& year) const;
-  [[nodiscard]] std::string UrgentIn(int year) const;
+  [[nodiscard]] platform::TableCell WordAndShape(const almanac::YearReadiness& year) const;
+  [[nodiscard]] std::string UrgentNow() const;
+  [[nodiscard]] std::string UrgentSoon() const;
 
+  const platform::Platform& platform_;
   const planning::ReadinessReport& report_;
 };
 

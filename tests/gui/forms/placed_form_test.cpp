@@ -81,6 +81,11 @@ TEST_F(PlacedForm, FillsItsPlaceInTheWindowAroundIt) {
   EXPECT_EQ(accessible->role(), QAccessible::Grouping);
 }
 
+TEST_F(PlacedForm, AnotherOneOfItsNameIsAWindow) {
+  const auto other = toolkit_.CreateForm(Design());
+  EXPECT_EQ(place_->findChildren<FormWindow*>().size(), 1);
+}
+
 TEST_F(PlacedForm, ShowingItDoesNotShowTheWindowAroundIt) {
   form_->Show();
   EXPECT_FALSE(host_.isVisible());

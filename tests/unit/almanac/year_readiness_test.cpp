@@ -109,6 +109,22 @@ TEST_F(YearReadinessTest, HolidaysWithoutABookAreComparedWithNothing) {
   EXPECT_EQ(Of2028(Sundays2028And({})).readiness, Readiness::kWeekendsOnly);
 }
 
+TEST_F(YearReadinessTest, AYearBeforeTheBookIsComparedWithNothing) {
+  currency_.book->since = 2029;
+  const YearReadiness year = Of2028(Sundays2028And({Marked("2028-12-25", rule::kChristmas)}));
+  EXPECT_EQ(year.readiness, Readiness::kNotCompared);
+  EXPECT_FALSE(year.can_be_planned);
+}
+
+TEST_F(YearReadinessTest, CanBePlannedWithAnUsableBookWhileTheMoneyLasts) {
+  EXPECT_TRUE(Of2028({}).can_be_planned);
+  currency_.last_day = Date(2027, 12, 31);
+  EXPECT_FALSE(Of2028({}).can_be_planned);
+  currency_.last_day.reset();
+  currency_.book.reset();
+  EXPECT_FALSE(Of2028({}).can_be_planned);
+}
+
 TEST_F(YearReadinessTest, NamesTheRulesWhoseDatesAreNotPublishedUntilSomebodyEntersThem) {
   tables_.Add({"fairs", 2020, 2027, {}});
   UseBook(

@@ -43,8 +43,8 @@ TEST(ReadinessReport, ListsCurrenciesWithACalendarOrABookByCodeWithLastYearToThe
                 ElementsAre(Readiness::kEnded, Readiness::kEnded, Readiness::kEnded, Readiness::kEnded));
     EXPECT_THAT(StatesOf(report, "USD"), ElementsAre(Readiness::kNotPrepared, Readiness::kNotCompared,
                                                      Readiness::kNotPrepared, Readiness::kNotPrepared));
-    EXPECT_TRUE(report.currencies[0].can_be_planned);
-    EXPECT_FALSE(report.currencies[2].can_be_planned);
+    EXPECT_TRUE(report.currencies[0].years[0].can_be_planned);
+    EXPECT_FALSE(report.currencies[2].years[0].can_be_planned);
   });
 }
 

@@ -16,7 +16,7 @@ inline constexpr std::int32_t kKuna = 191;
 /// HRK is money until the end of 2022.
 class ReportWorld : public PlanningWorld {
  public:
-  ReportWorld(Rows calendars, Rows marked_days, Rows books = {{kEuro, "ECB", "Closing days", "f"}}) {
+  ReportWorld(Rows calendars, Rows marked_days, Rows books = {{kEuro, "ECB", "Closing days", "f", {}}}) {
     AnswerCurrencies();
     AnswerRules(std::move(calendars));
     const bool has_books = !books.empty();

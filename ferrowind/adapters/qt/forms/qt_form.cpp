@@ -196,9 +196,10 @@ void QtForm::ShowModal() {
 
 void QtForm::Raise() {
   if (!window_->isVisible()) return;
-  window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
-  window_->raise();
-  window_->activateWindow();
+  QWidget& around = *window_->window();
+  around.setWindowState(around.windowState() & ~Qt::WindowMinimized);
+  around.raise();
+  around.activateWindow();
 }
 
 void QtForm::Hide() { window_->hide(); }

@@ -61,8 +61,8 @@ QtToolkit::QtToolkit(FormLayouts layouts)
 QtToolkit::~QtToolkit() = default;
 
 std::shared_ptr<platform::Form> QtToolkit::CreateForm(const platform::FormDesign& design) {
-  const auto place = places_.find(design.name);
-  auto form = QtForm::Create(design, layouts_, place == places_.end() ? nullptr : place->second.data());
+  const auto place = places_.extract(design.name);
+  auto form = QtForm::Create(design, layouts_, place.empty() ? nullptr : place.mapped().data());
   std::erase_if(forms_, [](const auto& known) { return known.expired(); });
   forms_.push_back(form);
   return form;

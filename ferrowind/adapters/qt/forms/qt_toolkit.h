@@ -43,9 +43,9 @@ class QtToolkit : public platform::Toolkit {
   void ProcessPendingEvents() override;
   void Beep() override;
 
-  /// Makes the forms of that name that are created from now on a part of `place`, and of its layout where it
-  /// has one, instead of windows. `place` must outlive them. Showing such a form does not show the window
-  /// around it, and that window alone decides when it closes.
+  /// Makes the next form of that name a part of `place`, and of its layout where it has one, instead of a
+  /// window. `place` must outlive the form. Showing such a form does not show the window around it, and that
+  /// window alone decides when it closes.
   void PlaceForm(const std::string& form_name, QWidget& place);
 
   /// Asks the windows on show to close, the newest first, until one refuses. Closes none while a dialog

@@ -34,7 +34,7 @@ using Opened = std::vector<std::vector<CalendarKey>>;
 class ReadinessWorld : public planning::ReportWorld {
  public:
   explicit ReadinessWorld(Rows calendars = planning::kSmallCalendars, Rows days = planning::kSmallDays,
-                          Rows books = {{kEuro, "ECB", "Closing days", "f"}})
+                          Rows books = {{kEuro, "ECB", "Closing days", "f", {}}})
       : ReportWorld(std::move(calendars), std::move(days), std::move(books)) {
     window =
         fmReadiness::Create({platform, tables, windows},
@@ -80,7 +80,7 @@ TEST(Readiness, HasARowForEachCurrencyWithItsNameAndAWordForEachYear) {
                 ElementsAre("EUR", "Euro", "Not prepared", "Prepared", "Weekends only", "Differs by 2 days"));
     EXPECT_EQ(board.Board().Cell("EUR", "2026").mark, CellMark::kPrepared);
     EXPECT_EQ(board.Board().Cell("EUR", "2025").description, "EUR 2025 has no calendar.");
-    EXPECT_EQ(board.Label("lblSummary"), "Prepared: 1 of 2 currencies for 2026, 0 of 2 for 2027.");
+    EXPECT_EQ(board.Label("lblSummary"), "Prepared: 1 of 2 currencies for 2026, 0 of 2 currencies for 2027.");
   });
 }
 
@@ -139,7 +139,7 @@ TEST(Readiness, TwoFindingsOfOneSentenceHaveARowEach) {
     ReadinessWorld board;
     board.world.commands.Forget("CldGetBook");
     const std::vector<platform::Value> unreadable = {kEuro, 1, "Fair", 4, "now and then", {}, {}};
-    board.AnswerBooks({{kEuro, "ECB", "Closing days", "f"}}, {unreadable, unreadable});
+    board.AnswerBooks({{kEuro, "ECB", "Closing days", "f", {}}}, {unreadable, unreadable});
     board.Show();
     int rows = 0;
     for (const std::string& key : board.Findings().RowKeys()) {

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/headless/world.h"
+
 namespace ferrowind {
 namespace {
 
@@ -17,8 +19,15 @@ using platform::Date;
 using platform::TableCell;
 using ::testing::IsEmpty;
 
+/// Surroundings without words of another language.
+const platform::Platform& English() {
+  static headless::World world;
+  static const platform::Platform platform = world.Platform();
+  return platform;
+}
+
 CurrencyReadiness Euro(std::vector<YearReadiness> years = {}) {
-  return {{978, "EUR", "Euro", true, {}}, true, std::move(years)};
+  return {{978, "EUR", "Euro", true, {}}, std::move(years)};
 }
 
 ReadinessReport ReportOn(const Date& today, std::vector<CurrencyReadiness> currencies = {}) {
@@ -35,7 +44,7 @@ YearReadiness Year(int year, Readiness readiness) {
 
 TableCell CellOf(const YearReadiness& year, const Date& today = Date(2026, 3, 1)) {
   const ReadinessReport report = ReportOn(today);
-  return ReadinessWords(report).Cell(Euro(), year);
+  return ReadinessWords(English(), report).Cell(Euro(), year);
 }
 
 TEST(ReadinessWords, EachStateHasAWordAndAShapeOfItsOwn) {
@@ -84,8 +93,8 @@ TEST(ReadinessWords, TellACalendarThatIsMissingFromOneThatIsOpenEveryDay) {
 
 TEST(ReadinessWords, SayWhenAMoneyEnded) {
   const ReadinessReport report = ReportOn(Date(2026, 3, 1));
-  CurrencyReadiness kuna = {{191, "HRK", "Kuna", true, Date(2022, 12, 31)}, false, {}};
-  const TableCell cell = ReadinessWords(report).Cell(kuna, Year(2026, Readiness::kEnded));
+  CurrencyReadiness kuna = {{191, "HRK", "Kuna", true, Date(2022, 12, 31)}, {}};
+  const TableCell cell = ReadinessWords(English(), report).Cell(kuna, Year(2026, Readiness::kEnded));
   EXPECT_EQ(cell.description, "HRK is money until 2022-12-31.");
   EXPECT_EQ(cell.tone, CellTone::kQuiet);
 }
@@ -102,7 +111,7 @@ TEST(ReadinessWords, AnUnpreparedNextYearIsLoudFromSeptemberOn) {
 
 TEST(ReadinessWords, NameTheRunningAndTheNextYearInTheirColumns) {
   const ReadinessReport report = ReportOn(Date(2026, 3, 1));
-  const ReadinessWords words(report);
+  const ReadinessWords words(English(), report);
   EXPECT_EQ(words.YearCaption(2025), "2025");
   EXPECT_EQ(words.YearCaption(2026), "2026, this year");
   EXPECT_EQ(words.YearCaption(2027), "2027, next year");
@@ -114,7 +123,7 @@ std::string UrgentOn(const Date& today) {
       ReportOn(today, {Euro({Year(2026, Readiness::kPrepared), Year(2027, Readiness::kWeekendsOnly)}),
                        Euro({Year(2026, Readiness::kPrepared), Year(2027, Readiness::kNotPrepared)}),
                        Euro({Year(2026, Readiness::kPrepared), Year(2027, Readiness::kDiffers)})});
-  return ReadinessWords(report).Urgent();
+  return ReadinessWords(English(), report).Urgent();
 }
 
 TEST(ReadinessWords, CountWhatIsUrgentAndTheDaysThatAreLeft) {
@@ -128,27 +137,34 @@ TEST(ReadinessWords, SumUpThisYearAndTheNextWithoutMoneyThatHasEnded) {
   const ReadinessReport report =
       ReportOn(Date(2026, 3, 1), {Euro({Year(2026, Readiness::kPrepared), Year(2027, Readiness::kPrepared)}),
                                   Euro({Year(2026, Readiness::kDiffers), Year(2027, Readiness::kEnded)})});
-  EXPECT_EQ(ReadinessWords(report).Summary(), "Prepared: 1 of 2 currencies for 2026, 1 of 1 for 2027.");
+  EXPECT_EQ(ReadinessWords(English(), report).Summary(),
+            "Prepared: 1 of 2 currencies for 2026, 1 of 1 currencies for 2027.");
   const ReadinessReport empty = ReportOn(Date(2026, 3, 1));
-  EXPECT_EQ(ReadinessWords(empty).Summary(), "There is no calendar and no rule book.");
+  EXPECT_EQ(ReadinessWords(English(), empty).Summary(), "There is no calendar and no rule book.");
 }
 
 TEST(ReadinessWords, CountTheFindingsOfEachLevel) {
   ReadinessReport report = ReportOn(Date(2026, 3, 1));
-  EXPECT_EQ(ReadinessWords(report).FindingsTitle(), "The review has found nothing");
+  EXPECT_EQ(ReadinessWords(English(), report).FindingsTitle(), "The review has found nothing");
   report.review.findings.resize(4);
   report.review.findings[0].level = FindingLevel::kError;
   report.review.findings[1].level = FindingLevel::kWarning;
   report.review.findings[2].level = FindingLevel::kWarning;
-  EXPECT_EQ(ReadinessWords(report).FindingsTitle(), "Findings of the review: 1 error, 2 warnings, 1 note");
+  EXPECT_EQ(ReadinessWords(English(), report).FindingsTitle(),
+            "Findings of the review: 1 error, 2 warnings, 1 note");
+}
+
+ReadinessWords AnyWords() {
+  static const ReadinessReport report = ReportOn(Date(2026, 3, 1));
+  return {English(), report};
 }
 
 TEST(ReadinessWords, EachLevelHasAWordAndAShapeAndErrorsAreLoud) {
-  EXPECT_EQ(ReadinessWords::LevelCell(FindingLevel::kError).text, "Error");
-  EXPECT_EQ(ReadinessWords::LevelCell(FindingLevel::kError).mark, CellMark::kError);
-  EXPECT_EQ(ReadinessWords::LevelCell(FindingLevel::kError).tone, CellTone::kLoud);
-  EXPECT_EQ(ReadinessWords::LevelCell(FindingLevel::kWarning).mark, CellMark::kWarning);
-  EXPECT_EQ(ReadinessWords::LevelCell(FindingLevel::kNote).mark, CellMark::kNote);
+  EXPECT_EQ(AnyWords().LevelCell(FindingLevel::kError).text, "Error");
+  EXPECT_EQ(AnyWords().LevelCell(FindingLevel::kError).mark, CellMark::kError);
+  EXPECT_EQ(AnyWords().LevelCell(FindingLevel::kError).tone, CellTone::kLoud);
+  EXPECT_EQ(AnyWords().LevelCell(FindingLevel::kWarning).mark, CellMark::kWarning);
+  EXPECT_EQ(AnyWords().LevelCell(FindingLevel::kNote).mark, CellMark::kNote);
 }
 
 }  // namespace
