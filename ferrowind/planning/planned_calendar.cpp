@@ -21,9 +21,9 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
       throw platform::Failure(platform::failure_number::kInvalidArgument,
                               "There is no currency " + std::to_string(key_.first));
     }
+    name_ = currency->code + " " + std::to_string(key_.second);
     preparation_ = planner->Prepare(*currency, key_.second);
     planner_ = planner;
-    name_ = preparation_->Name();
     why_not_.clear();
   } catch (const platform::Failure& failure) {
     Fail(failure.Description());

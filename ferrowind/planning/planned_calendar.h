@@ -21,11 +21,11 @@ namespace ferrowind::planning {
 /// taken until somebody leaves them out.
 class PlannedCalendar {
  public:
-  /// Not planned yet; `currency` as in the database.
+  /// Not planned yet.
   PlannedCalendar(const CalendarKey& key, std::string name) : key_(key), name_(std::move(name)) {}
 
   [[nodiscard]] const CalendarKey& Key() const { return key_; }
-  /// "EUR 2028".
+  /// "EUR 2028"; what it was made with until its currency is known.
   [[nodiscard]] const std::string& Name() const { return name_; }
 
   /// Reads and compares it by `planner`, which it keeps. Whatever makes that fail becomes `WhyNot`. When it

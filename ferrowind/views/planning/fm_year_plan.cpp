@@ -28,18 +28,21 @@ platform::FormDesign Design(std::size_t calendars) {
       .client_width = 14400,
       .client_height = 8400,
       .closes_by_escape = true,
-      .controls = {
-          {ControlKind::kToolBar, "tbPlan"},
-          {ControlKind::kLabel, "lblSummary"},
-          {.kind = ControlKind::kTable, .name = "tblPlan", .selects_many = true, .sorts = true},
-          {ControlKind::kTable, "tblOutcome"},
-          {ControlKind::kButton, "cmdUndo", "Undo"},
-          {ControlKind::kButton, "cmdApply", "Apply"},
-          {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
+      .controls = {{ControlKind::kLabel, "lblSummary"},
+                   {.kind = ControlKind::kTable, .name = "tblPlan", .selects_many = true, .sorts = true},
+                   {ControlKind::kLabel, "lblLine"},
+                   {ControlKind::kTable, "tblOutcome"},
+                   {ControlKind::kButton, "cmdUndo", "Undo"},
+                   {ControlKind::kButton, "cmdApply", "Apply"},
+                   {.kind = ControlKind::kButton,
+                    .name = "cmdClose",
+                    .text = "Close",
+                    .is_default_button = true,
+                    .is_cancel_button = true},
+                   {ControlKind::kToolBar, "tbPlan"}}};
   if (calendars > 1) {
-    const std::vector<platform::ControlDesign> filter = {{ControlKind::kLabel, "lblCalendar", "Calendar"},
-                                                         {ControlKind::kDropDownList, "cmbCalendar"}};
-    design.controls.insert(design.controls.begin() + 1, filter.begin(), filter.end());
+    design.controls.push_back({ControlKind::kLabel, "lblCalendar", "Calendar"});
+    design.controls.push_back({ControlKind::kDropDownList, "cmbCalendar"});
   }
   return design;
 }
@@ -90,10 +93,12 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
       form_(platform_.toolkit.CreateForm(Design(calendars.size()))),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbPlan")),
       summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
+      lines_(ControlOf<platform::Table>(*form_, "tblPlan")),
+      current_line_(ControlOf<platform::Label>(*form_, "lblLine")),
       outcome_(ControlOf<platform::Table>(*form_, "tblOutcome")),
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       apply_(ControlOf<platform::Button>(*form_, "cmdApply")),
-      table_(platform_, ControlOf<platform::Table>(*form_, "tblPlan"), batch_, [this] { RefreshSummary(); }) {
+      table_(platform_, lines_, batch_, [this] { RefreshSummary(); }) {
   tools_.AddTool({kRefresh, "Refresh", "Plan", "Reads the calendars and plans them anew"});
   tools_.AddTool({kAllDays, "All days", "Plan", "Shows the days that stay as they are and all weekends, too",
                   platform::ToolKind::kTwoStateButton});
@@ -131,6 +136,7 @@ void fmYearPlan::Connect() {
   const auto query_unload = handler(&fmYearPlan::Form_QueryUnload);
   subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
   subscribe(tools_.OnToolClick(handler(&fmYearPlan::RunTool)));
+  subscribe(lines_.OnCurrentChange(handler(&fmYearPlan::ShowCurrentLine)));
   if (filter_ != nullptr) subscribe(filter_->OnChoice(handler(&fmYearPlan::ShowLines)));
   subscribe(undo_.OnClick(handler(&fmYearPlan::Undo)));
   subscribe(apply_.OnClick(handler(&fmYearPlan::Apply)));
@@ -173,7 +179,12 @@ void fmYearPlan::RefreshSummary() {
   summary_.SetText(summary);
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);
   undo_.SetVisible(batch_.CanUndo());
+  lines_.SetEmptyText(batch_.Totals().taken == 0 ? "Every day is as planned."
+                                                 : "Nothing but weekends is added; \"All days\" shows them.");
+  ShowCurrentLine();
 }
+
+void fmYearPlan::ShowCurrentLine() { current_line_.SetText(table_.CurrentSentence()); }
 
 void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes) {
   // What went wrong stands first, where it is seen without scrolling.
@@ -187,6 +198,8 @@ void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes) {
   }
   outcome_.SetRows(rows);
   outcome_.SetVisible(!rows.empty());
+  // There it is read, also by assistive tools, and there no key does anything by mistake.
+  if (!rows.empty()) outcome_.SetFocus();
   if (std::any_of(outcomes.begin(), outcomes.end(), IsBad)) platform_.toolkit.Beep();
 }
 

@@ -44,6 +44,7 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   /// Tells what became of the calls, until the next of them or until the plans are made anew.
   void Tell(const std::vector<planning::PlanOutcome>& outcomes);
   void RefreshSummary();
+  void ShowCurrentLine();
   /// Shows and tells the others what `outcomes` have changed.
   void ShowDone(const std::vector<planning::PlanOutcome>& outcomes);
   void Form_Load();
@@ -58,6 +59,9 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   /// Null when there is only one calendar.
   platform::DropDownList* filter_ = nullptr;
   platform::Label& summary_;
+  platform::Table& lines_;
+  /// What the columns may have no room for.
+  platform::Label& current_line_;
   platform::Table& outcome_;
   platform::Button& undo_;
   platform::Button& apply_;

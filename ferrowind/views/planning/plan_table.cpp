@@ -57,6 +57,13 @@ std::string ActionOf(const PlanLine& line) {
   return "";
 }
 
+/// What stays as it is steps back, but not what somebody should look at first.
+CellTone ToneOf(const PlanLine& line) {
+  if (line.kind == PlanLine::Kind::kCalendar) return CellTone::kLoud;
+  const bool stays = line.kind == PlanLine::Kind::kDay && !line.is_taken.value_or(false);
+  return stays && !line.is_conflict ? CellTone::kQuiet : CellTone::kNormal;
+}
+
 }  // namespace
 
 PlanTable::PlanTable(const platform::Platform& platform, platform::Table& table, planning::PlanBatch& batch,
@@ -92,9 +99,7 @@ void PlanTable::ShowAnew() {
 
 platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
   const bool is_day = line.kind == PlanLine::Kind::kDay;
-  const CellTone tone = line.kind == PlanLine::Kind::kCalendar               ? CellTone::kLoud
-                        : is_day && !line.is_taken.value_or(line.is_blocked) ? CellTone::kQuiet
-                                                                             : CellTone::kNormal;
+  const CellTone tone = ToneOf(line);
   const auto cell = [&](std::string text) { return TableCell{.text = std::move(text), .tone = tone}; };
   const auto name_of = [](const std::optional<std::string>& rule) {
     return rule.value_or(planning::kOrdinaryDay);
@@ -112,6 +117,16 @@ platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
   row.cells.push_back(std::move(action));
   row.cells.push_back(cell(line.why));
   return row;
+}
+
+std::string PlanTable::CurrentSentence() const {
+  const auto current = table_.CurrentRow();
+  const auto line =
+      std::find_if(lines_.begin(), lines_.end(), [&](const PlanLine& each) { return each.key == current; });
+  if (line == lines_.end()) return "";
+  const std::string& calendar = batch_.Calendars()[line->calendar].Name();
+  const std::string subject = line->date ? DayText(platform_.locale, *line->date) : calendar;
+  return subject + ": " + line->why + ".";
 }
 
 void PlanTable::TakeDecisions() {

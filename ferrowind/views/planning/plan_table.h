@@ -22,6 +22,8 @@ class PlanTable {
   [[nodiscard]] const planning::PlanLineFilter& Filter() const { return filter_; }
   /// Shows the same lines as they are by now.
   void ShowAnew();
+  /// All that the current line says, in a sentence; empty without a line.
+  [[nodiscard]] std::string CurrentSentence() const;
 
  private:
   [[nodiscard]] platform::TableRow RowOf(const planning::PlanLine& line) const;

@@ -153,6 +153,21 @@ Glyph ExceptWithTextGlyph() {
   return glyph;
 }
 
+Glyph PlanGlyph() {
+  Glyph glyph;
+  for (const qreal y : {5.5, 12.0, 18.5}) AddLine(glyph.lines, {{11, y}, {20.5, y}});
+  AddCheck(glyph.accent_lines, 3, 5.5, 5);
+  AddCheck(glyph.accent_lines, 3, 12, 5);
+  glyph.accent_lines.addRoundedRect(3.2, 16.4, 4.4, 4.4, 1, 1);
+  return glyph;
+}
+
+Glyph AllDaysGlyph() {
+  Glyph glyph = Sheet(3.5, 5, 17, 15.5);
+  for (const qreal y : {13.3, 17.0}) AddLine(glyph.accent_lines, {{7.5, y}, {16.5, y}});
+  return glyph;
+}
+
 Glyph CurrencyGlyph() {
   Glyph glyph;
   glyph.lines.addEllipse(QPointF(12, 12), 9, 9);

@@ -17,6 +17,8 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph AssignManyGlyph();
 [[nodiscard]] Glyph ExceptGlyph();
 [[nodiscard]] Glyph ExceptWithTextGlyph();
+[[nodiscard]] Glyph PlanGlyph();
+[[nodiscard]] Glyph AllDaysGlyph();
 [[nodiscard]] Glyph CurrencyGlyph();
 [[nodiscard]] Glyph CalendarGlyph();
 [[nodiscard]] Glyph QuestionGlyph();

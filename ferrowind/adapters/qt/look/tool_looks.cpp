@@ -17,13 +17,21 @@ struct Entry {
 };
 
 constexpr std::array kLooks = {
-    Entry{"ID_Refresh", RefreshGlyph, "F5"},          Entry{"ID_New", NewCalendarGlyph, "Ctrl+N"},
-    Entry{"ID_Expand", ExpandTreeGlyph, ""},          Entry{"ID_Collapse", CollapseTreeGlyph, ""},
-    Entry{"ID_ShowHide", GroupHeaderGlyph, "Ctrl+G"}, Entry{"ID_ExpandGrid", ExpandRowsGlyph, ""},
-    Entry{"ID_CollapseGrid", CollapseRowsGlyph, ""},  Entry{"ID_ExpSel", ExpandSelectionGlyph, ""},
-    Entry{"ID_Copy", CopyGlyph, "Ctrl+Shift+C"},      Entry{"ID_AssignSingle", AssignOneGlyph, ""},
-    Entry{"ID_AssignMany", AssignManyGlyph, ""},      Entry{"ID_Except", ExceptGlyph, ""},
+    Entry{"ID_Refresh", RefreshGlyph, "F5"},
+    Entry{"ID_New", NewCalendarGlyph, "Ctrl+N"},
+    Entry{"ID_Expand", ExpandTreeGlyph, ""},
+    Entry{"ID_Collapse", CollapseTreeGlyph, ""},
+    Entry{"ID_ShowHide", GroupHeaderGlyph, "Ctrl+G"},
+    Entry{"ID_ExpandGrid", ExpandRowsGlyph, ""},
+    Entry{"ID_CollapseGrid", CollapseRowsGlyph, ""},
+    Entry{"ID_ExpSel", ExpandSelectionGlyph, ""},
+    Entry{"ID_Copy", CopyGlyph, "Ctrl+Shift+C"},
+    Entry{"ID_AssignSingle", AssignOneGlyph, ""},
+    Entry{"ID_AssignMany", AssignManyGlyph, ""},
+    Entry{"ID_Except", ExceptGlyph, ""},
     Entry{"ID_Except2", ExceptWithTextGlyph, ""},
+    Entry{"ID_PlanYear", PlanGlyph, ""},
+    Entry{"ID_AllDays", AllDaysGlyph, ""},
 };
 
 }  // namespace

@@ -100,6 +100,7 @@ TEST(YearPlanWindow, HasConflictsFirstAndExceptionsUnchecked) {
     world.Open();
     EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kGoodFriday));
     EXPECT_FALSE(world.Lines().Checked(kChristmas));
+    EXPECT_EQ(world.Lines().Cell(kChristmas, "Why").tone, platform::CellTone::kNormal) << "to be seen";
     EXPECT_EQ(world.Lines().Cell(kChristmas, "Action").mark, platform::CellMark::kException);
     EXPECT_EQ(world.Lines().Cell(kChristmas, "Why").text, "25 December; now open by exception: Stock-taking");
     EXPECT_EQ(world.Summary(), "EUR 2028: 1 day, but not 1 working day by exception.");
@@ -118,6 +119,29 @@ TEST(YearPlanWindow, TellsWithoutABoxWhatCannotBeDone) {
     EXPECT_EQ(lines.Row(kChristmas).checked, std::nullopt);
     EXPECT_THAT(lines.Cell(kChristmas, "Why").text, HasSubstr("\"Christmas Day\" is a holiday point"));
     EXPECT_EQ(lines.Cell(kChristmas, "Action").mark, platform::CellMark::kError);
+  });
+}
+
+TEST(YearPlanWindow, SaysInFullWhatTheCurrentLineSays) {
+  RunInFreshThread([] {
+    PlanWorld world;
+    world.Open({{kEuro, 2028}, {kDollar, 2028}});
+    const auto& sentence = world.Form().Part<headless::HeadlessLabel>("lblLine");
+    EXPECT_EQ(sentence.Text(), "EUR 2028: 2 days.");
+    world.Lines().ClickRow(kGoodFriday);
+    EXPECT_EQ(sentence.Text(), "Friday 14 April 2028: Easter Sunday 16 April 2028, two days before.");
+    world.Button("cmdApply").Click();
+    EXPECT_EQ(sentence.Text(), "USD 2028: as planned.");
+  });
+}
+
+TEST(YearPlanWindow, HasTheFocusInTheLinesAndOnWhatWasDone) {
+  RunInFreshThread([] {
+    PlanWorld world;
+    world.Open({{kEuro, 2028}, {kDollar, 2028}});
+    EXPECT_EQ(world.Form().FocusedControl(), "tblPlan");
+    world.Button("cmdApply").Click();
+    EXPECT_EQ(world.Form().FocusedControl(), "tblOutcome");
   });
 }
 
@@ -199,6 +223,7 @@ TEST(YearPlanWindow, ShowsTheDaysThatStayWhenAsked) {
     world.Open();
     world.Button("cmdApply").Click();
     EXPECT_THAT(world.Lines().RowKeys(), IsEmpty());
+    EXPECT_EQ(world.Lines().EmptyText(), "Every day is as planned.");
     world.ClickTool("ID_AllDays");
     EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kGoodFriday, kChristmas));
     EXPECT_EQ(world.Lines().Texts(kChristmas)[4], "keep");
