@@ -4,9 +4,12 @@
 #include <memory>
 #include <numeric>
 #include <optional>
+#include <utility>
 
 #include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/plan_words.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/values/failure.h"
@@ -16,14 +19,24 @@ namespace {
 
 using Kind = PlanOutcome::Kind;
 
-/// Nothing when the history cannot be read or has no such entry: the plan is applied all the same, and can
-/// be undone from the history.
-std::optional<std::int32_t> EntryOf(const YearPreparation& applied) {
+/// The entry of a plan of the calendar that was just applied. Nothing when somebody else has changed the
+/// calendar since, or the history cannot be read: the plan is applied all the same.
+std::optional<HistoryEntry> EntryOfPlan(const CalendarKey& calendar) {
   try {
-    return applied.NewestEntry();
+    HistoryPage page = LoadHistory({.currency = calendar.first, .year = calendar.second}, std::nullopt, 1);
+    if (page.entries.empty()) return std::nullopt;
+    HistoryEntry& newest = page.entries.front();
+    if (newest.procedure != "CldApplyPlan" || newest.user != page.asker) return std::nullopt;
+    return std::move(newest);
   } catch (const platform::Failure&) {
     return std::nullopt;
   }
+}
+
+std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
+  auto found = LoadEntry(id);
+  if (!found) return std::nullopt;
+  return std::move(found->entry);
 }
 
 }  // namespace
@@ -102,7 +115,7 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   } catch (const platform::Failure& failure) {
     return {position, Kind::kFailed, failure.Description() + "."};
   }
-  if (const auto entry = EntryOf(*calendar.Preparation())) applied_.push_back({position, *entry});
+  if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, std::move(*entry)});
   return {position, Kind::kDone,
           calendar.Name() + (existed ? " is as planned now" : " is made") + ButFor(calendar.Totals()) + "."};
 }
@@ -120,14 +133,15 @@ std::vector<PlanOutcome> PlanBatch::Undo() {
 
 PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
   const std::string& name = calendars_[applied.calendar].Name();
-  SourceValues parameters;
-  parameters.Add("EntryID", applied.entry);
   try {
-    (void)CallDatabase("Undoing the plan of " + name, "CldUndo", parameters);
-  } catch (const Refusal& refusal) {
-    return {applied.calendar, Kind::kRefused, refusal.Description() + "."};
+    const UndoOutcome outcome = UndoEntry(applied.entry);
+    if (outcome.kind != UndoOutcome::Kind::kDone) {
+      const auto currencies = CurrencyList::Load();
+      return {applied.calendar, Kind::kRefused,
+              name + ": " + HistoryWords(currencies, EntryOfNumber).WhyNotUndone(applied.entry, outcome)};
+    }
   } catch (const platform::Failure& failure) {
-    return {applied.calendar, Kind::kFailed, failure.Description() + "."};
+    return {applied.calendar, Kind::kFailed, name + ": " + failure.Description() + "."};
   }
   return {applied.calendar, Kind::kDone, name + " is as it was before."};
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
+#include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/plan_lines.h"
 #include "ferrowind/planning/planned_calendar.h"
 
@@ -65,8 +66,7 @@ class PlanBatch {
   /// A call that has changed a calendar.
   struct Applied {
     std::size_t calendar = 0;
-    /// Its number in the history.
-    std::int32_t entry = 0;
+    HistoryEntry entry;
   };
 
   [[nodiscard]] PlanOutcome ApplyOne(std::size_t position);

@@ -144,7 +144,10 @@ void fmYearPlan::Connect() {
   subscribe(windows_.OnChanged(handler(&fmYearPlan::PlanAnewAfter)));
 }
 
-void fmYearPlan::ShowInFront() { form_->Show(); }
+void fmYearPlan::ShowInFront() {
+  form_->Show();
+  form_->Raise();
+}
 
 bool fmYearPlan::Close() { return form_->Unload(); }
 
