@@ -6,8 +6,8 @@
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/planning/counted.h"
 
-#include "host/admin/counted.h"
 #include "host/delivery/first_years.h"
 #include "host/session/procedure_session.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 void TellFirstYears(const FirstYears& years, std::ostream& out) {
   if (years.given != 0) {
-    out << Counted(years.given, "rule book says", "rule books say") << " since when "
+    out << planning::Counted(years.given, "rule book says", "rule books say") << " since when "
         << (years.given == 1 ? "it holds" : "they hold") << " now, as delivered.\n";
   }
   if (years.others.empty()) return;
