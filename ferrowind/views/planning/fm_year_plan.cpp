@@ -17,6 +17,9 @@ using platform::ControlOf;
 
 constexpr const char* kRefresh = "ID_Refresh";
 constexpr const char* kAllDays = "ID_AllDays";
+// On no bar, for their keys alone.
+constexpr const char* kUndo = "ID_UndoPlan";
+constexpr const char* kClose = "ID_ClosePlan";
 constexpr std::int32_t kAllCalendars = -1;
 
 platform::FormDesign Design(std::size_t calendars) {
@@ -102,6 +105,8 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
   tools_.AddTool({kRefresh, "Refresh", "Plan", "Reads the calendars and plans them anew"});
   tools_.AddTool({kAllDays, "All days", "Plan", "Shows the days that stay as they are and all weekends, too",
                   platform::ToolKind::kTwoStateButton});
+  tools_.AddTool({.id = kUndo, .caption = "Undo", .category = "Plan", .shortcut = "Ctrl+Z"});
+  tools_.AddTool({.id = kClose, .caption = "Close", .category = "Plan", .shortcut = "Ctrl+W"});
   tools_.SetBar("Plan", {kRefresh, kAllDays});
   outcome_.SetColumns({{.key = "Outcome", .caption = "What was done", .stretches = true}});
   outcome_.SetVisible(false);
@@ -182,6 +187,7 @@ void fmYearPlan::RefreshSummary() {
   summary_.SetText(summary);
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);
   undo_.SetVisible(batch_.CanUndo());
+  tools_.SetToolEnabled(kUndo, batch_.CanUndo());
   lines_.SetEmptyText(batch_.Totals().taken == 0 ? "Every day is as planned."
                                                  : "Nothing but weekends is added; \"All days\" shows them.");
   ShowCurrentLine();
@@ -212,6 +218,8 @@ void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes) {
 void fmYearPlan::RunTool(const std::string& id) {
   if (id == kAllDays) ShowLines();
   if (id == kRefresh) PlanAnew();
+  if (id == kUndo) Undo();
+  if (id == kClose) (void)Close();
 }
 
 void fmYearPlan::PlanAnew() {

@@ -264,6 +264,20 @@ TEST(YearPlanWindow, OffersToUndoWhatItHasApplied) {
   });
 }
 
+TEST(YearPlanWindow, HasKeysForUndoingAndClosing) {
+  RunInFreshThread([] {
+    PlanWorld world;
+    world.Open();
+    auto& tools = world.Form().Part<headless::HeadlessToolBar>("tbPlan");
+    EXPECT_FALSE(tools.ToolEnabled("ID_UndoPlan"));
+    world.Button("cmdApply").Click();
+    EXPECT_TRUE(tools.PressShortcut("Ctrl+Z"));
+    EXPECT_THAT(PlanWorld::DaysOf("EUR", kEuro, 2028), IsEmpty());
+    EXPECT_TRUE(tools.PressShortcut("Ctrl+W"));
+    EXPECT_TRUE(world.Form().HasUnloaded());
+  });
+}
+
 TEST(YearPlanWindow, KeepsTellingOfAFailureUntilTheNextCall) {
   RunInFreshThread([] {
     PlanWorld world;
