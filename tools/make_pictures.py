@@ -24,8 +24,8 @@ from operator_story import CALENDARS, FIRST_YEAR, OperatorStory  # noqa: E402  p
 PICTURES = ROOT / 'docs' / 'pictures'
 SIZE = (1350, 780)
 
-GUIDE_STEPS = ('year-before', 'new-calendar', 'day-menu', 'rules', 'new-point', 'assigned', 'except-message', 'excepted',
-               'remove', 'removed', 'edit-rule')
+GUIDE_STEPS = ('year-before', 'new-calendar', 'prepare-it', 'day-menu', 'rules', 'new-point', 'assigned',
+               'except-message', 'excepted', 'remove', 'removed', 'edit-rule')
 
 # Frames of the pictures: quiet, in the colours of the theme, and without boxes that a dialog would not have.
 FRAME_COLORS = {
@@ -166,6 +166,25 @@ class Photographer:
         self.session.keys('Down', 'Down', 'Right', *['Down'] * (april_holidays + 1), 'Right')
         self.take(name)
 
+    def take_year_plan(self, theme):
+        """Of a calendar that was just created."""
+        self.session.database.parent.mkdir(parents=True)
+        self.make_database(f'sqlite:{self.session.database}')
+        self.studio.use_frames(theme)
+        self.session.start('--open', '--theme', theme)
+        self.story.wait_active(CALENDARS)
+        self.session.type('USD')
+        self.session.keys('ctrl+n')
+        self.story.wait_active('Select year USD currency')
+        self.session.keys('alt+r')
+        self.session.type('2028')
+        self.session.keys('Return')
+        self.story.wait_active('New calendar')
+        self.session.keys('alt+o')
+        self.story.wait_active('Plan of USD 2028')
+        self.session.keys('Down', 'Down', 'space')
+        self.studio.take(f'guide-year-plan-{theme}', self.session, 'Plan of USD 2028')
+
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
         self.make_database(database)
@@ -189,6 +208,8 @@ def main():
             for take in (lambda user: user.take_calendars('dark', 'calendars-dark'),
                          lambda user: (user.take_calendars('light', 'calendars-light'),
                                        user.take_grouped('calendars-grouped')),
+                         lambda user: user.take_year_plan('dark'),
+                         lambda user: user.take_year_plan('light'),
                          lambda user: user.take_story()):
                 user = Photographer(studio, programs)
                 try:

@@ -111,8 +111,15 @@ class OperatorStory:
         self.session.type('2028')
         self.picture('new-calendar')
         self.session.keys('Return')
+        self.decline_preparation()
         self.wait_active(CALENDARS)
         self.wait_rows(CALENDARS, 366)
+
+    def decline_preparation(self):
+        """This operator assigns the rules alone."""
+        self.wait_active('New calendar')
+        self.picture('prepare-it')
+        self.session.keys('alt+c')
 
     def open_rules(self):
         """For the whole calendar."""
