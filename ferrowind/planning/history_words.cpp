@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/local_moment.h"
 #include "ferrowind/planning/one_line.h"
 #include "ferrowind/platform/database/json_value.h"
@@ -64,10 +65,6 @@ class Parameters {
   JsonValue object_;
 };
 
-std::string Counted(std::size_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
 std::string DayText(const Parameters& parameters) {
   const std::int32_t year = parameters.Number("Year1");
   const std::int32_t day = parameters.Number("Day1");
@@ -90,7 +87,7 @@ std::string WordsOfDays(const HistoryEntry& entry, const std::string& calendar) 
   }
   if (parameters.Has("Day1")) return "Assigned " + NeededRule(entry) + " to " + DayText(parameters);
   return "Assigned " + NeededRule(entry) + " to " +
-         Counted(static_cast<std::size_t>(entry.rows_changed), "day") + " of " +
+         Counted(static_cast<std::size_t>(entry.rows_changed), "day", "days") + " of " +
          std::to_string(parameters.Number("Year1"));
 }
 
@@ -101,7 +98,7 @@ std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) 
     if (dates == nullptr || dates->kind != JsonValue::Kind::kList) throw CannotBeTold();
     days += dates->items.size();
   }
-  return "Prepared " + calendar + ": " + Counted(days, "day");
+  return "Prepared " + calendar + ": " + Counted(days, "day", "days");
 }
 
 std::string WordsOfRule(const HistoryEntry& entry) {
@@ -119,7 +116,7 @@ std::string WordsOfBook(const HistoryEntry& entry, const std::string& currency) 
   const std::string book = "the rule book of " + currency;
   if (!parameters.Has("Rules")) return "Removed " + book;
   return (parameters.Text("Expected").empty() ? "Added " : "Changed ") + book + ": " +
-         Counted(parameters.List("Rules").size(), "rule");
+         Counted(parameters.List("Rules").size(), "rule", "rules");
 }
 
 std::string WordsOfCurrency(const HistoryEntry& entry) {

@@ -8,6 +8,17 @@
 
 namespace ferrowind::testing {
 
+/// The messages and the reported failures of `log`, in the order in which the operator saw them.
+[[nodiscard]] inline std::vector<std::string> SeenByOperator(const headless::CallLog& log) {
+  std::vector<std::string> seen;
+  for (const auto& call : log.Calls()) {
+    if (call.starts_with("services.ShowMessage(") || call.starts_with("services.ReportError(")) {
+      seen.push_back(call);
+    }
+  }
+  return seen;
+}
+
 /// The component started in a headless world, with its outside objects made. Make one on a fresh thread.
 class ComponentWorld {
  public:
@@ -20,15 +31,7 @@ class ComponentWorld {
 
   /// The messages and the reported failures, as the log writes them, in the order in which the operator saw
   /// them.
-  [[nodiscard]] std::vector<std::string> SeenByOperator() const {
-    std::vector<std::string> seen;
-    for (const auto& call : world.log.Calls()) {
-      if (call.starts_with("services.ShowMessage(") || call.starts_with("services.ReportError(")) {
-        seen.push_back(call);
-      }
-    }
-    return seen;
-  }
+  [[nodiscard]] std::vector<std::string> SeenByOperator() const { return testing::SeenByOperator(world.log); }
 
   headless::World world;
   platform::Platform platform = world.Platform();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/views/planning/calendars_addition_list.h"
+#include "ferrowind/views/planning/history_tools.h"
 #include "ferrowind/views/planning/holidays_addition_list.h"
 #include "ferrowind/views/planning/holidays_caption.h"
 #include "ferrowind/views/planning/plan_year_tool.h"
@@ -36,9 +37,8 @@ constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platfor
 
 // The order of their controls and tools.
 constexpr std::array kCalendarsAdditions{
-    Calendars<RefreshedCalendars>,
-    Calendars<PlanYearTool>,
-    Calendars<WhyPane>,
+    Calendars<RefreshedCalendars>, Calendars<PlanYearTool>,
+    Calendars<HistoryTools>,       Calendars<WhyPane>,
 };
 constexpr std::array kHolidaysAdditions{Holidays<HolidaysCaption>};
 

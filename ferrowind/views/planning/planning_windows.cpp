@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "ferrowind/views/planning/fm_calendar_then.h"
+#include "ferrowind/views/planning/fm_history.h"
 #include "ferrowind/views/planning/fm_readiness.h"
 #include "ferrowind/views/planning/fm_year_plan.h"
 #include "ferrowind/views/planning/planning_context.h"
@@ -13,13 +15,25 @@ PlanningWindows::PlanningWindows(const platform::Platform& platform, const alman
 
 PlanningWindows::~PlanningWindows() = default;
 
-void PlanningWindows::Open(const std::string& name, const Maker& make) {
+std::shared_ptr<PlanningWindow> PlanningWindows::Open(const std::string& name, const Maker& make) {
   std::erase_if(windows_, [](const auto& entry) { return !entry.second->IsOpen(); });
   auto found = windows_.find(name);
   if (found == windows_.end()) found = windows_.emplace(name, make({platform_, tables_, *this})).first;
   // Held here, because what it does when it comes to the front may close it.
-  const auto window = found->second;
+  auto window = found->second;
   window->ShowInFront();
+  return window;
+}
+
+void PlanningWindows::OpenHistory(const planning::HistoryFilter& filter) {
+  const auto window =
+      Open(fmHistory::Name(), [](const PlanningContext& context) { return fmHistory::Create(context); });
+  if (window->IsOpen()) static_cast<fmHistory&>(*window).ShowChangesOf(filter);
+}
+
+void PlanningWindows::OpenCalendarThen(std::int32_t entry) {
+  Open(fmCalendarThen::NameFor(entry),
+       [&](const PlanningContext& context) { return fmCalendarThen::Create(context, entry); });
 }
 
 void PlanningWindows::OpenYearPlan(const std::vector<planning::CalendarKey>& calendars) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -8,6 +9,7 @@
 
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/history_store.h"
 #include "ferrowind/platform/events/signal.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/planning/planning_window.h"
@@ -36,6 +38,10 @@ class PlanningWindows {
 
   /// The plans of those calendars, at least one and none twice.
   void OpenYearPlan(const std::vector<planning::CalendarKey>& calendars);
+  /// The history of what `filter` asks for. The window that is open already shows that then.
+  void OpenHistory(const planning::HistoryFilter& filter);
+  /// The calendar of that entry of the history as its call left it.
+  void OpenCalendarThen(std::int32_t entry);
 
   /// The readiness board.
   void OpenReadiness();
@@ -49,7 +55,8 @@ class PlanningWindows {
 
  protected:
   /// Brings the window that was opened under `name` to the front, or makes one with `make` and shows it.
-  void Open(const std::string& name, const Maker& make);
+  /// Gives that window; what it does when it comes to the front may have closed it.
+  std::shared_ptr<PlanningWindow> Open(const std::string& name, const Maker& make);
 
  private:
   const platform::Platform& platform_;

@@ -4,12 +4,14 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "ferrowind/adapters/headless/world.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/platform/values/value.h"
 
+#include "tests/support/component_world.h"
 #include "tests/support/run_in_fresh_thread.h"
 
 namespace ferrowind::planning {
@@ -50,6 +52,9 @@ class MemoryWorld {
                        {"Day1", 105},
                        {"ODate", platform::Date(2028, 4, 14)}});
   }
+
+  /// The messages and the reported failures, as the log writes them.
+  [[nodiscard]] std::vector<std::string> SeenByOperator() const { return testing::SeenByOperator(world.log); }
 
   headless::World world;
   const platform::Platform platform = world.PlatformOnMemory();

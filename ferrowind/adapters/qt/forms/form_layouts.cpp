@@ -2,8 +2,10 @@
 
 #include "ui_fmAddHoliday.h"
 #include "ui_fmCalendar.h"
+#include "ui_fmCalendarThen.h"
 #include "ui_fmEnterHolidays.h"
 #include "ui_fmExceptMess.h"
+#include "ui_fmHistory.h"
 #include "ui_fmMessage.h"
 #include "ui_fmReadiness.h"
 #include "ui_fmSelectYear.h"
@@ -23,8 +25,10 @@ FormLayouts ComponentLayouts() {
   FormLayouts layouts;
   layouts.AddGenerated<Ui::fmAddHoliday>("fmAddHoliday");
   layouts.AddGenerated<Ui::fmCalendar>("fmCalendar");
+  layouts.AddGenerated<Ui::fmCalendarThen>("fmCalendarThen");
   layouts.AddGenerated<Ui::fmEnterHolidays>("fmEnterHolidays");
   layouts.AddGenerated<Ui::fmExceptMess>("fmExceptMess");
+  layouts.AddGenerated<Ui::fmHistory>("fmHistory");
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
   layouts.AddGenerated<Ui::fmReadiness>("fmReadiness");
   layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");

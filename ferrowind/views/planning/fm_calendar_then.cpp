@@ -1,0 +1,128 @@
+#include "ferrowind/views/planning/fm_calendar_then.h"
+
+#include <utility>
+
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/history_store.h"
+#include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/local_moment.h"
+#include "ferrowind/planning/one_line.h"
+#include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/planning/day_text.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::HistoryEntry;
+using planning::PastCalendar;
+using planning::PastDay;
+using platform::ControlKind;
+using platform::ControlOf;
+
+platform::FormDesign Design() {
+  return {.name = "fmCalendarThen",
+          .caption = "Calendar then",
+          .border = platform::FormBorder::kSizable,
+          .start = platform::FormStart::kAsPlaced,
+          .client_width = 10800,
+          .client_height = 8400,
+          .closes_by_escape = true,
+          .controls = {
+              {ControlKind::kLabel, "lblThen"},
+              {.kind = ControlKind::kTable, .name = "tblDays", .selects_many = true, .sorts = true},
+              {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
+}
+
+HistoryEntry RequireEntry(std::int32_t id) {
+  auto found = planning::LoadEntry(id);
+  if (!found || !found->entry.currency || !found->entry.year) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            "The history has no entry " + std::to_string(id) + " of a calendar");
+  }
+  return std::move(found->entry);
+}
+
+std::string NothingThere(PastCalendar::State state) {
+  return state == PastCalendar::State::kNotKept ? "The history does not reach back so far."
+                                                : "There was no such calendar then.";
+}
+
+platform::TableRow RowOf(const PastDay& day, const platform::Locale& locale) {
+  const bool is_ordinary = !day.rule && day.comment.empty();
+  const auto tone = is_ordinary ? platform::CellTone::kQuiet : platform::CellTone::kNormal;
+  return {.key = day.date.ToIso(),
+          .cells = {{.text = DayText(locale, day.date), .tone = tone, .order = day.date.Serial()},
+                    {.text = day.rule ? planning::OneLine(day.name) : "Working day", .tone = tone},
+                    {.text = planning::OneLine(day.comment), .tone = tone}}};
+}
+
+}  // namespace
+
+std::shared_ptr<fmCalendarThen> fmCalendarThen::Create(const PlanningContext& context, std::int32_t entry) {
+  struct Creatable : fmCalendarThen {
+    Creatable(const PlanningContext& surroundings, std::int32_t id) : fmCalendarThen(surroundings, id) {}
+  };
+  auto window = std::make_shared<Creatable>(context, entry);
+  window->Connect();
+  return window;
+}
+
+std::string fmCalendarThen::NameFor(std::int32_t entry) { return "fmCalendarThen " + std::to_string(entry); }
+
+fmCalendarThen::fmCalendarThen(const PlanningContext& context, std::int32_t entry)
+    : platform_(context.platform), form_(platform_.toolkit.CreateForm(Design())) {
+  Fill(entry);
+}
+
+void fmCalendarThen::Fill(std::int32_t entry) {
+  const HistoryEntry then = RequireEntry(entry);
+  const auto currencies = planning::CurrencyList::Load();
+  const planning::HistoryWords words(currencies, [](std::int32_t id) -> std::optional<HistoryEntry> {
+    const auto found = planning::LoadEntry(id);
+    if (!found) return std::nullopt;
+    return found->entry;
+  });
+  const std::string calendar = words.Calendar(then);
+  form_->SetCaption(calendar + " as of " + planning::LocalMoment(then.moment));
+  ControlOf<platform::Label>(*form_, "lblThen")
+      .SetText(calendar + " as it was after: " + words.Tell(then).Sentence() + " \u2014 " + then.user +
+               ", " + planning::LocalMoment(then.moment));
+  auto& days = ControlOf<platform::Table>(*form_, "tblDays");
+  days.SetColumns({{.key = "Date", .caption = "Date"},
+                   {.key = "Day", .caption = "Day", .stretches = true},
+                   {.key = "Comment", .caption = "Comment", .stretches = true}});
+  const PastCalendar past = planning::LoadCalendarBehind(*then.currency, *then.year, then.id);
+  if (past.state != PastCalendar::State::kThere) return days.SetEmptyText(NothingThere(past.state));
+  std::vector<platform::TableRow> rows;
+  for (const PastDay& day : past.days) rows.push_back(RowOf(day, platform_.locale));
+  days.SetRows(rows);
+}
+
+void fmCalendarThen::Connect() {
+  const auto handler = [weak = weak_from_this()](void (fmCalendarThen::*member)()) {
+    return [weak, member] {
+      if (const auto self = weak.lock()) RunHandler(self->platform_, [&] { ((*self).*member)(); });
+    };
+  };
+  subscriptions_.push_back(form_->OnLoad(handler(&fmCalendarThen::Form_Load)));
+  const auto query_unload = handler(&fmCalendarThen::Form_QueryUnload);
+  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscriptions_.push_back(
+      ControlOf<platform::Button>(*form_, "cmdClose").OnClick(handler(&fmCalendarThen::CloseByButton)));
+}
+
+void fmCalendarThen::ShowInFront() { form_->Show(); }
+
+bool fmCalendarThen::Close() { return form_->Unload(); }
+
+void fmCalendarThen::CloseByButton() { (void)Close(); }
+
+void fmCalendarThen::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+
+void fmCalendarThen::Form_QueryUnload() {
+  has_closed_ = true;
+  placement_.Save(*form_);
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,316 @@
+#include "ferrowind/views/planning/fm_history.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/entry_changes.h"
+#include "ferrowind/planning/local_moment.h"
+#include "ferrowind/views/planning/day_text.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::HistoryFilter;
+using planning::HistoryList;
+using planning::UndoStep;
+using platform::ControlKind;
+using platform::ControlOf;
+
+constexpr const char* kRefresh = "ID_Refresh";
+constexpr std::int32_t kEverybody = 0;
+constexpr std::int32_t kMine = 1;
+
+platform::FormDesign Design() {
+  return {.name = "fmHistory",
+          .caption = "History",
+          .border = platform::FormBorder::kSizable,
+          .start = platform::FormStart::kAsPlaced,
+          .client_width = 14400,
+          .client_height = 9000,
+          .closes_by_escape = true,
+          .controls = {
+              {ControlKind::kToolBar, "tbHistory"},
+              {ControlKind::kLabel, "lblCalendar", "Calendar"},
+              {ControlKind::kDropDownList, "cmbCalendar"},
+              {ControlKind::kLabel, "lblPerson", "By"},
+              {ControlKind::kDropDownList, "cmbPerson"},
+              {.kind = ControlKind::kTable, .name = "tblEntries", .selects_many = true, .sorts = true},
+              {ControlKind::kButton, "cmdOlder", "Show older"},
+              {ControlKind::kLabel, "lblTold"},
+              {.kind = ControlKind::kTable, .name = "tblChanges", .selects_many = true, .sorts = true},
+              {ControlKind::kLabel, "lblRemark"},
+              {ControlKind::kButton, "cmdUndo", "Undo"},
+              {ControlKind::kButton, "cmdRedo", "Redo"},
+              {ControlKind::kButton, "cmdThen", "Calendar then"},
+              {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
+}
+
+/// What a button has room for.
+std::string Shortened(const std::string& text) {
+  constexpr std::size_t kMost = 48;
+  if (text.size() <= kMost) return text;
+  std::size_t end = kMost;
+  // Not within a character.
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
+  return text.substr(0, end) + "\u2026";
+}
+
+std::string Number(std::size_t number) { return std::to_string(number); }
+
+}  // namespace
+
+// Starting and closing
+// ------------------------------------------------------------------------------------------------
+
+std::shared_ptr<fmHistory> fmHistory::Create(const PlanningContext& context) {
+  struct Creatable : fmHistory {
+    explicit Creatable(const PlanningContext& surroundings) : fmHistory(surroundings) {}
+  };
+  auto window = std::make_shared<Creatable>(context);
+  window->Connect();
+  return window;
+}
+
+fmHistory::fmHistory(const PlanningContext& context)
+    : platform_(context.platform),
+      windows_(context.windows),
+      form_(platform_.toolkit.CreateForm(Design())),
+      tools_(ControlOf<platform::ToolBar>(*form_, "tbHistory")),
+      calendars_(ControlOf<platform::DropDownList>(*form_, "cmbCalendar")),
+      persons_(ControlOf<platform::DropDownList>(*form_, "cmbPerson")),
+      entries_(ControlOf<platform::Table>(*form_, "tblEntries")),
+      older_(ControlOf<platform::Button>(*form_, "cmdOlder")),
+      told_(ControlOf<platform::Label>(*form_, "lblTold")),
+      changes_(ControlOf<platform::Table>(*form_, "tblChanges")),
+      remark_(ControlOf<platform::Label>(*form_, "lblRemark")),
+      undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
+      redo_(ControlOf<platform::Button>(*form_, "cmdRedo")),
+      then_(ControlOf<platform::Button>(*form_, "cmdThen")) {
+  tools_.AddTool({kRefresh, "Refresh", "History", "Reads the history anew"});
+  tools_.SetBar("History", {kRefresh});
+  entries_.SetColumns({{.key = "When", .caption = "When"},
+                       {.key = "Who", .caption = "Who"},
+                       {.key = "Calendar", .caption = "Calendar"},
+                       {.key = "Change", .caption = "What", .stretches = true}});
+  entries_.SetEmptyText("Nothing was changed.");
+  changes_.SetColumns({{.key = "What", .caption = "What"},
+                       {.key = "Before", .caption = "Before", .stretches = true},
+                       {.key = "After", .caption = "After", .stretches = true}});
+  changes_.SetEmptyText("Everything stayed as it was.");
+  persons_.AddItem("Everybody", kEverybody);
+  persons_.AddItem("Me", kMine);
+  persons_.Choose(0);
+  FillCalendarList();
+}
+
+void fmHistory::FillCalendarList() {
+  AddChoice({});
+  auto calendars = planning::LoadRules().calendars;
+  std::stable_sort(calendars.begin(), calendars.end(), [&](const auto& left, const auto& right) {
+    const auto code_of = [&](std::int32_t id) {
+      const auto* const currency = list_.Currencies().Find(id);
+      return currency != nullptr ? currency->code : std::string();
+    };
+    return code_of(left.first) < code_of(right.first);
+  });
+  for (const auto& [currency, year] : calendars) AddChoice({currency, year});
+  calendars_.Choose(0);
+}
+
+void fmHistory::AddChoice(const HistoryFilter& filter) {
+  std::string text = "All";
+  if (filter.currency && filter.year) {
+    const auto* const currency = list_.Currencies().Find(*filter.currency);
+    const std::string code = currency != nullptr ? currency->code : std::to_string(*filter.currency);
+    text = code + " " + std::to_string(*filter.year);
+    if (filter.day_of_year) {
+      const auto day = platform::Date(*filter.year, 1, 1).AddDays(*filter.day_of_year - 1);
+      text = code + ", " + DayText(platform_.locale, day);
+    }
+  }
+  calendars_.AddItem(text, static_cast<std::int32_t>(choices_.size()));
+  choices_.push_back(filter);
+}
+
+void fmHistory::Connect() {
+  // A handler keeps the window alive while it runs: whoever opened it may drop it meanwhile.
+  const auto handler = [weak = weak_from_this()](auto member) {
+    return [weak, member](auto&&... arguments) {
+      if (const auto self = weak.lock())
+        RunHandler(self->platform_, [&] { ((*self).*member)(arguments...); });
+    };
+  };
+  const auto subscribe = [this](platform::Subscription subscription) {
+    subscriptions_.push_back(std::move(subscription));
+  };
+  subscribe(form_->OnLoad(handler(&fmHistory::Form_Load)));
+  const auto query_unload = handler(&fmHistory::Form_QueryUnload);
+  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(tools_.OnToolClick(handler(&fmHistory::RunTool)));
+  subscribe(calendars_.OnChoice(handler(&fmHistory::ShowChosen)));
+  subscribe(persons_.OnChoice(handler(&fmHistory::ShowChosen)));
+  subscribe(entries_.OnCurrentChange(handler(&fmHistory::ShowCurrent)));
+  subscribe(entries_.OnActivate(handler(&fmHistory::OpenCalendarThen)));
+  const auto on_click = [&](const char* name, void (fmHistory::*command)()) {
+    subscribe(ControlOf<platform::Button>(*form_, name).OnClick(handler(command)));
+  };
+  on_click("cmdOlder", &fmHistory::ShowOlder);
+  on_click("cmdUndo", &fmHistory::Undo);
+  on_click("cmdRedo", &fmHistory::Redo);
+  on_click("cmdThen", &fmHistory::OpenCalendarThen);
+  on_click("cmdClose", &fmHistory::CloseByButton);
+  subscribe(windows_.OnChanged(handler(&fmHistory::ReloadAfter)));
+}
+
+void fmHistory::ShowInFront() { form_->Show(); }
+
+bool fmHistory::Close() { return form_->Unload(); }
+
+void fmHistory::CloseByButton() { (void)Close(); }
+
+void fmHistory::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+
+void fmHistory::Form_QueryUnload() {
+  has_closed_ = true;
+  placement_.Save(*form_);
+}
+
+// Choosing
+// ------------------------------------------------------------------------------------------------
+
+void fmHistory::ShowChangesOf(const HistoryFilter& filter) {
+  const auto is_same = [&](const HistoryFilter& choice) {
+    return choice.currency == filter.currency && choice.year == filter.year &&
+           choice.day_of_year == filter.day_of_year;
+  };
+  const auto found = std::find_if(choices_.begin(), choices_.end(), is_same);
+  const auto position = found - choices_.begin();
+  if (found == choices_.end()) AddChoice(filter);
+  // Choosing what is chosen already tells nobody.
+  if (calendars_.Chosen() == static_cast<std::int32_t>(position)) return ShowChosen();
+  calendars_.Choose(static_cast<std::int32_t>(position));
+}
+
+void fmHistory::RunTool(const std::string& id) {
+  if (id == kRefresh) Reload();
+}
+
+void fmHistory::ShowChosen() {
+  if (calendars_.Chosen() < 0 || persons_.Chosen() < 0) return;
+  list_.Show(choices_[static_cast<std::size_t>(calendars_.ItemData(calendars_.Chosen()))],
+             persons_.ItemData(persons_.Chosen()) == kMine);
+  ShowLines();
+}
+
+void fmHistory::ShowOlder() {
+  list_.ShowOlder();
+  ShowLines();
+}
+
+void fmHistory::Reload() {
+  list_.Reload();
+  ShowLines();
+}
+
+void fmHistory::ReloadAfter(const PlanningWindows::Changed& /*changed*/) {
+  if (!is_busy_ && !has_closed_) Reload();
+}
+
+// Showing
+// ------------------------------------------------------------------------------------------------
+
+void fmHistory::ShowLines() {
+  std::vector<platform::TableRow> rows;
+  for (const HistoryList::Line& line : list_.Lines()) {
+    const bool is_undone = list_.IsUndone(line);
+    const auto tone = is_undone ? platform::CellTone::kQuiet : platform::CellTone::kNormal;
+    const auto cell = [&](std::string text) {
+      return platform::TableCell{.text = std::move(text), .tone = tone};
+    };
+    std::string sentence = line.told.Sentence();
+    if (is_undone) sentence += line.told.IsDoing() ? " (undone)" : " (redone)";
+    rows.push_back({.key = std::to_string(line.entry.id),
+                    .cells = {cell(planning::LocalMoment(line.entry.moment)), cell(line.entry.user),
+                              cell(line.calendar), cell(std::move(sentence))}});
+  }
+  is_busy_ = true;
+  entries_.SetRows(rows);
+  is_busy_ = false;
+  older_.SetVisible(list_.HasOlder());
+  ShowCurrent();
+}
+
+const HistoryList::Line* fmHistory::CurrentLine() const {
+  const auto key = entries_.CurrentRow();
+  return key ? list_.Find(std::stoi(*key)) : nullptr;
+}
+
+void fmHistory::ShowCurrent() {
+  if (is_busy_) return;
+  const HistoryList::Line* const line = CurrentLine();
+  ShowStep(line);
+  then_.SetEnabled(line != nullptr && line->entry.currency && line->entry.year);
+  std::vector<platform::TableRow> rows;
+  std::string told;
+  std::string remark;
+  if (line != nullptr) {
+    const auto changes = planning::LoadChanges(line->entry, list_.Currencies());
+    for (const auto& change : changes.changes) {
+      rows.push_back({.key = Number(rows.size()),
+                      .cells = {{.text = change.what}, {.text = change.before}, {.text = change.behind}}});
+    }
+    told = line->told.Sentence() + " \u2014 " + line->entry.user + ", " +
+           planning::LocalMoment(line->entry.moment);
+    remark = changes.remark;
+  }
+  told_.SetText(told);
+  changes_.SetRows(rows);
+  remark_.SetText(remark);
+  remark_.SetVisible(!remark.empty());
+}
+
+void fmHistory::ShowStep(const HistoryList::Line* line) {
+  const auto step = line != nullptr ? list_.StepOf(*line) : std::nullopt;
+  const auto show = [&](platform::Button& button, const std::string& caption, UndoStep::Kind kind) {
+    const bool is_offered = step && step->kind == kind;
+    button.SetEnabled(is_offered);
+    button.SetCaption(is_offered ? caption + ": " + Shortened(line->told.change) : caption);
+  };
+  show(undo_, "Undo", UndoStep::Kind::kUndo);
+  show(redo_, "Redo", UndoStep::Kind::kRedo);
+}
+
+// Doing
+// ------------------------------------------------------------------------------------------------
+
+void fmHistory::Undo() { Do(UndoStep::Kind::kUndo); }
+
+void fmHistory::Redo() { Do(UndoStep::Kind::kRedo); }
+
+void fmHistory::Do(UndoStep::Kind kind) {
+  const HistoryList::Line* const line = CurrentLine();
+  const auto step = line != nullptr ? list_.StepOf(*line) : std::nullopt;
+  if (!step || step->kind != kind) return;
+  PlanningWindows::Changed changed;
+  if (line->entry.currency && line->entry.year) changed = {{*line->entry.currency, *line->entry.year}};
+  const std::string why_not = list_.Do(*step);
+  Reload();
+  if (!why_not.empty()) {
+    platform_.toolkit.Beep();
+    remark_.SetText(why_not);
+    remark_.SetVisible(true);
+    return;
+  }
+  is_busy_ = true;
+  windows_.TellChanged(changed);
+  is_busy_ = false;
+}
+
+void fmHistory::OpenCalendarThen() {
+  const HistoryList::Line* const line = CurrentLine();
+  if (line != nullptr && line->entry.currency && line->entry.year) windows_.OpenCalendarThen(line->entry.id);
+}
+
+}  // namespace ferrowind

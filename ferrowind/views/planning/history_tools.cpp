@@ -1,0 +1,127 @@
+#include "ferrowind/views/planning/history_tools.h"
+
+#include "ferrowind/data/confirm.h"
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/history_store.h"
+#include "ferrowind/planning/history_words.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::HistoryEntry;
+using planning::HistoryWords;
+using planning::OwnChange;
+using platform::CalendarOnShow;
+
+constexpr const char* kHistory = "ID_History";
+constexpr const char* kDayHistory = "ID_DayHistory";
+constexpr const char* kUndo = "ID_Undo";
+constexpr const char* kUndoes = "Undoes your last change of this calendar";
+
+/// What tells the changes of a calendar in words.
+class Teller {
+ public:
+  [[nodiscard]] std::optional<OwnChange> OwnLastChange(const CalendarOnShow& calendar) const {
+    return planning::LoadOwnLastChange(calendar.currency_id, calendar.year, words_);
+  }
+  [[nodiscard]] const HistoryWords& Words() const { return words_; }
+
+ private:
+  planning::CurrencyList currencies_ = planning::CurrencyList::Load();
+  HistoryWords words_{currencies_, [](std::int32_t id) -> std::optional<HistoryEntry> {
+                        const auto found = planning::LoadEntry(id);
+                        if (!found) return std::nullopt;
+                        return found->entry;
+                      }};
+};
+
+}  // namespace
+
+platform::WindowParts HistoryTools::Parts() {
+  return {.tools = {{.id = kHistory,
+                     .caption = "History...",
+                     .category = "Planning",
+                     .description = "Shows who changed the calendar and when, and undoes changes"},
+                    {.id = kUndo,
+                     .caption = "Undo",
+                     .category = "Planning",
+                     .description = kUndoes,
+                     .shortcut = "Ctrl+Z"},
+                    {.id = kDayHistory,
+                     .caption = "History of the day...",
+                     .category = "Planning",
+                     .description = "Shows who changed the day and when"}},
+          .bar = {kHistory, kUndo},
+          .menu = {kDayHistory}};
+}
+
+void HistoryTools::DayMenuOpens(bool is_of_day) { scene_.Tools().SetToolEnabled(kDayHistory, is_of_day); }
+
+bool HistoryTools::RunTool(const std::string& id) {
+  if (id == kHistory) {
+    OpenHistory();
+  } else if (id == kDayHistory) {
+    OpenDayHistory();
+  } else if (id == kUndo) {
+    Undo();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void HistoryTools::OpenHistory() {
+  const auto calendar = scene_.OnShow();
+  if (!calendar) return context_.windows.OpenHistory({});
+  context_.windows.OpenHistory({.currency = calendar->currency_id, .year = calendar->year});
+}
+
+void HistoryTools::OpenDayHistory() {
+  const auto calendar = scene_.OnShow();
+  const auto day = scene_.CurrentDay();
+  if (!calendar || !day) return;
+  context_.windows.OpenHistory(
+      {.currency = calendar->currency_id, .year = calendar->year, .day_of_year = day->DayOfYear()});
+}
+
+void HistoryTools::RefreshUndo() {
+  const auto calendar = scene_.OnShow();
+  std::string description = kUndoes;
+  bool can_undo = false;
+  try {
+    const auto own = calendar ? Teller().OwnLastChange(*calendar) : std::nullopt;
+    can_undo = own.has_value();
+    if (own) description += ": " + own->told.change;
+  } catch (const platform::Failure&) {
+    // The days are what the operator asked for; the tool tells what is wrong when it is used.
+    can_undo = true;
+  }
+  scene_.Tools().SetToolEnabled(kUndo, can_undo);
+  scene_.Tools().SetToolDescription(kUndo, description);
+}
+
+void HistoryTools::Undo() {
+  const auto calendar = scene_.OnShow();
+  if (!calendar) return;
+  const Teller teller;
+  const auto own = teller.OwnLastChange(*calendar);
+  const std::string name = calendar->currency + " " + std::to_string(calendar->year);
+  if (!own) {
+    Tell("There is no change of " + name + " of yours to undo.");
+    return RefreshUndo();
+  }
+  if (Confirm(context_.platform.toolkit, "Undo", "Undo in " + name + ": " + own->told.change + "?", 1) != 0)
+    return;
+  const auto outcome = planning::UndoEntry(own->entry);
+  if (outcome.kind != planning::UndoOutcome::Kind::kDone) {
+    return Tell(teller.Words().WhyNotUndone(own->entry, outcome));
+  }
+  context_.windows.TellChanged({{calendar->currency_id, calendar->year}});
+}
+
+void HistoryTools::Tell(const std::string& text) const {
+  (void)Confirm(context_.platform.toolkit, "Undo", text, 0);
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "ferrowind/planning/undo_state.h"
+#include "ferrowind/platform/additions/calendars_scene.h"
+#include "ferrowind/platform/additions/window_parts.h"
+#include "ferrowind/views/planning/calendars_addition.h"
+#include "ferrowind/views/planning/planning_context.h"
+
+namespace ferrowind {
+
+/// The tools that open the history of the calendar on show, or of its current day, and the one that undoes
+/// the operator's own last change of that calendar, whose description names it.
+class HistoryTools : public CalendarsAddition {
+ public:
+  [[nodiscard]] static platform::WindowParts Parts();
+  HistoryTools(const PlanningContext& context, platform::CalendarsScene& scene)
+      : context_(context), scene_(scene) {}
+
+  void Started() override { RefreshUndo(); }
+  void DaysShown() override { RefreshUndo(); }
+  void DayMenuOpens(bool is_of_day) override;
+  bool RunTool(const std::string& id) override;
+
+ private:
+  void RefreshUndo();
+  void OpenHistory();
+  void OpenDayHistory();
+  void Undo();
+  /// Shows a text that needs no answer.
+  void Tell(const std::string& text) const;
+
+  PlanningContext context_;
+  platform::CalendarsScene& scene_;
+};
+
+}  // namespace ferrowind

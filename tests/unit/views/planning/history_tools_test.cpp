@@ -1,0 +1,175 @@
+// The tools of the Calendars window that open the history and undo one's own last change.
+#include "ferrowind/views/planning/history_tools.h"
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/adapters/headless/headless_grid.h"
+#include "ferrowind/adapters/headless/headless_tree.h"
+#include "ferrowind/control/default_headers.h"
+#include "ferrowind/views/calendars/fm_calendar.h"
+#include "ferrowind/views/planning/planning_additions.h"
+
+#include "tests/unit/views/planning/history_world.h"
+
+namespace ferrowind {
+namespace {
+
+using headless::HeadlessButton;
+using headless::HeadlessForm;
+using headless::HeadlessLabel;
+using headless::HeadlessToolBar;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using testing::HistoryWorld;
+using ::testing::IsEmpty;
+using testing::RunInFreshThread;
+
+/// The Calendars window with the additions, EUR 2028 on show.
+class ToolsWorld : public HistoryWorld {
+ public:
+  ToolsWorld() {
+    with_additions.additions = &additions;
+    AddDefaultHeaders(*headers);
+    AddDefaultHolidayHeaders(*holiday_headers);
+    world.toolkit.AddAnimation("/component/Progress.pra");
+    window = fmCalendar::Create(with_additions);
+    EXPECT_TRUE(window->Init(headers, holiday_headers));
+    window->Show();
+    Tree().ToggleNode("K978");
+    Tree().ClickNode("K978_2028");
+    world.log.Clear();
+  }
+
+  [[nodiscard]] HeadlessForm& Calendars() const { return world.toolkit.FormNamed("fmCalendar"); }
+  [[nodiscard]] headless::HeadlessTree& Tree() const {
+    return Calendars().Part<headless::HeadlessTree>("tvCalendar");
+  }
+  [[nodiscard]] HeadlessToolBar& Tools() const { return Calendars().Part<HeadlessToolBar>("ssatb"); }
+  void Refresh() { Tools().ClickTool("ID_Refresh"); }
+  /// Answers the next question, which is kept as `asked`.
+  void Answer(const char* button) {
+    world.toolkit.ScriptModal("fmMessage", [this, button](HeadlessForm& form) {
+      asked.push_back(form.Part<HeadlessLabel>("lblMessage").Text());
+      form.Part<HeadlessButton>(button).Click();
+    });
+  }
+  [[nodiscard]] std::size_t EntryCount() const { return world.database->History().size(); }
+
+  platform::Platform with_additions = platform;
+  PlanningAdditions additions{{with_additions, tables, windows}};
+  std::shared_ptr<GridFields> headers = std::make_shared<GridFields>();
+  std::shared_ptr<GridFields> holiday_headers = std::make_shared<GridFields>();
+  std::shared_ptr<fmCalendar> window;
+  std::vector<std::string> asked;
+};
+
+TEST(HistoryTools, OpenTheHistoryOfTheCalendarOnShow) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.Tools().ClickTool("ID_History");
+    EXPECT_EQ(calendars.Chosen("cmbCalendar"), "EUR 2028");
+    calendars.Tree().ClickNode("K978");
+    calendars.Tools().ClickTool("ID_History");
+    EXPECT_EQ(calendars.Chosen("cmbCalendar"), "All");
+  });
+}
+
+TEST(HistoryTools, OpenTheHistoryOfADay) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.Tools().ChooseFromNextPopup("ID_DayHistory");
+    calendars.Calendars().Part<headless::HeadlessGrid>("gexCalendar").RightClickRow(1);
+    EXPECT_THAT(calendars.Chosen("cmbCalendar"), ::testing::StartsWith("EUR, "));
+  });
+}
+
+TEST(HistoryTools, NameWhatUndoWouldUndo) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    EXPECT_EQ(calendars.Tools().Design("ID_Undo").shortcut, "Ctrl+Z");
+    EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
+              "Undoes your last change of this calendar: Created the calendar EUR 2028");
+    calendars.ExceptGoodFriday();
+    calendars.Refresh();
+    EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
+              "Undoes your last change of this calendar: Excepted 14 April 2028: Audit");
+  });
+}
+
+TEST(HistoryTools, OfferNoUndoWithoutAnOwnChange) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.ActAs("otto");
+    calendars.Refresh();
+    EXPECT_FALSE(calendars.Tools().ToolEnabled("ID_Undo"));
+    EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"), "Undoes your last change of this calendar");
+  });
+}
+
+TEST(HistoryTools, UndoWhatIsNamedOnceItIsConfirmed) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.ExceptGoodFriday();
+    calendars.Refresh();
+    calendars.Answer("cmdCancel");
+    calendars.Calendars().PressShortcut("Ctrl+Z");
+    EXPECT_THAT(calendars.asked, ElementsAre("Undo in EUR 2028: Excepted 14 April 2028: Audit?"));
+    EXPECT_EQ(calendars.EntryCount(), 5U);
+    calendars.Answer("cmdOk");
+    calendars.Calendars().PressShortcut("Ctrl+Z");
+    EXPECT_EQ(calendars.EntryCount(), 6U);
+    EXPECT_EQ(planning::LoadCalendarBehind(978, 2028, 6).days[104].name, "Good Friday");
+    // The days are shown anew, and what comes before is next.
+    EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
+              "Undoes your last change of this calendar: Created the calendar EUR 2028");
+    EXPECT_THAT(calendars.SeenByOperator(), IsEmpty());
+  });
+}
+
+TEST(HistoryTools, SayWhyNothingWasUndone) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.ExceptGoodFriday();
+    calendars.Refresh();
+    calendars.ActAs("anna");
+    calendars.AssignGoodFriday();
+    calendars.ActAs("memory");
+    calendars.Answer("cmdOk");
+    calendars.Answer("cmdOk");
+    calendars.Tools().ClickTool("ID_Undo");
+    ASSERT_EQ(calendars.asked.size(), 2U);
+    EXPECT_THAT(calendars.asked[1], HasSubstr("The newest change of EUR 2028 is \"Assigned Good Friday to "
+                                              "14 April 2028\" (anna, "));
+    EXPECT_EQ(calendars.EntryCount(), 6U);
+  });
+}
+
+TEST(HistoryTools, SayThatThereIsNothingToUndoAnyMore) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.ExceptGoodFriday();
+    calendars.Refresh();
+    calendars.ActAs("otto");
+    calendars.Answer("cmdOk");
+    calendars.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(calendars.asked, ElementsAre("There is no change of EUR 2028 of yours to undo."));
+    EXPECT_FALSE(calendars.Tools().ToolEnabled("ID_Undo"));
+  });
+}
+
+TEST(HistoryTools, LeaveTheDaysOnShowWhenTheHistoryCannotBeRead) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.world.database->AddProcedure(
+        "CldGetHistory", {},
+        [](auto&, const auto&) -> platform::CallOutcome { throw platform::Failure(1, "no history"); });
+    calendars.Refresh();
+    EXPECT_THAT(calendars.SeenByOperator(), IsEmpty());
+    EXPECT_TRUE(calendars.Tools().ToolEnabled("ID_Undo"));
+    calendars.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(calendars.SeenByOperator(), ElementsAre(HasSubstr("no history")));
+  });
+}
+
+}  // namespace
+}  // namespace ferrowind
