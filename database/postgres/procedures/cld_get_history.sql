@@ -55,7 +55,8 @@ BEGIN
   -- Looked up here, where the functions find the tables; a cursor's rows are fetched when the call is over.
   SELECT json_agg(json_build_object('TableName', kept.TableName, 'ID1', kept.ID1, 'ID2', kept.ID2, 'Position', kept.Position,
     'OldRow', kept.OldRow::text,
-    'NewRow', CASE WHEN next.EntryID IS NULL THEN ContentNow(kept) ELSE next.OldRow END::text) ORDER BY kept.RowNumber)
+    'NewRow', CASE WHEN next.EntryID IS NULL THEN ContentNow(kept) ELSE next.OldRow END::text)
+    ORDER BY kept.TableName, kept.ID1, kept.ID2, kept.Position)
   INTO replaced
   FROM CldHistoryRow kept
     LEFT JOIN NextChanges("EntryID") AS next ON next.TableName = kept.TableName

@@ -69,10 +69,10 @@ SELECT TableName, ID1, ID2, Position, OldRow,
     WHEN TableName = 'DicCcy' THEN (
       SELECT json_object('Ccy', Ccy, 'CcyType', CcyType, 'Name', Name, 'LastDay', LastDay) FROM DicCcy c WHERE c.CcyID = r.ID1)
     WHEN TableName = 'CldBook' THEN (
-      SELECT json_object('Publisher', Publisher, 'Document', Document) FROM CldBook b WHERE b.ID1 = r.ID1)
+      SELECT json_object('Publisher', Publisher, 'Document', Document, 'FromYear', FromYear) FROM CldBook b WHERE b.ID1 = r.ID1)
     WHEN TableName = 'CldRecurrence' THEN (
       SELECT json_object('Name1', Name1, 'TID1', TID1, 'Expression', Expression, 'Comment', Comment, 'MovedName', MovedName)
       FROM CldRecurrence e WHERE e.ID1 = r.ID1 AND e.Position = r.Position)
   END AS NewRow
 FROM Replaced r
-ORDER BY RowNumber;
+ORDER BY TableName, ID1, ID2, Position;

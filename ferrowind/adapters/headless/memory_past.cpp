@@ -72,6 +72,7 @@ Value ContentOf(const std::optional<MemoryBook>& book) {
   platform::JsonObject json;
   json.Add("Publisher", book->publisher);
   json.Add("Document", book->document);
+  json.Add("FromYear", book->from_year);
   return json.Text();
 }
 
@@ -87,27 +88,29 @@ Value ContentOf(const std::optional<MemoryBook>& book, std::size_t place) {
   return json.Text();
 }
 
-/// What the call changed besides days and calendars.
+/// What the call changed besides days and calendars, in the order of tables and keys.
 Rows RowsOf(const MemoryChanges& changes) {
   Rows rows;
   const auto add = [&](const char* table, const Value& currency, const Value& rule, const Value& position,
                        const Value& before, const Value& after) {
     if (before != after) rows.push_back({table, currency, rule, position, before, after});
   };
+  for (const auto& [id, change] : changes.books) {
+    add("CldBook", id, {}, {}, ContentOf(change.before), ContentOf(change.after));
+  }
   for (const auto& [id, change] : changes.rules) {
     add("CldHoliday", {}, id, {}, ContentOf(change.before), ContentOf(change.after));
   }
-  for (const auto& [id, change] : changes.currencies) {
-    add("DicCcy", id, {}, {}, ContentOf(change.before), ContentOf(change.after));
-  }
   for (const auto& [id, change] : changes.books) {
-    add("CldBook", id, {}, {}, ContentOf(change.before), ContentOf(change.after));
     const std::size_t count = std::max(change.before ? change.before->rules.size() : 0,
                                        change.after ? change.after->rules.size() : 0);
     for (std::size_t place = 0; place < count; ++place) {
       add("CldRecurrence", id, {}, static_cast<std::int32_t>(place) + 1, ContentOf(change.before, place),
           ContentOf(change.after, place));
     }
+  }
+  for (const auto& [id, change] : changes.currencies) {
+    add("DicCcy", id, {}, {}, ContentOf(change.before), ContentOf(change.after));
   }
   return rows;
 }

@@ -193,6 +193,7 @@ TEST_P(ProceduresContract, AnEntryTellsTheBookBeforeAndBehindItsCall) {
   ASSERT_EQ(StoreBook(kEuro, R"([{"Name1": "A", "TID1": 3, "Expression": "01-01"},
                                  {"Name1": "B", "TID1": 3, "Expression": "12-26"}])"),
             0);
+  ASSERT_EQ(StoreBook(kEuro, "[]", 2015), 0);
   const auto made = Replaced(caller(), 1);
   ASSERT_THAT(made, SizeIs(3));
   EXPECT_EQ(made[0].at(0), Value("CldBook"));
@@ -206,6 +207,11 @@ TEST_P(ProceduresContract, AnEntryTellsTheBookBeforeAndBehindItsCall) {
   EXPECT_EQ(Row(changed[0].begin(), changed[0].begin() + kBefore), (Row{"CldRecurrence", kEuro, {}, 2}));
   EXPECT_EQ(MemberOf(changed[0], kBefore, "Expression"), "12-25");
   EXPECT_EQ(MemberOf(changed[0], kBehind, "Expression"), "12-26");
+  const auto emptied = Replaced(caller(), 3);
+  ASSERT_THAT(emptied, SizeIs(3));
+  EXPECT_EQ(MemberOf(emptied[0], kBefore, "FromYear"), "");
+  EXPECT_EQ(MemberOf(emptied[0], kBehind, "FromYear"), "2015");
+  EXPECT_EQ(emptied[1].at(kBehind), Value());
 }
 
 TEST_P(ProceduresContract, AnEntryTellsTheCurrencyBeforeAndBehindItsCall) {

@@ -97,10 +97,11 @@ TEST(EntryChanges, TellWhatOfABookIsAnother) {
                                  {"Expected", ""},
                                  {"Publisher", "ECB"},
                                  {"Document", "Days"},
-                                 {"Rules", R"([{"Name1": "A", "TID1": 4, "Expression": "easter-2"}])"}});
+                                 {"Rules", R"([{"Name1": "A", "TID1": 4, "Expression": "easter-2"}])"},
+                                 {"FromYear", 2015}});
     EXPECT_THAT(ChangesOf(1),
                 ElementsAre("Rule book of EUR: publisher |  | ECB", "Rule book of EUR: document |  | Days",
-                            "Rule book of EUR, rule 1: name |  | A",
+                            "Rule book of EUR: since |  | 2015", "Rule book of EUR, rule 1: name |  | A",
                             "Rule book of EUR, rule 1: type |  | holiday point",
                             "Rule book of EUR, rule 1: dates |  | easter-2"));
   });
