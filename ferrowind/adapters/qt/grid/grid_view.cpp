@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "ferrowind/adapters/qt/grid/grid_accessible.h"
 #include "ferrowind/adapters/qt/grid/grid_header.h"
 #include "ferrowind/adapters/qt/look/flat_scroll_bar.h"
 #include "ferrowind/adapters/qt/look/text_tip.h"
@@ -32,8 +31,6 @@ constexpr int kRowsMeasured = 500;
 
 GridView::GridView(QWidget* parent)
     : UniformTableView(parent), header_(new GridHeader(this)), colors_(palette()), texts_(font()) {
-  // Does nothing when it is installed already.
-  QAccessible::installFactory(GridAccessible::Make);
   setHorizontalHeader(header_);
   setVerticalScrollBar(new FlatScrollBar(Qt::Vertical));
   setHorizontalScrollBar(new FlatScrollBar(Qt::Horizontal));

@@ -30,7 +30,7 @@ class GridView final : public UniformTableView {
   [[nodiscard]] int CurrentColumn() const;
   void SetCurrentColumn(int column);
   /// Makes the 0-based row current, and the only selected one; none when negative.
-  void SetCurrentRow(int row);
+  void SetCurrentRow(int row) override;
   /// The 0-based row at the top; -1 without rows.
   [[nodiscard]] int FirstVisibleRow() const;
   void SetFirstVisibleRow(int row);

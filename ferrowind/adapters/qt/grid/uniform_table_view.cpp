@@ -8,9 +8,13 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "ferrowind/adapters/qt/grid/uniform_table_accessible.h"
+
 namespace ferrowind::qt {
 
 UniformTableView::UniformTableView(QWidget* parent) : QTableView(parent) {
+  // Does nothing when it is installed already.
+  QAccessible::installFactory(UniformTableAccessible::Make);
   verticalHeader()->hide();
   // The button between the headers is laid out, and hidden, by a step of the base class that is replaced
   // here.
@@ -237,6 +241,11 @@ void UniformTableView::keyPressEvent(QKeyEvent* event) {
 void UniformTableView::GoTo(const QModelIndex& index) {
   const QScopedValueRollback goes(goes_to_row_, true);
   setCurrentIndex(index);
+}
+
+void UniformTableView::SetCurrentRow(int row) {
+  if (model() == nullptr) return;
+  GoTo(row < 0 ? QModelIndex() : model()->index(row, std::max(currentIndex().column(), 0)));
 }
 
 void UniformTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -39,6 +39,8 @@ class UniformTableView : public QTableView {
 
   /// Makes the row current and the only selected one, and lets the next range begin there.
   void GoTo(const QModelIndex& index);
+  /// Does so with the row, none when negative, and keeps the current column.
+  virtual void SetCurrentRow(int row);
 
  protected:
   void updateGeometries() override;

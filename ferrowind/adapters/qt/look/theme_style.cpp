@@ -53,6 +53,11 @@ void DrawButtonEdge(const QStyleOption& option, QPainter& painter) {
   }
 }
 
+/// Of a box to be checked, which its label tells to have the focus.
+void DrawBoxEdge(const QStyleOption& option, QPainter& painter) {
+  DrawEdge(option, painter, QPen(EdgeColor(option), kLine), kCorner);
+}
+
 void DrawPopupEdge(const QStyleOption& option, QPainter& painter) {
   QStyleOption enabled(option);
   enabled.state |= QStyle::State_Enabled;
@@ -72,6 +77,10 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       break;
     case PE_PanelButtonCommand:
       DrawButtonEdge(*option, *painter);
+      break;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+      DrawBoxEdge(*option, *painter);
       break;
     case PE_PanelMenu:
     case PE_FrameMenu:

@@ -40,8 +40,9 @@ QString LineOf(const TableCell& cell) {
 }
 
 QColor ColorOf(CellTone tone, const QColor& ground, const GridColors& colors) {
-  const bool is_quiet_readable = Contrast(colors.muted, ground) >= kTextContrast;
-  return tone == CellTone::kQuiet && is_quiet_readable ? colors.muted : colors.text;
+  if (tone != CellTone::kQuiet) return colors.text;
+  // Rows of both shades show the same colour: the one that is readable on the worse of them.
+  return ShadeReadableOn(ground == colors.base ? colors.alternate : ground, colors.muted, kTextContrast);
 }
 
 }  // namespace

@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QItemSelection>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 
+#include "ferrowind/adapters/qt/controls/caption_text.h"
 #include "ferrowind/adapters/qt/table/cell_words.h"
 #include "ferrowind/adapters/qt/table/table_header.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
@@ -14,6 +17,10 @@
 namespace ferrowind::qt {
 
 namespace {
+
+QString SortText(const QString& caption) {
+  return MarkedCaption(QCoreApplication::translate("ferrowind", "Sort by %1").arg(caption));
+}
 
 std::string WordOfMark(platform::CellMark mark) { return FromQt(MarkWord(mark)); }
 
@@ -32,6 +39,8 @@ QtTable::QtTable(TableView& view)
   });
   QObject::connect(&view_, &TableView::CheckSelectedAsked, Context(), [this] { CheckSelected(); });
   QObject::connect(&view_, &TableView::CopyAsked, Context(), [this] { Copy(); });
+  QObject::connect(&view_, &TableView::SortMenuAsked, Context(),
+                   [this](const QPoint& global) { ShowSortMenu(global); });
   QObject::connect(&view_.Header(), &QHeaderView::sectionClicked, Context(),
                    [this](int column) { SortBy(column); });
 }
@@ -40,6 +49,7 @@ QtTable::~QtTable() { view_.setModel(nullptr); }
 
 void QtTable::ApplyDesign(const platform::ControlDesign& design) {
   view_.SetSelectsCells(design.selects_cells);
+  model_.SetReadsRows(!design.selects_cells);
   view_.SetSorts(design.sorts);
   view_.setSelectionMode(design.selects_many ? QAbstractItemView::ExtendedSelection
                                              : QAbstractItemView::SingleSelection);
@@ -183,6 +193,22 @@ void QtTable::Check(const std::vector<std::string>& rows, bool checked) {
 void QtTable::SortBy(int column) {
   if (!view_.Sorts()) return;
   Change([&] { content_.Sort(content_.SortingAfterClick(static_cast<std::size_t>(column))); });
+}
+
+void QtTable::ShowSortMenu(const QPoint& global) {
+  auto* menu = new QMenu(&view_);
+  menu->setObjectName(QStringLiteral("sortMenu"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (int column = 0; column < model_.columnCount(); ++column) {
+    const platform::TableColumn& shown = content_.Columns()[static_cast<std::size_t>(column)];
+    QAction* action = menu->addAction(SortText(ToQt(shown.caption)));
+    action->setObjectName(QStringLiteral("sortBy.") + ToQt(shown.key));
+    action->setCheckable(true);
+    action->setChecked(content_.Sorted() && content_.Sorted()->column == static_cast<std::size_t>(column));
+    QObject::connect(action, &QAction::triggered, Context(), [this, column] { SortBy(column); });
+  }
+  menu->popup(global);
+  if (!menu->actions().isEmpty()) menu->setActiveAction(menu->actions().front());
 }
 
 void QtTable::Copy() const { QApplication::clipboard()->setText(ToQt(content_.TextOf(SelectedRows()))); }

@@ -50,6 +50,7 @@ class QtTable : public QtControl<platform::Table> {
   void Check(const std::vector<std::string>& rows, bool checked);
   void CheckSelected();
   void SortBy(int column);
+  void ShowSortMenu(const QPoint& global);
   void Copy() const;
 
   TableView& view_;

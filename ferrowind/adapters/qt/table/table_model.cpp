@@ -33,7 +33,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
       return SpokenText(cell);
     case Qt::AccessibleDescriptionRole:
-      return ToQt(cell.description);
+      return DescriptionOf(place, static_cast<std::size_t>(index.column()));
     case Qt::CheckStateRole:
       if (const auto& box = content_.RowAt(place).checked; box && index.column() == 0)
         return *box ? Qt::Checked : Qt::Unchecked;
@@ -43,9 +43,19 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+QString TableModel::DescriptionOf(std::size_t place, std::size_t column) const {
+  QStringList parts;
+  if (const QString own = ToQt(content_.CellAt(place, column).description); !own.isEmpty()) parts.append(own);
+  for (std::size_t other = 0; reads_rows_ && other < content_.Columns().size(); ++other) {
+    const QString said = other == column ? QString() : SpokenText(content_.CellAt(place, other));
+    if (!said.isEmpty()) parts.append(ToQt(content_.Columns()[other].caption) + QStringLiteral(": ") + said);
+  }
+  return parts.join(QStringLiteral("; "));
+}
+
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= columnCount())
-    return {};
+  const bool is_text = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
+  if (orientation != Qt::Horizontal || !is_text || section < 0 || section >= columnCount()) return {};
   return ToQt(content_.Columns()[static_cast<std::size_t>(section)].caption);
 }
 

@@ -15,6 +15,8 @@ class TableModel final : public QAbstractTableModel {
   explicit TableModel(const table_engine::TableContent& content) : content_(content) {}
 
   [[nodiscard]] const table_engine::TableContent& Content() const { return content_; }
+  /// Whether a row is read as a whole: then each of its cells tells of the others in its description.
+  void SetReadsRows(bool reads) { reads_rows_ = reads; }
   /// Tells the views that all of the content may be another one.
   void ContentReplaced();
   /// Tells the views that the boxes of rows have changed.
@@ -27,7 +29,10 @@ class TableModel final : public QAbstractTableModel {
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
+  [[nodiscard]] QString DescriptionOf(std::size_t place, std::size_t column) const;
+
   const table_engine::TableContent& content_;
+  bool reads_rows_ = true;
 };
 
 }  // namespace ferrowind::qt

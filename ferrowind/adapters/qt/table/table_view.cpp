@@ -70,7 +70,13 @@ TableView::TableView(QWidget* parent)
     settled_columns_.insert(column);
     Stretch();
   });
+  header_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(header_, &QWidget::customContextMenuRequested, this, &TableView::AskForSortMenu);
   UpdateFont();
+}
+
+void TableView::AskForSortMenu(const QPoint& in_header) {
+  if (sorts_) emit SortMenuAsked(header_->viewport()->mapToGlobal(in_header));
 }
 
 void TableView::setModel(QAbstractItemModel* model) {
@@ -261,6 +267,10 @@ void TableView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) {
     emit CopyAsked();
     return;
+  }
+  if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier)) {
+    const int left = currentIndex().isValid() ? columnViewportPosition(currentIndex().column()) : 0;
+    return AskForSortMenu(QPoint(std::max(left, 0), header_->height()));
   }
   const bool is_plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

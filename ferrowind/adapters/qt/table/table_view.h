@@ -47,6 +47,8 @@ class TableView final : public UniformTableView {
   void CheckAsked(int row);
   void CheckSelectedAsked();
   void CopyAsked();
+  /// The operator wants to choose what the rows are sorted by; `global` is where.
+  void SortMenuAsked(const QPoint& global);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -66,6 +68,7 @@ class TableView final : public UniformTableView {
  private:
   class Work;
 
+  void AskForSortMenu(const QPoint& in_header);
   void UpdateFont();
   void UpdateColors();
   void Stretch();

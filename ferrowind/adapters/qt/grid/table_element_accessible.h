@@ -3,17 +3,18 @@
 #include <QAccessibleInterface>
 #include <QPointer>
 
-#include "ferrowind/adapters/qt/grid/grid_view.h"
+#include "ferrowind/adapters/qt/grid/uniform_table_view.h"
 
 namespace ferrowind::qt {
 
-/// A cell or a header of a grid's table as assistive tools see it. It tells what stands at its place now.
-class GridElementAccessible final : public QAccessibleInterface, public QAccessibleTableCellInterface {
+/// A cell or a header of a table as assistive tools see it. It tells what stands at its place now.
+class TableElementAccessible final : public QAccessibleInterface, public QAccessibleTableCellInterface {
  public:
   static constexpr int kHeader = -1;
 
   /// Rows and columns count from 0; `kHeader` for the headers of columns and of rows.
-  GridElementAccessible(GridView& view, int row, int column) : view_(&view), row_(row), column_(column) {}
+  TableElementAccessible(UniformTableView& view, int row, int column)
+      : view_(&view), row_(row), column_(column) {}
 
   [[nodiscard]] int Row() const { return row_; }
   [[nodiscard]] int Column() const { return column_; }
@@ -46,10 +47,10 @@ class GridElementAccessible final : public QAccessibleInterface, public QAccessi
  private:
   [[nodiscard]] bool IsCell() const { return row_ != kHeader && column_ != kHeader; }
   [[nodiscard]] bool IsColumnHeader() const { return row_ == kHeader && column_ != kHeader; }
-  [[nodiscard]] QModelIndex Index() const { return view_->Model()->index(row_, column_); }
+  [[nodiscard]] QModelIndex Index() const { return view_->model()->index(row_, column_); }
   [[nodiscard]] QAccessible::State StateOfCell() const;
 
-  QPointer<GridView> view_;
+  QPointer<UniformTableView> view_;
   int row_;
   int column_;
 };

@@ -9,21 +9,21 @@
 
 namespace ferrowind::qt {
 
-class GridView;
+class UniformTableView;
 
-/// A grid's table as assistive tools see it. Qt's own would tell the headers of hidden columns, and headers
+/// A table as assistive tools see it. Qt's own would tell the headers of hidden columns, and headers
 /// of rows, as showing.
 ///
 /// Its children are numbered as Qt numbers those of a table in its events: first the headers of the columns,
 /// then row by row, each row with a header in front; hidden columns count. Rows and columns count from 0.
-class GridAccessible final : public QAccessibleWidget, public QAccessibleTableInterface {
+class UniformTableAccessible final : public QAccessibleWidget, public QAccessibleTableInterface {
  public:
-  explicit GridAccessible(GridView& view);
-  ~GridAccessible() override;
-  GridAccessible(const GridAccessible&) = delete;
-  GridAccessible& operator=(const GridAccessible&) = delete;
+  explicit UniformTableAccessible(UniformTableView& view);
+  ~UniformTableAccessible() override;
+  UniformTableAccessible(const UniformTableAccessible&) = delete;
+  UniformTableAccessible& operator=(const UniformTableAccessible&) = delete;
 
-  /// For `QAccessible::installFactory`: makes one for a grid's table, and nothing for anything else.
+  /// For `QAccessible::installFactory`: makes one for a uniform table, and nothing for anything else.
   static QAccessibleInterface* Make(const QString& class_name, QObject* object);
 
   void* interface_cast(QAccessible::InterfaceType type) override;
@@ -61,7 +61,7 @@ class GridAccessible final : public QAccessibleWidget, public QAccessibleTableIn
   [[nodiscard]] bool HasRow(int row) const { return row >= 0 && row < rowCount(); }
   void ForgetElements();
 
-  GridView& view_;
+  UniformTableView& view_;
   /// By row and column; made as they are asked for, and the accessibility framework's to delete.
   mutable std::map<std::pair<int, int>, QAccessible::Id> elements_;
 };

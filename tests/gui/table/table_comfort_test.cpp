@@ -1,0 +1,130 @@
+// What makes a table pleasant: widths, type-ahead, keys, and many rows.
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QScrollBar>
+
+#include "tests/gui/table/table_fixture.h"
+
+namespace ferrowind::qt {
+namespace {
+
+using testing::ElementsAre;
+
+class TableComfortTest : public TableTest {};
+
+TEST_F(TableComfortTest, FitsItsColumnsToWhatStandsInThemAndStretchesTheRest) {
+  table_->SetRows({Row("a", "A name of some length", "x")});
+  EXPECT_GE(view_->columnWidth(1), view_->fontMetrics().horizontalAdvance("A name of some length") + 14);
+  const int total = view_->columnWidth(0) + view_->columnWidth(1) + view_->columnWidth(2);
+  EXPECT_EQ(total, view_->viewport()->width());
+  view_->resize(900, 300);
+  EXPECT_EQ(view_->columnWidth(0) + view_->columnWidth(1) + view_->columnWidth(2),
+            view_->viewport()->width());
+}
+
+TEST_F(TableComfortTest, KeepsAWidthThatTheOperatorGave) {
+  table_->SetRows({Row("a", "Name", "x")});
+  TableHeader& header = view_->Header();
+  const int edge = header.sectionViewportPosition(0) + header.sectionSize(0) - 1;
+  const int y = header.height() / 2;
+  QTest::mousePress(header.viewport(), Qt::LeftButton, {}, {edge, y});
+  QTest::mouseMove(header.viewport(), {edge + 20, y});
+  QTest::mouseMove(header.viewport(), {edge + 40, y});
+  QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, {edge + 40, y});
+  const int width = view_->columnWidth(0);
+  EXPECT_GT(width, view_->sizeHintForIndex(view_->Model()->index(0, 0)).width());
+  table_->SetRows({});
+  table_->SetRows({Row("b", "Another name of quite some length", "x")});
+  view_->resize(700, 300);
+  EXPECT_EQ(view_->columnWidth(0), width);
+}
+
+TEST_F(TableComfortTest, GoesToTheRowWhoseTextIsTypedBlanksIncluded) {
+  table_->SetRows({Row("1", "Good Friday"), Row("2", "Good Monday"), Row("3", "Boxing Day")});
+  Press(Qt::Key_Right);
+  for (const char key : std::string("good m")) QTest::keyClick(view_.get(), key);
+  EXPECT_EQ(table_->CurrentRow(), "2");
+}
+
+TEST_F(TableComfortTest, LeavesTabToTheWindow) {
+  table_->SetRows({Row("1", "a"), Row("2", "b")});
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(table_->CurrentRow(), "1");
+}
+
+TEST_F(TableComfortTest, MovesBetweenCellsByTheArrows) {
+  Design({.selects_cells = true});
+  table_->SetRows({Row("1", "a"), Row("2", "b")});
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Down);
+  EXPECT_EQ(table_->CurrentRow(), "2");
+  EXPECT_EQ(table_->CurrentColumn(), "name");
+  Press(Qt::Key_Home);
+  EXPECT_EQ(table_->CurrentColumn(), "day");
+}
+
+TEST_F(TableComfortTest, SortsFromTheMenuOfItsHeadersByKey) {
+  Design({.sorts = true});
+  table_->SetRows({Row("1", "b"), Row("2", "a")});
+  const auto choose = [&](const char* name) {
+    Press(Qt::Key_Down, Qt::AltModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    auto* action = menu->findChild<QAction*>(QLatin1String(name));
+    ASSERT_NE(action, nullptr);
+    menu->setActiveAction(action);
+    QTest::keyClick(menu, Qt::Key_Return);
+  };
+  choose("sortBy.name");
+  EXPECT_THAT(table_->RowKeys(), ElementsAre("2", "1"));
+  choose("sortBy.name");
+  EXPECT_THAT(table_->RowKeys(), ElementsAre("1", "2"));
+  choose("sortBy.day");
+  EXPECT_THAT(table_->RowKeys(), ElementsAre("1", "2"));
+}
+
+TEST_F(TableComfortTest, HasNoMenuOfItsHeadersWhereItDoesNotSort) {
+  table_->SetRows({Row("1", "b"), Row("2", "a")});
+  Press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(TableComfortTest, StaysWhereTheOperatorHasScrolledToWhenRowsAreReplaced) {
+  std::vector<platform::TableRow> rows;
+  for (int i = 0; i < 500; ++i) rows.push_back(Row(std::to_string(i), "name"));
+  table_->SetRows(rows);
+  table_->SetCurrentRow("200");
+  const int first = view_->FirstRow();
+  ASSERT_GT(first, 100);
+  table_->SetRows(rows);
+  EXPECT_EQ(view_->FirstRow(), first);
+}
+
+TEST_F(TableComfortTest, BringsTheRowThatTheProgramMakesCurrentIntoView) {
+  std::vector<platform::TableRow> rows;
+  for (int i = 0; i < 500; ++i) rows.push_back(Row(std::to_string(i), "name"));
+  table_->SetRows(rows);
+  table_->SetCurrentRow("400");
+  EXPECT_TRUE(view_->viewport()->rect().contains(CellArea("400", 0).center()));
+}
+
+/// Seconds would be felt; this is far below them also with the sanitizers, which make it many times slower.
+TEST_F(TableComfortTest, ShowsAndSortsAHundredThousandRowsAtOnce) {
+  Design({.selects_many = true, .sorts = true});
+  std::vector<platform::TableRow> rows;
+  for (int i = 0; i < 100'000; ++i)
+    rows.push_back(Row(std::to_string(i), "n" + std::to_string(i * 7919 % 100'003)));
+  QElapsedTimer timer;
+  timer.start();
+  table_->SetRows(rows);
+  Press(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(table_->CurrentRow(), "99999");
+  QTest::mouseClick(view_->Header().viewport(), Qt::LeftButton, {},
+                    {view_->Header().sectionViewportPosition(1) + 20, 10});
+  QCoreApplication::processEvents();
+  EXPECT_LT(timer.elapsed(), 15'000);
+  EXPECT_EQ(table_->CurrentRow(), "99999");
+}
+
+}  // namespace
+}  // namespace ferrowind::qt
