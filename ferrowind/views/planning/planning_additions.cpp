@@ -3,12 +3,14 @@
 #include <array>
 #include <utility>
 
+#include "ferrowind/views/planning/assignment_check.h"
 #include "ferrowind/views/planning/calendars_addition_list.h"
 #include "ferrowind/views/planning/history_tools.h"
 #include "ferrowind/views/planning/holidays_addition_list.h"
 #include "ferrowind/views/planning/holidays_caption.h"
 #include "ferrowind/views/planning/plan_year_tool.h"
 #include "ferrowind/views/planning/refreshed_calendars.h"
+#include "ferrowind/views/planning/rules_of_calendar.h"
 #include "ferrowind/views/planning/why_pane.h"
 
 namespace ferrowind {
@@ -40,7 +42,11 @@ constexpr std::array kCalendarsAdditions{
     Calendars<RefreshedCalendars>, Calendars<PlanYearTool>,
     Calendars<HistoryTools>,       Calendars<WhyPane>,
 };
-constexpr std::array kHolidaysAdditions{Holidays<HolidaysCaption>};
+constexpr std::array kHolidaysAdditions{
+    Holidays<HolidaysCaption>,
+    Holidays<RulesOfCalendar>,
+    Holidays<AssignmentCheck>,
+};
 
 template <typename Entries>
 WindowParts PartsOf(const Entries& entries) {

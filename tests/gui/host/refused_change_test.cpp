@@ -57,6 +57,7 @@ TEST_F(RefusedChange, AnAssignmentCountsTheDaysThatItSet) {
   OpenCalendars();
   InHolidays([](QWidget& holidays) {
     WalkToRow(GridIn(holidays), RowOf(GridIn(holidays), "Name", "Saturday"));
+    script_.Expect("fmAssignPreview", [](QWidget& preview) { ClickButton(preview, "cmdAssign"); });
     ClickButton(holidays, "cmdAction5");
   });
   EXPECT_EQ(NoteIn(Calendars()), "Assigned \"Saturday\" to USD 2028: 53 days set");
@@ -73,6 +74,7 @@ TEST_F(RefusedChange, AnAssignmentToALockedFileNamesTheRulesAndWaitsOnceForThemA
     const OtherProgram other(DatabasePath());
     int times = 0;
     const auto action_began = news_.OnAction([&times] { ++times; });
+    script_.Expect("fmAssignPreview", [](QWidget& preview) { ClickButton(preview, "cmdAssign"); });
     ClickButton(holidays, "cmdAction5");
     EXPECT_EQ(times, 1) << "each one may wait again";
     EXPECT_EQ(patience_->Left(), std::chrono::milliseconds(0));

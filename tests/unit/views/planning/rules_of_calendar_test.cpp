@@ -1,0 +1,102 @@
+// The Holidays window with the rules of its calendar's currency, and where the calendar has them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/run_in_fresh_thread.h"
+#include "tests/unit/views/planning/planned_holidays.h"
+
+namespace ferrowind {
+namespace {
+
+using platform::Date;
+using ::testing::Contains;
+using ::testing::Not;
+using testing::PlannedHolidays;
+using testing::RunInFreshThread;
+
+TEST(RulesOfCalendar, ListOnlyThoseOfTheCurrencyUntilAllAreAskedFor) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    ASSERT_TRUE(holidays.Init(kWholeCalendarMode));
+    EXPECT_TRUE(holidays.Tools().ToolPressed("ID_OwnRules"));
+    EXPECT_EQ(holidays.Names().size(), 5u);
+    EXPECT_THAT(holidays.Names(), Not(Contains("Independence Day")));
+    holidays.Show([&] {
+      holidays.Tools().ClickTool("ID_OwnRules");
+      EXPECT_THAT(holidays.Names(), Contains("Independence Day"));
+      EXPECT_EQ(holidays.Names().size(), 6u);
+      holidays.Tools().ClickTool("ID_OwnRules");
+      EXPECT_EQ(holidays.Names().size(), 5u);
+    });
+  });
+}
+
+TEST(RulesOfCalendar, TellOnWhichDaysTheCalendarHasThem) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    holidays.Give(Date(2028, 4, 14), 5);
+    holidays.Give(Date(2028, 7, 3), 6);
+    holidays.Give(Date(2028, 7, 4), 6);
+    ASSERT_TRUE(holidays.Init(kWholeCalendarMode));
+    EXPECT_EQ(holidays.Grid().ColumnByKey("CalendarDays").Caption(), "In EUR 2028");
+    const auto days_of = [&](const char* rule) {
+      return holidays.Grid().CellText(holidays.RowOf(rule), "CalendarDays");
+    };
+    EXPECT_EQ(days_of("Good Friday"), "Friday 14 April 2028");
+    EXPECT_EQ(days_of("Street fair"), "Monday 3 July 2028, Tuesday 4 July 2028");
+    EXPECT_EQ(days_of("Saturday"), "53 days");
+    EXPECT_EQ(days_of("New Year's Day"), "");
+  });
+}
+
+TEST(RulesOfCalendar, SortByTheirFirstDayInTheCalendar) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    holidays.Give(Date(2028, 4, 14), 5);
+    holidays.Give(Date(2028, 2, 3), 6);
+    ASSERT_TRUE(holidays.Init(kWholeCalendarMode));
+    auto& grid = holidays.Grid();
+    grid.SortKeys().Clear();
+    grid.SortKeys().Add(grid.ColumnByKey("CalendarDays").Index(), platform::kSortDescending, 0);
+    grid.Refresh(false);
+    EXPECT_EQ(holidays.Names()[0], "Good Friday");
+    EXPECT_EQ(holidays.Names()[1], "Street fair");
+  });
+}
+
+TEST(RulesOfCalendar, AreAssignedFromTheRowsOnShow) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    ASSERT_TRUE(holidays.Init(kWholeCalendarMode));
+    holidays.world.toolkit.ScriptModal("fmAssignPreview", [](headless::HeadlessForm& form) {
+      form.Part<headless::HeadlessButton>("cmdAssign").Click();
+    });
+    holidays.Show([&] { holidays.Assign("Street fair"); });
+    EXPECT_EQ(holidays.RuleOn(Date(2028, 7, 1)), 6);
+  });
+}
+
+TEST(RulesOfCalendar, AreListedAsBeforeAtAnyFailingCall) {
+  int opened = 0;
+  bool has_fired = true;
+  for (int call = 1; has_fired && call < 1000; ++call) {
+    RunInFreshThread([&] {
+      PlannedHolidays holidays;
+      holidays.MakeWindow();
+      holidays.world.faults.FailAtCall(call);
+      bool is_ready = false;
+      EXPECT_NO_THROW(is_ready = holidays.Init(kWholeCalendarMode));
+      has_fired = holidays.world.faults.HasFired();
+      holidays.world.faults.Disarm();
+      if (!is_ready) return;
+      ++opened;
+      const bool is_choosing = holidays.Tools().ToolPressed("ID_OwnRules");
+      EXPECT_EQ(holidays.Names().size(), is_choosing ? 5u : 6u) << holidays.world.faults.FailedCall();
+      EXPECT_EQ(holidays.Tools().ToolEnabled("ID_OwnRules"), is_choosing);
+    });
+  }
+  EXPECT_GT(opened, 20);
+}
+
+}  // namespace
+}  // namespace ferrowind
