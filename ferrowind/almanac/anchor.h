@@ -73,7 +73,12 @@ struct BetweenHolidays {
   bool operator==(const BetweenHolidays&) const = default;
 };
 
+/// Dates that nobody has announced yet: of no year is it known whether, and where, there is one.
+struct UnknownDate {
+  bool operator==(const UnknownDate&) const = default;
+};
+
 using Anchor = std::variant<FixedDate, SingleDate, EasterDate, NthWeekday, EquinoxDate, TableDate,
-                            EveryWeekday, BetweenHolidays>;
+                            EveryWeekday, BetweenHolidays, UnknownDate>;
 
 }  // namespace ferrowind::almanac

@@ -262,10 +262,10 @@ class BookInspection {
 
   void InspectMoves(const BookRule& rule) {
     const DateExpression& expression = rule.expression;
-    const bool can_move =
-        rule.kind != RuleKind::kWorkingDay && !expression.IsEveryWeekday() && !expression.IsBetween();
+    const bool can_move = rule.kind != RuleKind::kWorkingDay && !expression.IsEveryWeekday() &&
+                          !expression.IsBetween() && !expression.IsUnknown();
     if (!can_move && (!expression.moves.empty() || expression.else_not_observed)) {
-      Add("neither moves nor is dropped: it is a working day, a weekday or a day between holidays");
+      Add("neither moves nor is dropped: it is a working day, a weekday, a day between holidays or unknown");
     } else if (expression.moves.empty() && !rule.moved_name.empty()) {
       Add("names its moved day, but does not move");
     } else {
@@ -295,7 +295,7 @@ class BookInspection {
   }
 
   [[nodiscard]] bool HasDates(const DateExpression& expression) const {
-    if (!expression.IsBetween()) return HasBaseDates(expression, tables_);
+    if (!expression.IsBetween() && !expression.IsUnknown()) return HasBaseDates(expression, tables_);
     for (int year = kFirstYear; year <= kLastYear; ++year) {
       if (expression.years.Include(year)) return true;
     }

@@ -95,8 +95,9 @@ ComparisonLine Comparison::LineOf(const ComparedDay& day) const {
   if (day.now != nullptr) line.now = NameOf(*day.now);
   if (day.unknown != nullptr) {
     line.should = line.now;
-    line.why = "The plan does not know this year's dates of " + plan_.Book().rules[day.unknown->rule].name +
-               ", which the table " + day.unknown->table + " does not reach";
+    line.why = "The plan does not know this year's dates of " + plan_.Book().rules[day.unknown->rule].name;
+    if (!day.unknown->table.empty())
+      line.why += ", which the table " + day.unknown->table + " does not reach";
     return line;
   }
   if (day.should != nullptr) line.should = NameOf(*day.should);

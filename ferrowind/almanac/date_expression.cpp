@@ -37,6 +37,7 @@ struct AnchorText {
     return "weekday " + std::string(WeekdayName(every.weekday));
   }
   std::string operator()(const BetweenHolidays&) const { return "between"; }
+  std::string operator()(const UnknownDate&) const { return "unknown"; }
 };
 
 /// Monday first, as people list the days of a week.

@@ -16,10 +16,10 @@
 ///                  [ "from" YEAR ] [ "to" YEAR ] [ ( "only" | "not" ) YEAR { "," YEAR } ] ;
 ///     base       = MM-DD | YYYY-MM-DD | ( "easter" | "orthodox" ) [ offset ] | ordinal WEEKDAY "of" MM
 ///                | WEEKDAY relation anchor | ( "vernal" | "autumnal" ) "equinox" UTCOFFSET
-///                | "table" NAME [ offset ] | "weekday" WEEKDAY | "between" ;
+///                | "table" NAME [ offset ] | "weekday" WEEKDAY | "between" | "unknown" ;
 ///     ordinal    = "1st" | "2nd" | "3rd" | "4th" | "5th" | "last" ;
 ///     relation   = "on" "or" "after" | "after" | "on" "or" "before" | "before" ;
-///     anchor     = base ;  (* neither "weekday" nor "between" *)
+///     anchor     = base ;  (* none of "weekday", "between" and "unknown" *)
 ///     offset     = ( "+" | "-" ) DAYS ;
 ///     move       = [ condition { "," condition } ] "to" target ;
 ///     condition  = WEEKDAY | "taken" ;
@@ -109,6 +109,7 @@ struct DateExpression {
 
   [[nodiscard]] bool IsEveryWeekday() const { return std::holds_alternative<EveryWeekday>(anchor); }
   [[nodiscard]] bool IsBetween() const { return std::holds_alternative<BetweenHolidays>(anchor); }
+  [[nodiscard]] bool IsUnknown() const { return std::holds_alternative<UnknownDate>(anchor); }
   bool operator==(const DateExpression&) const = default;
 
   /// In the order of the text, so the last one is taken first from the anchor.

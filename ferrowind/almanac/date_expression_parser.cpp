@@ -64,6 +64,7 @@ Anchor DateExpressionParser::ParseAnchor() {
   if (!expression_.steps.empty()) throw Expected("a date such as 05-18, easter or 4th Thursday of 11");
   if (TakeWord("weekday")) return EveryWeekday{ParseWeekday()};
   if (TakeWord("between")) return BetweenHolidays{};
+  if (TakeWord("unknown")) return UnknownDate{};
   throw Expected("a date such as 12-25, easter-2 or 1st Monday of 05");
 }
 

@@ -84,6 +84,7 @@ struct AnchorWords {
     return "every " + std::string(WeekdayName(every.weekday));
   }
   std::string operator()(const BetweenHolidays&) const { return "a day between two holidays"; }
+  std::string operator()(const UnknownDate&) const { return "a day that is not known yet"; }
 };
 
 /// The year whose anchor leads to the base date.

@@ -32,6 +32,9 @@ PreparedBase::PreparedBase(const DateExpression& expression, const DateTables& t
     single_day_ = TakeSteps(expression, single->date.Serial());
   } else if (expression.IsEveryWeekday()) {
     source_ = Source::kWeekly;
+  } else if (expression.IsUnknown()) {
+    // As of a table that reaches no year.
+    source_ = Source::kTable;
   } else if (expression.IsBetween()) {
     source_ = Source::kNone;
   } else {

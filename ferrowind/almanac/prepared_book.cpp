@@ -22,6 +22,7 @@ void PreparedBook::Prepare(std::uint32_t position, const DateTables& tables) {
       of_tables_.push_back({position, dated_.size(), named->table, table == nullptr ? 0 : table->first_year,
                             table == nullptr ? 0 : table->last_year});
     }
+    if (rule.expression.IsUnknown()) of_tables_.push_back({position, dated_.size(), {}, 0, 0});
     dated_.push_back({PreparedBase(rule.expression, tables), position, rule.kind == RuleKind::kWorkingDay});
   }
 }

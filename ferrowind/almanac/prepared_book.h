@@ -20,10 +20,12 @@ class PreparedBook {
     std::uint32_t position;
     bool opens;
   };
+  /// A rule of which not all years are known.
   struct TableRule {
     std::size_t position;
     /// In `dated`.
     std::size_t rule;
+    /// Empty when the book says itself that the dates are unknown.
     std::string table;
     int first_year;
     int last_year;

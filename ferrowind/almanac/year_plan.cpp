@@ -5,6 +5,16 @@
 #include "ferrowind/almanac/plan_reasons.h"
 
 namespace ferrowind::almanac {
+namespace {
+
+std::string WhyUnknown(const UnknownDates& unknown) {
+  if (unknown.table.empty()) return "the book has no day of that year yet";
+  if (unknown.last_year == 0) return "there is no table " + unknown.table;
+  return "the table " + unknown.table + " reaches from " + std::to_string(unknown.first_year) + " to " +
+         std::to_string(unknown.last_year);
+}
+
+}  // namespace
 
 const PlannedDay* YearPlan::Find(int day_of_year) const {
   const auto place =
@@ -33,13 +43,8 @@ std::string YearPlan::WhyOf(int day_of_year) const { return PlanReasons(*this).W
 std::vector<std::string> YearPlan::Incomplete() const {
   std::vector<std::string> sentences;
   for (const UnknownDates& unknown : unknown_) {
-    const std::string dates =
-        "The date of " + book_->rules[unknown.rule].name + " in " + std::to_string(year_);
-    const std::string table = "the table " + unknown.table;
-    sentences.push_back(unknown.last_year == 0 ? dates + " is not known: there is no table " + unknown.table
-                                               : dates + " is not known: " + table + " reaches from " +
-                                                     std::to_string(unknown.first_year) + " to " +
-                                                     std::to_string(unknown.last_year));
+    sentences.push_back("The date of " + book_->rules[unknown.rule].name + " in " + std::to_string(year_) +
+                        " is not known: " + WhyUnknown(unknown));
   }
   return sentences;
 }

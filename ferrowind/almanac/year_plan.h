@@ -35,11 +35,12 @@ struct PlannedDay {
   std::int32_t base = 0;
 };
 
-/// A rule whose dates the plan lacks, because its table does not reach the year and no other rule of its name
-/// has a day in it.
+/// A rule whose dates the plan lacks, because its table does not reach the year, or the book says that they
+/// are unknown, and no other rule of its name has a day in it.
 struct UnknownDates {
   /// The rule's position in the book's list, from 0 on.
   std::size_t rule = 0;
+  /// Empty when the book says that they are unknown.
   std::string table;
   /// What the table reaches; both 0 when there is no such table.
   int first_year = 0;

@@ -112,6 +112,14 @@ class Plan(small_book.WithSmallBooks):
         self.assertIn("EUR 2199 cannot be planned in full. ", errors)
         self.assertIn("Feast", errors)
 
+    def test_tells_which_dates_the_book_says_are_unknown(self):
+        fair = {"Name1": "Fair", "TID1": 4, "Expression": "unknown from 2028"}
+        announced = {"Name1": "Fair", "TID1": 4, "Expression": "2029-03-01"}
+        self.store_book(EURO, [*small_book.WEEKEND, fair, announced])
+        self.assertIn("EUR 2028 cannot be planned in full. The date of Fair in 2028 is not known: the book has no day of that "
+                      "year yet.\n", self.plan(NOT_DONE, year=2028)[1])
+        self.assertNotIn("in full", self.plan(NOT_DONE, year=2029)[1])
+
     def test_refuses_what_cannot_be_planned(self):
         for arguments, reason in [(["SEK", 2028], "SEK has no book"), (["EUX", 2028], "no currency EUX"),
                                   (["EUR", "28"], "\"28\" is no year"), (["EUR", "1899"], "ferrowindctl: Years can be planned from 1900 to 2199, not 1899\n"),

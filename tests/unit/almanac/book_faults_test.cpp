@@ -43,7 +43,9 @@ TEST(BookFaults, AreNoneInABookOfEveryForm) {
                     "point | I | 09-17 tuesday to previous monday\n"
                     "point | J | between\n"
                     "working day | K | 2026-02-14\n"
-                    "celebration | L | 09-17 if monday\n"),
+                    "celebration | L | 09-17 if monday\n"
+                    "point | M | unknown from 2028\n"
+                    "working day | N | unknown\n"),
       IsEmpty());
 }
 
@@ -152,9 +154,11 @@ TEST(BookFaults, TellOfACelebrationThatTakesItsNameAlong) {
 
 TEST(BookFaults, TellOfMovesThatMeanNothing) {
   const std::string fault =
-      "Rule 3 (A) neither moves nor is dropped: it is a working day, a weekday or a day between holidays";
+      "Rule 3 (A) neither moves nor is dropped: it is a working day, a weekday, a day between holidays or "
+      "unknown";
   EXPECT_THAT(FaultsOfRules("weekday | A | weekday Friday to monday\n"), ElementsAre(fault));
   EXPECT_THAT(FaultsOfRules("point | A | between else not observed\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | unknown to next free day\n"), ElementsAre(fault));
   EXPECT_THAT(FaultsOfRules("working day | A | 2026-02-14 to monday\n"), ElementsAre(fault));
 }
 
@@ -184,6 +188,7 @@ TEST(BookFaults, TellOfARuleThatIsOnNoDay) {
   EXPECT_THAT(FaultsOfRules("point | A | 1st Monday of 05 if tuesday\n"), ElementsAre(fault));
   EXPECT_THAT(FaultsOfRules("point | A | table empty\n"), ElementsAre(fault));
   EXPECT_THAT(FaultsOfRules("point | A | between to 2020 only 2021\n"), ElementsAre(fault));
+  EXPECT_THAT(FaultsOfRules("point | A | unknown to 2020 only 2021\n"), ElementsAre(fault));
   EXPECT_THAT(FaultsOfRules("weekday | A | weekday Friday if monday\n"), ElementsAre(fault));
 }
 

@@ -131,6 +131,13 @@ TEST(ComparisonOfAPlan, LeavesDaysAloneWhoseRuleHasDatesThatNobodyKnows) {
   EXPECT_THAT(line.why, AllOf(HasSubstr("Fair"), HasSubstr("fairs")));
 }
 
+TEST(ComparisonOfAPlan, KeepsDaysWhoseDatesTheBookSaysAreUnknown) {
+  const Compared compared("point | Fair | unknown\n", {Marked("2028-05-03", rule::kFair)});
+  EXPECT_THAT(compared.Actions(), ElementsAre("2028-05-03 keep"));
+  EXPECT_EQ(compared.comparison.LineOf(compared.comparison.Days().front()).why,
+            "The plan does not know this year's dates of Fair");
+}
+
 TEST(ComparisonOfAPlan, LeavesExceptionsOnWeekendsAloneWhileWorkingWeekendsAreNotAnnounced) {
   DateTables tables;
   tables.Add({"fairs", 2020, 2027, {}});

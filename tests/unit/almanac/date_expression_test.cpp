@@ -104,6 +104,7 @@ TEST(DateExpression, ReadsATableWithAnOffset) {
 TEST(DateExpression, ReadsAWeekdayAndADayBetween) {
   EXPECT_EQ(AnchorOf<EveryWeekday>("weekday Saturday"), EveryWeekday{7});
   EXPECT_TRUE(DateExpression::Parse("between").IsBetween());
+  EXPECT_TRUE(DateExpression::Parse("Unknown from 2028").IsUnknown());
 }
 
 TEST(DateExpression, ReadsTheWeekdaysOnWhichTheBaseCounts) {
@@ -242,6 +243,7 @@ TEST(DateExpressionError, NamesThePlaceInARelation) {
   ExpectRefused("Monday after", 13, kAnchor);
   ExpectRefused("Monday after weekday Sunday", 14, kAnchor);
   ExpectRefused("Monday after between", 14, kAnchor);
+  ExpectRefused("Monday after unknown", 14, kAnchor);
   ExpectRefused("Monday after Monday after Monday after Monday after Monday after 01-01", 60,
                 "a date that follows at most 4 weekdays");
 }

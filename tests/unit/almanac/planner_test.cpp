@@ -357,6 +357,20 @@ TEST(Planner, TakesNoDateForAnnouncedThatATableGivesToAYearThatItDoesNotReach) {
   EXPECT_EQ(PlanOf("point | A | table fast\npoint | A | table feast\n", 2028).Unknown().size(), 2U);
 }
 
+TEST(Planner, MissesTheDatesThatTheBookSaysAreUnknown) {
+  const std::string rules = "point | A | unknown from 2027 not 2029\n";
+  EXPECT_THAT(PlanOf(rules, 2026).Unknown(), IsEmpty());
+  EXPECT_THAT(PlanOf(rules, 2027).Incomplete(),
+              ElementsAre("The date of A in 2027 is not known: the book has no day of that year yet"));
+  EXPECT_EQ(PlanOf(rules, 2199).Unknown().size(), 1U);
+  EXPECT_THAT(PlanOf(rules, 2029).Unknown(), IsEmpty()) << "there is none in 2029";
+  const std::string announced = rules + "point | A | 2027-05-05\n";
+  EXPECT_THAT(Days(PlanOf(announced, 2027)), ElementsAre("05-05 4 A"));
+  EXPECT_THAT(PlanOf(announced, 2027).Unknown(), IsEmpty());
+  EXPECT_EQ(PlanOf(announced, 2028).Unknown().size(), 1U);
+  EXPECT_EQ(PlanOf("working day | A | unknown\n", 2026).Unknown().size(), 1U);
+}
+
 TEST(Planner, MissesDatesThatComeOutOfANeighbouringYear) {
   // 31 December 2025 and a day is in 2026; what 2024 would give 2025 is not known.
   EXPECT_THAT(Days("point | A | table feast+1\n", 2026), ElementsAre("01-01 4 A", "05-07 4 A"));

@@ -28,7 +28,7 @@ std::string RandomExpressions::Scrambled(const std::string& text) {
 }
 
 Anchor RandomExpressions::AnyAnchor(bool is_dated, bool has_steps) {
-  switch (Number(1, is_dated ? 5 : has_steps ? 6 : 8)) {
+  switch (Number(1, is_dated ? 5 : has_steps ? 6 : 9)) {
     case 1: {
       const int month = Number(1, 12);
       return FixedDate{month, Number(1, DaysInMonth(2000, month))};
@@ -46,8 +46,10 @@ Anchor RandomExpressions::AnyAnchor(bool is_dated, bool has_steps) {
       return TableDate{Once(2) ? "a" : "b2-c", Number(-5, 5)};
     case 7:
       return EveryWeekday{Number(1, 7)};
-    default:
+    case 8:
       return BetweenHolidays{};
+    default:
+      return UnknownDate{};
   }
 }
 
