@@ -4,8 +4,8 @@
 
 #include "ferrowind/almanac/book_faults.h"
 #include "ferrowind/planning/database_call.h"
-#include "ferrowind/planning/json_text.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/json_text.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -75,10 +75,11 @@ std::string RulesJson(const RuleBook& book) {
   std::string json = "[";
   for (const BookRule& rule : book.rules) {
     if (json.size() > 1) json += ',';
-    json += "{\"Name1\":" + JsonText(rule.name) + ",\"TID1\":" + std::to_string(static_cast<int>(rule.kind)) +
-            ",\"Expression\":" + JsonText(rule.expression.ToText());
-    if (!rule.comment.empty()) json += ",\"Comment\":" + JsonText(rule.comment);
-    if (!rule.moved_name.empty()) json += ",\"MovedName\":" + JsonText(rule.moved_name);
+    json += "{\"Name1\":" + platform::JsonText(rule.name) +
+            ",\"TID1\":" + std::to_string(static_cast<int>(rule.kind)) +
+            ",\"Expression\":" + platform::JsonText(rule.expression.ToText());
+    if (!rule.comment.empty()) json += ",\"Comment\":" + platform::JsonText(rule.comment);
+    if (!rule.moved_name.empty()) json += ",\"MovedName\":" + platform::JsonText(rule.moved_name);
     json += '}';
   }
   return json + ']';

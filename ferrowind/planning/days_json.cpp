@@ -7,8 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "ferrowind/planning/json_text.h"
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/json_text.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -24,7 +24,7 @@ constexpr const char* kOrdinaryWorkingDay = "\"TID1\":1";
 std::string Becomes(const YearPlan& plan, const ComparedDay& day) {
   if (day.should == nullptr) return kOrdinaryWorkingDay;
   const RuleKind kind = plan.KindOf(*day.should);
-  const std::string name = JsonText(plan.NameOf(*day.should));
+  const std::string name = platform::JsonText(plan.NameOf(*day.should));
   // The name of the announced working day is the reason of the exception.
   if (kind == RuleKind::kWorkingDay) return std::string(kOrdinaryWorkingDay) + ",\"DayComment\":" + name;
   return "\"Name1\":" + name + ",\"TID1\":" + std::to_string(static_cast<int>(kind));
@@ -59,7 +59,7 @@ std::string DaysJson(const almanac::Comparison& comparison, const almanac::DayCh
       days.comment = plan.CommentOf(*day.should);
     }
     if (!days.dates.empty()) days.dates += ',';
-    days.dates += JsonText(new_year.AddDays(day.day_of_year - 1).ToIso());
+    days.dates += platform::JsonText(new_year.AddDays(day.day_of_year - 1).ToIso());
   }
   // New rules are numbered in this order, and so stand in the list of rules.
   std::map<Place, std::string> objects;
@@ -67,7 +67,7 @@ std::string DaysJson(const almanac::Comparison& comparison, const almanac::DayCh
     std::string& json = objects[days.place];
     if (!json.empty()) json += ',';
     json += "{" + members;
-    if (!days.comment.empty()) json += ",\"Comment\":" + JsonText(days.comment);
+    if (!days.comment.empty()) json += ",\"Comment\":" + platform::JsonText(days.comment);
     json += ",\"Dates\":[" + days.dates + "]}";
   }
   std::string list;

@@ -1,6 +1,7 @@
 #include "host/admin/apply_command.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
 #include <iostream>
 #include <map>
@@ -8,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include <poll.h>
 #include <unistd.h>
 
 #include "ferrowind/planning/counted.h"
@@ -62,6 +64,19 @@ void Show(const YearPreparation& preparation, ExceptionHandling exceptions, std:
   out << '\n';
 }
 
+/// Returns when a line, or its end, has come from standard input. Throws `Interrupted`.
+void AwaitInput() {
+  // A signal may come to another thread, whose handler does not wake this one.
+  constexpr int kMillisecondsBetweenLooks = 100;
+  pollfd input{STDIN_FILENO, POLLIN, 0};
+  for (;;) {
+    if (Interruption::WasAsked()) std::cerr << '\n';
+    Interruption::ThrowIfAsked();
+    const int ready = poll(&input, 1, kMillisecondsBetweenLooks);
+    if (ready > 0 || (ready < 0 && errno != EINTR)) return;
+  }
+}
+
 /// "2028", or "2028..2030".
 std::string TextOf(const YearRange& years) {
   const std::string first = std::to_string(years.first);
@@ -104,9 +119,7 @@ class Application {
   }
 
  private:
-  [[nodiscard]] bool TakesAll() const {
-    return platform::CompareIgnoringCase(command_.currency, ApplyCommand::kAllCurrencies) == 0;
-  }
+  [[nodiscard]] bool TakesAll() const { return planning::MeansAllCurrencies(command_.currency); }
 
   [[nodiscard]] std::vector<const Currency*> Chosen() const {
     if (!TakesAll()) return {&planner_.Currencies().Named(command_.currency)};
@@ -247,6 +260,7 @@ class Application {
 std::optional<bool> AskOnTerminal(const std::string& question) {
   if (isatty(STDIN_FILENO) == 0) return std::nullopt;
   std::cerr << question << " [y/N] " << std::flush;
+  RunInterruptibly(AwaitInput, std::cerr);
   std::string answer;
   std::getline(std::cin, answer);
   return platform::CompareIgnoringCase(answer, "y") == 0 || platform::CompareIgnoringCase(answer, "yes") == 0;

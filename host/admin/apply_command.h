@@ -19,10 +19,8 @@ using Confirmation = std::function<std::optional<bool>(const std::string& questi
 
 /// `ferrowindctl apply`: makes calendars as planned.
 struct ApplyCommand {
-  static constexpr const char* kAllCurrencies = "ALL";
-
   std::string url;
-  /// In any letter case; `kAllCurrencies` for all that have a book.
+  /// In any letter case; what `planning::MeansAllCurrencies` for all that have a book.
   std::string currency;
   /// As plan_arguments.h reads them.
   std::string years;

@@ -10,8 +10,8 @@
 #include "host/admin/book_difference.h"
 #include "host/admin/book_shelf.h"
 #include "host/admin/book_source.h"
+#include "host/admin/database_content.h"
 #include "host/delivery/delivered_books.h"
-#include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
 namespace {
@@ -95,7 +95,7 @@ ExitStatus TellFaults(const std::vector<std::string>& faults, std::ostream& erro
 
 ExitStatus BookShowCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   std::string text;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     const BookShelf shelf;
     const Currency& named = shelf.Currencies().Named(currency);
     const StoredBook& stored = shelf.Get(named);
@@ -118,7 +118,7 @@ ExitStatus BookSetCommand::Run(const platform::EngineRegistry& engines, std::ist
     if (!source->reading.errors.empty()) return TellFaults(FaultsOfLines(*source), errors);
   }
   std::vector<std::string> faults;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     const BookShelf shelf;
     const std::vector<PlacedBook> books =
         source ? std::vector{Placed(*source, shelf.Currencies().Named(currency))}
@@ -138,7 +138,7 @@ ExitStatus BookCheckCommand::Run(const platform::EngineRegistry& engines, std::i
   if (file) source = ReadBookFrom(*file, in);
   std::size_t count = 1;
   std::vector<std::string> faults;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     const BookShelf shelf;
     if (!source) {
       const auto currencies = are_all ? shelf.WithBooks() : std::vector{shelf.Currencies().Named(currency)};

@@ -17,9 +17,6 @@ using almanac::Finding;
 using almanac::FindingSubject;
 using platform::Value;
 
-/// Another year is prepared when it comes nearer; "review" says when.
-constexpr int kYearsAhead = 1;
-
 bool IsOfWholeCalendar(const Finding& finding) {
   return finding.year &&
          (finding.subject == FindingSubject::kMissingYear || finding.subject == FindingSubject::kNoWeekends);
@@ -29,8 +26,8 @@ bool IsOfWholeCalendar(const Finding& finding) {
 
 CalendarWarnings::CalendarWarnings(const platform::EngineRegistry& engines, const std::string& url) {
   RunWithDatabase(engines, url, [&] {
-    findings_ = planning::ReviewDatabase(DeliveredDateTables(), AttachedPlatform().clock.Today(), kYearsAhead)
-                    .findings;
+    findings_ =
+        planning::ReviewDatabase(DeliveredDateTables(), AttachedPlatform().clock.Today(), {}).findings;
   });
   findings_.erase(std::remove_if(findings_.begin(), findings_.end(),
                                  [](const Finding& finding) { return !IsOfWholeCalendar(finding); }),

@@ -10,8 +10,9 @@
 
 namespace ferrowind::host {
 
-/// Calendars that a sound database can lack: those of this year and the next of each currency that has a rule
-/// book or any calendar, and those in which no weekday rule closes a weekend. `review` finds these and more.
+/// Calendars that a sound database can lack: those that must be there by now (`almanac::ReviewHorizon`) of
+/// each currency that has a rule book or any calendar, and those in which no weekday rule closes a weekend.
+/// `review` finds these and more.
 class CalendarWarnings {
  public:
   /// Looks into the database of `url`; nothing is changed. A database that cannot be read, and one of an

@@ -145,7 +145,8 @@ ExitStatus RunCommandLine(const std::vector<std::string>& arguments, const platf
     const ExitStatus status = CommandLine().Run(arguments, {engines, out, errors});
     out.flush();
     if (out) return status;
-    errors << "ferrowindctl: cannot write the output\n";
+    errors << "ferrowindctl: cannot write the output"
+           << (status == ExitStatus::kDone ? "; all the rest is done" : "") << '\n';
   } catch (const std::exception& error) {
     errors << "ferrowindctl: " << error.what() << '\n';
   }

@@ -4,12 +4,13 @@
 #include <ostream>
 #include <vector>
 
+#include "ferrowind/almanac/date_expression.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/platform/values/date.h"
 
-#include "host/session/procedure_session.h"
+#include "host/admin/database_content.h"
 
 namespace ferrowind::host {
 namespace {
@@ -49,6 +50,10 @@ std::string ReadName(const std::string& name) {
 Date ReadLastDay(const std::string& text) {
   const std::optional<Date> day = Date::FromIso(text);
   if (!day) throw Refused("\"" + text + "\" is no date YYYY-MM-DD");
+  if (day->Year() < almanac::kFirstYear || day->Year() > almanac::kLastYear) {
+    throw Refused(text + " is no last day of a currency: it is in a year from " +
+                  std::to_string(almanac::kFirstYear) + " to " + std::to_string(almanac::kLastYear));
+  }
   return *day;
 }
 
@@ -134,8 +139,8 @@ std::shared_ptr<RecordSet> AsRows(std::vector<Currency> currencies, const Date& 
 
 ExitStatus CurrencyListCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   std::shared_ptr<RecordSet> rows;
-  RunWithDatabase(engines, url,
-                  [&] { rows = AsRows(CurrencyList::Load().All(), AttachedPlatform().clock.Today()); });
+  RunWithCalendars(engines, url,
+                   [&] { rows = AsRows(CurrencyList::Load().All(), AttachedPlatform().clock.Today()); });
   WriteRows({rows}, format, out);
   return ExitStatus::kDone;
 }
@@ -149,7 +154,7 @@ ExitStatus CurrencyAddCommand::Run(const platform::EngineRegistry& engines, std:
   if (number < 1 || number > kHighestNumber) {
     throw Refused("The number of a currency is one from 1 to " + std::to_string(kHighestNumber));
   }
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     // The procedure would change the currency that has the number.
     const CurrencyList currencies = CurrencyList::Load();
     if (const Currency* const other = currencies.Find(number)) {
@@ -165,7 +170,7 @@ ExitStatus CurrencyRenameCommand::Run(const platform::EngineRegistry& engines, s
   if (!new_name && !new_code) throw Refused("Neither a name nor a code is given that it is to have");
   Currency before;
   Currency after;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     before = CurrencyList::Load().Named(code);
     after = before;
     if (new_name) after.name = ReadName(*new_name);
@@ -181,7 +186,7 @@ ExitStatus CurrencyRetireCommand::Run(const platform::EngineRegistry& engines, s
   Currency retired;
   bool is_past = false;
   bool stays = false;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     retired = CurrencyList::Load().Named(code);
     RequireMoneyOfAnyTime(retired);
     const Date today = AttachedPlatform().clock.Today();
@@ -200,7 +205,7 @@ ExitStatus CurrencyRetireCommand::Run(const platform::EngineRegistry& engines, s
 
 ExitStatus CurrencyRestoreCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   Currency restored;
-  RunWithDatabase(engines, url, [&] {
+  RunWithCalendars(engines, url, [&] {
     restored = CurrencyList::Load().Named(code);
     RequireMoneyOfAnyTime(restored);
     if (!restored.last_day) throw Refused(Described(restored) + " is money without a last day");

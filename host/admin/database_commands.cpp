@@ -33,8 +33,9 @@ of procedures complete, every calendar must have all its days, and the rule of
 every day must exist. Each fault is a line on standard output, and the status
 is then 1.
 
-A database in order may still lack a calendar of this year or the next, or have
-one in which no weekend is closed. Each such year is a line "Warning: ...", which
+A database in order may still lack a calendar of this year, the next or, from
+September on, the one after it, or have one in which no weekend is closed. Each
+such year is a line "Warning: ...", which
 does not change the status: "review" tells more, and its status does.)";
 
 constexpr const char* kCopyManual =
@@ -53,10 +54,10 @@ How far it is stands on standard error while that is a terminal.)";
 constexpr const char* kStatusManual =
     R"(Prints two tables: the version of the schema, the engine and its version, and how many currencies, rules
 (all of them, and those removed), calendars, days and entries of the history there are; and for each year the
-number of its calendars. Warnings follow: calendars of this year and the next that a currency with a rule book
-or any calendar lacks, and calendars in which no weekend is closed ("review" tells more). A database of an older
-schema has an empty cell for what it does not know. On a
-server the user must be one who could create the database.
+number of its calendars. Warnings follow: calendars of this year, the next and, from September on, the one after
+it that a currency with a rule book or any calendar lacks, and calendars in which no weekend is closed ("review"
+tells more). A database of an older schema has an empty cell for what it does not know. On a server the user must
+be one who could create the database.
 
 FORMATS
   table  columns, for people; each warning is a line

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <exception>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <iterator>
 #include <map>
@@ -14,17 +15,16 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "ferrowind/almanac/book_text.h"
-#include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/planner.h"
 
-#include "database/seed/delivered_books.h"
+#include "host/delivery/delivered_books.h"
+#include "host/delivery/delivered_tables.h"
 
 namespace {
 
-using ferrowind::almanac::DateTables;
 using ferrowind::almanac::PlannedDay;
 using ferrowind::almanac::Planner;
 using ferrowind::almanac::RuleKind;
@@ -122,13 +122,10 @@ Count Compare(const Peer& peer, const Planner& planner, const std::string& secti
 
 int Run(const char* documentation_path) {
   const std::string documentation = TextOf(documentation_path);
-  DateTables tables;
-  for (const ferrowind::embedded::DeliveredText& table : ferrowind::embedded::DeliveredTables()) {
-    tables.Add(ferrowind::almanac::ReadDateTable(std::string(table.name), table.text));
-  }
-  std::map<std::string_view, Planner> planners;
-  for (const ferrowind::embedded::DeliveredText& book : ferrowind::embedded::DeliveredBooks()) {
-    planners.emplace(book.name, Planner(ferrowind::almanac::ReadBook(book.text), tables));
+  std::map<std::string, Planner, std::less<>> planners;
+  for (auto& delivered : ferrowind::host::DeliveredBooks()) {
+    planners.emplace(delivered.name,
+                     Planner(std::move(delivered.book), ferrowind::host::DeliveredDateTables()));
   }
   Count total;
   int missing = 0;

@@ -9,7 +9,7 @@
 -- DayComment as their comment; Comment is for a rule that is new. TID1 1 without Name1 makes ordinary working days, and
 -- with DayComment working days by exception. Days that are not named stay as they are.
 -- Returns 0; 7 a value is missing, out of range or of another shape, or Days is over a megabyte; 3 unknown currency, or
--- one that is no legal money in that year any more; 8 the calendar is another than expected; 2 a rule of that name has
+-- one that gets no calendar of that year any more; 8 the calendar is another than expected; 2 a rule of that name has
 -- another type; 10 a removed rule has that name.
 
 SELECT 7 AS "@return"
@@ -64,9 +64,13 @@ GROUP BY i.Name1 COLLATE FERROWIND_NAME, i.TID1
 HAVING i.TID1 = 1 OR count(d.value) = 0 OR i.TID1 = 2 AND count(DISTINCT strftime('%w', d.value)) <> 1
 LIMIT 1;
 
+-- A calendar that is there already may be of a year after the last day: an upgrade has set that.
 SELECT 3 AS "@return"
 WHERE NOT EXISTS (
-  SELECT 1 FROM DicCcy WHERE CcyID = :ID1 AND CcyType = 0 AND (LastDay IS NULL OR LastDay >= :Year1 || '-01-01'));
+  SELECT 1 FROM DicCcy
+  WHERE CcyID = :ID1 AND CcyType = 0
+    AND (LastDay IS NULL OR LastDay >= :Year1 || '-01-01'
+      OR EXISTS (SELECT 1 FROM CldCalendar WHERE ID1 = :ID1 AND Year1 = :Year1)));
 
 SELECT 8 AS "@return"
 WHERE :Expected <> ifnull((SELECT Fingerprint FROM CalendarFingerprint WHERE ID1 = :ID1 AND Year1 = :Year1), '');

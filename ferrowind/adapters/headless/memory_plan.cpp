@@ -202,7 +202,9 @@ CallOutcome ApplyPlan(MemoryTables& tables, const std::vector<Value>& inputs) {
   if (!items) return {kWrongValue, {}};
   Plan plan(tables, std::move(*items));
   if (!plan.HasRulesThatCanBeMade()) return {kWrongValue, {}};
-  if (!IsLiveMoney(tables, key.first, key.second)) return {kUnknownCurrency, {}};
+  const bool can_have = tables.calendars.contains(key) ? IsMoney(tables, inputs[0])
+                                                       : IsLiveMoney(tables, key.first, key.second);
+  if (!can_have) return {kUnknownCurrency, {}};
   if (platform::ToText(inputs[2]) != FingerprintOf(tables, key)) return {kAnotherContent, {}};
   if (const std::int32_t refusal = plan.Refusal(); refusal != kDone) return {refusal, {}};
   auto& calendar = tables.calendars.try_emplace(key, NewCalendar(key.second)).first->second;

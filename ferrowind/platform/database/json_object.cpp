@@ -5,45 +5,10 @@
 
 #include "ferrowind/platform/values/date.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/json_text.h"
 
 namespace ferrowind::platform {
 namespace {
-
-void AppendEscaped(char character, std::string& json) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  switch (character) {
-    case '"':
-    case '\\':
-      json += '\\';
-      json += character;
-      return;
-    case '\b':
-      json += "\\b";
-      return;
-    case '\f':
-      json += "\\f";
-      return;
-    case '\n':
-      json += "\\n";
-      return;
-    case '\r':
-      json += "\\r";
-      return;
-    case '\t':
-      json += "\\t";
-      return;
-    default:
-      break;
-  }
-  const auto code = static_cast<unsigned char>(character);
-  if (code >= 0x20) {
-    json += character;
-    return;
-  }
-  json += "\\u00";
-  json += kDigits[code / 16];
-  json += kDigits[code % 16];
-}
 
 /// Appends the value that it is called with.
 struct Writer {
@@ -52,11 +17,7 @@ struct Writer {
   void operator()(std::monostate) const { json += "null"; }
   void operator()(std::int16_t value) const { json += std::to_string(value); }
   void operator()(std::int32_t value) const { json += std::to_string(value); }
-  void operator()(std::string_view value) const {
-    json += '"';
-    for (const char character : value) AppendEscaped(character, json);
-    json += '"';
-  }
+  void operator()(std::string_view value) const { AppendJsonText(value, json); }
   void operator()(const std::string& value) const { (*this)(std::string_view(value)); }
   void operator()(Date value) const { (*this)(value.ToIso()); }
   /// No parameter is of another type.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -7,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/platform/database/engine.h"
+#include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::contract {
 
@@ -41,6 +43,8 @@ class CalendarDatabaseUnderTest : public DatabaseUnderTest {
  public:
   /// Sets the setting `FirstDay`, which no procedure changes.
   virtual void SetFirstDay(int first_day) = 0;
+  /// Sets the last day of a currency, as an upgrade does whatever calendars there are, and no procedure.
+  virtual void SetLastDay(std::int32_t currency, platform::Date last_day) = 0;
   /// Whether the database finds itself sound, as after every call it must; true where an engine has no such
   /// check.
   [[nodiscard]] virtual bool IsSound() = 0;

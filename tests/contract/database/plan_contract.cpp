@@ -372,5 +372,17 @@ TEST_P(ProceduresContract, EveryDayOfAYearCanHaveARuleOfItsOwn) {
   EXPECT_EQ(DayOn(Date(2028, 1, 1))[kComment2], Value());
 }
 
+TEST_P(ProceduresContract, APlanOfAYearAfterTheLastDayIsForACalendarThatIsThereAlready) {
+  constexpr const char* kDays = R"([{"Name1": "A", "TID1": 3, "Comment": "c", "Dates": ["2028-01-03"]}])";
+  ASSERT_EQ(CreateCalendar(kEuro, 2028), 0);
+  database().SetLastDay(kEuro, Date(2027, 12, 31));
+  EXPECT_EQ(
+      caller().Return("CldApplyPlan", {{"ID1", kEuro}, {"Year1", 2028}, {"Expected", ""}, {"Days", kDays}}),
+      8);
+  EXPECT_EQ(Apply(kEuro, 2028, kDays), 0);
+  EXPECT_EQ(DayOn(Date(2028, 1, 3)).at(2), Value("A"));
+  EXPECT_EQ(Apply(kEuro, 2029, "[]"), 3);
+}
+
 }  // namespace
 }  // namespace ferrowind::contract

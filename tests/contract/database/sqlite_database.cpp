@@ -31,6 +31,10 @@ void SqliteDatabase::SetFirstDay(int first_day) {
   Execute("UPDATE CldSetting SET FirstDay = " + std::to_string(first_day));
 }
 
+void SqliteDatabase::SetLastDay(std::int32_t currency, platform::Date last_day) {
+  Execute("UPDATE DicCcy SET LastDay = '" + last_day.ToIso() + "' WHERE CcyID = " + std::to_string(currency));
+}
+
 bool SqliteDatabase::IsSound() {
   const auto problems = sqlite::CheckDatabase(Path());
   for (const auto& problem : problems) ADD_FAILURE() << problem;

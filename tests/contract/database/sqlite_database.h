@@ -31,6 +31,7 @@ class SqliteDatabase : public DatabaseWithHistoryUnderTest {
   [[nodiscard]] platform::Engine& Engine() override { return engine_; }
   [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
   void SetFirstDay(int first_day) override;
+  void SetLastDay(std::int32_t currency, platform::Date last_day) override;
   [[nodiscard]] bool IsSound() override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(
       const content::HistoryFilter& filter) override;

@@ -24,6 +24,11 @@ class MemoryCalendars : public CalendarDatabaseUnderTest {
   [[nodiscard]] platform::Engine& Engine() override { return engine_; }
   [[nodiscard]] std::string ConnectionString() override { return "memory:contract"; }
   void SetFirstDay(int first_day) override { database_.Tables().first_day = first_day; }
+  void SetLastDay(std::int32_t currency, platform::Date last_day) override {
+    for (headless::MemoryCurrency& known : database_.Tables().currencies) {
+      if (known.id == currency) known.last_day = last_day;
+    }
+  }
   [[nodiscard]] bool IsSound() override { return true; }
 
   [[nodiscard]] headless::MemoryDatabase& Database() { return database_; }

@@ -10,7 +10,6 @@
 
 #include <gmock/gmock.h>
 
-#include "ferrowind/almanac/book_text.h"
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/database_review.h"
@@ -18,7 +17,7 @@
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/values/conversion.h"
 
-#include "database/seed/delivered_books.h"
+#include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
 #include "host/session/procedure_session.h"
 #include "tests/contract/database/procedure_caller.h"
@@ -49,8 +48,8 @@ const Date kToday(2026, 11, 22);
 using CurrencyDay = std::pair<std::string, Date>;
 
 almanac::RuleBook DeliveredBook(const std::string& currency) {
-  for (const embedded::DeliveredText& book : embedded::DeliveredBooks()) {
-    if (book.name == currency) return almanac::ReadBook(book.text);
+  for (const almanac::NamedBook& delivered : host::DeliveredBooks()) {
+    if (delivered.name == currency) return delivered.book;
   }
   throw std::logic_error("No book of " + currency + " is delivered");
 }

@@ -34,6 +34,11 @@ void PostgresDatabase::SetFirstDay(int first_day) {
   Execute("UPDATE ferrowind.CldSetting SET FirstDay = " + std::to_string(first_day));
 }
 
+void PostgresDatabase::SetLastDay(std::int32_t currency, platform::Date last_day) {
+  Execute("UPDATE ferrowind.DicCcy SET LastDay = '" + last_day.ToIso() +
+          "' WHERE CcyID = " + std::to_string(currency));
+}
+
 bool PostgresDatabase::IsSound() {
   const auto problems = postgres::CheckDatabase(postgres_server::SuperuserUri(name_));
   for (const auto& problem : problems) ADD_FAILURE() << problem;

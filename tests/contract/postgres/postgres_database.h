@@ -22,6 +22,7 @@ class PostgresDatabase : public DatabaseWithHistoryUnderTest {
   [[nodiscard]] std::string ConnectionString() override;
   [[nodiscard]] std::string ConnectionStringFor(const std::string& procedure) override;
   void SetFirstDay(int first_day) override;
+  void SetLastDay(std::int32_t currency, platform::Date last_day) override;
   [[nodiscard]] bool IsSound() override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(
       const content::HistoryFilter& filter) override;

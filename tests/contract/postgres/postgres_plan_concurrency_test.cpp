@@ -53,6 +53,14 @@ class PostgresPlanConcurrency : public ::testing::Test {
     return values;
   }
 
+  /// Returns when a call waits for a lock, or after some seconds.
+  void AwaitSomebodyWhoWaits() {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(4);
+    while (std::chrono::steady_clock::now() < end &&
+           Ask("SELECT count(*)::text FROM pg_stat_activity WHERE wait_event_type = 'Lock'") == "0") {
+    }
+  }
+
   std::string Fingerprint(int currency, int year) {
     return platform::ToText((*ProcedureCaller(database_)
                                   .Call("CldGetFingerprint", {{"ID1", currency}, {"Year1", year}})
@@ -207,14 +215,30 @@ TEST_F(PostgresPlanConcurrency, ARuleThatGoesWhileItIsAssignedIsUnknown) {
       value = caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}});
     });
   });
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(4);
-  while (std::chrono::steady_clock::now() < end &&
-         Ask("SELECT count(*)::text FROM pg_stat_activity WHERE wait_event_type = 'Lock'") == "0") {
-  }
+  AwaitSomebodyWhoWaits();
   undoing.RunScript("COMMIT");
   assigning.join();
   EXPECT_EQ(failure, "");
   EXPECT_EQ(value, 4);
+}
+
+TEST_F(PostgresPlanConcurrency, ACalendarThatGoesWhileItIsReadIsUnknownAndNotEmpty) {
+  ProcedureCaller caller(database_);
+  ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", 2026}}), 0);
+  postgres::ServerConnection undoing(postgres_server::SuperuserUri(database_.Name()));
+  // The reader is let in where the days are, when the calendar has gone.
+  undoing.RunScript("BEGIN; LOCK TABLE ferrowind.CldDay IN ACCESS EXCLUSIVE MODE; CALL ferrowind.CldUndo(1)");
+  platform::CallOutcome outcome;
+  std::string failure;
+  std::thread reading([&] {
+    failure = FailureTextOf([&] { outcome = caller.Call("CldGetMain", {{"ID1", 978}, {"Year1", 2026}}); });
+  });
+  AwaitSomebodyWhoWaits();
+  undoing.RunScript("COMMIT");
+  reading.join();
+  EXPECT_EQ(failure, "");
+  EXPECT_EQ(outcome.return_value, 5);
+  EXPECT_THAT(outcome.record_sets, IsEmpty());
 }
 
 TEST_F(PostgresPlanConcurrency, ACurrencyThatEndsGetsNoCalendarBehindItsEnd) {

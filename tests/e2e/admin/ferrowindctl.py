@@ -1,6 +1,7 @@
 """Runs the built ferrowindctl as its users do, in a folder of its own."""
 
 import json
+import datetime
 import os
 import pathlib
 import pty
@@ -23,6 +24,12 @@ DONE, NOT_DONE, RETURNED_NON_ZERO, CALL_FAILED = range(4)
 def run(*arguments, **options):
     return subprocess.run([PROGRAM, *map(str, arguments)], stdout=options.pop("stdout", subprocess.PIPE),
                           stderr=subprocess.PIPE, timeout=120, **options)
+
+
+def years_to_prepare():
+    """This year, the next, and from September on the one after it: of these there must be calendars."""
+    today = datetime.date.today()
+    return range(today.year, today.year + (3 if today.month >= 9 else 2))
 
 
 class InAFolder(unittest.TestCase):

@@ -176,6 +176,26 @@ class Apply(small_book.WithSmallBooks):
                 self.assertEqual(self.apply_on_a_terminal(answer, "EUR", year)[2], DONE)
                 self.assertIn((EURO, year), self.calendars())
 
+    def test_says_that_nothing_was_changed_when_it_is_stopped_at_the_question(self):
+        screen, terminal = pty.openpty()
+        self.addCleanup(os.close, screen)
+        process = subprocess.Popen([ferrowindctl.PROGRAM, "apply", self.url(), "EUR", "2028"], stdin=terminal,
+                                   stdout=subprocess.DEVNULL, stderr=terminal)
+        os.close(terminal)
+        shown = self.read_until(screen, "[y/N]")
+        process.send_signal(signal.SIGINT)
+        shown = self.read_until(screen, "\0", shown)
+        self.assertTrue(shown.endswith("\r\nferrowindctl: Stopped; nothing was changed\r\n"), shown)
+        self.assertEqual(process.wait(timeout=60), -signal.SIGINT)
+        self.assertEqual(self.calendars(), [])
+
+    def test_says_that_all_is_done_when_its_output_cannot_be_written(self):
+        with open("/dev/full", "wb") as full:
+            result = ferrowindctl.run("apply", self.url(), "EUR", 2028, "--yes", stdout=full)
+        self.assertEqual(result.returncode, NOT_DONE)
+        self.assertEqual(result.stderr.decode(), "ferrowindctl: cannot write the output; all the rest is done\n")
+        self.assertEqual(self.calendars(), [(EURO, 2028)])
+
     def test_changes_nothing_when_the_database_would_refuse_one_calendar(self):
         self.apply("USD", 2021)
         self.call("CldIUCelebrate", f"ID2={self.rule('Independence Day')}", "Del=2")

@@ -1,6 +1,5 @@
 """ferrowindctl check: every kind of fault is listed."""
 
-import datetime
 import unittest
 
 import ferrowindctl
@@ -25,19 +24,24 @@ class Check(ferrowindctl.WithADeliveredDatabase):
         self.assertEqual(output.splitlines()[-1], "The database is in order.")
 
     def test_warns_of_calendars_that_are_missing_or_have_no_weekends_without_finding_a_fault(self):
-        year = datetime.date.today().year
+        year, *later = ferrowindctl.years_to_prepare()
         self.assert_run(DONE, "init", self.url("past.db"), "--year", "2015")
         self.assert_run(DONE, "call", self.url("past.db"), "CldIUMain", "ID1=978", f"Year1={year}")
         lines = self.assert_run(DONE, "check", self.url("past.db"))[0].splitlines()
-        self.assertEqual(len(lines), 4)
+        self.assertEqual(len(lines), 3 + len(later))
         self.assertRegex(lines[0], rf"\AWarning: There is no calendar of {year} for AUD, BRL, .*, ZAR\.\Z")
         self.assertNotIn("EUR", lines[0])
         self.assertEqual(lines[1], f"Warning: No weekend is closed in the calendar of {year} for EUR.")
-        self.assertRegex(lines[2], rf"\AWarning: There is no calendar of {year + 1} for .*, EUR, .*\.\Z")
+        for line, missing in zip(lines[2:-1], later):
+            self.assertRegex(line, rf"\AWarning: There is no calendar of {missing} for .*, EUR, .*\.\Z")
 
-    def test_of_a_new_database_warns_of_nothing(self):
+    def test_of_a_new_database_warns_of_years_that_must_be_prepared_by_now_alone(self):
         self.assert_run(DONE, "init", self.url("new.db"))
-        self.assertEqual(self.assert_run(DONE, "check", self.url("new.db"))[0], "The database is in order.\n")
+        *warnings, verdict = self.assert_run(DONE, "check", self.url("new.db"))[0].splitlines()
+        self.assertEqual(verdict, "The database is in order.")
+        to_prepare = ferrowindctl.years_to_prepare()[2:]
+        self.assertEqual([line.split(" for ")[0] for line in warnings],
+                         [f"Warning: There is no calendar of {year}" for year in to_prepare])
 
     def test_changes_nothing(self):
         before = self.path().read_bytes()

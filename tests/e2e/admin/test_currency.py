@@ -147,6 +147,9 @@ class CurrencyTests:
         self.create_calendar(208, 2030)
         self.assertIn("DKK (208) has a calendar of a year after 2029", self.refuse("retire", "DKK", "2029-12-31"))
         self.assertIn('"2029-02-30" is no date', self.refuse("retire", "DKK", "2029-02-30"))
+        for day in ("1899-12-31", "2200-01-01", "2999-12-31"):
+            self.assertIn(f"{day} is no last day of a currency: it is in a year from 1900 to 2199",
+                          self.refuse("retire", "DKK", day))
 
     def test_a_change_is_in_the_history_and_can_be_undone(self):
         before = self.currencies()

@@ -1,7 +1,7 @@
 """ferrowindctl status: what a database is and holds, in three forms, on both engines."""
 
 import csv
-import datetime
+import collections
 import io
 import json
 import unittest
@@ -68,24 +68,26 @@ class Status(ferrowindctl.WithADeliveredDatabase):
         return document["results"][2]["rows"], [line for line in lines if line.startswith("Warning: ")]
 
     def test_warns_of_years_that_are_not_prepared(self):
-        years = [datetime.date.today().year + ahead for ahead in (0, 1)]
+        year, *later = ferrowindctl.years_to_prepare()
         self.assert_run(DONE, "init", self.url("past.db"), "--year", "2015")
         for currency in ("EUR", "USD"):
             number = {"EUR": 978, "USD": 840}[currency]
-            self.assert_run(DONE, "call", self.url("past.db"), "CldApplyPlan", f"ID1={number}", f"Year1={years[0]}",
+            self.assert_run(DONE, "call", self.url("past.db"), "CldApplyPlan", f"ID1={number}", f"Year1={year}",
                             "Expected=", 'Days=[{"Name1":"Sunday","TID1":2,"Dates":[]}]')
         rows, lines = self.warnings(self.url("past.db"))
-        self.assertEqual(sum(row[0] == years[1] and row[2] == "no calendar" for row in rows), 26)
-        self.assertEqual(sum(row[0] == years[0] and row[2] == "no calendar" for row in rows), 24)
+        self.assertEqual(collections.Counter(row[0] for row in rows if row[2] == "no calendar"),
+                         {year: 24, **{missing: 26 for missing in later}})
         self.assertEqual([row for row in rows if row[2] != "no calendar"],
-                         [[years[0], "EUR", "no weekends"], [years[0], "USD", "no weekends"]])
-        self.assertEqual(len(lines), 3)
-        self.assertRegex(lines[0], rf"There is no calendar of {years[0]} for AUD, BRL, .*, ZAR\.\Z")
-        self.assertEqual(lines[1], f"Warning: No weekend is closed in the calendar of {years[0]} for EUR, USD.")
-        self.assertRegex(lines[2], rf"There is no calendar of {years[1]} for AUD, BRL, .*, ZAR\.\Z")
+                         [[year, "EUR", "no weekends"], [year, "USD", "no weekends"]])
+        self.assertEqual(len(lines), 2 + len(later))
+        self.assertRegex(lines[0], rf"There is no calendar of {year} for AUD, BRL, .*, ZAR\.\Z")
+        self.assertEqual(lines[1], f"Warning: No weekend is closed in the calendar of {year} for EUR, USD.")
+        for line, missing in zip(lines[2:], later):
+            self.assertRegex(line, rf"There is no calendar of {missing} for AUD, BRL, .*, ZAR\.\Z")
 
-    def test_warns_of_nothing_in_a_new_database_nor_in_an_empty_one(self):
+    def test_warns_of_nothing_in_an_empty_database_and_in_a_new_one_that_is_prepared(self):
         self.assert_run(DONE, "init", self.url("new.db"))
+        self.assert_run(DONE, "apply", self.url("new.db"), "ALL", ferrowindctl.years_to_prepare()[-1], "--yes")
         self.assert_run(DONE, "init", self.url("empty.db"), "--empty")
         for name in ("new.db", "empty.db"):
             self.assertEqual(self.warnings(self.url(name)), ([], []))

@@ -58,7 +58,9 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
     def test_is_what_commands_ask_for_that_an_old_database_has_no_procedures_for(self):
         url = version_1.make_file(self)
         for command in (("plan", url, "EUR", 2028), ("apply", url, "ALL", 2028, "--yes"), ("why", url, "EUR", "2028-04-14"),
-                        ("review", url), ("undo", url, 1), ("as-of", url, "EUR", 2026, "2026-01-01")):
+                        ("review", url), ("undo", url, 1), ("as-of", url, "EUR", 2026, "2026-01-01"), ("book", "show", url, "EUR"), ("book", "check", url, "ALL"),
+                        ("book", "set", url, "EUR", "--delivered"), ("currency", "list", url),
+                        ("currency", "retire", url, "EUR", "2030-12-31")):
             with self.subTest(command[0]):
                 _, errors = self.assert_run(NOT_DONE, *command)
                 self.assertIn("a.db has the schema version 1; this program's is 4. "

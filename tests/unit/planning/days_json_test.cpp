@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 
 #include "ferrowind/almanac/planner.h"
-#include "ferrowind/planning/json_text.h"
 
 #include "tests/unit/almanac/small_calendars.h"
 
@@ -25,10 +24,6 @@ std::string JsonOf(const std::string& book_lines, const std::vector<MarkedDay>& 
   const almanac::RuleDirectory directory(almanac::SmallRules());
   const almanac::RuleMatches matches(book, directory);
   return DaysJson(almanac::Comparison(plan, content, matches), choice);
-}
-
-TEST(JsonText, EscapesWhatCannotStandInJson) {
-  EXPECT_EQ(JsonText("Saint \"X\" \\ \n\x01 é"), "\"Saint \\\"X\\\" \\\\ \\u000a\\u0001 é\"");
 }
 
 TEST(DaysJson, GivesRulesTheirDatesAndCommentsAndMakesDaysOrdinary) {
