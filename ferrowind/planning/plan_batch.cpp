@@ -6,10 +6,10 @@
 #include <optional>
 #include <utility>
 
-#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_words.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/values/failure.h"
@@ -91,7 +91,7 @@ std::vector<PlanOutcome> PlanBatch::Apply() {
   for (std::size_t i = 0; i < calendars_.size(); ++i) {
     if (!calendars_[i].HasWork()) continue;
     if (has_failed) {
-      outcomes.push_back({i, Kind::kNotTried, calendars_[i].Name() + " was not tried."});
+      outcomes.push_back({i, Kind::kNotTried, InWords("%1 was not tried.", {calendars_[i].Name()})});
       continue;
     }
     outcomes.push_back(ApplyOne(i));
@@ -109,15 +109,16 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   } catch (const Refusal& refusal) {
     return {position, Kind::kRefused,
             refusal.ReturnValue() == return_value::kContentIsAnother
-                ? calendar.Name() +
-                      " was changed meanwhile; nothing was changed in it, and its plan is made anew."
+                ? InWords("%1 was changed meanwhile; nothing was changed in it, and its plan is made anew.",
+                          {calendar.Name()})
                 : refusal.Description() + "."};
   } catch (const platform::Failure& failure) {
     return {position, Kind::kFailed, failure.Description() + "."};
   }
   if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, std::move(*entry)});
   return {position, Kind::kDone,
-          calendar.Name() + (existed ? " is as planned now" : " is made") + ButFor(calendar.Totals()) + "."};
+          InWords(existed ? "%1 is as planned now%2." : "%1 is made%2.",
+                  {calendar.Name(), ButFor(calendar.Totals())})};
 }
 
 std::vector<PlanOutcome> PlanBatch::Undo() {
@@ -143,7 +144,7 @@ PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
   } catch (const platform::Failure& failure) {
     return {applied.calendar, Kind::kFailed, name + ": " + failure.Description() + "."};
   }
-  return {applied.calendar, Kind::kDone, name + " is as it was before."};
+  return {applied.calendar, Kind::kDone, InWords("%1 is as it was before.", {name})};
 }
 
 std::string SummaryOf(const PlanBatch& batch) {
@@ -154,24 +155,30 @@ std::string SummaryOf(const PlanBatch& batch) {
   const std::size_t planned = count([](const auto& calendar) { return calendar.Preparation() != nullptr; });
   const DayTotals totals = batch.Totals();
   std::string summary;
+  const auto add = [&](const std::string& sentence) { summary += (summary.empty() ? "" : " ") + sentence; };
   if (calendars.size() == 1 && planned == 1) {
     const bool is_as_planned = totals.taken == 0 && calendars.front().Preparation()->CalendarExists();
-    summary = calendars.front().Name() + (is_as_planned ? " is " : ": ") + CountOf(calendars.front()) + ".";
+    add(InWords(is_as_planned ? "%1 is %2." : "%1: %2.",
+                {calendars.front().Name(), CountOf(calendars.front())}));
   } else if (const std::size_t changing = batch.CalendarsToChange(); changing != 0) {
-    summary = Counted(changing, "calendar", "calendars") + ": " + CountedChanges(totals) + ".";
+    add(InWords(changing, "%n calendar: %1.", "%n calendars: %1.", {CountedChanges(totals)}));
   } else if (planned != 0) {
-    summary = Counted(planned, "calendar is", "calendars are") + " as planned" + ButFor(totals) + ".";
+    add(InWords(planned, "%n calendar is as planned%1.", "%n calendars are as planned%1.", {ButFor(totals)}));
   }
-  const auto add = [&](std::size_t number, const char* one, const char* many) {
-    if (number != 0) summary += (summary.empty() ? "" : " ") + Counted(number, one, many);
-  };
-  add(calendars.size() - planned, "calendar cannot be planned.", "calendars cannot be planned.");
-  add(count([](const auto& calendar) {
-        return calendar.Preparation() != nullptr && !calendar.Preparation()->Plan().Unknown().empty();
-      }),
-      "plan lacks dates that are not known yet.", "plans lack dates that are not known yet.");
-  add(totals.lost_reasons, "working day by exception that has a reason will be closed.",
-      "working days by exception that have a reason will be closed.");
+  if (const std::size_t not_planned = calendars.size() - planned; not_planned != 0) {
+    add(InWords(not_planned, "%n calendar cannot be planned.", "%n calendars cannot be planned."));
+  }
+  const std::size_t incomplete = count([](const auto& calendar) {
+    return calendar.Preparation() != nullptr && !calendar.Preparation()->Plan().Unknown().empty();
+  });
+  if (incomplete != 0) {
+    add(InWords(incomplete, "%n plan lacks dates that are not known yet.",
+                "%n plans lack dates that are not known yet."));
+  }
+  if (totals.lost_reasons != 0) {
+    add(InWords(totals.lost_reasons, "%n working day by exception that has a reason will be closed.",
+                "%n working days by exception that have a reason will be closed."));
+  }
   return summary;
 }
 

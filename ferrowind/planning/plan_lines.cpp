@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_words.h"
 
 namespace ferrowind::planning {
@@ -128,8 +129,10 @@ std::vector<PlanLine> LinesOf(const std::vector<PlannedCalendar>& calendars, con
 std::string CountOf(const PlannedCalendar& calendar) {
   const DayTotals totals = calendar.Totals();
   const bool is_new = !calendar.Preparation()->CalendarExists();
-  if (totals.taken == 0) return is_new ? "no calendar is made" : "as planned" + ButFor(totals);
-  return (is_new ? "a new calendar, " : "") + CountedChanges(totals);
+  if (totals.taken == 0) {
+    return is_new ? InWords("no calendar is made") : InWords("as planned%1", {ButFor(totals)});
+  }
+  return is_new ? InWords("a new calendar, %1", {CountedChanges(totals)}) : CountedChanges(totals);
 }
 
 }  // namespace ferrowind::planning

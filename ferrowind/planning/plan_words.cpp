@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/in_words.h"
 
 namespace ferrowind::planning {
 
@@ -14,13 +14,13 @@ bool IsNewWeekend(const almanac::YearPlan& plan, const ComparedDay& day) {
 
 std::string WhyOf(const ComparedDay& day, const almanac::ComparisonLine& line) {
   const bool has_reason = day.action == almanac::PlanAction::kException && !day.now->comment.empty();
-  return has_reason ? line.why + "; now open by exception: " + day.now->comment : line.why;
+  return has_reason ? InWords("%1; now open by exception: %2", {line.why, day.now->comment}) : line.why;
 }
 
 std::vector<std::string> Incomplete(const YearPreparation& preparation) {
   std::vector<std::string> sentences = preparation.Plan().Incomplete();
   for (std::string& sentence : sentences) {
-    sentence = preparation.Name() + " cannot be planned in full. " + sentence + ".";
+    sentence = InWords("%1 cannot be planned in full. %2.", {preparation.Name(), sentence});
   }
   return sentences;
 }
@@ -33,7 +33,7 @@ std::size_t KeptExceptions(const almanac::Comparison& comparison, const almanac:
 }
 
 std::string CountedExceptions(std::size_t count) {
-  return Counted(count, "working day by exception", "working days by exception");
+  return InWords(count, "%n working day by exception", "%n working days by exception");
 }
 
 std::string ButForExceptions(std::size_t kept) {
@@ -46,30 +46,36 @@ std::string StayingDays(const DayTotals& totals) {
   std::vector<std::string> parts;
   if (totals.kept_exceptions != 0) parts.push_back(CountedExceptions(totals.kept_exceptions));
   if (totals.left_out != 0) {
-    parts.push_back(Counted(totals.left_out, "day that is left out", "days that are left out"));
+    parts.push_back(InWords(totals.left_out, "%n day that is left out", "%n days that are left out"));
   }
   if (totals.blocked != 0) {
-    parts.push_back(
-        Counted(totals.blocked, "day whose rule stands in the way", "days whose rules stand in the way"));
+    parts.push_back(InWords(totals.blocked, "%n day whose rule stands in the way",
+                            "%n days whose rules stand in the way"));
   }
-  std::string joined;
-  for (std::size_t i = 0; i < parts.size(); ++i) {
-    if (i != 0) joined += i + 1 == parts.size() ? " and " : ", ";
-    joined += parts[i];
+  switch (parts.size()) {
+    case 0:
+      return "";
+    case 1:
+      return parts[0];
+    case 2:
+      return InWords("%1 and %2", parts);
+    default:
+      return InWords("%1, %2 and %3", parts);
   }
-  return joined;
 }
 
 std::string ButFor(const DayTotals& totals) {
   const std::string staying = StayingDays(totals);
-  return staying.empty() ? staying : " but for " + staying;
+  return staying.empty() ? staying : InWords(" but for %1", {staying});
 }
 
 std::string CountedChanges(const DayTotals& totals) {
-  std::string changes = Counted(totals.taken, "day", "days");
-  if (totals.new_weekends != 0) changes += ", " + std::to_string(totals.new_weekends) + " of them weekends";
+  std::string changes = InWords(totals.taken, "%n day", "%n days");
+  if (totals.new_weekends != 0) {
+    changes = InWords("%1, %2 of them weekends", {changes, std::to_string(totals.new_weekends)});
+  }
   const std::string staying = StayingDays(totals);
-  return staying.empty() ? changes : changes + ", but not " + staying;
+  return staying.empty() ? changes : InWords("%1, but not %2", {changes, staying});
 }
 
 }  // namespace ferrowind::planning

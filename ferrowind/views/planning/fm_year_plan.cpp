@@ -4,13 +4,12 @@
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/plan_words.h"
 
 namespace ferrowind {
 namespace {
 
-using planning::Counted;
 using planning::PlanOutcome;
 using platform::ControlKind;
 using platform::ControlOf;
@@ -93,7 +92,7 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
     : platform_(context.platform),
       windows_(context.windows),
       batch_(context.tables, calendars),
-      form_(platform_.toolkit.CreateForm(Design(calendars.size()))),
+      form_(platform_.toolkit.CreateForm(Said(platform_, Design(calendars.size())))),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbPlan")),
       summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
       lines_(ControlOf<platform::Table>(*form_, "tblPlan")),
@@ -102,23 +101,31 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       apply_(ControlOf<platform::Button>(*form_, "cmdApply")),
       table_(platform_, lines_, batch_, [this] { RefreshSummary(); }) {
-  tools_.AddTool({kRefresh, "Refresh", "Plan", "Reads the calendars and plans them anew"});
-  tools_.AddTool({kAllDays, "All days", "Plan", "Shows the days that stay as they are and all weekends, too",
-                  platform::ToolKind::kTwoStateButton});
-  tools_.AddTool({.id = kUndo, .caption = "Undo", .category = "Plan", .shortcut = "Ctrl+Z"});
-  tools_.AddTool({.id = kClose, .caption = "Close", .category = "Plan", .shortcut = "Ctrl+W"});
-  tools_.SetBar("Plan", {kRefresh, kAllDays});
-  outcome_.SetColumns({{.key = "Outcome", .caption = "What was done", .stretches = true}});
+  AddTools();
+  outcome_.SetColumns({{.key = "Outcome", .caption = Said(platform_, "What was done"), .stretches = true}});
   outcome_.SetVisible(false);
   if (calendars.size() > 1) FillCalendarList();
-  form_->SetCaption(calendars.size() == 1 ? "Plan of " + batch_.Calendars().front().Name()
-                                          : "Plans of " + Counted(calendars.size(), "calendar", "calendars"));
+  form_->SetCaption(calendars.size() == 1
+                        ? Said(platform_, "Plan of %1", {batch_.Calendars().front().Name()})
+                        : SaidOfNumber(platform_, static_cast<std::int64_t>(calendars.size()),
+                                       "Plan of %n calendar", "Plans of %n calendars"));
   ShowLines();
+}
+
+void fmYearPlan::AddTools() {
+  const platform::ToolDesign tools[] = {
+      {kRefresh, "Refresh", "Plan", "Reads the calendars and plans them anew"},
+      {kAllDays, "All days", "Plan", "Shows the days that stay as they are and all weekends, too",
+       platform::ToolKind::kTwoStateButton},
+      {.id = kUndo, .caption = "Undo", .category = "Plan", .shortcut = "Ctrl+Z"},
+      {.id = kClose, .caption = "Close", .category = "Plan", .shortcut = "Ctrl+W"}};
+  for (const platform::ToolDesign& tool : tools) tools_.AddTool(Said(platform_, tool));
+  tools_.SetBar(Said(platform_, "Plan"), {kRefresh, kAllDays});
 }
 
 void fmYearPlan::FillCalendarList() {
   filter_ = &ControlOf<platform::DropDownList>(*form_, "cmbCalendar");
-  filter_->AddItem("All", kAllCalendars);
+  filter_->AddItem(Said(platform_, "All"), kAllCalendars);
   std::int32_t position = 0;
   for (const planning::PlannedCalendar& calendar : batch_.Calendars()) {
     filter_->AddItem(calendar.Name(), position++);
@@ -182,14 +189,15 @@ void fmYearPlan::RefreshSummary() {
   std::string summary = planning::SummaryOf(batch_);
   if (const auto shown = table_.Filter().calendar) {
     // What is applied is all of it.
-    summary += " Only " + batch_.Calendars()[*shown].Name() + " is on show.";
+    summary += " " + Said(platform_, "Only %1 is on show.", {batch_.Calendars()[*shown].Name()});
   }
   summary_.SetText(summary);
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);
   undo_.SetVisible(batch_.CanUndo());
   tools_.SetToolEnabled(kUndo, batch_.CanUndo());
-  lines_.SetEmptyText(batch_.Totals().taken == 0 ? "Every day is as planned."
-                                                 : "Nothing but weekends is added; \"All days\" shows them.");
+  lines_.SetEmptyText(Said(platform_, batch_.Totals().taken == 0
+                                          ? "Every day is as planned."
+                                          : "Nothing but weekends is added; \"All days\" shows them."));
   ShowCurrentLine();
 }
 

@@ -34,6 +34,7 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
 
  private:
   void Connect();
+  void AddTools();
   void FillCalendarList();
   void RunTool(const std::string& id);
   void ShowLines();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/plan_words.h"
 #include "ferrowind/views/planning/day_text.h"
 
@@ -43,6 +44,7 @@ CellMark MarkOf(const PlanLine& line) {
   return CellMark::kNone;
 }
 
+/// In English.
 std::string ActionOf(const PlanLine& line) {
   switch (line.kind) {
     case PlanLine::Kind::kNotPlanned:
@@ -69,10 +71,17 @@ CellTone ToneOf(const PlanLine& line) {
 PlanTable::PlanTable(const platform::Platform& platform, platform::Table& table, planning::PlanBatch& batch,
                      std::function<void()> on_decision)
     : platform_(platform), table_(table), batch_(batch), on_decision_(std::move(on_decision)) {
-  std::vector<platform::TableColumn> columns = {
-      {"Date", "Date"},        {"Weekday", "Weekday"}, {"Now", "Now"},
-      {"Should", "Should be"}, {"Action", "Action"},   {.key = "Why", .caption = "Why", .stretches = true}};
-  if (batch.Calendars().size() > 1) columns.insert(columns.begin(), {"Calendar", "Calendar"});
+  const auto column = [&](const char* key, const char* caption) {
+    return platform::TableColumn{.key = key, .caption = Said(platform_, caption)};
+  };
+  std::vector<platform::TableColumn> columns;
+  if (batch.Calendars().size() > 1) columns.push_back(column("Calendar", "Calendar"));
+  for (const auto& [key, caption] :
+       {std::pair("Date", "Date"), std::pair("Weekday", "Weekday"), std::pair("Now", "Now"),
+        std::pair("Should", "Should be"), std::pair("Action", "Action"), std::pair("Why", "Why")}) {
+    columns.push_back(column(key, caption));
+  }
+  columns.back().stretches = true;
   table_.SetColumns(columns);
   decided_ = table_.OnCheckChange(
       [this](const std::string&, bool) { RunHandler(platform_, [this] { TakeDecisions(); }); });
@@ -101,8 +110,8 @@ platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
   const bool is_day = line.kind == PlanLine::Kind::kDay;
   const CellTone tone = ToneOf(line);
   const auto cell = [&](std::string text) { return TableCell{.text = std::move(text), .tone = tone}; };
-  const auto name_of = [](const std::optional<std::string>& rule) {
-    return rule.value_or(planning::kOrdinaryDay);
+  const auto name_of = [&](const std::optional<std::string>& rule) {
+    return rule ? *rule : Said(platform_, planning::kOrdinaryDay);
   };
   platform::TableRow row{.key = line.key, .checked = line.is_taken};
   if (batch_.Calendars().size() > 1) row.cells.push_back(cell(batch_.Calendars()[line.calendar].Name()));
@@ -112,7 +121,7 @@ platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
   row.cells.push_back(cell(line.date ? platform_.locale.WeekdayName(line.date->Weekday()) : ""));
   row.cells.push_back(cell(is_day ? name_of(line.now) : ""));
   row.cells.push_back(cell(is_day ? name_of(line.should) : ""));
-  TableCell action = cell(ActionOf(line));
+  TableCell action = cell(Said(platform_, ActionOf(line)));
   action.mark = MarkOf(line);
   row.cells.push_back(std::move(action));
   row.cells.push_back(cell(line.why));
@@ -126,7 +135,7 @@ std::string PlanTable::CurrentSentence() const {
   if (line == lines_.end()) return "";
   const std::string& calendar = batch_.Calendars()[line->calendar].Name();
   const std::string subject = line->date ? DayText(platform_.locale, *line->date) : calendar;
-  return subject + ": " + line->why + ".";
+  return Said(platform_, "%1: %2.", {subject, line->why});
 }
 
 void PlanTable::TakeDecisions() {

@@ -1,6 +1,7 @@
 #include "ferrowind/views/planning/plan_year_tool.h"
 
 #include "ferrowind/data/confirm.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/book_store.h"
 
 namespace ferrowind {
@@ -29,9 +30,10 @@ bool PlanYearTool::RunTool(const std::string& id) {
 void PlanYearTool::CalendarCreated(const platform::CalendarOnShow& calendar) {
   // Without a book nothing tells what the year should be.
   if (!planning::LoadBook(calendar.currency_id, calendar.currency, context_.tables)) return;
-  const std::string question = "Nothing is closed in " + calendar.currency + " " +
-                               std::to_string(calendar.year) + " yet. Prepare it now?";
-  if (Confirm(context_.platform.toolkit, "New calendar", question, 1) == 0) Open(calendar);
+  const platform::Platform& platform = context_.platform;
+  const std::string question = Said(platform, "Nothing is closed in %1 %2 yet. Prepare it now?",
+                                    {calendar.currency, std::to_string(calendar.year)});
+  if (Confirm(platform.toolkit, Said(platform, "New calendar"), question, 1) == 0) Open(calendar);
 }
 
 void PlanYearTool::Open(const platform::CalendarOnShow& calendar) {

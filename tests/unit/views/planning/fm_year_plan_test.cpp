@@ -70,7 +70,9 @@ class PlanWorld : public planning::MemoryPlanningWorld {
   }
 
   almanac::DateTables tables;
-  PlanningWindows windows{platform, tables};
+  /// Brings words when the test gives some.
+  platform::Platform spoken = platform;
+  PlanningWindows windows{spoken, tables};
   std::vector<PlanningWindows::Changed> told_changes;
 
  private:
@@ -261,6 +263,50 @@ TEST(YearPlanWindow, OffersToUndoWhatItHasApplied) {
     EXPECT_FALSE(world.Button("cmdUndo").Visible());
     EXPECT_EQ(world.Summary(), "EUR 2028: 2 days.");
     EXPECT_THAT(world.told_changes, SizeIs(2));
+  });
+}
+
+/// A language in which each text is the English one in brackets.
+class BracketedWords : public platform::Words {
+ public:
+  [[nodiscard]] std::optional<std::string> Translate(const std::string& text,
+                                                     std::optional<std::int64_t> number) const override {
+    std::string translated = "[" + text + "]";
+    if (const auto place = translated.find("%n"); number && place != std::string::npos) {
+      translated.replace(place, 2, std::to_string(*number));
+    }
+    return translated;
+  }
+};
+
+TEST(YearPlanWindow, SaysAllInTheOperatorsLanguage) {
+  RunInFreshThread([] {
+    const BracketedWords words;
+    PlanWorld world;
+    world.spoken.words = &words;
+    AttachPlatform(world.spoken);
+    PlanWorld::Except(kEuro, "2028-12-25", "Stock-taking");
+    world.Open({{kEuro, 2028}, {kDollar, 2028}});
+    Texts texts = {world.Form().Caption(),
+                   world.Summary(),
+                   world.Lines().EmptyText(),
+                   world.Outcome().Columns().front().caption,
+                   world.Form().Part<headless::HeadlessLabel>("lblLine").Text(),
+                   world.Form().Part<headless::HeadlessLabel>("lblCalendar").Text(),
+                   world.Form().Part<headless::HeadlessDropDownList>("cmbCalendar").ItemText(0),
+                   world.Lines().Cell("978/2028", "Why").text,
+                   world.Lines().Cell(kGoodFriday, "Now").text,
+                   world.Lines().Cell(kGoodFriday, "Action").text,
+                   world.Lines().Cell(kChristmas, "Why").text};
+    for (const char* button : {"cmdUndo", "cmdApply", "cmdClose"})
+      texts.push_back(world.Button(button).Caption());
+    for (const auto& column : world.Lines().Columns()) texts.push_back(column.caption);
+    for (const char* tool : {"ID_Refresh", "ID_AllDays"}) {
+      texts.push_back(world.Form().Part<headless::HeadlessToolBar>("tbPlan").ToolDescription(tool));
+    }
+    world.Button("cmdApply").Click();
+    texts.push_back(world.OutcomeTexts().front());
+    for (const std::string& text : texts) EXPECT_EQ(text.front(), '[') << text;
   });
 }
 
