@@ -13,6 +13,7 @@
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/database_review.h"
+#include "ferrowind/planning/plan_batch.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -319,6 +320,33 @@ TEST_P(PlanningContract, RepairsACalendarFullOfExceptionsOrKeepsThemAllAndUndoBr
   EXPECT_THAT(database.Review().findings, IsEmpty());
   database.Undo(database.NewestEntries(1).front());
   EXPECT_EQ(database.Calendars(), full);
+}
+
+TEST_P(PlanningContract, AppliesPlansOfManyCalendarsWithoutTheDaysLeftOutAndUndoesThemTogether) {
+  using Kind = planning::PlanOutcome::Kind;
+  constexpr int kGoodFriday = 105;
+  PlannedDatabase database(GetParam());
+  database.Run([] {
+    const auto currencies = planning::CurrencyList::Load();
+    const planning::CalendarKey euro(currencies.Named("EUR").id, kYear);
+    const planning::CalendarKey pound(currencies.Named("GBP").id, kYear);
+    planning::PlanBatch batch(host::DeliveredDateTables(), {euro, pound});
+    planning::PlanBatch slower(host::DeliveredDateTables(), {euro, pound});
+    batch.At(0).Take(kGoodFriday, false);
+    const auto applied = batch.Apply();
+    ASSERT_THAT(applied, SizeIs(2));
+    EXPECT_EQ(applied[0].sentence, "EUR 2028 is made but for 1 day that is left out.");
+    EXPECT_EQ(applied[1].sentence, "GBP 2028 is made.");
+    const auto days = planning::LoadCalendar(currencies.Named("EUR"), kYear).content.days;
+    EXPECT_TRUE(std::none_of(days.begin(), days.end(),
+                             [](const auto& day) { return day.day_of_year == kGoodFriday; }));
+    for (const auto& outcome : slower.Apply()) EXPECT_EQ(outcome.kind, Kind::kRefused) << outcome.sentence;
+    EXPECT_EQ(slower.Totals().taken, 1U) << "what the other one has left out";
+
+    ASSERT_TRUE(batch.CanUndo());
+    for (const auto& outcome : batch.Undo()) EXPECT_EQ(outcome.kind, Kind::kDone) << outcome.sentence;
+    EXPECT_THAT(planning::LoadRules().calendars, IsEmpty());
+  });
 }
 
 }  // namespace
