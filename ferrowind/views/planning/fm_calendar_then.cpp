@@ -20,6 +20,8 @@ using planning::PastDay;
 using platform::ControlKind;
 using platform::ControlOf;
 
+constexpr const char* kClose = "ID_CloseThen";
+
 platform::FormDesign Design() {
   return {.name = "fmCalendarThen",
           .caption = "Calendar then",
@@ -29,6 +31,7 @@ platform::FormDesign Design() {
           .client_height = 8400,
           .closes_by_escape = true,
           .controls = {
+              {ControlKind::kToolBar, "tbThen"},
               {ControlKind::kLabel, "lblThen"},
               {.kind = ControlKind::kTable, .name = "tblDays", .selects_many = true, .sorts = true},
               {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
@@ -72,6 +75,8 @@ std::string fmCalendarThen::NameFor(std::int32_t entry) { return "fmCalendarThen
 
 fmCalendarThen::fmCalendarThen(const PlanningContext& context, std::int32_t entry)
     : platform_(context.platform), form_(platform_.toolkit.CreateForm(Design())) {
+  ControlOf<platform::ToolBar>(*form_, "tbThen")
+      .AddTool({.id = kClose, .caption = "Close", .category = "History", .shortcut = "Ctrl+W"});
   Fill(entry);
 }
 
@@ -86,8 +91,8 @@ void fmCalendarThen::Fill(std::int32_t entry) {
   const std::string calendar = words.Calendar(then);
   form_->SetCaption(calendar + " as of " + planning::LocalMoment(then.moment));
   ControlOf<platform::Label>(*form_, "lblThen")
-      .SetText(calendar + " as it was after: " + words.Tell(then).Sentence() + " \u2014 " + then.user +
-               ", " + planning::LocalMoment(then.moment));
+      .SetText(calendar + " as it was after: " + words.Tell(then).Sentence() + " \u2014 " + then.user + ", " +
+               planning::LocalMoment(then.moment));
   auto& days = ControlOf<platform::Table>(*form_, "tblDays");
   days.SetColumns({{.key = "Date", .caption = "Date"},
                    {.key = "Day", .caption = "Day", .stretches = true},
@@ -108,17 +113,26 @@ void fmCalendarThen::Connect() {
   subscriptions_.push_back(form_->OnLoad(handler(&fmCalendarThen::Form_Load)));
   const auto query_unload = handler(&fmCalendarThen::Form_QueryUnload);
   subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  const auto close = handler(&fmCalendarThen::CloseByButton);
+  subscriptions_.push_back(
+      ControlOf<platform::ToolBar>(*form_, "tbThen").OnToolClick([close](const std::string&) { close(); }));
   subscriptions_.push_back(
       ControlOf<platform::Button>(*form_, "cmdClose").OnClick(handler(&fmCalendarThen::CloseByButton)));
 }
 
-void fmCalendarThen::ShowInFront() { form_->Show(); }
+void fmCalendarThen::ShowInFront() {
+  form_->Show();
+  form_->Raise();
+}
 
 bool fmCalendarThen::Close() { return form_->Unload(); }
 
 void fmCalendarThen::CloseByButton() { (void)Close(); }
 
-void fmCalendarThen::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+void fmCalendarThen::Form_Load() {
+  placement_.Restore(platform_.toolkit, *form_);
+  ControlOf<platform::Table>(*form_, "tblDays").SetFocus();
+}
 
 void fmCalendarThen::Form_QueryUnload() {
   has_closed_ = true;

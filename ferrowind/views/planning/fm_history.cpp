@@ -19,6 +19,9 @@ using platform::ControlKind;
 using platform::ControlOf;
 
 constexpr const char* kRefresh = "ID_Refresh";
+constexpr const char* kUndo = "ID_UndoChange";
+constexpr const char* kRedo = "ID_RedoChange";
+constexpr const char* kClose = "ID_CloseHistory";
 constexpr std::int32_t kEverybody = 0;
 constexpr std::int32_t kMine = 1;
 
@@ -89,6 +92,9 @@ fmHistory::fmHistory(const PlanningContext& context)
       redo_(ControlOf<platform::Button>(*form_, "cmdRedo")),
       then_(ControlOf<platform::Button>(*form_, "cmdThen")) {
   tools_.AddTool({kRefresh, "Refresh", "History", "Reads the history anew"});
+  tools_.AddTool({.id = kUndo, .caption = "Undo", .category = "History", .shortcut = "Ctrl+Z"});
+  tools_.AddTool({.id = kRedo, .caption = "Redo", .category = "History", .shortcut = "Ctrl+Shift+Z"});
+  tools_.AddTool({.id = kClose, .caption = "Close", .category = "History", .shortcut = "Ctrl+W"});
   tools_.SetBar("History", {kRefresh});
   entries_.SetColumns({{.key = "When", .caption = "When"},
                        {.key = "Who", .caption = "Who"},
@@ -164,13 +170,19 @@ void fmHistory::Connect() {
   subscribe(windows_.OnChanged(handler(&fmHistory::ReloadAfter)));
 }
 
-void fmHistory::ShowInFront() { form_->Show(); }
+void fmHistory::ShowInFront() {
+  form_->Show();
+  form_->Raise();
+}
 
 bool fmHistory::Close() { return form_->Unload(); }
 
 void fmHistory::CloseByButton() { (void)Close(); }
 
-void fmHistory::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+void fmHistory::Form_Load() {
+  placement_.Restore(platform_.toolkit, *form_);
+  entries_.SetFocus();
+}
 
 void fmHistory::Form_QueryUnload() {
   has_closed_ = true;
@@ -195,6 +207,9 @@ void fmHistory::ShowChangesOf(const HistoryFilter& filter) {
 
 void fmHistory::RunTool(const std::string& id) {
   if (id == kRefresh) Reload();
+  if (id == kUndo) Undo();
+  if (id == kRedo) Redo();
+  if (id == kClose) (void)Close();
 }
 
 void fmHistory::ShowChosen() {
@@ -280,6 +295,8 @@ void fmHistory::ShowStep(const HistoryList::Line* line) {
   };
   show(undo_, "Undo", UndoStep::Kind::kUndo);
   show(redo_, "Redo", UndoStep::Kind::kRedo);
+  tools_.SetToolEnabled(kUndo, undo_.Enabled());
+  tools_.SetToolEnabled(kRedo, redo_.Enabled());
 }
 
 // Doing

@@ -1,9 +1,7 @@
 // The plan of a year as an operator has it: the real window over a real database with the delivered books.
 #include <QLabel>
-#include <QPixmap>
 
 #include "ferrowind/adapters/qt/look/theme.h"
-#include "ferrowind/adapters/qt/table/table_model.h"
 #include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/planning/book_store.h"
@@ -11,6 +9,7 @@
 
 #include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
+#include "tests/gui/planning/table_texts.h"
 #include "tests/gui/windows/windows_fixture.h"
 
 namespace ferrowind::gui {
@@ -52,26 +51,6 @@ class YearPlanTest : public WindowsTest {
   static qt::TableView& Outcome(QWidget& window) { return Find<qt::TableView>(window, "tblOutcome"); }
   static std::string Summary(QWidget& window) {
     return Find<QLabel>(window, "lblSummary").text().toStdString();
-  }
-  /// The texts of a row, with " | " between the cells.
-  static std::string RowText(const qt::TableView& table, int row) {
-    std::string text;
-    for (int column = 0; column < table.Model()->columnCount(); ++column) {
-      text += (column == 0 ? "" : " | ") +
-              table.Model()->index(row, column).data(Qt::DisplayRole).toString().toStdString();
-    }
-    return text;
-  }
-  static std::vector<std::string> RowTexts(const qt::TableView& table) {
-    std::vector<std::string> texts;
-    for (int row = 0; row < table.Model()->rowCount(); ++row) texts.push_back(RowText(table, row));
-    return texts;
-  }
-  /// For a look by a person.
-  static void Picture(QWidget& window, const std::string& name) {
-    QCoreApplication::processEvents();
-    const QString folder = qEnvironmentVariable("FERROWIND_PICTURES");
-    if (!folder.isEmpty()) window.grab().save(QStringLiteral("%1/%2.png").arg(folder, name.c_str()));
   }
   [[nodiscard]] std::string HolidaysOf(std::int32_t currency, int year) const {
     return desk_.ReadOne("SELECT count(*) FROM CldDay WHERE ID1 = " + std::to_string(currency) +

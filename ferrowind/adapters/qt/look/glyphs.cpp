@@ -168,6 +168,25 @@ Glyph AllDaysGlyph() {
   return glyph;
 }
 
+Glyph HistoryGlyph() {
+  Glyph glyph;
+  glyph.lines.arcMoveTo(4, 4, 16, 16, 160);
+  glyph.lines.arcTo(4, 4, 16, 16, 160, -300);
+  AddLine(glyph.lines, {{4.2, 4.5}, {4.2, 9.2}, {8.9, 9.2}});
+  AddLine(glyph.accent_lines, {{12, 7.5}, {12, 12.3}, {15.2, 14.2}});
+  return glyph;
+}
+
+Glyph UndoGlyph() {
+  Glyph glyph;
+  AddLine(glyph.accent_lines, {{8.5, 4.5}, {4, 9}, {8.5, 13.5}});
+  glyph.lines.moveTo(4.4, 9);
+  glyph.lines.lineTo(14, 9);
+  glyph.lines.cubicTo(21.8, 9, 21.8, 19.5, 14, 19.5);
+  glyph.lines.lineTo(8, 19.5);
+  return glyph;
+}
+
 Glyph CurrencyGlyph() {
   Glyph glyph;
   glyph.lines.addEllipse(QPointF(12, 12), 9, 9);

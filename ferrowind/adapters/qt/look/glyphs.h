@@ -19,6 +19,8 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph ExceptWithTextGlyph();
 [[nodiscard]] Glyph PlanGlyph();
 [[nodiscard]] Glyph AllDaysGlyph();
+[[nodiscard]] Glyph HistoryGlyph();
+[[nodiscard]] Glyph UndoGlyph();
 [[nodiscard]] Glyph CurrencyGlyph();
 [[nodiscard]] Glyph CalendarGlyph();
 [[nodiscard]] Glyph QuestionGlyph();

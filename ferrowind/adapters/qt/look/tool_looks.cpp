@@ -32,6 +32,9 @@ constexpr std::array kLooks = {
     Entry{"ID_Except2", ExceptWithTextGlyph, ""},
     Entry{"ID_PlanYear", PlanGlyph, ""},
     Entry{"ID_AllDays", AllDaysGlyph, ""},
+    Entry{"ID_History", HistoryGlyph, ""},
+    Entry{"ID_DayHistory", HistoryGlyph, ""},
+    Entry{"ID_Undo", UndoGlyph, ""},
 };
 
 }  // namespace

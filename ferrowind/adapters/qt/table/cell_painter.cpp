@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ferrowind/adapters/qt/look/blend.h"
 #include "ferrowind/adapters/qt/look/contrast.h"
 #include "ferrowind/adapters/qt/look/glyph_painter.h"
 #include "ferrowind/adapters/qt/look/mark_glyphs.h"
@@ -39,6 +40,7 @@ QString LineOf(const TableCell& cell) {
   return line;
 }
 
+/// Of a quiet cell as faint as can still be read.
 QColor ColorOf(CellTone tone, const QColor& ground, const GridColors& colors) {
   if (tone != CellTone::kQuiet) return colors.text;
   // Rows of both shades show the same colour: the one that is readable on the worse of them.

@@ -131,6 +131,23 @@ TEST(HistoryWindow, UndoesAndRedoesTheCurrentChange) {
   });
 }
 
+TEST(HistoryWindow, UndoesAndRedoesByTheUsualKeys) {
+  RunInFreshThread([] {
+    HistoryWorld history;
+    history.OpenHistory({978, 2028});
+    history.History().PressShortcut("Ctrl+Shift+Z");
+    EXPECT_THAT(history.Sentences(), SizeIs(2));
+    history.History().PressShortcut("Ctrl+Z");
+    EXPECT_EQ(history.Sentences().front(), std::string("Undid: ") + kAssigned);
+    history.History().PressShortcut("Ctrl+Z");
+    EXPECT_THAT(history.Sentences(), SizeIs(3));
+    history.History().PressShortcut("Ctrl+Shift+Z");
+    EXPECT_EQ(history.Sentences().front(), std::string("Redid: ") + kAssigned);
+    history.History().PressShortcut("Ctrl+W");
+    EXPECT_FALSE(history.History().IsShown());
+  });
+}
+
 TEST(HistoryWindow, SaysWhyAChangeCannotBeUndone) {
   RunInFreshThread([] {
     HistoryWorld history;
@@ -206,6 +223,11 @@ TEST(HistoryWindow, ShowsTheCalendarAsAChangeLeftIt) {
     EXPECT_THAT(
         history.world.toolkit.FormNamed("fmCalendarThen").Part<HeadlessTable>("tblDays").Texts("2028-04-14"),
         ElementsAre("Friday 14 April 2028", "Working day by exception", "Audit"));
+    auto& later = history.world.toolkit.FormNamed("fmCalendarThen");
+    EXPECT_TRUE(later.IsShown());
+    later.PressShortcut("Ctrl+W");
+    EXPECT_FALSE(later.IsShown());
+    EXPECT_TRUE(then.IsShown());
     then.PressEscape();
     EXPECT_FALSE(then.IsShown());
   });
