@@ -30,6 +30,7 @@ bool CanHaveFocus(ControlKind kind) {
     case ControlKind::kTree:
     case ControlKind::kGrid:
     case ControlKind::kTable:
+    case ControlKind::kYearView:
       return true;
     default:
       return false;

@@ -82,6 +82,8 @@ struct YearContent {
   std::vector<YearLegendEntry> legend;
   /// Ascending by day.
   std::vector<YearNote> notes;
+  /// A line that printed pages have below their heading.
+  std::string summary;
 };
 
 /// A day of a calendar on show.

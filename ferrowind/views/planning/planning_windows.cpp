@@ -6,6 +6,7 @@
 #include "ferrowind/views/planning/fm_history.h"
 #include "ferrowind/views/planning/fm_readiness.h"
 #include "ferrowind/views/planning/fm_year_plan.h"
+#include "ferrowind/views/planning/fm_year_planner.h"
 #include "ferrowind/views/planning/planning_context.h"
 
 namespace ferrowind {
@@ -45,6 +46,11 @@ void PlanningWindows::OpenReadiness() {
   Open("readiness", [](const PlanningContext& context) {
     return fmReadiness::Create(context, fmReadiness::DoorsTo(context.windows));
   });
+}
+
+void PlanningWindows::OpenYearPlanner(const std::vector<std::int32_t>& currencies, int year) {
+  Open(fmYearPlanner::NameFor(currencies, year),
+       [&](const PlanningContext& context) { return fmYearPlanner::Create(context, currencies, year); });
 }
 
 bool PlanningWindows::CloseAll() {

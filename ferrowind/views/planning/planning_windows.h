@@ -46,6 +46,9 @@ class PlanningWindows {
   /// The readiness board.
   void OpenReadiness();
 
+  /// A year of currencies, by their numbers, at least one.
+  void OpenYearPlanner(const std::vector<std::int32_t>& currencies, int year);
+
   /// Closes all windows; false, with the others closed, when one of them refuses.
   bool CloseAll();
 

@@ -12,6 +12,7 @@
 #include "ui_fmSelectYear.h"
 #include "ui_fmWait.h"
 #include "ui_fmYearPlan.h"
+#include "ui_fmYearPlanner.h"
 
 namespace ferrowind::qt {
 
@@ -36,6 +37,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");
   layouts.AddGenerated<Ui::fmWait>("fmWait");
   layouts.AddGenerated<Ui::fmYearPlan>("fmYearPlan");
+  layouts.AddGenerated<Ui::fmYearPlanner>("fmYearPlanner");
   return layouts;
 }
 

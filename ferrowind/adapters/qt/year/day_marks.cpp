@@ -12,8 +12,8 @@ void DrawDayMark(QPainter& painter, const QRectF& box, DayShape shape, const QCo
   painter.setBrush(color);
   switch (shape) {
     case DayShape::kBar:
-      painter.drawRect(
-          QRectF(box.left(), box.bottom() - box.height() * 0.3, box.width(), box.height() * 0.3));
+      painter.drawRect(QRectF(box.left() - box.width() / 2, box.bottom() - box.height() * 0.4,
+                              box.width() * 2, box.height() * 0.4));
       break;
     case DayShape::kSquare:
       painter.drawRect(

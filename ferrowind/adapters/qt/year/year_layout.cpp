@@ -13,6 +13,7 @@ using year_engine::YearPlace;
 namespace {
 
 constexpr qreal kSmallShare = 0.8;
+constexpr qreal kLetterShare = 0.72;
 constexpr int kMonths = 12;
 /// The numbers of columns that leave no month alone.
 constexpr std::array<int, 5> kColumnCounts = {6, 4, 3, 2, 1};
@@ -30,17 +31,20 @@ QFont Scaled(const QFont& font, qreal share) {
 }  // namespace
 
 YearMetrics::YearMetrics(const YearDays& days, const QFont& base, const QLocale& locale)
-    : number_font(base), title_font(base), small_font(Scaled(base, kSmallShare)) {
+    : number_font(base),
+      title_font(base),
+      small_font(Scaled(base, kSmallShare)),
+      letter_font(Scaled(base, kLetterShare)) {
   title_font.setBold(true);
   const QFontMetricsF number(number_font);
   const QFontMetricsF title(title_font);
   const QFontMetricsF small(small_font);
   const qreal digits = number.horizontalAdvance(QStringLiteral("30"));
-  gap = number.height() * 0.75;
+  gap = number.height() * 0.6;
   header_height = small.height() * 1.1;
   if (days.CalendarCount() <= 1) {
     // The number in the middle, with room for the mark on its left and the letter on its right.
-    const qreal side = small.horizontalAdvance(QStringLiteral("C")) * 0.9;
+    const qreal side = small.horizontalAdvance(QStringLiteral("C")) * 0.78;
     least_cell = {digits + 2 * side, number.height() * 1.08};
     widest_cell = {digits * 3.4, number.height() * 2};
     title_height = title.height() * 1.2;

@@ -21,6 +21,8 @@ struct YearMetrics {
   QFont number_font;
   QFont title_font;
   QFont small_font;
+  /// Of the letters beside the numbers of days.
+  QFont letter_font;
   QSizeF least_cell;
   QSizeF widest_cell;
   qreal title_height = 0;

@@ -83,13 +83,22 @@ void YearPages::Paint(Flow& flow) const {
   flow.painter.setLayoutDirection(direction_);
   QFont heading_font = PageFont(kHeadingSize);
   heading_font.setBold(true);
-  const QRectF heading(0, 0, flow.page.width(), QFontMetricsF(heading_font).height());
-  flow.painter.setFont(heading_font);
-  flow.painter.setPen(flow.colors.text);
-  flow.painter.drawText(heading, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine, heading_);
-  flow.y = heading.bottom() + kGap / 2;
+  PaintLines(flow, heading_font, heading_);
+  PaintLines(flow, PageFont(kTextSize), ToQt(days_.Content().summary));
+  flow.y += kGap / 2;
   PaintMonths(flow);
   PaintNotes(flow);
+}
+
+void YearPages::PaintLines(Flow& flow, const QFont& font, const QString& text) {
+  if (text.isEmpty()) return;
+  const QRectF room(0, flow.y, flow.page.width(), flow.page.height());
+  const QRectF area = QFontMetricsF(font).boundingRect(room, Qt::TextWordWrap, text);
+  flow.painter.setFont(font);
+  flow.painter.setPen(flow.colors.text);
+  flow.painter.drawText(QRectF(0, flow.y, flow.page.width(), area.height()),
+                        Qt::AlignLeading | Qt::TextWordWrap, text);
+  flow.y += area.height();
 }
 
 void YearPages::PaintMonths(Flow& flow) const {

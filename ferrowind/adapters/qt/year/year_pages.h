@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QLocale>
 #include <QPageLayout>
 #include <QPainter>
@@ -35,6 +36,8 @@ class YearPages {
   class Flow;
 
   void Paint(Flow& flow) const;
+  /// Goes down below them.
+  static void PaintLines(Flow& flow, const QFont& font, const QString& text);
   void PaintMonths(Flow& flow) const;
   void PaintNotes(Flow& flow) const;
 

@@ -177,19 +177,19 @@ void YearPainter::PaintDay(QPainter& painter, const YearPlace& place) const {
   const qreal size = number.ascent() * kMarkShare;
   const qreal side = (cell.width() - number.horizontalAdvance(QStringLiteral("30"))) / 2;
   if (look.shape == DayShape::kBar) {
-    const qreal bottom = cell.center().y() + number.ascent() * 0.62;
-    DrawDayMark(painter, {cell.center().x() - size, bottom - 2 * size, 2 * size, 2 * size * 0.9}, look.shape,
-                mark);
+    // Below the number, as far as there is room.
+    const qreal bottom = std::min(cell.center().y() + number.ascent() * 0.72, cell.bottom() - Line() / 2);
+    DrawDayMark(painter, {cell.center().x() - size / 2, bottom - size, size, size}, look.shape, mark);
   } else {
     DrawDayMark(painter,
                 {cell.left() + (side - size) / 2, cell.top() + cell.height() * 0.5 - size / 2, size, size},
                 look.shape, mark);
   }
   if (look.letter.empty()) return;
-  painter.setFont(metrics_.small_font);
+  painter.setFont(metrics_.letter_font);
   painter.setPen(mark);
   painter.drawText(QRectF(cell.right() - side, cell.top(), side, cell.height()),
-                   Qt::AlignCenter | Qt::TextSingleLine, ToQt(look.letter));
+                   Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, ToQt(look.letter));
 }
 
 void YearPainter::PaintInRow(QPainter& painter, const YearPlace& place) const {
@@ -197,7 +197,7 @@ void YearPainter::PaintInRow(QPainter& painter, const YearPlace& place) const {
   const QRectF cell = layout_.CellRect(place);
   const QColor& mark = colors_.Of(look.tint).mark;
   if (look.letter.empty()) {
-    const qreal size = std::min(cell.width(), cell.height()) * 0.4;
+    const qreal size = std::min(cell.width(), cell.height()) * 0.35;
     DrawDayMark(painter, {cell.center().x() - size / 2, cell.center().y() - size / 2, size, size}, look.shape,
                 mark);
     return;

@@ -1,0 +1,247 @@
+#include "ferrowind/views/planning/fm_year_planner.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/views/planning/selected_days.h"
+#include "ferrowind/views/planning/typed_currencies.h"
+#include "ferrowind/views/planning/year_content.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::Currency;
+using planning::YearOverview;
+using platform::ControlKind;
+using platform::ControlOf;
+using platform::kToolSeparator;
+using platform::PageFile;
+
+constexpr const char* kDayMenu = "ID_YearDayMenu";
+constexpr const char* kRefresh = "ID_RefreshYear";
+constexpr const char* kYearBefore = "ID_YearBefore";
+constexpr const char* kYearAfter = "ID_YearAfter";
+constexpr const char* kExcept = "ID_ExceptDays";
+constexpr const char* kPrint = "ID_PrintYear";
+constexpr const char* kSavePdf = "ID_SaveYearPdf";
+constexpr const char* kSavePicture = "ID_SaveYearPicture";
+constexpr std::int32_t kTextPanel = 1;
+
+platform::FormDesign Design() {
+  return {.name = "fmYearPlanner",
+          .caption = "Year planner",
+          .border = platform::FormBorder::kSizable,
+          .start = platform::FormStart::kAsPlaced,
+          .client_width = 14400,
+          .client_height = 9900,
+          .closes_by_escape = true,
+          .controls = {
+              {ControlKind::kYearView, "yvYear"},
+              {ControlKind::kToolBar, "tbYear"},
+              {ControlKind::kLabel, "lblCurrencies", "Currencies"},
+              {ControlKind::kTextBox, "txtCurrencies"},
+              {ControlKind::kLabel, "lblYear", "Year"},
+              {ControlKind::kTextBox, "txtYear"},
+              {.kind = ControlKind::kButton, .name = "cmdShow", .text = "Show", .is_default_button = true},
+              {ControlKind::kLabel, "lblSummary"},
+              {ControlKind::kStatusBar, "sbYear"}}};
+}
+
+void SetupTools(platform::ToolBar& tools) {
+  constexpr const char* kCategory = "Year";
+  tools.AddTool({kRefresh, "Refresh", kCategory, "Reads the calendars anew"});
+  tools.AddTool({kYearBefore, "Previous year", kCategory, "Shows the year before"});
+  tools.AddTool({kYearAfter, "Next year", kCategory, "Shows the year after"});
+  tools.AddTool({kExcept, "Except days with message ...", kCategory,
+                 "Makes the selected days working days by exception, with one reason"});
+  tools.AddTool({kPrint, "Print...", kCategory, "Prints the year"});
+  tools.AddTool(
+      {kSavePdf, "Save as PDF...", kCategory, "Writes the year into a file for reading and printing"});
+  tools.AddTool({kSavePicture, "Save as picture...", kCategory, "Writes the year into a PNG file"});
+  tools.SetBar("Year", {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept, kToolSeparator, kPrint,
+                        kSavePdf, kSavePicture});
+  tools.AddPopupMenu(kDayMenu, "Day", {kExcept});
+}
+
+}  // namespace
+
+// Starting and closing
+// ------------------------------------------------------------------------------------------------
+
+std::shared_ptr<fmYearPlanner> fmYearPlanner::Create(const PlanningContext& context,
+                                                     const std::vector<std::int32_t>& currencies, int year) {
+  struct Creatable : fmYearPlanner {
+    explicit Creatable(const PlanningContext& surroundings) : fmYearPlanner(surroundings) {}
+  };
+  std::string typed;
+  for (const std::int32_t id : currencies) typed += std::to_string(id) + " ";
+  auto window = std::make_shared<Creatable>(context);
+  window->Show(TypedCurrencies(typed, year), year);
+  window->Connect();
+  return window;
+}
+
+std::string fmYearPlanner::NameFor(const std::vector<std::int32_t>& currencies, int year) {
+  std::string name = "fmYearPlanner " + std::to_string(year);
+  for (const std::int32_t id : currencies) name += " " + std::to_string(id);
+  return name;
+}
+
+fmYearPlanner::fmYearPlanner(const PlanningContext& context)
+    : platform_(context.platform),
+      windows_(context.windows),
+      form_(platform_.toolkit.CreateForm(Design())),
+      view_(ControlOf<platform::YearView>(*form_, "yvYear")),
+      tools_(ControlOf<platform::ToolBar>(*form_, "tbYear")),
+      currencies_box_(ControlOf<platform::TextBox>(*form_, "txtCurrencies")),
+      year_box_(ControlOf<platform::TextBox>(*form_, "txtYear")),
+      summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
+      bar_(ControlOf<platform::StatusBar>(*form_, "sbYear")) {
+  SetupTools(tools_);
+}
+
+void fmYearPlanner::Connect() {
+  // A handler keeps the window alive while it runs: whoever opened it may drop it meanwhile.
+  const auto handler = [weak = weak_from_this()](auto member) {
+    return [weak, member](auto&&... arguments) {
+      if (const auto self = weak.lock())
+        RunHandler(self->platform_, [&] { ((*self).*member)(arguments...); });
+    };
+  };
+  const auto subscribe = [this](platform::Subscription subscription) {
+    subscriptions_.push_back(std::move(subscription));
+  };
+  subscribe(form_->OnLoad(handler(&fmYearPlanner::Form_Load)));
+  const auto query_unload = handler(&fmYearPlanner::Form_QueryUnload);
+  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(tools_.OnToolClick(handler(&fmYearPlanner::RunTool)));
+  subscribe(tools_.OnToolEnter(handler(&fmYearPlanner::ShowToolDescription)));
+  const auto refresh_selection = handler(&fmYearPlanner::RefreshSelection);
+  subscribe(tools_.OnToolLeave([refresh_selection](const std::string&) { refresh_selection(); }));
+  subscribe(ControlOf<platform::Button>(*form_, "cmdShow").OnClick(handler(&fmYearPlanner::ShowAsTyped)));
+  subscribe(view_.OnSelectionChange(refresh_selection));
+  subscribe(view_.OnActivate(handler(&fmYearPlanner::ShowDayMenu)));
+  subscribe(view_.OnMenuAsked(handler(&fmYearPlanner::ShowDayMenu)));
+  subscribe(windows_.OnChanged(handler(&fmYearPlanner::ReadAnewAfter)));
+}
+
+void fmYearPlanner::ShowInFront() {
+  form_->Show();
+  form_->Raise();
+}
+
+bool fmYearPlanner::Close() { return form_->Unload(); }
+
+void fmYearPlanner::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+
+void fmYearPlanner::Form_QueryUnload() {
+  has_closed_ = true;
+  placement_.Save(*form_);
+}
+
+// Showing
+// ------------------------------------------------------------------------------------------------
+
+void fmYearPlanner::Show(const std::vector<Currency>& currencies, int year) {
+  overview_ = YearOverview::Load(currencies, year);
+  platform::YearContent content = YearContentOf(*overview_, platform_.clock.Today());
+  summary_.SetText(content.summary);
+  view_.SetContent(std::move(content));
+  std::string codes;
+  for (const Currency& currency : currencies) codes += (codes.empty() ? "" : " ") + currency.code;
+  currencies_box_.SetText(codes);
+  year_box_.SetText(std::to_string(year));
+  form_->SetCaption("Year planner - " + HeadingOf(*overview_));
+  tools_.SetToolEnabled(kYearBefore, year > planning::kFirstCalendarYear);
+  tools_.SetToolEnabled(kYearAfter, year < planning::kLastCalendarYear);
+  RefreshSelection();
+}
+
+void fmYearPlanner::ShowAsTyped() {
+  const int year = TypedYear(year_box_.Text());
+  Show(TypedCurrencies(currencies_box_.Text(), year), year);
+  view_.SetFocus();
+}
+
+void fmYearPlanner::ShowYear(int years_later) {
+  std::vector<Currency> currencies;
+  for (const auto& calendar : overview_->Calendars()) currencies.push_back(calendar.currency);
+  Show(currencies, overview_->Year() + years_later);
+}
+
+void fmYearPlanner::ReadAnew() { ShowYear(0); }
+
+void fmYearPlanner::ReadAnewAfter(const PlanningWindows::Changed& changed) {
+  if (has_closed_) return;
+  const auto is_changed = [&](const YearOverview::Calendar& calendar) {
+    const planning::CalendarKey key(calendar.currency.id, overview_->Year());
+    return changed.empty() || std::find(changed.begin(), changed.end(), key) != changed.end();
+  };
+  const auto& calendars = overview_->Calendars();
+  if (std::any_of(calendars.begin(), calendars.end(), is_changed)) ReadAnew();
+}
+
+void fmYearPlanner::RefreshSelection() {
+  const auto selected = SelectedDaysOf(*overview_, view_.Selected());
+  tools_.SetToolEnabled(kExcept, !DaysToExcept(*overview_, selected).empty());
+  bar_.SetPanelText(kTextPanel, SelectionInWords(*overview_, selected));
+}
+
+void fmYearPlanner::ShowToolDescription(const std::string& id) {
+  bar_.SetPanelText(kTextPanel, tools_.ToolDescription(id));
+}
+
+// Doing
+// ------------------------------------------------------------------------------------------------
+
+void fmYearPlanner::RunTool(const std::string& id) {
+  struct ToolAction {
+    const char* id;
+    void (*run)(fmYearPlanner& window);
+  };
+  static constexpr ToolAction kActions[] = {
+      {kRefresh, [](fmYearPlanner& w) { w.ReadAnew(); }},
+      {kYearBefore, [](fmYearPlanner& w) { w.ShowYear(-1); }},
+      {kYearAfter, [](fmYearPlanner& w) { w.ShowYear(1); }},
+      {kExcept, [](fmYearPlanner& w) { w.ExceptDays(); }},
+      {kPrint, [](fmYearPlanner& w) { (void)w.view_.PrintPages(HeadingOf(*w.overview_)); }},
+      {kSavePdf, [](fmYearPlanner& w) { w.Save(PageFile::kPdf); }},
+      {kSavePicture, [](fmYearPlanner& w) { w.Save(PageFile::kPng); }},
+  };
+  for (const auto& action : kActions) {
+    if (id == action.id) action.run(*this);
+  }
+}
+
+void fmYearPlanner::ShowDayMenu() { tools_.ShowPopupMenu(kDayMenu); }
+
+void fmYearPlanner::ExceptDays() {
+  // A copy: other windows may have this one read its calendars anew while the operator thinks of the reason.
+  const YearOverview seen = *overview_;
+  const ExceptedDays excepted =
+      ExceptSelectedDays(platform_.toolkit, seen, DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected())));
+  if (has_closed_) return;
+  if (!excepted.changed.empty()) windows_.TellChanged(excepted.changed);
+  if (!excepted.problems.empty()) {
+    ReadAnew();
+    constexpr std::int32_t kError = 3;
+    constexpr std::int32_t kOk = 1;
+    SharedServicesObject().ShowMessage(excepted.problems, kError, kOk, kOk, form_.get(), "", true, true);
+  }
+  if (!has_closed_ && !excepted.done.empty()) bar_.SetPanelText(kTextPanel, excepted.done);
+}
+
+void fmYearPlanner::Save(PageFile kind) {
+  const bool is_pdf = kind == PageFile::kPdf;
+  const auto path = platform_.toolkit.ChooseFileToSave(
+      is_pdf ? "Save as PDF" : "Save as picture", HeadingOf(*overview_),
+      {is_pdf ? platform::FileKind{"PDF files", "pdf"} : platform::FileKind{"PNG pictures", "png"}});
+  if (!path || has_closed_) return;
+  view_.SavePages(kind, *path, HeadingOf(*overview_));
+  bar_.SetPanelText(kTextPanel, "Saved as " + *path);
+}
+
+}  // namespace ferrowind

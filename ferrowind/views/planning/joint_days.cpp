@@ -1,0 +1,184 @@
+#include "ferrowind/views/planning/joint_days.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <utility>
+
+#include "ferrowind/almanac/day_counts.h"
+#include "ferrowind/planning/counted.h"
+#include "ferrowind/views/planning/year_content.h"
+
+namespace ferrowind {
+namespace {
+
+using almanac::MarkedDay;
+using almanac::RuleKind;
+using planning::YearOverview;
+using platform::DayLook;
+using platform::DayShape;
+using platform::DayTint;
+
+constexpr std::size_t kDaysOfAnyYear = 366;
+
+/// A day of one of the calendars.
+struct Mark {
+  const YearOverview::Calendar* calendar;
+  const MarkedDay* day;
+};
+
+/// The marked days of all calendars, by day of the year.
+std::array<std::vector<Mark>, kDaysOfAnyYear + 1> MarksByDay(const YearOverview& overview) {
+  std::array<std::vector<Mark>, kDaysOfAnyYear + 1> marks;
+  for (const auto& calendar : overview.Calendars()) {
+    for (const MarkedDay& day : calendar.content.days) {
+      marks[static_cast<std::size_t>(day.day_of_year)].push_back({&calendar, &day});
+    }
+  }
+  return marks;
+}
+
+void AppendTo(std::string& list, const std::string& item, const char* separator = ", ") {
+  if (!list.empty()) list += separator;
+  list += item;
+}
+
+std::string MissingCodes(const YearOverview& overview) {
+  std::string codes;
+  for (const auto& calendar : overview.Calendars()) {
+    if (!calendar.exists) AppendTo(codes, calendar.currency.code);
+  }
+  return codes;
+}
+
+/// Names and the codes of the calendars whose days are called so, in the order of the calendars.
+using Named = std::vector<std::pair<std::string, std::string>>;
+
+void Add(Named& named, const std::string& name, const std::string& code) {
+  const auto known =
+      std::find_if(named.begin(), named.end(), [&](const auto& entry) { return entry.first == name; });
+  if (known != named.end()) {
+    AppendTo(known->second, code);
+  } else {
+    named.emplace_back(name, code);
+  }
+}
+
+/// "Good Friday (EUR, USD); Spring Day (GBP)".
+std::string InWords(const Named& named) {
+  std::string words;
+  for (const auto& [name, codes] : named) AppendTo(words, name + " (" + codes + ")", "; ");
+  return words;
+}
+
+std::string NameOfClosing(const YearOverview& overview, const MarkedDay& day) {
+  return day.kind == RuleKind::kWeekday ? "weekend" : overview.NameOf(day);
+}
+
+struct JointDay {
+  DayLook look;
+  std::string description;
+};
+
+JointDay JointDayOf(const YearOverview& overview, const std::vector<Mark>& marks,
+                    const std::string& missing) {
+  const std::size_t existing =
+      static_cast<std::size_t>(std::count_if(overview.Calendars().begin(), overview.Calendars().end(),
+                                             [](const auto& calendar) { return calendar.exists; }));
+  Named closing;
+  std::size_t closed = 0;
+  bool is_weekend = true;
+  for (const auto& [calendar, day] : marks) {
+    if (!day->IsClosed()) continue;
+    ++closed;
+    is_weekend = is_weekend && day->kind == RuleKind::kWeekday;
+    Add(closing, NameOfClosing(overview, *day), calendar->currency.code);
+  }
+  JointDay joint;
+  if (closed == existing && closed != 0) {
+    joint.look = is_weekend ? DayLook{DayTint::kGrey, DayShape::kBar, ""}
+                            : DayLook{DayTint::kRed, DayShape::kSquare, std::to_string(closed)};
+  } else if (closed != 0) {
+    joint.look = SomeAreClosedLook(closed);
+  } else if (!missing.empty()) {
+    joint.look = {DayTint::kNone, DayShape::kNone, "?"};
+  }
+  if (closed == 0) {
+    joint.description = missing.empty() ? "all open" : "open as far as known";
+  } else if (closed == existing && closing.size() == 1) {
+    joint.description = "all closed: " + closing.front().first;
+  } else {
+    joint.description = (closed == existing ? "all closed: " : "closed: ") + InWords(closing);
+  }
+  if (!missing.empty()) joint.description += "; no calendar: " + missing;
+  return joint;
+}
+
+std::array<int, 12> CommonOpenDays(const YearOverview& overview) {
+  std::vector<const almanac::CalendarContent*> contents;
+  for (const auto& calendar : overview.Calendars()) {
+    if (calendar.exists) contents.push_back(&calendar.content);
+  }
+  return almanac::CountCommonOpenDays(contents);
+}
+
+}  // namespace
+
+DayLook SomeAreClosedLook(std::size_t closed) {
+  return {DayTint::kAmber, DayShape::kNone, std::to_string(closed)};
+}
+
+platform::YearCalendar JointRow(const YearOverview& overview) {
+  platform::YearCalendar row;
+  row.key = kJointCalendar;
+  row.caption = "All";
+  row.description = "All calendars together";
+  const std::string missing = MissingCodes(overview);
+  row.ordinary = "all open";
+  const auto marks = MarksByDay(overview);
+  for (int day = 1; day <= platform::DaysInYear(overview.Year()); ++day) {
+    const auto& of_day = marks[static_cast<std::size_t>(day)];
+    if (of_day.empty() && missing.empty()) continue;
+    JointDay joint = JointDayOf(overview, of_day, missing);
+    row.days.push_back({static_cast<std::int16_t>(day), std::move(joint.look), std::move(joint.description)});
+  }
+  const std::array<int, 12> open = CommonOpenDays(overview);
+  for (std::size_t month = 0; month < open.size(); ++month) {
+    // What nobody knows of one calendar nobody knows of all of them.
+    row.months[month].text = missing.empty() ? std::to_string(open[month]) : "-";
+    row.months[month].description =
+        missing.empty()
+            ? "open together on " + planning::Counted(static_cast<std::size_t>(open[month]), "day", "days")
+            : "no calendar of " + missing;
+  }
+  return row;
+}
+
+std::string JointSummary(const YearOverview& overview) {
+  const std::array<int, 12> months = CommonOpenDays(overview);
+  const int days = std::accumulate(months.begin(), months.end(), 0);
+  const std::string missing = MissingCodes(overview);
+  const std::string open =
+      "Open together on " + planning::Counted(static_cast<std::size_t>(days), "day", "days");
+  return missing.empty() ? open : open + " as far as known; no calendar of " + missing;
+}
+
+std::vector<platform::YearNote> NotesOf(const YearOverview& overview) {
+  const bool is_only_one = overview.Calendars().size() == 1;
+  const auto marks = MarksByDay(overview);
+  std::vector<platform::YearNote> notes;
+  for (int day = 1; day <= platform::DaysInYear(overview.Year()); ++day) {
+    Named named;
+    for (const auto& [calendar, marked] : marks[static_cast<std::size_t>(day)]) {
+      if (marked->kind == RuleKind::kWeekday) continue;
+      std::string name = marked->IsClosed() ? overview.NameOf(*marked) : almanac::kExceptionName;
+      if (!marked->comment.empty()) name += ": " + marked->comment;
+      Add(named, name, calendar->currency.code);
+    }
+    if (named.empty()) continue;
+    notes.push_back({static_cast<std::int16_t>(day), is_only_one ? named.front().first : InWords(named)});
+  }
+  return notes;
+}
+
+}  // namespace ferrowind

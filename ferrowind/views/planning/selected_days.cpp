@@ -1,0 +1,106 @@
+#include "ferrowind/views/planning/selected_days.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/day_exceptions.h"
+#include "ferrowind/views/dialogs/fm_except_mess.h"
+#include "ferrowind/views/planning/year_content.h"
+
+namespace ferrowind {
+namespace {
+
+using planning::Counted;
+using planning::YearOverview;
+
+std::size_t CountOf(const std::vector<SelectedDays>& selected) {
+  std::size_t count = 0;
+  for (const auto& of_calendar : selected) count += of_calendar.days.size();
+  return count;
+}
+
+std::size_t ClosedAmong(const YearOverview::Calendar& calendar, const std::vector<std::int16_t>& days) {
+  return static_cast<std::size_t>(
+      std::count_if(calendar.content.days.begin(), calendar.content.days.end(), [&](const auto& marked) {
+        return marked.IsClosed() && std::binary_search(days.begin(), days.end(), marked.day_of_year);
+      }));
+}
+
+std::string NameOf(const YearOverview& overview, const YearOverview::Calendar& calendar) {
+  return calendar.currency.code + " " + std::to_string(overview.Year());
+}
+
+void AppendSentence(std::string& text, const std::string& sentence) {
+  if (!text.empty()) text += "\n";
+  text += sentence;
+}
+
+}  // namespace
+
+std::vector<SelectedDays> SelectedDaysOf(const YearOverview& overview,
+                                         const std::vector<platform::YearCell>& cells) {
+  std::vector<std::set<std::int16_t>> days(overview.Calendars().size());
+  for (const auto& cell : cells) {
+    if (cell.calendar == kJointCalendar) {
+      for (auto& of_calendar : days) of_calendar.insert(cell.day_of_year);
+    } else if (const auto position = CalendarOfKey(overview, cell.calendar)) {
+      days[*position].insert(cell.day_of_year);
+    }
+  }
+  std::vector<SelectedDays> selected;
+  for (std::size_t i = 0; i < days.size(); ++i) {
+    if (!days[i].empty()) selected.push_back({i, {days[i].begin(), days[i].end()}});
+  }
+  return selected;
+}
+
+std::vector<SelectedDays> DaysToExcept(const YearOverview& overview,
+                                       const std::vector<SelectedDays>& selected) {
+  std::vector<SelectedDays> to_except;
+  for (const auto& [position, days] : selected) {
+    auto chosen = planning::DaysToExcept(overview.Calendars()[position].content, days);
+    if (!chosen.empty()) to_except.push_back({position, std::move(chosen)});
+  }
+  return to_except;
+}
+
+std::string SelectionInWords(const YearOverview& overview, const std::vector<SelectedDays>& selected) {
+  std::size_t closed = 0;
+  for (const auto& [position, days] : selected) closed += ClosedAmong(overview.Calendars()[position], days);
+  return Counted(CountOf(selected), "day", "days") + " selected, " + std::to_string(closed) +
+         " of them closed";
+}
+
+ExceptedDays ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& overview,
+                                const std::vector<SelectedDays>& days) {
+  ExceptedDays excepted;
+  if (days.empty()) return excepted;
+  fmExceptMess dialog(toolkit);
+  dialog.ShowModal();
+  if (dialog.Result() != 0) return excepted;
+  std::vector<SelectedDays> done;
+  for (const auto& of_calendar : days) {
+    const YearOverview::Calendar& calendar = overview.Calendars()[of_calendar.calendar];
+    try {
+      if (planning::ExceptDays(calendar.currency, calendar.content, of_calendar.days, dialog.Message())) {
+        done.push_back(of_calendar);
+        excepted.changed.emplace_back(calendar.currency.id, overview.Year());
+      } else {
+        AppendSentence(excepted.problems,
+                       NameOf(overview, calendar) +
+                           " was changed by somebody else meanwhile. It is left as it is; look at "
+                           "its days again.");
+      }
+    } catch (const platform::Failure& failure) {
+      AppendSentence(excepted.problems, failure.Description() + ".");
+    }
+  }
+  if (done.empty()) return excepted;
+  excepted.done = Counted(CountOf(done), "day is a working day by exception now",
+                          "days are working days by exception now");
+  return excepted;
+}
+
+}  // namespace ferrowind

@@ -1,0 +1,158 @@
+#include "ferrowind/views/planning/year_content.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+#include "ferrowind/almanac/day_counts.h"
+#include "ferrowind/planning/counted.h"
+#include "ferrowind/views/planning/joint_days.h"
+
+namespace ferrowind {
+namespace {
+
+using almanac::DayCounts;
+using almanac::MarkedDay;
+using almanac::RuleKind;
+using planning::Counted;
+using planning::YearOverview;
+using platform::DayLook;
+using platform::DayShape;
+using platform::DayTint;
+using platform::YearCalendar;
+using platform::YearContent;
+
+const DayLook kWeekendLook = {DayTint::kGrey, DayShape::kBar, ""};
+const DayLook kCelebrationLook = {DayTint::kRed, DayShape::kSquare, "C"};
+const DayLook kPointLook = {DayTint::kViolet, DayShape::kDiamond, "P"};
+const DayLook kExceptionLook = {DayTint::kGreen, DayShape::kTriangle, "E"};
+const DayLook kMissingLook = {DayTint::kAmber, DayShape::kHatching, ""};
+
+const DayLook& LookOf(const MarkedDay& day) {
+  switch (day.kind) {
+    case RuleKind::kWeekday:
+      return kWeekendLook;
+    case RuleKind::kCelebration:
+      return kCelebrationLook;
+    case RuleKind::kPoint:
+      return kPointLook;
+    case RuleKind::kWorkingDay:
+      break;
+  }
+  return kExceptionLook;
+}
+
+/// "Good Friday, closed", with the day's own text behind it.
+std::string Description(const YearOverview& overview, const MarkedDay& day) {
+  const std::string comment = day.comment.empty() ? "" : ": " + day.comment;
+  if (!day.IsClosed()) return almanac::kExceptionName + comment;
+  return (day.kind == RuleKind::kWeekday ? "weekend" : overview.NameOf(day)) + ", closed" + comment;
+}
+
+std::string Words(const DayCounts& counts) {
+  const auto count = [](int number, const char* one, const char* many) {
+    return Counted(static_cast<std::size_t>(number), one, many);
+  };
+  std::string words = count(counts.Open(), "working day", "working days");
+  if (counts.exceptions != 0) words += " (" + count(counts.exceptions, "by exception", "by exception") + ")";
+  return words + ", " + count(counts.weekend, "weekend day", "weekend days") + ", " +
+         count(counts.holidays, "holiday", "holidays");
+}
+
+YearCalendar RowOf(const planning::Currency& currency) {
+  YearCalendar row;
+  row.key = YearCalendarKey(currency);
+  row.caption = currency.code;
+  row.description = currency.name;
+  return row;
+}
+
+YearCalendar MissingRow(const planning::Currency& currency, int year) {
+  YearCalendar row = RowOf(currency);
+  row.ordinary = "no calendar";
+  for (int day = 1; day <= platform::DaysInYear(year); ++day) {
+    row.days.push_back({static_cast<std::int16_t>(day), kMissingLook, row.ordinary});
+  }
+  row.months.fill({"-", row.ordinary});
+  return row;
+}
+
+YearCalendar RowOf(const YearOverview& overview, const YearOverview::Calendar& calendar, bool is_only_one) {
+  if (!calendar.exists) return MissingRow(calendar.currency, overview.Year());
+  YearCalendar row = RowOf(calendar.currency);
+  row.ordinary = "working day";
+  for (const MarkedDay& day : calendar.content.days) {
+    row.days.push_back({day.day_of_year, LookOf(day), Description(overview, day)});
+  }
+  const almanac::MonthCounts months = almanac::CountDays(calendar.content);
+  for (std::size_t month = 0; month < months.size(); ++month) {
+    const int open = months[month].Open();
+    row.months[month].text = is_only_one
+                                 ? Counted(static_cast<std::size_t>(open), "working day", "working days")
+                                 : std::to_string(open);
+    row.months[month].description = Words(months[month]);
+  }
+  return row;
+}
+
+std::vector<platform::YearLegendEntry> LegendOf(const YearOverview& overview) {
+  std::vector<platform::YearLegendEntry> legend = {{kWeekendLook, "Weekend"},
+                                                   {kCelebrationLook, "Celebration"},
+                                                   {kPointLook, "Holiday point"},
+                                                   {kExceptionLook, almanac::kExceptionName}};
+  const auto& calendars = overview.Calendars();
+  if (calendars.size() > 1) legend.push_back({SomeAreClosedLook(2), "How many are closed"});
+  const bool is_any_missing =
+      std::any_of(calendars.begin(), calendars.end(), [](const auto& calendar) { return !calendar.exists; });
+  if (is_any_missing) legend.push_back({kMissingLook, "No calendar"});
+  return legend;
+}
+
+std::string SummaryOf(const YearOverview& overview) {
+  const auto& calendars = overview.Calendars();
+  if (calendars.size() == 1) {
+    const auto& only = calendars.front();
+    return only.exists ? Words(almanac::Total(almanac::CountDays(only.content)))
+                       : "There is no such calendar";
+  }
+  if (calendars.empty()) return {};
+  return JointSummary(overview);
+}
+
+}  // namespace
+
+YearContent YearContentOf(const YearOverview& overview, const platform::Date& today) {
+  YearContent content;
+  content.year = overview.Year();
+  if (today.Year() == overview.Year()) content.today = static_cast<std::int16_t>(today.DayOfYear());
+  const auto& calendars = overview.Calendars();
+  if (calendars.size() > 1) content.calendars.push_back(JointRow(overview));
+  for (const auto& calendar : calendars) {
+    content.calendars.push_back(RowOf(overview, calendar, calendars.size() == 1));
+  }
+  content.legend = LegendOf(overview);
+  content.notes = NotesOf(overview);
+  content.summary = SummaryOf(overview);
+  return content;
+}
+
+std::string YearCalendarKey(const planning::Currency& currency) { return std::to_string(currency.id); }
+
+std::optional<std::size_t> CalendarOfKey(const YearOverview& overview, const std::string& key) {
+  const auto& calendars = overview.Calendars();
+  const auto found = std::find_if(calendars.begin(), calendars.end(), [&](const auto& calendar) {
+    return YearCalendarKey(calendar.currency) == key;
+  });
+  if (found == calendars.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - calendars.begin());
+}
+
+std::string HeadingOf(const YearOverview& overview) {
+  std::string heading;
+  for (const auto& calendar : overview.Calendars()) {
+    heading += (heading.empty() ? "" : ", ") + calendar.currency.code;
+  }
+  return heading + " " + std::to_string(overview.Year());
+}
+
+}  // namespace ferrowind
