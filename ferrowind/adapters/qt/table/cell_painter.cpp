@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 
-#include "ferrowind/adapters/qt/look/blend.h"
 #include "ferrowind/adapters/qt/look/contrast.h"
 #include "ferrowind/adapters/qt/look/glyph_painter.h"
 #include "ferrowind/adapters/qt/look/mark_glyphs.h"
