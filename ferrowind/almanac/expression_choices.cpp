@@ -66,11 +66,11 @@ std::string ClosedDayText(ClosedDayChoice choice) {
     case ClosedDayChoice::kNextFreeDay:
       return " to next free day";
     case ClosedDayChoice::kNextMonday:
-      return " saturday, sunday to next monday";
+      return " Saturday, Sunday to next Monday";
     case ClosedDayChoice::kFridayOrMonday:
-      return " saturday to friday sunday to monday";
+      return " Saturday to Friday Sunday to Monday";
     case ClosedDayChoice::kMondayAfterSunday:
-      return " sunday to monday";
+      return " Sunday to Monday";
     case ClosedDayChoice::kNotObserved:
       return " else not observed";
   }
@@ -134,13 +134,15 @@ class BaseReader {
 
 }  // namespace
 
-DateExpression ExpressionChoices::ToExpression() const {
+std::string ExpressionChoices::ToText() const {
   std::string text = BaseText(*this);
   if (form != DateForm::kEveryWeekday) text += ClosedDayText(on_closed_day);
   if (from) text += " from " + std::to_string(*from);
   if (to) text += " to " + std::to_string(*to);
-  return DateExpression::Parse(text);
+  return text;
 }
+
+DateExpression ExpressionChoices::ToExpression() const { return DateExpression::Parse(ToText()); }
 
 std::optional<ExpressionChoices> ExpressionChoices::Of(const DateExpression& expression) {
   ExpressionChoices choices;

@@ -42,7 +42,10 @@ enum class ClosedDayChoice : std::uint8_t {
 
 /// What was chosen. Choices that the form does not ask for mean nothing.
 struct ExpressionChoices {
-  /// What the choices say; an `ExpressionError` when they are no date, such as 30 February, or name no table.
+  /// The choices in the words of an expression: one in its normal form, or a text that is none when the
+  /// choices are no date, such as 30 February, or name no table.
+  [[nodiscard]] std::string ToText() const;
+  /// What the choices say; an `ExpressionError` when their text is no expression.
   [[nodiscard]] DateExpression ToExpression() const;
   /// The choices that say exactly `expression`; nothing when it says more than choices can.
   [[nodiscard]] static std::optional<ExpressionChoices> Of(const DateExpression& expression);

@@ -29,8 +29,9 @@ RuleYear YearOfRule(const YearPlan& plan, std::size_t rule, const DateTables& ta
 std::vector<RuleYear> YearsOfRule(const Planner& planner, std::size_t rule, const DateTables& tables,
                                   int first_year, int count) {
   std::vector<RuleYear> years;
-  for (int year = std::max(first_year, kFirstYear); year < first_year + count && year <= kLastYear; ++year)
-    years.push_back(YearOfRule(planner.Plan(year), rule, tables));
+  for (int year = first_year; year < first_year + count; ++year) {
+    if (planner.Reaches(year)) years.push_back(YearOfRule(planner.Plan(year), rule, tables));
+  }
   return years;
 }
 

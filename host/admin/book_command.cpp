@@ -5,19 +5,22 @@
 #include <vector>
 
 #include "ferrowind/almanac/book_text.h"
+#include "ferrowind/planning/book_shelf.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/admin/book_difference.h"
-#include "host/admin/book_shelf.h"
 #include "host/admin/book_source.h"
 #include "host/admin/database_content.h"
 #include "host/delivery/delivered_books.h"
+#include "host/delivery/delivered_tables.h"
 
 namespace ferrowind::host {
 namespace {
 
 using almanac::NamedBook;
+using planning::BookShelf;
 using planning::Currency;
+using planning::PlacedBook;
 using planning::StoredBook;
 using platform::Failure;
 
@@ -96,7 +99,7 @@ ExitStatus TellFaults(const std::vector<std::string>& faults, std::ostream& erro
 ExitStatus BookShowCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   std::string text;
   RunWithCalendars(engines, url, [&] {
-    const BookShelf shelf;
+    const BookShelf shelf(DeliveredDateTables());
     const Currency& named = shelf.Currencies().Named(currency);
     const StoredBook& stored = shelf.Get(named);
     if (!stored.book) {
@@ -119,7 +122,7 @@ ExitStatus BookSetCommand::Run(const platform::EngineRegistry& engines, std::ist
   }
   std::vector<std::string> faults;
   RunWithCalendars(engines, url, [&] {
-    const BookShelf shelf;
+    const BookShelf shelf(DeliveredDateTables());
     const std::vector<PlacedBook> books =
         source ? std::vector{Placed(*source, shelf.Currencies().Named(currency))}
                : DeliveredFor(currency, shelf);
@@ -139,7 +142,7 @@ ExitStatus BookCheckCommand::Run(const platform::EngineRegistry& engines, std::i
   std::size_t count = 1;
   std::vector<std::string> faults;
   RunWithCalendars(engines, url, [&] {
-    const BookShelf shelf;
+    const BookShelf shelf(DeliveredDateTables());
     if (!source) {
       const auto currencies = are_all ? shelf.WithBooks() : std::vector{shelf.Currencies().Named(currency)};
       count = currencies.size();

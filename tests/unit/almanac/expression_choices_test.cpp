@@ -9,7 +9,10 @@
 namespace ferrowind::almanac {
 namespace {
 
-std::string TextOf(const ExpressionChoices& choices) { return choices.ToExpression().ToText(); }
+std::string TextOf(const ExpressionChoices& choices) {
+  EXPECT_EQ(choices.ToText(), choices.ToExpression().ToText()) << "it is no normal form";
+  return choices.ToText();
+}
 
 ExpressionChoices Form(DateForm form) {
   ExpressionChoices choices;
@@ -102,6 +105,7 @@ TEST(ExpressionChoices, ThatAreNoDateFail) {
   ExpressionChoices choices;
   choices.month = 2;
   choices.day = 30;
+  EXPECT_EQ(choices.ToText(), "02-30");
   EXPECT_THROW((void)choices.ToExpression(), ExpressionError);
   choices = Form(DateForm::kTable);
   EXPECT_THROW((void)choices.ToExpression(), ExpressionError);

@@ -81,5 +81,13 @@ TEST(RuleDates, OfYearsBeyondAllPlansAreLeftOut) {
   EXPECT_EQ(first[0].year, kFirstYear);
 }
 
+TEST(RuleDates, OfYearsBeforeTheBookHoldsAreLeftOut) {
+  RuleBook book = BookWithWeekends("celebration | Fair | 07-01 |\n");
+  book.since = 2026;
+  const auto years = YearsOfRule(Planner(book, {}), kFirstRule, {}, 2025, 2);
+  ASSERT_THAT(years, SizeIs(1));
+  EXPECT_EQ(years[0].year, 2026);
+}
+
 }  // namespace
 }  // namespace ferrowind::almanac

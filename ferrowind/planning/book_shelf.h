@@ -7,14 +7,15 @@
 #include <vector>
 
 #include "ferrowind/almanac/book_faults.h"
+#include "ferrowind/almanac/date_table.h"
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/currency_list.h"
 
-namespace ferrowind::host {
+namespace ferrowind::planning {
 
 /// A book that is to be a currency's.
 struct PlacedBook {
-  planning::Currency currency;
+  Currency currency;
   almanac::RuleBook book;
   /// Of a text the lines in which the rules stand, and what the text is called.
   std::vector<std::size_t> lines = {};
@@ -22,33 +23,35 @@ struct PlacedBook {
 };
 
 /// The rule books of the calling thread's database as they were when this was made. All fail as
-/// ferrowind/planning/database_call.h says.
+/// database_call.h says.
 class BookShelf {
  public:
-  BookShelf();
+  /// `tables` are those that planning knows; they must outlive this.
+  explicit BookShelf(const almanac::DateTables& tables);
 
-  [[nodiscard]] const planning::CurrencyList& Currencies() const { return currencies_; }
+  [[nodiscard]] const CurrencyList& Currencies() const { return currencies_; }
   /// Null when the currency has no book.
-  [[nodiscard]] const planning::StoredBook* Find(const planning::Currency& currency) const;
+  [[nodiscard]] const StoredBook* Find(const Currency& currency) const;
   /// The same; no book is a failure that says so.
-  [[nodiscard]] const planning::StoredBook& Get(const planning::Currency& currency) const;
+  [[nodiscard]] const StoredBook& Get(const Currency& currency) const;
   /// Those that have a book, ordered by code.
-  [[nodiscard]] std::vector<planning::Currency> WithBooks() const;
+  [[nodiscard]] std::vector<Currency> WithBooks() const;
 
   /// What is wrong with the books `placed`, and would be wrong between them and the rest of the shelf, if
   /// they stood in it: sentences without a full stop, with the code of the book in front when the fault is
   /// its own.
   [[nodiscard]] std::vector<std::string> FaultsWith(const std::vector<PlacedBook>& placed) const;
   /// What is wrong with the stored books of these currencies, and between them and any other.
-  [[nodiscard]] std::vector<std::string> FaultsOf(const std::vector<planning::Currency>& currencies) const;
+  [[nodiscard]] std::vector<std::string> FaultsOf(const std::vector<Currency>& currencies) const;
 
  private:
   /// Those that can be read, but for the ones of the currencies `without`.
   [[nodiscard]] std::vector<almanac::NamedBook> Readable(const std::set<std::int32_t>& without) const;
-  [[nodiscard]] planning::Currency CurrencyOf(const planning::StoredBook& stored) const;
+  [[nodiscard]] Currency CurrencyOf(const StoredBook& stored) const;
 
-  planning::CurrencyList currencies_;
-  std::vector<planning::StoredBook> books_;
+  const almanac::DateTables& tables_;
+  CurrencyList currencies_;
+  std::vector<StoredBook> books_;
 };
 
-}  // namespace ferrowind::host
+}  // namespace ferrowind::planning

@@ -1,18 +1,14 @@
-#include "host/admin/book_shelf.h"
+#include "ferrowind/planning/book_shelf.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include "ferrowind/platform/values/failure.h"
 
-#include "host/delivery/delivered_tables.h"
-
-namespace ferrowind::host {
+namespace ferrowind::planning {
 namespace {
 
 using almanac::NamedBook;
-using planning::Currency;
-using planning::StoredBook;
 
 void Append(std::vector<std::string> more, std::vector<std::string>& faults) {
   faults.insert(faults.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
@@ -20,8 +16,8 @@ void Append(std::vector<std::string> more, std::vector<std::string>& faults) {
 
 }  // namespace
 
-BookShelf::BookShelf()
-    : currencies_(planning::CurrencyList::Load()), books_(planning::LoadBooks(DeliveredDateTables())) {}
+BookShelf::BookShelf(const almanac::DateTables& tables)
+    : tables_(tables), currencies_(CurrencyList::Load()), books_(LoadBooks(tables)) {}
 
 const StoredBook* BookShelf::Find(const Currency& currency) const {
   const auto found = std::find_if(books_.begin(), books_.end(),
@@ -52,7 +48,7 @@ std::vector<std::string> BookShelf::FaultsWith(const std::vector<PlacedBook>& pl
   for (const auto& [currency, book, lines, source] : placed) {
     ids.insert(currency.id);
     named.push_back({currency.code, book, lines});
-    for (const std::string& fault : almanac::FaultsOf(book, DeliveredDateTables(), lines)) {
+    for (const std::string& fault : almanac::FaultsOf(book, tables_, lines)) {
       faults.push_back((source.empty() ? currency.code : source) + ": " + fault);
     }
   }
@@ -93,4 +89,4 @@ Currency BookShelf::CurrencyOf(const StoredBook& stored) const {
   return unknown;
 }
 
-}  // namespace ferrowind::host
+}  // namespace ferrowind::planning

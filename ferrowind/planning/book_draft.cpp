@@ -1,0 +1,171 @@
+#include "ferrowind/planning/book_draft.h"
+
+#include <charconv>
+#include <system_error>
+#include <utility>
+
+#include "ferrowind/almanac/expression_error.h"
+#include "ferrowind/almanac/planner.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::planning {
+namespace {
+
+using almanac::BookRule;
+using almanac::DateExpression;
+using almanac::RuleBook;
+
+RuleDraft DraftOf(const BookRule& rule) {
+  return {rule.name, rule.kind, rule.expression.ToText(), rule.comment, rule.moved_name};
+}
+
+/// Nothing when the expression is none.
+std::optional<BookRule> RuleOf(const RuleDraft& draft) {
+  try {
+    return BookRule{draft.name, draft.kind, DateExpression::Parse(draft.expression), draft.comment,
+                    draft.moved_name};
+  } catch (const almanac::ExpressionError&) {
+    return std::nullopt;
+  }
+}
+
+/// The year that the text is; nothing when it is none.
+std::optional<int> YearOf(const std::string& text) {
+  int year = 0;
+  const char* const end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, year);
+  if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
+  return year;
+}
+
+/// The plan of the year, or nothing where the book tells of none.
+std::optional<almanac::YearPlan> PlanIn(const almanac::Planner& planner, int year) {
+  if (!planner.Reaches(year)) return std::nullopt;
+  return planner.Plan(year);
+}
+
+std::optional<std::string> NameOn(const std::optional<almanac::YearPlan>& plan, int day_of_year) {
+  const almanac::PlannedDay* const day = plan ? plan->Find(day_of_year) : nullptr;
+  if (day == nullptr) return std::nullopt;
+  return plan->NameOf(*day);
+}
+
+}  // namespace
+
+BookDraft::BookDraft(Currency currency, const almanac::DateTables& tables)
+    : currency_(std::move(currency)), tables_(tables), shelf_(tables) {
+  const StoredBook* const stored = shelf_.Find(currency_);
+  if (stored == nullptr) return;
+  if (!stored->book) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            "The book of " + currency_.code + " cannot be read: " + stored->faults.front());
+  }
+  fingerprint_ = stored->fingerprint;
+  stored_ = stored->book;
+  head_ = *stored->book;
+  head_.rules.clear();
+  head_.since.reset();
+  if (stored->book->since) since_ = std::to_string(*stored->book->since);
+  for (const BookRule& rule : stored->book->rules) rules_.push_back(DraftOf(rule));
+}
+
+void BookDraft::Insert(std::size_t position, RuleDraft rule) {
+  rules_.insert(rules_.begin() + static_cast<std::ptrdiff_t>(position), std::move(rule));
+}
+
+void BookDraft::Change(std::size_t position, RuleDraft rule) { rules_[position] = std::move(rule); }
+
+void BookDraft::Remove(std::size_t position) {
+  rules_.erase(rules_.begin() + static_cast<std::ptrdiff_t>(position));
+}
+
+void BookDraft::MoveDown(std::size_t position) { std::swap(rules_[position], rules_[position + 1]); }
+
+bool BookDraft::IsEmpty() const {
+  return rules_.empty() && platform::Trim(since_).empty() && platform::Trim(head_.publisher).empty() &&
+         platform::Trim(head_.document).empty();
+}
+
+bool BookDraft::IsChanged() const {
+  if (!stored_) return !IsEmpty();
+  const Readable readable = ReadableBook(0);
+  if (HasFaultySince()) return true;
+  return readable.book.rules.size() != rules_.size() || readable.book != *stored_;
+}
+
+std::vector<std::string> BookDraft::Faults() const {
+  std::vector<std::string> faults;
+  if (IsEmpty()) return faults;
+  for (std::size_t position = 0; position < rules_.size(); ++position) {
+    if (const auto fault = FaultOfExpression(position))
+      faults.push_back("The rule " + std::to_string(position + 1) + ", \"" + rules_[position].name +
+                       "\": " + *fault);
+  }
+  if (platform::Trim(head_.publisher).empty()) faults.emplace_back("The book names no publisher");
+  if (platform::Trim(head_.document).empty()) faults.emplace_back("The book names no document");
+  if (HasFaultySince()) faults.push_back("The book holds since \"" + since_ + "\", which is no year");
+  if (!faults.empty()) return faults;
+  return shelf_.FaultsWith({{currency_, ReadableBook(0).book}});
+}
+
+bool BookDraft::HasFaultySince() const {
+  const std::string since = platform::Trim(since_);
+  return !since.empty() && !YearOf(since);
+}
+
+std::optional<std::string> BookDraft::FaultOfExpression(std::size_t position) const {
+  try {
+    (void)DateExpression::Parse(rules_[position].expression);
+    return std::nullopt;
+  } catch (const almanac::ExpressionError& error) {
+    return error.Description();
+  }
+}
+
+BookDraft::Readable BookDraft::ReadableBook(std::size_t position) const {
+  Readable readable{head_, std::nullopt};
+  readable.book.since = YearOf(platform::Trim(since_));
+  for (std::size_t i = 0; i < rules_.size(); ++i) {
+    auto rule = RuleOf(rules_[i]);
+    if (!rule) continue;
+    if (i == position) readable.position = readable.book.rules.size();
+    readable.book.rules.push_back(*std::move(rule));
+  }
+  return readable;
+}
+
+std::vector<almanac::RuleYear> BookDraft::YearsOf(std::size_t position, int first_year, int count) const {
+  Readable readable = ReadableBook(position);
+  if (!readable.position) return {};
+  const almanac::Planner planner(std::move(readable.book), tables_);
+  return almanac::YearsOfRule(planner, *readable.position, tables_, first_year, count);
+}
+
+std::vector<PlanChange> BookDraft::Changes(int first_year, int count) const {
+  const almanac::Planner before(stored_.value_or(RuleBook{}), tables_);
+  const almanac::Planner after(ReadableBook(0).book, tables_);
+  std::vector<PlanChange> changes;
+  for (int year = first_year; year < first_year + count; ++year) {
+    const auto old_plan = PlanIn(before, year);
+    const auto new_plan = PlanIn(after, year);
+    for (int day = 1; day <= platform::DaysInYear(year); ++day) {
+      auto was = NameOn(old_plan, day);
+      auto will_be = NameOn(new_plan, day);
+      if (was == will_be) continue;
+      changes.push_back(
+          {year, platform::Date(year, 1, 1).AddDays(day - 1), std::move(was), std::move(will_be)});
+    }
+  }
+  return changes;
+}
+
+void BookDraft::Store() const {
+  if (IsEmpty()) {
+    RemoveBook(currency_.id, currency_.code, fingerprint_);
+  } else {
+    StoreBook(currency_.id, currency_.code, fingerprint_, ReadableBook(0).book);
+  }
+}
+
+}  // namespace ferrowind::planning
