@@ -5,6 +5,7 @@
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/views/calendars/node_key.h"
 
 namespace ferrowind {
 
@@ -67,6 +68,12 @@ void CalendarsExtension::WhileFilling(const std::function<void()>& fill) {
 }
 
 std::optional<platform::CalendarOnShow> CalendarsExtension::OnShow() const { return window_.days.OnShow(); }
+
+std::optional<std::int32_t> CalendarsExtension::ChosenCurrency() const {
+  const auto node = window_.tree.Selected();
+  if (!node) return std::nullopt;
+  return node_key::CurrencyOfCurrencyNode(window_.tree.Parent(*node).value_or(*node));
+}
 
 std::optional<platform::Date> CalendarsExtension::CurrentDay() const {
   std::optional<platform::Date> day;

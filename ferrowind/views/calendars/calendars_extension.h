@@ -54,6 +54,7 @@ class CalendarsExtension : private platform::CalendarsScene {
   [[nodiscard]] platform::ToolBar& Tools() override { return window_.tool_bar; }
   [[nodiscard]] platform::StatusBar& Bar() override { return window_.status_bar; }
   [[nodiscard]] std::optional<platform::CalendarOnShow> OnShow() const override;
+  [[nodiscard]] std::optional<std::int32_t> ChosenCurrency() const override;
   [[nodiscard]] std::optional<platform::Date> CurrentDay() const override;
   void Choose(std::int32_t currency_id, std::int32_t year) override { window_.choose(currency_id, year); }
   void Refresh() override { window_.refresh(); }

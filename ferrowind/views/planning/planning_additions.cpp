@@ -10,6 +10,7 @@
 #include "ferrowind/views/planning/holidays_caption.h"
 #include "ferrowind/views/planning/plan_year_tool.h"
 #include "ferrowind/views/planning/refreshed_calendars.h"
+#include "ferrowind/views/planning/rule_book_tool.h"
 #include "ferrowind/views/planning/rules_of_calendar.h"
 #include "ferrowind/views/planning/why_pane.h"
 
@@ -39,7 +40,7 @@ constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platfor
 
 // The order of their controls and tools.
 constexpr std::array kCalendarsAdditions{
-    Calendars<RefreshedCalendars>, Calendars<PlanYearTool>,
+    Calendars<RefreshedCalendars>, Calendars<PlanYearTool>, Calendars<RuleBookTool>,
     Calendars<HistoryTools>,       Calendars<WhyPane>,
 };
 constexpr std::array kHolidaysAdditions{

@@ -5,6 +5,7 @@
 #include "ferrowind/views/planning/fm_calendar_then.h"
 #include "ferrowind/views/planning/fm_history.h"
 #include "ferrowind/views/planning/fm_readiness.h"
+#include "ferrowind/views/planning/fm_rule_book.h"
 #include "ferrowind/views/planning/fm_year_plan.h"
 #include "ferrowind/views/planning/fm_year_planner.h"
 #include "ferrowind/views/planning/planning_context.h"
@@ -51,6 +52,11 @@ void PlanningWindows::OpenReadiness() {
 void PlanningWindows::OpenYearPlanner(const std::vector<std::int32_t>& currencies, int year) {
   Open(fmYearPlanner::NameFor(currencies, year),
        [&](const PlanningContext& context) { return fmYearPlanner::Create(context, currencies, year); });
+}
+
+void PlanningWindows::OpenRuleBook(std::int32_t currency_id) {
+  Open("rule book " + std::to_string(currency_id),
+       [currency_id](const PlanningContext& context) { return fmRuleBook::Create(context, currency_id); });
 }
 
 bool PlanningWindows::CloseAll() {

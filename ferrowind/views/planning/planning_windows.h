@@ -45,6 +45,8 @@ class PlanningWindows {
 
   /// The readiness board.
   void OpenReadiness();
+  /// The rule book of the currency of that number.
+  void OpenRuleBook(std::int32_t currency_id);
 
   /// A year of currencies, by their numbers, at least one.
   void OpenYearPlanner(const std::vector<std::int32_t>& currencies, int year);

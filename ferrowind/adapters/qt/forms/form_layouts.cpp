@@ -9,6 +9,7 @@
 #include "ui_fmHistory.h"
 #include "ui_fmMessage.h"
 #include "ui_fmReadiness.h"
+#include "ui_fmRuleBook.h"
 #include "ui_fmSelectYear.h"
 #include "ui_fmWait.h"
 #include "ui_fmYearPlan.h"
@@ -34,6 +35,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmHistory>("fmHistory");
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
   layouts.AddGenerated<Ui::fmReadiness>("fmReadiness");
+  layouts.AddGenerated<Ui::fmRuleBook>("fmRuleBook");
   layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");
   layouts.AddGenerated<Ui::fmWait>("fmWait");
   layouts.AddGenerated<Ui::fmYearPlan>("fmYearPlan");
