@@ -126,6 +126,7 @@ class BaseReader {
   }
   bool operator()(const EquinoxDate&) const { return false; }
   bool operator()(const BetweenHolidays&) const { return false; }
+  bool operator()(const UnknownDate&) const { return false; }
 
  private:
   const DateExpression& expression_;

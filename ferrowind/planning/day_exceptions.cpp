@@ -4,7 +4,7 @@
 
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/database_call.h"
-#include "ferrowind/planning/json_text.h"
+#include "ferrowind/platform/values/json_text.h"
 
 namespace ferrowind::planning {
 
@@ -25,13 +25,14 @@ bool ExceptDays(const Currency& currency, const almanac::CalendarContent& seen,
   std::string dates;
   for (const std::int16_t day : days) {
     if (!dates.empty()) dates += ',';
-    dates += JsonText(platform::Date(seen.year, 1, 1).AddDays(day - 1).ToIso());
+    dates += platform::JsonText(platform::Date(seen.year, 1, 1).AddDays(day - 1).ToIso());
   }
   SourceValues parameters;
   parameters.Add("ID1", currency.id);
   parameters.Add("Year1", static_cast<std::int32_t>(seen.year));
   parameters.Add("Expected", now.fingerprint);
-  parameters.Add("Days", "[{\"TID1\":1,\"Dates\":[" + dates + "],\"DayComment\":" + JsonText(reason) + "}]");
+  parameters.Add(
+      "Days", "[{\"TID1\":1,\"Dates\":[" + dates + "],\"DayComment\":" + platform::JsonText(reason) + "}]");
   const CallAnswer answer =
       CallDatabase("Excepting days of " + currency.code + " " + std::to_string(seen.year), "CldApplyPlan",
                    parameters, 0, {return_value::kContentIsAnother});
