@@ -1,6 +1,7 @@
 #include "ferrowind/almanac/anchor_day.h"
 
 #include <algorithm>
+#include <numeric>
 #include <type_traits>
 
 #include "ferrowind/almanac/day_count.h"
@@ -107,10 +108,8 @@ DaySpan SpanOfStep(Relation relation) {
 }
 
 std::int32_t TakeSteps(const DateExpression& expression, std::int32_t anchor_day) {
-  std::int32_t day = anchor_day;
-  for (auto step = expression.steps.rbegin(); step != expression.steps.rend(); ++step)
-    day = TakeStep(*step, day);
-  return day;
+  return std::accumulate(expression.steps.rbegin(), expression.steps.rend(), anchor_day,
+                         [](std::int32_t day, const WeekdayStep& step) { return TakeStep(step, day); });
 }
 
 }  // namespace ferrowind::almanac

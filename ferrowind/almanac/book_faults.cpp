@@ -180,8 +180,8 @@ class BookInspection {
       : book_(book), tables_(tables), lines_(lines) {}
 
   std::vector<std::string> Inspect() {
-    if (IsBlank(book_.publisher)) faults_.push_back("The book names no publisher");
-    if (IsBlank(book_.document)) faults_.push_back("The book names no document");
+    if (IsBlank(book_.publisher)) faults_.emplace_back("The book names no publisher");
+    if (IsBlank(book_.document)) faults_.emplace_back("The book names no document");
     if (book_.since && (*book_.since < kFirstYear || *book_.since > kLastYear)) {
       faults_.push_back("The book holds from " + std::to_string(*book_.since) + " on, which is not " +
                         AYear());
@@ -192,10 +192,9 @@ class BookInspection {
       }
     }
     if (weekend_.IsEmpty()) {
-      faults_.push_back(
+      faults_.emplace_back(
           "The book closes no weekday: without a rule of the kind weekday each Saturday and Sunday would be "
-          "a "
-          "working day");
+          "a working day");
     }
     for (position_ = 0; position_ < book_.rules.size(); ++position_) InspectRule(book_.rules[position_]);
     return std::move(faults_);
@@ -278,8 +277,12 @@ class BookInspection {
     for (const Move& move : expression.moves) {
       const int weekday = move.target.weekday;
       if (move.target.direction != Direction::kNearest || !move.weekdays.Contains(weekday)) continue;
-      const std::string name(WeekdayName(weekday));
-      Add("moves off a " + name + " to the nearest " + name + ", which is the same day");
+      const std::string_view name = WeekdayName(weekday);
+      Add(std::string("moves off a ")
+              .append(name)
+              .append(" to the nearest ")
+              .append(name)
+              .append(", which is the same day"));
     }
   }
 

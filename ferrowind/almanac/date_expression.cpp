@@ -1,6 +1,8 @@
 #include "ferrowind/almanac/date_expression.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 #include "ferrowind/almanac/date_expression_parser.h"
 #include "ferrowind/almanac/date_words.h"
@@ -22,9 +24,9 @@ struct AnchorText {
     return (easter.church == Church::kWestern ? "easter" : "orthodox") + Offset(easter.offset);
   }
   std::string operator()(const NthWeekday& nth) const {
-    static constexpr const char* kOrdinals[] = {"last", "1st", "2nd", "3rd", "4th", "5th"};
-    return std::string(kOrdinals[nth.ordinal]) + ' ' + std::string(WeekdayName(nth.weekday)) + " of " +
-           Digits(nth.month, 2);
+    static constexpr std::array kOrdinals = {"last", "1st", "2nd", "3rd", "4th", "5th"};
+    return std::string(kOrdinals.at(static_cast<std::size_t>(nth.ordinal))) + ' ' +
+           std::string(WeekdayName(nth.weekday)) + " of " + Digits(nth.month, 2);
   }
   std::string operator()(const EquinoxDate& equinox) const {
     return (equinox.equinox == Equinox::kVernal ? "vernal equinox " : "autumnal equinox ") +

@@ -1,6 +1,7 @@
 #include "ferrowind/almanac/date_expression_parser.h"
 
 #include <algorithm>
+#include <array>
 #include <compare>
 #include <utility>
 
@@ -73,12 +74,14 @@ Anchor DateExpressionParser::ParseNumberedAnchor() {
   std::size_t after = start;
   while (after < text_.size() && IsDigit(text_[after])) ++after;
   if (after < text_.size() && IsLetter(text_[after])) {
-    static constexpr std::string_view kOrdinals[] = {"1st", "2nd", "3rd", "4th", "5th"};
-    for (int i = 0; i < 5; ++i) {
-      if (!IsWord(text_.substr(start, 3), kOrdinals[i])) continue;
-      place_ += 3;
+    static constexpr std::array<std::string_view, 5> kOrdinals = {"1st", "2nd", "3rd", "4th", "5th"};
+    int ordinal = 0;
+    for (const std::string_view word : kOrdinals) {
+      ++ordinal;
+      if (!IsWord(text_.substr(start, word.size()), word)) continue;
+      place_ += word.size();
       if (IsLetter(Next()) || IsAtDigit()) break;
-      return ParseNthWeekday(i + 1);
+      return ParseNthWeekday(ordinal);
     }
     throw ExpectedAt(start, "one of 1st, 2nd, 3rd, 4th, 5th and last");
   }

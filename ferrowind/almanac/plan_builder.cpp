@@ -173,7 +173,7 @@ void PlanBuilder::WriteDays(YearPlan& plan) {
   std::sort(claims_.begin(), claims_.end(), [](const Claim& left, const Claim& right) {
     return std::tie(left.day, left.rule, left.base) < std::tie(right.day, right.rule, right.base);
   });
-  constexpr std::size_t kMostWeekendDays = 2 * 53;
+  constexpr std::size_t kMostWeekendDays = std::size_t{2} * 53;
   plan.days_.reserve(kMostWeekendDays + claims_.size());
   plan.others_ = std::move(others_);
   const Claim* claim = claims_.data();

@@ -23,7 +23,8 @@ class YearsAround {
   [[nodiscard]] int Middle() const { return middle_; }
   /// The serial of 1 January of `Middle() - kReach` to `Middle() + kReach + 1`.
   [[nodiscard]] std::int32_t FirstDayOf(int year) const {
-    return first_days_[static_cast<std::size_t>(year - middle_ + kReach)];
+    const int place = year - middle_ + kReach;
+    return first_days_[static_cast<std::size_t>(place)];
   }
   /// Of a day of the years that `FirstDayOf` knows.
   [[nodiscard]] int YearOf(std::int32_t day) const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <compare>
 #include <system_error>
 
 #include "ferrowind/planning/database_call.h"
@@ -22,7 +23,9 @@ std::optional<std::int32_t> NumberIn(std::string_view text) {
 
 }  // namespace
 
-bool MeansAllCurrencies(std::string_view text) { return platform::CompareIgnoringCase(text, "ALL") == 0; }
+bool MeansAllCurrencies(std::string_view text) {
+  return std::is_eq(platform::CompareIgnoringCase(text, "ALL"));
+}
 
 std::string EndOfMoney(const Currency& currency) {
   if (!currency.is_money || !currency.last_day) return currency.code + " is no money";
@@ -78,7 +81,7 @@ const Currency& CurrencyList::Named(std::string_view text) const {
 
 const Currency* CurrencyList::WithCode(std::string_view code) const {
   const auto found = std::find_if(currencies_.begin(), currencies_.end(), [&](const Currency& currency) {
-    return platform::CompareIgnoringCase(currency.code, code) == 0;
+    return std::is_eq(platform::CompareIgnoringCase(currency.code, code));
   });
   return found == currencies_.end() ? nullptr : &*found;
 }
