@@ -7,7 +7,9 @@ The programs are driven by key presses on a screen of their own, as the end-to-e
 you commit them.
 """
 
+import datetime
 import json
+import os
 import pathlib
 import re
 import subprocess
@@ -26,6 +28,10 @@ SIZE = (1350, 780)
 
 GUIDE_STEPS = ('year-before', 'new-calendar', 'prepare-it', 'day-menu', 'rules', 'new-point', 'assigned',
                'except-message', 'excepted', 'remove', 'removed', 'edit-rule')
+
+# Currencies by their numbers: BRL, CAD, DKK, EUR, JPY and USD.
+WEEKENDS_ONLY = (986, 124, 208, 978, 392, 840)
+POUND = 826
 
 # Frames of the pictures: quiet, in the colours of the theme, and without boxes that a dialog would not have.
 FRAME_COLORS = {
@@ -185,6 +191,31 @@ class Photographer:
         self.session.keys('Down', 'Down', 'space')
         self.studio.take(f'guide-year-plan-{theme}', self.session, 'Plan of USD 2028')
 
+    def take_board(self, theme):
+        """Of years around today: this one is prepared, and the next as people leave it lying."""
+        # What stands in the picture is no folder of this machine.
+        os.chdir(self.session.home)
+        url = 'sqlite:calendars.db'
+        year = datetime.date.today().year
+        self.run_ctl('init', url, '--year', str(year - 1))
+        for currency in WEEKENDS_ONLY:
+            self.run_ctl('call', url, 'CldIUMain', f'ID1={currency}', f'Year1={year + 1}')
+            for weekday_rule in (2, 3):
+                self.run_ctl('call', url, 'CldIUMain', f'ID1={currency}', f'Year1={year + 1}', 'TID1=2',
+                             f'ID2={weekday_rule}')
+        for currency in ('AUD', 'CHF', 'GBP'):
+            self.run_ctl('apply', url, currency, str(year + 1), '--yes')
+        # A working day by exception, and nobody has said why.
+        self.run_ctl('call', url, 'CldIUMain', f'ID1={POUND}', f'Year1={year + 1}', 'TID1=1', 'ID2=1', 'Day1=1')
+        self.studio.use_frames(theme)
+        self.session.start('--database', url, '--theme', theme)
+        self.story.wait_active('Back office')
+        self.session.keys('Down', 'Down')
+        self.studio.take(f'guide-board-{theme}', self.session, 'Back office')
+
+    def run_ctl(self, *arguments):
+        subprocess.run([self.programs / 'ferrowindctl', *arguments], check=True, stdout=subprocess.DEVNULL)
+
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
         self.make_database(database)
@@ -208,6 +239,8 @@ def main():
             for take in (lambda user: user.take_calendars('dark', 'calendars-dark'),
                          lambda user: (user.take_calendars('light', 'calendars-light'),
                                        user.take_grouped('calendars-grouped')),
+                         lambda user: user.take_board('dark'),
+                         lambda user: user.take_board('light'),
                          lambda user: user.take_year_plan('dark'),
                          lambda user: user.take_year_plan('light'),
                          lambda user: user.take_story()):

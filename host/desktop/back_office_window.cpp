@@ -42,7 +42,7 @@ QLineEdit* MakeAddress(const QString& url) {
   address->setCursorPosition(0);
   QPalette colors = address->palette();
   colors.setColor(QPalette::Base, Qt::transparent);
-  colors.setBrush(QPalette::Text, colors.placeholderText());
+  colors.setBrush(QPalette::Text, colors.windowText());
   address->setPalette(colors);
   // In line with the labels above.
   address->setTextMargins(-2, 0, 0, 0);
@@ -64,7 +64,6 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   title->setFont(title_font);
   auto* const version = new QLabel(VersionText());
   version->setObjectName(QStringLiteral("version"));
-  version->setForegroundRole(QPalette::PlaceholderText);
 
   auto* const heading = new QHBoxLayout;
   heading->addWidget(control_);
@@ -74,7 +73,6 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
 
   auto* const open = new QPushButton(tr("&Open calendars"));
   open->setObjectName(QStringLiteral("openCalendars"));
-  open->setDefault(true);
   connect(open, &QPushButton::clicked, this, &BackOfficeWindow::OpenCalendars);
   auto* const close = new QPushButton(tr("&Close calendars"));
   close->setObjectName(QStringLiteral("closeCalendars"));
