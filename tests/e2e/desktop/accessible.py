@@ -85,10 +85,11 @@ def wait_window(title):
 
 
 class GridReader:
-    """The cells of the grid in a window, as an assistive tool reads them: by row and column, both from 0."""
+    """The cells of the grid in a window, as an assistive tool reads them: by row and column, both from 0. Where a window
+    has several, the one of that accessible name."""
 
-    def __init__(self, window):
-        self.table = wait_find(window, 'table')
+    def __init__(self, window, name=None):
+        self.table = wait_find(window, 'table', name)
         self.cells = wait_for(lambda: _quietly(self.table.queryTable), 'the cells of the table')
 
     def row_count(self):

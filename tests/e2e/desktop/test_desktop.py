@@ -122,6 +122,39 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(app.wait(30), 1)
         self.assertIn('databse', self.session.printed())
 
+    # The board -----------------------------------------------------------------------------------
+
+    def board(self):
+        return self.accessible.GridReader(self.accessible.wait_window('Back office'),
+                                          'Readiness of the currencies')
+
+    def on_board(self, currency, year):
+        """What the board says of the year, in the column whose caption begins with it; None while it says nothing."""
+        board = self.board()
+        captions = [caption for caption in board.captions() if caption.startswith(str(year))]
+        for row in range(board.row_count()):
+            if board.text(row, 'Currency') == currency and captions:
+                return board.text(row, captions[0])
+        return None
+
+    def test_the_board_leads_to_the_plan_of_all_currencies_by_keyboard(self):
+        year = datetime.date.today().year
+        url = f'sqlite:{self.session.home / "board.sqlite"}'
+        subprocess.run([os.environ['FERROWINDCTL_PROGRAM'], 'init', url, '--year', str(year - 1)], check=True,
+                       stdout=subprocess.DEVNULL)
+        self.session.start('--database', url)
+        self.session.focus('Back office')
+        wait_for(lambda: self.on_board('EUR', year) == 'Prepared', 'this year on the board')
+        self.assertTrue(self.on_board('EUR', year + 1).endswith('Not prepared'))
+        self.session.keys('alt+p')
+        wait_for(lambda: 'plan' in self.session.active_title().lower(), 'the plan of all currencies')
+        self.session.keys('alt+a')
+        wait_for(lambda: self.on_board('USD', year + 1) == 'Prepared', 'the next year prepared')
+        self.assertEqual(self.on_board('EUR', year + 1), 'Prepared')
+        # Closing the back office closes the plan as well.
+        self.session.close('Back office')
+        self.assertEqual(self.session.app.wait(60), 0, self.session.printed())
+
     # A database of an older version --------------------------------------------------------------
 
     def make_old_database(self, path):

@@ -18,6 +18,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 constexpr int kEuro = 978;
+constexpr int kDollar = 840;
 
 class StartPage : public HostTest {
  protected:
@@ -138,6 +139,64 @@ TEST_F(StartPage, OpensOverADatabaseThatIsAway) {
   EXPECT_THAT(Problem(), HasSubstr("The database could not be read"));
   EXPECT_TRUE(Find<QPushButton>(*back_office_, "openCalendars").isEnabled());
   BringDatabaseBack();
+}
+
+/// With a book for the dollar, and its calendars of this year and the next.
+class StartPageWithBook : public StartPage {
+ protected:
+  StartPageWithBook() {
+    sqlite::Engine engine;
+    (void)engine.Connect("sqlite:" + DatabasePath())
+        ->Call("CldIUBook", {kDollar,
+                             std::string(),
+                             std::string("Office"),
+                             std::string("Closing days"),
+                             std::string(R"([{"Name1":"Saturday","TID1":2,"Expression":"weekday Saturday"},
+                                {"Name1":"Sunday","TID1":2,"Expression":"weekday Sunday"},
+                                {"Name1":"Christmas Day","TID1":3,"Expression":"12-25"}])"),
+                             {}});
+    for (const int year : {ThisYear(), ThisYear() + 1}) {
+      CreateCalendarElsewhere(kDollar, year);
+      for (const int weekday_rule : {2, 3}) {
+        (void)engine.Connect("sqlite:" + DatabasePath())
+            ->Call("CldIUMain", {kDollar, year, 2, weekday_rule, {}, {}, {}});
+      }
+    }
+    ClickButton(*back_office_, "cmdRefresh");
+  }
+  [[nodiscard]] static std::string NextYear() { return std::to_string(ThisYear() + 1); }
+};
+
+TEST_F(StartPageWithBook, PreparesTheNextYearOfAllCurrenciesAfterALookAtThePlan) {
+  EXPECT_EQ(Cell("USD", NextYear()), "Weekends only");
+  ClickButton(*back_office_, "cmdPrepareAll");
+  QWidget* const plan = WindowOnShow("fmYearPlan");
+  ASSERT_NE(plan, nullptr);
+  EXPECT_EQ(Cell("USD", NextYear()), "Weekends only");
+  Activate(*plan);
+  ClickButton(*plan, "cmdApply");
+  EXPECT_EQ(Cell("USD", NextYear()), "Prepared");
+  EXPECT_FALSE(Find<QPushButton>(*back_office_, "cmdPrepareAll").isEnabled());
+  EXPECT_EQ(Cell("USD", std::to_string(ThisYear())), "Weekends only");
+}
+
+TEST_F(StartPageWithBook, EnterOpensThePlanOfTheCellAndBringsOneThatIsOpenToTheFront) {
+  Activate(*back_office_);
+  Press(Board(), Qt::Key_Return);
+  QWidget* const plan = WindowOnShow("fmYearPlan");
+  ASSERT_NE(plan, nullptr);
+  Activate(*back_office_);
+  Press(Board(), Qt::Key_Return);
+  EXPECT_EQ(WindowOnShow("fmYearPlan"), plan);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == plan; }));
+}
+
+TEST_F(StartPageWithBook, ClosingTheBackOfficeClosesThePlans) {
+  ClickButton(*back_office_, "cmdPrepareAll");
+  ASSERT_NE(WindowOnShow("fmYearPlan"), nullptr);
+  back_office_->close();
+  EXPECT_EQ(WindowOnShow("fmYearPlan"), nullptr);
+  EXPECT_FALSE(back_office_->isVisible());
 }
 
 }  // namespace
