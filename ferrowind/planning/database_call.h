@@ -29,6 +29,7 @@ inline constexpr std::int32_t kDone = 0;
 inline constexpr std::int32_t kUnknownCurrency = 3;
 inline constexpr std::int32_t kUnknownCalendar = 5;
 inline constexpr std::int32_t kContentIsAnother = 8;
+inline constexpr std::int32_t kChangedSince = 9;
 }  // namespace return_value
 
 /// What a call gave.

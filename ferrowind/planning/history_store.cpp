@@ -10,9 +10,9 @@ namespace {
 
 using platform::RecordSet;
 using platform::Value;
+using return_value::kChangedSince;
 
 constexpr std::int32_t kNoSuchEntry = 7;
-constexpr std::int32_t kChangedSince = 9;
 
 std::optional<std::int32_t> NumberOrNothing(const Value& value) {
   if (value.IsEmpty()) return std::nullopt;

@@ -1,11 +1,14 @@
 #include "ferrowind/planning/plan_batch.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <numeric>
 #include <optional>
 #include <utility>
 
+#include "ferrowind/data/action_scope.h"
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
@@ -30,6 +33,31 @@ std::optional<HistoryEntry> EntryOfPlan(const CalendarKey& calendar) {
     return std::move(newest);
   } catch (const platform::Failure&) {
     return std::nullopt;
+  }
+}
+
+/// A calendar as the host is told of it.
+struct ToldCalendar {
+  std::string currency;
+  int year = 0;
+};
+
+/// Makes a call that writes, which gives its return value, and tells the host of it and how it ends.
+void CallTold(platform::ActionKind kind, const ToldCalendar& calendar,
+              const std::function<std::int32_t()>& call) {
+  platform::ActionObserver* const observer = AttachedPlatform().action_observer;
+  const ActionScope action(observer, kind, [&](platform::OperatorAction& about) {
+    about.currency = calendar.currency;
+    about.year = calendar.year;
+  });
+  try {
+    TellWrite(observer, {}, call());
+  } catch (const Refusal& refusal) {
+    TellWrite(observer, {}, refusal.ReturnValue());
+    throw;
+  } catch (const platform::Failure&) {
+    TellFailedWrite(observer, {});
+    throw;
   }
 }
 
@@ -104,8 +132,12 @@ std::vector<PlanOutcome> PlanBatch::Apply() {
 PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   const PlannedCalendar& calendar = calendars_[position];
   const bool existed = calendar.Preparation()->CalendarExists();
+  const std::string& currency = calendar.Preparation()->Owner().code;
   try {
-    calendar.Apply();
+    CallTold(platform::ActionKind::kApplyPlan, {currency, calendar.Key().second}, [&] {
+      calendar.Apply();
+      return return_value::kDone;
+    });
   } catch (const Refusal& refusal) {
     return {position, Kind::kRefused,
             refusal.ReturnValue() == return_value::kContentIsAnother
@@ -115,7 +147,7 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   } catch (const platform::Failure& failure) {
     return {position, Kind::kFailed, failure.Description() + "."};
   }
-  if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, std::move(*entry)});
+  if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, currency, std::move(*entry)});
   return {position, Kind::kDone,
           InWords(existed ? "%1 is as planned now%2." : "%1 is made%2.",
                   {calendar.Name(), ButFor(calendar.Totals())})};
@@ -135,7 +167,12 @@ std::vector<PlanOutcome> PlanBatch::Undo() {
 PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
   const std::string& name = calendars_[applied.calendar].Name();
   try {
-    const UndoOutcome outcome = UndoEntry(applied.entry);
+    UndoOutcome outcome;
+    const CalendarKey& key = calendars_[applied.calendar].Key();
+    CallTold(platform::ActionKind::kUndo, {applied.currency, key.second}, [&] {
+      outcome = UndoEntry(applied.entry);
+      return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone : return_value::kChangedSince;
+    });
     if (outcome.kind != UndoOutcome::Kind::kDone) {
       const auto currencies = CurrencyList::Load();
       return {applied.calendar, Kind::kRefused,

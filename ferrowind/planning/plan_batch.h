@@ -66,6 +66,8 @@ class PlanBatch {
   /// A call that has changed a calendar.
   struct Applied {
     std::size_t calendar = 0;
+    /// The code of its currency.
+    std::string currency;
     HistoryEntry entry;
   };
 

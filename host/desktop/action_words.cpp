@@ -79,6 +79,10 @@ std::string Meaning(ActionKind kind, std::int32_t return_value) {
       // The year is all that an operator gives for a calendar.
       if (kind == ActionKind::kCreateCalendar) return "A calendar's year is 1900 to 3000.";
       return "A value is missing or out of range";
+    case 8:
+      return "It was changed meanwhile";
+    case 9:
+      return "A later change is of the same, or the history does not reach there";
     default:
       return "The database refused it, with the number " + std::to_string(return_value);
   }
@@ -182,6 +186,10 @@ std::string ActionWords::Command(const OperatorAction& action) const {
       return "Remove " + RulesText(action.rules);
     case ActionKind::kRestoreRules:
       return "Restore " + RulesText(action.rules);
+    case ActionKind::kApplyPlan:
+      return "Apply the plan" + With(" of ", CalendarText(action));
+    case ActionKind::kUndo:
+      return "Undo a change" + With(" of ", CalendarText(action));
   }
   return "";
 }
@@ -194,6 +202,10 @@ std::string ActionWords::Success(const ActionRecord& record) const {
       return "Created the calendar" + With(" ", CalendarText(action));
     case ActionKind::kExceptDay:
       return "Excepted" + (action.day ? " " + DayText(*action.day) : "") + With(", ", action.currency);
+    case ActionKind::kApplyPlan:
+      return "Applied the plan" + With(" of ", CalendarText(action));
+    case ActionKind::kUndo:
+      return "Undid a change" + With(" of ", CalendarText(action));
     case ActionKind::kAssignRules:
       return DoneVerb(action.kind) + DoneRules(record) + With(" to ", CalendarText(action)) +
              (record.changed_days ? ": " + DaysSet(*record.changed_days) : "");

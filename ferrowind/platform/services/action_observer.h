@@ -28,6 +28,10 @@ enum class ActionKind {
   kEditRule,
   kRemoveRules,
   kRestoreRules,
+  /// The plan of a calendar is to be made true in it.
+  kApplyPlan,
+  /// An earlier change of a calendar is to be taken back.
+  kUndo,
 };
 
 /// An action, and what it is about. What does not belong to the kind, or could not be told, is empty.

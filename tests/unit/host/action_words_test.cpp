@@ -47,6 +47,8 @@ TEST_F(ActionWordsTest, ACommandNamesWhatItIsAbout) {
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kShowDays)), "Show EUR 2028");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kCreateCalendar)), "New calendar EUR 2028");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kOpenRules)), "Assign holiday, EUR 2028");
+  EXPECT_EQ(words_.Command(Euro2028(ActionKind::kApplyPlan)), "Apply the plan of EUR 2028");
+  EXPECT_EQ(words_.Command(Euro2028(ActionKind::kUndo)), "Undo a change of EUR 2028");
   EXPECT_EQ(words_.Command(ChristmasException()), "Except 25 December 2028, EUR");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kAssignRules, {"Saturday"})),
             "Assign \"Saturday\" to EUR 2028");
@@ -58,6 +60,9 @@ TEST_F(ActionWordsTest, ASuccessSaysWhatWasDoneAndCountsTheDays) {
   EXPECT_EQ(words_.Success(Record(ChristmasException(), {Done()}, 1)), "Excepted 25 December 2028, EUR");
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kCreateCalendar), {Done()})),
             "Created the calendar EUR 2028");
+  EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kApplyPlan), {Done()})),
+            "Applied the plan of EUR 2028");
+  EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kUndo), {Done()})), "Undid a change of EUR 2028");
   const auto assign = Euro2028(ActionKind::kAssignRules, {"Saturday", "Sunday"});
   EXPECT_EQ(words_.Success(Record(assign, {Done("Saturday"), Done("Sunday")}, 115)),
             "Assigned 2 rules to EUR 2028: 115 days set");

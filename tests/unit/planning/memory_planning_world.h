@@ -20,7 +20,7 @@ inline constexpr std::int32_t kDollar = 840;
 /// A memory database with all procedures and books of lines of a test's own; on the thread that makes it.
 class MemoryPlanningWorld {
  public:
-  MemoryPlanningWorld() {
+  explicit MemoryPlanningWorld(platform::ActionObserver* action_observer = nullptr) : world(action_observer) {
     AttachPlatform(platform);
     EnsureDictionaryObject();
   }

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/recording_action_observer.h"
 #include "tests/support/run_in_fresh_thread.h"
 #include "tests/unit/planning/memory_planning_world.h"
 
@@ -26,7 +27,8 @@ const almanac::DateTables kNoTables;
 /// Books of EUR and USD with Good Friday (14 April 2028) and Christmas Day; a calendar of EUR without any.
 class BatchWorld : public MemoryPlanningWorld {
  public:
-  BatchWorld() {
+  explicit BatchWorld(platform::ActionObserver* action_observer = nullptr)
+      : MemoryPlanningWorld(action_observer) {
     GiveBook(kEuro, "EUR", kTwoDays);
     GiveBook(kDollar, "USD", kTwoDays);
     CreateCalendar(kEuro, 2028);
@@ -301,6 +303,26 @@ TEST(PlanBatch, TriesNoFurtherCalendarOnceACallHasFailed) {
     EXPECT_THAT(outcomes[0].sentence, HasSubstr("Applying the plan of EUR 2028: "));
     EXPECT_EQ(outcomes[1].sentence, "USD 2028 was not tried.");
     EXPECT_THAT(KindsOf(batch.Apply()), ElementsAre(Kind::kDone, Kind::kDone));
+  });
+}
+
+TEST(PlanBatch, TellsTheHostOfEachCallThatWritesAndHowItEnds) {
+  RunInFreshThread([] {
+    testing::RecordingActionObserver observer;
+    BatchWorld world(&observer);
+    PlanBatch batch(kNoTables, {{kEuro, 2028}, {kDollar, 2028}});
+    BatchWorld::CreateCalendar(kDollar, 2028);
+    (void)batch.Apply();
+    EXPECT_THAT(observer.events, ElementsAre("began apply plan EUR 2028", "write 0", "ended",
+                                             "began apply plan USD 2028", "write 8", "ended"));
+    observer.events.clear();
+    (void)batch.Undo();
+    EXPECT_THAT(observer.events, ElementsAre("began undo EUR 2028", "write 0", "ended"));
+    observer.events.clear();
+    world.world.faults.FailAtCall(1);
+    (void)batch.Apply();
+    EXPECT_THAT(observer.events, ElementsAre("began apply plan EUR 2028",
+                                             HasSubstr("write -1 Applying the plan of EUR 2028"), "ended"));
   });
 }
 
