@@ -114,7 +114,7 @@ void PlanBatch::PlanTried(const std::vector<PlanOutcome>& outcomes) {
 
 std::vector<PlanOutcome> PlanBatch::Apply() {
   std::vector<PlanOutcome> outcomes;
-  applied_.clear();
+  const auto applied_before = std::exchange(applied_, {});
   bool has_failed = false;
   for (std::size_t i = 0; i < calendars_.size(); ++i) {
     if (!calendars_[i].HasWork()) continue;
@@ -125,6 +125,7 @@ std::vector<PlanOutcome> PlanBatch::Apply() {
     outcomes.push_back(ApplyOne(i));
     has_failed = outcomes.back().kind == Kind::kFailed;
   }
+  if (applied_.empty()) applied_ = applied_before;
   PlanTried(outcomes);
   return outcomes;
 }

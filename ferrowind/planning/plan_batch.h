@@ -50,12 +50,14 @@ class PlanBatch {
   /// Plans all calendars anew, as they are by now; what was left out stays left out
   /// (`PlannedCalendar::Plan`).
   void PlanAnew();
+  /// The same of the calendars at those positions alone.
+  void PlanAnew(const std::vector<std::size_t>& positions);
 
   /// Changes each calendar that has work, and plans those that were tried anew; tells of each, in order. A
   /// calendar that is refused does not keep the others from being changed; a call that fails does.
   std::vector<PlanOutcome> Apply();
 
-  /// Whether there are calls of the last `Apply` that changed something and are not undone yet.
+  /// Whether there are calls of the last `Apply` that changed anything which are not undone yet.
   [[nodiscard]] bool CanUndo() const { return !applied_.empty(); }
   /// Undoes those calls, the last one first, and plans the calendars anew; tells of each. A call that the
   /// database refuses to undo, because a later one has changed the same, is given up; one that fails is not,
@@ -73,7 +75,6 @@ class PlanBatch {
 
   [[nodiscard]] PlanOutcome ApplyOne(std::size_t position);
   [[nodiscard]] PlanOutcome UndoOne(const Applied& applied) const;
-  void PlanAnew(const std::vector<std::size_t>& positions);
   void PlanTried(const std::vector<PlanOutcome>& outcomes);
 
   const almanac::DateTables& tables_;
@@ -82,7 +83,7 @@ class PlanBatch {
 };
 
 /// What `Apply` would do, in sentences for operators: "26 calendars: 2912 days, 2704 of them weekends, but
-/// for 2 working days by exception. 1 calendar cannot be planned."
+/// not 2 working days by exception. 1 calendar cannot be planned."
 [[nodiscard]] std::string SummaryOf(const PlanBatch& batch);
 
 }  // namespace ferrowind::planning

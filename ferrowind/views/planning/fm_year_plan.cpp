@@ -258,12 +258,14 @@ void fmYearPlan::ShowDone(const std::vector<PlanOutcome>& outcomes) {
 
 void fmYearPlan::PlanAnewAfter(const PlanningWindows::Changed& changed) {
   if (is_telling_ || has_closed_) return;
-  const auto is_changed = [&](const planning::PlannedCalendar& calendar) {
-    return changed.empty() || std::find(changed.begin(), changed.end(), calendar.Key()) != changed.end();
-  };
   const auto& calendars = batch_.Calendars();
-  if (std::none_of(calendars.begin(), calendars.end(), is_changed)) return;
-  batch_.PlanAnew();
+  std::vector<std::size_t> positions;
+  for (std::size_t i = 0; i < calendars.size(); ++i) {
+    const bool is_named = std::find(changed.begin(), changed.end(), calendars[i].Key()) != changed.end();
+    if (changed.empty() || is_named) positions.push_back(i);
+  }
+  if (positions.empty()) return;
+  batch_.PlanAnew(positions);
   ShowLines();
 }
 

@@ -196,6 +196,19 @@ TEST(PlanBatch, UndoesWhatItHasAppliedTheLastCallFirst) {
   });
 }
 
+TEST(PlanBatch, CanStillUndoWhenALaterApplyHasChangedNothing) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    PlanBatch batch(kNoTables, {{kEuro, 2028}, {kDollar, 2028}});
+    batch.At(1).TakeAll(false);
+    (void)batch.Apply();
+    BatchWorld::CreateCalendar(kDollar, 2028);
+    batch.At(1).TakeAll(true);
+    EXPECT_THAT(KindsOf(batch.Apply()), ElementsAre(Kind::kRefused));
+    EXPECT_THAT(SentencesOf(batch.Undo()), ElementsAre("EUR 2028 is as it was before."));
+  });
+}
+
 TEST(PlanBatch, DoesNotUndoWhatSomebodyHasChangedSince) {
   RunInFreshThread([] {
     BatchWorld world;
