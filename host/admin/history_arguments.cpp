@@ -19,6 +19,10 @@ constexpr std::string_view kMidnight = "00:00:00.000";
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
+bool IsLetter(char character) {
+  return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
+}
+
 bool IsNumberUpTo(std::string_view digits, int highest) {
   int number = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
@@ -68,19 +72,18 @@ std::int32_t ReadEntryNumber(const std::string& text) {
   return number;
 }
 
-content::HistoryFilter::Calendar ReadCalendar(const std::string& text) {
+CalendarName ReadCalendar(const std::string& text) {
   const auto slash = text.find('/');
-  content::HistoryFilter::Calendar calendar;
+  CalendarName calendar;
   calendar.currency = text.substr(0, slash);
   const std::string year = slash == std::string::npos ? std::string() : text.substr(slash + 1);
   const auto [end, error] = std::from_chars(year.data(), year.data() + year.size(), calendar.year);
-  const bool is_code =
-      !calendar.currency.empty() &&
-      std::all_of(calendar.currency.begin(), calendar.currency.end(), [](char character) {
-        return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
-      });
-  if (!is_code || year.size() != 4 || !IsDigit(year.front()) || error != std::errc() ||
-      end != year.data() + year.size()) {
+  const auto consists_of = [&](bool (*is_part)(char)) {
+    return !calendar.currency.empty() &&
+           std::all_of(calendar.currency.begin(), calendar.currency.end(), is_part);
+  };
+  if ((!consists_of(IsLetter) && !consists_of(IsDigit)) || year.size() != 4 || !IsDigit(year.front()) ||
+      error != std::errc() || end != year.data() + year.size()) {
     throw ArgumentError("\"" + text +
                         "\" names no calendar: write its currency and its year, as in USD/2026");
   }

@@ -1,19 +1,20 @@
 #include "host/admin/history_command.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <utility>
 #include <vector>
 
-#include "ferrowind/adapters/postgres/engine.h"
-#include "ferrowind/adapters/postgres/history_query.h"
-#include "ferrowind/adapters/sqlite/engine.h"
-#include "ferrowind/adapters/sqlite/history_query.h"
+#include "ferrowind/planning/history_store.h"
+#include "ferrowind/planning/history_words.h"
 
+#include "host/admin/database_content.h"
 #include "host/admin/history_arguments.h"
 
 namespace ferrowind::host {
 namespace {
 
+using planning::HistoryEntry;
 using platform::RecordSet;
 using platform::Value;
 
@@ -33,35 +34,69 @@ std::string AsArguments(const std::string& parameters) {
   return arguments;
 }
 
-/// For people, who have little room.
-std::shared_ptr<RecordSet> ForTable(const RecordSet& entries) {
-  const std::size_t parameters = entries.FieldNamed("Parameters");
-  std::vector<std::string> fields;
-  for (std::size_t field = 0; field < entries.FieldCount(); ++field)
-    fields.push_back(entries.FieldName(field));
-  std::vector<std::vector<Value>> rows;
-  for (std::size_t i = 0; i < entries.RowCount(); ++i) {
-    std::vector<Value> row;
-    for (std::size_t field = 0; field < entries.FieldCount(); ++field) {
-      row.push_back(entries.Cell(entries.BookmarkAt(i), field));
+/// The oldest first.
+std::vector<HistoryEntry> ReadEntries(const planning::HistoryFilter& filter, const std::string& since) {
+  constexpr std::int32_t kPage = 5000;
+  std::vector<HistoryEntry> entries;
+  std::optional<std::int32_t> before;
+  for (bool has_older = true; has_older;) {
+    planning::HistoryPage page = planning::LoadHistory(filter, before, kPage);
+    has_older = page.has_older;
+    if (has_older) before = page.entries.back().id;
+    for (HistoryEntry& entry : page.entries) {
+      if (entry.moment >= since) entries.push_back(std::move(entry));
     }
-    if (const auto* const text = row[parameters].If<std::string>()) row[parameters] = AsArguments(*text);
-    rows.push_back(std::move(row));
   }
-  return std::make_shared<RecordSet>(std::move(fields), std::move(rows));
+  std::reverse(entries.begin(), entries.end());
+  return entries;
+}
+
+/// Finds entries among those that were read, and else in the database.
+planning::EntryLookup LookupIn(const std::vector<HistoryEntry>& entries) {
+  return [&entries](std::int32_t id) -> std::optional<HistoryEntry> {
+    const auto known =
+        std::lower_bound(entries.begin(), entries.end(), id,
+                         [](const HistoryEntry& entry, std::int32_t wanted) { return entry.id < wanted; });
+    if (known != entries.end() && known->id == id) return *known;
+    auto found = planning::LoadEntry(id);
+    if (!found) return std::nullopt;
+    return std::move(found->entry);
+  };
+}
+
+std::shared_ptr<RecordSet> RowsOf(const std::vector<HistoryEntry>& entries,
+                                  const planning::CurrencyList& currencies, OutputFormat format) {
+  const planning::HistoryWords words(currencies, LookupIn(entries));
+  std::vector<std::vector<Value>> rows;
+  for (const HistoryEntry& entry : entries) {
+    const planning::Currency* const currency = entry.currency ? currencies.Find(*entry.currency) : nullptr;
+    rows.push_back({entry.id, entry.moment, entry.user, entry.procedure,
+                    currency != nullptr ? Value(currency->code) : Value(),
+                    entry.year ? Value(*entry.year) : Value(),
+                    // People have little room.
+                    format == OutputFormat::kTable ? AsArguments(entry.parameters) : entry.parameters,
+                    // Nothing else has an entry.
+                    std::int32_t{0}, entry.rows_changed, words.Tell(entry).Sentence()});
+  }
+  return std::make_shared<RecordSet>(
+      std::vector<std::string>{"EntryID", "Moment", "UserName", "ProcedureName", "Ccy", "Year1", "Parameters",
+                               "ReturnValue", "RowsChanged", "What"},
+      std::move(rows));
 }
 
 }  // namespace
 
 ExitStatus HistoryCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
-  content::HistoryFilter filter;
-  if (since) filter.since = ReadMoment(*since);
-  if (calendar) filter.calendar = ReadCalendar(*calendar);
-  // Says that there is no such engine, where an adapter can only say that it is not its own.
-  (void)engines.EngineFor(url);
-  const auto entries = postgres::IsConnectionString(url) ? postgres::ReadHistory(url, filter)
-                                                         : sqlite::ReadHistory(sqlite::PathIn(url), filter);
-  WriteRows({format == OutputFormat::kTable ? ForTable(*entries) : entries}, format, out);
+  const std::string since_moment = since ? ReadMoment(*since) : "";
+  const auto wanted = calendar ? std::optional(ReadCalendar(*calendar)) : std::nullopt;
+  std::shared_ptr<RecordSet> rows;
+  RunWithCalendars(engines, url, [&] {
+    const auto currencies = planning::CurrencyList::Load();
+    planning::HistoryFilter filter;
+    if (wanted) filter = {currencies.Named(wanted->currency).id, wanted->year};
+    rows = RowsOf(ReadEntries(filter, since_moment), currencies, format);
+  });
+  WriteRows({rows}, format, out);
   return ExitStatus::kDone;
 }
 

@@ -14,9 +14,10 @@ namespace {
 constexpr const char* kHistoryManual =
     R"(Lists the calls that changed something, the oldest first: when, by whom, the
 procedure and its parameters, the calendar that it was for, if it was for one,
-what it returned and how many rows it changed. "By whom" is the login on a
-server, and the operating system's user in a file. On a server the user must be
-one who could create the database.
+what it returned, how many rows it changed, and what that was in words. "By
+whom" is the login on a server, and the operating system's user in a file.
+
+--calendar takes the currency's code or its number.
 
 --since takes a date YYYY-MM-DD or a date and time YYYY-MM-DDTHH:MM:SS. All
 times are UTC.

@@ -312,6 +312,8 @@ void fmHistory::Do(UndoStep::Kind kind) {
   if (!step || step->kind != kind) return;
   PlanningWindows::Changed changed;
   if (line->entry.currency && line->entry.year) changed = {{*line->entry.currency, *line->entry.year}};
+  // The button is disabled afterwards, and the focus would go to the next one.
+  entries_.SetFocus();
   const std::string why_not = list_.Do(*step);
   Reload();
   if (!why_not.empty()) {

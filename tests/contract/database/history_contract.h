@@ -23,8 +23,8 @@ class HistoryContract : public ::testing::TestWithParam<DatabaseKind<DatabaseWit
   [[nodiscard]] DatabaseWithHistoryUnderTest& database() { return *database_; }
   [[nodiscard]] ProcedureCaller& caller() { return *caller_; }
 
-  /// The field `field` of every entry that `filter` asks for, as texts.
-  std::vector<std::string> History(const std::string& field, const content::HistoryFilter& filter = {});
+  /// The field `field` of every entry, the oldest first, as texts.
+  std::vector<std::string> History(const std::string& field);
 
  private:
   std::unique_ptr<DatabaseWithHistoryUnderTest> database_;

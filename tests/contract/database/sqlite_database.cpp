@@ -11,7 +11,6 @@
 #include "ferrowind/adapters/sql_script/procedure_source.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
-#include "ferrowind/adapters/sqlite/history_query.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 
 namespace ferrowind::contract {
@@ -39,10 +38,6 @@ bool SqliteDatabase::IsSound() {
   const auto problems = sqlite::CheckDatabase(Path());
   for (const auto& problem : problems) ADD_FAILURE() << problem;
   return problems.empty();
-}
-
-std::shared_ptr<platform::RecordSet> SqliteDatabase::ReadHistory(const content::HistoryFilter& filter) {
-  return sqlite::ReadHistory(Path(), filter);
 }
 
 std::string SqliteDatabase::UserName() { return getpwuid(getuid())->pw_name; }

@@ -33,8 +33,6 @@ class SqliteDatabase : public DatabaseWithHistoryUnderTest {
   void SetFirstDay(int first_day) override;
   void SetLastDay(std::int32_t currency, platform::Date last_day) override;
   [[nodiscard]] bool IsSound() override;
-  [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(
-      const content::HistoryFilter& filter) override;
   [[nodiscard]] std::string UserName() override;
 
   [[nodiscard]] std::string Path() const { return folder_.Path() + "/calendars.db"; }

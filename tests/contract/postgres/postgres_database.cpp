@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/postgres/database_objects.h"
-#include "ferrowind/adapters/postgres/history_query.h"
 
 #include "tests/contract/postgres/postgres_server.h"
 
@@ -43,10 +42,6 @@ bool PostgresDatabase::IsSound() {
   const auto problems = postgres::CheckDatabase(postgres_server::SuperuserUri(name_));
   for (const auto& problem : problems) ADD_FAILURE() << problem;
   return problems.empty();
-}
-
-std::shared_ptr<platform::RecordSet> PostgresDatabase::ReadHistory(const content::HistoryFilter& filter) {
-  return postgres::ReadHistory(postgres_server::SuperuserUri(name_), filter);
 }
 
 std::string PostgresDatabase::UserName() { return postgres_server::kOperator; }

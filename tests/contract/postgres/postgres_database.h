@@ -24,8 +24,6 @@ class PostgresDatabase : public DatabaseWithHistoryUnderTest {
   void SetFirstDay(int first_day) override;
   void SetLastDay(std::int32_t currency, platform::Date last_day) override;
   [[nodiscard]] bool IsSound() override;
-  [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadHistory(
-      const content::HistoryFilter& filter) override;
   [[nodiscard]] std::string UserName() override;
 
   [[nodiscard]] const std::string& Name() const { return name_; }

@@ -12,7 +12,8 @@ import server
 import version_1
 from ferrowindctl import DONE, NOT_DONE, RETURNED_NON_ZERO
 
-FIELDS = ["EntryID", "Moment", "UserName", "ProcedureName", "Ccy", "Year1", "Parameters", "ReturnValue", "RowsChanged"]
+FIELDS = ["EntryID", "Moment", "UserName", "ProcedureName", "Ccy", "Year1", "Parameters", "ReturnValue", "RowsChanged",
+          "What"]
 
 
 class HistoryTests:
@@ -65,6 +66,7 @@ class HistoryTests:
         entries = self.history("--calendar", "USD/2026")
         self.assertEqual([entry["RowsChanged"] for entry in entries], [366, 1])
         self.assertEqual(len(self.history("--calendar", "usd/2026", "--since", entries[1]["Moment"])), 1)
+        self.assertEqual(self.history("--calendar", "840/2026"), entries)
         self.assertEqual(self.history("--calendar", "USD/2027"), [])
         today = datetime.datetime.now(datetime.timezone.utc).date()
         self.assertEqual(self.history("--since", str(today + datetime.timedelta(2))), [])
@@ -84,14 +86,25 @@ class HistoryTests:
         output, _ = self.assert_run(DONE, "history", self.database, "--format", "csv")
         rows = list(csv.reader(io.StringIO(output, newline="")))
         self.assertEqual(rows[0], FIELDS)
-        self.assertEqual([len(row) for row in rows], [9] * 5)
+        self.assertEqual([len(row) for row in rows], [10] * 5)
         self.assertEqual(json.loads(rows[2][6])["Name1"], "Saint Nicholas' Day")
+
+    def test_tells_each_change_in_words(self):
+        self.make_changes()
+        [newest] = self.history()[-1:]
+        self.assert_run(DONE, "undo", self.database, str(newest["EntryID"]))
+        self.assertEqual([entry["What"] for entry in self.history()],
+                         ["Created the calendar USD 2026", "Added the rule Saint Nicholas' Day",
+                          "Assigned Saint Nicholas' Day to 6 December 2026", "Created the calendar EUR 2026",
+                          "Undid: Created the calendar EUR 2026"])
+        [last] = self.history("--since", self.history()[-1]["Moment"])[-1:]
+        self.assertEqual(last["What"], "Undid: Created the calendar EUR 2026")
 
     def test_names_what_it_cannot_read(self):
         for options, text in ((("--since", "yesterday"), '"yesterday" is neither a date'),
                               (("--since", ""), '"" is neither a date'),
                               (("--calendar", "USD"), '"USD" names no calendar'),
-                              (("--calendar", "XXQ/2026"), "knows no currency XXQ")):
+                              (("--calendar", "XXQ/2026"), "has no currency XXQ")):
             with self.subTest(options=options):
                 _, errors = self.assert_run(NOT_DONE, "history", self.database, *options)
                 self.assertIn(text, errors)
@@ -133,14 +146,18 @@ class HistoryOnAServer(HistoryTests, ferrowindctl.InAFolder):
     def user(self):
         return "postgres"
 
-    def test_names_the_operator_who_cannot_read_it(self):
-        name = f"operator_of_{self.on_server.name}"
-        server.ask("postgres", f"CREATE ROLE {name} LOGIN PASSWORD 'sesame' IN ROLE ferrowind_operator")
-        self.addCleanup(lambda: server.ask("postgres", f"DROP ROLE {name}"))
-        url = f"postgresql://{name}:sesame@" + self.database.split("@")[1]
-        self.assert_run(DONE, "call", url, "CldIUMain", "ID1=756", "Year1=2026")
-        self.assertEqual([entry["UserName"] for entry in self.history()], [name])
-        _, errors = self.assert_run(NOT_DONE, "history", url)
+    def test_is_for_operators_and_not_for_readers(self):
+        urls = {}
+        for role in ("operator", "reader"):
+            name = f"{role}_of_{self.on_server.name}"
+            server.ask("postgres", f"CREATE ROLE {name} LOGIN PASSWORD 'sesame' IN ROLE ferrowind_{role}")
+            self.addCleanup(lambda name=name: server.ask("postgres", f"DROP ROLE {name}"))
+            urls[role] = f"postgresql://{name}:sesame@" + self.database.split("@")[1]
+        self.assert_run(DONE, "call", urls["operator"], "CldIUMain", "ID1=756", "Year1=2026")
+        self.assertEqual([entry["UserName"] for entry in self.history()], [f"operator_of_{self.on_server.name}"])
+        output, _ = self.assert_run(DONE, "history", urls["operator"], "--calendar", "CHF/2026", "--format", "csv")
+        self.assertIn("Created the calendar CHF 2026", output)
+        _, errors = self.assert_run(NOT_DONE, "history", urls["reader"])
         self.assertIn("does not permit this", errors)
         self.assertNotIn("sesame", errors)
 

@@ -62,12 +62,13 @@ TEST(HistoryArguments, ACalendarIsACurrencyAndAYear) {
   EXPECT_EQ(calendar.currency, "USD");
   EXPECT_EQ(calendar.year, 2026);
   EXPECT_EQ(ReadCalendar("eUr/1900").currency, "EUR");
+  EXPECT_EQ(ReadCalendar("840/2026").currency, "840");
 }
 
 TEST(HistoryArguments, WhatIsNoCalendarIsRefusedByItsText) {
   const auto read = [](const std::string& text) { (void)ReadCalendar(text); };
   for (const std::string text : {"", "USD", "USD/", "/2026", "2026/USD", "USD 2026", "USD/26", "USD/20260",
-                                 "USD/-202", "USD/2026/1", "U$D/2026", "USD/20x6", "840/2026"}) {
+                                 "USD/-202", "USD/2026/1", "U$D/2026", "USD/20x6", "84O/2026", "-84/2026"}) {
     EXPECT_THAT(RefusalOf(read, text), HasSubstr("\"" + text + "\" names no calendar")) << text;
   }
 }
