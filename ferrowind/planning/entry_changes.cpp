@@ -6,6 +6,7 @@
 
 #include "ferrowind/almanac/date_words.h"
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/one_line.h"
 #include "ferrowind/platform/database/json_value.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -33,15 +34,18 @@ void AddDays(const PastCalendar& before, const PastCalendar& behind, const std::
              EntryChanges& changes) {
   using State = PastCalendar::State;
   if (before.state == State::kNotKept || behind.state == State::kNotKept) {
-    changes.remark = "The history does not keep what was there before: the call is older than its upgrade.";
+    changes.remark =
+        InWords("The history does not keep what was there before: the call is older than its upgrade.");
     return;
   }
   const bool was_there = before.state == State::kThere;
   const bool is_there = behind.state == State::kThere;
-  const auto days_of = [](const PastCalendar& past) { return std::to_string(past.days.size()) + " days"; };
+  const auto days_of = [](const PastCalendar& past) {
+    return InWords(past.days.size(), "%n day", "%n days");
+  };
   if (!was_there && !is_there) return;
-  if (!was_there) changes.changes.push_back({"Calendar " + calendar, "", days_of(behind)});
-  if (!is_there) changes.changes.push_back({"Calendar " + calendar, days_of(before), ""});
+  if (!was_there) changes.changes.push_back({InWords("Calendar %1", {calendar}), "", days_of(behind)});
+  if (!is_there) changes.changes.push_back({InWords("Calendar %1", {calendar}), days_of(before), ""});
   const std::size_t count = was_there ? before.days.size() : behind.days.size();
   for (std::size_t i = 0; i < count; ++i) {
     if (was_there && is_there) {
@@ -69,10 +73,10 @@ int LoadFirstDay() {
 }
 
 std::string TypeText(const std::string& number) {
-  if (number == "1") return "working day";
-  if (number == "2") return "weekday";
-  if (number == "3") return "celebration";
-  if (number == "4") return "holiday point";
+  if (number == "1") return InWords("working day");
+  if (number == "2") return InWords("weekday");
+  if (number == "3") return InWords("celebration");
+  if (number == "4") return InWords("holiday point");
   return number;
 }
 
@@ -95,8 +99,10 @@ struct Column {
   std::string (*tell)(const std::string& value);
 };
 
-std::string RemovalText(const std::string& mark) { return mark == "2" ? "yes" : "no"; }
-std::string MoneyText(const std::string& type) { return type == "0" ? "money" : "no money"; }
+std::string RemovalText(const std::string& mark) { return mark == "2" ? InWords("yes") : InWords("no"); }
+std::string MoneyText(const std::string& type) {
+  return type == "0" ? InWords("money") : InWords("no money");
+}
 
 const Column kColumns[] = {{"Name1", "name", AsItStands},
                            {"TID1", "type", TypeText},
@@ -139,11 +145,11 @@ std::string CodeOf(const ReplacedRow& row, const CurrencyList& currencies) {
 
 std::string SubjectOf(const ReplacedRow& row, const JsonValue& before, const JsonValue& behind,
                       const CurrencyList& currencies) {
-  if (row.table == "CldHoliday") return "Rule " + NameOf(before, behind, "Name1");
-  if (row.table == "DicCcy") return "Currency " + NameOf(before, behind, "Ccy");
-  const std::string book = "Rule book of " + CodeOf(row, currencies);
-  if (!row.position) return book;
-  return book + ", rule " + std::to_string(*row.position);
+  if (row.table == "CldHoliday") return InWords("Rule %1", {NameOf(before, behind, "Name1")});
+  if (row.table == "DicCcy") return InWords("Currency %1", {NameOf(before, behind, "Ccy")});
+  const std::string code = CodeOf(row, currencies);
+  if (!row.position) return InWords("Rule book of %1", {code});
+  return InWords("Rule book of %1, rule %2", {code, std::to_string(*row.position)});
 }
 
 void AddRow(const ReplacedRow& row, const CurrencyList& currencies, EntryChanges& changes) {
@@ -153,14 +159,16 @@ void AddRow(const ReplacedRow& row, const CurrencyList& currencies, EntryChanges
   for (const Column& column : kColumns) {
     std::string was = MemberText(before, column);
     std::string is = MemberText(behind, column);
-    if (was != is) changes.changes.push_back({subject + ": " + column.label, std::move(was), std::move(is)});
+    if (was != is)
+      changes.changes.push_back(
+          {InWords("%1: %2", {subject, InWords(column.label)}), std::move(was), std::move(is)});
   }
 }
 
 }  // namespace
 
 std::string DayInWords(const PastDay& day) {
-  std::string words = day.rule ? day.name : "Working day";
+  std::string words = day.rule ? day.name : InWords("Working day");
   if (!day.comment.empty()) words += ": " + day.comment;
   return OneLine(std::move(words));
 }

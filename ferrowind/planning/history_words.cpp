@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "ferrowind/almanac/date_words.h"
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/local_moment.h"
 #include "ferrowind/planning/one_line.h"
 #include "ferrowind/platform/database/json_value.h"
@@ -79,16 +79,19 @@ std::string NeededRule(const HistoryEntry& entry) {
 
 std::string WordsOfDays(const HistoryEntry& entry, const std::string& calendar) {
   const Parameters parameters(entry.parameters);
-  if (!parameters.Has("TID1")) return "Created the calendar " + calendar;
+  if (!parameters.Has("TID1")) return InWords("Created the calendar %1", {calendar});
   constexpr std::int32_t kWorkingDay = 1;
   if (parameters.Number("TID1") == kWorkingDay) {
     const std::string reason = parameters.Text("Comment");
-    return "Excepted " + DayText(parameters) + (reason.empty() ? "" : ": " + reason);
+    if (reason.empty()) return InWords("Excepted %1", {DayText(parameters)});
+    return InWords("Excepted %1: %2", {DayText(parameters), reason});
   }
-  if (parameters.Has("Day1")) return "Assigned " + NeededRule(entry) + " to " + DayText(parameters);
-  return "Assigned " + NeededRule(entry) + " to " +
-         Counted(static_cast<std::size_t>(entry.rows_changed), "day", "days") + " of " +
-         std::to_string(parameters.Number("Year1"));
+  if (parameters.Has("Day1")) {
+    return InWords("Assigned %1 to %2", {NeededRule(entry), DayText(parameters)});
+  }
+  return InWords(static_cast<std::size_t>(entry.rows_changed), "Assigned %1 to %n day of %2",
+                 "Assigned %1 to %n days of %2",
+                 {NeededRule(entry), std::to_string(parameters.Number("Year1"))});
 }
 
 std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) {
@@ -98,36 +101,43 @@ std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) 
     if (dates == nullptr || dates->kind != JsonValue::Kind::kList) throw CannotBeTold();
     days += dates->items.size();
   }
-  return "Prepared " + calendar + ": " + Counted(days, "day", "days");
+  return InWords(days, "Prepared %1: %n day", "Prepared %1: %n days", {calendar});
 }
 
 std::string WordsOfRule(const HistoryEntry& entry) {
   const Parameters parameters(entry.parameters);
   constexpr std::int32_t kRemoved = 2;
   if (parameters.Has("Del")) {
-    return (parameters.Number("Del") == kRemoved ? "Removed the rule " : "Restored the rule ") +
-           NeededRule(entry);
+    return parameters.Number("Del") == kRemoved ? InWords("Removed the rule %1", {NeededRule(entry)})
+                                                : InWords("Restored the rule %1", {NeededRule(entry)});
   }
-  return (parameters.Has("ID2") ? "Changed the rule " : "Added the rule ") + parameters.NeededText("Name1");
+  const std::string name = parameters.NeededText("Name1");
+  return parameters.Has("ID2") ? InWords("Changed the rule %1", {name})
+                               : InWords("Added the rule %1", {name});
 }
 
 std::string WordsOfBook(const HistoryEntry& entry, const std::string& currency) {
   const Parameters parameters(entry.parameters);
-  const std::string book = "the rule book of " + currency;
-  if (!parameters.Has("Rules")) return "Removed " + book;
-  return (parameters.Text("Expected").empty() ? "Added " : "Changed ") + book + ": " +
-         Counted(parameters.List("Rules").size(), "rule", "rules");
+  if (!parameters.Has("Rules")) return InWords("Removed the rule book of %1", {currency});
+  const std::size_t rules = parameters.List("Rules").size();
+  if (parameters.Text("Expected").empty()) {
+    return InWords(rules, "Added the rule book of %1: %n rule", "Added the rule book of %1: %n rules",
+                   {currency});
+  }
+  return InWords(rules, "Changed the rule book of %1: %n rule", "Changed the rule book of %1: %n rules",
+                 {currency});
 }
 
 std::string WordsOfCurrency(const HistoryEntry& entry) {
   const Parameters parameters(entry.parameters);
-  std::string words =
-      "Set the currency " + parameters.NeededText("Ccy") + " (" + parameters.NeededText("Name") + ")";
-  if (parameters.Number("CcyType") != 0) return words + ", no money";
-  if (!parameters.Has("LastDay")) return words;
+  const std::string code = parameters.NeededText("Ccy");
+  const std::string name = parameters.NeededText("Name");
+  if (parameters.Number("CcyType") != 0) return InWords("Set the currency %1 (%2), no money", {code, name});
+  if (!parameters.Has("LastDay")) return InWords("Set the currency %1 (%2)", {code, name});
   const auto last_day = Date::FromIso(parameters.Text("LastDay"));
   if (!last_day) throw CannotBeTold();
-  return words + ", money until " + almanac::LongDate(last_day->Serial());
+  return InWords("Set the currency %1 (%2), money until %3",
+                 {code, name, almanac::LongDate(last_day->Serial())});
 }
 
 std::string WordsOf(const HistoryEntry& entry, const std::string& calendar) {
@@ -147,7 +157,7 @@ std::string WordsOf(const HistoryEntry& entry, const std::string& calendar) {
 
 std::string ToldEntry::Sentence() const {
   if (turns == 0) return change;
-  return (IsDoing() ? "Redid: " : "Undid: ") + change;
+  return IsDoing() ? InWords("Redid: %1", {change}) : InWords("Undid: %1", {change});
 }
 
 std::optional<std::int32_t> UndoneEntry(const HistoryEntry& entry) {
@@ -174,15 +184,16 @@ std::string HistoryWords::Calendar(const HistoryEntry& entry) const {
 
 std::string HistoryWords::WhyNotUndone(const HistoryEntry& entry, const UndoOutcome& outcome) const {
   if (outcome.kind == UndoOutcome::Kind::kNoSuchEntry) {
-    return "The history has no entry " + std::to_string(entry.id) + ".";
+    return InWords("The history has no entry %1.", {std::to_string(entry.id)});
   }
-  const std::string why =
+  const std::string why = InWords(
       "This cannot be undone: a later change is of the same, or the history does not keep what was there "
-      "before.";
+      "before.");
   if (!outcome.later) return why;
-  return why + " The newest change of " + Calendar(*outcome.later) + " is \"" +
-         Tell(*outcome.later).Sentence() + "\" (" + outcome.later->user + ", " +
-         LocalMoment(outcome.later->moment) + "). Undo that first.";
+  return why + " " +
+         InWords("The newest change of %1 is \"%2\" (%3, %4). Undo that first.",
+                 {Calendar(*outcome.later), Tell(*outcome.later).Sentence(), outcome.later->user,
+                  LocalMoment(outcome.later->moment)});
 }
 
 ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {

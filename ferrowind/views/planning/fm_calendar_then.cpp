@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
@@ -46,18 +47,19 @@ HistoryEntry RequireEntry(std::int32_t id) {
   return std::move(found->entry);
 }
 
-std::string NothingThere(PastCalendar::State state) {
-  return state == PastCalendar::State::kNotKept ? "The history does not reach back so far."
-                                                : "There was no such calendar then.";
+std::string NothingThere(PastCalendar::State state, const platform::Platform& platform) {
+  return state == PastCalendar::State::kNotKept ? Said(platform, "The history does not reach back so far.")
+                                                : Said(platform, "There was no such calendar then.");
 }
 
-platform::TableRow RowOf(const PastDay& day, const platform::Locale& locale) {
+platform::TableRow RowOf(const PastDay& day, const platform::Platform& platform) {
   const bool is_ordinary = !day.rule && day.comment.empty();
   const auto tone = is_ordinary ? platform::CellTone::kQuiet : platform::CellTone::kNormal;
   return {.key = day.date.ToIso(),
-          .cells = {{.text = DayText(locale, day.date), .tone = tone, .order = day.date.Serial()},
-                    {.text = day.rule ? planning::OneLine(day.name) : "Working day", .tone = tone},
-                    {.text = planning::OneLine(day.comment), .tone = tone}}};
+          .cells = {
+              {.text = DayText(platform.locale, day.date), .tone = tone, .order = day.date.Serial()},
+              {.text = day.rule ? planning::OneLine(day.name) : Said(platform, "Working day"), .tone = tone},
+              {.text = planning::OneLine(day.comment), .tone = tone}}};
 }
 
 }  // namespace
@@ -74,9 +76,10 @@ std::shared_ptr<fmCalendarThen> fmCalendarThen::Create(const PlanningContext& co
 std::string fmCalendarThen::NameFor(std::int32_t entry) { return "fmCalendarThen " + std::to_string(entry); }
 
 fmCalendarThen::fmCalendarThen(const PlanningContext& context, std::int32_t entry)
-    : platform_(context.platform), form_(platform_.toolkit.CreateForm(Design())) {
+    : platform_(context.platform), form_(platform_.toolkit.CreateForm(Said(platform_, Design()))) {
   ControlOf<platform::ToolBar>(*form_, "tbThen")
-      .AddTool({.id = kClose, .caption = "Close", .category = "History", .shortcut = "Ctrl+W"});
+      .AddTool(
+          {.id = kClose, .caption = Said(platform_, "Close"), .category = "History", .shortcut = "Ctrl+W"});
   Fill(entry);
 }
 
@@ -89,18 +92,20 @@ void fmCalendarThen::Fill(std::int32_t entry) {
     return found->entry;
   });
   const std::string calendar = words.Calendar(then);
-  form_->SetCaption(calendar + " as of " + planning::LocalMoment(then.moment));
+  const std::string moment = planning::LocalMoment(then.moment);
+  form_->SetCaption(Said(platform_, "%1 as of %2", {calendar, moment}));
   ControlOf<platform::Label>(*form_, "lblThen")
-      .SetText(calendar + " as it was after: " + words.Tell(then).Sentence() + " \u2014 " + then.user + ", " +
-               planning::LocalMoment(then.moment));
+      .SetText(Said(platform_, "%1 as it was after: %2 \u2014 %3, %4",
+                    {calendar, words.Tell(then).Sentence(), then.user, moment}));
   auto& days = ControlOf<platform::Table>(*form_, "tblDays");
-  days.SetColumns({{.key = "Date", .caption = "Date"},
-                   {.key = "Day", .caption = "Day", .stretches = true},
-                   {.key = "Comment", .caption = "Comment", .stretches = true}});
+  days.SetColumns({{.key = "Date", .caption = Said(platform_, "Date")},
+                   {.key = "Day", .caption = Said(platform_, "Day"), .stretches = true},
+                   {.key = "Comment", .caption = Said(platform_, "Comment"), .stretches = true}});
   const PastCalendar past = planning::LoadCalendarBehind(*then.currency, *then.year, then.id);
-  if (past.state != PastCalendar::State::kThere) return days.SetEmptyText(NothingThere(past.state));
+  if (past.state != PastCalendar::State::kThere)
+    return days.SetEmptyText(NothingThere(past.state, platform_));
   std::vector<platform::TableRow> rows;
-  for (const PastDay& day : past.days) rows.push_back(RowOf(day, platform_.locale));
+  for (const PastDay& day : past.days) rows.push_back(RowOf(day, platform_));
   days.SetRows(rows);
 }
 

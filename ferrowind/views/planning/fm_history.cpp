@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/entry_changes.h"
 #include "ferrowind/planning/local_moment.h"
@@ -79,7 +80,7 @@ std::shared_ptr<fmHistory> fmHistory::Create(const PlanningContext& context) {
 fmHistory::fmHistory(const PlanningContext& context)
     : platform_(context.platform),
       windows_(context.windows),
-      form_(platform_.toolkit.CreateForm(Design())),
+      form_(platform_.toolkit.CreateForm(Said(platform_, Design()))),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbHistory")),
       calendars_(ControlOf<platform::DropDownList>(*form_, "cmbCalendar")),
       persons_(ControlOf<platform::DropDownList>(*form_, "cmbPerson")),
@@ -91,22 +92,26 @@ fmHistory::fmHistory(const PlanningContext& context)
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       redo_(ControlOf<platform::Button>(*form_, "cmdRedo")),
       then_(ControlOf<platform::Button>(*form_, "cmdThen")) {
-  tools_.AddTool({kRefresh, "Refresh", "History", "Reads the history anew"});
-  tools_.AddTool({.id = kUndo, .caption = "Undo", .category = "History", .shortcut = "Ctrl+Z"});
-  tools_.AddTool({.id = kRedo, .caption = "Redo", .category = "History", .shortcut = "Ctrl+Shift+Z"});
-  tools_.AddTool({.id = kClose, .caption = "Close", .category = "History", .shortcut = "Ctrl+W"});
-  tools_.SetBar("History", {kRefresh});
-  entries_.SetColumns({{.key = "When", .caption = "When"},
-                       {.key = "Who", .caption = "Who"},
-                       {.key = "Calendar", .caption = "Calendar"},
-                       {.key = "Change", .caption = "What", .stretches = true}});
-  entries_.SetEmptyText("Nothing was changed.");
-  changes_.SetColumns({{.key = "What", .caption = "What"},
-                       {.key = "Before", .caption = "Before", .stretches = true},
-                       {.key = "After", .caption = "After", .stretches = true}});
-  changes_.SetEmptyText("Everything stayed as it was.");
-  persons_.AddItem("Everybody", kEverybody);
-  persons_.AddItem("Me", kMine);
+  tools_.AddTool(
+      Said(platform_, platform::ToolDesign{kRefresh, "Refresh", "History", "Reads the history anew"}));
+  tools_.AddTool(
+      {.id = kUndo, .caption = Said(platform_, "Undo"), .category = "History", .shortcut = "Ctrl+Z"});
+  tools_.AddTool(
+      {.id = kRedo, .caption = Said(platform_, "Redo"), .category = "History", .shortcut = "Ctrl+Shift+Z"});
+  tools_.AddTool(
+      {.id = kClose, .caption = Said(platform_, "Close"), .category = "History", .shortcut = "Ctrl+W"});
+  tools_.SetBar(Said(platform_, "History"), {kRefresh});
+  entries_.SetColumns({{.key = "When", .caption = Said(platform_, "When")},
+                       {.key = "Who", .caption = Said(platform_, "Who")},
+                       {.key = "Calendar", .caption = Said(platform_, "Calendar")},
+                       {.key = "Change", .caption = Said(platform_, "What"), .stretches = true}});
+  entries_.SetEmptyText(Said(platform_, "Nothing was changed."));
+  changes_.SetColumns({{.key = "What", .caption = Said(platform_, "What")},
+                       {.key = "Before", .caption = Said(platform_, "Before"), .stretches = true},
+                       {.key = "After", .caption = Said(platform_, "After"), .stretches = true}});
+  changes_.SetEmptyText(Said(platform_, "Everything stayed as it was."));
+  persons_.AddItem(Said(platform_, "Everybody"), kEverybody);
+  persons_.AddItem(Said(platform_, "Me"), kMine);
   persons_.Choose(0);
   FillCalendarList();
 }
@@ -126,7 +131,7 @@ void fmHistory::FillCalendarList() {
 }
 
 void fmHistory::AddChoice(const HistoryFilter& filter) {
-  std::string text = "All";
+  std::string text = Said(platform_, "All");
   if (filter.currency && filter.year) {
     const auto* const currency = list_.Currencies().Find(*filter.currency);
     const std::string code = currency != nullptr ? currency->code : std::to_string(*filter.currency);
@@ -245,7 +250,10 @@ void fmHistory::ShowLines() {
       return platform::TableCell{.text = std::move(text), .tone = tone};
     };
     std::string sentence = line.told.Sentence();
-    if (is_undone) sentence += line.told.IsDoing() ? " (undone)" : " (redone)";
+    if (is_undone) {
+      sentence = line.told.IsDoing() ? Said(platform_, "%1 (undone)", {sentence})
+                                     : Said(platform_, "%1 (redone)", {sentence});
+    }
     rows.push_back({.key = std::to_string(line.entry.id),
                     .cells = {cell(planning::LocalMoment(line.entry.moment)), cell(line.entry.user),
                               cell(line.calendar), cell(std::move(sentence))}});
@@ -291,10 +299,11 @@ void fmHistory::ShowStep(const HistoryList::Line* line) {
   const auto show = [&](platform::Button& button, const std::string& caption, UndoStep::Kind kind) {
     const bool is_offered = step && step->kind == kind;
     button.SetEnabled(is_offered);
-    button.SetCaption(is_offered ? caption + ": " + Shortened(line->told.change) : caption);
+    button.SetCaption(is_offered ? Said(platform_, "%1: %2", {caption, Shortened(line->told.change)})
+                                 : caption);
   };
-  show(undo_, "Undo", UndoStep::Kind::kUndo);
-  show(redo_, "Redo", UndoStep::Kind::kRedo);
+  show(undo_, Said(platform_, "Undo"), UndoStep::Kind::kUndo);
+  show(redo_, Said(platform_, "Redo"), UndoStep::Kind::kRedo);
   tools_.SetToolEnabled(kUndo, undo_.Enabled());
   tools_.SetToolEnabled(kRedo, redo_.Enabled());
 }

@@ -1,6 +1,7 @@
 #include "ferrowind/views/planning/history_tools.h"
 
 #include "ferrowind/data/confirm.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
@@ -87,12 +88,14 @@ void HistoryTools::OpenDayHistory() {
 
 void HistoryTools::RefreshUndo() {
   const auto calendar = scene_.OnShow();
-  std::string description = kUndoes;
+  std::string description = Said(context_.platform, kUndoes);
   bool can_undo = false;
   try {
     const auto own = calendar ? Teller().OwnLastChange(*calendar) : std::nullopt;
     can_undo = own.has_value();
-    if (own) description += ": " + own->told.change;
+    if (own) {
+      description = Said(context_.platform, "%1: %2", {description, own->told.change});
+    }
   } catch (const platform::Failure&) {
     // The days are what the operator asked for; the tool tells what is wrong when it is used.
     can_undo = true;
@@ -108,11 +111,12 @@ void HistoryTools::Undo() {
   const auto own = teller.OwnLastChange(*calendar);
   const std::string name = calendar->currency + " " + std::to_string(calendar->year);
   if (!own) {
-    Tell("There is no change of " + name + " of yours to undo.");
+    Tell(Said(context_.platform, "There is no change of %1 of yours to undo.", {name}));
     return RefreshUndo();
   }
-  if (Confirm(context_.platform.toolkit, "Undo", "Undo in " + name + ": " + own->told.change + "?", 1) != 0)
-    return;
+  const platform::Platform& platform = context_.platform;
+  const std::string question = Said(platform, "Undo in %1: %2?", {name, own->told.change});
+  if (Confirm(platform.toolkit, Said(platform, "Undo"), question, 1) != 0) return;
   const auto outcome = planning::UndoEntry(own->entry);
   if (outcome.kind != planning::UndoOutcome::Kind::kDone) {
     return Tell(teller.Words().WhyNotUndone(own->entry, outcome));
@@ -121,7 +125,7 @@ void HistoryTools::Undo() {
 }
 
 void HistoryTools::Tell(const std::string& text) const {
-  (void)Confirm(context_.platform.toolkit, "Undo", text, 0);
+  (void)Confirm(context_.platform.toolkit, Said(context_.platform, "Undo"), text, 0);
 }
 
 }  // namespace ferrowind

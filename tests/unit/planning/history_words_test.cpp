@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/component_world.h"
+#include "tests/support/run_in_fresh_thread.h"
+
 namespace ferrowind::planning {
 namespace {
 
@@ -31,7 +34,12 @@ HistoryEntry OfCalendar(HistoryEntry entry) {
 
 /// Told without a database: no entry is found.
 std::string Told(const HistoryEntry& entry) {
-  return HistoryWords(kCurrencies, [](std::int32_t) { return std::nullopt; }).Tell(entry).Sentence();
+  std::string sentence;
+  testing::RunInFreshThread([&] {
+    const testing::ComponentWorld component;
+    sentence = HistoryWords(kCurrencies, [](std::int32_t) { return std::nullopt; }).Tell(entry).Sentence();
+  });
+  return sentence;
 }
 
 TEST(HistoryWords, TellANewCalendar) {
@@ -176,14 +184,17 @@ class HistoryOfUndos : public ::testing::Test {
 };
 
 TEST_F(HistoryOfUndos, TellsUndosAndRedosByWhatTheyAreOf) {
-  EXPECT_EQ(Tell(1).Sentence(), "Added the rule Sunday");
-  EXPECT_EQ(Tell(2).Sentence(), "Undid: Added the rule Sunday");
-  EXPECT_EQ(Tell(3).Sentence(), "Redid: Added the rule Sunday");
-  EXPECT_EQ(Tell(4).Sentence(), "Undid: Added the rule Sunday");
-  EXPECT_EQ(Tell(5).Sentence(), "Redid: Added the rule Sunday");
-  EXPECT_EQ(Tell(5).first, 1);
-  EXPECT_TRUE(Tell(3).IsDoing());
-  EXPECT_FALSE(Tell(4).IsDoing());
+  testing::RunInFreshThread([&] {
+    const testing::ComponentWorld component;
+    EXPECT_EQ(Tell(1).Sentence(), "Added the rule Sunday");
+    EXPECT_EQ(Tell(2).Sentence(), "Undid: Added the rule Sunday");
+    EXPECT_EQ(Tell(3).Sentence(), "Redid: Added the rule Sunday");
+    EXPECT_EQ(Tell(4).Sentence(), "Undid: Added the rule Sunday");
+    EXPECT_EQ(Tell(5).Sentence(), "Redid: Added the rule Sunday");
+    EXPECT_EQ(Tell(5).first, 1);
+    EXPECT_TRUE(Tell(3).IsDoing());
+    EXPECT_FALSE(Tell(4).IsDoing());
+  });
 }
 
 TEST_F(HistoryOfUndos, EndsWithWhatTellsNothingOlder) {
