@@ -16,11 +16,14 @@ BEGIN
 END
 $$;
 
+-- Whoever listens is told once the call is done, and not what it did: anyone who may connect may listen, and may raise the
+-- same notification. Who changed what is asked of CldGetHistory, which is for operators alone.
 CREATE OR REPLACE FUNCTION EndEntry(entry bigint, rows_changed bigint) RETURNS void
 LANGUAGE plpgsql
 AS $$
 BEGIN
   UPDATE CldHistory SET RowsChanged = rows_changed WHERE EntryID = entry;
+  NOTIFY ferrowind_change;
   PERFORM set_config('ferrowind.entry', '', true);
 END
 $$;

@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/headless/memory_engine.h"
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -25,6 +26,23 @@ class MemoryConnection : public platform::Connection {
   std::shared_ptr<MemoryDatabase> database_;
 };
 
+/// What has changed the database is in its history.
+class MemoryWatch : public platform::ChangeWatch {
+ public:
+  explicit MemoryWatch(std::shared_ptr<MemoryDatabase> database) : database_(std::move(database)) {}
+
+  [[nodiscard]] bool Look() override {
+    const std::optional<std::size_t> now = database_->History().size();
+    return std::exchange(seen_entries_, now) != now;
+  }
+  [[nodiscard]] std::chrono::milliseconds Pause() const override { return std::chrono::seconds(2); }
+
+ private:
+  std::shared_ptr<MemoryDatabase> database_;
+  /// Nothing before the first look.
+  std::optional<std::size_t> seen_entries_;
+};
+
 constexpr const char* kScheme = "memory:";
 
 }  // namespace
@@ -40,6 +58,10 @@ std::unique_ptr<platform::Connection> MemoryEngine::Connect(const std::string& c
 std::shared_ptr<platform::RecordSet> MemoryEngine::ReadDictionary(const std::string& connection_string,
                                                                   const std::string& name) {
   return DatabaseOf(connection_string)->Dictionary(name);
+}
+
+std::unique_ptr<platform::ChangeWatch> MemoryEngine::Watch(const std::string& connection_string) {
+  return std::make_unique<MemoryWatch>(DatabaseOf(connection_string));
 }
 
 std::shared_ptr<MemoryDatabase> MemoryEngine::DatabaseOf(const std::string& connection_string) const {

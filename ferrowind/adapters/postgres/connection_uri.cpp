@@ -80,4 +80,13 @@ void ConnectionUri::SetDefault(const char* keyword, const char* value) {
   if (!is_set) settings_.emplace_back(keyword, value);
 }
 
+ConnectionArguments::ConnectionArguments(const ConnectionUri& uri) {
+  for (const auto& [keyword, value] : uri.Settings()) {
+    keywords_.push_back(keyword.c_str());
+    values_.push_back(value.c_str());
+  }
+  keywords_.push_back(nullptr);
+  values_.push_back(nullptr);
+}
+
 }  // namespace ferrowind::postgres

@@ -27,4 +27,17 @@ class ConnectionUri {
   std::vector<std::pair<std::string, std::string>> settings_;
 };
 
+/// The settings of a URI as libpq's functions take them. The URI must outlive it.
+class ConnectionArguments {
+ public:
+  explicit ConnectionArguments(const ConnectionUri& uri);
+  /// Ended by null, both in the same order.
+  [[nodiscard]] const char* const* Keywords() const { return keywords_.data(); }
+  [[nodiscard]] const char* const* Values() const { return values_.data(); }
+
+ private:
+  std::vector<const char*> keywords_;
+  std::vector<const char*> values_;
+};
+
 }  // namespace ferrowind::postgres

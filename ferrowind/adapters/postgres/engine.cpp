@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/postgres/engine.h"
 
+#include "ferrowind/adapters/postgres/change_listener.h"
 #include "ferrowind/adapters/postgres/dictionary_query.h"
 #include "ferrowind/adapters/postgres/engine_connection.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
@@ -21,6 +22,10 @@ std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& c
     ServerConnection connection(connection_string);
     return ReadCurrencies(connection);
   });
+}
+
+std::unique_ptr<platform::ChangeWatch> Engine::Watch(const std::string& connection_string) {
+  return platform::WithFailuresOnly([&] { return std::make_unique<ChangeListener>(connection_string); });
 }
 
 bool IsConnectionString(const std::string& text) {

@@ -21,6 +21,7 @@ class Engine : public platform::Engine {
   [[nodiscard]] std::unique_ptr<platform::Connection> Connect(const std::string& connection_string) override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
                                                                     const std::string& name) override;
+  [[nodiscard]] std::unique_ptr<platform::ChangeWatch> Watch(const std::string& connection_string) override;
 };
 
 /// Whether `text` has a scheme of this engine's connection strings.

@@ -6,9 +6,6 @@
 namespace ferrowind::postgres {
 namespace {
 
-/// The server's notices are for nobody here; libpq would print them.
-void DropNotice(void* /*context*/, const PGresult* /*notice*/) {}
-
 QueryResult Successful(PGconn* connection, PGresult* raw) {
   QueryResult result(raw);
   const auto status = PQresultStatus(result.get());
@@ -23,17 +20,12 @@ using LibraryText = std::unique_ptr<char, MemoryFree>;
 
 }  // namespace
 
+void DropNotice(void* /*context*/, const PGresult* /*notice*/) {}
+
 ServerConnection::ServerConnection(const std::string& uri) {
   const ConnectionUri parsed(uri);
-  std::vector<const char*> keywords;
-  std::vector<const char*> values;
-  for (const auto& [keyword, value] : parsed.Settings()) {
-    keywords.push_back(keyword.c_str());
-    values.push_back(value.c_str());
-  }
-  keywords.push_back(nullptr);
-  values.push_back(nullptr);
-  connection_.reset(PQconnectdbParams(keywords.data(), values.data(), 0));
+  const ConnectionArguments arguments(parsed);
+  connection_.reset(PQconnectdbParams(arguments.Keywords(), arguments.Values(), 0));
   if (PQstatus(Get()) != CONNECTION_OK) throw ConnectFailure(Get());
   PQsetNoticeReceiver(Get(), DropNotice, nullptr);
 }

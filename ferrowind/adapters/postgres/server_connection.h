@@ -14,6 +14,9 @@ struct ResultClear {
 };
 using QueryResult = std::unique_ptr<PGresult, ResultClear>;
 
+/// Receives a server's notices, which are for nobody here; libpq would print them.
+void DropNotice(void* context, const PGresult* notice);
+
 /// An open connection to a server. Used by one thread; closed when destroyed, which undoes a transaction that
 /// is not committed. Results come in the binary format.
 class ServerConnection {

@@ -20,4 +20,8 @@ std::shared_ptr<platform::RecordSet> TransactionEngine::ReadDictionary(
   });
 }
 
+std::unique_ptr<platform::ChangeWatch> TransactionEngine::Watch(const std::string& /*connection_string*/) {
+  return nullptr;
+}
+
 }  // namespace ferrowind::postgres

@@ -21,6 +21,8 @@ class TransactionEngine : public platform::Engine {
   [[nodiscard]] std::unique_ptr<platform::Connection> Connect(const std::string& connection_string) override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
                                                                     const std::string& name) override;
+  /// Null: nobody follows a creation.
+  [[nodiscard]] std::unique_ptr<platform::ChangeWatch> Watch(const std::string& connection_string) override;
 
  private:
   std::shared_ptr<ServerConnection> connection_;

@@ -2,6 +2,7 @@
 
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/engine_connection.h"
+#include "ferrowind/adapters/sqlite/file_watch.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/result_reader.h"
 #include "ferrowind/adapters/sqlite/statement.h"
@@ -28,6 +29,11 @@ std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& c
     Statement currencies(database, "SELECT CcyID, Ccy, CcyType, Name FROM DicCcy ORDER BY Ccy");
     return ReadRecordSet(currencies);
   });
+}
+
+std::unique_ptr<platform::ChangeWatch> Engine::Watch(const std::string& connection_string) {
+  return platform::WithFailuresOnly(
+      [&] { return std::make_unique<FileWatch>(AbsolutePath(PathIn(connection_string))); });
 }
 
 DatabaseHandle Engine::Open(const std::string& connection_string) const {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/platform/database/change_watch.h"
 #include "ferrowind/platform/database/parameter.h"
 #include "ferrowind/platform/values/record_set.h"
 
@@ -48,6 +49,9 @@ class Engine {
   /// unknown dictionary is a failure that names it.
   [[nodiscard]] virtual std::shared_ptr<RecordSet> ReadDictionary(const std::string& connection_string,
                                                                   const std::string& name) = 0;
+
+  /// As `ChangeWatchFactory` says.
+  [[nodiscard]] virtual std::unique_ptr<ChangeWatch> Watch(const std::string& connection_string) = 0;
 };
 
 }  // namespace ferrowind::platform

@@ -47,6 +47,8 @@ class RecordingEngine : public platform::Engine {
     return dictionary->Clone();
   }
 
+  std::unique_ptr<platform::ChangeWatch> Watch(const std::string&) override { return nullptr; }
+
  private:
   class RecordingConnection : public platform::Connection {
    public:

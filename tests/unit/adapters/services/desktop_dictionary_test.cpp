@@ -25,6 +25,9 @@ class DictionaryEngine : public platform::Engine {
                                         {std::int32_t{840}, "USD", std::int16_t{0}},
                                         {std::int32_t{959}, "XAU", std::int16_t{1}}});
   }
+  std::unique_ptr<platform::ChangeWatch> Watch(const std::string& /*connection_string*/) override {
+    return nullptr;
+  }
   std::string asked_;
 };
 

@@ -28,6 +28,8 @@ class SmallEngine : public Engine {
     throw Failure(failure_number::kInvalidArgument, "There is no dictionary named " + name);
   }
 
+  [[nodiscard]] std::unique_ptr<ChangeWatch> Watch(const std::string&) override { return nullptr; }
+
  private:
   class SmallConnection : public Connection {
    public:

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include <libpq-fe.h>
+
+#include "ferrowind/adapters/postgres/connection_uri.h"
+#include "ferrowind/platform/database/change_watch.h"
+
+namespace ferrowind::postgres {
+
+/// A watch of a database on a server, by the notification that every changing call raises when it is done
+/// (database/postgres/functions/history_entry.sql).
+///
+/// It keeps a connection of its own, which it opens, and opens again when it is lost, step by step from look
+/// to look. What a look may wait for is the finding of a host's address, when it begins to connect.
+class ChangeListener : public platform::ChangeWatch {
+ public:
+  /// Connects as `uri` (connection_uri.h) says, beginning with the first look.
+  explicit ChangeListener(const std::string& uri) : uri_(uri) {}
+
+  [[nodiscard]] bool Look() override;
+  [[nodiscard]] std::chrono::milliseconds Pause() const override;
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  static constexpr std::chrono::milliseconds kFirstDelay = std::chrono::seconds(2);
+
+  enum class Stage {
+    kOff,
+    kConnecting,
+    /// The server has been asked to notify.
+    kAsking,
+    kListening,
+  };
+
+  struct Finish {
+    void operator()(PGconn* connection) const { PQfinish(connection); }
+  };
+
+  void BeginToConnect();
+  /// Goes on for as long as nothing is to be waited for. True once the connection stands.
+  [[nodiscard]] bool GoOnConnecting();
+  void AskToBeNotified();
+  /// Whether the server has agreed.
+  [[nodiscard]] bool IsAgreed();
+  /// Whether a notification has come.
+  [[nodiscard]] bool HasNews();
+  void TakeWhatCame();
+  /// Tries again after a while, the longer the more tries came to nothing.
+  void GiveUp();
+
+  ConnectionUri uri_;
+  std::unique_ptr<PGconn, Finish> connection_;
+  Stage stage_ = Stage::kOff;
+  /// What libpq waits for while it connects.
+  PostgresPollingStatusType waits_for_ = PGRES_POLLING_WRITING;
+  Clock::time_point next_try_ = Clock::time_point::min();
+  /// When a connection that does not come about is given up.
+  Clock::time_point deadline_;
+  std::chrono::milliseconds next_delay_ = kFirstDelay;
+};
+
+}  // namespace ferrowind::postgres

@@ -1,0 +1,67 @@
+// A watch of a file that is locked, taken away or replaced while it is watched.
+
+#include <chrono>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+#include "ferrowind/adapters/sqlite/database_handle.h"
+
+#include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/database/sqlite_database.h"
+#include "tests/contract/database/watch_looks.h"
+
+namespace ferrowind::contract {
+namespace {
+
+using ::testing::HasSubstr;
+
+class SqliteChangeWatch : public ::testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(watch_->Look()) << "the first look that reaches the database"; }
+
+  int CreateCalendar(int year) {
+    return ProcedureCaller(database_).Return("CldIUMain", {{"ID1", 978}, {"Year1", year}});
+  }
+
+  SqliteDatabase database_;
+  std::unique_ptr<platform::ChangeWatch> watch_ = database_.Engine().Watch(database_.ConnectionString());
+};
+
+TEST_F(SqliteChangeWatch, DoesNotKeepOthersFromTheWholeFile) {
+  sqlite::DatabaseHandle other(database_.Path(), std::chrono::milliseconds(0));
+  EXPECT_NO_THROW(other.Execute("BEGIN EXCLUSIVE; UPDATE CldSetting SET FirstDay = 2; COMMIT"));
+  EXPECT_TRUE(watch_->Look());
+}
+
+TEST_F(SqliteChangeWatch, DoesNotWaitForWhomeverHasLockedTheFileAndTellsOfTheChangeAfterwards) {
+  sqlite::DatabaseHandle other(database_.Path(), std::chrono::milliseconds(0));
+  other.Execute("BEGIN IMMEDIATE; UPDATE CldSetting SET FirstDay = 2");
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(watch_->Look());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+  other.Execute("COMMIT");
+  EXPECT_TRUE(watch_->Look());
+}
+
+TEST_F(SqliteChangeWatch, TellsOfChangesInAFileThatWasPutInThePlaceOfTheOld) {
+  SqliteDatabase backup;
+  std::filesystem::rename(backup.Path(), database_.Path());
+  EXPECT_TRUE(watch_->Look()) << "the backup";
+  EXPECT_FALSE(watch_->Look());
+  ASSERT_EQ(CreateCalendar(2028), 0);
+  EXPECT_TRUE(watch_->Look());
+}
+
+TEST_F(SqliteChangeWatch, SaysThatTheFileIsMissingAndTellsWhenItIsBack) {
+  const std::string elsewhere = database_.Path() + ".away";
+  std::filesystem::rename(database_.Path(), elsewhere);
+  EXPECT_THAT(FailureTextOf([&] { static_cast<void>(watch_->Look()); }), HasSubstr("there is no such file"));
+  EXPECT_FALSE(std::filesystem::exists(database_.Path())) << "a look makes no file";
+  std::filesystem::rename(elsewhere, database_.Path());
+  EXPECT_TRUE(watch_->Look());
+  EXPECT_FALSE(watch_->Look());
+}
+
+}  // namespace
+}  // namespace ferrowind::contract
