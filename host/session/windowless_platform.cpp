@@ -58,6 +58,8 @@ class NoLocale : public platform::Locale {
  public:
   [[nodiscard]] std::string MonthName(int) const override { RefuseWindow(); }
   [[nodiscard]] std::string WeekdayName(int) const override { RefuseWindow(); }
+  [[nodiscard]] std::string DateText(const platform::Date&) const override { RefuseWindow(); }
+  [[nodiscard]] platform::DateReading ReadDate(const std::string&, int) const override { RefuseWindow(); }
 };
 
 class DatabaseObjects : public platform::ObjectFactory {

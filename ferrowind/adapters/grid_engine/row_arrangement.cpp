@@ -12,6 +12,9 @@ namespace ferrowind::grid_engine {
 
 namespace {
 
+/// The place of a record that has none.
+constexpr std::uint32_t kLeftOut = std::numeric_limits<std::uint32_t>::max();
+
 /// The same codes renumbered in the order in which the records first show them.
 KeyCodes InOrderOfMeeting(const KeyCodes& sorted) {
   constexpr std::uint32_t kNotMet = std::numeric_limits<std::uint32_t>::max();
@@ -30,46 +33,82 @@ KeyCodes InOrderOfMeeting(const KeyCodes& sorted) {
 
 void RowArrangement::SetRecords(std::uint32_t record_count) {
   codes_.clear();
+  forgotten_.clear();
   group_keys_.clear();
+  meeting_codes_.clear();
+  record_count_ = record_count;
+  shown_.clear();
+  sorted_.clear();
   order_.resize(record_count);
   std::iota(order_.begin(), order_.end(), Record{0});
-  positions_.clear();
-  tree_ = GroupTree(order_, {});
+  Group({});
+}
+
+void RowArrangement::ShowOnly(const std::function<bool(Record)>& shows) {
+  if (shown_.empty() && shows) sorted_ = std::move(order_);
+  shown_.clear();
+  if (shows) {
+    shown_.resize(record_count_);
+    for (Record record = 0; record < record_count_; ++record) shown_[record] = shows(record);
+  } else if (!sorted_.empty()) {
+    order_ = std::move(sorted_);
+    sorted_.clear();
+  }
+  Group(CodesOfLevels());
 }
 
 const KeyCodes& RowArrangement::CodesOf(std::int16_t column) {
   const auto known = codes_.find(column);
   if (known != codes_.end()) return known->second;
-  return codes_.emplace(column, CodesOfColumn(values_, column, RecordCount())).first->second;
+  return codes_.emplace(column, CodesOfColumn(values_, column, record_count_)).first->second;
 }
 
 void RowArrangement::Arrange(std::span<const ArrangementKey> groups, std::span<const ArrangementKey> sorts) {
+  for (const std::int16_t column : forgotten_) codes_.erase(column);
+  forgotten_.clear();
   std::vector<SortKey> sort_keys;
-  std::vector<const std::vector<std::uint32_t>*> level_codes;
-  std::vector<std::unique_ptr<KeyCodes>> by_meeting;
+  meeting_codes_.clear();
   for (const ArrangementKey& key : groups) {
     const KeyCodes* codes = &CodesOf(key.column);
+    meeting_codes_.emplace_back();
     if (key.direction == KeyDirection::kNone) {
-      codes = by_meeting.emplace_back(std::make_unique<KeyCodes>(InOrderOfMeeting(*codes))).get();
+      codes = (meeting_codes_.back() = std::make_unique<KeyCodes>(InOrderOfMeeting(*codes))).get();
     }
     sort_keys.push_back({codes, key.direction == KeyDirection::kDescending});
-    level_codes.push_back(&codes->codes);
   }
   for (const ArrangementKey& key : sorts) {
     if (key.direction == KeyDirection::kNone) continue;
     sort_keys.push_back({&CodesOf(key.column), key.direction == KeyDirection::kDescending});
   }
-  order_ = SortRecords(RecordCount(), sort_keys);
-  positions_.clear();
+  (shown_.empty() ? order_ : sorted_) = SortRecords(record_count_, sort_keys);
   group_keys_.assign(groups.begin(), groups.end());
-  tree_ = GroupTree(order_, level_codes);
-  RestoreExpansion();
+  Group(CodesOfLevels());
   // Codes of columns that are no keys any more would only hold memory.
   std::erase_if(codes_, [&](const auto& entry) {
     const auto is_column = [&](const ArrangementKey& key) { return key.column == entry.first; };
     return std::none_of(groups.begin(), groups.end(), is_column) &&
            std::none_of(sorts.begin(), sorts.end(), is_column);
   });
+}
+
+RowArrangement::LevelCodes RowArrangement::CodesOfLevels() const {
+  LevelCodes codes;
+  for (std::size_t level = 0; level < group_keys_.size(); ++level) {
+    const auto& by_meeting = meeting_codes_[level];
+    codes.push_back(by_meeting ? &by_meeting->codes : &codes_.at(group_keys_[level].column).codes);
+  }
+  return codes;
+}
+
+void RowArrangement::Group(const LevelCodes& level_codes) {
+  if (!shown_.empty()) {
+    order_.clear();
+    std::copy_if(sorted_.begin(), sorted_.end(), std::back_inserter(order_),
+                 [this](Record record) { return shown_[record]; });
+  }
+  positions_.clear();
+  tree_ = GroupTree(order_, level_codes);
+  RestoreExpansion();
 }
 
 void RowArrangement::RestoreExpansion() {
@@ -83,22 +122,28 @@ void RowArrangement::RestoreExpansion() {
   tree_.Recount();
 }
 
-std::optional<std::uint32_t> RowArrangement::RowOfRecord(Record record) const {
-  if (tree_.LevelCount() == 0 && positions_.empty() && !order_.empty() && order_[record] == record) {
-    return record;
-  }
+std::optional<std::uint32_t> RowArrangement::PositionOf(Record record) const {
+  if (positions_.empty() && record < order_.size() && order_[record] == record) return record;
   if (positions_.empty()) {
-    positions_.resize(order_.size());
+    positions_.assign(record_count_, kLeftOut);
     for (std::uint32_t position = 0; position < order_.size(); ++position)
       positions_[order_[position]] = position;
   }
-  return tree_.RowOfPosition(positions_[record]);
+  const std::uint32_t position = positions_[record];
+  return position == kLeftOut ? std::nullopt : std::optional(position);
 }
 
-std::uint32_t RowArrangement::RowShowing(Record record) const {
-  if (const auto row = RowOfRecord(record)) return *row;
+std::optional<std::uint32_t> RowArrangement::RowOfRecord(Record record) const {
+  const auto position = PositionOf(record);
+  return position ? tree_.RowOfPosition(*position) : std::nullopt;
+}
+
+std::optional<std::uint32_t> RowArrangement::RowShowing(Record record) const {
+  const auto position = PositionOf(record);
+  if (!position) return std::nullopt;
+  if (const auto row = tree_.RowOfPosition(*position)) return row;
   for (std::uint32_t level = 0;; ++level) {
-    const GroupId group = tree_.GroupOfPosition(positions_[record], level);
+    const GroupId group = tree_.GroupOfPosition(*position, level);
     if (!tree_.IsExpanded(group)) return tree_.RowOf(group).value_or(0);
   }
 }

@@ -70,10 +70,11 @@ void HeadlessGrid::AttachRecords(std::shared_ptr<RecordSet> records) {
   current_column_ = std::min(current_column_, ColumnCount());
 
   records_ = std::move(records);
-  bookmarks_.clear();
+  attached_.clear();
   for (std::size_t i = 0; records_ != nullptr && i < records_->RowCount(); ++i) {
-    bookmarks_.push_back(records_->BookmarkAt(i));
+    attached_.push_back(records_->BookmarkAt(i));
   }
+  TakeShown();
   computed_.clear();
   sort_keys_.Drop();
   group_keys_.Drop();
@@ -83,6 +84,21 @@ void HeadlessGrid::AttachRecords(std::shared_ptr<RecordSet> records) {
   ApplyKeys();
   top_ = IdentityOf(rows_.empty() ? 0 : 1);
   MakeCurrent({});
+}
+
+void HeadlessGrid::Narrow(RowChoice choose) {
+  core_.Record("Narrow", {static_cast<bool>(choose)});
+  const auto keep = core_.Keep();
+  choose_ = std::move(choose);
+  TakeShown();
+  Rearrange();
+}
+
+void HeadlessGrid::TakeShown() {
+  bookmarks_ = attached_;
+  if (!choose_ || records_ == nullptr) return;
+  const RowCondition shows = choose_(records_);
+  std::erase_if(bookmarks_, [&](RecordSet::Bookmark bookmark) { return !shows(bookmark); });
 }
 
 void HeadlessGrid::HoldColumns() {

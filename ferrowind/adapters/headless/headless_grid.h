@@ -39,6 +39,7 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
 
   [[nodiscard]] std::shared_ptr<platform::RecordSet> Records() const override { return records_; }
   void AttachRecords(std::shared_ptr<platform::RecordSet> records) override;
+  void Narrow(RowChoice choose) override;
   void HoldColumns() override;
   void Rebind() override;
   void Refresh(bool recompute) override;
@@ -132,6 +133,8 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   [[nodiscard]] GridArrangement ShownArrangement() const;
   void ApplyKeys();
   void Rearrange();
+  /// Takes the attached records that the choice shows.
+  void TakeShown();
   [[nodiscard]] std::int32_t RowOf(const GridRowIdentity& identity) const;
   [[nodiscard]] GridRowIdentity IdentityOf(std::int32_t row) const;
   /// The row of `identity` or, when a collapsed group hides it, that group's.
@@ -151,6 +154,10 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   std::vector<std::unique_ptr<HeadlessGridColumn>> dropped_columns_;
   std::size_t held_columns_ = 0;
   std::shared_ptr<platform::RecordSet> records_;
+  /// Of the records that pass the record set's filter, at the moment of attaching it.
+  std::vector<platform::RecordSet::Bookmark> attached_;
+  /// Empty to show all of them.
+  RowChoice choose_;
   std::vector<platform::RecordSet::Bookmark> bookmarks_;
   HeadlessGridKeyList sort_keys_;
   HeadlessGridKeyList group_keys_;

@@ -1,10 +1,14 @@
 #include "ferrowind/adapters/headless/headless_locale.h"
 
+#include <algorithm>
 #include <array>
 
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::headless {
+
+using platform::Date;
+
 namespace {
 
 constexpr std::array kMonths = {"January", "February", "March",     "April",   "May",      "June",
@@ -22,5 +26,20 @@ std::string NameAt(const Names& names, int number) {
 
 std::string HeadlessLocale::MonthName(int month) const { return NameAt(kMonths, month); }
 std::string HeadlessLocale::WeekdayName(int weekday) const { return NameAt(kWeekdays, weekday); }
+
+std::string HeadlessLocale::DateText(const Date& date) const {
+  return WeekdayName(date.Weekday()).substr(0, 3) + " " + date.ToIso();
+}
+
+platform::DateReading HeadlessLocale::ReadDate(const std::string& text, int year) const {
+  constexpr std::size_t kLengthOfMonthAndDay = 5;
+  std::string iso = text.substr(std::min(text.find_last_of(' ') + 1, text.size()));
+  if (iso.size() == kLengthOfMonthAndDay) iso = Date(year, 1, 1).ToIso().substr(0, 5) + iso;
+  const auto date = Date::FromIso(iso);
+  if (!date || (text.find(' ') != std::string::npos && text != DateText(*date))) {
+    return {.refusal = "This is no date. Write one such as 2028-12-31."};
+  }
+  return {.date = date};
+}
 
 }  // namespace ferrowind::headless

@@ -1,10 +1,20 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::platform {
 
-/// Names in the operator's language.
+/// What a typed text means as a date.
+struct DateReading {
+  std::optional<Date> date = {};
+  /// Why the text is none, for the operator; empty when there is a date.
+  std::string refusal = {};
+};
+
+/// Names and dates in the operator's language.
 class Locale {
  public:
   virtual ~Locale() = default;
@@ -14,6 +24,14 @@ class Locale {
   /// The full name of the weekday 1 (Sunday) to 7 (Saturday). Any other number is the failure Invalid
   /// argument.
   [[nodiscard]] virtual std::string WeekdayName(int weekday) const = 0;
+
+  /// A date as it is shown where there is little room: in the short form of the language, with the weekday's
+  /// short name and all four digits of the year ("Fri 14/04/2028").
+  [[nodiscard]] virtual std::string DateText(const Date& date) const = 0;
+  /// Reads a date as people of that language write it, and as `DateText` and ISO 8601 do; one without a year
+  /// is in `year`. A text that could be two dates, or none, is refused: it is never completed, cut or
+  /// corrected.
+  [[nodiscard]] virtual DateReading ReadDate(const std::string& text, int year) const = 0;
 };
 
 }  // namespace ferrowind::platform

@@ -50,6 +50,15 @@ class Grid : public Control {
   /// selection. The grid shows the rows that pass the record set's filter at this moment and never moves its
   /// cursor itself. Columns that `HoldColumns` did not hold are dropped as well.
   virtual void AttachRecords(std::shared_ptr<RecordSet> records) = 0;
+  /// Whether the record of that bookmark is to be shown.
+  using RowCondition = std::function<bool(RecordSet::Bookmark bookmark)>;
+  /// Gives the condition for the record set, which is not null.
+  using RowChoice = std::function<RowCondition(const std::shared_ptr<RecordSet>& records)>;
+  /// Leaves out the rows of the records for which a condition is false, and groups without any other row.
+  /// `choose` is asked for the condition of the record set of now, and of every one that is attached later;
+  /// an empty choice leaves out none. Neither changes anything of the grid, and neither fails. Keys, expanded
+  /// groups, the current row, the selection and the first visible row stay as far as their rows are on show.
+  virtual void Narrow(RowChoice choose) = 0;
   /// Makes the columns of now survive the next change of record set.
   virtual void HoldColumns() = 0;
   /// Binds the columns to the fields of the record set of now and shows its rows from the first one. No row

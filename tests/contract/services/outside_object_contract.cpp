@@ -118,6 +118,28 @@ TEST_F(LocaleContract, NamesEveryMonthAndWeekdayDifferently) {
   EXPECT_FALSE(weekdays.contains(""));
 }
 
+TEST_F(LocaleContract, WritesADateWithItsWeekdayAndAllOfItsYear) {
+  const std::string friday = under_test->Locale().DateText(Date(2028, 4, 14));
+  EXPECT_THAT(friday, testing::AllOf(testing::HasSubstr("2028"), testing::HasSubstr("14")));
+  EXPECT_NE(friday.substr(0, 3), under_test->Locale().DateText(Date(2028, 4, 15)).substr(0, 3));
+}
+
+TEST_F(LocaleContract, ReadsTheDatesThatItWritesAndThoseOfIso8601) {
+  for (const Date date : {Date(2028, 4, 14), Date(2028, 2, 29), Date(1999, 12, 31)}) {
+    EXPECT_EQ(under_test->Locale().ReadDate(under_test->Locale().DateText(date), 2026).date, date);
+    EXPECT_EQ(under_test->Locale().ReadDate(date.ToIso(), 2026).date, date);
+  }
+  EXPECT_EQ(under_test->Locale().ReadDate("04-14", 2028).date, Date(2028, 4, 14));
+}
+
+TEST_F(LocaleContract, SaysWhyATextIsNoDate) {
+  for (const std::string text : {"", "Easter", "2028-02-30", "2028-13-01", "14"}) {
+    const auto reading = under_test->Locale().ReadDate(text, 2028);
+    EXPECT_FALSE(reading.date.has_value()) << text;
+    EXPECT_NE(reading.refusal, "") << text;
+  }
+}
+
 TEST_F(LocaleContract, RefusesANumberOfNoMonthOrWeekday) {
   for (const int number : {0, -1, 13}) {
     ExpectFailure(failure_number::kInvalidArgument, "",

@@ -128,9 +128,10 @@ DateReading DateReader::InYear(const DayAndMonth& read, int year) const {
 
 DateReading DateReader::NoDate() const {
   constexpr DayAndMonth kExample{31, 12};
-  return {.refusal =
-              QStringLiteral("This is no date. Write a day and a month without a year, such as %1 or %2.")
-                  .arg(Named(kExample), numbers_.Written(kExample.day, kExample.month))};
+  return {
+      .refusal = QStringLiteral("This is no date. Write a day and a month without a year, such as %1 or %2.")
+                     .arg(Named(kExample), numbers_.Written(kExample.day, kExample.month)),
+      .is_another_text = true};
 }
 
 DateReading DateReader::TwoDays(const QString& typed, const DayAndMonth& one,

@@ -17,6 +17,8 @@ struct DateReading {
   QDate date = {};
   /// A sentence or two for the operator; empty when there is a date.
   QString refusal = {};
+  /// The text has not the form of a date at all; else it has, of one that is none or of two.
+  bool is_another_text = false;
 };
 
 /// Reads a day and a month without a year as an operator writes them in one locale: "31 December",

@@ -31,6 +31,21 @@ void GridContent::Attach(std::shared_ptr<platform::RecordSet> records) {
   group_keys_.Clear();
   cells_.Attach(std::move(records));
   rows_.SetRecords(cells_.RecordCount());
+  if (choose_) LeaveOutRows();
+}
+
+void GridContent::Narrow(platform::Grid::RowChoice choose) {
+  choose_ = std::move(choose);
+  LeaveOutRows();
+}
+
+void GridContent::LeaveOutRows() {
+  if (choose_ && cells_.Records()) {
+    const auto shows = choose_(cells_.Records());
+    rows_.ShowOnly([&](Record record) { return shows(cells_.BookmarkOf(record)); });
+  } else {
+    rows_.ShowOnly({});
+  }
 }
 
 void GridContent::Rebind() {

@@ -12,6 +12,7 @@
 #include "ferrowind/adapters/qt/grid/qt_grid_key_list.h"
 #include "ferrowind/adapters/qt/grid/row_formats.h"
 #include "ferrowind/adapters/qt/grid/row_identity.h"
+#include "ferrowind/platform/toolkit/grid.h"
 
 namespace ferrowind::qt {
 
@@ -50,6 +51,8 @@ class GridContent {
 
   /// Takes another record set and drops all keys and the columns that were not held.
   void Attach(std::shared_ptr<platform::RecordSet> records);
+  /// As `platform::Grid::Narrow`.
+  void Narrow(platform::Grid::RowChoice choose);
   void Rebind();
   /// Sorts and groups by the keys of now.
   void Arrange(bool recompute);
@@ -66,6 +69,8 @@ class GridContent {
   [[nodiscard]] std::optional<std::uint32_t> RowShowing(const RowIdentity& identity) const;
 
  private:
+  void LeaveOutRows();
+
   Listener listener_;
   GridColumns columns_;
   GridCells cells_;
@@ -73,6 +78,8 @@ class GridContent {
   QtGridKeyList group_keys_;
   RowFormats formats_;
   grid_engine::RowArrangement rows_;
+  /// Empty to show all records.
+  platform::Grid::RowChoice choose_;
 };
 
 }  // namespace ferrowind::qt

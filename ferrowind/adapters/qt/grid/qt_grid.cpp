@@ -112,6 +112,11 @@ void QtGrid::AttachRecords(std::shared_ptr<RecordSet> records) {
   NoteCurrentRow();
 }
 
+void QtGrid::Narrow(RowChoice choose) {
+  KeepRowsDuring([&] { model_->Reset([&] { content_.Narrow(std::move(choose)); }); });
+  NoteCurrentRow();
+}
+
 void QtGrid::Rebind() {
   if (is_stale_) {
     RearrangeRows([this] { content_.Rebind(); });

@@ -42,6 +42,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   [[nodiscard]] platform::GridColumn& ColumnAt(std::int32_t index) override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> Records() const override;
   void AttachRecords(std::shared_ptr<platform::RecordSet> records) override;
+  void Narrow(RowChoice choose) override;
   void HoldColumns() override;
   void Rebind() override;
   void Refresh(bool recompute) override;

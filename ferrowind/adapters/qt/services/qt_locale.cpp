@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/qt/services/qt_locale.h"
 
+#include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -14,6 +15,18 @@ std::string QtLocale::WeekdayName(int weekday) const {
   if (weekday < 1 || weekday > 7) throw platform::InvalidArgument();
   // Qt counts from Monday and has Sunday as 7.
   return FromQt(locale_.standaloneDayName(weekday == 1 ? 7 : weekday - 1, QLocale::LongFormat));
+}
+
+std::string QtLocale::DateText(const platform::Date& date) const {
+  const QDate day = ToQt(date);
+  return FromQt(locale_.dayName(day.dayOfWeek(), QLocale::ShortFormat) + QLatin1Char(' ') +
+                ShortDate(day, locale_));
+}
+
+platform::DateReading QtLocale::ReadDate(const std::string& text, int year) const {
+  const DateReading read = dates_.Read(ToQt(text), year);
+  if (!read.date.isValid()) return {.refusal = FromQt(read.refusal)};
+  return {.date = FromQt(read.date)};
 }
 
 }  // namespace ferrowind::qt

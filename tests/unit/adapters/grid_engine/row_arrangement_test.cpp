@@ -194,5 +194,52 @@ TEST(RowArrangement, AgreesWithComparingAllValues) {
   }
 }
 
+TEST_F(RowArrangementTest, LeavesRecordsOutAndTakesThemBackIn) {
+  Arrange({}, {kByName});
+  ASSERT_EQ(Shown(), (Texts{"1", "3", "0", "2", "4"}));
+  rows_.ShowOnly([](Record record) { return record >= 2; });
+  EXPECT_EQ(Shown(), (Texts{"3", "2", "4"}));
+  EXPECT_EQ(rows_.RecordCount(), 5U);
+  EXPECT_EQ(rows_.RowOfRecord(2), 1U);
+  EXPECT_FALSE(rows_.RowOfRecord(0).has_value());
+  EXPECT_FALSE(rows_.RowShowing(1).has_value());
+  rows_.ShowOnly([](Record record) { return record < 2; });
+  EXPECT_EQ(Shown(), (Texts{"1", "0"})) << "one that was left out before";
+  rows_.ShowOnly({});
+  EXPECT_EQ(Shown(), (Texts{"1", "3", "0", "2", "4"}));
+}
+
+TEST_F(RowArrangementTest, LeavesOutGroupsWithoutAShownRecordAndKeepsTheOthersCollapsed) {
+  Arrange({kByType}, {kByName});
+  rows_.SetExpanded({0, 1}, false);
+  ASSERT_EQ(Shown(), (Texts{"g1", "1", "3", "g2", "g3", "4"}));
+  rows_.ShowOnly([](Record record) { return record == 0 || record == 3; });
+  EXPECT_EQ(Shown(), (Texts{"g1", "3", "g2"}));
+  EXPECT_EQ(rows_.RecordCountOf({0, 0}), 1U);
+  EXPECT_EQ(rows_.RowShowing(0), 2U);
+  EXPECT_FALSE(rows_.RowShowing(2).has_value());
+  rows_.ShowOnly({});
+  EXPECT_EQ(Shown(), (Texts{"g1", "1", "3", "g2", "g3", "4"}));
+}
+
+TEST_F(RowArrangementTest, StillLeavesRecordsOutUnderOtherKeys) {
+  rows_.ShowOnly([](Record record) { return record != 4; });
+  Arrange({{2, KeyDirection::kNone}}, {{1, KeyDirection::kDescending}});
+  EXPECT_EQ(Shown(), (Texts{"g2", "2", "0", "g1", "1", "3"}));
+  rows_.ForgetColumn(2);
+  rows_.ShowOnly([](Record record) { return record == 4 || record == 1; });
+  EXPECT_EQ(Shown(), (Texts{"g1", "1", "g3", "4"})) << "by the codes that the rows were grouped by";
+  Arrange({}, {});
+  EXPECT_EQ(Shown(), (Texts{"1", "4"}));
+}
+
+TEST_F(RowArrangementTest, ShowsNothingWhenAllRecordsAreLeftOut) {
+  Arrange({kByType}, {});
+  rows_.ShowOnly([](Record) { return false; });
+  EXPECT_EQ(rows_.RowCount(), 0U);
+  rows_.SetRecords(3);
+  EXPECT_EQ(rows_.RowCount(), 3U) << "other records are all shown";
+}
+
 }  // namespace
 }  // namespace ferrowind::grid_engine
