@@ -156,7 +156,7 @@ class Photographer:
         self.session.keys('Right', 'Down')
         self.story.wait_rows(CALENDARS, 365)
         self.session.keys('Tab')
-        self.story.go_to_day('1 May 2026')
+        self.story.go_to_day('1 May 2026 Fri')
         self.take(name)
 
     def take_grouped(self, name):
@@ -171,6 +171,19 @@ class Photographer:
         april_holidays = 8
         self.session.keys('Down', 'Down', 'Right', *['Down'] * (april_holidays + 1), 'Right')
         self.take(name)
+
+    def take_finding(self):
+        """What is left of a year, and what a typed date means; behind the pictures of the Calendars window."""
+        self.session.keys('ctrl+f')
+        self.session.type('easter')
+        self.story.wait_rows(CALENDARS, 2)
+        self.take('guide-find')
+        self.session.keys('Escape', 'ctrl+d')
+        self.story.wait_active('Go to date')
+        self.session.type('14 April')
+        self.studio.take('guide-go-to-date', self.session, 'Go to date')
+        self.session.keys('Escape')
+        self.story.wait_active(CALENDARS)
 
     def take_year_plan(self, theme):
         """Of a calendar that was just created."""
@@ -237,7 +250,7 @@ def main():
         studio = Studio(pathlib.Path(folder))
         try:
             for take in (lambda user: user.take_calendars('dark', 'calendars-dark'),
-                         lambda user: (user.take_calendars('light', 'calendars-light'),
+                         lambda user: (user.take_calendars('light', 'calendars-light'), user.take_finding(),
                                        user.take_grouped('calendars-grouped')),
                          lambda user: user.take_board('dark'),
                          lambda user: user.take_board('light'),

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "ferrowind/platform/additions/additions.h"
+#include "ferrowind/platform/database/change_watch.h"
 #include "ferrowind/platform/database/command.h"
 #include "ferrowind/platform/services/action_observer.h"
 #include "ferrowind/platform/services/clock.h"
@@ -33,6 +34,8 @@ struct Platform {
   Additions* additions = nullptr;
   /// The component's texts in the operator's language; null for English.
   const Words* words = nullptr;
+  /// By which windows learn that somebody else changed the database; null for a host whose windows need not.
+  ChangeWatchFactory* change_watches = nullptr;
 };
 
 }  // namespace ferrowind::platform

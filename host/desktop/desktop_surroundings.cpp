@@ -11,6 +11,7 @@
 #include "ferrowind/adapters/services/object_makers.h"
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/platform/database/engine_change_watch.h"
 #include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/views/planning/planning_additions.h"
 
@@ -35,6 +36,7 @@ struct DesktopSurroundings::Parts {
     });
     platform.additions = &additions;
     platform.words = &words;
+    platform.change_watches = &change_watches;
   }
 
   void RegisterIn(platform::EngineRegistry& registry, std::shared_ptr<platform::Engine> files) {
@@ -51,6 +53,7 @@ struct DesktopSurroundings::Parts {
   platform::EngineRegistry engines;
   platform::EngineRegistry engines_of_component;
   platform::EngineCommandFactory commands{engines_of_component};
+  platform::EngineChangeWatchFactory change_watches{engines};
   ObjectMakers objects;
   qt::QtToolkit toolkit;
   qt::QtLocale locale;

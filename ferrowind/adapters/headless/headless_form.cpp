@@ -405,7 +405,7 @@ void HeadlessForm::PressEscape() {
   RequireInput(CallText(Name(), "PressEscape"));
   Log().Record("operator." + CallText(Name(), "PressEscape"));
   for (const auto& control : design_.controls) {
-    if (control.is_cancel_button) return PressButton(control.name);
+    if (control.is_cancel_button && ControlNamed(control.name).Visible()) return PressButton(control.name);
   }
   if (design_.closes_by_escape) Close();
 }

@@ -1,6 +1,5 @@
 #include "ferrowind/adapters/headless/headless_locale.h"
 
-#include <algorithm>
 #include <array>
 
 #include "ferrowind/platform/values/failure.h"
@@ -28,12 +27,12 @@ std::string HeadlessLocale::MonthName(int month) const { return NameAt(kMonths, 
 std::string HeadlessLocale::WeekdayName(int weekday) const { return NameAt(kWeekdays, weekday); }
 
 std::string HeadlessLocale::DateText(const Date& date) const {
-  return WeekdayName(date.Weekday()).substr(0, 3) + " " + date.ToIso();
+  return date.ToIso() + " " + WeekdayName(date.Weekday()).substr(0, 3);
 }
 
 platform::DateReading HeadlessLocale::ReadDate(const std::string& text, int year) const {
   constexpr std::size_t kLengthOfMonthAndDay = 5;
-  std::string iso = text.substr(std::min(text.find_last_of(' ') + 1, text.size()));
+  std::string iso = text.substr(0, text.find(' '));
   if (iso.size() == kLengthOfMonthAndDay) iso = Date(year, 1, 1).ToIso().substr(0, 5) + iso;
   const auto date = Date::FromIso(iso);
   if (!date || (text.find(' ') != std::string::npos && text != DateText(*date))) {

@@ -11,7 +11,7 @@ class HeadlessLocale : public platform::Locale {
  public:
   [[nodiscard]] std::string MonthName(int month) const override;
   [[nodiscard]] std::string WeekdayName(int weekday) const override;
-  /// "Fri 2028-04-14".
+  /// "2028-04-14 Fri".
   [[nodiscard]] std::string DateText(const platform::Date& date) const override;
   /// Reads what `DateText` writes, without the weekday or the year, too: "2028-04-14", "04-14".
   [[nodiscard]] platform::DateReading ReadDate(const std::string& text, int year) const override;

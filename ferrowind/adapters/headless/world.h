@@ -4,6 +4,7 @@
 
 #include "ferrowind/adapters/headless/call_log.h"
 #include "ferrowind/adapters/headless/fault_plan.h"
+#include "ferrowind/adapters/headless/faulty_change_watch.h"
 #include "ferrowind/adapters/headless/faulty_command_factory.h"
 #include "ferrowind/adapters/headless/faulty_toolkit.h"
 #include "ferrowind/adapters/headless/headless_clock.h"
@@ -15,6 +16,7 @@
 #include "ferrowind/adapters/headless/memory_engine.h"
 #include "ferrowind/adapters/headless/script_errors.h"
 #include "ferrowind/adapters/headless/scripted_command_factory.h"
+#include "ferrowind/platform/database/engine_change_watch.h"
 #include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/platform/platform.h"
 
@@ -40,6 +42,8 @@ class World {
   /// its connection string and its currencies; "CldAllInfo" and the other procedures change and read its
   /// tables.
   [[nodiscard]] platform::Platform PlatformOnMemory();
+  /// Watches of the memory database, for a platform whose windows are to follow it.
+  [[nodiscard]] platform::ChangeWatchFactory& ChangeWatches() { return faulty_change_watches_; }
 
   CallLog log;
   ScriptErrors script_errors;
@@ -63,6 +67,8 @@ class World {
   platform::EngineRegistry engines_;
   platform::EngineCommandFactory engine_commands_{engines_};
   FaultyCommandFactory faulty_engine_commands_{engine_commands_, faults};
+  platform::EngineChangeWatchFactory change_watches_{engines_};
+  FaultyChangeWatchFactory faulty_change_watches_{change_watches_, faults};
 };
 
 }  // namespace ferrowind::headless

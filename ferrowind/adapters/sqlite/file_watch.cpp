@@ -1,11 +1,9 @@
 #include "ferrowind/adapters/sqlite/file_watch.h"
 
-#include <chrono>
-#include <utility>
-
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/failure.h"
@@ -13,7 +11,13 @@
 namespace ferrowind::sqlite {
 namespace {
 
+using std::chrono::nanoseconds;
+using std::chrono::seconds;
+using std::chrono::system_clock;
+
 constexpr std::chrono::milliseconds kNoWaiting{0};
+/// Longer than the steps in which a file system tells times.
+constexpr seconds kOldAfter{2};
 
 bool MeansLocked(const platform::Failure& failure) { return (failure.Number() & 0xFF) == SQLITE_BUSY; }
 
@@ -21,36 +25,51 @@ bool MeansLocked(const platform::Failure& failure) { return (failure.Number() & 
 
 bool FileWatch::Look() {
   return platform::WithFailuresOnly([&] {
-    // A backup that was put in its place is another file, which an open connection would never notice.
-    const auto file = FileAtPath();
-    if (!database_ || file != file_) {
-      version_.reset();
-      database_.reset();
-      database_.emplace(path_, kNoWaiting);
-      file_ = file;
-    }
+    const auto traces = TracesNow();
+    if (traces && seen_ && seen_->were_old && *traces == seen_->traces) return false;
     try {
-      const std::optional<std::int64_t> now = DataVersion();
-      return std::exchange(version_, now) != now;
+      // What is read now may be newer than the traces, never older.
+      const std::int64_t newest_entry = NewestEntry();
+      const bool is_changed =
+          !seen_ || !traces || !traces->IsSameFileAs(seen_->traces) || newest_entry != seen_->newest_entry;
+      if (traces) seen_ = Seen{*traces, traces->AreOld(), newest_entry};
+      return is_changed;
     } catch (const platform::Failure& failure) {
       // Somebody is changing it just now; the next look tells.
       if (MeansLocked(failure)) return false;
-      database_.reset();
+      seen_.reset();
       throw;
     }
   });
 }
 
-std::optional<FileWatch::FileIdentity> FileWatch::FileAtPath() const {
-  struct stat status {};
-  if (stat(path_.c_str(), &status) != 0) return std::nullopt;
-  return FileIdentity{status.st_dev, status.st_ino};
+bool FileWatch::Traces::AreOld() const {
+  const auto now = std::chrono::duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
+  const auto is_old = [&](const Trace& trace) { return now - nanoseconds(trace.written) > kOldAfter; };
+  return is_old(file) && (!log || is_old(*log));
 }
 
-std::int64_t FileWatch::DataVersion() const {
-  Statement version(*database_, "PRAGMA data_version");
-  version.Step();
-  return version.Integer(0);
+std::optional<FileWatch::Trace> FileWatch::TraceOf(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) return std::nullopt;
+  const auto written = nanoseconds(seconds(status.st_mtim.tv_sec)) + nanoseconds(status.st_mtim.tv_nsec);
+  return Trace{status.st_dev, status.st_ino, status.st_size, written.count()};
+}
+
+std::optional<FileWatch::Traces> FileWatch::TracesNow() const {
+  const auto file = TraceOf(path_);
+  if (!file) return std::nullopt;
+  Traces traces{*file, TraceOf(path_ + "-wal")};
+  // Readers, too, make one that stays empty.
+  if (traces.log && traces.log->size == 0) traces.log.reset();
+  return traces;
+}
+
+std::int64_t FileWatch::NewestEntry() const {
+  const DatabaseHandle database(path_, kNoWaiting);
+  Statement newest(database, "SELECT max(EntryID) FROM CldHistory");
+  newest.Step();
+  return newest.Integer(0);
 }
 
 }  // namespace ferrowind::sqlite

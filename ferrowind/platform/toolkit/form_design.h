@@ -70,7 +70,7 @@ struct FormDesign {
   float client_width = 0;
   float client_height = 0;
   /// Whether Esc closes the form as its close box does, when neither the focused control nor a cancel button
-  /// takes the key.
+  /// on show takes the key.
   bool closes_by_escape = false;
   /// In tab order.
   std::vector<ControlDesign> controls = {};

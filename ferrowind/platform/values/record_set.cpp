@@ -106,4 +106,14 @@ RecordSet::Bookmark RecordSet::BookmarkAt(std::size_t position) const {
   return visible_ ? (*visible_)[position] + 1 : static_cast<Bookmark>(position + 1);
 }
 
+bool RecordSet::ShowsTheSameAs(const RecordSet& other) const {
+  if (rows_->fields != other.rows_->fields || RowCount() != other.RowCount()) return false;
+  for (std::size_t position = 0; position < RowCount(); ++position) {
+    for (std::size_t field = 0; field < FieldCount(); ++field) {
+      if (!(Cell(BookmarkAt(position), field) == other.Cell(other.BookmarkAt(position), field))) return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace ferrowind::platform

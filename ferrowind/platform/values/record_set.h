@@ -81,6 +81,9 @@ class RecordSet {
     return rows_->Cell(static_cast<std::size_t>(bookmark) - 1, field);
   }
 
+  /// Whether the other shows the same values in the same fields of the same visible rows.
+  [[nodiscard]] bool ShowsTheSameAs(const RecordSet& other) const;
+
  private:
   std::shared_ptr<const RecordRows> rows_;
   std::string filter_;

@@ -5,13 +5,18 @@
 
 #include "ferrowind/views/planning/assignment_check.h"
 #include "ferrowind/views/planning/calendars_addition_list.h"
+#include "ferrowind/views/planning/day_dates.h"
+#include "ferrowind/views/planning/day_finder.h"
+#include "ferrowind/views/planning/follow_bar.h"
 #include "ferrowind/views/planning/history_tools.h"
 #include "ferrowind/views/planning/holidays_addition_list.h"
 #include "ferrowind/views/planning/holidays_caption.h"
 #include "ferrowind/views/planning/plan_year_tool.h"
 #include "ferrowind/views/planning/refreshed_calendars.h"
 #include "ferrowind/views/planning/rule_book_tool.h"
+#include "ferrowind/views/planning/rule_finder.h"
 #include "ferrowind/views/planning/rules_of_calendar.h"
+#include "ferrowind/views/planning/stored_view.h"
 #include "ferrowind/views/planning/why_pane.h"
 
 namespace ferrowind {
@@ -40,13 +45,15 @@ constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platfor
 
 // The order of their controls and tools.
 constexpr std::array kCalendarsAdditions{
-    Calendars<RefreshedCalendars>, Calendars<PlanYearTool>, Calendars<RuleBookTool>,
-    Calendars<HistoryTools>,       Calendars<WhyPane>,
+    Calendars<RefreshedCalendars>, Calendars<DayDates>,     Calendars<FollowBar>,
+    Calendars<DayFinder>,          Calendars<PlanYearTool>, Calendars<RuleBookTool>,
+    Calendars<HistoryTools>,       Calendars<WhyPane>,      Calendars<StoredView>,
 };
 constexpr std::array kHolidaysAdditions{
     Holidays<HolidaysCaption>,
     Holidays<RulesOfCalendar>,
     Holidays<AssignmentCheck>,
+    Holidays<RuleFinder>,
 };
 
 template <typename Entries>

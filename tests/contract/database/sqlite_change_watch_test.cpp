@@ -28,20 +28,41 @@ class SqliteChangeWatch : public ::testing::Test {
   std::unique_ptr<platform::ChangeWatch> watch_ = database_.Engine().Watch(database_.ConnectionString());
 };
 
-TEST_F(SqliteChangeWatch, DoesNotKeepOthersFromTheWholeFile) {
-  sqlite::DatabaseHandle other(database_.Path(), std::chrono::milliseconds(0));
-  EXPECT_NO_THROW(other.Execute("BEGIN EXCLUSIVE; UPDATE CldSetting SET FirstDay = 2; COMMIT"));
+/// A backup that took the file's place would otherwise take over the changes of the old one.
+TEST_F(SqliteChangeWatch, LeavesNothingBesideTheFile) {
+  ASSERT_EQ(CreateCalendar(2028), 0);
   EXPECT_TRUE(watch_->Look());
+  EXPECT_FALSE(std::filesystem::exists(database_.Path() + "-wal"));
 }
 
 TEST_F(SqliteChangeWatch, DoesNotWaitForWhomeverHasLockedTheFileAndTellsOfTheChangeAfterwards) {
-  sqlite::DatabaseHandle other(database_.Path(), std::chrono::milliseconds(0));
-  other.Execute("BEGIN IMMEDIATE; UPDATE CldSetting SET FirstDay = 2");
-  const auto start = std::chrono::steady_clock::now();
-  EXPECT_FALSE(watch_->Look());
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
-  other.Execute("COMMIT");
+  ASSERT_EQ(CreateCalendar(2028), 0);
+  {
+    sqlite::DatabaseHandle other(database_.Path(), std::chrono::milliseconds(0));
+    other.Execute("PRAGMA locking_mode = EXCLUSIVE; BEGIN IMMEDIATE; UPDATE CldSetting SET FirstDay = 2");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(watch_->Look());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+    other.Execute("COMMIT");
+  }
   EXPECT_TRUE(watch_->Look());
+}
+
+/// Traces that are as old as can be still tell of a change that follows.
+TEST_F(SqliteChangeWatch, TellsOfAChangeAfterALongTimeWithoutAny) {
+  std::filesystem::last_write_time(database_.Path(),
+                                   std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  EXPECT_FALSE(watch_->Look());
+  EXPECT_FALSE(watch_->Look());
+  ASSERT_EQ(CreateCalendar(2028), 0);
+  EXPECT_TRUE(watch_->Look());
+  EXPECT_FALSE(watch_->Look());
+}
+
+/// Others may have written the file, by a checkpoint or a setting of theirs.
+TEST_F(SqliteChangeWatch, TellsNothingOfAFileThatWasWrittenWithoutACall) {
+  std::filesystem::last_write_time(database_.Path(), std::filesystem::file_time_type::clock::now());
+  EXPECT_FALSE(watch_->Look());
 }
 
 TEST_F(SqliteChangeWatch, TellsOfChangesInAFileThatWasPutInThePlaceOfTheOld) {

@@ -121,7 +121,8 @@ TEST_F(LocaleContract, NamesEveryMonthAndWeekdayDifferently) {
 TEST_F(LocaleContract, WritesADateWithItsWeekdayAndAllOfItsYear) {
   const std::string friday = under_test->Locale().DateText(Date(2028, 4, 14));
   EXPECT_THAT(friday, testing::AllOf(testing::HasSubstr("2028"), testing::HasSubstr("14")));
-  EXPECT_NE(friday.substr(0, 3), under_test->Locale().DateText(Date(2028, 4, 15)).substr(0, 3));
+  const std::string saturday = under_test->Locale().DateText(Date(2028, 4, 15));
+  EXPECT_NE(friday.substr(friday.size() - 3), saturday.substr(saturday.size() - 3)) << "the weekday";
 }
 
 TEST_F(LocaleContract, ReadsTheDatesThatItWritesAndThoseOfIso8601) {

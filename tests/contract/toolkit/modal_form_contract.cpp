@@ -208,6 +208,17 @@ TEST_F(ModalFormContract, IsNotClosedByEscapeThatTheCancelButtonTakes) {
   EXPECT_THAT(notes, ElementsAre("cancel"));
 }
 
+TEST_F(ModalFormContract, IsClosedByEscapeThatAHiddenCancelButtonDoesNotTake) {
+  auto design = ContractFixedDialog();
+  design.closes_by_escape = true;
+  const auto fixed = toolkit.CreateForm(design);
+  ButtonOf(*fixed, "cmdCancel").SetVisible(false);
+  const Subscription cancel = ButtonOf(*fixed, "cmdCancel").OnClick([&] { notes.push_back("cancel"); });
+  under_test->ShowModal(*fixed, [&] { under_test->PressEscape(*fixed); });
+  EXPECT_FALSE(fixed->IsShown());
+  EXPECT_THAT(notes, testing::IsEmpty());
+}
+
 TEST_F(ModalFormContract, OpensInTheMiddleOfTheScreenWhenDesignedSo) {
   const Subscription ok = ButtonOf(*dialog, "cmdOk").OnClick([&] { dialog->Hide(); });
   under_test->ShowModal(*dialog, [&] {

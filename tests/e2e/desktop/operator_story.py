@@ -84,7 +84,7 @@ class OperatorStory:
         self.session.keys('Right', 'Down', 'Down')
         self.wait_rows(CALENDARS, 365)
         self.session.keys('Tab')
-        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2027')
+        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2027 Fri')
         self.session.keys('Home', *['Right'] * HOLIDAY_NAME_COLUMN)
         self.choose_in_column_menu('g')
         self.choose_in_column_menu('o')
@@ -135,7 +135,7 @@ class OperatorStory:
 
     def assign_yearly_rules(self, rule_count):
         self.session.keys('Tab')
-        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028')
+        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028 Sat')
         self.open_rules()
         self.wait_rows(RULES, rule_count)
         self.select_rules(YEARLY_RULES)
@@ -150,7 +150,7 @@ class OperatorStory:
     def assign_points(self):
         self.select_rules([name for name, _, _ in NEW_POINTS])
         self.assign()
-        self.go_to_day('17 Apr 2028')
+        self.go_to_day('17 Apr 2028 Mon')
         self.picture('assigned')
 
     def add_point(self, name, when, comment):
@@ -186,10 +186,10 @@ class OperatorStory:
     def assign(self):
         self.session.keys('alt+i')
         self.wait_active(CALENDARS)
-        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028')
+        self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028 Sat')
 
     def except_day_with_message(self):
-        self.go_to_day('23 Dec 2028')
+        self.go_to_day('23 Dec 2028 Sat')
         self.choose_in_day_menu(EXCEPT_WITH_MESSAGE, opened_by='shift+F10')
         self.wait_active('Except with message')
         self.session.type(MESSAGE)

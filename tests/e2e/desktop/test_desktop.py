@@ -66,7 +66,7 @@ class DesktopTest(unittest.TestCase):
         self.session.focus('Calendars')
         self.session.type(currency)
         self.session.keys('Right', 'Down')
-        return self.accessible.wait_find(self.accessible.application(), 'table cell', '1 Jan 2026')
+        return self.accessible.wait_find(self.accessible.application(), 'table cell', '1 Jan 2026 Thu')
 
     def grid(self):
         return self.accessible.wait_find(self.accessible.application(), 'table')
@@ -374,7 +374,7 @@ class DesktopTest(unittest.TestCase):
         self.assert_alive()
         hidden.rename(self.session.database)
         self.session.keys('Up', 'Down')
-        self.accessible.wait_find(self.accessible.application(), 'table cell', '1 Jan 2027')
+        self.accessible.wait_find(self.accessible.application(), 'table cell', '1 Jan 2027 Fri')
 
 
     def test_a_killed_program_leaves_a_sound_database_and_starts_again(self):

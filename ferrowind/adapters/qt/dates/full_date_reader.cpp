@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/qt/dates/full_date_reader.h"
 
+#include <algorithm>
+
 #include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/dates/typed_text.h"
 
@@ -35,17 +37,21 @@ DateReading FullDateReader::Read(const QString& text, int year) const {
 }
 
 FullDateReader::WithoutWeekday FullDateReader::TakeOffWeekday(const QString& plain) const {
+  static const QRegularExpression before_date(QStringLiteral("^\\.?,? "));
+  static const QRegularExpression behind_date(QStringLiteral(",? $"));
   for (int weekday = 1; weekday <= kDaysOfWeek; ++weekday) {
     // The longer first: a short one is the beginning of it.
     for (const auto format : {QLocale::LongFormat, QLocale::ShortFormat}) {
-      for (const QString& name :
+      for (const QString& given :
            {locale_.dayName(weekday, format), locale_.standaloneDayName(weekday, format)}) {
-        const QString start = PlainText(name, locale_);
-        if (start.isEmpty() || !plain.startsWith(start)) continue;
-        const QString rest = plain.mid(start.size());
-        static const QRegularExpression behind(QStringLiteral("^\\.?,? "));
-        const auto match = behind.match(rest);
-        if (match.hasMatch()) return {rest.mid(match.capturedLength()), weekday};
+        const QString name = PlainText(given, locale_);
+        if (name.isEmpty()) continue;
+        const auto before = before_date.match(plain.mid(name.size()));
+        if (plain.startsWith(name) && before.hasMatch()) {
+          return {plain.mid(name.size() + before.capturedLength()), weekday};
+        }
+        const auto behind = behind_date.match(plain.chopped(std::min(name.size(), plain.size())));
+        if (plain.endsWith(name) && behind.hasMatch()) return {plain.left(behind.capturedStart()), weekday};
       }
     }
   }

@@ -9,7 +9,7 @@ constexpr const char* kCancelProperty = "ferrowindCancelButton";
 
 QPushButton* CancelButton(const QDialog& dialog) {
   for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
-    if (button->property(kCancelProperty).toBool()) return button;
+    if (button->property(kCancelProperty).toBool() && button->isVisibleTo(&dialog)) return button;
   }
   return nullptr;
 }

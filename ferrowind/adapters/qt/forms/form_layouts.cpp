@@ -6,6 +6,7 @@
 #include "ui_fmCalendarThen.h"
 #include "ui_fmEnterHolidays.h"
 #include "ui_fmExceptMess.h"
+#include "ui_fmGoToDate.h"
 #include "ui_fmHistory.h"
 #include "ui_fmMessage.h"
 #include "ui_fmReadiness.h"
@@ -32,6 +33,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmCalendarThen>("fmCalendarThen");
   layouts.AddGenerated<Ui::fmEnterHolidays>("fmEnterHolidays");
   layouts.AddGenerated<Ui::fmExceptMess>("fmExceptMess");
+  layouts.AddGenerated<Ui::fmGoToDate>("fmGoToDate");
   layouts.AddGenerated<Ui::fmHistory>("fmHistory");
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
   layouts.AddGenerated<Ui::fmReadiness>("fmReadiness");

@@ -187,6 +187,20 @@ Glyph UndoGlyph() {
   return glyph;
 }
 
+Glyph FindGlyph() {
+  Glyph glyph;
+  glyph.lines.addEllipse(QPointF(10.3, 10.3), 6.6, 6.6);
+  AddLine(glyph.accent_lines, {{15.4, 15.4}, {20.6, 20.6}});
+  return glyph;
+}
+
+Glyph GoToDateGlyph() {
+  Glyph glyph = Sheet(3.5, 5, 17, 15.5);
+  AddLine(glyph.accent_lines, {{7.5, 15.2}, {15.5, 15.2}});
+  AddLine(glyph.accent_lines, {{12.9, 12.6}, {15.7, 15.2}, {12.9, 17.8}});
+  return glyph;
+}
+
 Glyph CurrencyGlyph() {
   Glyph glyph;
   glyph.lines.addEllipse(QPointF(12, 12), 9, 9);

@@ -21,6 +21,8 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph AllDaysGlyph();
 [[nodiscard]] Glyph HistoryGlyph();
 [[nodiscard]] Glyph UndoGlyph();
+[[nodiscard]] Glyph FindGlyph();
+[[nodiscard]] Glyph GoToDateGlyph();
 [[nodiscard]] Glyph CurrencyGlyph();
 [[nodiscard]] Glyph CalendarGlyph();
 [[nodiscard]] Glyph QuestionGlyph();

@@ -35,6 +35,8 @@ constexpr std::array kLooks = {
     Entry{"ID_History", HistoryGlyph, ""},
     Entry{"ID_DayHistory", HistoryGlyph, ""},
     Entry{"ID_Undo", UndoGlyph, ""},
+    Entry{"ID_Find", FindGlyph, ""},
+    Entry{"ID_GoToDate", GoToDateGlyph, ""},
 };
 
 }  // namespace

@@ -19,8 +19,8 @@ std::string QtLocale::WeekdayName(int weekday) const {
 
 std::string QtLocale::DateText(const platform::Date& date) const {
   const QDate day = ToQt(date);
-  return FromQt(locale_.dayName(day.dayOfWeek(), QLocale::ShortFormat) + QLatin1Char(' ') +
-                ShortDate(day, locale_));
+  return FromQt(ShortDate(day, locale_) + QLatin1Char(' ') +
+                locale_.dayName(day.dayOfWeek(), QLocale::ShortFormat));
 }
 
 platform::DateReading QtLocale::ReadDate(const std::string& text, int year) const {

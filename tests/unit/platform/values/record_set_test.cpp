@@ -182,5 +182,20 @@ TEST(RecordSetClone, OutlivesTheOriginal) {
   EXPECT_EQ((*clone)["Ccy"], Value("EUR"));
 }
 
+TEST(RecordSetComparison, TellsWhetherTheSameRowsAreShown) {
+  const std::vector<std::string> fields = {"Number", "Name"};
+  const RecordSet one(fields, {{1, "a"}, {2, "b"}});
+  EXPECT_TRUE(one.ShowsTheSameAs(*one.Clone()));
+  EXPECT_TRUE(one.ShowsTheSameAs(RecordSet(fields, {{1, "a"}, {2, "b"}})));
+  EXPECT_FALSE(one.ShowsTheSameAs(RecordSet(fields, {{1, "a"}, {2, "c"}})));
+  EXPECT_FALSE(one.ShowsTheSameAs(RecordSet(fields, {{2, "b"}, {1, "a"}})));
+  EXPECT_FALSE(one.ShowsTheSameAs(RecordSet(fields, {{1, "a"}})));
+  EXPECT_FALSE(one.ShowsTheSameAs(RecordSet({"Number", "Text"}, {{1, "a"}, {2, "b"}})));
+  RecordSet longer(fields, {{0, "x"}, {1, "a"}, {2, "b"}});
+  EXPECT_FALSE(one.ShowsTheSameAs(longer));
+  longer.SetFilter("Number > 0");
+  EXPECT_TRUE(one.ShowsTheSameAs(longer)) << "hidden rows are not shown";
+}
+
 }  // namespace
 }  // namespace ferrowind::platform

@@ -54,6 +54,8 @@ TEST(FullDateReader, TakesTheYearOfTheCalendarWhereNoneIsWritten) {
 
 TEST(FullDateReader, ReadsAWeekdayAlongAndRefusesAWrongOne) {
   EXPECT_EQ(Read(Named("en_GB"), "Fri 14/04/2028"), "2028-04-14");
+  EXPECT_EQ(Read(Named("en_GB"), "14/04/2028 Fri"), "2028-04-14");
+  EXPECT_EQ(Read(Named("ja_JP"), "2028/04/14 金"), "2028-04-14");
   EXPECT_EQ(Read(Named("en_GB"), "Friday, 14 April 2028"), "2028-04-14");
   EXPECT_EQ(Read(Named("de_DE"), "Fr. 14.4.2028"), "2028-04-14");
   EXPECT_EQ(Read(Named("en_GB"), "Thursday 14 April 2028"), "14/04/2028 is a Friday.");

@@ -1,0 +1,59 @@
+#include "ferrowind/views/planning/stored_view.h"
+
+#include <algorithm>
+
+#include "ferrowind/data/ignoring_failure.h"
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/views/common/group_by_box_tool.h"
+#include "ferrowind/views/common/window_placement.h"
+
+namespace ferrowind {
+namespace {
+
+constexpr const char* kCurrency = "LastCurrency";
+constexpr const char* kYear = "LastYear";
+constexpr const char* kFirstRow = "FirstVisibleRow";
+constexpr const char* kGroupBox = "GroupByBox";
+
+std::string Section() { return SettingsSectionOf("Window Calendars"); }
+
+std::int32_t Stored(const char* name) {
+  std::int32_t number = 0;
+  // A setting that cannot be read, or is no number, is as good as none.
+  IgnoringFailure([&] {
+    number = platform::ToInt32(SharedServicesObject().ReadSetting(Section(), name, {}, std::int32_t{0}));
+  });
+  return number;
+}
+
+void Store(const char* name, std::int32_t number) {
+  SharedServicesObject().WriteSetting(Section(), name, number);
+}
+
+}  // namespace
+
+StoredView::StoredView(const PlanningContext& /*context*/, platform::CalendarsScene& scene) : scene_(scene) {}
+
+void StoredView::Started() {
+  platform::Grid& grid = scene_.Days();
+  const bool has_box = Stored(kGroupBox) != 0;
+  grid.SetGroupByBoxVisible(has_box);
+  scene_.Tools().SetToolPressed(GroupByBoxTool::kId, has_box);
+  const std::int32_t year = Stored(kYear);
+  if (year == 0) return;
+  scene_.Choose(Stored(kCurrency), year);
+  const std::int32_t row = std::min(Stored(kFirstRow), grid.RowCount());
+  if (row > 0) grid.SetFirstVisibleRow(row);
+}
+
+void StoredView::Closing() {
+  const platform::Grid& grid = scene_.Days();
+  const auto calendar = scene_.OnShow();
+  Store(kCurrency, calendar ? calendar->currency_id : 0);
+  Store(kYear, calendar ? calendar->year : 0);
+  Store(kFirstRow, calendar ? grid.FirstVisibleRow() : 0);
+  Store(kGroupBox, grid.GroupByBoxVisible() ? 1 : 0);
+}
+
+}  // namespace ferrowind
