@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/views/planning/selected_days.h"
@@ -28,6 +27,7 @@ constexpr const char* kExcept = "ID_ExceptDays";
 constexpr const char* kPrint = "ID_PrintYear";
 constexpr const char* kSavePdf = "ID_SaveYearPdf";
 constexpr const char* kSavePicture = "ID_SaveYearPicture";
+constexpr const char* kClose = "ID_CloseYear";
 constexpr std::int32_t kTextPanel = 1;
 
 platform::FormDesign Design() {
@@ -61,6 +61,7 @@ void SetupTools(platform::ToolBar& tools) {
   tools.AddTool(
       {kSavePdf, "Save as PDF...", kCategory, "Writes the year into a file for reading and printing"});
   tools.AddTool({kSavePicture, "Save as picture...", kCategory, "Writes the year into a PNG file"});
+  tools.AddTool({.id = kClose, .caption = "Close", .category = kCategory, .shortcut = "Ctrl+W"});
   tools.SetBar("Year", {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept, kToolSeparator, kPrint,
                         kSavePdf, kSavePicture});
   tools.AddPopupMenu(kDayMenu, "Day", {kExcept});
@@ -210,6 +211,7 @@ void fmYearPlanner::RunTool(const std::string& id) {
       {kPrint, [](fmYearPlanner& w) { (void)w.view_.PrintPages(HeadingOf(*w.overview_)); }},
       {kSavePdf, [](fmYearPlanner& w) { w.Save(PageFile::kPdf); }},
       {kSavePicture, [](fmYearPlanner& w) { w.Save(PageFile::kPng); }},
+      {kClose, [](fmYearPlanner& w) { (void)w.Close(); }},
   };
   for (const auto& action : kActions) {
     if (id == action.id) action.run(*this);
@@ -227,9 +229,7 @@ void fmYearPlanner::ExceptDays() {
   if (!excepted.changed.empty()) windows_.TellChanged(excepted.changed);
   if (!excepted.problems.empty()) {
     ReadAnew();
-    constexpr std::int32_t kError = 3;
-    constexpr std::int32_t kOk = 1;
-    SharedServicesObject().ShowMessage(excepted.problems, kError, kOk, kOk, form_.get(), "", true, true);
+    ShowProblems(excepted, *form_);
   }
   if (!has_closed_ && !excepted.done.empty()) bar_.SetPanelText(kTextPanel, excepted.done);
 }

@@ -18,6 +18,7 @@
 #include "ferrowind/views/planning/rules_of_calendar.h"
 #include "ferrowind/views/planning/stored_view.h"
 #include "ferrowind/views/planning/why_pane.h"
+#include "ferrowind/views/planning/year_beside_days.h"
 
 namespace ferrowind {
 namespace {
@@ -47,7 +48,8 @@ constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platfor
 constexpr std::array kCalendarsAdditions{
     Calendars<RefreshedCalendars>, Calendars<DayDates>,     Calendars<FollowBar>,
     Calendars<DayFinder>,          Calendars<PlanYearTool>, Calendars<RuleBookTool>,
-    Calendars<HistoryTools>,       Calendars<WhyPane>,      Calendars<StoredView>,
+    Calendars<HistoryTools>,       Calendars<WhyPane>,      Calendars<YearBesideDays>,
+    Calendars<StoredView>,
 };
 constexpr std::array kHolidaysAdditions{
     Holidays<HolidaysCaption>,

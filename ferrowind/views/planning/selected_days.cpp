@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/day_exceptions.h"
 #include "ferrowind/views/dialogs/fm_except_mess.h"
@@ -101,6 +102,13 @@ ExceptedDays ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& 
   excepted.done = Counted(CountOf(done), "day is a working day by exception now",
                           "days are working days by exception now");
   return excepted;
+}
+
+void ShowProblems(const ExceptedDays& excepted, platform::Form& window) {
+  if (excepted.problems.empty()) return;
+  constexpr std::int32_t kError = 3;
+  constexpr std::int32_t kOk = 1;
+  SharedServicesObject().ShowMessage(excepted.problems, kError, kOk, kOk, &window, "", true, true);
 }
 
 }  // namespace ferrowind

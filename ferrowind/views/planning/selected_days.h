@@ -47,4 +47,7 @@ struct ExceptedDays {
                                               const planning::YearOverview& overview,
                                               const std::vector<SelectedDays>& days);
 
+/// Shows the problems to the operator, if there are any.
+void ShowProblems(const ExceptedDays& excepted, platform::Form& window);
+
 }  // namespace ferrowind

@@ -197,7 +197,7 @@ void YearPainter::PaintInRow(QPainter& painter, const YearPlace& place) const {
   const QRectF cell = layout_.CellRect(place);
   const QColor& mark = colors_.Of(look.tint).mark;
   if (look.letter.empty()) {
-    const qreal size = std::min(cell.width(), cell.height()) * 0.35;
+    const qreal size = std::min(cell.width(), cell.height()) * (look.shape == DayShape::kBar ? 0.22 : 0.35);
     DrawDayMark(painter, {cell.center().x() - size / 2, cell.center().y() - size / 2, size, size}, look.shape,
                 mark);
     return;
