@@ -32,6 +32,7 @@ GUIDE_STEPS = ('year-before', 'new-calendar', 'prepare-it', 'day-menu', 'rules',
 # Currencies by their numbers: BRL, CAD, DKK, EUR, JPY and USD.
 WEEKENDS_ONLY = (986, 124, 208, 978, 392, 840)
 POUND = 826
+TOGETHER = ('AUD', 'CAD', 'CHF', 'CNY', 'EUR', 'GBP', 'JPY', 'NOK', 'SEK', 'USD')
 
 # Frames of the pictures: quiet, in the colours of the theme, and without boxes that a dialog would not have.
 FRAME_COLORS = {
@@ -229,6 +230,32 @@ class Photographer:
     def run_ctl(self, *arguments):
         subprocess.run([self.programs / 'ferrowindctl', *arguments], check=True, stdout=subprocess.DEVNULL)
 
+    def take_year_planner(self):
+        """Of one currency and of several, and beside the days."""
+        self.session.database.parent.mkdir(parents=True)
+        self.make_database(f'sqlite:{self.session.database}')
+        self.studio.use_frames('light')
+        self.session.start('--open', '--theme', 'light')
+        self.story.wait_active(CALENDARS)
+        self.arrange()
+        self.session.type('EUR')
+        self.session.keys('Right', 'Down')
+        self.story.wait_rows(CALENDARS, 365)
+        self.session.keys('Tab')
+        self.story.go_to_day('1 May 2026')
+        self.session.keys('ctrl+shift+y')
+        self.take('guide-year-beside-days')
+        self.session.keys('ctrl+p')
+        self.story.wait_active('Year planner - EUR 2026')
+        self.session.keys('ctrl+Home', *['Next'] * 3, 'shift+Right', 'shift+Right', 'shift+Right')
+        self.studio.take('guide-year-planner', self.session, 'Year planner - EUR 2026')
+        self.session.keys('alt+u')
+        self.session.type(' '.join(TOGETHER))
+        self.session.keys('Return')
+        together = f'Year planner - {", ".join(TOGETHER)} 2026'
+        self.story.wait_active(together)
+        self.studio.take('guide-year-planner-together', self.session, together)
+
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
         self.make_database(database)
@@ -256,6 +283,7 @@ def main():
                          lambda user: user.take_board('light'),
                          lambda user: user.take_year_plan('dark'),
                          lambda user: user.take_year_plan('light'),
+                         lambda user: user.take_year_planner(),
                          lambda user: user.take_story()):
                 user = Photographer(studio, programs)
                 try:

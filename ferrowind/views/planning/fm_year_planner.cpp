@@ -51,17 +51,19 @@ platform::FormDesign Design() {
 }
 
 void SetupTools(platform::ToolBar& tools) {
-  constexpr const char* kCategory = "Year";
-  tools.AddTool({kRefresh, "Refresh", kCategory, "Reads the calendars anew"});
-  tools.AddTool({kYearBefore, "Previous year", kCategory, "Shows the year before"});
-  tools.AddTool({kYearAfter, "Next year", kCategory, "Shows the year after"});
-  tools.AddTool({kExcept, "Except days with message ...", kCategory,
-                 "Makes the selected days working days by exception, with one reason"});
-  tools.AddTool({kPrint, "Print...", kCategory, "Prints the year"});
-  tools.AddTool(
-      {kSavePdf, "Save as PDF...", kCategory, "Writes the year into a file for reading and printing"});
-  tools.AddTool({kSavePicture, "Save as picture...", kCategory, "Writes the year into a PNG file"});
-  tools.AddTool({.id = kClose, .caption = "Close", .category = kCategory, .shortcut = "Ctrl+W"});
+  const auto add = [&](const char* id, const char* caption, const char* description, const char* shortcut) {
+    tools.AddTool(
+        {.id = id, .caption = caption, .category = "Year", .description = description, .shortcut = shortcut});
+  };
+  add(kRefresh, "Refresh", "Reads the calendars anew", "F5");
+  add(kYearBefore, "Previous year", "Shows the year before", "Alt+PgUp");
+  add(kYearAfter, "Next year", "Shows the year after", "Alt+PgDown");
+  add(kExcept, "Except days with message ...",
+      "Makes the selected days working days by exception, with one reason", "Ctrl+E");
+  add(kPrint, "Print...", "Prints the year", "Ctrl+P");
+  add(kSavePdf, "Save as PDF...", "Writes the year into a file for reading and printing", "Ctrl+S");
+  add(kSavePicture, "Save as picture...", "Writes the year into a PNG file", "Ctrl+Shift+S");
+  add(kClose, "Close", "", "Ctrl+W");
   tools.SetBar("Year", {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept, kToolSeparator, kPrint,
                         kSavePdf, kSavePicture});
   tools.AddPopupMenu(kDayMenu, "Day", {kExcept});

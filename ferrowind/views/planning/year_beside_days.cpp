@@ -74,12 +74,21 @@ YearCell CellOf(const std::string& calendar, const Date& day) {
 platform::WindowParts YearBesideDays::Parts() {
   constexpr const char* kCategory = "General";
   return {.controls = {{platform::ControlKind::kYearView, "yvDays"}},
-          .tools = {{kShowTool, "Year", kCategory, "Show or hide the year at a glance beside the days",
-                     platform::ToolKind::kTwoStateButton},
-                    {kWindowTool, "Year planner...", kCategory,
-                     "Shows years of this and other currencies, and prints and saves them"},
-                    {kExceptTool, "Except selected days with message ...", kCategory,
-                     "Except all selected days from the holiday list, with one message"}},
+          .tools = {{.id = kShowTool,
+                     .caption = "Year",
+                     .category = kCategory,
+                     .description = "Show or hide the year at a glance beside the days",
+                     .kind = platform::ToolKind::kTwoStateButton,
+                     .shortcut = "Ctrl+Shift+Y"},
+                    {.id = kWindowTool,
+                     .caption = "Year planner...",
+                     .category = kCategory,
+                     .description = "Shows years of this and other currencies, and prints and saves them",
+                     .shortcut = "Ctrl+P"},
+                    {.id = kExceptTool,
+                     .caption = "Except selected days with message ...",
+                     .category = kCategory,
+                     .description = "Except all selected days from the holiday list, with one message"}},
           .bar = {kShowTool, kWindowTool},
           .menu = {kExceptTool}};
 }

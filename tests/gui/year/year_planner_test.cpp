@@ -129,9 +129,36 @@ TEST_F(YearPlannerTest, GoesFromYearToYear) {
   Planner().close();
 }
 
+TEST_F(YearPlannerTest, AsksForAPrinterAndPrintsNothingWithoutOne) {
+  OpenPlanner({kDollar}, 2028);
+  script_.Expect("fmPrint", [](QWidget& dialog) { Press(dialog, Qt::Key_Escape); });
+  ClickTool(Planner(), "ID_PrintYear");
+  EXPECT_TRUE(script_.IsPlayed());
+  EXPECT_TRUE(Planner().isVisible());
+  Planner().close();
+}
+
+TEST_F(YearPlannerTest, LetsTheHostCloseItWhileItAsksForAPrinter) {
+  OpenPlanner({kDollar}, 2028);
+  script_.Expect("fmPrint", [this](QWidget&) { EXPECT_TRUE(windows_.CloseAll()); });
+  ClickTool(Planner(), "ID_PrintYear");
+  EXPECT_EQ(WindowOnShow("fmYearPlanner"), nullptr);
+  EXPECT_EQ(WindowOnShow("fmPrint"), nullptr);
+}
+
 TEST_F(YearPlannerTest, ClosesByEscape) {
   OpenPlanner({kDollar}, 2028);
   Press(Pane(), Qt::Key_Escape);
+  EXPECT_EQ(WindowOnShow("fmYearPlanner"), nullptr);
+}
+
+TEST_F(YearPlannerTest, GoesFromYearToYearAndClosesByKeys) {
+  OpenPlanner({kDollar}, 2028);
+  Press(Pane(), Qt::Key_PageUp, Qt::AltModifier);
+  EXPECT_EQ(Planner().windowTitle(), QStringLiteral("Year planner - USD 2027"));
+  Press(Pane(), Qt::Key_PageDown, Qt::AltModifier);
+  EXPECT_EQ(Planner().windowTitle(), QStringLiteral("Year planner - USD 2028"));
+  Press(Pane(), Qt::Key_W, Qt::ControlModifier);
   EXPECT_EQ(WindowOnShow("fmYearPlanner"), nullptr);
 }
 
