@@ -46,10 +46,9 @@ constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platfor
 
 // The order of their controls and tools.
 constexpr std::array kCalendarsAdditions{
-    Calendars<RefreshedCalendars>, Calendars<DayDates>,     Calendars<FollowBar>,
-    Calendars<DayFinder>,          Calendars<PlanYearTool>, Calendars<RuleBookTool>,
-    Calendars<HistoryTools>,       Calendars<WhyPane>,      Calendars<YearBesideDays>,
-    Calendars<StoredView>,
+    Calendars<RefreshedCalendars>, Calendars<DayDates>,     Calendars<FollowBar>,    Calendars<DayFinder>,
+    Calendars<PlanYearTool>,       Calendars<RuleBookTool>, Calendars<HistoryTools>, Calendars<WhyPane>,
+    Calendars<YearBesideDays>,     Calendars<StoredView>,
 };
 constexpr std::array kHolidaysAdditions{
     Holidays<HolidaysCaption>,
