@@ -38,7 +38,8 @@ class CalendarsScene {
 
   /// The calendar whose days the grid shows; nothing while it shows none.
   [[nodiscard]] virtual std::optional<CalendarOnShow> OnShow() const = 0;
-  /// The number of the currency whose node, or whose calendar's, is chosen in the tree; nothing without a node.
+  /// The number of the currency whose node, or whose calendar's, is chosen in the tree; nothing without a
+  /// node.
   [[nodiscard]] virtual std::optional<std::int32_t> ChosenCurrency() const = 0;
   /// The day of the grid's current row; nothing on a group row, and without a row.
   [[nodiscard]] virtual std::optional<Date> CurrentDay() const = 0;
