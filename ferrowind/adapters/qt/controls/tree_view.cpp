@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/controls/tree_view.h"
 
 #include <QHelpEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <utility>
@@ -26,6 +27,16 @@ class RoomyRows : public QStyledItemDelegate {
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     constexpr int kRoom = 6;
     return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRoom);
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    // The shades of a selection with and without the keyboard are too much alike on dark ground.
+    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    constexpr int kFrame = 2;
+    painter->setPen(
+        QPen(option.palette.color(QPalette::Link), kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->drawRect(option.rect.adjusted(kFrame / 2, kFrame / 2, -kFrame / 2, -kFrame / 2));
   }
 
  protected:

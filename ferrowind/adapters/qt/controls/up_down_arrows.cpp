@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/controls/up_down_arrows.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -10,6 +11,7 @@ namespace {
 
 constexpr int kArrowWidth = 18;
 constexpr int kWheelStep = 120;
+constexpr int kFocusLine = 1;
 
 }  // namespace
 
@@ -17,13 +19,21 @@ UpDownArrows::UpDownArrows(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
+  // Room for the frame that tells the focus.
+  layout->setContentsMargins(kFocusLine, kFocusLine, kFocusLine, kFocusLine);
   layout->setSpacing(0);
   layout->addWidget(AddArrow(Qt::UpArrow, tr("Up"), 1));
   layout->addWidget(AddArrow(Qt::DownArrow, tr("Down"), -1));
 }
 
 QSize UpDownArrows::sizeHint() const { return {kArrowWidth, fontMetrics().height() + 10}; }
+
+void UpDownArrows::paintEvent(QPaintEvent* /*event*/) {
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  painter.setPen(QPen(palette().color(QPalette::Link), kFocusLine));
+  painter.drawRect(rect().adjusted(0, 0, -kFocusLine, -kFocusLine));
+}
 
 void UpDownArrows::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Up) return Q_EMIT Stepped(1);

@@ -20,6 +20,7 @@ class UpDownArrows : public QWidget {
   void Stepped(int direction);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 

@@ -112,7 +112,8 @@ void RowPainter::PaintColumnLines(QPainter& painter, const std::vector<ShownColu
 void RowPainter::PaintCell(QPainter& painter, const QRect& cell, std::int16_t column, Record record,
                            unsigned char style) const {
   const bool is_number = content_.Cells().ShowsNumber(column, record);
-  texts_.Draw(painter, cell, is_number ? Qt::AlignRight : Qt::AlignLeft,
+  const bool is_mirrored = painter.layoutDirection() == Qt::RightToLeft;
+  texts_.Draw(painter, cell, is_number != is_mirrored ? Qt::AlignRight : Qt::AlignLeft,
               content_.Cells().ShownText(column, record), style);
 }
 

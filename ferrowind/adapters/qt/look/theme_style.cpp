@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/look/theme_style.h"
 
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -40,6 +41,9 @@ void DrawFieldEdge(const QStyleOption& option, QPainter& painter) {
   const QColor color = has_focus ? option.palette.color(QPalette::Link) : EdgeColor(option);
   DrawEdge(option, painter, QPen(color, has_focus ? kFocusLine : kLine), kCorner);
 }
+
+/// Such a text would tell the focus by nothing but its cursor, which is thin and comes and goes.
+bool IsTextToRead(const QWidget* widget) { return qobject_cast<const QPlainTextEdit*>(widget) != nullptr; }
 
 void DrawButtonEdge(const QStyleOption& option, QPainter& painter) {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
@@ -92,6 +96,20 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   }
 }
 
+void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+  if (element != CE_ShapedFrame || !IsTextToRead(widget))
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  painter->fillRect(option->rect, option->palette.color(QPalette::Base));
+  DrawFieldEdge(*option, *painter);
+}
+
+int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  // What is inside of the frame would hide a part of the edge.
+  if (metric == PM_DefaultFrameWidth && IsTextToRead(widget)) return static_cast<int>(kFocusLine);
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -99,6 +117,8 @@ void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
                                   qstyleoption_cast<const QStyleOptionSpinBox*>(option) != nullptr &&
                                   qstyleoption_cast<const QStyleOptionSpinBox*>(option)->frame;
   if (is_framed_spin_box) DrawFieldEdge(*option, *painter);
+  const bool has_focus = option->state.testFlag(State_HasFocus) && option->state.testFlag(State_Enabled);
+  if (control == CC_ToolButton && has_focus) DrawFieldEdge(*option, *painter);
 }
 
 QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {

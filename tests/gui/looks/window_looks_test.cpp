@@ -1,0 +1,186 @@
+#include <QLocale>
+#include <QPixmap>
+#include <tuple>
+
+#include "ferrowind/adapters/qt/look/theme.h"
+#include "ferrowind/control/calendar.h"
+#include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/book_store.h"
+#include "ferrowind/views/planning/planning_additions.h"
+#include "ferrowind/views/planning/planning_windows.h"
+
+#include "host/delivery/delivered_books.h"
+#include "host/delivery/delivered_tables.h"
+#include "tests/gui/looks/examined_window.h"
+#include "tests/gui/windows/dialog_script.h"
+#include "tests/gui/windows/operator_desk.h"
+#include "tests/gui/windows/operator_hands.h"
+
+namespace ferrowind::gui {
+namespace {
+
+using ::testing::IsEmpty;
+
+constexpr std::int32_t kDollar = 840;
+constexpr std::int32_t kEuro = 978;
+constexpr std::int32_t kPound = 826;
+
+/// How a screen is set up: its theme, and the language of its dates.
+using Setup = std::tuple<qt::Theme, const char*>;
+
+/// All windows, with the additions of planning, over a database with the delivered books of three currencies
+/// and the calendars EUR 2026 and USD 2028.
+class WindowLooksTest : public ::testing::TestWithParam<Setup> {
+ protected:
+  WindowLooksTest() : locale_before_(QLocale()) {
+    const auto& [theme, language] = GetParam();
+    QLocale::setDefault(QLocale(QLatin1String(language)));
+    qApp->setLayoutDirection(QLocale().textDirection());
+    qt::ApplyTheme(*qApp, theme);
+    platform_.additions = &additions_;
+    desk_.Execute("DELETE FROM DicCcy WHERE Ccy NOT IN ('EUR', 'GBP', 'USD')");
+    RunHandler(platform_, [] {
+      const auto currencies = planning::CurrencyList::Load();
+      for (const auto& [name, book, lines] : host::DeliveredBooks()) {
+        if (name != "EUR" && name != "GBP" && name != "USD") continue;
+        planning::StoreBook(currencies.Named(name).id, name, "", book);
+      }
+    });
+    desk_.Call("CldIUMain", {kEuro, 2026, {}, {}, {}, {}, {}});
+    desk_.Call("CldIUMain", {kDollar, 2028, {}, {}, {}, {}, {}});
+  }
+  ~WindowLooksTest() override {
+    EXPECT_TRUE(script_.IsPlayed());
+    EXPECT_TRUE(windows_.CloseAll());
+    EXPECT_TRUE(control_.ForceClosing());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    qt::ApplyTheme(*qApp, qt::Theme::kLight);
+    qApp->setLayoutDirection(Qt::LeftToRight);
+    QLocale::setDefault(locale_before_);
+  }
+
+  void Examine(const std::string& name) {
+    QWidget* window = WindowOnShow(name);
+    ASSERT_NE(window, nullptr) << name;
+    Examine(*window);
+  }
+  void Examine(QWidget& window) {
+    const bool is_resizable = window.minimumSize() != window.maximumSize();
+    for (const QSize& size : {QSize(790, 570), QSize(1356, 738)}) {
+      if (is_resizable) window.resize(size);
+      Activate(window);
+      const ExaminedWindow examined(window);
+      const std::string at = window.objectName().toStdString() + " at " + std::to_string(window.width());
+      Picture(window, at);
+      EXPECT_THAT(examined.FaultsOfRoom(), IsEmpty()) << at;
+      EXPECT_THAT(examined.FaultsOfText(), IsEmpty()) << at;
+      EXPECT_THAT(examined.FaultsOfEdges(), IsEmpty()) << at;
+      EXPECT_THAT(examined.FaultsOfFocus(), IsEmpty()) << at;
+      if (!is_resizable) break;
+    }
+  }
+  /// For a look by a person.
+  static void Picture(QWidget& window, const std::string& name) {
+    const QString folder = qEnvironmentVariable("FERROWIND_PICTURES");
+    if (folder.isEmpty()) return;
+    const auto& [theme, language] = GetParam();
+    window.grab().save(
+        QStringLiteral("%1/%2 %3 %4.png")
+            .arg(folder, name.c_str(), language, theme == qt::Theme::kDark ? "dark" : "light"));
+  }
+  QWidget& OpenCalendars() {
+    control_.Show();
+    QWidget& window = *WindowOnShow("fmCalendar");
+    Activate(window);
+    // By program where a click would have to know on which side the tree opens.
+    auto& tree = Find<QTreeView>(window, "tvCalendar");
+    tree.expandAll();
+    const QModelIndex dollar =
+        tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, "USD").value(0);
+    const QModelIndex year = tree.model()->index(0, 0, dollar);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(year).center());
+    return window;
+  }
+
+  QLocale locale_before_;
+  OperatorDesk desk_{OperatorDesk::Rules::kOfOffice};
+  DialogScript script_;
+  platform::Platform platform_ = desk_.Platform();
+  PlanningWindows windows_{platform_, host::DeliveredDateTables()};
+  PlanningAdditions additions_{{platform_, host::DeliveredDateTables(), windows_}};
+  Calendar control_{platform_};
+};
+
+std::string NameOfSetup(const ::testing::TestParamInfo<Setup>& setup) {
+  const bool is_dark = std::get<0>(setup.param) == qt::Theme::kDark;
+  return std::string(is_dark ? "Dark_" : "Light_") + std::get<1>(setup.param);
+}
+
+INSTANTIATE_TEST_SUITE_P(Setups, WindowLooksTest,
+                         ::testing::Values(Setup{qt::Theme::kLight, "de_DE"},
+                                           Setup{qt::Theme::kDark, "ja_JP"},
+                                           Setup{qt::Theme::kLight, "ar_EG"},
+                                           Setup{qt::Theme::kDark, "ar_EG"}),
+                         NameOfSetup);
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheCalendars) { Examine(OpenCalendars()); }
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAYear) {
+  QWidget& window = OpenCalendars();
+  script_.Expect("fmSelectYear", [this](QWidget& dialog) {
+    Examine(dialog);
+    PressButton(dialog, "Cancel");
+  });
+  ClickTool(window, "ID_New");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheRulesAndTheirEditor) {
+  QWidget& window = OpenCalendars();
+  qt::GridView& days = GridIn(window);
+  WalkToRow(days, 3);
+  script_.Expect("ID_StatesMenu", [](QWidget& menu) { PickFromMenu(menu, "ID_AssignSingle"); });
+  script_.Expect("fmEnterHolidays", [this](QWidget& rules) {
+    Examine(rules);
+    script_.Expect("fmAddHoliday", [this](QWidget& editor) {
+      Examine(editor);
+      editor.close();
+    });
+    ClickButton(rules, "cmdAction0");
+    if (rules.isVisible()) rules.close();
+  });
+  RightClickRow(days, 3);
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAReason) {
+  QWidget& window = OpenCalendars();
+  qt::GridView& days = GridIn(window);
+  WalkToRow(days, 3);
+  script_.Expect("ID_StatesMenu", [](QWidget& menu) { PickFromMenu(menu, "ID_Except2"); });
+  script_.Expect("fmExceptMess", [this](QWidget& dialog) {
+    Examine(dialog);
+    PressButton(dialog, "Cancel");
+  });
+  RightClickRow(days, 3);
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedOnTheBoard) {
+  RunHandler(platform_, [&] { windows_.OpenReadiness(); });
+  Examine("fmReadiness");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInThePlanOfAYear) {
+  RunHandler(platform_, [&] { windows_.OpenYearPlan({{kDollar, 2028}, {kPound, 2028}}); });
+  Examine("fmYearPlan");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheHistoryAndACalendarOfThen) {
+  desk_.Call("CldIUMain", {kDollar, 2028, 1, 1, 17, {}, "Stock-taking"});
+  const int entry = std::stoi(desk_.ReadOne("SELECT max(EntryID) FROM CldHistory"));
+  RunHandler(platform_, [&] { windows_.OpenHistory({}); });
+  Examine("fmHistory");
+  RunHandler(platform_, [&] { windows_.OpenCalendarThen(entry); });
+  Examine("fmCalendarThen");
+}
+
+}  // namespace
+}  // namespace ferrowind::gui
