@@ -21,12 +21,12 @@ sys.path.insert(0, str(ROOT / 'tests' / 'e2e' / 'desktop'))
 sys.dont_write_bytecode = True
 
 from desktop_session import DesktopSession, Screen, wait_for  # noqa: E402  pylint: disable=wrong-import-position
-from operator_story import CALENDARS, FIRST_YEAR, OperatorStory  # noqa: E402  pylint: disable=wrong-import-position
+from operator_story import CALENDARS, FIRST_YEAR, PREVIEW, RULES, OperatorStory  # noqa: E402  pylint: disable=wrong-import-position
 
 PICTURES = ROOT / 'docs' / 'pictures'
 SIZE = (1350, 780)
 
-GUIDE_STEPS = ('year-before', 'new-calendar', 'prepare-it', 'day-menu', 'rules', 'new-point', 'assigned',
+GUIDE_STEPS = ('year-before', 'new-calendar', 'prepare-it', 'day-menu', 'rules', 'preview', 'new-point', 'assigned',
                'except-message', 'excepted', 'remove', 'removed', 'edit-rule')
 
 # Currencies by their numbers: BRL, CAD, DKK, EUR, JPY and USD.
@@ -256,6 +256,32 @@ class Photographer:
         self.story.wait_active(together)
         self.studio.take('guide-year-planner-together', self.session, together)
 
+    def take_why(self):
+        """Of a year that is as planned, with those around it; and of a rule that another currency has."""
+        database = f'sqlite:{self.session.home / "why.sqlite"}'
+        self.make_database(database)
+        for year in ('2027', '2028'):
+            self.run_ctl('apply', database, 'EUR', year, '--yes')
+        self.studio.use_frames('light')
+        self.session.start('--open', '--database', database)
+        self.story.wait_active(CALENDARS)
+        self.arrange()
+        self.session.type('EUR')
+        self.session.keys('Right', 'Down', 'Down', 'Down')
+        self.story.wait_rows(CALENDARS, 366)
+        self.session.keys('Tab')
+        self.story.go_to_day('14 Apr 2028')
+        self.studio.take('guide-why', self.session, CALENDARS)
+        self.story.open_rules()
+        rows = self.story.grid(RULES).row_count()
+        self.session.keys('ctrl+l')
+        wait_for(lambda: self.story.grid(RULES).row_count() > rows, 'all rules')
+        self.story.go_to_rule('Thanksgiving Day')
+        self.session.keys('alt+i')
+        self.story.wait_active(PREVIEW)
+        self.studio.take('guide-assign-preview', self.session, PREVIEW)
+        self.session.keys('Escape')
+
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
         self.make_database(database)
@@ -284,6 +310,8 @@ def main():
                          lambda user: user.take_year_plan('dark'),
                          lambda user: user.take_year_plan('light'),
                          lambda user: user.take_year_planner(),
+
+                         lambda user: user.take_why(),
                          lambda user: user.take_story()):
                 user = Photographer(studio, programs)
                 try:

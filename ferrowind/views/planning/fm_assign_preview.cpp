@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/views/common/close_dialog.h"
 #include "ferrowind/views/planning/day_text.h"
 
@@ -50,15 +51,18 @@ CellMark MarkOf(const AssignmentLine& line) {
   return line.changes ? CellMark::kAdded : CellMark::kKept;
 }
 
-/// "3 rules for EUR 2028; 2 change nothing; 1 warning".
-std::string Summary(const std::string& calendar, const std::vector<AssignmentLine>& lines) {
-  const auto idle = static_cast<std::size_t>(
-      std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.changes; }));
-  std::size_t warnings = 0;
-  for (const AssignmentLine& line : lines) warnings += line.warnings.size();
-  std::string text = planning::Counted(lines.size(), "rule", "rules") + " for " + calendar;
-  if (idle > 0) text += "; " + std::to_string(idle) + (idle == 1 ? " changes" : " change") + " nothing";
-  return text + "; " + (warnings == 0 ? "no warnings" : planning::Counted(warnings, "warning", "warnings")) +
+/// "3 rules for EUR 2028; 2 change nothing; 1 warning."
+std::string Summary(const platform::Platform& platform, const std::string& calendar,
+                    const std::vector<AssignmentLine>& lines) {
+  const auto idle = std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.changes; });
+  std::int64_t warnings = 0;
+  for (const AssignmentLine& line : lines) warnings += static_cast<std::int64_t>(line.warnings.size());
+  std::string text = SaidOfNumber(platform, static_cast<std::int64_t>(lines.size()), "%n rule for %1",
+                                  "%n rules for %1", {calendar});
+  if (idle > 0) text += "; " + SaidOfNumber(platform, idle, "%n changes nothing", "%n change nothing");
+  return text + "; " +
+         (warnings == 0 ? Said(platform, "no warnings")
+                        : SaidOfNumber(platform, warnings, "%n warning", "%n warnings")) +
          ".";
 }
 
@@ -68,7 +72,7 @@ fmAssignPreview::fmAssignPreview(const platform::Platform& platform, const std::
                                  std::vector<AssignmentLine> lines)
     : platform_(platform),
       lines_(std::move(lines)),
-      form_(platform.toolkit.CreateForm(Design())),
+      form_(platform.toolkit.CreateForm(Said(platform, Design()))),
       table_(ControlOf<platform::Table>(*form_, "tblPreview")),
       details_(ControlOf<platform::TextView>(*form_, "txtDetails")) {
   const auto subscribe = [this](platform::Subscription subscription) {
@@ -85,11 +89,12 @@ fmAssignPreview::fmAssignPreview(const platform::Platform& platform, const std::
 }
 
 void fmAssignPreview::Fill(const std::string& calendar) {
-  ControlOf<platform::Label>(*form_, "lblSummary").SetText(Summary(calendar, lines_));
-  table_.SetColumns({{.key = "Rule", .caption = "Rule"},
-                     {.key = "Day", .caption = "Day"},
-                     {.key = "Now", .caption = "There now"},
-                     {.key = "Warnings", .caption = "Look at", .stretches = true}});
+  ControlOf<platform::Label>(*form_, "lblSummary").SetText(Summary(platform_, calendar, lines_));
+  const auto said = [this](const char* text) { return Said(platform_, text); };
+  table_.SetColumns({{.key = "Rule", .caption = said("Rule")},
+                     {.key = "Day", .caption = said("Day")},
+                     {.key = "Now", .caption = said("There now")},
+                     {.key = "Warnings", .caption = said("Look at"), .stretches = true}});
   std::vector<platform::TableRow> rows;
   std::string first_warned;
   for (std::size_t i = 0; i < lines_.size(); ++i) {
@@ -112,9 +117,11 @@ void fmAssignPreview::TellOfCurrentLine() {
   if (!current) return details_.SetText("");
   const AssignmentLine& line = lines_.at(std::stoul(*current));
   std::string text = line.rule + ": " + DayOf(platform_.locale, line);
-  if (!line.now.empty()) text += "\nThere now: " + line.now;
+  if (!line.now.empty()) text += "\n" + Said(platform_, "There now: %1", {line.now});
   for (const std::string& warning : line.warnings) text += "\n" + warning + ".";
-  if (line.warnings.empty()) text += line.changes ? "\nNothing to look at." : "\nNothing changes.";
+  if (line.warnings.empty()) {
+    text += "\n" + Said(platform_, line.changes ? "Nothing to look at." : "Nothing changes.");
+  }
   details_.SetText(text);
 }
 

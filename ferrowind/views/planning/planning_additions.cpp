@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "ferrowind/data/said.h"
 #include "ferrowind/views/planning/assignment_check.h"
 #include "ferrowind/views/planning/calendars_addition_list.h"
 #include "ferrowind/views/planning/day_dates.h"
@@ -58,7 +59,7 @@ constexpr std::array kHolidaysAdditions{
 };
 
 template <typename Entries>
-WindowParts PartsOf(const Entries& entries) {
+WindowParts PartsOf(const Entries& entries, const platform::Platform& platform) {
   WindowParts all;
   const auto append = [](auto& to, const auto& from) { to.insert(to.end(), from.begin(), from.end()); };
   for (const auto& entry : entries) {
@@ -68,6 +69,7 @@ WindowParts PartsOf(const Entries& entries) {
     append(all.bar, parts.bar);
     append(all.menu, parts.menu);
   }
+  for (auto& tool : all.tools) tool = Said(platform, tool);
   return all;
 }
 
@@ -80,9 +82,13 @@ std::unique_ptr<List> MakeAll(const Entries& entries, const PlanningContext& con
 
 }  // namespace
 
-WindowParts PlanningAdditions::CalendarsParts() const { return PartsOf(kCalendarsAdditions); }
+WindowParts PlanningAdditions::CalendarsParts() const {
+  return PartsOf(kCalendarsAdditions, context_.platform);
+}
 
-WindowParts PlanningAdditions::HolidaysParts() const { return PartsOf(kHolidaysAdditions); }
+WindowParts PlanningAdditions::HolidaysParts() const {
+  return PartsOf(kHolidaysAdditions, context_.platform);
+}
 
 std::unique_ptr<platform::CalendarsAdditions> PlanningAdditions::ForCalendars(
     platform::CalendarsScene& scene) {

@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "ferrowind/data/ignoring_failure.h"
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/planning/day_text.h"
 
 namespace ferrowind {
@@ -24,7 +25,8 @@ constexpr std::int32_t kNotEdited = 1;
 
 platform::WindowParts RulesOfCalendar::Parts() {
   return {.tools = {{kTool, "Only rules of this currency", "General",
-                     "List only the rules of the calendar's currency", platform::ToolKind::kTwoStateButton}},
+                     "List only the rules of the calendar's currency", platform::ToolKind::kTwoStateButton,
+                     "Ctrl+L"}},
           .bar = {kTool}};
 }
 
@@ -33,13 +35,18 @@ RulesOfCalendar::RulesOfCalendar(const PlanningContext& context, platform::Holid
 
 void RulesOfCalendar::Opening() {
   const platform::CalendarOnShow& target = scene_.Target();
-  // Not pressed while it has no effect.
-  scene_.Tools().SetToolEnabled(kTool, false);
-  rules_.emplace(target.currency_id, target.year, context_.tables);
-  scene_.Tools().SetToolEnabled(kTool, true);
+  try {
+    rules_.emplace(target.currency_id, target.year, context_.tables);
+  } catch (const platform::Failure& failure) {
+    // The window tells itself when its list cannot be read; where only this could not, the tool says why.
+    scene_.Tools().SetToolEnabled(kTool, false);
+    scene_.Tools().SetToolDescription(kTool, failure.Description());
+    return;
+  }
   scene_.Tools().SetToolPressed(kTool, true);
   platform::GridColumn& column = scene_.Rules().AddColumn(
-      "In " + target.currency + " " + std::to_string(target.year), kTextColumn, kNotEdited, kDays);
+      Said(context_.platform, "In %1", {target.currency + " " + std::to_string(target.year)}), kTextColumn,
+      kNotEdited, kDays);
   column.SetBoundField(kDays);
   text_asked_ =
       scene_.Rules().OnCellText([this](RecordSet::Bookmark row, std::int16_t index, std::string& text) {
@@ -89,7 +96,7 @@ void RulesOfCalendar::TellDays(RecordSet::Bookmark row, std::int16_t column, std
   if (!rule) return;
   const auto& days = rules_->DaysOf(*rule);
   if (days.size() > kMostDates) {
-    text = planning::Counted(days.size(), "day", "days");
+    text = SaidOfNumber(context_.platform, static_cast<std::int64_t>(days.size()), "%n day", "%n days");
     return;
   }
   text.clear();

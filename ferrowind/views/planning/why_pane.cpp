@@ -3,6 +3,7 @@
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/common/window_placement.h"
@@ -36,7 +37,7 @@ platform::WindowParts WhyPane::Parts() {
                        {ControlKind::kTextView, "txtWhy"},
                        {ControlKind::kTable, "tblYears"}},
           .tools = {{kTool, "Why", "General", "Show or hide why the day is what it is",
-                     platform::ToolKind::kTwoStateButton}},
+                     platform::ToolKind::kTwoStateButton, "Ctrl+I"}},
           .bar = {kTool}};
 }
 
@@ -87,24 +88,25 @@ void WhyPane::Tell() {
   const auto day = scene_.CurrentDay();
   // A host may show other days than those of the calendar.
   if (!calendar || !day || day->Year() != calendar->year) {
-    return TellNothing("Choose a day: here stands why it is open or closed.");
+    return TellNothing(Said(context_.platform, "Choose a day: here stands why it is open or closed."));
   }
   try {
     TellOf(*calendar, *day);
   } catch (const platform::Failure& failure) {
     story_.reset();
-    TellNothing(calendar->currency + ", " + DayText(context_.platform.locale, *day) +
-                ": why it is what it is cannot be read.\n" + failure.Description());
+    TellNothing(Said(context_.platform, "%1, %2: why it is what it is cannot be read.",
+                     {calendar->currency, DayText(context_.platform.locale, *day)}) +
+                "\n" + failure.Description());
   }
 }
 
 void WhyPane::TellOf(const platform::CalendarOnShow& calendar, const platform::Date& day) {
   if (!story_) story_.emplace(calendar.currency_id, calendar.year, context_.tables);
   const planning::DayStory story = story_->Of(day);
-  const platform::Locale& locale = context_.platform.locale;
-  text_.SetText(WhyText(locale, calendar.currency, story, LastChangeOf(day)));
-  years_.SetColumns(YearColumns(locale, story));
-  years_.SetRows(YearRows(locale, story, story_->Around(day)));
+  const platform::Platform& platform = context_.platform;
+  text_.SetText(WhyText(platform, calendar.currency, story, LastChangeOf(day)));
+  years_.SetColumns(YearColumns(platform, story));
+  years_.SetRows(YearRows(platform, story, story_->Around(day)));
 }
 
 std::string WhyPane::LastChangeOf(const platform::Date& day) const {

@@ -4,11 +4,12 @@ key presses alone: the mouse is never touched."""
 from desktop_session import wait_for
 
 CALENDARS = 'Calendars'
-RULES = 'Assign groups holidays for calendar'
+RULES = 'Assign groups holidays for calendar - EUR 2028'
+PREVIEW = 'Assign these rules?'
 
 # The delivered database has the calendars of this year and the next.
 FIRST_YEAR = '2026'
-# The euro's rules that hold for every year, in the order of the list, where the weekday of another currency stands among them.
+# The euro's rules that hold for every year, in the order of the list.
 YEARLY_RULES = ('Saturday', 'Sunday', "New Year's Day", 'Labour Day (1 May)', 'Christmas Day', "St Stephen's Day")
 # The other ones of the year before: their dates are those of one year.
 OLD_POINTS = ('Good Friday', 'Easter Monday')
@@ -46,7 +47,7 @@ class OperatorStory:
         self.write_points()
         self.assign_points()
         self.except_day_with_message()
-        self.remove_rule()
+        self.remove_rule(rule_count + len(NEW_POINTS))
         self.restore_rule()
         self.edit_comment()
 
@@ -137,10 +138,18 @@ class OperatorStory:
         self.session.keys('Tab')
         self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028 Sat')
         self.open_rules()
-        self.wait_rows(RULES, rule_count)
+        self.wait_rows(RULES, len(YEARLY_RULES + OLD_POINTS))
+        self.list_all_rules(rule_count)
+        self.session.keys('ctrl+l')
+        self.wait_rows(RULES, len(YEARLY_RULES + OLD_POINTS))
         self.select_rules(YEARLY_RULES)
         self.picture('rules')
-        self.assign()
+        self.assign(picture='preview')
+
+    def list_all_rules(self, rule_count):
+        """Those of other currencies as well."""
+        self.session.keys('ctrl+l')
+        self.wait_rows(RULES, rule_count)
 
     def write_points(self):
         self.open_rules()
@@ -183,8 +192,12 @@ class OperatorStory:
             return [grid.text(row, 'Name') for row in sorted(grid.selected_rows())] == list(names)
         wait_for(are_selected, f'the selected rules {names}')
 
-    def assign(self):
+    def assign(self, picture=None):
         self.session.keys('alt+i')
+        self.wait_active(PREVIEW)
+        if picture:
+            self.picture(picture)
+        self.session.keys('Return')
         self.wait_active(CALENDARS)
         self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028 Sat')
 
@@ -205,9 +218,9 @@ class OperatorStory:
         self.session.type(date)
         self.wait_in_grid(CALENDARS, 'Date', date)
 
-    def remove_rule(self):
+    def remove_rule(self, rows):
         self.open_rules()
-        rows = self.grid(RULES).row_count()
+        self.list_all_rules(rows)
         self.go_to_rule(PAST_POINT)
         self.session.keys('alt+r')
         self.wait_active('Remove holiday')

@@ -11,7 +11,7 @@ from desktop_session import DesktopSession, Screen, wait_for
 
 PASSWORD = 'Ans%wer;42'
 CURRENCY_ERROR = "Tessaro Calendar. Can't load currency"
-RULES = 'Assign groups holidays for calendar'
+RULES = 'Assign groups holidays for calendar - USD 2026'
 USD = 840
 SCREEN = None
 

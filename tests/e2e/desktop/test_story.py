@@ -121,7 +121,7 @@ class NextYear:
         expected[datetime.date(YEAR, 12, 23)] = (WORKING_DAY, EXCEPTION, MESSAGE)
         self.assertEqual(self.days(), expected)
 
-        story.remove_rule()
+        story.remove_rule(len(rules) - 1)
         rules[PAST_POINT]['Del'] = REMOVED
         self.assertEqual(self.rules_by_name(), rules)
         story.restore_rule()

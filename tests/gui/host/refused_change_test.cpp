@@ -55,7 +55,7 @@ TEST_F(RefusedChange, AnExceptionInAReadOnlyFileStaysToldAfterTheDaysWereReadAga
 
 TEST_F(RefusedChange, AnAssignmentCountsTheDaysThatItSet) {
   OpenCalendars();
-  InHolidays([](QWidget& holidays) {
+  InHolidays([this](QWidget& holidays) {
     WalkToRow(GridIn(holidays), RowOf(GridIn(holidays), "Name", "Saturday"));
     script_.Expect("fmAssignPreview", [](QWidget& preview) { ClickButton(preview, "cmdAssign"); });
     ClickButton(holidays, "cmdAction5");

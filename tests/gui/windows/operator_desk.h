@@ -45,6 +45,8 @@ class OperatorDesk {
   OperatorDesk& operator=(const OperatorDesk&) = delete;
 
   [[nodiscard]] const platform::Platform& Platform() const { return platform_; }
+  /// For windows that are opened from now on; null for none.
+  void SetAdditions(platform::Additions* additions) { platform_.additions = additions; }
   [[nodiscard]] const HeardToolkit& Toolkit() const { return toolkit_; }
   [[nodiscard]] const std::string& Folder() const { return folder_.Path(); }
   [[nodiscard]] std::string DatabasePath() const { return Folder() + "/calendars.db"; }

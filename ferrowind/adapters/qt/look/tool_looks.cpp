@@ -37,6 +37,8 @@ constexpr std::array kLooks = {
     Entry{"ID_Undo", UndoGlyph, ""},
     Entry{"ID_Find", FindGlyph, ""},
     Entry{"ID_GoToDate", GoToDateGlyph, ""},
+    Entry{"ID_Why", QuestionGlyph, ""},
+    Entry{"ID_OwnRules", CurrencyGlyph, ""},
 };
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace {
 
 using platform::Date;
 using ::testing::Contains;
+using ::testing::HasSubstr;
 using ::testing::Not;
 using testing::PlannedHolidays;
 using testing::RunInFreshThread;
@@ -93,6 +94,9 @@ TEST(RulesOfCalendar, AreListedAsBeforeAtAnyFailingCall) {
       const bool is_choosing = holidays.Tools().ToolPressed("ID_OwnRules");
       EXPECT_EQ(holidays.Names().size(), is_choosing ? 5u : 6u) << holidays.world.faults.FailedCall();
       EXPECT_EQ(holidays.Tools().ToolEnabled("ID_OwnRules"), is_choosing);
+      if (!is_choosing) {
+        EXPECT_THAT(holidays.Tools().ToolDescription("ID_OwnRules"), HasSubstr("Planned fault"));
+      }
     });
   }
   EXPECT_GT(opened, 20);

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ferrowind/adapters/headless/headless_locale.h"
+#include "ferrowind/adapters/headless/world.h"
 
 namespace ferrowind {
 namespace {
@@ -15,6 +15,11 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
+struct World {
+  headless::World world;
+  platform::Platform platform = world.Platform();
+};
+
 DayStory Exception() {
   DayStory story{.day = Date(2028, 4, 14)};
   story.state = DayStory::State::kException;
@@ -24,17 +29,16 @@ DayStory Exception() {
 }
 
 TEST(WhyText, TellsTheReasonOfAnException) {
-  const headless::HeadlessLocale locale;
   DayStory story = Exception();
   story.comment = "Settlement works";
-  EXPECT_EQ(WhyText(locale, "EUR", story, ""),
+  EXPECT_EQ(WhyText(World().platform, "EUR", story, ""),
             "EUR, Friday 14 April 2028: Working day by exception\n"
             "Reason: Settlement works\n"
             "Plan: EUR has no book");
 }
 
 TEST(WhyText, SaysThatAnExceptionHasNoReason) {
-  EXPECT_THAT(WhyText(headless::HeadlessLocale(), "EUR", Exception(), ""),
+  EXPECT_THAT(WhyText(World().platform, "EUR", Exception(), ""),
               HasSubstr("\nNo reason is given for the exception.\n"));
 }
 
@@ -42,21 +46,19 @@ TEST(WhyText, TellsTheTextOfAHolidayAndNothingWhereItHasNone) {
   DayStory story = Exception();
   story.state = DayStory::State::kClosed;
   story.rule = "Street fair";
-  EXPECT_THAT(WhyText(headless::HeadlessLocale(), "EUR", story, ""), Not(HasSubstr("eason")));
+  EXPECT_THAT(WhyText(World().platform, "EUR", story, ""), Not(HasSubstr("eason")));
   story.comment = "Half day";
-  EXPECT_THAT(WhyText(headless::HeadlessLocale(), "EUR", story, ""), HasSubstr("\nText: Half day\n"));
+  EXPECT_THAT(WhyText(World().platform, "EUR", story, ""), HasSubstr("\nText: Half day\n"));
 }
 
 TEST(WhyText, TellsWhoChangedTheDay) {
-  EXPECT_THAT(WhyText(headless::HeadlessLocale(), "EUR", Exception(), "by anna"),
-              HasSubstr("\nChanged: by anna"));
+  EXPECT_THAT(WhyText(World().platform, "EUR", Exception(), "by anna"), HasSubstr("\nChanged: by anna"));
 }
 
 TEST(YearRows, TellTheWeekdayAndTheRuleOfTheDateAndEachDayOfTheRule) {
-  const headless::HeadlessLocale locale;
   DayStory story = Exception();
   story.has_dated_rule = true;
-  const auto rows = YearRows(locale, story,
+  const auto rows = YearRows(World().platform, story,
                              {{2027, true, Date(2027, 4, 14), "", {Date(2027, 3, 26), Date(2027, 5, 3)}},
                               {2029, true, Date(2029, 4, 14), "Saturday", {}}});
   ASSERT_EQ(rows.size(), 2u);
