@@ -87,7 +87,8 @@ void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers) {
   }
 }
 
-WindowStage::WindowStage(const std::string& fill) {
+WindowStage::WindowStage(const std::string& fill, Additions additions) {
+  if (additions == Additions::kNone) platform_.additions = nullptr;
   sqlite::CreateDatabase(DatabasePath());
   sqlite::DatabaseHandle(DatabasePath()).Execute(fill.c_str());
   surroundings_.UseDatabase("sqlite:" + DatabasePath());

@@ -48,12 +48,15 @@ void LetWindowsRest();
 /// The component's windows as the desktop program puts them together, over a database in a temporary folder.
 class WindowStage {
  public:
+  /// Whether the windows have the additions that the desktop asks for, or are the given ones.
+  enum class Additions { kAll, kNone };
+
   /// `fill` is SQL that is run on the database, which has no delivered rules.
-  explicit WindowStage(const std::string& fill);
+  explicit WindowStage(const std::string& fill, Additions additions = Additions::kAll);
   ~WindowStage();
 
   [[nodiscard]] std::string DatabasePath() const { return folder_.filePath("calendars.db").toStdString(); }
-  [[nodiscard]] const platform::Platform& Platform() const { return surroundings_.Get(); }
+  [[nodiscard]] const platform::Platform& Platform() const { return platform_; }
 
   /// Opens the Calendars window and selects the first calendar of the currency. Called once; a stage on which
   /// it was called before must be gone.
@@ -72,6 +75,7 @@ class WindowStage {
   /// As the desktop has them; nobody reads them.
   host::OperatorNews news_{locale_, [] { return std::string(); }};
   host::DesktopSurroundings surroundings_{news_};
+  platform::Platform platform_ = surroundings_.Get();
   std::unique_ptr<Calendar> control_;
 };
 

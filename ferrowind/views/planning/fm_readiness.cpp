@@ -39,6 +39,7 @@ platform::FormDesign Design() {
                    {.kind = ControlKind::kTable, .name = "tblFindings", .selects_many = true, .sorts = true},
                    {ControlKind::kSplitter, "spBoard"},
                    {ControlKind::kButton, "cmdRefresh", "Refresh"},
+                   {ControlKind::kButton, "cmdBook", "Rule book..."},
                    {ControlKind::kButton, "cmdPlan", "Year plan..."},
                    {ControlKind::kButton, "cmdPrepareAll", "Prepare all..."}}};
 }
@@ -56,7 +57,8 @@ std::shared_ptr<fmReadiness> fmReadiness::Create(const PlanningContext& context,
 }
 
 ReadinessDoors fmReadiness::DoorsTo(PlanningWindows& windows) {
-  return {.open_year_plan = [&windows](const auto& calendars) { windows.OpenYearPlan(calendars); }};
+  return {.open_year_plan = [&windows](const auto& calendars) { windows.OpenYearPlan(calendars); },
+          .open_rule_book = [&windows](std::int32_t currency) { windows.OpenRuleBook(currency); }};
 }
 
 fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
@@ -70,6 +72,7 @@ fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
       lblFindings_(ControlOf<platform::Label>(*form_, "lblFindings")),
       tblFindings_(ControlOf<platform::Table>(*form_, "tblFindings")),
       cmdRefresh_(ControlOf<platform::Button>(*form_, "cmdRefresh")),
+      cmdBook_(ControlOf<platform::Button>(*form_, "cmdBook")),
       cmdPlan_(ControlOf<platform::Button>(*form_, "cmdPlan")),
       cmdPrepareAll_(ControlOf<platform::Button>(*form_, "cmdPrepareAll")) {}
 
@@ -90,6 +93,7 @@ void fmReadiness::Subscribe() {
   subscriptions_.push_back(tblBoard_.OnCurrentChange(Running(&fmReadiness::EnableButtons)));
   subscriptions_.push_back(tblFindings_.OnActivate(Running(&fmReadiness::OpenFinding)));
   subscriptions_.push_back(cmdRefresh_.OnClick(Running(&fmReadiness::Read)));
+  subscriptions_.push_back(cmdBook_.OnClick(Running(&fmReadiness::OpenBook)));
   subscriptions_.push_back(cmdPlan_.OnClick(Running(&fmReadiness::OpenPlanOfCell)));
   subscriptions_.push_back(cmdPrepareAll_.OnClick(Running(&fmReadiness::PrepareAll)));
   subscriptions_.push_back(
@@ -217,7 +221,9 @@ void fmReadiness::ShowFindings() {
 
 void fmReadiness::EnableButtons() {
   const bool has_way = doors_.open_year_plan != nullptr;
-  cmdPlan_.SetEnabled(has_way && ChosenCalendar().has_value());
+  const bool is_chosen = ChosenCalendar().has_value();
+  cmdBook_.SetEnabled(doors_.open_rule_book != nullptr && is_chosen);
+  cmdPlan_.SetEnabled(has_way && is_chosen);
   cmdPrepareAll_.SetEnabled(has_way && report_ && !report_->ToPrepare(report_->NextYear()).empty());
 }
 
@@ -243,6 +249,11 @@ std::optional<CalendarKey> fmReadiness::ChosenCalendar() const {
 
 void fmReadiness::OpenPlanOfCell() {
   if (const auto calendar = ChosenCalendar()) OpenPlan({*calendar});
+}
+
+void fmReadiness::OpenBook() {
+  const auto calendar = ChosenCalendar();
+  if (calendar && doors_.open_rule_book) doors_.open_rule_book(calendar->first);
 }
 
 void fmReadiness::OpenFinding() {

@@ -75,6 +75,7 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   void EnableButtons();
 
   void OpenPlanOfCell();
+  void OpenBook();
   void OpenFinding();
   void PrepareAll();
   void OpenPlan(const std::vector<planning::CalendarKey>& calendars);
@@ -92,6 +93,7 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   platform::Label& lblFindings_;
   platform::Table& tblFindings_;
   platform::Button& cmdRefresh_;
+  platform::Button& cmdBook_;
   platform::Button& cmdPlan_;
   platform::Button& cmdPrepareAll_;
   /// Nothing until the database was read.

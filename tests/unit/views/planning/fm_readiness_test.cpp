@@ -206,12 +206,23 @@ TEST(Readiness, AFindingLeadsToThePlanOfItsYearOrToTheBookThatItIsAbout) {
   });
 }
 
+TEST(Readiness, TheRuleBookOfTheCurrencyIsOneButtonAway) {
+  RunInFreshThread([] {
+    ReadinessWorld board;
+    board.Show();
+    board.Board().ClickRow("USD", "2026");
+    board.Button("cmdBook").Click();
+    EXPECT_THAT(board.books_opened, ElementsAre(planning::kDollar));
+  });
+}
+
 TEST(Readiness, WithoutAWayToPlansOffersNone) {
   RunInFreshThread([] {
     ReadinessWorld board;
     board.window->Close();
     board.window = fmReadiness::Create({board.platform, board.tables, board.windows}, {});
     board.Show();
+    EXPECT_FALSE(board.Button("cmdBook").Enabled());
     EXPECT_FALSE(board.Button("cmdPlan").Enabled());
     EXPECT_FALSE(board.Button("cmdPrepareAll").Enabled());
     EXPECT_NO_THROW(board.Board().DoubleClickRow("EUR", "2027"));
