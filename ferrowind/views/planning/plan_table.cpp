@@ -134,8 +134,10 @@ std::string PlanTable::CurrentSentence() const {
       std::find_if(lines_.begin(), lines_.end(), [&](const PlanLine& each) { return each.key == current; });
   if (line == lines_.end()) return "";
   const std::string& calendar = batch_.Calendars()[line->calendar].Name();
-  const std::string subject = line->date ? DayText(platform_.locale, *line->date) : calendar;
-  return Said(platform_, "%1: %2.", {subject, line->why});
+  if (!line->date) return Said(platform_, "%1: %2.", {calendar, line->why});
+  const std::string day = DayText(platform_.locale, *line->date);
+  if (batch_.Calendars().size() == 1) return Said(platform_, "%1: %2.", {day, line->why});
+  return Said(platform_, "%1, %2: %3.", {calendar, day, line->why});
 }
 
 void PlanTable::TakeDecisions() {

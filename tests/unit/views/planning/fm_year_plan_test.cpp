@@ -131,7 +131,8 @@ TEST(YearPlanWindow, SaysInFullWhatTheCurrentLineSays) {
     const auto& sentence = world.Form().Part<headless::HeadlessLabel>("lblLine");
     EXPECT_EQ(sentence.Text(), "EUR 2028: 2 days.");
     world.Lines().ClickRow(kGoodFriday);
-    EXPECT_EQ(sentence.Text(), "Friday 14 April 2028: Easter Sunday 16 April 2028, two days before.");
+    EXPECT_EQ(sentence.Text(),
+              "EUR 2028, Friday 14 April 2028: Easter Sunday 16 April 2028, two days before.");
     world.Button("cmdApply").Click();
     EXPECT_EQ(sentence.Text(), "USD 2028: as planned.");
   });
