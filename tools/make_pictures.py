@@ -282,6 +282,31 @@ class Photographer:
         self.studio.take('guide-assign-preview', self.session, PREVIEW)
         self.session.keys('Escape')
 
+    def take_history(self, theme):
+        """Of a calendar with some changes, one of them undone."""
+        self.session.database.parent.mkdir(parents=True)
+        url = f'sqlite:{self.session.database}'
+        self.make_database(url)
+        self.run_ctl('apply', url, 'USD', '2028', '--yes')
+        for day, reason in ((360, 'Stock-taking'), (148, 'Move to the new building'), (149, 'Move to the new building')):
+            self.run_ctl('call', url, 'CldIUMain', 'ID1=840', 'Year1=2028', 'TID1=1', 'ID2=1', f'Day1={day}', f'Comment={reason}')
+        self.studio.use_frames(theme)
+        self.session.start('--open', '--theme', theme)
+        self.story.wait_active(CALENDARS)
+        self.session.type('USD')
+        self.session.keys('Right', 'Down')
+        self.story.wait_rows(CALENDARS, 365)
+        self.session.keys('Down', 'Down')
+        self.story.wait_rows(CALENDARS, 366)
+        self.session.keys('ctrl+h')
+        self.story.wait_active('History')
+        self.session.keys('ctrl+z', 'Down', 'Down')
+        self.studio.take(f'guide-history-{theme}', self.session, 'History')
+        self.session.keys('Return')
+        wait_for(lambda: 'as of' in self.session.active_title(), 'the calendar as it was')
+        self.session.keys('ctrl+End', 'Page_Up')
+        self.studio.take(f'guide-calendar-then-{theme}', self.session, self.session.active_title())
+
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
         self.make_database(database)
@@ -310,8 +335,9 @@ def main():
                          lambda user: user.take_year_plan('dark'),
                          lambda user: user.take_year_plan('light'),
                          lambda user: user.take_year_planner(),
-
                          lambda user: user.take_why(),
+                         lambda user: user.take_history('dark'),
+                         lambda user: user.take_history('light'),
                          lambda user: user.take_story()):
                 user = Photographer(studio, programs)
                 try:

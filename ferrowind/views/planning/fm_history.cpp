@@ -106,7 +106,7 @@ fmHistory::fmHistory(const PlanningContext& context)
                        {.key = "Calendar", .caption = Said(platform_, "Calendar")},
                        {.key = "Change", .caption = Said(platform_, "What"), .stretches = true}});
   entries_.SetEmptyText(Said(platform_, "Nothing was changed."));
-  changes_.SetColumns({{.key = "What", .caption = Said(platform_, "What")},
+  changes_.SetColumns({{.key = "What", .caption = Said(platform_, "What"), .stretches = true},
                        {.key = "Before", .caption = Said(platform_, "Before"), .stretches = true},
                        {.key = "After", .caption = Said(platform_, "After"), .stretches = true}});
   changes_.SetEmptyText(Said(platform_, "Everything stayed as it was."));
