@@ -217,6 +217,46 @@ TEST(YearPaneTest, ScrollsTheCurrentDayIntoSight) {
   }
 }
 
+TEST(YearPaneTest, NamesWeekdaysSoThatTheyDifferInEveryLanguage) {
+  for (const char* name : {"C", "de_DE", "ar_EG"}) {
+    YearWidget widget;
+    const QLocale locale{QString::fromLatin1(name)};
+    widget.setLocale(locale);
+    widget.setLayoutDirection(locale.textDirection());
+    widget.resize(784, 460);
+    widget.Pane().SetDays(YearDays(SmallYear({"EUR"})));
+    widget.show();
+    // What stands above the days of the first week of May, whose cells tell where the columns are.
+    const int first = platform::Date(2028, 5, 8).DayOfYear();
+    std::set<std::vector<QRgb>> headers;
+    for (int day = first; day < first + 7; ++day) {
+      const QRect column = widget.Pane().RectOf({0, day});
+      const QRect top = widget.Pane().RectOf({0, platform::Date(2028, 5, 1).DayOfYear()});
+      const QRect header(column.left(), top.top() - column.height() * 2 / 3, column.width(),
+                         column.height() * 2 / 3);
+      const QImage picture =
+          widget.Pane().viewport()->grab(header).toImage().convertToFormat(QImage::Format_RGB32);
+      std::vector<QRgb> pixels;
+      for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) pixels.push_back(picture.pixel(x, y));
+      }
+      headers.insert(pixels);
+    }
+    // In English two weekdays begin with T and two with S, but not with the same two letters.
+    EXPECT_EQ(headers.size(), 7U) << name;
+  }
+}
+
+TEST(YearPaneTest, ShowsNoMonthsWithoutACalendar) {
+  YearWidget widget;
+  widget.resize(784, 460);
+  widget.show();
+  const QImage picture = widget.Pane().viewport()->grab().toImage();
+  for (int y = 0; y < picture.height(); y += 3) {
+    for (int x = 0; x < picture.width(); x += 3) ASSERT_EQ(picture.pixel(x, y), picture.pixel(0, 0));
+  }
+}
+
 TEST(YearPaneTest, ExplainsDaysAndMonthsByTooltips) {
   YearWidget widget;
   widget.setLocale(QLocale::c());

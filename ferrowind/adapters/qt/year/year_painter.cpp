@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/year/year_painter.h"
 
 #include <QFontMetricsF>
+#include <QSet>
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/values/qt_text.h"
@@ -96,17 +97,32 @@ void YearPainter::PaintTitle(QPainter& painter, int month) const {
 void YearPainter::PaintWeekdays(QPainter& painter, int month) const {
   painter.setFont(metrics_.small_font);
   painter.setPen(colors_.muted);
-  const QFontMetricsF metrics(metrics_.small_font);
+  const QStringList names = WeekdayNames();
   for (int column = 0; column < 7; ++column) {
-    const QRectF area = layout_.HeaderRect(month, column);
-    const int weekday = QtWeekday(layout_.WeekdayOf(column));
-    QString name = locale_.standaloneDayName(weekday, QLocale::ShortFormat);
-    // Two letters tell the weekdays apart where three do not fit.
-    if (metrics.horizontalAdvance(name) > area.width()) name = name.left(2);
-    if (metrics.horizontalAdvance(name) > area.width())
-      name = locale_.standaloneDayName(weekday, QLocale::NarrowFormat);
-    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, name);
+    painter.drawText(layout_.HeaderRect(month, column), Qt::AlignCenter | Qt::TextSingleLine, names[column]);
   }
+}
+
+QStringList YearPainter::WeekdayNames() const {
+  const QFontMetricsF metrics(metrics_.small_font);
+  const qreal room = layout_.HeaderRect(1, 0).width();
+  const auto named = [&](QLocale::FormatType format) {
+    QStringList names;
+    for (int column = 0; column < 7; ++column)
+      names.append(locale_.standaloneDayName(QtWeekday(layout_.WeekdayOf(column)), format));
+    return names;
+  };
+  const auto fit = [&](const QStringList& names) {
+    return std::all_of(names.begin(), names.end(),
+                       [&](const QString& name) { return metrics.horizontalAdvance(name) <= room; });
+  };
+  const QStringList names = named(QLocale::ShortFormat);
+  if (fit(names)) return names;
+  // Two letters tell the weekdays apart in many languages, but not in those where all begin with an article.
+  QStringList starts;
+  for (const QString& name : names) starts.append(name.left(2));
+  const bool are_distinct = QSet<QString>(starts.begin(), starts.end()).size() == starts.size();
+  return are_distinct && fit(starts) ? starts : named(QLocale::NarrowFormat);
 }
 
 void YearPainter::PaintDayNumbers(QPainter& painter, int month) const {

@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QRectF>
+#include <QStringList>
 
 #include "ferrowind/adapters/qt/year/year_colors.h"
 #include "ferrowind/adapters/qt/year/year_layout.h"
@@ -29,6 +30,8 @@ class YearPainter {
   void PaintMonth(QPainter& painter, int month, const QRectF& exposed, const Cursor& cursor) const;
   void PaintTitle(QPainter& painter, int month) const;
   void PaintWeekdays(QPainter& painter, int month) const;
+  /// As long as all seven fit, in the order of reading.
+  [[nodiscard]] QStringList WeekdayNames() const;
   void PaintDayNumbers(QPainter& painter, int month) const;
   void PaintRowTexts(QPainter& painter, int month) const;
   void PaintGround(QPainter& painter, const year_engine::YearPlace& place, bool is_selected) const;

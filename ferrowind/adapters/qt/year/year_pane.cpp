@@ -150,6 +150,8 @@ QPointF YearPane::Scrolled() const {
 }
 
 void YearPane::paintEvent(QPaintEvent* event) {
+  // Months without a day would look like a year of which all days are gone.
+  if (days_.CalendarCount() == 0) return;
   const YearMetrics metrics(days_, font(), locale());
   const YearColors colors(palette());
   const QLocale names = locale();
