@@ -182,5 +182,15 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheHistoryAndACalendarOfThen) {
   Examine("fmCalendarThen");
 }
 
+TEST_P(WindowLooksTest, CanBeReadAndUsedInARuleBook) {
+  RunHandler(platform_, [&] { windows_.OpenRuleBook(kDollar); });
+  Examine("fmRuleBook");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInThePlannerOfAYear) {
+  RunHandler(platform_, [&] { windows_.OpenYearPlanner({kDollar}, 2028); });
+  Examine("fmYearPlanner");
+}
+
 }  // namespace
 }  // namespace ferrowind::gui
