@@ -45,7 +45,15 @@ const char* const kTexts[] = {"2028", "abc",    "", "Christmas", "USD", "9", "\x
 QWidget* WindowOnTop() {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && active->isVisible()) return active;
   return WindowOnShow("fmCalendar");
+}
+
+/// Dialogs of the desktop reach beyond what the test owns: its files and its printers.
+bool IsOfDesktop(const QWidget& window) {
+  return window.inherits("QFileDialog") || window.inherits("QAbstractPrintDialog") ||
+         window.inherits("QPageSetupDialog");
 }
 
 }  // namespace
@@ -95,7 +103,10 @@ void RandomOperator::Act() {
   if (depth_ == 1) ExpectNothingLocked();
   if (Below(60) == 0) return ChangeDatabase();
   QWidget* window = WindowOnTop();
-  if (window != nullptr) return ActOn(*window);
+  if (window != nullptr && IsOfDesktop(*window)) return window->hide();
+  const bool is_alone = window != nullptr && !window->isModal() && WindowOnShow("fmCalendar") == nullptr;
+  // The windows that were opened from the Calendars window stay when that is closed.
+  if (window != nullptr && (!is_alone || Below(40) > 0)) return ActOn(*window);
   FreeDatabase();
   reopen_();
 }

@@ -12,7 +12,8 @@
 namespace ferrowind::gui {
 
 /// An operator who does anything: clicks, keys, drags, wheel, resizing and menus on whatever window is on
-/// top, while the database is taken away, locked and brought back.
+/// top, while the database is taken away, locked and brought back. Dialogs of the desktop for files and
+/// printers are turned down at once.
 ///
 /// Goes on inside the menus and dialogs that its own input opens. The same seed gives the same decisions.
 class RandomOperator : public QObject {
