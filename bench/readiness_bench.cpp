@@ -77,22 +77,6 @@ void MeasureBoard(const Benchmark& benchmark) {
     return time;
   };
   benchmark.CompareTimes("opening the board, 26 x 4 years, peer: one calendar", 2.5, opened, peer, 31);
-
-  const auto board = fmReadiness::Create(context, {});
-  board->Show();
-  LetWindowsRest();
-  const auto read_again = [&] {
-    const Watch watch;
-    const PaintWatch painted(*TableIn("tblBoard").viewport());
-    board->Refresh();
-    painted.WaitUntilPainted();
-    const double time = watch.Milliseconds();
-    LetWindowsRest();
-    RequirePrepared(kCurrencies);
-    return time;
-  };
-  benchmark.CompareTimes("reading the board again, 26 x 4 years, peer: one calendar", 2.5, read_again, peer,
-                         31);
 }
 
 }  // namespace
