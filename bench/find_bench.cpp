@@ -26,7 +26,7 @@ namespace {
 constexpr std::size_t kRows = 100000;
 
 /// What is typed letter by letter: names that many rows have, few have, and none has.
-const std::vector<std::string> kTyped = {"trader 3", "client number 4711", "spot eur", "zebra"};
+const std::vector<std::string> kTyped = {"telephone", "client number 4711", "spot eur", "zebra"};
 
 /// A window with a grid and the bar above it.
 class OurRows {
@@ -106,10 +106,11 @@ void Run(const Benchmark& benchmark) {
   for (const std::string& text : kTyped) {
     ours.Type(text);
     peer.Type(text);
-    // Two words are looked for in any order by one side, and as they stand by the other.
-    const bool is_one_name = text != "spot eur";
-    if (is_one_name && ours.RowCount() != peer.RowCount())
+    // Several words are looked for in any order by one side, and as they stand by the other.
+    const bool is_one_word = text.find(' ') == std::string::npos;
+    if (is_one_word && ours.RowCount() != peer.RowCount()) {
       throw std::logic_error("The two find different rows");
+    }
     benchmark.Compare("find: \"" + text + "\" letter by letter in 100000 rows", 0.1,
                       {[&] { TypeLetterByLetter(ours, text); }, [&] { ours.Type(""); }},
                       {[&] { TypeLetterByLetter(peer, text); }, [&] { peer.Type(""); }}, 3);
