@@ -270,7 +270,7 @@ class Photographer:
         self.session.keys('Right', 'Down', 'Down', 'Down')
         self.story.wait_rows(CALENDARS, 366)
         self.session.keys('Tab')
-        self.story.go_to_day('14 Apr 2028')
+        self.story.go_to_day('14 Apr 2028 Fri')
         self.studio.take('guide-why', self.session, CALENDARS)
         self.story.open_rules()
         rows = self.story.grid(RULES).row_count()

@@ -61,7 +61,9 @@ class OperatorStory:
         wait_for(is_active, f'the keyboard in the window "{title}"')
 
     def grid(self, title):
-        return self.accessible.GridReader(self.accessible.wait_window(title))
+        # Below the days stands another table.
+        name = 'Days' if title == CALENDARS else None
+        return self.accessible.GridReader(self.accessible.wait_window(title), name)
 
     def wait_rows(self, title, count):
         wait_for(lambda: self.grid(title).row_count() == count, f'{count} rows in "{title}"')

@@ -69,7 +69,7 @@ class DesktopTest(unittest.TestCase):
         return self.accessible.wait_find(self.accessible.application(), 'table cell', '1 Jan 2026 Thu')
 
     def grid(self):
-        return self.accessible.wait_find(self.accessible.application(), 'table')
+        return self.accessible.wait_find(self.accessible.application(), 'table', 'Days')
 
     def screen_place(self, node):
         import pyatspi
@@ -303,7 +303,7 @@ class DesktopTest(unittest.TestCase):
         chip = self.accessible.wait_find(app, 'push button', 'Grouped by Day type')
         self.assertEqual(chip.description, 'ascending')
 
-        grid = self.accessible.GridReader(self.accessible.wait_window('Calendars'))
+        grid = self.accessible.GridReader(self.accessible.wait_window('Calendars'), 'Days')
         group = wait_for(lambda: self.group_row(grid, 'Working day'), 'the group of working days')
         self.assertEqual(group.description, 'Group, level 1, expanded')
         rows = grid.row_count()

@@ -61,7 +61,7 @@ class ServerTest(unittest.TestCase):
         self.wait_first_day('1 Jan 2026 Thu')
 
     def wait_first_day(self, date):
-        grid = self.accessible.GridReader(self.accessible.wait_window('Calendars'))
+        grid = self.accessible.GridReader(self.accessible.wait_window('Calendars'), 'Days')
         wait_for(lambda: grid.row_count() and grid.text(0, 'Date') == date, f'the day {date}')
 
     def texts(self, title):
