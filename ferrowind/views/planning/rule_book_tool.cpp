@@ -11,7 +11,8 @@ platform::WindowParts RuleBookTool::Parts() {
   return {.tools = {{.id = kTool,
                      .caption = "Rule book...",
                      .category = "Planning",
-                     .description = "Shows by which rules the days of the currency are planned"}},
+                     .description = "Shows by which rules the days of the currency are planned",
+                     .shortcut = "Ctrl+B"}},
           .bar = {kTool}};
 }
 

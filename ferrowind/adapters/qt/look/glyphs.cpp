@@ -168,6 +168,41 @@ Glyph AllDaysGlyph() {
   return glyph;
 }
 
+Glyph BookGlyph() {
+  Glyph glyph;
+  for (const qreal side : {-1.0, 1.0}) {
+    const auto x = [side](qreal from_spine) { return 12 + side * from_spine; };
+    glyph.lines.moveTo(12, 6.5);
+    glyph.lines.cubicTo(x(2.5), 4.2, x(5.5), 4, x(9), 4.5);
+    glyph.lines.lineTo(x(9), 18);
+    glyph.lines.cubicTo(x(5.5), 17.5, x(2.5), 17.8, 12, 20);
+  }
+  AddLine(glyph.lines, {{12, 6.5}, {12, 20}});
+  for (const qreal y : {9.0, 12.5}) AddLine(glyph.accent_lines, {{15, y}, {18, y - 0.5}});
+  return glyph;
+}
+
+Glyph YearGlyph() {
+  Glyph glyph;
+  for (const qreal y : {3.5, 10.0, 16.5}) {
+    for (const qreal x : {3.5, 10.0, 16.5}) {
+      QPainterPath& month = x == 10.0 && y == 10.0 ? glyph.accent_lines : glyph.lines;
+      month.addRoundedRect(x, y, 4, 4, 0.8, 0.8);
+    }
+  }
+  return glyph;
+}
+
+Glyph YearWindowGlyph() {
+  Glyph glyph;
+  glyph.lines.addRoundedRect(3, 4, 18, 16, 2, 2);
+  AddLine(glyph.lines, {{3, 8.5}, {21, 8.5}});
+  for (const qreal y : {11.5, 15.5}) {
+    for (const qreal x : {6.5, 11.0, 15.5}) glyph.accent_lines.addRect(x, y, 2, 1.5);
+  }
+  return glyph;
+}
+
 Glyph HistoryGlyph() {
   Glyph glyph;
   glyph.lines.arcMoveTo(4, 4, 16, 16, 160);

@@ -19,6 +19,9 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph ExceptWithTextGlyph();
 [[nodiscard]] Glyph PlanGlyph();
 [[nodiscard]] Glyph AllDaysGlyph();
+[[nodiscard]] Glyph BookGlyph();
+[[nodiscard]] Glyph YearGlyph();
+[[nodiscard]] Glyph YearWindowGlyph();
 [[nodiscard]] Glyph HistoryGlyph();
 [[nodiscard]] Glyph UndoGlyph();
 [[nodiscard]] Glyph FindGlyph();
