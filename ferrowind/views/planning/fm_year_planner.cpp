@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/views/planning/selected_days.h"
 #include "ferrowind/views/planning/typed_currencies.h"
@@ -50,10 +51,13 @@ platform::FormDesign Design() {
               {ControlKind::kStatusBar, "sbYear"}}};
 }
 
-void SetupTools(platform::ToolBar& tools) {
+void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
   const auto add = [&](const char* id, const char* caption, const char* description, const char* shortcut) {
-    tools.AddTool(
-        {.id = id, .caption = caption, .category = "Year", .description = description, .shortcut = shortcut});
+    tools.AddTool(Said(platform, platform::ToolDesign{.id = id,
+                                                      .caption = caption,
+                                                      .category = "Year",
+                                                      .description = description,
+                                                      .shortcut = shortcut}));
   };
   add(kRefresh, "Refresh", "Reads the calendars anew", "F5");
   add(kYearBefore, "Previous year", "Shows the year before", "Alt+PgUp");
@@ -96,14 +100,14 @@ std::string fmYearPlanner::NameFor(const std::vector<std::int32_t>& currencies, 
 fmYearPlanner::fmYearPlanner(const PlanningContext& context)
     : platform_(context.platform),
       windows_(context.windows),
-      form_(platform_.toolkit.CreateForm(Design())),
+      form_(platform_.toolkit.CreateForm(Said(platform_, Design()))),
       view_(ControlOf<platform::YearView>(*form_, "yvYear")),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbYear")),
       currencies_box_(ControlOf<platform::TextBox>(*form_, "txtCurrencies")),
       year_box_(ControlOf<platform::TextBox>(*form_, "txtYear")),
       summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
       bar_(ControlOf<platform::StatusBar>(*form_, "sbYear")) {
-  SetupTools(tools_);
+  SetupTools(platform_, tools_);
 }
 
 void fmYearPlanner::Connect() {
@@ -157,7 +161,7 @@ void fmYearPlanner::Show(const std::vector<Currency>& currencies, int year) {
   for (const Currency& currency : currencies) codes += (codes.empty() ? "" : " ") + currency.code;
   currencies_box_.SetText(codes);
   year_box_.SetText(std::to_string(year));
-  form_->SetCaption("Year planner - " + HeadingOf(*overview_));
+  form_->SetCaption(Said(platform_, "Year planner - %1", {HeadingOf(*overview_)}));
   tools_.SetToolEnabled(kYearBefore, year > planning::kFirstCalendarYear);
   tools_.SetToolEnabled(kYearAfter, year < planning::kLastCalendarYear);
   RefreshSelection();
@@ -239,11 +243,12 @@ void fmYearPlanner::ExceptDays() {
 void fmYearPlanner::Save(PageFile kind) {
   const bool is_pdf = kind == PageFile::kPdf;
   const auto path = platform_.toolkit.ChooseFileToSave(
-      is_pdf ? "Save as PDF" : "Save as picture", HeadingOf(*overview_),
-      {is_pdf ? platform::FileKind{"PDF files", "pdf"} : platform::FileKind{"PNG pictures", "png"}});
+      Said(platform_, is_pdf ? "Save as PDF" : "Save as picture"), HeadingOf(*overview_),
+      {is_pdf ? platform::FileKind{Said(platform_, "PDF files"), "pdf"}
+              : platform::FileKind{Said(platform_, "PNG pictures"), "png"}});
   if (!path || has_closed_) return;
   view_.SavePages(kind, *path, HeadingOf(*overview_));
-  bar_.SetPanelText(kTextPanel, "Saved as " + *path);
+  bar_.SetPanelText(kTextPanel, Said(platform_, "Saved as %1", {*path}));
 }
 
 }  // namespace ferrowind

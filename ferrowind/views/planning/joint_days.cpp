@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "ferrowind/almanac/day_counts.h"
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/views/planning/year_content.h"
 
 namespace ferrowind {
@@ -14,6 +14,7 @@ namespace {
 
 using almanac::MarkedDay;
 using almanac::RuleKind;
+using planning::InWords;
 using planning::YearOverview;
 using platform::DayLook;
 using platform::DayShape;
@@ -65,14 +66,14 @@ void Add(Named& named, const std::string& name, const std::string& code) {
 }
 
 /// "Good Friday (EUR, USD); Spring Day (GBP)".
-std::string InWords(const Named& named) {
+std::string ListOf(const Named& named) {
   std::string words;
   for (const auto& [name, codes] : named) AppendTo(words, name + " (" + codes + ")", "; ");
   return words;
 }
 
 std::string NameOfClosing(const YearOverview& overview, const MarkedDay& day) {
-  return day.kind == RuleKind::kWeekday ? "weekend" : overview.NameOf(day);
+  return day.kind == RuleKind::kWeekday ? InWords("weekend") : overview.NameOf(day);
 }
 
 struct JointDay {
@@ -104,13 +105,13 @@ JointDay JointDayOf(const YearOverview& overview, const std::vector<Mark>& marks
     joint.look = {DayTint::kNone, DayShape::kNone, "?"};
   }
   if (closed == 0) {
-    joint.description = missing.empty() ? "all open" : "open as far as known";
+    joint.description = InWords(missing.empty() ? "all open" : "open as far as known");
   } else if (closed == existing && closing.size() == 1) {
-    joint.description = "all closed: " + closing.front().first;
+    joint.description = InWords("all closed: %1", {closing.front().first});
   } else {
-    joint.description = (closed == existing ? "all closed: " : "closed: ") + InWords(closing);
+    joint.description = InWords(closed == existing ? "all closed: %1" : "closed: %1", {ListOf(closing)});
   }
-  if (!missing.empty()) joint.description += "; no calendar: " + missing;
+  if (!missing.empty()) joint.description = InWords("%1; no calendar: %2", {joint.description, missing});
   return joint;
 }
 
@@ -131,10 +132,10 @@ DayLook SomeAreClosedLook(std::size_t closed) {
 platform::YearCalendar JointRow(const YearOverview& overview) {
   platform::YearCalendar row;
   row.key = kJointCalendar;
-  row.caption = "All";
-  row.description = "All calendars together";
+  row.caption = InWords("All");
+  row.description = InWords("All calendars together");
   const std::string missing = MissingCodes(overview);
-  row.ordinary = "all open";
+  row.ordinary = InWords("all open");
   const auto marks = MarksByDay(overview);
   for (int day = 1; day <= platform::DaysInYear(overview.Year()); ++day) {
     const auto& of_day = marks[static_cast<std::size_t>(day)];
@@ -146,10 +147,10 @@ platform::YearCalendar JointRow(const YearOverview& overview) {
   for (std::size_t month = 0; month < open.size(); ++month) {
     // What nobody knows of one calendar nobody knows of all of them.
     row.months[month].text = missing.empty() ? std::to_string(open[month]) : "-";
-    row.months[month].description =
-        missing.empty()
-            ? "open together on " + planning::Counted(static_cast<std::size_t>(open[month]), "day", "days")
-            : "no calendar of " + missing;
+    row.months[month].description = missing.empty()
+                                        ? InWords(static_cast<std::size_t>(open[month]),
+                                                  "open together on %n day", "open together on %n days")
+                                        : InWords("no calendar of %1", {missing});
   }
   return row;
 }
@@ -159,8 +160,8 @@ std::string JointSummary(const YearOverview& overview) {
   const int days = std::accumulate(months.begin(), months.end(), 0);
   const std::string missing = MissingCodes(overview);
   const std::string open =
-      "Open together on " + planning::Counted(static_cast<std::size_t>(days), "day", "days");
-  return missing.empty() ? open : open + " as far as known; no calendar of " + missing;
+      InWords(static_cast<std::size_t>(days), "Open together on %n day", "Open together on %n days");
+  return missing.empty() ? open : InWords("%1 as far as known; no calendar of %2", {open, missing});
 }
 
 std::vector<platform::YearNote> NotesOf(const YearOverview& overview) {
@@ -171,12 +172,12 @@ std::vector<platform::YearNote> NotesOf(const YearOverview& overview) {
     Named named;
     for (const auto& [calendar, marked] : marks[static_cast<std::size_t>(day)]) {
       if (marked->kind == RuleKind::kWeekday) continue;
-      std::string name = marked->IsClosed() ? overview.NameOf(*marked) : almanac::kExceptionName;
+      std::string name = marked->IsClosed() ? overview.NameOf(*marked) : InWords(almanac::kExceptionName);
       if (!marked->comment.empty()) name += ": " + marked->comment;
       Add(named, name, calendar->currency.code);
     }
     if (named.empty()) continue;
-    notes.push_back({static_cast<std::int16_t>(day), is_only_one ? named.front().first : InWords(named)});
+    notes.push_back({static_cast<std::int16_t>(day), is_only_one ? named.front().first : ListOf(named)});
   }
   return notes;
 }

@@ -5,15 +5,15 @@
 #include <utility>
 
 #include "ferrowind/data/module_state.h"
-#include "ferrowind/planning/counted.h"
 #include "ferrowind/planning/day_exceptions.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/views/dialogs/fm_except_mess.h"
 #include "ferrowind/views/planning/year_content.h"
 
 namespace ferrowind {
 namespace {
 
-using planning::Counted;
+using planning::InWords;
 using planning::YearOverview;
 
 std::size_t CountOf(const std::vector<SelectedDays>& selected) {
@@ -70,8 +70,8 @@ std::vector<SelectedDays> DaysToExcept(const YearOverview& overview,
 std::string SelectionInWords(const YearOverview& overview, const std::vector<SelectedDays>& selected) {
   std::size_t closed = 0;
   for (const auto& [position, days] : selected) closed += ClosedAmong(overview.Calendars()[position], days);
-  return Counted(CountOf(selected), "day", "days") + " selected, " + std::to_string(closed) +
-         " of them closed";
+  return InWords(CountOf(selected), "%n day selected, %1 of them closed",
+                 "%n days selected, %1 of them closed", {std::to_string(closed)});
 }
 
 ExceptedDays ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& overview,
@@ -89,18 +89,18 @@ ExceptedDays ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& 
         done.push_back(of_calendar);
         excepted.changed.emplace_back(calendar.currency.id, overview.Year());
       } else {
-        AppendSentence(excepted.problems,
-                       NameOf(overview, calendar) +
-                           " was changed by somebody else meanwhile. It is left as it is; look at "
-                           "its days again.");
+        AppendSentence(
+            excepted.problems,
+            InWords("%1 was changed by somebody else meanwhile. It is left as it is; look at its days again.",
+                    {NameOf(overview, calendar)}));
       }
     } catch (const platform::Failure& failure) {
       AppendSentence(excepted.problems, failure.Description() + ".");
     }
   }
   if (done.empty()) return excepted;
-  excepted.done = Counted(CountOf(done), "day is a working day by exception now",
-                          "days are working days by exception now");
+  excepted.done = InWords(CountOf(done), "%n day is a working day by exception now",
+                          "%n days are working days by exception now");
   return excepted;
 }
 

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -51,12 +52,14 @@ std::vector<Currency> TypedCurrencies(const std::string& text, int year) {
       continue;
     }
     const Currency& currency = list.Named(word);
-    if (!currency.is_money) throw Mistyped(currency.code + " has no calendars: it is no money");
+    if (!currency.is_money)
+      throw Mistyped(planning::InWords("%1 has no calendars: it is no money", {currency.code}));
     AddOnce(currencies, currency);
   }
   if (!currencies.empty()) return currencies;
-  throw Mistyped(Words(text).empty() ? "Name at least one currency, such as EUR, or ALL"
-                                     : "No currency has a calendar of " + std::to_string(year));
+  throw Mistyped(Words(text).empty()
+                     ? planning::InWords("Name at least one currency, such as EUR, or ALL")
+                     : planning::InWords("No currency has a calendar of %1", {std::to_string(year)}));
 }
 
 int TypedYear(const std::string& text) {
@@ -65,8 +68,9 @@ int TypedYear(const std::string& text) {
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), year);
   const bool is_number = error == std::errc() && end == digits.data() + digits.size();
   if (is_number && year >= planning::kFirstCalendarYear && year <= planning::kLastCalendarYear) return year;
-  throw Mistyped("\"" + digits + "\" is no year from " + std::to_string(planning::kFirstCalendarYear) +
-                 " to " + std::to_string(planning::kLastCalendarYear));
+  throw Mistyped(planning::InWords(
+      "\"%1\" is no year from %2 to %3",
+      {digits, std::to_string(planning::kFirstCalendarYear), std::to_string(planning::kLastCalendarYear)}));
 }
 
 }  // namespace ferrowind

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/day_counts.h"
-#include "ferrowind/planning/counted.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/views/planning/joint_days.h"
 
 namespace ferrowind {
@@ -14,7 +14,7 @@ namespace {
 using almanac::DayCounts;
 using almanac::MarkedDay;
 using almanac::RuleKind;
-using planning::Counted;
+using planning::InWords;
 using planning::YearOverview;
 using platform::DayLook;
 using platform::DayShape;
@@ -45,18 +45,20 @@ const DayLook& LookOf(const MarkedDay& day) {
 /// "Good Friday, closed", with the day's own text behind it.
 std::string Description(const YearOverview& overview, const MarkedDay& day) {
   const std::string comment = day.comment.empty() ? "" : ": " + day.comment;
-  if (!day.IsClosed()) return almanac::kExceptionName + comment;
-  return (day.kind == RuleKind::kWeekday ? "weekend" : overview.NameOf(day)) + ", closed" + comment;
+  if (!day.IsClosed()) return InWords(almanac::kExceptionName) + comment;
+  if (day.kind == RuleKind::kWeekday) return InWords("weekend, closed") + comment;
+  return InWords("%1, closed", {overview.NameOf(day)}) + comment;
 }
 
 std::string Words(const DayCounts& counts) {
   const auto count = [](int number, const char* one, const char* many) {
-    return Counted(static_cast<std::size_t>(number), one, many);
+    return InWords(static_cast<std::size_t>(number), one, many);
   };
-  std::string words = count(counts.Open(), "working day", "working days");
-  if (counts.exceptions != 0) words += " (" + count(counts.exceptions, "by exception", "by exception") + ")";
-  return words + ", " + count(counts.weekend, "weekend day", "weekend days") + ", " +
-         count(counts.holidays, "holiday", "holidays");
+  std::string words = count(counts.Open(), "%n working day", "%n working days");
+  if (counts.exceptions != 0)
+    words += " (" + count(counts.exceptions, "%n by exception", "%n by exception") + ")";
+  return words + ", " + count(counts.weekend, "%n weekend day", "%n weekend days") + ", " +
+         count(counts.holidays, "%n holiday", "%n holidays");
 }
 
 YearCalendar RowOf(const planning::Currency& currency) {
@@ -69,7 +71,7 @@ YearCalendar RowOf(const planning::Currency& currency) {
 
 YearCalendar MissingRow(const planning::Currency& currency, int year) {
   YearCalendar row = RowOf(currency);
-  row.ordinary = "no calendar";
+  row.ordinary = InWords("no calendar");
   for (int day = 1; day <= platform::DaysInYear(year); ++day) {
     row.days.push_back({static_cast<std::int16_t>(day), kMissingLook, row.ordinary});
   }
@@ -80,31 +82,31 @@ YearCalendar MissingRow(const planning::Currency& currency, int year) {
 YearCalendar RowOf(const YearOverview& overview, const YearOverview::Calendar& calendar, bool is_only_one) {
   if (!calendar.exists) return MissingRow(calendar.currency, overview.Year());
   YearCalendar row = RowOf(calendar.currency);
-  row.ordinary = "working day";
+  row.ordinary = InWords("working day");
   for (const MarkedDay& day : calendar.content.days) {
     row.days.push_back({day.day_of_year, LookOf(day), Description(overview, day)});
   }
   const almanac::MonthCounts months = almanac::CountDays(calendar.content);
   for (std::size_t month = 0; month < months.size(); ++month) {
     const int open = months[month].Open();
-    row.months[month].text = is_only_one
-                                 ? Counted(static_cast<std::size_t>(open), "working day", "working days")
-                                 : std::to_string(open);
+    row.months[month].text =
+        is_only_one ? InWords(static_cast<std::size_t>(open), "%n working day", "%n working days")
+                    : std::to_string(open);
     row.months[month].description = Words(months[month]);
   }
   return row;
 }
 
 std::vector<platform::YearLegendEntry> LegendOf(const YearOverview& overview) {
-  std::vector<platform::YearLegendEntry> legend = {{kWeekendLook, "Weekend"},
-                                                   {kCelebrationLook, "Celebration"},
-                                                   {kPointLook, "Holiday point"},
-                                                   {kExceptionLook, almanac::kExceptionName}};
+  std::vector<platform::YearLegendEntry> legend = {{kWeekendLook, InWords("Weekend")},
+                                                   {kCelebrationLook, InWords("Celebration")},
+                                                   {kPointLook, InWords("Holiday point")},
+                                                   {kExceptionLook, InWords(almanac::kExceptionName)}};
   const auto& calendars = overview.Calendars();
-  if (calendars.size() > 1) legend.push_back({SomeAreClosedLook(2), "How many are closed"});
+  if (calendars.size() > 1) legend.push_back({SomeAreClosedLook(2), InWords("How many are closed")});
   const bool is_any_missing =
       std::any_of(calendars.begin(), calendars.end(), [](const auto& calendar) { return !calendar.exists; });
-  if (is_any_missing) legend.push_back({kMissingLook, "No calendar"});
+  if (is_any_missing) legend.push_back({kMissingLook, InWords("No calendar")});
   return legend;
 }
 
@@ -113,7 +115,7 @@ std::string SummaryOf(const YearOverview& overview) {
   if (calendars.size() == 1) {
     const auto& only = calendars.front();
     return only.exists ? Words(almanac::Total(almanac::CountDays(only.content)))
-                       : "There is no such calendar";
+                       : InWords("There is no such calendar");
   }
   if (calendars.empty()) return {};
   return JointSummary(overview);
