@@ -40,9 +40,12 @@ void CalendarRules::AddBooks() {
     const almanac::Planner* const planner = planner_.PlannerOf(*owner);
     if (planner == nullptr) continue;
     for (const almanac::BookRule& rule : planner->Book().rules) {
-      for (const std::string& name : {rule.name, rule.NameOfMovedDay()}) {
+      const auto add = [&](const std::string& name) {
         if (const auto* const known = Rules().FindNamed(name)) books_[known->id].insert(owner->id);
-      }
+      };
+      add(rule.name);
+      // A holiday that stays where it is has no other name.
+      if (!rule.expression.moves.empty()) add(rule.NameOfMovedDay());
     }
   }
 }

@@ -88,6 +88,15 @@ TEST(CalendarRules, HaveTheNamesOfMovedDaysFromTheirBooks) {
   });
 }
 
+TEST(CalendarRules, HaveNoNameOfAMovedDayFromAHolidayThatNeverMoves) {
+  RunInFreshThread([] {
+    EuroWorld world;
+    world.Tables().rules.at(kFair).name = "Boxing Day (observed)";
+    world.AddBook(kDollar, {"Boxing Day", 3, "12-26", {}, {}});
+    EXPECT_THAT(RulesOf(world).OtherBooksOf(kFair), IsEmpty());
+  });
+}
+
 TEST(CalendarRules, OfAYearThatNobodyCanPlanHaveNoPlan) {
   RunInFreshThread([] {
     EuroWorld world;
