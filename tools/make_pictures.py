@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Makes docs/pictures/ anew: the pictures of the README, and one for each step of the user's guide.
 
-usage: tools/make_pictures.py [PROGRAM_FOLDER]     (build/release/bin without it)
+usage: tools/make_pictures.py [PROGRAM_FOLDER [PICTURES...]]     (build/release/bin without it; all of them)
 
 The programs are driven by key presses on a screen of their own, as the end-to-end tests do. Look at the pictures before
 you commit them.
@@ -242,7 +242,7 @@ class Photographer:
         self.session.keys('Right', 'Down')
         self.story.wait_rows(CALENDARS, 365)
         self.session.keys('Tab')
-        self.story.go_to_day('1 May 2026')
+        self.story.go_to_day('1 May 2026 Fri')
         self.session.keys('ctrl+shift+y')
         self.take('guide-year-beside-days')
         self.session.keys('ctrl+p')
@@ -255,6 +255,19 @@ class Photographer:
         together = f'Year planner - {", ".join(TOGETHER)} 2026'
         self.story.wait_active(together)
         self.studio.take('guide-year-planner-together', self.session, together)
+
+    def take_rule_book(self):
+        self.session.database.parent.mkdir(parents=True)
+        self.make_database(f'sqlite:{self.session.database}')
+        self.studio.use_frames('light')
+        self.session.start('--open', '--theme', 'light')
+        self.story.wait_active(CALENDARS)
+        self.session.type('EUR')
+        self.session.keys('ctrl+b')
+        self.story.wait_active('Rule book of EUR')
+        # From the currency by publisher and document to the rules.
+        self.session.keys(*['Tab'] * 4, *['Down'] * 3)
+        self.studio.take('guide-rule-book', self.session, 'Rule book of EUR')
 
     def take_why(self):
         """Of a year that is as planned, with those around it; and of a rule that another currency has."""
@@ -321,21 +334,27 @@ class Photographer:
 
 def main():
     programs = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ROOT / 'build' / 'release' / 'bin').resolve()
+    takes = {
+        'dark': lambda user: user.take_calendars('dark', 'calendars-dark'),
+        'light': lambda user: (user.take_calendars('light', 'calendars-light'), user.take_finding(),
+                               user.take_grouped('calendars-grouped')),
+        'board-dark': lambda user: user.take_board('dark'),
+        'board': lambda user: user.take_board('light'),
+        'plan-dark': lambda user: user.take_year_plan('dark'),
+        'plan': lambda user: user.take_year_plan('light'),
+        'planner': lambda user: user.take_year_planner(),
+        'rule-book': lambda user: user.take_rule_book(),
+        'why': lambda user: user.take_why(),
+        'history-dark': lambda user: user.take_history('dark'),
+        'history': lambda user: user.take_history('light'),
+        'story': lambda user: user.take_story(),
+    }
     with tempfile.TemporaryDirectory(prefix='ferrowind-pictures-') as folder:
         studio = Studio(pathlib.Path(folder))
         try:
-            for take in (lambda user: user.take_calendars('dark', 'calendars-dark'),
-                         lambda user: (user.take_calendars('light', 'calendars-light'), user.take_finding(),
-                                       user.take_grouped('calendars-grouped')),
-                         lambda user: user.take_board('dark'),
-                         lambda user: user.take_board('light'),
-                         lambda user: user.take_year_plan('dark'),
-                         lambda user: user.take_year_plan('light'),
-                         lambda user: user.take_year_planner(),
-                         lambda user: user.take_why(),
-                         lambda user: user.take_history('dark'),
-                         lambda user: user.take_history('light'),
-                         lambda user: user.take_story()):
+            for name, take in takes.items():
+                if sys.argv[2:] and name not in sys.argv[2:]:
+                    continue
                 user = Photographer(studio, programs)
                 try:
                     take(user)

@@ -2,27 +2,38 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <QVBoxLayout>
 #include <limits>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/qt/controls/date_field.h"
 #include "ferrowind/adapters/qt/controls/element.h"
 #include "ferrowind/adapters/qt/controls/refusal_note.h"
 #include "ferrowind/adapters/qt/controls/tree_view.h"
+#include "ferrowind/adapters/qt/controls/up_down_arrows.h"
+#include "ferrowind/adapters/qt/forms/control_maker.h"
 #include "ferrowind/adapters/qt/forms/qt_toolkit.h"
+#include "ferrowind/adapters/qt/grid/grid_widget.h"
+#include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/adapters/qt/values/twips.h"
+#include "ferrowind/adapters/qt/year/year_widget.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -164,6 +175,18 @@ TEST_F(FormWindowTest, LeavesOutWithTheirRoomTheControlsThatTheDesignDoesNotHave
     ASSERT_NE(widget, nullptr) << there;
     EXPECT_EQ(widget->geometry(), WindowOf(*plain).findChild<QWidget*>(QLatin1String(there))->geometry())
         << there;
+  }
+}
+
+TEST_F(FormWindowTest, LeavesOutAControlOfAnyKind) {
+  const auto window = std::make_unique<QDialog>();
+  for (auto* widget : std::initializer_list<QWidget*>{
+           new QLabel(window.get()), new QPushButton(window.get()), new QLineEdit(window.get()),
+           new QPlainTextEdit(window.get()), new QComboBox(window.get()), new DateField(window.get()),
+           new UpDownArrows(window.get()), new TreeView(window.get()), new GridWidget(window.get()),
+           new TableView(window.get()), new YearWidget(window.get()), new QToolBar(window.get()),
+           new QStatusBar(window.get())}) {
+    EXPECT_TRUE(CanBeControl(*widget)) << widget->metaObject()->className();
   }
 }
 

@@ -59,6 +59,7 @@ bool CanBeControl(const QWidget& widget) {
          qobject_cast<const TreeView*>(&widget) != nullptr ||
          qobject_cast<const GridWidget*>(&widget) != nullptr ||
          qobject_cast<const TableView*>(&widget) != nullptr ||
+         qobject_cast<const YearWidget*>(&widget) != nullptr ||
          qobject_cast<const QToolBar*>(&widget) != nullptr ||
          qobject_cast<const QStatusBar*>(&widget) != nullptr;
 }
