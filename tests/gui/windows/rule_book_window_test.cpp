@@ -44,7 +44,7 @@ class RuleBookWindowTest : public WindowsTest {
   /// Makes the rule at that position current, with the arrow keys.
   void WalkTo(int position) {
     Rules().setFocus();
-    Press(Rules(), Qt::Key_Home);
+    Press(Rules(), Qt::Key_Home, Qt::ControlModifier);
     Press(Rules(), Qt::Key_Down, {}, position);
   }
   /// So that the window closes without a question.
@@ -84,6 +84,7 @@ TEST_F(RuleBookWindowTest, WritesTheExpressionThatIsChosenInTheLists) {
   EXPECT_EQ(Box("txtExpression").text().toStdString(), "last Thursday of 11");
   EXPECT_FALSE(Find<QComboBox>(*window_, "cmbOffset").isVisible());
   Reset(3, "easter-2");
+  EXPECT_EQ(Text("lblOutcome"), "Nothing is changed.");
 }
 
 TEST_F(RuleBookWindowTest, KeepsWhatWasTypedWhenSomebodyElseHasChangedTheBook) {
