@@ -271,7 +271,6 @@ class OperatorStory:
         return self.session.app.wait(60)
 
     def reopen(self, url):
+        """The calendar that was on show last comes back."""
         self.open(url)
-        self.session.type('EUR')
-        self.session.keys('Right', 'Down', 'Down', 'Down')
         self.wait_rows(CALENDARS, 366)

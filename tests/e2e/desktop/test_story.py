@@ -147,10 +147,10 @@ class NextYear:
         for row, (date, (day_type, rule, comment)) in enumerate(sorted(expected_days.items())):
             self.assertEqual(
                 grid.texts(row),
-                {'Date': f'{date.day} {date:%b} {date.year}', 'Day type': TYPES[day_type], 'Holiday name': rule or '',
+                {'Date': f'{date.day} {date:%b} {date.year} {date:%a}', 'Day type': TYPES[day_type], 'Holiday name': rule or '',
                  'Description': rules[rule]['Comment'] or '' if rule else '', 'Comment': comment or '',
                  'Day of year': f'{date:%j}'.lstrip('0'), 'Day of month': str(date.day), 'Month': str(date.month),
-                 'Month name': f'{date:%B}'})
+                 'Month name': f'{date:%B}', 'Weekday': f'{date:%A}'})
 
 
 class NextYearOnAFile(NextYear, unittest.TestCase):
