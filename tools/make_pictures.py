@@ -249,7 +249,7 @@ class Photographer:
         self.story.wait_active('Year planner - EUR 2026')
         self.session.keys('ctrl+Home', *['Next'] * 3, 'shift+Right', 'shift+Right', 'shift+Right')
         self.studio.take('guide-year-planner', self.session, 'Year planner - EUR 2026')
-        self.session.keys('alt+u')
+        self.session.keys('alt+c')
         self.session.type(' '.join(TOGETHER))
         self.session.keys('Return')
         together = f'Year planner - {", ".join(TOGETHER)} 2026'
