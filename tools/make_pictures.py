@@ -72,6 +72,11 @@ window.inactive.title.separator.color: {border}
 '''
 
 
+def in_theme(name, theme):
+    """The light picture has no theme in its name."""
+    return name if theme == 'light' else f'{name}-{theme}'
+
+
 class Studio:
     """A screen whose frames can change their colours, and a camera that waits until the windows rest."""
 
@@ -230,12 +235,12 @@ class Photographer:
     def run_ctl(self, *arguments):
         subprocess.run([self.programs / 'ferrowindctl', *arguments], check=True, stdout=subprocess.DEVNULL)
 
-    def take_year_planner(self):
+    def take_year_planner(self, theme):
         """Of one currency and of several, and beside the days."""
         self.session.database.parent.mkdir(parents=True)
         self.make_database(f'sqlite:{self.session.database}')
-        self.studio.use_frames('light')
-        self.session.start('--open', '--theme', 'light')
+        self.studio.use_frames(theme)
+        self.session.start('--open', '--theme', theme)
         self.story.wait_active(CALENDARS)
         self.arrange()
         self.session.type('EUR')
@@ -244,39 +249,40 @@ class Photographer:
         self.session.keys('Tab')
         self.story.go_to_day('1 May 2026 Fri')
         self.session.keys('ctrl+shift+y')
-        self.take('guide-year-beside-days')
+        self.take(in_theme('guide-year-beside-days', theme))
         self.session.keys('ctrl+p')
         self.story.wait_active('Year planner - EUR 2026')
         self.session.keys('ctrl+Home', *['Next'] * 3, 'shift+Right', 'shift+Right', 'shift+Right')
-        self.studio.take('guide-year-planner', self.session, 'Year planner - EUR 2026')
+        self.studio.take(in_theme('guide-year-planner', theme), self.session, 'Year planner - EUR 2026')
         self.session.keys('alt+c')
         self.session.type(' '.join(TOGETHER))
         self.session.keys('Return')
         together = f'Year planner - {", ".join(TOGETHER)} 2026'
         self.story.wait_active(together)
-        self.studio.take('guide-year-planner-together', self.session, together)
+        self.studio.take(in_theme('guide-year-planner-together', theme), self.session, together)
 
-    def take_rule_book(self):
+    def take_rule_book(self, theme):
         self.session.database.parent.mkdir(parents=True)
         self.make_database(f'sqlite:{self.session.database}')
-        self.studio.use_frames('light')
-        self.session.start('--open', '--theme', 'light')
+        self.studio.use_frames(theme)
+        self.session.start('--open', '--theme', theme)
         self.story.wait_active(CALENDARS)
         self.session.type('EUR')
         self.session.keys('ctrl+b')
         self.story.wait_active('Rule book of EUR')
         # From the currency by publisher and document to the rules.
         self.session.keys(*['Tab'] * 4, *['Down'] * 3)
-        self.studio.take('guide-rule-book', self.session, 'Rule book of EUR')
+        self.studio.take(in_theme('guide-rule-book', theme), self.session, 'Rule book of EUR')
 
-    def take_why(self):
+    def take_why(self, theme):
         """Of a year that is as planned, with those around it; and of a rule that another currency has."""
+        self.steps_to_take.clear()
         database = f'sqlite:{self.session.home / "why.sqlite"}'
         self.make_database(database)
         for year in ('2027', '2028'):
             self.run_ctl('apply', database, 'EUR', year, '--yes')
-        self.studio.use_frames('light')
-        self.session.start('--open', '--database', database)
+        self.studio.use_frames(theme)
+        self.session.start('--open', '--database', database, '--theme', theme)
         self.story.wait_active(CALENDARS)
         self.arrange()
         self.session.type('EUR')
@@ -284,7 +290,7 @@ class Photographer:
         self.story.wait_rows(CALENDARS, 366)
         self.session.keys('Tab')
         self.story.go_to_day('14 Apr 2028 Fri')
-        self.studio.take('guide-why', self.session, CALENDARS)
+        self.studio.take(in_theme('guide-why', theme), self.session, CALENDARS)
         self.story.open_rules()
         rows = self.story.grid(RULES).row_count()
         self.session.keys('ctrl+l')
@@ -292,7 +298,7 @@ class Photographer:
         self.story.go_to_rule('Thanksgiving Day')
         self.session.keys('alt+i')
         self.story.wait_active(PREVIEW)
-        self.studio.take('guide-assign-preview', self.session, PREVIEW)
+        self.studio.take(in_theme('guide-assign-preview', theme), self.session, PREVIEW)
         self.session.keys('Escape')
 
     def take_history(self, theme):
@@ -342,9 +348,12 @@ def main():
         'board': lambda user: user.take_board('light'),
         'plan-dark': lambda user: user.take_year_plan('dark'),
         'plan': lambda user: user.take_year_plan('light'),
-        'planner': lambda user: user.take_year_planner(),
-        'rule-book': lambda user: user.take_rule_book(),
-        'why': lambda user: user.take_why(),
+        'planner': lambda user: user.take_year_planner('light'),
+        'planner-dark': lambda user: user.take_year_planner('dark'),
+        'rule-book': lambda user: user.take_rule_book('light'),
+        'rule-book-dark': lambda user: user.take_rule_book('dark'),
+        'why': lambda user: user.take_why('light'),
+        'why-dark': lambda user: user.take_why('dark'),
         'history-dark': lambda user: user.take_history('dark'),
         'history': lambda user: user.take_history('light'),
         'story': lambda user: user.take_story(),
