@@ -210,6 +210,7 @@ TEST_F(ModalFormContract, IsNotClosedByEscapeThatTheCancelButtonTakes) {
 
 TEST_F(ModalFormContract, IsClosedByEscapeThatAHiddenCancelButtonDoesNotTake) {
   auto design = ContractFixedDialog();
+  design.border = platform::FormBorder::kClosableDialog;
   design.closes_by_escape = true;
   const auto fixed = toolkit.CreateForm(design);
   ButtonOf(*fixed, "cmdCancel").SetVisible(false);

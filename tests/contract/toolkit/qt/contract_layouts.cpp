@@ -49,7 +49,10 @@ void BuildContract(QDialog& window) {
   splitter->addWidget(Named<qt::TreeView>("tvNodes"));
   splitter->addWidget(Named<qt::GridWidget>("gexRows"));
   splitter->addWidget(Named<qt::GridWidget>("gexRanges"));
-  splitter->addWidget(Named<qt::YearWidget>("yvYear"));
+  auto* year = Named<qt::YearWidget>("yvYear");
+  // A form of this layout can be made as small as the contracts do.
+  year->setMinimumSize(1, 1);
+  splitter->addWidget(year);
   splitter->setSizes({200, 600, 300, 600});
   layout->addWidget(splitter, 1);
   layout->addWidget(Named<QLabel>("anim"));
