@@ -24,14 +24,14 @@ struct RuleToAssign {
 
 /// What assigning a rule would do. Texts for operators, without full stops.
 struct AssignmentLine {
-  std::string rule;
+  std::string rule = {};
   /// The day that takes the rule; nothing when there are several or none.
-  std::optional<platform::Date> day;
+  std::optional<platform::Date> day = {};
   /// "every Saturday", for a weekday rule of a whole calendar.
-  std::string days;
+  std::string days = {};
   /// What stands there by then: the name of a rule, with the day's text; how many days of several take the
   /// rule and how many stay.
-  std::string now;
+  std::string now = {};
   /// Whether the calendar becomes another.
   bool changes = false;
   std::vector<std::string> warnings = {};

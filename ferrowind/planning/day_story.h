@@ -29,19 +29,19 @@ struct DayStory {
   platform::Date day;
   State state = State::kOrdinary;
   /// The name of its rule; empty on an ordinary working day.
-  std::string rule;
+  std::string rule = {};
   /// Whether the rule has single days in a year, which are told in `SameDay`: not one for a weekday, and not
   /// the built-in one.
   bool has_dated_rule = false;
   /// The day's own text, which is the reason of an exception; empty without one.
-  std::string comment;
+  std::string comment = {};
   /// By which the currency's book gives the rule its days; empty where the book has no such rule.
-  std::string expression;
+  std::string expression = {};
   Opinion opinion_kind = Opinion::kNone;
   /// "as planned: Easter Sunday 16 April 2028, two days before".
-  std::string opinion;
+  std::string opinion = {};
   /// Whose word the plan is; empty without a plan.
-  std::string source;
+  std::string source = {};
 };
 
 /// A day and its rule in another year.
@@ -52,7 +52,7 @@ struct SameDay {
   /// The day of the same date; 28 February for 29 February in a common year.
   platform::Date day;
   /// The name of the rule that it has; empty on an ordinary working day.
-  std::string rule;
+  std::string rule = {};
   /// The days of the year that have the rule of the day asked for, ascending; none where that has no dated
   /// rule.
   std::vector<platform::Date> days_of_rule = {};

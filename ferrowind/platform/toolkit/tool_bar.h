@@ -14,9 +14,9 @@ enum class ToolKind { kButton, kTwoStateButton };
 /// A tool, known by its id, that stands on the bar, in a popup menu or both.
 struct ToolDesign {
   std::string id;
-  std::string caption;
-  std::string category;
-  std::string description;
+  std::string caption = {};
+  std::string category = {};
+  std::string description = {};
   ToolKind kind = ToolKind::kButton;
   /// The keys that click the tool while its window is active, as "Ctrl+F", "F5" or "Ctrl+Shift+Z"; menus and
   /// the tooltip tell them as the desktop writes them. A text box that has the focus keeps those it needs
