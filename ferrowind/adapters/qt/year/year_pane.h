@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QHelpEvent>
 #include <functional>
 #include <optional>
 
