@@ -259,8 +259,13 @@ class Application {
 
 std::optional<bool> AskOnTerminal(const std::string& question) {
   if (isatty(STDIN_FILENO) == 0) return std::nullopt;
-  std::cerr << question << " [y/N] " << std::flush;
-  RunInterruptibly(AwaitInput, std::cerr);
+  RunInterruptibly(
+      [&] {
+        // Whoever has read the question may stop the program at once.
+        std::cerr << question << " [y/N] " << std::flush;
+        AwaitInput();
+      },
+      std::cerr);
   std::string answer;
   std::getline(std::cin, answer);
   return platform::CompareIgnoringCase(answer, "y") == 0 || platform::CompareIgnoringCase(answer, "yes") == 0;
