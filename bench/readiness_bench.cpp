@@ -43,8 +43,7 @@ void RequirePrepared(int currencies) {
 
 void MeasureBoard(const Benchmark& benchmark) {
   constexpr int kCurrencies = 26;
-  // Additions read more than the one calendar that is the peer.
-  WindowStage stage("", WindowStage::Additions::kNone);
+  WindowStage stage("");
   const int year = stage.Platform().clock.Today().Year();
   ferrowind::bench::RunWithFile(stage.DatabasePath(),
                                 [year] { ferrowind::bench::MakePlannedCalendars(year - 1, year + 2); });

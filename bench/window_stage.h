@@ -52,7 +52,7 @@ class WindowStage {
   enum class Additions { kAll, kNone };
 
   /// `fill` is SQL that is run on the database, which has no delivered rules.
-  explicit WindowStage(const std::string& fill, Additions additions = Additions::kAll);
+  explicit WindowStage(const std::string& fill, Additions additions = Additions::kNone);
   ~WindowStage();
 
   [[nodiscard]] std::string DatabasePath() const { return folder_.filePath("calendars.db").toStdString(); }

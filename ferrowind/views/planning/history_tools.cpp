@@ -1,6 +1,7 @@
 #include "ferrowind/views/planning/history_tools.h"
 
 #include "ferrowind/data/confirm.h"
+#include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
@@ -85,6 +86,14 @@ void HistoryTools::OpenDayHistory() {
   if (!calendar || !day) return;
   context_.windows.OpenHistory(
       {.currency = calendar->currency_id, .year = calendar->year, .day_of_year = day->DayOfYear()});
+}
+
+void HistoryTools::RefreshUndoLater() {
+  // Until then it undoes all the same, and asks before.
+  scene_.Tools().SetToolEnabled(kUndo, scene_.OnShow().has_value());
+  scene_.Tools().SetToolDescription(kUndo, Said(context_.platform, kUndoes));
+  refresh_ = context_.platform.toolkit.After(
+      kRestMilliseconds, [this] { RunHandler(context_.platform, [this] { RefreshUndo(); }); });
 }
 
 void HistoryTools::RefreshUndo() {

@@ -6,6 +6,7 @@
 #include "ferrowind/planning/undo_state.h"
 #include "ferrowind/platform/additions/calendars_scene.h"
 #include "ferrowind/platform/additions/window_parts.h"
+#include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/views/planning/calendars_addition.h"
 #include "ferrowind/views/planning/planning_context.h"
 
@@ -20,11 +21,13 @@ class HistoryTools : public CalendarsAddition {
       : context_(context), scene_(scene) {}
 
   void Started() override { RefreshUndo(); }
-  void DaysShown() override { RefreshUndo(); }
+  void DaysShown() override { RefreshUndoLater(); }
+  void Closing() override { refresh_.Reset(); }
   void DayMenuOpens(bool is_of_day) override;
   bool RunTool(const std::string& id) override;
 
  private:
+  void RefreshUndoLater();
   void RefreshUndo();
   void OpenHistory();
   void OpenDayHistory();
@@ -34,6 +37,7 @@ class HistoryTools : public CalendarsAddition {
 
   PlanningContext context_;
   platform::CalendarsScene& scene_;
+  platform::Subscription refresh_;
 };
 
 }  // namespace ferrowind

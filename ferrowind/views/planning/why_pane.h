@@ -19,9 +19,6 @@ namespace ferrowind {
 /// itself: nobody who goes through the days is stopped by a message.
 class WhyPane : public CalendarsAddition {
  public:
-  /// How long the operator has to rest on a day before the pane tells of it.
-  static constexpr std::int32_t kRestMilliseconds = 120;
-
   [[nodiscard]] static platform::WindowParts Parts();
   WhyPane(const PlanningContext& context, platform::CalendarsScene& scene);
 

@@ -37,6 +37,7 @@ class ToolsWorld : public HistoryWorld {
     window->Show();
     Tree().ToggleNode("K978");
     Tree().ClickNode("K978_2028");
+    Rest();
     world.log.Clear();
   }
 
@@ -45,7 +46,11 @@ class ToolsWorld : public HistoryWorld {
     return Calendars().Part<headless::HeadlessTree>("tvCalendar");
   }
   [[nodiscard]] HeadlessToolBar& Tools() const { return Calendars().Part<HeadlessToolBar>("ssatb"); }
-  void Refresh() { Tools().ClickTool("ID_Refresh"); }
+  void Rest() { world.toolkit.Advance(HistoryTools::kRestMilliseconds); }
+  void Refresh() {
+    Tools().ClickTool("ID_Refresh");
+    Rest();
+  }
   /// Answers the next question, which is kept as `asked`.
   void Answer(const char* button) {
     world.toolkit.ScriptModal("fmMessage", [this, button](HeadlessForm& form) {
@@ -96,6 +101,19 @@ TEST(HistoryTools, NameWhatUndoWouldUndo) {
   });
 }
 
+TEST(HistoryTools, ReadTheHistoryOnlyOnceTheOperatorRestsOnTheDays) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    calendars.ExceptGoodFriday();
+    calendars.Tools().ClickTool("ID_Refresh");
+    EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"), "Undoes your last change of this calendar");
+    EXPECT_TRUE(calendars.Tools().ToolEnabled("ID_Undo"));
+    calendars.Rest();
+    EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
+              "Undoes your last change of this calendar: Excepted 14 April 2028: Audit");
+  });
+}
+
 TEST(HistoryTools, OfferNoUndoWithoutAnOwnChange) {
   RunInFreshThread([] {
     ToolsWorld calendars;
@@ -120,6 +138,7 @@ TEST(HistoryTools, UndoWhatIsNamedOnceItIsConfirmed) {
     EXPECT_EQ(calendars.EntryCount(), 6U);
     EXPECT_EQ(planning::LoadCalendarBehind(978, 2028, 6).days[104].name, "Good Friday");
     // The days are shown anew, and what comes before is next.
+    calendars.Rest();
     EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
               "Undoes your last change of this calendar: Created the calendar EUR 2028");
     EXPECT_THAT(calendars.SeenByOperator(), IsEmpty());
