@@ -8,8 +8,8 @@
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/one_line.h"
-#include "ferrowind/platform/database/json_value.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/json_value.h"
 
 namespace ferrowind::planning {
 namespace {

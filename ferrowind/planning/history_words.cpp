@@ -8,7 +8,7 @@
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/local_moment.h"
 #include "ferrowind/planning/one_line.h"
-#include "ferrowind/platform/database/json_value.h"
+#include "ferrowind/platform/values/json_value.h"
 
 namespace ferrowind::planning {
 namespace {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "ferrowind/planning/history_store.h"
-#include "ferrowind/platform/database/json_value.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/json_value.h"
 
 namespace ferrowind::planning {
 namespace {

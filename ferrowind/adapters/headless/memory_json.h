@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "ferrowind/platform/database/json_value.h"
+#include "ferrowind/platform/values/json_value.h"
 #include "ferrowind/platform/values/value.h"
 
 namespace ferrowind::headless {

@@ -7,8 +7,8 @@
 #include "ferrowind/adapters/headless/memory_lookup.h"
 #include "ferrowind/adapters/headless/memory_procedures.h"
 #include "ferrowind/platform/database/json_object.h"
-#include "ferrowind/platform/database/json_value.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/json_value.h"
 
 namespace ferrowind::headless {
 namespace {

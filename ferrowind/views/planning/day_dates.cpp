@@ -3,6 +3,7 @@
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/views/planning/day_row.h"
 
 namespace ferrowind {
 namespace {
@@ -11,7 +12,6 @@ using platform::Date;
 using platform::RecordSet;
 using platform::Value;
 
-constexpr const char* kDateColumn = "FullDate";
 constexpr std::int32_t kTextColumn = 0;
 constexpr std::int32_t kNotEdited = 1;
 constexpr std::int32_t kGroupable = 1;

@@ -9,6 +9,7 @@
 #include "ferrowind/planning/own_changes.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/common/holiday_types.h"
+#include "ferrowind/views/planning/day_row.h"
 #include "ferrowind/views/planning/day_text.h"
 #include "ferrowind/views/planning/fm_go_to_date.h"
 
@@ -19,7 +20,6 @@ using platform::Date;
 using platform::RecordSet;
 
 constexpr const char* kCategory = "General";
-constexpr const char* kDateColumn = "FullDate";
 constexpr const char* kTypeField = "TID1";
 constexpr const char* kRuleField = "ID2";
 
@@ -106,12 +106,12 @@ void DayFinder::GoToDate() {
   const auto day = dialog.Chosen();
   if (!day) return;
   if (day->Year() != calendar->year) scene_.Choose(calendar->currency_id, day->Year());
-  if (MakeCurrent(*day)) return;
+  if (Focus(*day)) return;
   // It is left out, or in a group that is collapsed.
   bar_.Close();
-  if (MakeCurrent(*day)) return;
+  if (Focus(*day)) return;
   scene_.Days().ExpandAllGroups();
-  MakeCurrent(*day);
+  Focus(*day);
 }
 
 std::string DayFinder::WhyNotToShow(const Date& day) const {
@@ -123,15 +123,10 @@ std::string DayFinder::WhyNotToShow(const Date& day) const {
   return Said(platform_, "%1 has no calendar for %2.", {calendar->currency, std::to_string(day.Year())});
 }
 
-bool DayFinder::MakeCurrent(const Date& day) {
-  platform::Grid& grid = scene_.Days();
-  for (std::int32_t row = 1; row <= grid.RowCount(); ++row) {
-    if (grid.CellValue(row, kDateColumn) != platform::Value(day)) continue;
-    grid.SetCurrentRow(row);
-    grid.SetFocus();
-    return true;
-  }
-  return false;
+bool DayFinder::Focus(const Date& day) {
+  if (!GoToRowOf(scene_.Days(), day)) return false;
+  scene_.Days().SetFocus();
+  return true;
 }
 
 }  // namespace ferrowind

@@ -27,7 +27,7 @@ class DayFinder : public CalendarsAddition {
   [[nodiscard]] FindBar::Subject Subject();
   void GoToDate();
   /// Makes the day current. False when no row of the grid shows it.
-  bool MakeCurrent(const platform::Date& day);
+  bool Focus(const platform::Date& day);
   [[nodiscard]] std::string WhyNotToShow(const platform::Date& day) const;
 
   const platform::Platform& platform_;

@@ -7,6 +7,7 @@
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/planning/day_row.h"
 #include "ferrowind/views/planning/year_content.h"
 
 namespace ferrowind {
@@ -19,7 +20,6 @@ using platform::YearCell;
 constexpr const char* kShowTool = "ID_YearPlanner";
 constexpr const char* kWindowTool = "ID_YearWindow";
 constexpr const char* kExceptTool = "ID_ExceptDays";
-constexpr const char* kDateColumn = "FullDate";
 constexpr const char* kSection = "Window Calendars";
 constexpr const char* kSetting = "YearBesideDays";
 
@@ -44,26 +44,6 @@ class Following {
  private:
   bool& flag_;
 };
-
-/// False when no row on show is of that day.
-bool GoToRowOf(platform::Grid& grid, const Date& day) {
-  const auto is_of_day = [&](std::int32_t row) {
-    return grid.CellValue(row, kDateColumn) == platform::Value(day);
-  };
-  const std::int32_t rows = grid.RowCount();
-  // Where the days are neither sorted otherwise nor grouped.
-  const std::int32_t likely = day.DayOfYear();
-  if (likely <= rows && is_of_day(likely)) {
-    grid.SetCurrentRow(likely);
-    return true;
-  }
-  for (std::int32_t row = 1; row <= rows; ++row) {
-    if (!is_of_day(row)) continue;
-    grid.SetCurrentRow(row);
-    return true;
-  }
-  return false;
-}
 
 YearCell CellOf(const std::string& calendar, const Date& day) {
   return {calendar, static_cast<std::int16_t>(day.DayOfYear())};

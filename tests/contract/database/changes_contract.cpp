@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "ferrowind/platform/database/json_value.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/json_value.h"
 
 #include "tests/contract/database/procedures_contract.h"
 

@@ -1,4 +1,4 @@
-#include "ferrowind/platform/database/json_value.h"
+#include "ferrowind/platform/values/json_value.h"
 
 #include <string>
 
