@@ -1,21 +1,18 @@
 #include "ferrowind/views/planning/fm_rule_book.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
-#include "ferrowind/almanac/book_text.h"
-#include "ferrowind/almanac/expression_error.h"
 #include "ferrowind/data/confirm.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/views/planning/day_text.h"
+#include "ferrowind/views/planning/filled_box.h"
 
 namespace ferrowind {
 namespace {
 
-using almanac::RuleKind;
 using planning::Currency;
 using planning::RuleDraft;
 using platform::Button;
@@ -34,20 +31,6 @@ constexpr int kYears = 10;
 constexpr int kComparedYears = 5;
 constexpr std::size_t kNamedChanges = 3;
 
-struct KindText {
-  RuleKind kind;
-  const char* text;
-};
-constexpr std::array kKinds{
-    KindText{RuleKind::kWeekday, "Weekday"}, KindText{RuleKind::kCelebration, "Celebration"},
-    KindText{RuleKind::kPoint, "Holiday point"}, KindText{RuleKind::kWorkingDay, "Working day"}};
-
-const char* TextOfKind(RuleKind kind) {
-  const auto* const found =
-      std::find_if(kKinds.begin(), kKinds.end(), [&](const KindText& text) { return text.kind == kind; });
-  return found == kKinds.end() ? "" : found->text;
-}
-
 platform::FormDesign Design() {
   std::vector<ControlDesign> controls{{ControlKind::kLabel, "lblCurrency", "Currency"},
                                       {ControlKind::kDropDownList, "cmbCurrency"},
@@ -61,21 +44,9 @@ platform::FormDesign Design() {
                                       {ControlKind::kButton, "cmdAdd", "Add"},
                                       {ControlKind::kButton, "cmdRemove", "Remove"},
                                       {ControlKind::kButton, "cmdUp", "Move up"},
-                                      {ControlKind::kButton, "cmdDown", "Move down"},
-                                      {ControlKind::kFrame, "frmRule", "Rule"},
-                                      {ControlKind::kLabel, "lblName", "Name"},
-                                      {ControlKind::kTextBox, "txtName"},
-                                      {ControlKind::kLabel, "lblKind", "Type"},
-                                      {ControlKind::kDropDownList, "cmbKind"}};
-  for (ControlDesign& control : RuleChoices::Controls()) controls.push_back(std::move(control));
+                                      {ControlKind::kButton, "cmdDown", "Move down"}};
+  for (ControlDesign& control : RuleFields::Controls()) controls.push_back(std::move(control));
   const std::vector<ControlDesign> others{
-      {ControlKind::kLabel, "lblExpression", "Expression"},
-      {ControlKind::kTextBox, "txtExpression"},
-      {ControlKind::kLabel, "lblFault"},
-      {ControlKind::kLabel, "lblComment", "Comment"},
-      {ControlKind::kTextBox, "txtComment"},
-      {ControlKind::kLabel, "lblMovedName", "When moved"},
-      {ControlKind::kTextBox, "txtMovedName"},
       {ControlKind::kTable, "tblYears"},
       {ControlKind::kLabel, "lblOutcome"},
       {.kind = ControlKind::kButton, .name = "cmdSave", .text = "Save"},
@@ -89,11 +60,6 @@ platform::FormDesign Design() {
           .client_height = 9900,
           .closes_by_escape = true,
           .controls = std::move(controls)};
-}
-
-/// Fills the box without a change when it has the text already, so that the cursor stays where it is.
-void SetTextOf(TextBox& box, const std::string& text) {
-  if (box.Text() != text) box.SetText(text);
 }
 
 std::string KeyOf(std::size_t position) { return std::to_string(position); }
@@ -120,14 +86,8 @@ fmRuleBook::fmRuleBook(const PlanningContext& context)
       txtDocument_(ControlOf<TextBox>(*form_, "txtDocument")),
       txtSince_(ControlOf<TextBox>(*form_, "txtSince")),
       tblRules_(ControlOf<Table>(*form_, "tblRules")),
-      txtName_(ControlOf<TextBox>(*form_, "txtName")),
-      cmbKind_(ControlOf<DropDownList>(*form_, "cmbKind")),
-      txtExpression_(ControlOf<TextBox>(*form_, "txtExpression")),
-      lblFault_(ControlOf<Label>(*form_, "lblFault")),
-      txtComment_(ControlOf<TextBox>(*form_, "txtComment")),
-      txtMovedName_(ControlOf<TextBox>(*form_, "txtMovedName")),
       lblOutcome_(ControlOf<Label>(*form_, "lblOutcome")),
-      choices_(platform_, *form_, context.tables, [this] { Choices_Choice(); }),
+      fields_(platform_, *form_, context.tables),
       years_(platform_, ControlOf<Table>(*form_, "tblYears")) {}
 
 void fmRuleBook::Connect() {
@@ -147,9 +107,7 @@ void fmRuleBook::Connect() {
   subscribe(tblRules_.OnCurrentChange(handler(&fmRuleBook::tblRules_CurrentChange)));
   for (TextBox* box : {&txtPublisher_, &txtDocument_, &txtSince_})
     subscribe(box->OnChange(handler(&fmRuleBook::BookText_Change)));
-  for (TextBox* box : {&txtName_, &txtExpression_, &txtComment_, &txtMovedName_})
-    subscribe(box->OnChange(handler(&fmRuleBook::RuleField_Change)));
-  subscribe(cmbKind_.OnChoice(handler(&fmRuleBook::RuleField_Change)));
+  fields_.Connect(handler(&fmRuleBook::RuleFields_Change));
   const auto subscribe_button = [&](const char* name, void (fmRuleBook::*member)()) {
     subscribe(ControlOf<Button>(*form_, name).OnClick(handler(member)));
   };
@@ -173,8 +131,6 @@ void fmRuleBook::FillLists() {
             [](const Currency& left, const Currency& right) { return left.code < right.code; });
   for (const Currency& currency : currencies_)
     cmbCurrency_.AddItem(currency.code + " - " + currency.name, currency.id);
-  for (const auto& [kind, text] : kKinds)
-    cmbKind_.AddItem(Said(platform_, text), static_cast<std::int32_t>(kind));
   tblRules_.SetColumns({{.key = "name", .caption = Said(platform_, "Rule"), .stretches = true},
                         {"kind", Said(platform_, "Type")},
                         {.key = "expression", .caption = Said(platform_, "Expression"), .stretches = true}});
@@ -191,9 +147,9 @@ void fmRuleBook::Read(std::int32_t currency_id) {
   planning::BookDraft draft(*found, context_.tables);
   draft_.emplace(std::move(draft));
   is_filling_ = true;
-  SetTextOf(txtPublisher_, draft_->Publisher());
-  SetTextOf(txtDocument_, draft_->Document());
-  SetTextOf(txtSince_, draft_->Since());
+  FillBox(txtPublisher_, draft_->Publisher());
+  FillBox(txtDocument_, draft_->Document());
+  FillBox(txtSince_, draft_->Since());
   is_filling_ = false;
   form_->SetCaption(Said(platform_, "Rule book of %1", {found->code}));
   ShowRules();
@@ -265,7 +221,7 @@ void fmRuleBook::ShowRules() {
     const auto fault = draft_->FaultOfExpression(position);
     rows.push_back({.key = KeyOf(position),
                     .cells = {{.text = rule.name},
-                              {.text = Said(platform_, TextOfKind(rule.kind))},
+                              {.text = RuleKindText(platform_, rule.kind)},
                               {.text = rule.expression,
                                .mark = fault ? CellMark::kError : CellMark::kNone,
                                .description = fault.value_or("")}}});
@@ -284,36 +240,16 @@ void fmRuleBook::SetCurrent(std::size_t position) {
 
 void fmRuleBook::ShowRule() {
   const auto current = Current();
-  const RuleDraft rule = current ? draft_->Rules()[*current] : RuleDraft{};
-  is_filling_ = true;
-  SetTextOf(txtName_, rule.name);
-  SetTextOf(txtExpression_, rule.expression);
-  SetTextOf(txtComment_, rule.comment);
-  SetTextOf(txtMovedName_, rule.moved_name);
-  for (std::int32_t i = 0; i < cmbKind_.Count(); ++i) {
-    if (cmbKind_.ItemData(i) == static_cast<std::int32_t>(rule.kind)) cmbKind_.Choose(i);
-  }
-  is_filling_ = false;
+  fields_.Show(current ? std::optional(draft_->Rules()[*current]) : std::nullopt);
   ShowRuleOutcome();
   EnableControls();
 }
 
 void fmRuleBook::ShowRuleOutcome() {
   const auto current = Current();
-  if (!current) {
-    lblFault_.SetText("");
-    choices_.Show(std::nullopt);
-    years_.Show({});
-    return;
-  }
-  const std::string& expression = draft_->Rules()[*current].expression;
-  const auto fault = draft_->FaultOfExpression(*current);
-  lblFault_.SetText(fault.value_or(""));
-  // Choices that are no date, such as 30 February, stay on show, so that they can be mended.
-  if (choices_.Expression() != expression) {
-    choices_.Show(fault ? std::nullopt : std::optional(almanac::DateExpression::Parse(expression)));
-  }
-  years_.Show(draft_->YearsOf(*current, platform_.clock.Today().Year() - 1, kYears));
+  fields_.ShowFault(current ? draft_->FaultOfExpression(*current) : std::nullopt);
+  years_.Show(current ? draft_->YearsOf(*current, platform_.clock.Today().Year() - 1, kYears)
+                      : std::vector<almanac::RuleYear>());
 }
 
 void fmRuleBook::ShowBookOutcome() {
@@ -356,7 +292,6 @@ void fmRuleBook::EnableControls() {
   const auto enable = [this](const char* name, bool is_enabled) {
     form_->ControlNamed(name).SetEnabled(is_enabled);
   };
-  enable("frmRule", current.has_value());
   enable("cmdRemove", current.has_value());
   enable("cmdUp", current && *current > 0);
   enable("cmdDown", current && *current + 1 < draft_->Rules().size());
@@ -378,24 +313,13 @@ void fmRuleBook::tblRules_CurrentChange() {
   if (!is_filling_) ShowRule();
 }
 
-void fmRuleBook::RuleField_Change() {
+void fmRuleBook::RuleFields_Change() {
   const auto current = Current();
-  if (is_filling_ || !current) return;
-  const auto kind =
-      cmbKind_.Chosen() < 0 ? RuleKind::kPoint : static_cast<RuleKind>(cmbKind_.ItemData(cmbKind_.Chosen()));
-  draft_->Change(*current,
-                 {txtName_.Text(), kind, txtExpression_.Text(), txtComment_.Text(), txtMovedName_.Text()});
+  if (!current) return;
+  draft_->Change(*current, fields_.Rule());
   ShowRules();
   ShowRuleOutcome();
   ShowBookOutcome();
-}
-
-void fmRuleBook::Choices_Choice() {
-  if (const auto expression = choices_.Expression()) {
-    txtExpression_.SetText(*expression);
-  } else {
-    txtExpression_.SetFocus();
-  }
 }
 
 void fmRuleBook::cmdAdd_Click() {
@@ -405,7 +329,7 @@ void fmRuleBook::cmdAdd_Click() {
   ShowRules();
   SetCurrent(position);
   ShowBookOutcome();
-  txtName_.SetFocus();
+  fields_.FocusName();
 }
 
 void fmRuleBook::cmdRemove_Click() {

@@ -11,7 +11,7 @@
 #include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
-#include "ferrowind/views/planning/rule_choices.h"
+#include "ferrowind/views/planning/rule_fields.h"
 #include "ferrowind/views/planning/rule_years_table.h"
 
 namespace ferrowind {
@@ -58,8 +58,7 @@ class fmRuleBook : public PlanningWindow, public std::enable_shared_from_this<fm
   void cmbCurrency_Choice();
   void BookText_Change();
   void tblRules_CurrentChange();
-  void RuleField_Change();
-  void Choices_Choice();
+  void RuleFields_Change();
   void cmdAdd_Click();
   void cmdRemove_Click();
   void cmdUp_Click();
@@ -75,14 +74,8 @@ class fmRuleBook : public PlanningWindow, public std::enable_shared_from_this<fm
   platform::TextBox& txtDocument_;
   platform::TextBox& txtSince_;
   platform::Table& tblRules_;
-  platform::TextBox& txtName_;
-  platform::DropDownList& cmbKind_;
-  platform::TextBox& txtExpression_;
-  platform::Label& lblFault_;
-  platform::TextBox& txtComment_;
-  platform::TextBox& txtMovedName_;
   platform::Label& lblOutcome_;
-  RuleChoices choices_;
+  RuleFields fields_;
   RuleYearsTable years_;
   /// All that are money.
   std::vector<planning::Currency> currencies_;

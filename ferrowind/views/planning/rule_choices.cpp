@@ -232,10 +232,6 @@ std::optional<std::string> RuleChoices::Expression() const {
   return choices.ToText();
 }
 
-void RuleChoices::SetEnabled(bool enabled) {
-  for (const char* list : kLists) List(list).SetEnabled(enabled);
-}
-
 void RuleChoices::Chose() {
   if (is_showing_) return;
   ShowListsOfForm();

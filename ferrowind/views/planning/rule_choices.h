@@ -30,8 +30,6 @@ class RuleChoices {
   /// the text of one that says so when it is read; nothing while it is written by hand.
   [[nodiscard]] std::optional<std::string> Expression() const;
 
-  void SetEnabled(bool enabled);
-
  private:
   void FillLists(const almanac::DateTables& tables);
   [[nodiscard]] platform::DropDownList& List(const char* name) const;
