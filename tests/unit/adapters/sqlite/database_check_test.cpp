@@ -1,8 +1,10 @@
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "ferrowind/adapters/sqlite/database_file.h"
 
@@ -32,6 +34,16 @@ class DatabaseCheckTest : public ::testing::Test {
     return CheckDatabase(database_.Path());
   }
 
+  /// The problems after the entries of the schema themselves were written to.
+  std::vector<std::string> ProblemsAfterWritingTheSchema(const std::string& sql) {
+    sqlite3* raw = nullptr;
+    EXPECT_EQ(sqlite3_open(database_.Path().c_str(), &raw), SQLITE_OK);
+    const std::string script = "PRAGMA writable_schema = ON; " + sql;
+    EXPECT_EQ(sqlite3_exec(raw, script.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(raw);
+    sqlite3_close(raw);
+    return CheckDatabase(database_.Path());
+  }
+
   SqliteDatabase database_;
 };
 
@@ -56,6 +68,69 @@ TEST_F(DatabaseCheckTest, FindsMissingAndForeignPartsOfTheSchema) {
       "DROP INDEX CldSettingHasOneRow; CREATE TRIGGER Extra AFTER INSERT ON CldDay BEGIN SELECT 1; END");
   EXPECT_THAT(problems, ElementsAre("The index CldSettingHasOneRow is missing",
                                     "The trigger Extra does not belong to the schema"));
+}
+
+TEST_F(DatabaseCheckTest, FindsATriggerOfANameThatOnlySqliteGives) {
+  EXPECT_THAT(ProblemsAfterWritingTheSchema(
+                  "INSERT INTO sqlite_schema VALUES ('trigger', 'sqlite_stat_x', 'CldHistory', 0,"
+                  " 'CREATE TRIGGER sqlite_stat_x AFTER INSERT ON CldHistory BEGIN SELECT 1; END');"
+                  "INSERT INTO sqlite_schema VALUES ('trigger', 'sqlite_stat1', 'CldHistory', 0,"
+                  " 'CREATE TRIGGER sqlite_stat1 AFTER INSERT ON CldHistory BEGIN SELECT 1; END')"),
+              ElementsAre("The trigger sqlite_stat1 does not belong to the schema",
+                          "The trigger sqlite_stat_x does not belong to the schema"));
+}
+
+TEST_F(DatabaseCheckTest, FindsEveryKindOfForeignAndChangedEntry) {
+  const std::pair<std::string, std::string> changes[] = {
+      {"CREATE TABLE Stray (A)", "The table Stray does not belong to the schema"},
+      {"CREATE VIEW Stray AS SELECT 1", "The view Stray does not belong to the schema"},
+      {"CREATE INDEX Stray ON CldDay (Comment)", "The index Stray does not belong to the schema"},
+      {"CREATE TRIGGER Stray BEFORE DELETE ON CldDay BEGIN SELECT 1; END",
+       "The trigger Stray does not belong to the schema"},
+      {"CREATE TRIGGER Stray INSTEAD OF INSERT ON CalendarDay BEGIN SELECT 1; END",
+       "The trigger Stray does not belong to the schema"},
+      {"CREATE TABLE Stray (A, T UNIQUE)",
+       "The index sqlite_autoindex_Stray_1 does not belong to the schema"},
+      {"ALTER TABLE CldSetting ADD Extra INTEGER", "The table CldSetting is not this program's"},
+      {"ALTER TABLE CldSetting RENAME COLUMN FirstDay TO LastDay",
+       "The table CldSetting is not this program's"},
+      {"DROP VIEW CalendarList; CREATE VIEW CalendarList AS SELECT 1 AS Ccy, 2 AS Year",
+       "The view CalendarList is not this program's"},
+      {"DROP TRIGGER CldHistoryLosesNoEntry; CREATE TRIGGER CldHistoryLosesNoEntry BEFORE DELETE ON "
+       "CldHistory"
+       " BEGIN SELECT 1; END",
+       "The trigger CldHistoryLosesNoEntry is not this program's"},
+      {"PRAGMA application_id = 7", "The database has the mark 7; this program's is 1181053559"},
+      {"PRAGMA journal_mode = DELETE", "The database has the journal mode delete; this program's is wal"},
+      {"UPDATE ProcedureCatalogue SET Writes = 0 WHERE Name = 'CldIUMain'",
+       "The procedure CldIUMain is not this program's"},
+  };
+  for (const auto& [change, problem] : changes) {
+    SqliteDatabase database;
+    database.Execute(change);
+    EXPECT_THAT(CheckDatabase(database.Path()), Contains(problem)) << change;
+  }
+}
+
+TEST_F(DatabaseCheckTest, FindsATableWhoseTextWasWrittenOver) {
+  EXPECT_THAT(
+      ProblemsAfterWritingTheSchema(
+          "UPDATE sqlite_schema SET sql = replace(sql, 'CHECK (FirstDay BETWEEN 1 AND 7', 'CHECK (true')"
+          " WHERE name = 'CldSetting'"),
+      ElementsAre("The table CldSetting is not this program's"));
+}
+
+TEST_F(DatabaseCheckTest, LooksAtNoRowsWhenAViewStandsForATable) {
+  EXPECT_THAT(
+      ProblemsAfter("DROP TABLE CldSetting; CREATE VIEW CldSetting AS WITH RECURSIVE Endless (N) AS"
+                    " (SELECT 1 UNION ALL SELECT N + 1 FROM Endless) SELECT N AS FirstDay FROM Endless"),
+      ElementsAre("The index CldSettingHasOneRow is missing", "The table CldSetting is missing",
+                  "The view CldSetting does not belong to the schema",
+                  "The rows are not looked at as long as something else stands for a table"));
+}
+
+TEST_F(DatabaseCheckTest, TakesStatisticsOfTheTablesForNoFault) {
+  EXPECT_THAT(ProblemsAfter("ANALYZE"), IsEmpty());
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherHistory) {
