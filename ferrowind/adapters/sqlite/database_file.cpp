@@ -2,18 +2,21 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <string_view>
+#include <optional>
 #include <system_error>
 
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <stdio.h>
 #include <stdlib.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/adapters/sqlite/files_beside.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/values/failure.h"
@@ -23,8 +26,7 @@ namespace {
 
 using platform::Failure;
 
-/// What SQLite puts beside a database file.
-constexpr std::string_view kCompanions[] = {"-wal", "-shm", "-journal"};
+constexpr const char* kFileExists = "there is a file already";
 
 Failure CannotCreate(const std::string& path, int error) {
   return {error, "The database " + path + " cannot be created: " + std::generic_category().message(error)};
@@ -45,16 +47,53 @@ bool IsEmptyFileAt(const std::string& path) {
   }
   const auto size = std::filesystem::file_size(path, error);
   if (error) throw CannotCreate(path, error.value());
-  if (size != 0) throw InTheWay(path, "there is a file already");
+  if (size != 0) throw InTheWay(path, kFileExists);
   return true;
 }
 
+/// An empty file that a new database takes the place of. Two creations must not both believe that they have
+/// replaced it, so each holds a lock on it until it is done.
+class ReplacedFile {
+ public:
+  explicit ReplacedFile(const std::string& path)
+      : handle_(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)) {
+    if (handle_ < 0) throw CannotCreate(path, errno);
+    try {
+      Lock(path);
+      RequireStillThere(path);
+    } catch (const Failure&) {
+      close(handle_);
+      throw;
+    }
+  }
+  ReplacedFile(const ReplacedFile&) = delete;
+  ReplacedFile& operator=(const ReplacedFile&) = delete;
+  ~ReplacedFile() { close(handle_); }
+
+ private:
+  void Lock(const std::string& path) const {
+    if (flock(handle_, LOCK_EX | LOCK_NB) == 0) return;
+    if (errno == EWOULDBLOCK) throw InTheWay(path, "another program is creating it just now");
+    throw CannotCreate(path, errno);
+  }
+
+  /// Whoever held the lock before may have been done in the meantime.
+  void RequireStillThere(const std::string& path) const {
+    struct stat locked {};
+    struct stat there {};
+    const bool is_same = fstat(handle_, &locked) == 0 && lstat(path.c_str(), &there) == 0 &&
+                         locked.st_dev == there.st_dev && locked.st_ino == there.st_ino;
+    if (!is_same || there.st_size != 0) throw InTheWay(path, kFileExists);
+  }
+
+  int handle_;
+};
+
 /// The path of a file that SQLite put beside the database and left there; empty without one.
 std::string CompanionOf(const std::string& path) {
-  for (const auto companion : kCompanions) {
-    std::string leftover = path + std::string(companion);
-    std::error_code error;
-    if (std::filesystem::exists(leftover, error)) return leftover;
+  for (const auto suffix : kSuffixesBeside) {
+    std::string leftover = path + std::string(suffix);
+    if (IsAnythingAt(leftover)) return leftover;
   }
   return {};
 }
@@ -68,10 +107,10 @@ void RefuseLeftovers(const std::string& path) {
 }
 
 /// Has everything in the one file. SQLite tells no error of what it does when it closes a database, as on a
-/// full disk; it does the rest, or tells, when the database is used again.
+/// full disk; so it is asked to do the rest.
 void GatherInOneFile(const std::string& path) {
   if (CompanionOf(path).empty()) return;
-  DatabaseHandle(path).Execute("SELECT count(*) FROM sqlite_schema");
+  DatabaseHandle(path).Execute("SELECT count(*) FROM sqlite_schema; PRAGMA wal_checkpoint(TRUNCATE)");
   RefuseLeftovers(path);
 }
 
@@ -89,7 +128,7 @@ class NewFile {
     if (is_in_place_) return;
     std::error_code ignored;
     std::filesystem::remove(path_, ignored);
-    for (const auto companion : kCompanions) std::filesystem::remove(path_ + std::string(companion), ignored);
+    for (const auto suffix : kSuffixesBeside) std::filesystem::remove(path_ + std::string(suffix), ignored);
   }
 
   [[nodiscard]] const std::string& Path() const { return path_; }
@@ -99,6 +138,7 @@ class NewFile {
     int result = renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, target_.c_str(), flags);
     // Some file systems know only the plain kind.
     if (result != 0 && errno == EINVAL) result = rename(path_.c_str(), target_.c_str());
+    if (result != 0 && errno == EEXIST) throw InTheWay(target_, kFileExists);
     if (result != 0) throw CannotCreate(target_, errno);
     is_in_place_ = true;
     MakeFolderDurable();
@@ -143,13 +183,14 @@ void WriteDelivered(const std::string& path) {
 void CreateDatabase(const std::string& path,
                     const std::function<void(const std::string& connection_string)>& fill) {
   const std::string target = AbsolutePath(path);
-  const bool replaces_empty_file = IsEmptyFileAt(target);
+  std::optional<ReplacedFile> replaced;
+  if (IsEmptyFileAt(target)) replaced.emplace(target);
   RefuseLeftovers(target);
   NewFile file(target);
   WriteDelivered(file.Path());
   if (fill) fill(std::string(Engine::kScheme) + ":" + file.Path());
   GatherInOneFile(file.Path());
-  file.TakePlace(replaces_empty_file);
+  file.TakePlace(replaced.has_value());
 }
 
 }  // namespace ferrowind::sqlite

@@ -15,9 +15,10 @@ namespace ferrowind::sqlite {
 /// it may add more; it keeps no connection.
 ///
 /// The file appears at `path` only when all of it is there and `fill` has returned, so a creation that fails
-/// or is killed leaves no database behind (killed, it may leave a file PATH.creating-XXXXXX). A file that
-/// exists and is not empty, and files left over beside a database that is gone, are failures, and stay as
-/// they are. Fails only with `platform::Failure`, whose text names the path, and with what `fill` throws.
+/// or is killed leaves no database behind (killed, it may leave a file PATH.creating-XXXXXX). Of two
+/// creations at a time one fails. A file that exists and is not empty, and files left over beside a database
+/// that is gone, are failures, and stay as they are. Fails only with `platform::Failure`, whose text names
+/// the path, and with what `fill` throws.
 void CreateDatabase(const std::string& path,
                     const std::function<void(const std::string& connection_string)>& fill = {});
 

@@ -19,7 +19,8 @@ class DatabaseHandle {
  public:
   /// Opens the existing file at `path`, absolute or relative to the current folder; nothing is created. A
   /// path that is empty or holds a NUL, and a file that SQLite does not open, are failures; SQLite looks into
-  /// the file only when it is first used.
+  /// the file only when it is first used. What lies beside it and is dangerous (files_beside.h) is refused
+  /// then.
   explicit DatabaseHandle(const std::string& path, std::chrono::milliseconds busy_timeout = kBusyTimeout);
   /// A database in memory, empty.
   [[nodiscard]] static DatabaseHandle InMemory();

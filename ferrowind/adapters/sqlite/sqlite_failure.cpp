@@ -1,14 +1,23 @@
 #include "ferrowind/adapters/sqlite/sqlite_failure.h"
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include <unistd.h>
 
+#include "ferrowind/adapters/sqlite/files_beside.h"
+
 namespace ferrowind::sqlite {
 namespace {
 
-std::string WhyItCannotBeOpened(const std::string& path) {
+/// Beside the file that SQLite has opened, where `path` is a link to it.
+std::optional<std::string> DangerBesideOpen(sqlite3* database) {
+  const char* const name = database != nullptr ? sqlite3_db_filename(database, "main") : nullptr;
+  return name != nullptr && *name != '\0' ? DangerBeside(name) : std::nullopt;
+}
+
+std::string WhyItCannotBeOpened(sqlite3* database, const std::string& path) {
   std::error_code error;
   const auto status = std::filesystem::status(path, error);
   switch (status.type()) {
@@ -22,14 +31,15 @@ std::string WhyItCannotBeOpened(const std::string& path) {
       break;
   }
   if (access(path.c_str(), R_OK) != 0) return std::error_code(errno, std::generic_category()).message();
+  if (const auto danger = DangerBesideOpen(database)) return *danger;
   return "the files that belong beside it cannot be opened or created";
 }
 
-std::string PlainWords(int code, const std::string& path) {
+std::string PlainWords(sqlite3* handle, int code, const std::string& path) {
   const std::string database = "The database " + path;
   switch (code & 0xFF) {
     case SQLITE_CANTOPEN:
-      return database + " cannot be opened: " + WhyItCannotBeOpened(path);
+      return database + " cannot be opened: " + WhyItCannotBeOpened(handle, path);
     case SQLITE_NOTADB:
       return "The file " + path + " is not a database";
     case SQLITE_CORRUPT:
@@ -62,7 +72,7 @@ std::string PlainWords(int code, const std::string& path) {
 platform::Failure FailureOf(sqlite3* database, const std::string& path) {
   const int code = database != nullptr ? sqlite3_extended_errcode(database) : SQLITE_NOMEM;
   const char* const text = database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
-  return {code, PlainWords(code, path) + " (SQLite " + std::to_string(code) + ": " + text + ")"};
+  return {code, PlainWords(database, code, path) + " (SQLite " + std::to_string(code) + ": " + text + ")"};
 }
 
 }  // namespace ferrowind::sqlite

@@ -3,13 +3,11 @@
 #include <vector>
 
 #include <pwd.h>
-#include <sys/types.h>
 #include <unistd.h>
 
 namespace ferrowind::sqlite {
-namespace {
 
-std::string NameOf(uid_t user) {
+std::string UserName(uid_t user) {
   passwd entry{};
   passwd* found = nullptr;
   // Entries are small; one that needs more is shown by its number.
@@ -21,11 +19,9 @@ std::string NameOf(uid_t user) {
   return found->pw_name;
 }
 
-}  // namespace
-
 const std::string& SystemUserName() {
   // Asked once: the directory of users may be far away, and a program stays its user's.
-  static const std::string name = NameOf(getuid());
+  static const std::string name = UserName(getuid());
   return name;
 }
 

@@ -2,10 +2,14 @@
 
 #include <string>
 
+#include <sys/types.h>
+
 namespace ferrowind::sqlite {
 
-/// The name of the operating system's user who started this program, or that user's number when it has no
-/// name.
+/// The name of a user of the operating system, or the user's number when it has no name.
+[[nodiscard]] std::string UserName(uid_t user);
+
+/// The name of the user who started this program.
 [[nodiscard]] const std::string& SystemUserName();
 
 }  // namespace ferrowind::sqlite

@@ -125,6 +125,26 @@ TEST_F(DatabaseFileTest, AnEmptyFileIsReplaced) {
   EXPECT_THAT(CheckDatabase(Path()), IsEmpty());
 }
 
+TEST_F(DatabaseFileTest, OfTwoCreationsInThePlaceOfAnEmptyFileOneSaysThatTheOtherIsAtWork) {
+  std::ofstream(Path()).flush();
+  std::string second;
+  CreateDatabase(Path(), [&](const std::string& first) {
+    second = FailureTextOf([&] { CreateDatabase(Path()); });
+    DatabaseHandle(PathIn(first)).Execute("UPDATE CldSetting SET FirstDay = 5");
+  });
+  EXPECT_THAT(second, AllOf(HasSubstr(Path()), HasSubstr("another program is creating it just now")));
+  EXPECT_EQ(Ask("SELECT FirstDay FROM CldSetting"), "5");
+  EXPECT_THAT(FilesInFolder(), ElementsAre("calendars.db"));
+}
+
+TEST_F(DatabaseFileTest, OfTwoCreationsWhereNoFileWasTheLaterSaysThatThereIsOne) {
+  EXPECT_THAT(FailureTextOf([&] {
+                CreateDatabase(Path(), [&](const std::string& /*unfinished*/) { CreateDatabase(Path()); });
+              }),
+              AllOf(HasSubstr(Path()), HasSubstr("there is a file already")));
+  EXPECT_THAT(CheckDatabase(Path()), IsEmpty());
+}
+
 TEST_F(DatabaseFileTest, ADirectoryOrALinkInTheWayIsNamedAndStays) {
   std::filesystem::create_directory(Path());
   EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), HasSubstr(Path()));
@@ -142,6 +162,9 @@ TEST_F(DatabaseFileTest, AMissingFolderIsNamed) {
 
 TEST_F(DatabaseFileTest, WhatIsLeftOfADatabaseThatIsGoneIsNamedAndStays) {
   for (const std::string companion : {"-wal", "-shm", "-journal"}) {
+    std::filesystem::create_symlink("/nowhere", Path() + companion);
+    EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), HasSubstr(Path() + companion));
+    std::filesystem::remove(Path() + companion);
     std::ofstream(Path() + companion) << "left";
     EXPECT_THAT(FailureTextOf([&] { CreateDatabase(Path()); }), HasSubstr(Path() + companion));
     EXPECT_EQ(std::filesystem::file_size(Path() + companion), 4U);

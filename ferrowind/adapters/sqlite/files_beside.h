@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <sys/stat.h>
+
+namespace ferrowind::sqlite {
+
+/// What SQLite puts behind the name of a database for the files that it keeps beside it.
+inline constexpr std::string_view kLogSuffix = "-wal";
+inline constexpr std::string_view kSharedMemorySuffix = "-shm";
+inline constexpr std::string_view kJournalSuffix = "-journal";
+inline constexpr std::array<std::string_view, 3> kSuffixesBeside = {kLogSuffix, kSharedMemorySuffix,
+                                                                    kJournalSuffix};
+
+/// Why SQLite must not use what stands beside the database file `path`, which is absolute and no link, in
+/// words that follow "cannot be opened: "; nothing when all of it may be used, or nothing is there.
+///
+/// A rollback journal overwrites the database and names a file that is deleted, and whoever may write to the
+/// folder can put one there; these databases need none. A log may change what the database says, and both it
+/// and the shared memory are written to: so neither may be a link, another name of some other file, or the
+/// file of somebody who may not write the database.
+[[nodiscard]] std::optional<std::string> DangerBeside(const std::string& path);
+
+/// Whether there is anything at `path`, a link that leads nowhere too.
+[[nodiscard]] bool IsAnythingAt(const std::string& path);
+
+/// Whether whoever owns `file` may write `database`, as far as the two and their `folder` tell: its owner,
+/// this process' user, the superuser, or a member of a group that may.
+[[nodiscard]] bool IsOfAWriter(const struct stat& file, const struct stat& database,
+                               const struct stat& folder);
+
+}  // namespace ferrowind::sqlite
