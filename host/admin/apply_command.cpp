@@ -25,6 +25,7 @@
 #include "host/admin/outcome_writer.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
+#include "host/admin/text_escapes.h"
 #include "host/delivery/delivered_tables.h"
 
 namespace ferrowind::host {
@@ -55,7 +56,7 @@ void Show(const YearPreparation& preparation, ExceptionHandling exceptions, std:
     ++changes;
     if (IsNewWeekend(comparison.Plan(), day)) ++weekends;
   }
-  out << preparation.Name() << (preparation.CalendarExists() ? ", " : ", a new calendar, ")
+  out << OneLine(preparation.Name()) << (preparation.CalendarExists() ? ", " : ", a new calendar, ")
       << Counted(changes, "day", "days") << ":\n";
   const auto rows = ComparisonRows(comparison, OutputFormat::kTable, [&](const ComparedDay& day) {
     return day.Changes(exceptions) && !IsNewWeekend(comparison.Plan(), day);
@@ -136,8 +137,8 @@ class Application {
     while (planned.last >= planned.first && !currency.IsLiveIn(planned.last)) --planned.last;
     if (planned.last < years.last) {
       const YearRange after{std::max(years.first, planned.last + 1), years.last};
-      errors_ << currency.code << ' ' << TextOf(after) << " is left out: " << planning::EndOfMoney(currency)
-              << ".\n";
+      errors_ << OneLine(currency.code) << ' ' << TextOf(after)
+              << " is left out: " << planning::EndOfMoney(currency) << ".\n";
     }
     if (const auto first = planner_.FirstYearOf(currency)) {
       planned.first = std::clamp(*first, planned.first, planned.last + 1);
@@ -150,7 +151,7 @@ class Application {
 
   void TellYearsBeforeBooks() {
     for (const auto& [years, codes] : before_books_) {
-      for (const std::string& code : codes) errors_ << code << ' ';
+      for (const std::string& code : codes) errors_ << OneLine(code) << ' ';
       errors_ << years.first << " is left out: the " << (codes.size() == 1 ? "book holds" : "books hold")
               << " from " << years.second << " on.\n";
     }
@@ -225,12 +226,12 @@ class Application {
       preparation.Apply(exceptions_);
     } catch (const planning::Refusal& refusal) {
       if (refusal.ReturnValue() != planning::return_value::kContentIsAnother) throw;
-      errors_ << "ferrowindctl: " << preparation.Name()
+      errors_ << "ferrowindctl: " << OneLine(preparation.Name())
               << " was changed meanwhile; nothing was changed in it, run it again" << std::endl;
       return false;
     }
     const std::size_t kept = KeptExceptions(preparation.Compared(), exceptions_);
-    out_ << preparation.Name();
+    out_ << OneLine(preparation.Name());
     if (preparation.CalendarExists()) {
       out_ << " is as planned now" << ButForExceptions(kept);
     } else {

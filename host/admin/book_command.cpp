@@ -11,6 +11,8 @@
 #include "host/admin/book_difference.h"
 #include "host/admin/book_source.h"
 #include "host/admin/database_content.h"
+#include "host/admin/guarded_stream.h"
+#include "host/admin/text_escapes.h"
 #include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
 
@@ -89,7 +91,7 @@ PlacedBook Placed(const BookSource& source, const Currency& currency) {
 }
 
 ExitStatus TellFaults(const std::vector<std::string>& faults, std::ostream& errors) {
-  for (const std::string& fault : faults) errors << "ferrowindctl: " << fault << '\n';
+  for (const std::string& fault : faults) errors << "ferrowindctl: " << OneLine(fault) << '\n';
   errors << "ferrowindctl: nothing was changed\n";
   return ExitStatus::kNotDone;
 }
@@ -107,7 +109,7 @@ ExitStatus BookShowCommand::Run(const platform::EngineRegistry& engines, std::os
     }
     text = StateLine(stored.fingerprint) + almanac::WriteBook(*stored.book);
   });
-  out << text;
+  ForPrograms(out) << text;
   return ExitStatus::kDone;
 }
 
@@ -153,7 +155,7 @@ ExitStatus BookCheckCommand::Run(const platform::EngineRegistry& engines, std::i
     faults = FaultsOfLines(*source);
     if (faults.empty()) faults = shelf.FaultsWith({Placed(*source, named)});
   });
-  for (const std::string& fault : faults) out << fault << ".\n";
+  for (const std::string& fault : faults) out << OneLine(fault) << ".\n";
   if (!faults.empty()) return ExitStatus::kNotDone;
   out << (count == 1 ? "The book is" : std::to_string(count) + " books are") << " in order.\n";
   return ExitStatus::kDone;

@@ -5,6 +5,7 @@
 #include "ferrowind/data/exec_proc.h"
 
 #include "host/admin/procedure_arguments.h"
+#include "host/admin/text_escapes.h"
 #include "host/session/procedure_session.h"
 
 namespace ferrowind::host {
@@ -32,8 +33,8 @@ ExitStatus CallCommand::Run(const platform::EngineRegistry& engines, std::ostrea
   const ProcedureOutcome outcome = Call(*this, engines);
   WriteOutcome(outcome, format, out);
   if (outcome.failure) {
-    errors << "ferrowindctl: failure " << outcome.failure->Number() << ": " << outcome.failure->Description()
-           << '\n';
+    errors << "ferrowindctl: failure " << outcome.failure->Number() << ": "
+           << OneLine(outcome.failure->Description()) << '\n';
     return ExitStatus::kCallFailed;
   }
   return outcome.return_value == 0 ? ExitStatus::kDone : ExitStatus::kReturnedNonZero;

@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 
 #include "host/admin/calendar_warnings.h"
+#include "host/admin/text_escapes.h"
 
 namespace ferrowind::host {
 
@@ -16,10 +17,10 @@ ExitStatus CheckCommand::Run(const platform::EngineRegistry& engines, std::ostre
   (void)engines.EngineFor(url);
   const auto faults = postgres::IsConnectionString(url) ? postgres::CheckDatabase(url)
                                                         : sqlite::CheckDatabase(sqlite::PathIn(url));
-  for (const std::string& fault : faults) out << fault << '\n';
+  for (const std::string& fault : faults) out << OneLine(fault) << '\n';
   if (!faults.empty()) return ExitStatus::kNotDone;
   for (const std::string& warning : CalendarWarnings(engines, url).Sentences()) {
-    out << "Warning: " << warning << ".\n";
+    out << "Warning: " << OneLine(warning) << ".\n";
   }
   out << "The database is in order.\n";
   return ExitStatus::kDone;

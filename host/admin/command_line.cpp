@@ -11,6 +11,7 @@
 #include "host/admin/database_commands.h"
 #include "host/admin/history_commands.h"
 #include "host/admin/planning_commands.h"
+#include "host/admin/text_escapes.h"
 
 namespace ferrowind::host {
 namespace {
@@ -148,7 +149,7 @@ ExitStatus RunCommandLine(const std::vector<std::string>& arguments, const platf
     errors << "ferrowindctl: cannot write the output"
            << (status == ExitStatus::kDone ? "; all the rest is done" : "") << '\n';
   } catch (const std::exception& error) {
-    errors << "ferrowindctl: " << error.what() << '\n';
+    errors << "ferrowindctl: " << OneLine(error.what()) << '\n';
   }
   return ExitStatus::kNotDone;
 }

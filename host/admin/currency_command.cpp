@@ -11,6 +11,7 @@
 #include "ferrowind/platform/values/date.h"
 
 #include "host/admin/database_content.h"
+#include "host/admin/text_escapes.h"
 
 namespace ferrowind::host {
 namespace {
@@ -177,7 +178,8 @@ ExitStatus CurrencyRenameCommand::Run(const platform::EngineRegistry& engines, s
     if (new_code) after.code = ReadCode(*new_code);
     RequireStored(after, Store(after));
   });
-  out << Described(before) << ", " << before.name << ", is " << after.code << " now, " << after.name << ".\n";
+  out << OneLine(Described(before) + ", " + before.name) << ", is " << after.code << " now, " << after.name
+      << ".\n";
   return ExitStatus::kDone;
 }
 
@@ -193,7 +195,8 @@ ExitStatus CurrencyRetireCommand::Run(const platform::EngineRegistry& engines, s
     is_past = day < today;
     stays = Retire(retired, day, today);
   });
-  out << Described(retired) << (is_past ? " was money until " : " is money until ") << day.ToIso() << ".\n";
+  out << OneLine(Described(retired)) << (is_past ? " was money until " : " is money until ") << day.ToIso()
+      << ".\n";
   if (is_past && stays) {
     out << "It stays in the lists of the windows, because it has calendars or a rule book.\n";
   } else if (stays) {
@@ -213,7 +216,7 @@ ExitStatus CurrencyRestoreCommand::Run(const platform::EngineRegistry& engines, 
     restored.last_day.reset();
     RequireStored(restored, Store(restored));
   });
-  out << Described(restored) << " is money again, without a last day.\n";
+  out << OneLine(Described(restored)) << " is money again, without a last day.\n";
   return ExitStatus::kDone;
 }
 

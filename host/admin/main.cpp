@@ -1,10 +1,13 @@
 #include <iostream>
 #include <memory>
 
+#include <unistd.h>
+
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 
 #include "host/admin/command_line.h"
+#include "host/admin/guarded_stream.h"
 #include "host/session/private_arguments.h"
 
 int main(int argc, char** argv) {
@@ -15,6 +18,8 @@ int main(int argc, char** argv) {
        {ferrowind::postgres::Engine::kScheme, ferrowind::postgres::Engine::kShortScheme}) {
     engines.Register(scheme, std::make_shared<ferrowind::postgres::Engine>());
   }
-  return static_cast<int>(
-      ferrowind::host::RunCommandLine(arguments.BehindName(), engines, std::cout, std::cerr));
+  ferrowind::host::GuardedStream out(std::cout, isatty(STDOUT_FILENO) == 1);
+  ferrowind::host::GuardedStream errors(std::cerr, true);
+  errors << std::unitbuf;
+  return static_cast<int>(ferrowind::host::RunCommandLine(arguments.BehindName(), engines, out, errors));
 }

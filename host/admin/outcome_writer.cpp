@@ -1,5 +1,7 @@
 #include "host/admin/outcome_writer.h"
 
+#include "host/admin/guarded_stream.h"
+
 namespace ferrowind::host {
 
 void WriteOutcome(const ProcedureOutcome& outcome, OutputFormat format, std::ostream& out) {
@@ -9,7 +11,7 @@ void WriteOutcome(const ProcedureOutcome& outcome, OutputFormat format, std::ost
     case OutputFormat::kJson:
       return WriteJson(outcome, out);
     case OutputFormat::kCsv:
-      return WriteCsv(outcome, out);
+      return WriteCsv(outcome, ForPrograms(out));
   }
 }
 
@@ -20,7 +22,7 @@ void WriteRows(const RecordSets& record_sets, OutputFormat format, std::ostream&
     case OutputFormat::kJson:
       return WriteJsonRows(record_sets, out);
     case OutputFormat::kCsv:
-      return WriteCsvRows(record_sets, out);
+      return WriteCsvRows(record_sets, ForPrograms(out));
   }
 }
 
@@ -31,7 +33,7 @@ void WriteList(const platform::RecordSet& rows, OutputFormat format, std::ostrea
     case OutputFormat::kJson:
       return WriteJsonList(rows, out);
     case OutputFormat::kCsv:
-      return WriteCsvList(rows, out);
+      return WriteCsvList(rows, ForPrograms(out));
   }
 }
 

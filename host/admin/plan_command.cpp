@@ -11,6 +11,7 @@
 #include "host/admin/database_content.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
+#include "host/admin/text_escapes.h"
 #include "host/delivery/delivered_tables.h"
 
 namespace ferrowind::host {
@@ -60,11 +61,11 @@ ExitStatus PlanCommand::Run(const platform::EngineRegistry& engines, std::ostrea
     } else if (differs || shows_all) {
       ShowTable(*preparation, is_shown, shows_all, out);
     } else {
-      out << preparation->Name() << " is as planned"
+      out << OneLine(preparation->Name()) << " is as planned"
           << planning::ButForExceptions(planning::KeptExceptions(comparison, exceptions)) << ".\n";
     }
     if (!preparation->CalendarExists()) {
-      errors << preparation->Name() << " does not exist yet, and counts as empty.\n";
+      errors << OneLine(preparation->Name()) << " does not exist yet, and counts as empty.\n";
     }
     WriteRemarks(*preparation, exceptions, errors);
     if (differs) status = ExitStatus::kNotDone;

@@ -4,17 +4,19 @@
 
 #include "ferrowind/planning/plan_words.h"
 
+#include "host/admin/text_escapes.h"
+
 namespace ferrowind::host {
 
 void WriteIncomplete(const planning::YearPreparation& preparation, std::ostream& out) {
-  for (const std::string& sentence : planning::Incomplete(preparation)) out << sentence << '\n';
+  for (const std::string& sentence : planning::Incomplete(preparation)) out << OneLine(sentence) << '\n';
 }
 
 void WriteRemarks(const planning::YearPreparation& preparation, almanac::ExceptionHandling exceptions,
                   std::ostream& out) {
   WriteIncomplete(preparation, out);
   for (const std::string& obstacle : preparation.Compared().Obstacles(exceptions)) {
-    out << preparation.Name() << " cannot be applied: " << obstacle << ".\n";
+    out << OneLine(preparation.Name() + " cannot be applied: " + obstacle) << ".\n";
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include "host/admin/calendar_warnings.h"
 #include "host/admin/database_content.h"
+#include "host/admin/text_escapes.h"
 
 namespace ferrowind::host {
 namespace {
@@ -56,7 +57,7 @@ ExitStatus StatusCommand::Run(const platform::EngineRegistry& engines, std::ostr
   if (format != OutputFormat::kTable) return ExitStatus::kDone;
   const char* gap = "\n";
   for (const std::string& warning : warnings.Sentences()) {
-    out << std::exchange(gap, "") << "Warning: " << warning << ".\n";
+    out << std::exchange(gap, "") << "Warning: " << OneLine(warning) << ".\n";
   }
   return ExitStatus::kDone;
 }

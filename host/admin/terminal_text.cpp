@@ -1,11 +1,12 @@
 #include "host/admin/terminal_text.h"
 
 #include <clocale>
-#include <cstdint>
-#include <cstdio>
 #include <string_view>
+#include <utility>
 
 #include <wchar.h>
+
+#include "host/admin/text_escapes.h"
 
 namespace ferrowind::host {
 namespace {
@@ -31,43 +32,14 @@ class Utf8Characters {
   locale_t previous_ = nullptr;
 };
 
-std::string EscapedByte(char byte) {
-  switch (byte) {
-    case '\n':
-      return "\\n";
-    case '\r':
-      return "\\r";
-    case '\t':
-      return "\\t";
-    case '\\':
-      return "\\\\";
-    default: {
-      char escape[5];
-      std::snprintf(escape, sizeof escape, "\\x%02x", static_cast<unsigned char>(byte));
-      return escape;
-    }
-  }
-}
-
-std::string Escaped(std::string_view bytes) {
-  std::string escapes;
-  for (const char byte : bytes) escapes += EscapedByte(byte);
-  return escapes;
-}
-
-/// The next character of `rest`, ready to be shown; `length` bytes of `rest` are used up.
-TerminalText NextCharacter(std::string_view rest, std::size_t& length) {
-  wchar_t character = 0;
-  mbstate_t state{};
-  const std::size_t decoded = mbrtowc(&character, rest.data(), rest.size(), &state);
-  const bool is_character = decoded != 0 && decoded <= rest.size();
-  length = is_character ? decoded : 1;
-  const std::string_view bytes = rest.substr(0, length);
-  const int width = is_character && character != L'\\' ? wcwidth(character) : -1;
-  if (width >= 0) return {std::string(bytes), static_cast<std::size_t>(width)};
-  std::string escapes = Escaped(bytes);
-  const std::size_t escape_width = escapes.size();
-  return {std::move(escapes), escape_width};
+/// A character as it stands on a terminal.
+TerminalText Shown(const FrontCharacter& character) {
+  const bool is_shown = !IsUnsafe(character) && character.code != U'\\';
+  const int width = is_shown ? wcwidth(static_cast<wchar_t>(*character.code)) : -1;
+  if (width >= 0) return {std::string(character.bytes), static_cast<std::size_t>(width)};
+  std::string escape = Escaped(character);
+  const std::size_t escape_width = escape.size();
+  return {std::move(escape), escape_width};
 }
 
 }  // namespace
@@ -79,8 +51,8 @@ TerminalText ForTerminal(const std::string& text, std::size_t limit) {
   TerminalText cut;
   std::string_view rest = text;
   while (!rest.empty()) {
-    std::size_t length = 0;
-    const TerminalText next = NextCharacter(rest, length);
+    const FrontCharacter character = FirstCharacter(rest);
+    const TerminalText next = Shown(character);
     if (shown.width + next.width > limit) {
       cut.text += kEllipsis;
       ++cut.width;
@@ -89,7 +61,7 @@ TerminalText ForTerminal(const std::string& text, std::size_t limit) {
     shown.text += next.text;
     shown.width += next.width;
     if (shown.width < limit) cut = shown;
-    rest.remove_prefix(length);
+    rest.remove_prefix(character.bytes.size());
   }
   return shown;
 }

@@ -12,9 +12,8 @@ struct TerminalText {
   std::size_t width = 0;
 };
 
-/// `text` (UTF-8) on one line of at most `limit` columns: line breaks, tabs, backslashes, other control
-/// characters and bytes that are no UTF-8 are written as escapes ("\n", "\x1b"), and a longer text ends with
-/// an ellipsis, which counts.
+/// `text` (UTF-8) on one line of at most `limit` columns: what is unsafe (text_escapes.h), what cannot be
+/// shown, and backslashes are written as escapes, and a longer text ends with an ellipsis, which counts.
 [[nodiscard]] TerminalText ForTerminal(const std::string& text, std::size_t limit);
 
 }  // namespace ferrowind::host

@@ -10,6 +10,7 @@
 
 #include "host/admin/database_content.h"
 #include "host/admin/history_arguments.h"
+#include "host/admin/text_escapes.h"
 
 namespace ferrowind::host {
 namespace {
@@ -76,7 +77,7 @@ ExitStatus UndoCommand::Run(const platform::EngineRegistry& engines, std::ostrea
     undone = Described(wanted, currencies);
     newest = planning::LoadHistory({}, std::nullopt, 1).entries;
   });
-  out << undone << " is undone.\n";
+  out << OneLine(undone) << " is undone.\n";
   if (!newest.empty() && newest.front().procedure == "CldUndo") {
     out << "That is the entry " << newest.front().id << ", which can be undone itself.\n";
   }

@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/planning/counted.h"
 
+#include "host/admin/text_escapes.h"
 #include "host/delivery/first_years.h"
 #include "host/session/procedure_session.h"
 
@@ -21,7 +22,7 @@ void TellFirstYears(const FirstYears& years, std::ostream& out) {
   }
   if (years.others.empty()) return;
   out << "Rule books that are not as delivered tell of all years as before:";
-  for (const std::string& code : years.others) out << ' ' << code;
+  for (const std::string& code : years.others) out << ' ' << OneLine(code);
   out << ". A line \"since YEAR\" in them says otherwise.\n";
 }
 

@@ -9,6 +9,7 @@
 #include "host/admin/database_content.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/plan_remarks.h"
+#include "host/admin/text_escapes.h"
 #include "host/delivery/delivered_tables.h"
 
 namespace ferrowind::host {
@@ -18,7 +19,7 @@ constexpr const char* kOrdinary = "ordinary working day";
 
 void WriteLine(std::string_view what, const std::string& text, std::ostream& out) {
   constexpr std::size_t kWidth = 8;
-  out << what << std::string(kWidth - what.size(), ' ') << text << '\n';
+  out << what << std::string(kWidth - what.size(), ' ') << OneLine(text) << '\n';
 }
 
 std::string NowOf(const planning::YearPreparation& preparation, const almanac::ComparisonLine& line,
@@ -44,7 +45,7 @@ ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream
     const almanac::ComparedDay compared = comparison.DayAt(day.DayOfYear());
     const almanac::ComparisonLine line = comparison.LineOf(compared);
     const almanac::RuleBook& book = comparison.Plan().Book();
-    out << preparation->Owner().code << ", " << almanac::WeekdayName(day.Weekday()) << ' '
+    out << OneLine(preparation->Owner().code) << ", " << almanac::WeekdayName(day.Weekday()) << ' '
         << almanac::LongDate(day.Serial()) << '\n';
     WriteLine("now", NowOf(*preparation, line, compared.now != nullptr ? compared.now->comment : ""), out);
     WriteLine("should", ShouldOf(comparison.Plan(), line), out);

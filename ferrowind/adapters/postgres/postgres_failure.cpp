@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/postgres/postgres_failure.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 namespace ferrowind::postgres {
@@ -45,11 +47,18 @@ std::string PlainWords(std::string_view sqlstate, const std::string& database) {
   return database + " reports an error";
 }
 
-/// libpq's texts end with line breaks.
-std::string Trimmed(const char* text) {
-  std::string trimmed = text != nullptr ? text : "";
-  while (!trimmed.empty() && (trimmed.back() == '\n' || trimmed.back() == ' ')) trimmed.pop_back();
-  return trimmed;
+/// libpq's texts have several lines, and end with a line break.
+std::string OnOneLine(const char* text) {
+  constexpr std::string_view kBlanks = " \t\n";
+  const std::string_view lines = text != nullptr ? text : "";
+  std::string line;
+  for (std::size_t at = lines.find_first_not_of(kBlanks); at != std::string_view::npos;) {
+    const std::size_t end = std::min(lines.find('\n', at), lines.size());
+    line += (line.empty() ? "" : " ") + std::string(lines.substr(at, end - at));
+    at = lines.find_first_not_of(kBlanks, end);
+  }
+  while (!line.empty() && line.back() == ' ') line.pop_back();
+  return line;
 }
 
 std::string TextOrEmpty(const char* text) { return text != nullptr ? text : ""; }
@@ -65,7 +74,7 @@ Failure FailureOfState(std::string_view sqlstate, const std::string& plain_words
 Failure ConnectFailure(const PGconn* connection) {
   if (connection == nullptr) return FailureOfState("53200", "There is no memory for a connection", "libpq");
   return FailureOfState(kCannotConnect, NameOfDatabase(connection) + " cannot be connected to",
-                        Trimmed(PQerrorMessage(connection)));
+                        OnOneLine(PQerrorMessage(connection)));
 }
 
 Failure ResultFailure(const PGconn* connection, const PGresult* result) {
@@ -77,7 +86,7 @@ Failure ResultFailure(const PGconn* connection, const PGresult* result) {
 
 Failure LinkFailure(const PGconn* connection) {
   return FailureOfState(kLinkLost, PlainWords(kLinkLost, NameOfDatabase(connection)),
-                        Trimmed(PQerrorMessage(connection)));
+                        OnOneLine(PQerrorMessage(connection)));
 }
 
 Failure Introduced(const std::string& introduction, const Failure& failure) {

@@ -18,6 +18,12 @@ TEST(TerminalText, EscapesWhatWouldBreakTheLineOrDriveTheTerminal) {
   EXPECT_EQ(ForTerminal("a\\nb", 60).text, "a\\\\nb");
 }
 
+TEST(TerminalText, EscapesWhatIsUnsafeAndTakesNoColumn) {
+  const TerminalText shown = ForTerminal("a\u202eb\u009bc\x7f", 60);
+  EXPECT_EQ(shown.text, "a\\u202eb\\u009bc\\u007f");
+  EXPECT_EQ(shown.width, 21U);
+}
+
 TEST(TerminalText, EscapesBytesThatAreNoUtf8) {
   const TerminalText shown = ForTerminal("a\xff\xc3", 60);
   EXPECT_EQ(shown.text, "a\\xff\\xc3");
