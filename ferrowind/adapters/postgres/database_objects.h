@@ -23,11 +23,14 @@ namespace ferrowind::postgres {
 void CreateDatabaseObjects(const std::string& connection_string,
                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill = {});
 
-/// The problems of the calendar database, each a sentence that says what and where; none when it is sound:
-/// the schema is this program's version, tables, constraints, procedures, views and rights are this
-/// program's, every calendar is a currency's and has all days of its year with their dates, and every day's
-/// rule exists and is of the day's type. Changes nothing. The login must be one that could create the
-/// database. A database that cannot be read is a `platform::Failure`.
+/// The problems of the calendar database, each a sentence that says what and where, and for what surrounds
+/// the schema also what to do; none when it is sound: the schema is this program's version, and everything in
+/// it, every right and owner is what the delivered scripts make of an empty database; nothing outside reaches
+/// into it or gives more rights; every calendar is a currency's and has all days of its year with their
+/// dates, and every day's rule exists and is of the day's type. What should be is known to the program;
+/// nothing of it comes from the server. Changes nothing, which the server ensures, and waits for no upgrade.
+/// The login must have the rights of ferrowind_owner. A database that cannot be read is a
+/// `platform::Failure`.
 [[nodiscard]] std::vector<std::string> CheckDatabase(const std::string& connection_string);
 
 /// Brings the calendar database to this program's version: schema, procedures and rights, and the server's

@@ -33,7 +33,7 @@ content::UpgradeOutcome UpgradeDatabase(const std::string& connection_string) {
   return platform::WithFailuresOnly([&]() -> content::UpgradeOutcome {
     ServerConnection connection(connection_string);
     RequireCalendarDatabase(connection);
-    // One upgrade or check of a database at a time.
+    // One upgrade of a database at a time.
     connection.RunScript("BEGIN; SELECT pg_advisory_xact_lock(4266537)");
     const std::int64_t from = SchemaVersionOf(connection);
     const auto scripts = NeededScripts(connection, from);

@@ -61,9 +61,15 @@ void CreateRoutines(ServerConnection& connection) {
 
 }  // namespace
 
+std::vector<std::string_view> DeliveredScripts() {
+  std::vector<std::string_view> scripts = {embedded::kPostgresSchema};
+  for (const std::string_view script : Functions()) scripts.push_back(script);
+  for (const Procedure& procedure : Procedures()) scripts.push_back(procedure.script);
+  return scripts;
+}
+
 void CreateDeliveredSchema(ServerConnection& connection) {
-  connection.RunScript(std::string(embedded::kPostgresSchema));
-  CreateRoutines(connection);
+  for (const std::string_view script : DeliveredScripts()) connection.RunScript(std::string(script));
 }
 
 void ReplaceRoutines(ServerConnection& connection) {
