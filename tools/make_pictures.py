@@ -260,6 +260,20 @@ class Photographer:
         together = f'Year planner - {", ".join(TOGETHER)} 2026'
         self.story.wait_active(together)
         self.studio.take(in_theme('guide-year-planner-together', theme), self.session, together)
+        self.take_announced_holiday(theme)
+
+    def take_announced_holiday(self, theme):
+        """Two days of mourning for three currencies, before a holiday that two of them have."""
+        self.session.keys('alt+c')
+        self.session.type('CHF EUR GBP')
+        self.session.keys('Return')
+        self.story.wait_active('Year planner - CHF, EUR, GBP 2026')
+        # The first of May in the row of all, and the two working days before it.
+        self.session.keys('ctrl+Home', *['Next'] * 4, 'Up', 'Up', 'shift+Left', 'shift+Left', 'ctrl+l')
+        self.story.wait_active('Close days')
+        self.session.type('National Day of Mourning')
+        self.studio.take(in_theme('guide-close-days', theme), self.session, 'Close days')
+        self.session.keys('Escape')
 
     def take_rule_book(self, theme):
         self.session.database.parent.mkdir(parents=True)

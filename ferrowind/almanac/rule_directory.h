@@ -28,6 +28,7 @@ class RuleDirectory {
  public:
   explicit RuleDirectory(std::vector<KnownRule> rules);
 
+  [[nodiscard]] const std::vector<KnownRule>& All() const { return rules_; }
   /// Null when there is no such rule. Pointers are valid as long as the directory lives.
   [[nodiscard]] const KnownRule* Find(std::int32_t id) const;
   /// The rule of that name, without regard to letter case and outer blanks; null when there is none.

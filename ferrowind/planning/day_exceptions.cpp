@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "ferrowind/planning/calendar_store.h"
-#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/calendar_change.h"
 #include "ferrowind/platform/values/json_text.h"
 
 namespace ferrowind::planning {
@@ -20,23 +19,9 @@ std::vector<std::int16_t> DaysToExcept(const almanac::CalendarContent& calendar,
 
 bool ExceptDays(const Currency& currency, const almanac::CalendarContent& seen,
                 std::span<const std::int16_t> days, const std::string& reason) {
-  const StoredCalendar now = LoadCalendar(currency, seen.year);
-  if (!now.exists || now.content != seen) return false;
-  std::string dates;
-  for (const std::int16_t day : days) {
-    if (!dates.empty()) dates += ',';
-    dates += platform::JsonText(platform::Date(seen.year, 1, 1).AddDays(day - 1).ToIso());
-  }
-  SourceValues parameters;
-  parameters.Add("ID1", currency.id);
-  parameters.Add("Year1", static_cast<std::int32_t>(seen.year));
-  parameters.Add("Expected", now.fingerprint);
-  parameters.Add(
-      "Days", "[{\"TID1\":1,\"Dates\":[" + dates + "],\"DayComment\":" + platform::JsonText(reason) + "}]");
-  const CallAnswer answer =
-      CallDatabase("Excepting days of " + currency.code + " " + std::to_string(seen.year), "CldApplyPlan",
-                   parameters, 0, {return_value::kContentIsAnother});
-  return answer.return_value == return_value::kDone;
+  return ChangeSeenDays("Excepting days", currency, seen,
+                        "[{\"TID1\":1,\"Dates\":" + DatesJson(seen.year, days) +
+                            ",\"DayComment\":" + platform::JsonText(reason) + "}]");
 }
 
 }  // namespace ferrowind::planning

@@ -1,6 +1,7 @@
 #include "ferrowind/planning/history_words.h"
 
 #include <charconv>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -94,13 +95,50 @@ std::string WordsOfDays(const HistoryEntry& entry, const std::string& calendar) 
                  {NeededRule(entry), std::to_string(parameters.Number("Year1"))});
 }
 
-std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) {
-  std::size_t days = 0;
-  for (const JsonValue& item : Parameters(entry.parameters).List("Days")) {
-    const JsonValue* const dates = item.Find("Dates");
-    if (dates == nullptr || dates->kind != JsonValue::Kind::kList) throw CannotBeTold();
-    days += dates->items.size();
+const std::vector<JsonValue>& DatesOf(const JsonValue& item) {
+  const JsonValue* const dates = item.Find("Dates");
+  if (dates == nullptr || dates->kind != JsonValue::Kind::kList) throw CannotBeTold();
+  return dates->items;
+}
+
+/// The text of the member, empty when the item has none.
+std::string MemberText(const JsonValue& item, std::string_view name) {
+  const JsonValue* const member = item.Find(name);
+  return member != nullptr && member->kind == JsonValue::Kind::kText ? member->text : "";
+}
+
+/// "14 April 2028", "3 days of EUR 2028".
+std::string WordsOfDates(const std::vector<JsonValue>& dates, const std::string& calendar) {
+  if (dates.size() != 1) return InWords(dates.size(), "%n day of %1", "%n days of %1", {calendar});
+  const auto date = Date::FromIso(dates.front().text);
+  if (!date) throw CannotBeTold();
+  return almanac::LongDate(date->Serial());
+}
+
+/// What a call did that gave days of a calendar which was there one and the same: by hand, mostly. Nothing
+/// when the days are no exceptions and no holiday.
+std::optional<std::string> WordsOfOneChange(const JsonValue& item, const std::string& calendar) {
+  const std::string type = item.Find("TID1") != nullptr ? item.Find("TID1")->text : "";
+  const std::string rule = MemberText(item, "Name1");
+  if (type == "1" && rule.empty() && item.Find("DayComment") != nullptr) {
+    const std::string reason = MemberText(item, "DayComment");
+    const std::string days = WordsOfDates(DatesOf(item), calendar);
+    return reason.empty() ? InWords("Excepted %1", {days}) : InWords("Excepted %1: %2", {days, reason});
   }
+  if ((type == "3" || type == "4") && !rule.empty()) {
+    return InWords("Closed %1 as %2", {WordsOfDates(DatesOf(item), calendar), rule});
+  }
+  return std::nullopt;
+}
+
+std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) {
+  const Parameters parameters(entry.parameters);
+  const std::vector<JsonValue> items = parameters.List("Days");
+  if (items.size() == 1 && !parameters.Text("Expected").empty()) {
+    if (auto words = WordsOfOneChange(items.front(), calendar)) return *std::move(words);
+  }
+  std::size_t days = 0;
+  for (const JsonValue& item : items) days += DatesOf(item).size();
   return InWords(days, "Prepared %1: %n day", "Prepared %1: %n days", {calendar});
 }
 

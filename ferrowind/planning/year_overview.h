@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
@@ -9,6 +11,16 @@
 #include "ferrowind/planning/currency_list.h"
 
 namespace ferrowind::planning {
+
+/// Selected days of one of the calendars of an overview.
+struct SelectedDays {
+  /// The position of the calendar.
+  std::size_t calendar = 0;
+  /// Days of the year, ascending, at least one.
+  std::vector<std::int16_t> days = {};
+
+  friend bool operator==(const SelectedDays&, const SelectedDays&) = default;
+};
 
 /// The calendars of a year of some currencies, as the calling thread's database held them when this was made.
 class YearOverview {

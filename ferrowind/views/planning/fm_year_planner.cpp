@@ -6,7 +6,6 @@
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/calendar_store.h"
-#include "ferrowind/views/planning/selected_days.h"
 #include "ferrowind/views/planning/typed_currencies.h"
 #include "ferrowind/views/planning/year_content.h"
 
@@ -25,6 +24,7 @@ constexpr const char* kRefresh = "ID_RefreshYear";
 constexpr const char* kYearBefore = "ID_YearBefore";
 constexpr const char* kYearAfter = "ID_YearAfter";
 constexpr const char* kExcept = "ID_ExceptDays";
+constexpr const char* kCloseDays = "ID_CloseDays";
 constexpr const char* kPrint = "ID_PrintYear";
 constexpr const char* kSavePdf = "ID_SaveYearPdf";
 constexpr const char* kSavePicture = "ID_SaveYearPicture";
@@ -64,13 +64,15 @@ void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
   add(kYearAfter, "Next year", "Shows the year after", "Alt+PgDown");
   add(kExcept, "Except days with message ...",
       "Makes the selected days working days by exception, with one reason", "Ctrl+E");
+  add(kCloseDays, "Close selected days as ...",
+      "Closes the selected days that are open, as a holiday that was announced for once", "Ctrl+L");
   add(kPrint, "Print...", "Prints the year", "Ctrl+P");
   add(kSavePdf, "Save as PDF...", "Writes the year into a file for reading and printing", "Ctrl+S");
   add(kSavePicture, "Save as picture...", "Writes the year into a PNG file", "Ctrl+Shift+S");
   add(kClose, "Close", "", "Ctrl+W");
-  tools.SetBar("Year", {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept, kToolSeparator, kPrint,
-                        kSavePdf, kSavePicture});
-  tools.AddPopupMenu(kDayMenu, "Day", {kExcept});
+  tools.SetBar("Year", {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept, kCloseDays,
+                        kToolSeparator, kPrint, kSavePdf, kSavePicture});
+  tools.AddPopupMenu(kDayMenu, "Day", {kExcept, kCloseDays});
 }
 
 }  // namespace
@@ -98,7 +100,8 @@ std::string fmYearPlanner::NameFor(const std::vector<std::int32_t>& currencies, 
 }
 
 fmYearPlanner::fmYearPlanner(const PlanningContext& context)
-    : platform_(context.platform),
+    : context_(context),
+      platform_(context.platform),
       windows_(context.windows),
       form_(platform_.toolkit.CreateForm(Said(platform_, Design()))),
       view_(ControlOf<platform::YearView>(*form_, "yvYear")),
@@ -194,6 +197,7 @@ void fmYearPlanner::ReadAnewAfter(const PlanningWindows::Changed& changed) {
 void fmYearPlanner::RefreshSelection() {
   const auto selected = SelectedDaysOf(*overview_, view_.Selected());
   tools_.SetToolEnabled(kExcept, !DaysToExcept(*overview_, selected).empty());
+  tools_.SetToolEnabled(kCloseDays, HasDayToClose(*overview_, selected));
   bar_.SetPanelText(kTextPanel, SelectionInWords(*overview_, selected));
 }
 
@@ -214,6 +218,7 @@ void fmYearPlanner::RunTool(const std::string& id) {
       {kYearBefore, [](fmYearPlanner& w) { w.ShowYear(-1); }},
       {kYearAfter, [](fmYearPlanner& w) { w.ShowYear(1); }},
       {kExcept, [](fmYearPlanner& w) { w.ExceptDays(); }},
+      {kCloseDays, [](fmYearPlanner& w) { w.CloseDays(); }},
       {kPrint, [](fmYearPlanner& w) { (void)w.view_.PrintPages(HeadingOf(*w.overview_)); }},
       {kSavePdf, [](fmYearPlanner& w) { w.Save(PageFile::kPdf); }},
       {kSavePicture, [](fmYearPlanner& w) { w.Save(PageFile::kPng); }},
@@ -229,15 +234,23 @@ void fmYearPlanner::ShowDayMenu() { tools_.ShowPopupMenu(kDayMenu); }
 void fmYearPlanner::ExceptDays() {
   // A copy: other windows may have this one read its calendars anew while the operator thinks of the reason.
   const YearOverview seen = *overview_;
-  const ExceptedDays excepted =
-      ExceptSelectedDays(platform_.toolkit, seen, DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected())));
+  Tell(ExceptSelectedDays(platform_.toolkit, seen,
+                          DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()))));
+}
+
+void fmYearPlanner::CloseDays() {
+  const YearOverview seen = *overview_;
+  Tell(CloseSelectedDays(context_, seen, SelectedDaysOf(seen, view_.Selected())));
+}
+
+void fmYearPlanner::Tell(const DaysOutcome& outcome) {
   if (has_closed_) return;
-  if (!excepted.changed.empty()) windows_.TellChanged(excepted.changed);
-  if (!excepted.problems.empty()) {
+  if (outcome.changed) windows_.TellChanged(*outcome.changed);
+  if (!outcome.problems.empty()) {
     ReadAnew();
-    ShowProblems(excepted, *form_);
+    ShowProblems(outcome, *form_);
   }
-  if (!has_closed_ && !excepted.done.empty()) bar_.SetPanelText(kTextPanel, excepted.done);
+  if (!has_closed_ && !outcome.done.empty()) bar_.SetPanelText(kTextPanel, outcome.done);
 }
 
 void fmYearPlanner::Save(PageFile kind) {

@@ -9,6 +9,7 @@
 #include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
+#include "ferrowind/views/planning/selected_days.h"
 
 namespace ferrowind {
 
@@ -42,12 +43,15 @@ class fmYearPlanner : public PlanningWindow, public std::enable_shared_from_this
   void RunTool(const std::string& id);
   void ShowDayMenu();
   void ExceptDays();
+  void CloseDays();
+  void Tell(const DaysOutcome& outcome);
   void Save(platform::PageFile kind);
   void RefreshSelection();
   void ShowToolDescription(const std::string& id);
   void Form_Load();
   void Form_QueryUnload();
 
+  PlanningContext context_;
   const platform::Platform& platform_;
   PlanningWindows& windows_;
   std::shared_ptr<platform::Form> form_;

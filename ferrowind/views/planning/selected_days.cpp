@@ -5,9 +5,12 @@
 #include <utility>
 
 #include "ferrowind/data/module_state.h"
+#include "ferrowind/planning/calendar_change.h"
 #include "ferrowind/planning/day_exceptions.h"
+#include "ferrowind/planning/holiday_closing.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/views/dialogs/fm_except_mess.h"
+#include "ferrowind/views/planning/fm_close_days.h"
 #include "ferrowind/views/planning/year_content.h"
 
 namespace ferrowind {
@@ -67,6 +70,13 @@ std::vector<SelectedDays> DaysToExcept(const YearOverview& overview,
   return to_except;
 }
 
+bool HasDayToClose(const YearOverview& overview, const std::vector<SelectedDays>& selected) {
+  return std::any_of(selected.begin(), selected.end(), [&](const SelectedDays& of_calendar) {
+    const YearOverview::Calendar& calendar = overview.Calendars()[of_calendar.calendar];
+    return calendar.exists && ClosedAmong(calendar, of_calendar.days) < of_calendar.days.size();
+  });
+}
+
 std::string SelectionInWords(const YearOverview& overview, const std::vector<SelectedDays>& selected) {
   std::size_t closed = 0;
   for (const auto& [position, days] : selected) closed += ClosedAmong(overview.Calendars()[position], days);
@@ -74,41 +84,60 @@ std::string SelectionInWords(const YearOverview& overview, const std::vector<Sel
                  "%n days selected, %1 of them closed", {std::to_string(closed)});
 }
 
-ExceptedDays ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& overview,
-                                const std::vector<SelectedDays>& days) {
-  ExceptedDays excepted;
+DaysOutcome ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& overview,
+                               const std::vector<SelectedDays>& days) {
+  DaysOutcome excepted;
   if (days.empty()) return excepted;
   fmExceptMess dialog(toolkit);
   dialog.ShowModal();
   if (dialog.Result() != 0) return excepted;
   std::vector<SelectedDays> done;
+  PlanningWindows::Changed changed;
   for (const auto& of_calendar : days) {
     const YearOverview::Calendar& calendar = overview.Calendars()[of_calendar.calendar];
     try {
       if (planning::ExceptDays(calendar.currency, calendar.content, of_calendar.days, dialog.Message())) {
         done.push_back(of_calendar);
-        excepted.changed.emplace_back(calendar.currency.id, overview.Year());
+        changed.emplace_back(calendar.currency.id, overview.Year());
       } else {
-        AppendSentence(
-            excepted.problems,
-            InWords("%1 was changed by somebody else meanwhile. It is left as it is; look at its days again.",
-                    {NameOf(overview, calendar)}));
+        AppendSentence(excepted.problems, planning::ChangedMeanwhile(NameOf(overview, calendar)));
       }
     } catch (const platform::Failure& failure) {
       AppendSentence(excepted.problems, failure.Description() + ".");
     }
   }
   if (done.empty()) return excepted;
+  excepted.changed = std::move(changed);
   excepted.done = InWords(CountOf(done), "%n day is a working day by exception now",
                           "%n days are working days by exception now");
   return excepted;
 }
 
-void ShowProblems(const ExceptedDays& excepted, platform::Form& window) {
-  if (excepted.problems.empty()) return;
+DaysOutcome CloseSelectedDays(const PlanningContext& context, const YearOverview& overview,
+                              const std::vector<SelectedDays>& days) {
+  DaysOutcome closed;
+  planning::HolidayClosing closing(context.tables, overview, days);
+  fmCloseDays dialog(context.platform, closing);
+  dialog.ShowModal();
+  if (!dialog.IsConfirmed()) return closed;
+  const planning::ClosingOutcome outcome = closing.Close();
+  for (const std::string& problem : outcome.problems) AppendSentence(closed.problems, problem);
+  // Rules and books may be others as well as the calendars.
+  if (outcome.may_have_changed) closed.changed.emplace();
+  if (outcome.days == 0) return closed;
+  closed.done = InWords(outcome.days, "%n day is closed now", "%n days are closed now");
+  if (outcome.books != 0) {
+    closed.done = InWords(outcome.books, "%1 and entered in %n rule book", "%1 and entered in %n rule books",
+                          {closed.done});
+  }
+  return closed;
+}
+
+void ShowProblems(const DaysOutcome& outcome, platform::Form& window) {
+  if (outcome.problems.empty()) return;
   constexpr std::int32_t kError = 3;
   constexpr std::int32_t kOk = 1;
-  SharedServicesObject().ShowMessage(excepted.problems, kError, kOk, kOk, &window, "", true, true);
+  SharedServicesObject().ShowMessage(outcome.problems, kError, kOk, kOk, &window, "", true, true);
 }
 
 }  // namespace ferrowind

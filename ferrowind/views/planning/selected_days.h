@@ -1,7 +1,6 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,15 +10,7 @@
 
 namespace ferrowind {
 
-/// Selected days of one of the calendars of an overview.
-struct SelectedDays {
-  /// The position of the calendar.
-  std::size_t calendar = 0;
-  /// Days of the year, ascending, at least one.
-  std::vector<std::int16_t> days;
-
-  friend bool operator==(const SelectedDays&, const SelectedDays&) = default;
-};
+using planning::SelectedDays;
 
 /// The days of cells, calendar by calendar; a cell of the row of all calendars stands for that day of each.
 [[nodiscard]] std::vector<SelectedDays> SelectedDaysOf(const planning::YearOverview& overview,
@@ -27,15 +18,18 @@ struct SelectedDays {
 /// Those of them that can be made working days by exception: closed ones, and exceptions.
 [[nodiscard]] std::vector<SelectedDays> DaysToExcept(const planning::YearOverview& overview,
                                                      const std::vector<SelectedDays>& selected);
+/// Whether any of them is open, an exception too, so that it can be closed.
+[[nodiscard]] bool HasDayToClose(const planning::YearOverview& overview,
+                                 const std::vector<SelectedDays>& selected);
 /// "3 days selected, 2 of them closed"; of days of several calendars each counts.
 [[nodiscard]] std::string SelectionInWords(const planning::YearOverview& overview,
                                            const std::vector<SelectedDays>& selected);
 
-/// What became of days that were to be excepted.
-struct ExceptedDays {
-  /// The calendars that were changed.
-  PlanningWindows::Changed changed;
-  /// Those that were not, and why: sentences for the operator; empty when all went well.
+/// What became of days that the operator has changed.
+struct DaysOutcome {
+  /// What was changed, as `PlanningWindows::TellChanged` takes it; nothing when nothing was.
+  std::optional<PlanningWindows::Changed> changed;
+  /// What was not, and why: sentences for the operator; empty when all went well.
   std::string problems;
   /// What was done, a sentence; empty when nothing was.
   std::string done;
@@ -43,11 +37,17 @@ struct ExceptedDays {
 
 /// Asks the operator for the reason and makes the days working days by exception, one call a calendar.
 /// Nothing is asked without days, and nothing done when the operator cancels.
-[[nodiscard]] ExceptedDays ExceptSelectedDays(platform::Toolkit& toolkit,
-                                              const planning::YearOverview& overview,
-                                              const std::vector<SelectedDays>& days);
+[[nodiscard]] DaysOutcome ExceptSelectedDays(platform::Toolkit& toolkit,
+                                             const planning::YearOverview& overview,
+                                             const std::vector<SelectedDays>& days);
+
+/// Asks the operator what the holiday is called, shows what will happen, and closes those of the days that
+/// are open, one call a calendar. Nothing is done when the operator cancels.
+[[nodiscard]] DaysOutcome CloseSelectedDays(const PlanningContext& context,
+                                            const planning::YearOverview& overview,
+                                            const std::vector<SelectedDays>& days);
 
 /// Shows the problems to the operator, if there are any.
-void ShowProblems(const ExceptedDays& excepted, platform::Form& window);
+void ShowProblems(const DaysOutcome& outcome, platform::Form& window);
 
 }  // namespace ferrowind

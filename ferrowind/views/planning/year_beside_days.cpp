@@ -211,9 +211,9 @@ void YearBesideDays::ExceptDays() {
   ReadCalendar();
   const planning::YearOverview seen = *overview_;
   const auto chosen = SelectedDaysOf(seen, ChosenCells(std::to_string(calendar->currency_id)));
-  const ExceptedDays excepted =
+  const DaysOutcome excepted =
       ExceptSelectedDays(context_.platform.toolkit, seen, DaysToExcept(seen, chosen));
-  if (!excepted.changed.empty()) context_.windows.TellChanged(excepted.changed);
+  if (excepted.changed) context_.windows.TellChanged(*excepted.changed);
   if (excepted.problems.empty()) return;
   scene_.Refresh();
   ShowProblems(excepted, scene_.Window());

@@ -192,5 +192,17 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInThePlannerOfAYear) {
   Examine("fmYearPlanner");
 }
 
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAnAnnouncedHoliday) {
+  RunHandler(platform_, [&] { windows_.OpenYearPlanner({kDollar, kPound}, 2028); });
+  QWidget& planner = *WindowOnShow("fmYearPlanner");
+  Activate(planner);
+  script_.Expect("fmCloseDays", [this](QWidget& dialog) {
+    TypeInto(dialog, "txtName", "National Day of Mourning");
+    Examine(dialog);
+    PressButton(dialog, "Cancel");
+  });
+  ClickTool(planner, "ID_CloseDays");
+}
+
 }  // namespace
 }  // namespace ferrowind::gui

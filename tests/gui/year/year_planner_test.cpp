@@ -1,6 +1,7 @@
 // The year planner as an operator has it.
 #include <QLabel>
 #include <QLineEdit>
+#include <QTableView>
 
 #include <gmock/gmock.h>
 
@@ -80,6 +81,53 @@ TEST_F(YearPlannerTest, ExceptsARangeSelectedByKeysWithOneReasonAndOneEntryOfThe
   EXPECT_EQ(std::stoi(desk_.ReadOne("SELECT count(*) FROM CldHistory")), std::stoi(before) + 1);
   EXPECT_EQ(Status(), "4 days are working days by exception now");
   EXPECT_THAT(Summary(), HasSubstr("264 working days (4 by exception)"));
+  Planner().close();
+}
+
+TEST_F(YearPlannerTest, ClosesADayOfAllCurrenciesByKeysAsAHolidayThatIsAnnounced) {
+  CreateCalendar(kEuro, 2028);
+  OpenPlanner({kDollar, kEuro}, 2028);
+  const int before = std::stoi(desk_.ReadOne("SELECT count(*) FROM CldHistory"));
+  // From the row of all on the first of January to the first Monday.
+  Press(Pane(), Qt::Key_Home, Qt::ControlModifier);
+  Press(Pane(), Qt::Key_Right, Qt::NoModifier, 2);
+  EXPECT_EQ(Status(), "2 days selected, 0 of them closed");
+  script_.Expect("fmCloseDays", [](QWidget& dialog) {
+    EXPECT_EQ(dialog.focusWidget()->objectName(), QStringLiteral("txtName"));
+    for (const char letter : std::string("Mourning")) QTest::keyClick(dialog.focusWidget(), letter);
+    EXPECT_EQ(Find<QLabel>(dialog, "lblSummary").text(),
+              QStringLiteral("2 days will be closed, and entered in no rule book."));
+    Press(*dialog.focusWidget(), Qt::Key_Return);
+  });
+  Press(Pane(), Qt::Key_L, Qt::ControlModifier);
+  EXPECT_THAT(desk_.Read("SELECT d.ID1, d.ODate FROM CldDay d JOIN CldHoliday h ON h.ID2 = d.ID2 "
+                         "WHERE h.Name1 = 'Mourning' AND h.TID1 = 4 ORDER BY d.ID1"),
+              ElementsAre("840|2028-01-03", "978|2028-01-03"));
+  EXPECT_EQ(std::stoi(desk_.ReadOne("SELECT count(*) FROM CldHistory")), before + 2);
+  EXPECT_EQ(Status(), "2 days are closed now");
+  Planner().close();
+}
+
+TEST_F(YearPlannerTest, TakesADayOutOfWhatIsClosedByTheSpaceBar) {
+  OpenPlanner({kDollar}, 2028);
+  Press(Pane(), Qt::Key_Home, Qt::ControlModifier);
+  Press(Pane(), Qt::Key_Right, Qt::NoModifier, 2);
+  Press(Pane(), Qt::Key_Right, Qt::ShiftModifier);
+  script_.Expect("ID_YearDayMenu", [](QWidget& menu) { PickFromMenu(menu, "ID_CloseDays"); });
+  script_.Expect("fmCloseDays", [](QWidget& dialog) {
+    TypeInto(dialog, "txtName", "Mourning");
+    auto& days = Find<QTableView>(dialog, "tblDays");
+    days.setFocus();
+    Press(days, Qt::Key_Home);
+    Press(days, Qt::Key_Space);
+    EXPECT_EQ(Find<QLabel>(dialog, "lblSummary").text(),
+              QStringLiteral("1 day will be closed, and entered in no rule book."));
+    PressButton(dialog, "Close days");
+  });
+  Press(Pane(), Qt::Key_Return);
+  EXPECT_THAT(desk_.Read("SELECT d.ODate FROM CldDay d JOIN CldHoliday h ON h.ID2 = d.ID2 "
+                         "WHERE h.Name1 = 'Mourning'"),
+              ElementsAre("2028-01-04"));
   Planner().close();
 }
 

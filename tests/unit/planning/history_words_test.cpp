@@ -90,6 +90,28 @@ TEST(HistoryWords, TellAPlanByItsDays) {
             "Prepared EUR 2028: 0 days");
 }
 
+TEST(HistoryWords, TellDaysThatGotOneHolidayOrOneReasonTogether) {
+  const auto told = [](const std::string& item, const std::string& expected) {
+    std::string escaped;
+    for (const char character : item)
+      escaped += character == '"' ? std::string("\\\"") : std::string(1, character);
+    return Told(OfCalendar(
+        Entry("CldApplyPlan", R"({"Expected" : ")" + expected + R"(", "Days" : "[)" + escaped + R"(]"})")));
+  };
+  const std::string mourning = R"({"Name1":"Mourning","TID1":4,"Dates":["2028-05-05"]})";
+  EXPECT_EQ(told(mourning, "f1"), "Closed 5 May 2028 as Mourning");
+  EXPECT_EQ(told(R"({"Name1":"Rest","TID1":3,"Dates":["2028-05-05","2028-05-08"]})", "f1"),
+            "Closed 2 days of EUR 2028 as Rest");
+  EXPECT_EQ(told(mourning, ""), "Prepared EUR 2028: 1 day") << "it made the calendar";
+  EXPECT_EQ(told(R"({"Name1":"Sunday","TID1":2,"Dates":["2028-05-07"]})", "f1"), "Prepared EUR 2028: 1 day");
+  EXPECT_EQ(told(R"({"TID1":1,"Dates":["2028-05-05"],"DayComment":"Audit"})", "f1"),
+            "Excepted 5 May 2028: Audit");
+  EXPECT_EQ(told(R"({"TID1":1,"Dates":["2028-05-05","2028-05-08"],"DayComment":""})", "f1"),
+            "Excepted 2 days of EUR 2028");
+  EXPECT_EQ(told(R"({"TID1":1,"Dates":["2028-05-05"]})", "f1"), "Prepared EUR 2028: 1 day")
+      << "an ordinary working day is no exception";
+}
+
 TEST(HistoryWords, TellWhatBecameOfARule) {
   EXPECT_EQ(Told(Entry("CldIUCelebrate", R"({"Name1" : "Sunday", "TID1" : 2, "WD" : 1, "ID2" : null})")),
             "Added the rule Sunday");
@@ -142,6 +164,8 @@ TEST(HistoryWords, LeaveAsItStandsWhatTheyCannotRead) {
            {"CldIUMain", R"({"TID1" : 4, "Year1" : 2028, "Day1" : 3, "ID2" : 17})"},
            {"CldApplyPlan", R"({"Days" : "no list"})"},
            {"CldApplyPlan", R"({"Days" : "[1]"})"},
+           {"CldApplyPlan", R"({"Expected" : "f", "Days" : "[{\"Name1\":\"A\",\"TID1\":4,\"Dates\":[3]}]"})"},
+           {"CldApplyPlan", R"({"Expected" : "f", "Days" : "[{\"Name1\":\"A\",\"TID1\":4}]"})"},
            {"CldIUCelebrate", R"({"ID2" : 2, "Del" : 2})"},
            {"CldIUCelebrate", R"({"Name1" : null})"},
            {"CldIUBook", R"({"Expected" : "", "Rules" : "{}"})"},

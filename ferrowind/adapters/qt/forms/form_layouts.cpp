@@ -4,6 +4,7 @@
 #include "ui_fmAssignPreview.h"
 #include "ui_fmCalendar.h"
 #include "ui_fmCalendarThen.h"
+#include "ui_fmCloseDays.h"
 #include "ui_fmEnterHolidays.h"
 #include "ui_fmExceptMess.h"
 #include "ui_fmGoToDate.h"
@@ -31,6 +32,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmAssignPreview>("fmAssignPreview");
   layouts.AddGenerated<Ui::fmCalendar>("fmCalendar");
   layouts.AddGenerated<Ui::fmCalendarThen>("fmCalendarThen");
+  layouts.AddGenerated<Ui::fmCloseDays>("fmCloseDays");
   layouts.AddGenerated<Ui::fmEnterHolidays>("fmEnterHolidays");
   layouts.AddGenerated<Ui::fmExceptMess>("fmExceptMess");
   layouts.AddGenerated<Ui::fmGoToDate>("fmGoToDate");

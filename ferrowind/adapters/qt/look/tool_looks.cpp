@@ -36,6 +36,7 @@ constexpr std::array kLooks = {
     Entry{"ID_YearPlanner", YearGlyph, ""},
     Entry{"ID_YearWindow", YearWindowGlyph, ""},
     Entry{"ID_ExceptDays", ExceptGlyph, ""},
+    Entry{"ID_CloseDays", AssignOneGlyph, ""},
     Entry{"ID_History", HistoryGlyph, ""},
     Entry{"ID_DayHistory", HistoryGlyph, ""},
     Entry{"ID_Undo", UndoGlyph, ""},

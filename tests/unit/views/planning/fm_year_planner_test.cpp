@@ -7,9 +7,11 @@
 #include <gmock/gmock.h>
 
 #include "ferrowind/adapters/headless/headless_button.h"
+#include "ferrowind/adapters/headless/headless_drop_down_list.h"
 #include "ferrowind/adapters/headless/headless_form.h"
 #include "ferrowind/adapters/headless/headless_label.h"
 #include "ferrowind/adapters/headless/headless_status_bar.h"
+#include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_year_view.h"
@@ -30,6 +32,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using testing::RunInFreshThread;
 using ::testing::SizeIs;
 
@@ -75,6 +78,11 @@ class PlannerWorld : public planning::MemoryPlanningWorld {
       form.Part<headless::HeadlessButton>(button).Click();
     });
   }
+  /// Lets the operator ask for the selected days to be closed, and answer as `answer` does.
+  void CloseDaysAs(const std::function<void(headless::HeadlessForm&)>& answer) {
+    world.toolkit.ScriptModal("fmCloseDays", answer);
+    Tools().ClickTool("ID_CloseDays");
+  }
   [[nodiscard]] std::vector<std::string> Reports() const {
     std::vector<std::string> reports = world.log.StartingWith("services.ReportError(");
     for (const auto& message : world.log.StartingWith("services.ShowMessage(")) reports.push_back(message);
@@ -97,6 +105,14 @@ class PlannerWorld : public planning::MemoryPlanningWorld {
   std::shared_ptr<headless::HeadlessForm> form_;
   platform::Subscription changed_;
 };
+
+std::string LabelOf(headless::HeadlessForm& form, const std::string& name) {
+  return form.Part<headless::HeadlessLabel>(name).Text();
+}
+
+headless::HeadlessTable& Days(headless::HeadlessForm& dialog) {
+  return dialog.Part<headless::HeadlessTable>("tblDays");
+}
 
 TEST(YearPlannerWindow, ShowsTheYearOfACurrency) {
   RunInFreshThread([] {
@@ -180,6 +196,117 @@ TEST(YearPlannerWindow, LeavesACalendarAloneThatSomebodyElseHasChanged) {
     EXPECT_THAT(world.Reports(), Contains(HasSubstr("EUR 2028 was changed by somebody else")));
     EXPECT_EQ(world.View().TextOf({kEuroKey, 106}),
               "EUR, 2028-04-15, Working day by exception: another hand");
+  });
+}
+
+TEST(YearPlannerWindow, ClosesADayOfSeveralCurrenciesAsAHolidayThatIsNew) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open({kEuro, kDollar});
+    world.View().ClickDay({"joint", 126});
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_ExceptDays"));
+    world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+      EXPECT_EQ(dialog.FocusedControl(), "txtName");
+      EXPECT_FALSE(dialog.Part<headless::HeadlessButton>("cmdCloseDays").Enabled());
+      EXPECT_THAT(LabelOf(dialog, "lblMeaning"), HasSubstr("Type what the holiday is called"));
+      dialog.Part<headless::HeadlessTextBox>("txtName").TypeText("Mourning");
+      EXPECT_EQ(LabelOf(dialog, "lblMeaning"), "A new holiday point, on the days that are closed here.");
+      EXPECT_EQ(LabelOf(dialog, "lblSummary"), "2 days will be closed, and entered in no rule book.");
+      EXPECT_THAT(Days(dialog).RowKeys(), ElementsAre("978/126", "978/book", "840/126", "840/book"));
+      EXPECT_THAT(Days(dialog).Texts("840/126"),
+                  ElementsAre("USD 2028", "Friday 5 May 2028", "working day", "is closed"));
+      dialog.Part<headless::HeadlessButton>("cmdCloseDays").Click();
+    });
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-05-05 Mourning"));
+    EXPECT_THAT(PlannerWorld::DaysOf("USD", kDollar, 2028), Contains("2028-05-05 Mourning"));
+    EXPECT_EQ(world.Status(), "2 days are closed now");
+    EXPECT_EQ(world.View().TextOf({kEuroKey, 126}), "EUR, 2028-05-05, Mourning, closed");
+    EXPECT_THAT(world.told_changes, ElementsAre(IsEmpty())) << "rules are others, too";
+    EXPECT_THAT(world.Reports(), IsEmpty());
+  });
+}
+
+TEST(YearPlannerWindow, ClosesDaysAsAKnownHolidayAndLeavesOutWhatIsUnchecked) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open({kEuro, kDollar});
+    world.View().ClickDay({"joint", 126});
+    world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+      dialog.Part<headless::HeadlessDropDownList>("cmbKnown").ChooseByOperator("Fair");
+      EXPECT_EQ(dialog.Part<headless::HeadlessTextBox>("txtName").Text(), "Fair");
+      EXPECT_EQ(LabelOf(dialog, "lblMeaning"), "The holiday point Fair.");
+      Days(dialog).ClickBox("978/126");
+      EXPECT_THAT(Days(dialog).RowKeys(), ElementsAre("978/126", "840/126", "840/book"));
+      EXPECT_EQ(Days(dialog).Cell("978/126", "Becomes").text, "stays open");
+      Days(dialog).ClickBox("840/126");
+      EXPECT_FALSE(dialog.Part<headless::HeadlessButton>("cmdCloseDays").Enabled()) << "nothing is left";
+      Days(dialog).ClickBox("840/126");
+      dialog.Part<headless::HeadlessButton>("cmdCloseDays").Click();
+    });
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), Not(Contains("2028-05-05 Fair")));
+    EXPECT_THAT(PlannerWorld::DaysOf("USD", kDollar, 2028), Contains("2028-05-05 Fair"));
+  });
+}
+
+TEST(YearPlannerWindow, TellsThatAnnouncedHolidaysAreInTheRuleBooks) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    PlannerWorld::GiveBook(kEuro, "EUR", "");
+    PlannerWorld::GiveBook(kDollar, "USD", "");
+    world.Open({kEuro, kDollar});
+    world.View().ClickDay({"joint", 126});
+    world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+      dialog.Part<headless::HeadlessTextBox>("txtName").TypeText("Mourning");
+      EXPECT_EQ(LabelOf(dialog, "lblSummary"), "2 days will be closed and entered in 2 rule books.");
+      dialog.Part<headless::HeadlessButton>("cmdCloseDays").Click();
+    });
+    EXPECT_EQ(world.Status(), "2 days are closed now and entered in 2 rule books");
+  });
+}
+
+TEST(YearPlannerWindow, ClosesNothingWhenTheQuestionIsCancelled) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    world.View().ClickDay({kEuroKey, 126});
+    world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+      dialog.Part<headless::HeadlessTextBox>("txtName").TypeText("Mourning");
+      dialog.Part<headless::HeadlessButton>("cmdCancel").Click();
+    });
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), Not(Contains(HasSubstr("Mourning"))));
+    EXPECT_THAT(world.told_changes, IsEmpty());
+  });
+}
+
+TEST(YearPlannerWindow, OffersToCloseDaysOnlyWhereOneIsOpen) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    const auto is_offered = [&] { return world.Tools().ToolEnabled("ID_CloseDays"); };
+    world.View().ClickDay({kEuroKey, 105});
+    EXPECT_FALSE(is_offered()) << "it is closed";
+    world.View().ExtendToDay({kEuroKey, 104});
+    EXPECT_TRUE(is_offered());
+    world.Tools().ClickTool("ID_YearAfter");
+    EXPECT_FALSE(is_offered()) << "there is no such calendar";
+  });
+}
+
+TEST(YearPlannerWindow, ClosesNoDayOfACalendarThatSomebodyElseHasChanged) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open({kEuro, kDollar});
+    PlannerWorld::Except(kEuro, "2028-04-15", "another hand");
+    world.View().ClickDay({"joint", 126});
+    world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+      dialog.Part<headless::HeadlessTextBox>("txtName").TypeText("Mourning");
+      dialog.Part<headless::HeadlessButton>("cmdCloseDays").Click();
+    });
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), Not(Contains(HasSubstr("Mourning"))));
+    EXPECT_THAT(PlannerWorld::DaysOf("USD", kDollar, 2028), Contains("2028-05-05 Mourning"));
+    EXPECT_THAT(world.Reports(), Contains(HasSubstr("EUR 2028 was changed by somebody else")));
+    EXPECT_THAT(world.View().TextOf({kEuroKey, 106}), HasSubstr("another hand"));
+    EXPECT_EQ(world.Status(), "1 day is closed now");
   });
 }
 
@@ -287,13 +414,17 @@ TEST(YearPlannerWindow, KeepsItsPlaceAndIsGoneOnceClosed) {
 }
 
 /// Fails each call that `work` makes in turn. The window must stay usable and close.
-void FailEachCallOf(const std::function<void(PlannerWorld&)>& work, int least_calls) {
+void FailEachCallOf(
+    const std::function<void(PlannerWorld&)>& work, int least_calls,
+    const std::function<void(PlannerWorld&)>& arrange = [](PlannerWorld& world) {
+      world.View().ClickDay({"joint", 105});
+    }) {
   int call = 1;
   for (bool has_fired = true; has_fired; ++call) {
     RunInFreshThread([&] {
       PlannerWorld world;
       world.Open({kEuro, kDollar});
-      world.View().ClickDay({"joint", 105});
+      arrange(world);
       world.world.faults.FailAtCall(call);
       EXPECT_NO_THROW(work(world));
       has_fired = world.world.faults.HasFired();
@@ -317,6 +448,23 @@ TEST(YearPlannerFaults, AtAnyCallOfExceptingDaysLeaveTheWindowUsable) {
         world.Tools().ClickTool("ID_ExceptDays");
       },
       20);
+}
+
+TEST(YearPlannerFaults, AtAnyCallOfClosingDaysLeaveTheWindowUsable) {
+  FailEachCallOf(
+      [](PlannerWorld& world) {
+        world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+          dialog.Part<headless::HeadlessTextBox>("txtName").ReplaceText("Mourning");
+          auto& close_days = dialog.Part<headless::HeadlessButton>("cmdCloseDays");
+          if (!close_days.Enabled()) return dialog.Part<headless::HeadlessButton>("cmdCancel").Click();
+          close_days.Click();
+        });
+      },
+      40,
+      [](PlannerWorld& world) {
+        PlannerWorld::GiveBook(kEuro, "EUR", "");
+        world.View().ClickDay({kEuroKey, 126});
+      });
 }
 
 TEST(YearPlannerFaults, AtAnyCallOfShowingAnotherYearLeaveTheWindowUsable) {
