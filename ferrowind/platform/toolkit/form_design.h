@@ -31,6 +31,9 @@ struct ControlDesign {
   std::string name;
   /// The caption or first text; "" for none.
   std::string text = {};
+  /// The button that Enter presses while the focused control does not take the key. In a dialog without one
+  /// it is the first button; in a sizable window without one, Enter presses the button that has the focus
+  /// alone.
   bool is_default_button = false;
   bool is_cancel_button = false;
   /// For a text box, one of a form at most: it takes what the operator types while the focus is on a control

@@ -103,6 +103,13 @@ TEST_F(TextBoxContract, TellsOfEnterInPlaceOfTheDefaultButton) {
   EXPECT_THAT(notes, ElementsAre("ok", "enter abc"));
 }
 
+TEST_F(TextBoxContract, LeavesEnterAloneInAWindowWithoutADefaultButton) {
+  const Subscription pressed = The<platform::Button>("cmdPush").OnClick(Note("push"));
+  box.SetFocus();
+  under_test->PressEnter(*form);
+  EXPECT_THAT(notes, IsEmpty());
+}
+
 TEST_F(TextBoxContract, CallsNoHandlerWhoseSubscriptionWasDropped) {
   Subscription changed = box.OnChange(Note("change"));
   Subscription lost = box.OnLostFocus(Note("lost"));

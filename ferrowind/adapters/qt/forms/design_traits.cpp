@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSet>
+#include <algorithm>
 
 #include "ferrowind/adapters/qt/controls/captioned.h"
 #include "ferrowind/adapters/qt/controls/select_on_focus.h"
@@ -31,10 +32,18 @@ void ApplyText(const FormWindow& window, const std::string& text, platform::Cont
   if (auto* frame = qobject_cast<QGroupBox*>(WidgetOf(window, control))) frame->setTitle(ToQt(text));
 }
 
-void ApplyButtonRole(const FormWindow& window, const platform::ControlDesign& design) {
+/// Qt makes the first button of a window the default one where none is. That suits a question, but not a
+/// window that is worked in: Enter in one of its fields would press whatever button happens to be the first.
+bool HasDefaultButton(const platform::FormDesign& design) {
+  return design.border != platform::FormBorder::kSizable ||
+         std::any_of(design.controls.begin(), design.controls.end(),
+                     [](const platform::ControlDesign& control) { return control.is_default_button; });
+}
+
+void ApplyButtonRole(const FormWindow& window, const platform::ControlDesign& design, bool can_be_default) {
   auto* button = window.findChild<QPushButton*>(ToQt(design.name));
   if (button == nullptr) return;
-  button->setAutoDefault(true);
+  button->setAutoDefault(can_be_default);
   button->setDefault(design.is_default_button);
   if (design.is_cancel_button) SetCancelButton(*button);
 }
@@ -74,9 +83,10 @@ void ApplyTabOrder(const FormWindow& window, const FormControls& controls) {
 }  // namespace
 
 void ApplyDesign(FormWindow& window, const platform::FormDesign& design, const FormControls& controls) {
+  const bool has_default = HasDefaultButton(design);
   for (std::size_t i = 0; i < controls.size(); ++i) {
     ApplyText(window, design.controls[i].text, *controls[i]);
-    ApplyButtonRole(window, design.controls[i]);
+    ApplyButtonRole(window, design.controls[i], has_default);
     ApplyTyping(window, design.controls[i]);
     if (auto* grid = dynamic_cast<QtGrid*>(controls[i].get()))
       grid->SetMarksRowRanges(design.controls[i].marks_row_ranges);

@@ -14,8 +14,9 @@ QPushButton* CancelButton(const QDialog& dialog) {
   return nullptr;
 }
 
-/// Qt makes the focused button the default one while it has the focus.
+/// Qt makes the focused button the default one while it has the focus, where the window has a default one.
 QPushButton* EnterButton(const QDialog& dialog) {
+  if (auto* const focused = qobject_cast<QPushButton*>(dialog.focusWidget())) return focused;
   for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
     if (button->isDefault() && button->isVisibleTo(&dialog)) return button;
   }
