@@ -99,6 +99,14 @@ TEST_F(TextBoxTest, TakesTextWithoutALimit) {
   EXPECT_EQ(box_.Text(), long_text);
 }
 
+TEST_F(TextBoxTest, TakesNoLetterThatIsTypedWithAlt) {
+  QTest::keyClick(&line_, Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(box_.Text(), "");
+  QTest::keyClick(&line_, Qt::Key_S);
+  QTest::keyClick(&line_, Qt::Key_At, Qt::AltModifier | Qt::GroupSwitchModifier);
+  EXPECT_EQ(box_.Text(), "s@");
+}
+
 TEST_F(TextBoxTest, RefusesANegativeLimit) { EXPECT_THROW(box_.SetMaxLength(-1), platform::Failure); }
 
 class UpDownTest : public ::testing::Test {

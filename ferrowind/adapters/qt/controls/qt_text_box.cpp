@@ -16,6 +16,20 @@ bool IsEnter(const QKeyEvent& event) {
          (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
+/// Alt and a letter press the button that underlines it. While that button cannot be pressed, the letter is
+/// no text either. (Where the system types other characters with this key, it does not underline any.)
+bool IsOfAButton(const QKeyEvent& event) {
+#ifdef Q_OS_MACOS
+  (void)event;
+  return false;
+#else
+  constexpr auto kOther = Qt::ControlModifier | Qt::GroupSwitchModifier;
+  const QString text = event.text();
+  return event.modifiers().testFlag(Qt::AltModifier) && (event.modifiers() & kOther) == Qt::NoModifier &&
+         !text.isEmpty() && text[0].isPrint();
+#endif
+}
+
 }  // namespace
 
 class QtTextBox::LineWatch : public QObject {
@@ -30,6 +44,10 @@ class QtTextBox::LineWatch : public QObject {
     }
     if (event->type() == QEvent::KeyPress && box_.takes_enter_ && IsEnter(*static_cast<QKeyEvent*>(event))) {
       box_.Raise(box_.entered_);
+      return true;
+    }
+    if (event->type() == QEvent::KeyPress && IsOfAButton(*static_cast<QKeyEvent*>(event))) {
+      event->ignore();
       return true;
     }
     return QObject::eventFilter(watched, event);
