@@ -46,6 +46,18 @@ TEST_F(TableComfortTest, GoesToTheRowWhoseTextIsTypedBlanksIncluded) {
   EXPECT_EQ(table_->CurrentRow(), "2");
 }
 
+TEST_F(TableComfortTest, FindsARowOfCellsByItsFirstOneAndStaysInItsColumn) {
+  Design({.selects_cells = true});
+  table_->SetRows({Row("aud", "Prepared"), Row("eur", "Prepared"), Row("usd", "Prepared")});
+  Press(Qt::Key_Right);
+  for (const char key : std::string("day usd")) QTest::keyClick(view_.get(), key);
+  EXPECT_EQ(table_->CurrentRow(), "usd");
+  EXPECT_EQ(table_->CurrentColumn(), "name");
+  QTest::keyClick(view_.get(), 'x');
+  EXPECT_EQ(table_->CurrentRow(), "usd");
+  EXPECT_EQ(table_->CurrentColumn(), "name");
+}
+
 TEST_F(TableComfortTest, LeavesTabToTheWindow) {
   table_->SetRows({Row("1", "a"), Row("2", "b")});
   Press(Qt::Key_Tab);

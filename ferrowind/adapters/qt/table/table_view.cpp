@@ -260,7 +260,14 @@ bool TableView::IsTyping() const {
 
 void TableView::keyboardSearch(const QString& text) {
   since_typed_.restart();
+  const QModelIndex current = currentIndex();
+  if (!selects_cells_ || !current.isValid() || current.column() == 0)
+    return UniformTableView::keyboardSearch(text);
+  // A row of cells is known by its first one, and the column that the operator has chosen stays.
+  const Work work(*this);
+  setCurrentIndex(current.siblingAtColumn(0));
   UniformTableView::keyboardSearch(text);
+  setCurrentIndex(currentIndex().siblingAtColumn(current.column()));
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
