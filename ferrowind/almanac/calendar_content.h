@@ -23,7 +23,7 @@ struct MarkedDay {
   /// The number of the rule.
   std::int32_t rule = 0;
   /// The day's own text; empty without one.
-  std::string comment;
+  std::string comment = {};
 
   [[nodiscard]] bool IsClosed() const { return kind != RuleKind::kWorkingDay; }
   friend bool operator==(const MarkedDay&, const MarkedDay&) = default;
