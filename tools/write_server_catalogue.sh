@@ -1,24 +1,31 @@
 #!/usr/bin/env bash
-# Writes database/postgres/check/catalogue.tsv, which the check of a database compares with, anew: after a change of the
-# schema, the rights or the form of a routine. What has changed in it is to be read before it is committed.
-# usage: tools/with_postgres.sh tools/write_server_catalogue.sh FERROWINDCTL
+# Writes database/postgres/check/catalogue.tsv anew, with which the check of a database compares: after a change of the schema,
+# the rights or the form of a routine. What has changed in it is to be read before it is committed.
+# usage: tools/write_server_catalogue.sh
 set -euo pipefail
 
-if [ $# -ne 1 ] || [ -z "${FERROWIND_POSTGRES:-}" ]; then
-  printf 'usage: tools/with_postgres.sh %s FERROWINDCTL\n' "${BASH_SOURCE[0]}" >&2
+root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+if [ $# -gt 0 ]; then
+  printf 'usage: tools/write_server_catalogue.sh\n' >&2
   exit 2
 fi
-folder=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../database/postgres/check" && pwd)
+
+# On the first way without a server, which then runs this again.
+if [ -z "${FERROWIND_POSTGRES:-}" ]; then
+  "$root/tools/install_packages.sh" build test
+  "$root/tools/build.sh" release ferrowindctl -DBUILD_TESTING=OFF -DFERROWIND_BENCHMARKS=OFF
+  exec "$root/tools/with_postgres.sh" "${BASH_SOURCE[0]}"
+fi
+
+folder=$root/database/postgres/check
 database=${FERROWIND_POSTGRES%postgres}catalogue
 psql=(psql -X -q -A -t -v ON_ERROR_STOP=1)
-
 "${psql[@]}" "$FERROWIND_POSTGRES" -c 'CREATE DATABASE catalogue'
-"$1" init "$database" --empty >&2
-# The texts of routines, which have lines, are those of the scripts.
+"$root/build/release/bin/ferrowindctl" init "$database" --empty >&2
+# The texts of routines, which have lines, are those of the scripts. Nothing is quoted.
 "${psql[@]}" "$database" -c 'SET search_path = pg_catalog, pg_temp' -c "COPY (
   SELECT object || E'\t' || property || E'\t' || value
   FROM ($(cat -- "$folder/objects.sql")) AS fact (object, property, value)
   WHERE property <> 'text'
 ) TO STDOUT (FORMAT csv, QUOTE E'\x01', DELIMITER E'\x02')" >"$folder/catalogue.tsv.new"
 mv -- "$folder/catalogue.tsv.new" "$folder/catalogue.tsv"
-"${psql[@]}" "$FERROWIND_POSTGRES" -c 'DROP DATABASE catalogue'

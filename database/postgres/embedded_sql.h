@@ -42,11 +42,12 @@ extern const std::string_view kPostgresRights;
 extern const std::string_view kPostgresUpgradeToHistory;
 extern const std::string_view kPostgresUpgradeToPlans;
 extern const std::string_view kPostgresUpgradeToFirstYears;
-/// A question for all that the schema consists of, and its answer in a new database: a line for each row, with tabs between the
-/// columns, without the texts of routines, which are those of the scripts.
+/// A question for all that the schema consists of, and its answer in a new database: a line for each row,
+/// with tabs between the columns, without the texts of routines, which are those of the scripts.
 extern const std::string_view kPostgresObjects;
 extern const std::string_view kPostgresCatalogue;
-/// Questions whose every row is a fault, told in its only text: of the roles, and of what reaches into the schema from outside.
+/// Questions whose every row is a fault, told in its only text: of the roles, and of what reaches into the
+/// schema from outside.
 extern const std::string_view kPostgresRoleFaults;
 extern const std::string_view kPostgresSurroundingFaults;
 

@@ -12,17 +12,40 @@ COMPLETE = ("ferrowind/adapters/content/content_copy.cpp", "ferrowind/adapters/c
             "ferrowind/adapters/postgres/connection_uri.cpp", "ferrowind/adapters/postgres/postgres_failure.cpp",
             "ferrowind/adapters/sqlite/sqlite_failure.cpp", "ferrowind/data/error_table.cpp",
             "host/admin/history_arguments.cpp", "host/admin/interruption.cpp")
+# Questions to a database whose answers are told to people, and the beginnings of those answers, each of which is in the guide.
+QUESTIONS = "database/postgres/check"
 FOREIGN = "| in the bracket |"  # The header of the table of texts that come from a library.
 _LITERAL = re.compile(r'"(?:[^"\\\n]|\\.)*"')
 _JOINED = re.compile(r'"\s*\n\s*"')
 _NO_TEXT = re.compile(r"^\s*(//|#include).*$", re.MULTILINE)
 _SHORTEST_PART = 6
+_SQL_COMMENT = re.compile(r"--.*$", re.MULTILINE)
+_SQL_LITERAL = re.compile(r"'((?:[^']|'')*)'")
+_SQL_ANSWER = re.compile(r"\bformat\('((?:[^']|'')*)'")
+_PLACE = re.compile(r"%(?:\d\$)?[sI]")
+_FRAGMENT_WORDS = 3
 
 
 def literals(source):
     """The texts of a C++ source, those that stand behind each other as one."""
     joined = _JOINED.sub("", _NO_TEXT.sub("", source))
     return [re.sub(r"\\(.)", r"\1", text[1:-1]) for text in _LITERAL.findall(joined)]
+
+
+def sql_literals(question):
+    """The texts of an SQL source."""
+    return [text.replace("''", "'") for text in _SQL_LITERAL.findall(_SQL_COMMENT.sub("", question))]
+
+
+def missing_answers(guide, question):
+    """Answers of an SQL source of which the guide has no line with all their words up to the first that varies or a colon."""
+    missing = []
+    plain = guide.replace("`", "")
+    for answer in _SQL_ANSWER.findall(_SQL_COMMENT.sub("", question)):
+        fragments = [part.strip() for part in _PLACE.split(re.split("[;:]", answer.replace("''", "'"))[0])]
+        telling = [part for part in fragments if len(part.split()) >= _FRAGMENT_WORDS]
+        missing += [part for part in telling[:1] if part not in plain]
+    return missing
 
 
 def listed(guide):
@@ -67,10 +90,15 @@ def main(root):
     guide = (root / "docs/admin/failures.md").read_text(encoding="utf-8")
     sources = {path.relative_to(root).as_posix(): path.read_text(encoding="utf-8")
                for folder in FOLDERS for path in sorted((root / folder).rglob("*.[ch]*")) if path.suffix in (".cpp", ".h")}
-    corpus = "\n".join(text for source in sources.values() for text in literals(source))
+    questions = {path.relative_to(root).as_posix(): path.read_text(encoding="utf-8")
+                 for path in sorted((root / QUESTIONS).glob("*.sql"))}
+    corpus = "\n".join([text for source in sources.values() for text in literals(source)]
+                       + [_PLACE.sub("…", text) for question in questions.values() for text in sql_literals(question)])
     problems = [f"docs/admin/failures.md: no program says \"{text}\"" for text in unknown_texts(guide, corpus)]
     for name in COMPLETE:
         problems += [f"{name}: \"{text}\" is not in docs/admin/failures.md" for text in missing_texts(guide, sources[name])]
+    for name, question in questions.items():
+        problems += [f"{name}: \"{text}\" is not in docs/admin/failures.md" for text in missing_answers(guide, question)]
     for problem in problems:
         print(problem)
     if len(listed(guide)) < 50:

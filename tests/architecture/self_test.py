@@ -301,6 +301,19 @@ class FailureTexts(unittest.TestCase):
     def test_refuses_a_text_that_is_not_listed(self):
         self.assertEqual(failure_texts.missing_texts("| `The file …` | | |\n", self.SOURCE), [' is gone: "why"'])
 
+    QUESTION = """-- Whose 'names' are none.
+SELECT format('The role %s may do ''everything'' here; take it: DROP %1$I', name) FROM roles WHERE name <> 'a b c d'"""
+
+    def test_reads_texts_out_of_a_question_to_a_database(self):
+        self.assertEqual(failure_texts.sql_literals(self.QUESTION),
+                         ["The role %s may do 'everything' here; take it: DROP %1$I", "a b c d"])
+
+    def test_refuses_an_answer_of_a_database_that_is_not_listed(self):
+        row = "| `The role … may do 'everything' here` | | |\n"
+        self.assertEqual(failure_texts.missing_answers(row, self.QUESTION), [])
+        self.assertEqual(failure_texts.missing_answers(row.replace("every", "no"), self.QUESTION),
+                         ["may do 'everything' here"])
+
     def test_knows_texts_that_come_from_a_library(self):
         table = "| in the bracket | cause |\n|---|---|\n| `no such user` | |\n\n" + self.ROW
         self.assertEqual(failure_texts.listed(table), ['The file … is gone: "why" …'])

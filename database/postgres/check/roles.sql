@@ -5,8 +5,13 @@
 WITH delivered AS (
   SELECT r.* FROM pg_roles r WHERE r.rolname IN ('ferrowind_owner', 'ferrowind_operator', 'ferrowind_reader')
 ), administrator AS (
-  SELECT r.oid FROM pg_roles r JOIN pg_database d ON d.datname = current_database()
-  WHERE r.rolsuper OR r.oid = d.datdba OR pg_has_role(r.oid, d.datdba, 'MEMBER')
+  -- What other databases hold is not to be seen from here, but a calendar database gives rights to the roles.
+  SELECT r.oid FROM pg_roles r
+  WHERE r.rolsuper OR EXISTS (
+    SELECT FROM pg_database d
+    WHERE (d.datname = current_database()
+           OR EXISTS (SELECT FROM aclexplode(d.datacl) AS g JOIN delivered o ON o.oid = g.grantee))
+      AND pg_has_role(r.oid, d.datdba, 'MEMBER'))
 ), login AS (
   -- Whoever has an operator's or a reader's rights by membership, at whatever distance.
   SELECT DISTINCT r.* FROM pg_roles r JOIN delivered d ON d.rolname <> 'ferrowind_owner' AND r.oid <> d.oid
@@ -43,10 +48,9 @@ UNION ALL
 SELECT format('The role %s has the rights of %s; take them: REVOKE %2$I FROM %1$s', d.rolname, g.rolname)
 FROM delivered d JOIN pg_auth_members m ON m.member = d.oid JOIN pg_roles g ON g.oid = m.roleid
 UNION ALL
-SELECT format('%I is a member of ferrowind_owner and so may change everything, but does not administer the database: its owner is'
-              ' %I; take it: REVOKE ferrowind_owner FROM %1$I', r.rolname, pg_get_userbyid(b.datdba))
+SELECT format('%I is a member of ferrowind_owner and so may change everything, but administers no calendar database;'
+              ' take it: REVOKE ferrowind_owner FROM %1$I', r.rolname)
 FROM delivered d JOIN pg_auth_members m ON m.roleid = d.oid JOIN pg_roles r ON r.oid = m.member
-  JOIN pg_database b ON b.datname = current_database()
 WHERE d.rolname = 'ferrowind_owner' AND r.oid NOT IN (SELECT oid FROM administrator)
 UNION ALL
 SELECT format('%I may make others members of %s; take it: REVOKE ADMIN OPTION FOR %2$s FROM %1$I', r.rolname, d.rolname)

@@ -25,9 +25,6 @@ WITH ours AS (
   UNION ALL
   SELECT 'pg_opclass'::regclass, oid FROM pg_opclass WHERE oid >= 16384 AND opcnamespace IN (SELECT oid FROM system_schema)
   UNION ALL
-  SELECT 'pg_collation'::regclass, oid FROM pg_collation WHERE oid >= 16384 AND collnamespace IN (SELECT oid FROM system_schema)
-    AND NOT EXISTS (SELECT FROM pg_namespace n WHERE n.oid = collnamespace AND n.nspname = 'pg_catalog')
-  UNION ALL
   SELECT 'pg_conversion'::regclass, oid FROM pg_conversion WHERE oid >= 16384
   UNION ALL
   SELECT 'pg_language'::regclass, oid FROM pg_language WHERE oid >= 16384
@@ -47,17 +44,21 @@ WITH ours AS (
       WHEN 'pg_proc'::regclass THEN (SELECT pronamespace FROM pg_proc WHERE oid = d.objid)
       WHEN 'pg_type'::regclass THEN (SELECT typnamespace FROM pg_type WHERE oid = d.objid)
       WHEN 'pg_constraint'::regclass THEN (SELECT connamespace FROM pg_constraint WHERE oid = d.objid)
-      WHEN 'pg_attrdef'::regclass THEN (SELECT c.relnamespace FROM pg_attrdef a JOIN pg_class c ON c.oid = a.adrelid WHERE a.oid = d.objid)
-      WHEN 'pg_trigger'::regclass THEN (SELECT c.relnamespace FROM pg_trigger t JOIN pg_class c ON c.oid = t.tgrelid WHERE t.oid = d.objid)
-      WHEN 'pg_rewrite'::regclass THEN (SELECT c.relnamespace FROM pg_rewrite w JOIN pg_class c ON c.oid = w.ev_class WHERE w.oid = d.objid)
-      WHEN 'pg_policy'::regclass THEN (SELECT c.relnamespace FROM pg_policy p JOIN pg_class c ON c.oid = p.polrelid WHERE p.oid = d.objid)
+      WHEN 'pg_attrdef'::regclass THEN
+        (SELECT c.relnamespace FROM pg_attrdef a JOIN pg_class c ON c.oid = a.adrelid WHERE a.oid = d.objid)
+      WHEN 'pg_trigger'::regclass THEN
+        (SELECT c.relnamespace FROM pg_trigger t JOIN pg_class c ON c.oid = t.tgrelid WHERE t.oid = d.objid)
+      WHEN 'pg_rewrite'::regclass THEN
+        (SELECT c.relnamespace FROM pg_rewrite w JOIN pg_class c ON c.oid = w.ev_class WHERE w.oid = d.objid)
+      WHEN 'pg_policy'::regclass THEN
+        (SELECT c.relnamespace FROM pg_policy p JOIN pg_class c ON c.oid = p.polrelid WHERE p.oid = d.objid)
       WHEN 'pg_operator'::regclass THEN (SELECT oprnamespace FROM pg_operator WHERE oid = d.objid)
       WHEN 'pg_opclass'::regclass THEN (SELECT opcnamespace FROM pg_opclass WHERE oid = d.objid)
       WHEN 'pg_opfamily'::regclass THEN (SELECT opfnamespace FROM pg_opfamily WHERE oid = d.objid)
       WHEN 'pg_statistic_ext'::regclass THEN (SELECT stxnamespace FROM pg_statistic_ext WHERE oid = d.objid) END)
     -- What keeps long values of the tables.
-    AND NOT (d.classid = 'pg_class'::regclass
-             AND (SELECT n.nspname FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace WHERE c.oid = d.objid) LIKE 'pg\_toast%')
+    AND NOT (d.classid = 'pg_class'::regclass AND EXISTS (
+      SELECT FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace WHERE c.oid = d.objid AND n.nspname LIKE 'pg\_toast%'))
     -- The parts of an operator class are told by the class.
     AND d.classid NOT IN ('pg_amop'::regclass, 'pg_amproc'::regclass)
     -- Triggers that the server makes for a constraint are told by the constraint.

@@ -351,7 +351,7 @@ TEST_F(PostgresCheckOfChanges, OfRolesAreNamed) {
       {"ALTER ROLE ferrowind_operator NOINHERIT", "ALTER ROLE ferrowind_operator INHERIT",
        "The role ferrowind_operator does not use the rights"},
       {"GRANT ferrowind_owner TO stranger", "REVOKE ferrowind_owner FROM stranger",
-       "stranger is a member of ferrowind_owner and so may change everything"},
+       "stranger is a member of ferrowind_owner and so may change everything, but administers no"},
       {"GRANT ferrowind_owner TO operator_login", "REVOKE ferrowind_owner FROM operator_login",
        "operator_login is a member of ferrowind_owner"},
       {"GRANT ferrowind_owner TO ferrowind_operator", "REVOKE ferrowind_owner FROM ferrowind_operator",
@@ -393,6 +393,9 @@ TEST_F(PostgresCheckOfChanges, ThatAdministratorsMayMakeAreNoFaults) {
       "CREATE VIEW office.days AS SELECT d.*, n.a FROM ferrowind.CalendarDay d, office.note n");
   EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
   EXPECT_THAT(postgres::CheckDatabase(postgres_server::Uri("otto", "own", name)), IsEmpty());
+  // He administers every calendar database of the server.
+  const PostgresDatabase of_another;
+  EXPECT_THAT(postgres::CheckDatabase(postgres_server::SuperuserUri(of_another.Name())), IsEmpty());
   // As it is with several administrators.
   postgres_server::Execute("postgres",
                            "ALTER DATABASE administered OWNER TO team; REVOKE ferrowind_owner FROM otto;"

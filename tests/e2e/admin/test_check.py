@@ -69,6 +69,13 @@ class Check(ferrowindctl.WithADeliveredDatabase):
             "DELETE FROM ProcedureParameter WHERE ProcedureName = 'CldIUMain' AND Name = '@ODate'")
         self.assertIn("CldIUMain", faults)
 
+    def test_lists_a_trigger_of_a_name_that_only_sqlite_gives(self):
+        faults = self.faults_after(
+            "PRAGMA writable_schema = ON",
+            "INSERT INTO sqlite_schema VALUES ('trigger', 'sqlite_stat_x', 'CldHistory', 0,"
+            " 'CREATE TRIGGER sqlite_stat_x AFTER INSERT ON CldHistory BEGIN SELECT 1; END')")
+        self.assertEqual(faults, "The trigger sqlite_stat_x does not belong to the schema\n")
+
     def test_lists_every_fault(self):
         faults = self.faults_after(
             "DELETE FROM CldDay WHERE ID1 = 978 AND Year1 = 2026 AND Day1 = 100",

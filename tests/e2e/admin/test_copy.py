@@ -83,6 +83,8 @@ class Copy(ferrowindctl.WithADeliveredDatabase):
         for owned in (database, other):
             server.ask("postgres", f"ALTER DATABASE {owned.name} OWNER TO e2e_administrator")
             self.addCleanup(lambda name=owned.name: server.ask("postgres", f"ALTER DATABASE {name} OWNER TO postgres"))
+            # Only a superuser can.
+            owned.ask("REVOKE EXECUTE ON FUNCTION lo_creat(integer), lo_create(oid), lo_from_bytea(oid, bytea) FROM PUBLIC")
             urls.append("postgresql://e2e_administrator:sesame@" + owned.uri.split("@")[1])
         self.assert_run(DONE, "copy", self.url(), urls[0])
         self.assert_run(DONE, "init", urls[1], "--empty")

@@ -103,7 +103,22 @@ class Check(ferrowindctl.InAFolder):
 
     def test_lists_a_right_too_many(self):
         faults = self.faults_after("GRANT SELECT ON CldDay TO ferrowind_operator")
-        self.assertTrue(any("cldday" in fault.lower() for fault in faults), faults)
+        self.assertEqual(faults, ["The table cldday is not this program's: right of ferrowind_operator is SELECT instead of none"])
+
+    def test_lists_what_reaches_into_the_schema_from_outside_and_how_to_undo_it(self):
+        faults = self.faults_after("CREATE RULE swallow AS ON INSERT TO CldHistory DO INSTEAD NOTHING",
+                                   f"GRANT TEMPORARY ON DATABASE {self.database.name} TO PUBLIC")
+        self.assertEqual(faults, [
+            "The rule cldhistory.swallow does not belong to the schema",
+            "PUBLIC has the right TEMPORARY on the database; take it:"
+            f" REVOKE TEMPORARY ON DATABASE {self.database.name} FROM PUBLIC"])
+        self.database.ask(faults[1].split(": ")[1] + "; DROP RULE swallow ON ferrowind.CldHistory")
+        self.assert_run(DONE, "check", self.database.uri)
+
+    def test_tells_an_operator_who_may_check(self):
+        operator = self.database.login(self, "anna", "sesame", role="ferrowind_operator")
+        _, errors = self.assert_run(NOT_DONE, "check", operator)
+        self.assertIn("is checked by members of ferrowind_owner, and anna is none", errors)
 
     def test_refuses_another_version_of_the_schema(self):
         self.database.ask("UPDATE ferrowind.SchemaVersion SET Version = Version + 1")
