@@ -7,7 +7,6 @@
 #include "ferrowind/adapters/qt/look/program_icon.h"
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
-#include "ferrowind/adapters/services/password_free.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/delivery/database_version.h"
@@ -21,6 +20,7 @@
 #include "host/desktop/user_database.h"
 #include "host/desktop/wait_cursor.h"
 #include "host/session/private_arguments.h"
+#include "host/session/shown_connection.h"
 
 namespace {
 
@@ -80,7 +80,7 @@ int main(int argc, char** argv) {
   surroundings.UseDatabase(database);
 
   BackOfficeWindow window(surroundings.Get(), DatabaseNameText(options),
-                          QString::fromStdString(ferrowind::PasswordFree(database)));
+                          QString::fromStdString(ferrowind::host::ShownConnection(database)));
   const ferrowind::host::NewsWindows news_windows(news, window);
   const ferrowind::host::StartPage start_page(surroundings, news, window);
   window.show();

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "ferrowind/adapters/services/password_free.h"
+#include "host/session/shown_connection.h"
 
 namespace ferrowind::host {
 namespace {
@@ -35,7 +35,7 @@ PrivateArguments::PrivateArguments(int argc, char** argv) : texts_(argv, argv + 
   for (std::string& text : texts_) pointers_.push_back(text.data());
   pointers_.push_back(nullptr);
   for (std::size_t i = 0; i < texts_.size(); ++i) {
-    const std::string free = PasswordFree(texts_[i]);
+    const std::string free = ShownConnection(texts_[i]);
     if (free != texts_[i]) Overwrite(argv[i], free);
   }
   HidePasswordVariable();

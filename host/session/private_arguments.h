@@ -9,9 +9,9 @@ namespace ferrowind::host {
 /// each one's command line, and in it the password of a database's URL.
 ///
 /// Made first thing in `main`. Takes the arguments over, and then hides every password (in the sense of
-/// `PasswordFree`) where the system shows it: in `argv`, and the value of PGPASSWORD in the environment that
-/// the program was started with, which `getenv` and child processes keep. What was seen before the program
-/// came so far is not undone: a password file has no such moment.
+/// `ShownConnection`) where the system shows it: in `argv`, and the value of PGPASSWORD in the environment
+/// that the program was started with, which `getenv` and child processes keep. What was seen before the
+/// program came so far is not undone: a password file has no such moment.
 class PrivateArguments {
  public:
   /// `argv` has `argc` arguments, the first of which is the program's name.

@@ -44,9 +44,16 @@ struct OptionsFree {
   void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
 };
 
+/// libpq marks what a form would not show while it is typed; others it may come to know tell by their names.
+bool IsSecret(const PQconninfoOption& option) {
+  const std::string_view keyword = option.keyword;
+  return std::string_view(option.dispchar) == "*" || keyword.find("password") != std::string_view::npos ||
+         keyword.find("secret") != std::string_view::npos;
+}
+
 }  // namespace
 
-ConnectionUri::ConnectionUri(const std::string& text) {
+std::vector<UriSetting> SettingsIn(const std::string& text) {
   RefuseMisplacedSigns(BehindScheme(text));
   if (text.find('\0') != std::string::npos) throw NotUnderstood("holds the character NUL");
   char* error = nullptr;
@@ -54,11 +61,17 @@ ConnectionUri::ConnectionUri(const std::string& text) {
   // Its text may quote the whole string.
   PQfreemem(error);
   if (!options) throw NotUnderstood("is not a URI that the PostgreSQL library understands");
+  std::vector<UriSetting> settings;
   for (const PQconninfoOption* option = options.get(); option->keyword != nullptr; ++option) {
     if (option->val == nullptr) continue;
     if (std::string_view(option->keyword) == "port") RefuseWrongPort(option->val);
-    Set(option->keyword, option->val);
+    settings.push_back({option->keyword, option->val, IsSecret(*option)});
   }
+  return settings;
+}
+
+ConnectionUri::ConnectionUri(const std::string& text) {
+  for (const UriSetting& setting : SettingsIn(text)) Set(setting.keyword.c_str(), setting.value.c_str());
   Set("client_encoding", "UTF8");
   SetDefault("fallback_application_name", "Ferrowind");
   // In seconds; the last one, which is for data that the server does not acknowledge, in milliseconds.

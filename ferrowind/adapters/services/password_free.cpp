@@ -10,27 +10,16 @@ namespace {
 constexpr std::string_view kHidden = "***";
 constexpr std::string_view kBlanks = " \t\r\n";
 
-/// The user part of a URI ends at the last "@" before its path, for a password may hold one itself.
-std::string WithoutUriPasswords(const std::string& text) {
-  std::string free;
-  std::size_t done = 0;
-  for (std::size_t at = text.find("://"); at != std::string::npos; at = text.find("://", done)) {
-    const std::size_t authority = at + 3;
-    const std::size_t blank = std::min(text.find_first_of(" \t\r\n\"'", authority), text.size());
-    const std::size_t path = std::min(text.find_first_of("/?#", authority), blank);
-    const std::size_t host_by_path = text.rfind('@', path);
-    // A password may also hold a slash that somebody forgot to encode.
-    const bool is_in_authority =
-        host_by_path != std::string::npos && host_by_path >= authority && host_by_path < path;
-    const std::size_t host = is_in_authority ? host_by_path : text.rfind('@', blank);
-    const std::size_t colon = text.find(':', authority);
-    free.append(text, done, authority - done);
-    done = authority;
-    if (host == std::string::npos || host < authority || host >= blank || colon >= host) continue;
-    free.append(text, authority, colon + 1 - authority).append(kHidden);
-    done = host;
-  }
-  return free.append(text, done);
+/// Each of these gives the place where something secret may begin, or npos.
+std::size_t SecretOfUri(const std::string& text) {
+  const std::size_t scheme = text.find("://");
+  if (scheme == std::string::npos) return std::string::npos;
+  const std::size_t authority = scheme + 3;
+  const std::size_t encoded = text.find('%', authority);
+  const std::size_t host = text.rfind('@');
+  const std::size_t colon = text.find(':', authority);
+  const bool has_password = host != std::string::npos && colon < host;
+  return std::min(encoded, has_password ? colon + 1 : std::string::npos);
 }
 
 bool EndsInKeyword(const std::string& folded, std::size_t end) {
@@ -40,42 +29,24 @@ bool EndsInKeyword(const std::string& folded, std::size_t end) {
   });
 }
 
-std::size_t EndOfValue(const std::string& text, std::size_t begin) {
-  if (begin < text.size() && (text[begin] == '\'' || text[begin] == '"')) {
-    const char quote = text[begin];
-    for (std::size_t at = begin + 1; at < text.size(); ++at) {
-      if (text[at] == '\\') {
-        ++at;
-      } else if (text[at] == quote) {
-        return at + 1;
-      }
-    }
-    return text.size();
-  }
-  return std::min(text.find_first_of(" \t\r\n&;", begin), text.size());
-}
-
-std::string WithoutKeywordPasswords(const std::string& text) {
+std::size_t SecretOfKeyword(const std::string& text) {
   std::string folded = text;
   std::transform(folded.begin(), folded.end(), folded.begin(),
                  [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  std::string free;
-  std::size_t done = 0;
-  for (std::size_t at = text.find('='); at != std::string::npos;
-       at = text.find('=', std::max(at + 1, done))) {
+  for (std::size_t at = text.find('='); at != std::string::npos; at = text.find('=', at + 1)) {
     const std::size_t last = at == 0 ? std::string::npos : text.find_last_not_of(kBlanks, at - 1);
-    if (last == std::string::npos || !EndsInKeyword(folded, last + 1)) continue;
-    const std::size_t value = std::min(text.find_first_not_of(kBlanks, at + 1), text.size());
-    free.append(text, done, value - done).append(value < text.size() ? kHidden : "");
-    done = EndOfValue(text, value);
+    if (last != std::string::npos && EndsInKeyword(folded, last + 1)) {
+      return text.find_first_not_of(kBlanks, at + 1);
+    }
   }
-  return free.append(text, done);
+  return std::string::npos;
 }
 
 }  // namespace
 
 std::string PasswordFree(const std::string& text) {
-  return WithoutKeywordPasswords(WithoutUriPasswords(text));
+  const std::size_t secret = std::min(SecretOfUri(text), SecretOfKeyword(text));
+  return secret < text.size() ? text.substr(0, secret) + std::string(kHidden) : text;
 }
 
 }  // namespace ferrowind

@@ -130,8 +130,9 @@ TEST_F(ActionWordsTest, AValueOfANewCalendarThatIsOutOfRangeIsItsYear) {
 }
 
 TEST_F(ActionWordsTest, AReasonIsOneLineWithoutAPassword) {
-  EXPECT_EQ(ActionWords::Reason(ActionKind::kRefresh, Failed("postgresql://anna:secret@h/x\n\t is  down\n")),
-            "postgresql://anna:***@h/x is down");
+  EXPECT_EQ(
+      ActionWords::Reason(ActionKind::kRefresh, Failed("it\n\t is  down: postgresql://anna:secret@h/x\n")),
+      "it is down: postgresql://anna:***");
 }
 
 TEST_F(ActionWordsTest, AFailedReadSaysThatWhatIsShownMayBeOld) {

@@ -56,7 +56,7 @@ TEST_F(TraceFileTest, HoldsNoPassword) {
   TraceFile trace(path_);
   trace.Write("connecting to postgresql://anna:secret@db/x");
   EXPECT_EQ(Content().find("secret"), std::string::npos) << Content();
-  EXPECT_NE(Content().find("anna:***@db"), std::string::npos) << Content();
+  EXPECT_NE(Content().find("anna:***"), std::string::npos) << Content();
 }
 
 TEST_F(TraceFileTest, IsReadableByItsOwnerOnly) {
