@@ -23,8 +23,9 @@ std::string Readable(std::string_view column) {
 /// Fetches rows through a cursor of the server, many at a time, so that they are never all in memory.
 class CursorReader : public content::RowReader {
  public:
-  CursorReader(ServerConnection& connection, std::string cursor, const std::string& query)
-      : connection_(connection), cursor_(std::move(cursor)) {
+  CursorReader(ServerConnection& connection, std::string cursor, const std::string& query,
+               std::size_t columns)
+      : connection_(connection), cursor_(std::move(cursor)), columns_(columns) {
     connection_.RunScript("DECLARE " + cursor_ + " NO SCROLL CURSOR FOR " + query);
   }
   CursorReader(const CursorReader&) = delete;
@@ -38,7 +39,7 @@ class CursorReader : public content::RowReader {
   bool Next(content::Row& row) override {
     return platform::WithFailuresOnly([&] {
       if (!rows_ || rows_->Eof()) {
-        rows_ = ReadRecordSet(connection_.Query("FETCH FORWARD 2000 FROM " + cursor_).get());
+        rows_ = ReadRecordSet(connection_.Query("FETCH FORWARD 2000 FROM " + cursor_).get(), columns_);
       }
       if (rows_->Eof()) return false;
       const auto bookmark = rows_->CurrentBookmark();
@@ -54,6 +55,7 @@ class CursorReader : public content::RowReader {
  private:
   ServerConnection& connection_;
   std::string cursor_;
+  std::size_t columns_;
   std::shared_ptr<platform::RecordSet> rows_;
 };
 
@@ -79,7 +81,9 @@ std::int64_t ServerSource::CountRows(const content::Table& table) {
   return platform::WithFailuresOnly([&] {
     const auto rows =
         ReadRecordSet(connection_.Query("SELECT count(*) AS count FROM " + NameOf(table)).get());
-    return *(*rows)["count"].If<std::int64_t>();
+    const platform::Value& count = (*rows)["count"];
+    if (const auto* const number = count.If<std::int64_t>()) return *number;
+    throw platform::TypeMismatch();
   });
 }
 
@@ -87,7 +91,8 @@ std::unique_ptr<content::RowReader> ServerSource::Rows(const content::Table& tab
   return platform::WithFailuresOnly([&] {
     return std::make_unique<CursorReader>(
         connection_, schema_ + "_" + std::string(table.name),
-        "SELECT " + ColumnList(table, Readable) + " FROM " + NameOf(table) + " ORDER BY " + KeyList(table));
+        "SELECT " + ColumnList(table, Readable) + " FROM " + NameOf(table) + " ORDER BY " + KeyList(table),
+        table.columns.size());
   });
 }
 

@@ -1,8 +1,6 @@
 #include "ferrowind/adapters/postgres/procedure_call.h"
 
-#include <charconv>
 #include <cstddef>
-#include <cstring>
 
 #include "ferrowind/adapters/postgres/call_script.h"
 #include "ferrowind/adapters/postgres/pipeline.h"
@@ -33,14 +31,9 @@ void RefuseWrongInputs(const ProcedureSignature& signature, const std::string& p
 }
 
 std::int32_t ReturnValueIn(const PGresult* result, const std::string& procedure) {
-  const char* const text = PQgetvalue(result, 0, 0);
-  std::int32_t value = 0;
-  const auto [end, error] = std::from_chars(text, text + std::strlen(text), value);
-  if (error != std::errc() || *end != '\0') {
-    throw Failure(platform::failure_number::kInvalidUseOfNull,
-                  "The procedure " + procedure + " gave no return value, so what it did was undone");
-  }
-  return value;
+  if (const auto value = ReadWholeNumber(result)) return *value;
+  throw Failure(platform::failure_number::kInvalidUseOfNull,
+                "The procedure " + procedure + " gave no return value, so what it did was undone");
 }
 
 /// After this the connection takes the next call.

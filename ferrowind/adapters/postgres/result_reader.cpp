@@ -1,9 +1,11 @@
 #include "ferrowind/adapters/postgres/result_reader.h"
 
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -35,9 +37,28 @@ Value ReadDate(const char* bytes, const char* column) {
   throw BadColumn(column, "holds a date outside the years 1 to 9999");
 }
 
+std::size_t SizeOf(Oid type) {
+  switch (type) {
+    case type_id::kInt2:
+      return sizeof(std::int16_t);
+    case type_id::kInt8:
+      return sizeof(std::int64_t);
+    default:
+      return sizeof(std::int32_t);
+  }
+}
+
+bool IsText(Oid type) {
+  return type == type_id::kText || type == type_id::kName || type == type_id::kVarchar;
+}
+
 Value ReadCell(const PGresult* result, int row, int column, Oid type) {
   if (PQgetisnull(result, row, column) != 0) return {};
   const char* const bytes = PQgetvalue(result, row, column);
+  const auto size = static_cast<std::size_t>(PQgetlength(result, row, column));
+  if (IsText(type)) return std::string(bytes, size);
+  if (size != SizeOf(type))
+    throw BadColumn(PQfname(result, column), "holds a number of another size than its type has");
   switch (type) {
     case type_id::kInt2:
       return ReadNumber<std::int16_t>(bytes);
@@ -45,10 +66,8 @@ Value ReadCell(const PGresult* result, int row, int column, Oid type) {
       return ReadNumber<std::int32_t>(bytes);
     case type_id::kInt8:
       return ReadNumber<std::int64_t>(bytes);
-    case type_id::kDate:
-      return ReadDate(bytes, PQfname(result, column));
     default:
-      return std::string(bytes, static_cast<std::size_t>(PQgetlength(result, row, column)));
+      return ReadDate(bytes, PQfname(result, column));
   }
 }
 
@@ -58,12 +77,9 @@ bool IsKnown(Oid type) {
     case type_id::kInt4:
     case type_id::kInt8:
     case type_id::kDate:
-    case type_id::kText:
-    case type_id::kName:
-    case type_id::kVarchar:
       return true;
     default:
-      return false;
+      return IsText(type);
   }
 }
 
@@ -88,6 +104,26 @@ std::shared_ptr<platform::RecordSet> ReadRecordSet(const PGresult* result) {
     }
   }
   return std::make_shared<platform::RecordSet>(std::move(rows));
+}
+
+std::shared_ptr<platform::RecordSet> ReadRecordSet(const PGresult* result, std::size_t columns) {
+  auto rows = ReadRecordSet(result);
+  if (rows->FieldCount() != columns) {
+    throw platform::Failure(platform::failure_number::kTypeMismatch,
+                            "The server answered with " + std::to_string(rows->FieldCount()) +
+                                " columns instead of " + std::to_string(columns) +
+                                "; it is no PostgreSQL server");
+  }
+  return rows;
+}
+
+std::optional<std::int32_t> ReadWholeNumber(const PGresult* result) {
+  if (PQntuples(result) != 1 || PQnfields(result) != 1) return std::nullopt;
+  const char* const text = PQgetvalue(result, 0, 0);
+  std::int32_t value = 0;
+  const auto [end, error] = std::from_chars(text, text + PQgetlength(result, 0, 0), value);
+  if (error != std::errc() || *end != '\0') return std::nullopt;
+  return value;
 }
 
 }  // namespace ferrowind::postgres

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include <libpq-fe.h>
 
@@ -22,7 +25,16 @@ inline constexpr Oid kRefCursor = 1790;
 
 /// The rows of `result`, which is in the binary format. A column's type decides: smallint gives an int16,
 /// integer an int32, bigint an int64, date a date, text and varchar a text, and NULL an empty value. A column
-/// of another type, and a date outside the years 1 to 9999, are failures that name the column.
+/// of another type, a number whose size is not its type's, and a date outside the years 1 to 9999, are
+/// failures that name the column.
 [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadRecordSet(const PGresult* result);
+
+/// As above, where the question asks for `columns` columns. Another number of them is a failure: what answers
+/// is no server of this kind.
+[[nodiscard]] std::shared_ptr<platform::RecordSet> ReadRecordSet(const PGresult* result, std::size_t columns);
+
+/// The only cell of `result`, whose text is a whole number. Nothing when it is anything else, or is not
+/// there.
+[[nodiscard]] std::optional<std::int32_t> ReadWholeNumber(const PGresult* result);
 
 }  // namespace ferrowind::postgres

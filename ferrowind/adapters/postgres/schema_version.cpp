@@ -11,7 +11,7 @@ namespace ferrowind::postgres {
 namespace {
 
 platform::Value Answer(ServerConnection& connection, const char* question) {
-  const auto rows = ReadRecordSet(connection.Query(question).get());
+  const auto rows = ReadRecordSet(connection.Query(question).get(), 1);
   return rows->Eof() ? platform::Value() : rows->Cell(rows->CurrentBookmark(), 0);
 }
 

@@ -26,32 +26,44 @@ std::string UtcNow() {
   return {text.data(), length};
 }
 
-/// A stream alone would create the file for everyone to read.
-void CreateForOwner(const std::string& path) {
-  const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, S_IRUSR | S_IWUSR);
-  if (file < 0) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            "Cannot write the trace file " + path + ": " + std::strerror(errno));
-  }
-  ::close(file);
+platform::Failure CannotWrite(const std::string& path, const std::string& why) {
+  return {platform::failure_number::kInvalidArgument, "Cannot write the trace file " + path + ": " + why};
+}
+
+/// Why the open file is not one that this user made for themselves; nothing when it is.
+const char* Refusal(const struct stat& file) {
+  if (!S_ISREG(file.st_mode)) return "it is no file";
+  if (file.st_nlink != 1) return "it has another name as well";
+  if (file.st_uid != geteuid()) return "it belongs to somebody else";
+  return nullptr;
 }
 
 }  // namespace
 
-TraceFile::TraceFile(const std::string& path) {
-  CreateForOwner(path);
-  file_.open(path, std::ios::app | std::ios::binary);
-  if (!file_) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            "Cannot write the trace file " + path);
-  }
+TraceFile::TraceFile(const std::string& path)
+    : file_(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
+                   S_IRUSR | S_IWUSR)) {
+  if (file_ < 0) throw CannotWrite(path, errno == ELOOP ? "it is a link" : std::strerror(errno));
+  struct stat status {};
+  const char* refusal = ::fstat(file_, &status) == 0 ? Refusal(status) : std::strerror(errno);
+  // An older one may be readable for others.
+  if (refusal == nullptr && ::fchmod(file_, S_IRUSR | S_IWUSR) != 0) refusal = std::strerror(errno);
+  if (refusal == nullptr) return;
+  const auto failure = CannotWrite(path, refusal);
+  ::close(file_);
+  throw platform::Failure(failure);
 }
+
+TraceFile::~TraceFile() { ::close(file_); }
 
 void TraceFile::Write(const std::string& text) noexcept {
   try {
-    file_ << UtcNow() << ' ' << OnOneLine(PasswordFree(text)) << '\n' << std::flush;
-  } catch (const std::exception&) {
+    const std::string line = UtcNow() + ' ' + OnOneLine(PasswordFree(text)) + '\n';
     // Better a line missing than the call that was traced.
+    const ssize_t ignored = ::write(file_, line.data(), line.size());
+    static_cast<void>(ignored);
+  } catch (const std::exception&) {
+    // The same holds where there is no memory for the line.
   }
 }
 

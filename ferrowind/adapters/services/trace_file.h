@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fstream>
 #include <string>
 
 #include "ferrowind/adapters/services/trace_sink.h"
@@ -12,14 +11,19 @@ namespace ferrowind {
 /// returns.
 class TraceFile : public TraceSink {
  public:
-  /// Creates the file where there is none, readable by its owner only. One that cannot be opened for writing
-  /// is a failure that names it.
+  /// Creates the file where there is none. It is readable by its owner only, from now on at the latest. One
+  /// that cannot be opened for writing is a failure that names it; so is a link, a file of another user, one
+  /// with several names, and what is no file, since others could have put it there to have it overwritten or
+  /// to read along.
   explicit TraceFile(const std::string& path);
+  TraceFile(const TraceFile&) = delete;
+  TraceFile& operator=(const TraceFile&) = delete;
+  ~TraceFile() override;
 
   void Write(const std::string& text) noexcept override;
 
  private:
-  std::ofstream file_;
+  int file_;
 };
 
 /// The text on one line: a backslash becomes two, line breaks \r and \n, other control characters \xHH.

@@ -4,48 +4,23 @@
 
 #include <sqlite3.h>
 
-#include "ferrowind/adapters/content/database_status.h"
-#include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/system_user.h"
 #include "ferrowind/platform/database/history_moment.h"
 #include "ferrowind/platform/database/parameters_json.h"
-#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::sqlite {
-namespace {
 
 using platform::Value;
-
-void RequireVersion(const DatabaseHandle& database, std::int64_t found) {
-  content::RequireSchemaVersion("The database " + database.Path(), found, DeliveredUpgrades().back().version);
-}
-
-Statement PrepareEntry(const DatabaseHandle& database) {
-  try {
-    return Statement(database,
-                     "INSERT INTO CldHistory (UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue,"
-                     " RowsChanged, Moment) VALUES (?1, ?2, ?3, ?4, ?5, 0, ?6, ?7)");
-  } catch (const platform::Failure&) {
-    // A database of a newer version may have another one.
-    RequireVersion(database, SchemaVersionOf(database));
-    throw;
-  }
-}
-
-}  // namespace
-
-void RequireNoOlderVersion(const DatabaseHandle& database) {
-  const std::int64_t version = SchemaVersionOf(database);
-  if (version < DeliveredUpgrades().back().version) RequireVersion(database, version);
-}
 
 std::int64_t AddToHistory(const DatabaseHandle& database, const HistoryEntry& call) {
   const Value moment(platform::MomentNow());
   const Value user(SystemUserName());
   const Value name(call.procedure.name);
   const Value parameters(platform::ParametersAsJson(call.procedure.parameters, call.inputs));
-  Statement entry = PrepareEntry(database);
+  Statement entry(database,
+                  "INSERT INTO CldHistory (UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue,"
+                  " RowsChanged, Moment) VALUES (?1, ?2, ?3, ?4, ?5, 0, ?6, ?7)");
   entry.Bind(1, user);
   entry.Bind(2, name);
   entry.Bind(3, call.currency);

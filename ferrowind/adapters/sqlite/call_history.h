@@ -21,13 +21,8 @@ struct HistoryEntry {
   std::int64_t rows_changed = 0;
 };
 
-/// A failure that says how to upgrade `database`, when it has an older version of the schema than this
-/// program: its tables may lack what the history tells of a change.
-void RequireNoOlderVersion(const DatabaseHandle& database);
-
 /// Adds `call` to the history of `database`, in the transaction that is open: when, the operating system's
-/// user, the values of the inputs, and how many rows it changed. Gives the number of the entry. Fails
-/// with words about the version when a newer database has another history.
+/// user, the values of the inputs, and how many rows it changed. Gives the number of the entry.
 std::int64_t AddToHistory(const DatabaseHandle& database, const HistoryEntry& call);
 
 /// Adds the rows that the call of the entry `entry` replaced.

@@ -20,12 +20,6 @@
 namespace ferrowind::sqlite {
 namespace {
 
-/// In a transaction, so that the version stays what it is.
-void RequireThisVersion(DatabaseHandle& database) {
-  content::RequireSchemaVersion("The database " + database.Path(), SchemaVersionOf(database),
-                                DeliveredUpgrades().back().version);
-}
-
 /// An open calendar database and the transaction that all of its content is read in.
 class Snapshot {
  public:
@@ -45,7 +39,7 @@ class Snapshot {
 class SnapshotSource : public content::Source {
  public:
   explicit SnapshotSource(const std::string& path) : snapshot_(path), content_(snapshot_.Database()) {
-    RequireThisVersion(snapshot_.Database());
+    RequireDeliveredVersion(snapshot_.Database());
   }
 
   std::string Name() override { return content_.Name(); }
@@ -67,7 +61,7 @@ void FillExisting(const std::string& path, Target kind,
   DatabaseHandle database(path);
   const ProcedureCatalogue must_be_a_calendar_database(database);
   Transaction transaction(database, Transaction::Kind::kWriting);
-  RequireThisVersion(database);
+  RequireDeliveredVersion(database);
   {
     FileTarget target(database, kind == Target::kNew);
     fill(target);

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "ferrowind/adapters/content/database_status.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 
@@ -43,6 +44,11 @@ const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
 std::int64_t SchemaVersionOf(const DatabaseHandle& database) {
   Statement ask(database, "PRAGMA user_version");
   return ask.Step() ? ask.Integer(0) : 0;
+}
+
+void RequireDeliveredVersion(const DatabaseHandle& database) {
+  content::RequireSchemaVersion("The database " + database.Path(), SchemaVersionOf(database),
+                                DeliveredUpgrades().back().version);
 }
 
 }  // namespace ferrowind::sqlite

@@ -22,4 +22,9 @@ void FillWithDeliveredSchema(DatabaseHandle& database);
 /// The version of the schema of `database`.
 [[nodiscard]] std::int64_t SchemaVersionOf(const DatabaseHandle& database);
 
+/// A failure that says what to do, when `database` has another version of the schema than this program: the
+/// tables of an older one may lack what this program writes, and those of a newer one may ask for what it
+/// does not know. Asked in a transaction, so that the version stays what it is.
+void RequireDeliveredVersion(const DatabaseHandle& database);
+
 }  // namespace ferrowind::sqlite

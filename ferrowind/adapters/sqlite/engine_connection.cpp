@@ -4,6 +4,7 @@
 
 #include "ferrowind/adapters/sqlite/body_authorizer.h"
 #include "ferrowind/adapters/sqlite/call_history.h"
+#include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
 #include "ferrowind/adapters/sqlite/row_recorder.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
@@ -44,7 +45,7 @@ platform::CallOutcome EngineConnection::Read(const std::vector<Value>& inputs) {
 }
 
 platform::CallOutcome EngineConnection::Change(const std::vector<Value>& inputs) {
-  RequireNoOlderVersion(database_);
+  RequireDeliveredVersion(database_);
   const auto changes_before = sqlite3_total_changes64(database_.Get());
   RowRecorder recorder(database_);
   ProcedureInterpreter interpreter(database_, *procedure_, inputs);

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -30,6 +31,16 @@ class SettingsStoreTest : public ::testing::Test {
 TEST_F(SettingsStoreTest, KeepsAValueForLaterStores) {
   Store().Write("\\Tessaro\\Calendar\\Window", "Left", 1500.0F);
   EXPECT_EQ(Store().Read("\\Tessaro\\Calendar\\Window", "Left"), Value(1500.0F));
+}
+
+TEST_F(SettingsStoreTest, OfAUserIsTheFileThatTheGuideNames) {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
+  SettingsStore().Write("Section", "Left", "x");
+  QDir users(folder_.filePath("Tessaro"));
+  ASSERT_EQ(users.entryList(QDir::Files), QStringList{"Ferrowind.conf"});
+  QFile guide(FERROWIND_INSTALL_GUIDE);
+  ASSERT_TRUE(guide.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(guide.readAll().contains("`~/.config/Tessaro/Ferrowind.conf`"));
 }
 
 TEST_F(SettingsStoreTest, HasNothingUnderANameThatWasNeverWritten) {

@@ -208,6 +208,19 @@ TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
   }
 }
 
+TEST(DatabaseUpgrade, ANewerDatabaseIsReadAndRefusesChangesByWords) {
+  SqliteDatabase newer;
+  newer.Execute("PRAGMA user_version = 5");
+  const std::string data = DataOf(newer.Path());
+  ProcedureCaller caller(newer);
+  EXPECT_EQ(caller.Call("CldAllInfo").return_value, 0);
+  EXPECT_THAT(FailureTextOf([&] {
+                (void)caller.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2026}});
+              }),
+              AllOf(HasSubstr("has the schema version 5; this program's is 4"), HasSubstr("newer version")));
+  EXPECT_EQ(DataOf(newer.Path()), data);
+}
+
 TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
   const SqliteDatabase fresh;
   const std::string before = ContentOfFile(fresh.Path());
