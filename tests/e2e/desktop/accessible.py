@@ -30,12 +30,14 @@ def application(name='ferrowind'):
     return wait_for(find, f'the accessible application {name}')
 
 
-def descendants(node):
+def descendants(node, goes_into=lambda node: True):
     yield node
+    if not goes_into(node):
+        return
     for i in range(_quietly(lambda: node.childCount, 0)):
         child = _quietly(lambda i=i: node.getChildAtIndex(i))
         if child is not None:
-            yield from descendants(child)
+            yield from descendants(child, goes_into)
 
 
 def role_name(node):
@@ -104,6 +106,12 @@ class GridReader:
     def text(self, row, caption):
         return _quietly(lambda: self.cell(row, self.captions().index(caption)).name)
 
+    def column(self, caption, rows=None):
+        """The texts of a column, of all rows or of the first ones."""
+        column = self.captions().index(caption)
+        return [_quietly(lambda row=row: self.cell(row, column).name)
+                for row in range(self.row_count() if rows is None else rows)]
+
     def texts(self, row):
         """The texts of a row by the captions of their columns."""
         return {caption: _quietly(lambda column=column: self.cell(row, column).name)
@@ -116,3 +124,34 @@ class GridReader:
         """Whether a cell of the selected row has the keyboard."""
         return any(has_state(self.cell(row, column), pyatspi.STATE_FOCUSED)
                    for row in self.selected_rows() for column in range(self.cells.nColumns))
+
+
+def controls(window):
+    """The objects of the window but for the cells of its tables, of which there may be thousands."""
+    return descendants(window, lambda node: role_name(node) not in ('table', 'tree', 'tree table'))
+
+
+def showing_texts(window):
+    """What the window says on its labels and buttons, as far as it shows them."""
+    return [node.name for node in controls(window)
+            if role_name(node) in ('label', 'push button') and is_showing(node)]
+
+
+def control(window, role, name):
+    """The first object of that role name and accessible name outside of tables, waited for."""
+    def found():
+        return next((node for node in controls(window)
+                     if role_name(node) == role and _quietly(lambda node=node: node.name) == name), None)
+    return wait_for(found, f'the {role} {name}')
+
+
+def content(node):
+    """The text of a text field or text view."""
+    return _quietly(lambda: node.queryText().getText(0, -1), '')
+
+
+def do(node, action):
+    """Has the object do its action of that name, as a person who uses no keys does."""
+    actions = node.queryAction()
+    names = [actions.getName(i) for i in range(actions.nActions)]
+    assert actions.doAction(names.index(action)), f'{node.name} did not {action}'

@@ -3,16 +3,13 @@ what the windows show after it, and what ferrowindctl reads from the database af
 on a file and on the server that tools/with_postgres.sh started."""
 
 import datetime
-import getpass
-import json
 import os
-import subprocess
 import sys
 import unittest
 
 import bank_holidays
-import server
-from desktop_session import DesktopSession, Screen, rows_of
+from desktop_session import DesktopSession, Screen
+from operator_databases import FileDatabase, ServerDatabase
 from operator_story import (CALENDARS, FIRST_YEAR, MESSAGE, NEW_COMMENT, NEW_POINTS, OLD_POINTS, PAST_POINT, YEARLY_RULES,
                             OperatorStory)
 
@@ -35,39 +32,27 @@ def tearDownModule():
     SCREEN.end()
 
 
-def ferrowindctl(*arguments):
-    return subprocess.run([os.environ['FERROWINDCTL_PROGRAM'], *arguments], check=True, capture_output=True, text=True,
-                          timeout=120).stdout
-
-
 class NextYear:
-    """The day, and what must be in the database after it. An engine's class makes a delivered database and tells its URL,
-    what a query gives there, and who the operator is."""
+    """The day, and what must be in the database after it. An engine's class makes a delivered database."""
 
     def setUp(self):
         self.session = DesktopSession(SCREEN, os.environ['FERROWIND_PROGRAM'])
         self.addCleanup(self.session.end)
-        self.make_database()
+        self.database = self.make_database()
         # Not before there is a screen, whose bus it is to find.
         import accessible
         self.story = OperatorStory(self.session, accessible)
 
-    def call(self, procedure, *arguments):
-        """The record sets of a call, each a list of dictionaries."""
-        document = json.loads(ferrowindctl('call', self.url, procedure, *arguments, '--format', 'json'))
-        self.assertEqual(document['return'], 0)
-        return [[dict(zip(rows['fields'], row)) for row in rows['rows']] for rows in document['results']]
-
     def calendars(self):
-        return {(row['ID1'], row['Year1']) for row in self.call('CldAllInfo')[0]}
+        return {(row['ID1'], row['Year1']) for row in self.database.call('CldAllInfo')[0]}
 
     def rules_by_name(self):
-        return {row['Name1']: row for row in self.call('CldAllInfo')[2]}
+        return {row['Name1']: row for row in self.database.call('CldAllInfo')[2]}
 
     def days(self, year=YEAR):
         """Type, the rule's name and the day's comment of each day by its date."""
         return {datetime.date.fromisoformat(row['ODate']): (row['TID1'], row['Name1'], row['Comment'])
-                for row in self.call('CldGetMain', f'ID1={EUR}', f'Year1={year}')[0]}
+                for row in self.database.call('CldGetMain', f'ID1={EUR}', f'Year1={year}')[0]}
 
     def expected_days(self, with_points):
         """The closing days as the bank's own rule has them; a date stands above the weekend that it falls on."""
@@ -92,8 +77,8 @@ class NextYear:
         delivered_rules = self.rules_by_name()
         delivered_calendars = self.calendars()
         year_before = self.days(YEAR - 1)
-        last_entry = self.rows('SELECT max(EntryID) FROM CldHistory')[0][0]
-        story.open(self.url)
+        last_entry = self.database.rows('SELECT max(EntryID) FROM CldHistory')[0][0]
+        story.open(self.database.url)
 
         groups = story.look_at_the_year_before()
         for name in YEARLY_RULES + OLD_POINTS:
@@ -133,13 +118,13 @@ class NextYear:
         self.assertEqual(self.rules_by_name(), rules)
 
         self.assertEqual(story.close_everything(), 0, self.session.printed())
-        story.reopen(self.url)
+        story.reopen(self.database.url)
         self.assert_shown(expected, rules)
         self.assertEqual(self.days(), expected)
         self.assertEqual(self.days(YEAR - 1), year_before)
         self.assertEqual(self.rules_by_name(), rules)
-        self.assertEqual(self.rows(f'SELECT DISTINCT UserName FROM CldHistory WHERE EntryID > {last_entry}'),
-                         [(self.operator,)])
+        self.assertEqual(self.database.rows(f'SELECT DISTINCT UserName FROM CldHistory WHERE EntryID > {last_entry}'),
+                         [(self.database.operator,)])
 
     def assert_shown(self, expected_days, rules):
         """The Calendars window shows each day as the database has it."""
@@ -156,26 +141,13 @@ class NextYear:
 class NextYearOnAFile(NextYear, unittest.TestCase):
 
     def make_database(self):
-        self.file = self.session.home / 'calendars.sqlite'
-        self.url = f'sqlite:{self.file}'
-        self.operator = getpass.getuser()
-        ferrowindctl('init', self.url, '--year', FIRST_YEAR)
-
-    def rows(self, query):
-        return rows_of(self.file, query)
+        return FileDatabase(self.session, FIRST_YEAR)
 
 
 class NextYearOnAServer(NextYear, unittest.TestCase):
-    """The operator has no right but an operator's."""
 
     def make_database(self):
-        self.database = server.Database(self)
-        self.operator = 'anna'
-        ferrowindctl('init', self.database.uri, '--year', FIRST_YEAR)
-        self.url = self.database.login(self, self.operator, 'Ans%wer;42', role='ferrowind_operator')
-
-    def rows(self, query):
-        return self.database.rows(query)
+        return ServerDatabase(self, FIRST_YEAR)
 
 
 if __name__ == '__main__':
