@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QTest>
 #include <QToolTip>
@@ -107,6 +108,21 @@ TEST_F(TreeTest, KeepsTheSelectionWhenTheEmptySpaceIsClicked) {
   QTest::mouseClick(view_.viewport(), Qt::LeftButton, {}, QPoint(100, 390));
   EXPECT_EQ(tree_.Selected(), "GBP");
   EXPECT_THAT(clicks_, IsEmpty());
+}
+
+TEST_F(TreeTest, ClicksTheNodeThatAnAssistiveToolSelects) {
+  tree_.Select("CHF");
+  tree_.SetExpanded("EUR", true);
+  QAccessibleTableInterface* const rows = QAccessible::queryAccessibleInterface(&view_)->tableInterface();
+  ASSERT_NE(rows, nullptr);
+  ASSERT_EQ(rows->cellAt(2, 0)->text(QAccessible::Name), QStringLiteral("2026"));
+  EXPECT_TRUE(rows->selectRow(2));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !clicks_.empty(); }));
+  EXPECT_THAT(clicks_, ElementsAre("EUR2026"));
+  EXPECT_EQ(tree_.Selected(), "EUR2026");
+  // Keys go on from there.
+  Press(Qt::Key_Down);
+  EXPECT_THAT(clicks_, ElementsAre("EUR2026", "EUR2027"));
 }
 
 TEST_F(TreeTest, ClicksOnceWhenTheSelectionIsDraggedOverNodes) {

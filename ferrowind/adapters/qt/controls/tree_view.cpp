@@ -132,6 +132,7 @@ void TreeView::mousePressEvent(QMouseEvent* event) {
   const Work work(*this);
   has_moved_ = false;
   was_clicked_ = false;
+  is_mouse_down_ = true;
   QTreeView::mousePressEvent(event);
 }
 
@@ -140,6 +141,7 @@ void TreeView::mouseReleaseEvent(QMouseEvent* event) {
     const Work work(*this);
     QTreeView::mouseReleaseEvent(event);
   }
+  is_mouse_down_ = event->buttons() != Qt::NoButton;
   if (has_moved_ || was_clicked_) RaiseChosen();
 }
 
@@ -150,7 +152,21 @@ void TreeView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QTreeView::selectionChanged(selected, deselected);
-  if (!is_selected_by_program_) has_moved_ = true;
+  if (is_selected_by_program_) return;
+  has_moved_ = true;
+  if (works_under_way_ == 0 && !is_mouse_down_ && !selected.isEmpty()) FollowAssistiveTool();
+}
+
+void TreeView::FollowAssistiveTool() {
+  // Later: whoever changed the selection is not done with it yet, and a handler may change the tree.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        // Keys go on from the node that is current.
+        SelectNode(SelectedNode());
+        RaiseChosen();
+      },
+      Qt::QueuedConnection);
 }
 
 QItemSelectionModel::SelectionFlags TreeView::selectionCommand(const QModelIndex& index,

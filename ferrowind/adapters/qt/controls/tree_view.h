@@ -21,8 +21,8 @@ class TreeView : public QTreeView {
   void SetNodeExpanded(const QModelIndex& index, bool is_expanded);
 
  Q_SIGNALS:
-  /// The operator clicked the node, again even, or moved the selection to it by key. Raised once the mouse
-  /// button is released, so that a selection dragged over many nodes is one choice.
+  /// The operator clicked the node, again even, or moved the selection to it by key or by an assistive tool.
+  /// Raised once the mouse button is released, so that a selection dragged over many nodes is one choice.
   void Chosen(const QModelIndex& index);
   /// A node was expanded or collapsed. Raised once the view is done with it, so that a handler may change the
   /// tree. A node that collapsed over the selected one is the selected one by then.
@@ -48,6 +48,8 @@ class TreeView : public QTreeView {
   void NoteToggle(const QModelIndex& index, bool is_expanded);
   void RaiseToggles();
   void RaiseChosen();
+  /// The selection was changed neither by the program nor by keys nor by the mouse.
+  void FollowAssistiveTool();
 
   /// How many pieces of work are under way that the base class does with nodes.
   int works_under_way_ = 0;
@@ -57,6 +59,7 @@ class TreeView : public QTreeView {
   /// Since the last press of a key or mouse button.
   bool has_moved_ = false;
   bool was_clicked_ = false;
+  bool is_mouse_down_ = false;
 };
 
 }  // namespace ferrowind::qt
