@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QScrollBar>
+#include <utility>
 
 #include "tests/gui/table/table_fixture.h"
 
@@ -136,6 +137,39 @@ TEST_F(TableComfortTest, ShowsAndSortsAHundredThousandRowsAtOnce) {
   QCoreApplication::processEvents();
   EXPECT_LT(timer.elapsed(), 15'000);
   EXPECT_EQ(table_->CurrentRow(), "99999");
+}
+
+/// Counts how often a table's rows get another room, and ends it where that would go on for ever.
+class RoomCount : public QObject {
+ public:
+  explicit RoomCount(TableView& view) : view_(view) { view.viewport()->installEventFilter(this); }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    constexpr int kEndless = 100;
+    if (event->type() == QEvent::Resize && ++count_ > kEndless)
+      QCoreApplication::removePostedEvents(&view_, QEvent::MetaCall);
+    return false;
+  }
+  int Take() { return std::exchange(count_, 0); }
+
+ private:
+  TableView& view_;
+  int count_ = 0;
+};
+
+TEST_F(TableComfortTest, SettlesAtEverySizeWhereAScrollBarWouldMakeTheOtherNeeded) {
+  table_->SetRows({Row("1", "A"), Row("2", "B"), Row("3", "C"), Row("4", "D")});
+  RoomCount rooms(*view_);
+  for (int height = 100; height < 150; height += 6) {
+    for (int width = 120; width < 200; width += 6) {
+      // From a size that needs but the one at the bottom.
+      view_->resize(60, 250);
+      QCoreApplication::processEvents();
+      view_->resize(width, height);
+      QTest::qWait(2);
+      EXPECT_LE(rooms.Take(), 20) << width << " x " << height;
+    }
+  }
 }
 
 }  // namespace

@@ -113,13 +113,18 @@ void UniformTableView::updateGeometries() {
   const QRect area = viewport()->geometry();
   header->setGeometry(area.left(), area.top() - header_height, area.width(), header_height);
 
-  const int width = viewport()->width();
-  horizontalScrollBar()->setPageStep(width);
-  horizontalScrollBar()->setSingleStep(std::max(width / 20, 8));
-  horizontalScrollBar()->setRange(0, std::max(header->length() - width, 0));
-  verticalScrollBar()->setPageStep(RowsPerPage());
+  // Of two scroll bars each may take the room whose lack is the other's only reason: they would come and go
+  // in turns for ever.
+  const QSize most = maximumViewportSize();
+  const bool fits = header->length() <= most.width() && RowCount() <= most.height() / row_height_;
+  const QSize room = fits ? most : viewport()->size();
+  const int rows_per_page = std::max(room.height() / row_height_, 1);
+  horizontalScrollBar()->setPageStep(room.width());
+  horizontalScrollBar()->setSingleStep(std::max(room.width() / 20, 8));
+  horizontalScrollBar()->setRange(0, std::max(header->length() - room.width(), 0));
+  verticalScrollBar()->setPageStep(rows_per_page);
   verticalScrollBar()->setSingleStep(1);
-  verticalScrollBar()->setRange(0, std::max(RowCount() - RowsPerPage(), 0));
+  verticalScrollBar()->setRange(0, std::max(RowCount() - rows_per_page, 0));
   QAbstractItemView::updateGeometries();
 }
 
