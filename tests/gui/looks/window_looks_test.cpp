@@ -6,11 +6,13 @@
 #include "ferrowind/control/calendar.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/planning/book_store.h"
+#include "ferrowind/views/dialogs/fm_wait.h"
 #include "ferrowind/views/planning/planning_additions.h"
 #include "ferrowind/views/planning/planning_windows.h"
 
 #include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
+#include "tests/gui/looks/default_locale.h"
 #include "tests/gui/looks/examined_window.h"
 #include "tests/gui/windows/dialog_script.h"
 #include "tests/gui/windows/operator_desk.h"
@@ -32,9 +34,8 @@ using Setup = std::tuple<qt::Theme, const char*>;
 /// and the calendars EUR 2026 and USD 2028.
 class WindowLooksTest : public ::testing::TestWithParam<Setup> {
  protected:
-  WindowLooksTest() : locale_before_(QLocale()) {
+  WindowLooksTest() {
     const auto& [theme, language] = GetParam();
-    QLocale::setDefault(QLocale(QLatin1String(language)));
     qApp->setLayoutDirection(QLocale().textDirection());
     qt::ApplyTheme(*qApp, theme);
     platform_.additions = &additions_;
@@ -56,7 +57,6 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     qt::ApplyTheme(*qApp, qt::Theme::kLight);
     qApp->setLayoutDirection(Qt::LeftToRight);
-    QLocale::setDefault(locale_before_);
   }
 
   void Examine(const std::string& name) {
@@ -102,7 +102,7 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
     return window;
   }
 
-  QLocale locale_before_;
+  DefaultLocale locale_{std::get<const char*>(GetParam())};
   OperatorDesk desk_{OperatorDesk::Rules::kOfOffice};
   DialogScript script_;
   platform::Platform platform_ = desk_.Platform();
@@ -125,6 +125,33 @@ INSTANTIATE_TEST_SUITE_P(Setups, WindowLooksTest,
 
 TEST_P(WindowLooksTest, CanBeReadAndUsedInTheCalendars) { Examine(OpenCalendars()); }
 
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheYearBesideTheDaysWhileTheyAreFiltered) {
+  QWidget& window = OpenCalendars();
+  ClickTool(window, "ID_YearPlanner");
+  ClickTool(window, "ID_Find");
+  Examine(window);
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForADate) {
+  QWidget& window = OpenCalendars();
+  script_.Expect("fmGoToDate", [this](QWidget& dialog) {
+    Examine(dialog);
+    // The longest that it says.
+    TypeInto(dialog, "txtDate", "?");
+    Examine(dialog);
+    ClickButton(dialog, "cmdCancel");
+  });
+  ClickTool(window, "ID_GoToDate");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheNotice) {
+  fmWait notice(platform_.toolkit);
+  notice.SetMessage("The calendars of all currencies are being read.");
+  notice.Show();
+  Examine("fmWait");
+  notice.Unload();
+}
+
 TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAYear) {
   QWidget& window = OpenCalendars();
   script_.Expect("fmSelectYear", [this](QWidget& dialog) {
@@ -146,6 +173,13 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheRulesAndTheirEditor) {
       editor.close();
     });
     ClickButton(rules, "cmdAction0");
+    script_.Expect("fmAssignPreview", [this](QWidget& preview) {
+      Examine(preview);
+      ClickButton(preview, "cmdCancel");
+    });
+    ClickTool(rules, "ID_OwnRules");
+    WalkToRow(GridIn(rules), RowsOf(GridIn(rules)) - 1);
+    ClickButton(rules, "cmdAction5");
     if (rules.isVisible()) rules.close();
   });
   RightClickRow(days, 3);
@@ -185,6 +219,14 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheHistoryAndACalendarOfThen) {
 TEST_P(WindowLooksTest, CanBeReadAndUsedInARuleBook) {
   RunHandler(platform_, [&] { windows_.OpenRuleBook(kDollar); });
   Examine("fmRuleBook");
+  QWidget& window = *WindowOnShow("fmRuleBook");
+  TypeInto(window, "txtSince", "?");
+  Examine(window);
+  script_.Expect("fmMessage", [this](QWidget& question) {
+    Examine(question);
+    ClickButton(question, "cmdOk");
+  });
+  window.close();
 }
 
 TEST_P(WindowLooksTest, CanBeReadAndUsedInThePlannerOfAYear) {

@@ -71,7 +71,7 @@ class OperatorDesk {
   platform::EngineCommandFactory commands_{engines_};
   ObjectMakers objects_;
   HeardToolkit toolkit_;
-  qt::QtLocale locale_;
+  qt::QtLocale locale_{QLocale()};
   qt::QtClock clock_;
   platform::Platform platform_;
 };
