@@ -51,9 +51,9 @@ class NamesInUse {
              std::string(TextOf(use.kind)) + " in " + use.place + ": a name has one kind";
     }
     if (first.date && use.date && *first.date != *use.date) {
-      return '"' + name + "\" is on " + DayAndMonth(first.date->month, first.date->day) + " in " +
-             first.place + " and on " + DayAndMonth(use.date->month, use.date->day) + " in " + use.place +
-             ": a celebration has one date";
+      return '"' + name + "\" is on " + DayAndMonth(first.date->month, first.date->day).InEnglish() + " in " +
+             first.place + " and on " + DayAndMonth(use.date->month, use.date->day).InEnglish() + " in " +
+             use.place + ": a celebration has one date";
     }
     return std::nullopt;
   }
@@ -91,7 +91,7 @@ class SharedName {
 
   void Add(const NameUse& use) {
     kinds_.Add("a " + std::string(TextOf(use.kind)), use.place);
-    if (use.date) dates_.Add("on " + DayAndMonth(use.date->month, use.date->day), use.place);
+    if (use.date) dates_.Add("on " + DayAndMonth(use.date->month, use.date->day).InEnglish(), use.place);
   }
 
   [[nodiscard]] std::optional<std::string> Fault() const {

@@ -5,6 +5,9 @@
 #include <utility>
 
 namespace ferrowind::almanac {
+
+using platform::Phrase;
+
 namespace {
 
 const char* TypeInWords(RuleKind kind) {
@@ -95,9 +98,11 @@ ComparisonLine Comparison::LineOf(const ComparedDay& day) const {
   if (day.now != nullptr) line.now = NameOf(*day.now);
   if (day.unknown != nullptr) {
     line.should = line.now;
-    line.why = "The plan does not know this year's dates of " + plan_.Book().rules[day.unknown->rule].name;
-    if (!day.unknown->table.empty())
-      line.why += ", which the table " + day.unknown->table + " does not reach";
+    line.why = Phrase::Of("The plan does not know this year's dates of %1",
+                          {plan_.Book().rules[day.unknown->rule].name});
+    if (!day.unknown->table.empty()) {
+      line.why = Phrase::Of("%1, which the table %2 does not reach", {line.why, day.unknown->table});
+    }
     return line;
   }
   if (day.should != nullptr) line.should = NameOf(*day.should);
@@ -119,19 +124,19 @@ bool Comparison::IsEntered(const UnknownDates& unknown) const {
   });
 }
 
-std::optional<std::string> Comparison::ObstacleOf(const ComparedDay& day) const {
+std::optional<Phrase> Comparison::ObstacleOf(const ComparedDay& day) const {
   if (day.action == PlanAction::kKeep || day.should == nullptr) return std::nullopt;
   const KnownRule* const rule = matches_.RuleOf(*day.should);
   if (rule == nullptr) return std::nullopt;
-  if (rule->is_removed) return "The rule \"" + rule->name + "\" is removed; restore it before";
+  if (rule->is_removed) return Phrase::Of("The rule \"%1\" is removed; restore it before", {rule->name});
   const RuleKind planned = plan_.KindOf(*day.should);
   if (rule->kind == planned) return std::nullopt;
-  return "The rule \"" + rule->name + "\" is " + TypeInWords(rule->kind) + ", and the plan needs " +
-         TypeInWords(planned) + " of that name; rename it before";
+  return Phrase::Of("The rule \"%1\" is %2, and the plan needs %3 of that name; rename it before",
+                    {rule->name, Phrase::Of(TypeInWords(rule->kind)), Phrase::Of(TypeInWords(planned))});
 }
 
-std::vector<std::string> Comparison::Obstacles(const DayChoice& choice) const {
-  std::vector<std::string> obstacles;
+std::vector<Phrase> Comparison::Obstacles(const DayChoice& choice) const {
+  std::vector<Phrase> obstacles;
   std::set<const KnownRule*> told;
   for (const ComparedDay& day : days_) {
     if (!day.Changes(choice)) continue;

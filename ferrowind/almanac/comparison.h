@@ -11,6 +11,7 @@
 #include "ferrowind/almanac/rule_matches.h"
 #include "ferrowind/almanac/year_plan.h"
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -39,7 +40,7 @@ struct ComparisonLine {
   std::optional<std::string> should;
   PlanAction action = PlanAction::kKeep;
   /// Why the day should be so, for operators; without a full stop.
-  std::string why;
+  platform::Phrase why;
 };
 
 /// The difference between the plan of a year and a calendar of that year.
@@ -69,9 +70,9 @@ class Comparison {
 
   /// Why the database would refuse to make the day as planned, a sentence without a full stop: the rule that
   /// it should have stands there as a removed one, or as one of another type. Nothing when it would not.
-  [[nodiscard]] std::optional<std::string> ObstacleOf(const ComparedDay& day) const;
+  [[nodiscard]] std::optional<platform::Phrase> ObstacleOf(const ComparedDay& day) const;
   /// The obstacles of the days that `choice` takes, one for each rule.
-  [[nodiscard]] std::vector<std::string> Obstacles(const DayChoice& choice) const;
+  [[nodiscard]] std::vector<platform::Phrase> Obstacles(const DayChoice& choice) const;
 
  private:
   [[nodiscard]] ComparedDay Compare(const MarkedDay* now, const PlannedDay* should) const;

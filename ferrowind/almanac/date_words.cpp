@@ -10,6 +10,9 @@
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::almanac {
+
+using platform::Phrase;
+
 namespace {
 
 constexpr std::array<std::string_view, 8> kWeekdays = {"",          "Sunday",   "Monday", "Tuesday",
@@ -34,30 +37,36 @@ std::optional<int> WeekdayNamed(std::string_view name) {
 
 std::string_view MonthName(int month) { return kMonths.at(static_cast<std::size_t>(month)); }
 
-std::string DayAndMonth(int month, int day) {
-  return std::to_string(day) + ' ' + std::string(MonthName(month));
+Phrase Weekday(int weekday) { return Phrase::Of(std::string(WeekdayName(weekday))); }
+
+Phrase DayAndMonth(int month, int day) {
+  return Phrase::Of("%1 %2", {std::to_string(day), Phrase::Of(std::string(MonthName(month)))});
 }
 
-std::string LongDate(std::int32_t serial) {
+Phrase LongDate(std::int32_t serial) {
   const auto date = platform::Date::FromSerial(serial);
-  return DayAndMonth(date.Month(), date.Day()) + ' ' + std::to_string(date.Year());
+  return Phrase::Of("%1 %2", {DayAndMonth(date.Month(), date.Day()), std::to_string(date.Year())});
 }
 
-std::string NumberWord(int number) {
+Phrase LongDay(std::int32_t serial) {
+  return Phrase::Of("%1 %2", {Weekday(platform::Date::FromSerial(serial).Weekday()), LongDate(serial)});
+}
+
+Phrase NumberWord(int number) {
   const auto position = static_cast<std::size_t>(number);
-  return number >= 1 && position < kNumbers.size() ? std::string(kNumbers[position]) : std::to_string(number);
+  if (number < 1 || position >= kNumbers.size()) return std::to_string(number);
+  return Phrase::Of(std::string(kNumbers[position]));
 }
 
-std::string AnyOf(WeekdaySet weekdays) {
-  std::string text;
+Phrase AnyOf(WeekdaySet weekdays) {
+  Phrase days;
   for (int k = 0; k < 7; ++k) {
     const int weekday = (k + 1) % 7 + 1;
     if (!weekdays.Contains(weekday)) continue;
-    if (!text.empty()) text += " or ";
-    text += "a ";
-    text += WeekdayName(weekday);
+    const Phrase day = Phrase::Of("a %1", {Weekday(weekday)});
+    days = days.IsEmpty() ? day : Phrase::Of("%1 or %2", {days, day});
   }
-  return text;
+  return days;
 }
 
 std::string_view OrdinalWord(int ordinal) { return kOrdinals.at(static_cast<std::size_t>(ordinal)); }

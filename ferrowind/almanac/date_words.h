@@ -6,8 +6,9 @@
 #include <string_view>
 
 #include "ferrowind/almanac/date_expression.h"
+#include "ferrowind/platform/values/phrase.h"
 
-/// Dates in English, for expressions and for the sentences that operators read.
+/// Dates for the sentences that operators read, and in English for expressions.
 namespace ferrowind::almanac {
 
 /// "Sunday" for 1 to "Saturday" for 7.
@@ -16,14 +17,18 @@ namespace ferrowind::almanac {
 [[nodiscard]] std::optional<int> WeekdayNamed(std::string_view name);
 /// "January" for 1 to "December" for 12.
 [[nodiscard]] std::string_view MonthName(int month);
+/// The name of the weekday as a phrase.
+[[nodiscard]] platform::Phrase Weekday(int weekday);
 /// "16 April".
-[[nodiscard]] std::string DayAndMonth(int month, int day);
+[[nodiscard]] platform::Phrase DayAndMonth(int month, int day);
 /// "16 April 2028".
-[[nodiscard]] std::string LongDate(std::int32_t serial);
-/// "two" to "twelve" in words, others in digits.
-[[nodiscard]] std::string NumberWord(int number);
+[[nodiscard]] platform::Phrase LongDate(std::int32_t serial);
+/// "Sunday 16 April 2028".
+[[nodiscard]] platform::Phrase LongDay(std::int32_t serial);
+/// "one" to "twelve" in words, others in digits.
+[[nodiscard]] platform::Phrase NumberWord(int number);
 /// "a Saturday or a Sunday", Monday first.
-[[nodiscard]] std::string AnyOf(WeekdaySet weekdays);
+[[nodiscard]] platform::Phrase AnyOf(WeekdaySet weekdays);
 /// "first" to "fifth", and "last".
 [[nodiscard]] std::string_view OrdinalWord(int ordinal);
 /// "on or after".

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -54,7 +55,7 @@ struct Finding {
   /// Nothing when the finding is about no single day.
   std::optional<platform::Date> day;
   /// For operators, with the currency, the year and the day in it; ends with a full stop.
-  std::string sentence;
+  platform::Phrase sentence;
 };
 
 /// Worst first; of one level by currency, year and day. What is about a whole year or currency stands before

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ferrowind/almanac/year_plan.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -14,15 +15,16 @@ class PlanReasons {
   explicit PlanReasons(const YearPlan& plan) : plan_(plan) {}
 
   /// As the plan's functions of these names.
-  [[nodiscard]] std::string WhyOf(int day_of_year) const;
+  [[nodiscard]] platform::Phrase WhyOf(int day_of_year) const;
+  [[nodiscard]] platform::Phrase AlsoOn(int day_of_year) const;
   [[nodiscard]] std::string CommentOf(const PlannedDay& day) const;
 
  private:
-  [[nodiscard]] std::string Reason(const PlannedDay& day) const;
-  [[nodiscard]] std::string ReasonOfMove(const PlannedDay& day) const;
-  [[nodiscard]] std::string ReasonOfBetween(const PlannedDay& day) const;
+  [[nodiscard]] platform::Phrase Reason(const PlannedDay& day) const;
+  [[nodiscard]] platform::Phrase ReasonOfMove(const PlannedDay& day) const;
+  [[nodiscard]] platform::Phrase ReasonOfBetween(const PlannedDay& day) const;
   [[nodiscard]] std::string NameOn(int day_of_year) const;
-  [[nodiscard]] std::string ReasonOf(const YearPlan::Other& other) const;
+  [[nodiscard]] platform::Phrase ReasonOf(const YearPlan::Other& other) const;
   /// Whether the book's weekday rules close the day.
   [[nodiscard]] bool IsWeekend(std::int32_t serial) const;
   /// Whether another rule of the book names its moved days so too.

@@ -26,7 +26,7 @@ YearPlan Planner::Plan(int year) const {
   }
   if (!Book().HoldsIn(year)) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            Book().WhyNotIn(year, Book().publisher));
+                            Book().WhyNotIn(year, Book().publisher).InEnglish());
   }
   return PlanBuilder(*prepared_, year).Build();
 }

@@ -14,15 +14,11 @@ namespace ferrowind::almanac {
 namespace {
 
 using platform::Date;
+using platform::Phrase;
 
 constexpr int kSeptember = 9;
 /// How far a year may go beyond the other years of its currency before its number of holidays is unusual.
 constexpr int kUsualDifference = 2;
-
-/// "Friday 14 April 2028".
-std::string DateInWords(const Date& date) {
-  return std::string(WeekdayName(date.Weekday())) + " " + LongDate(date.Serial());
-}
 
 bool IsBlank(const std::string& text) { return platform::Trim(text).empty(); }
 
@@ -50,12 +46,13 @@ class CurrencyReview {
 
  private:
   void Add(FindingLevel level, FindingSubject subject, std::optional<int> year, std::optional<Date> day,
-           std::string sentence) {
+           Phrase sentence) {
     findings_.push_back({level, subject, currency_.code, year, day, std::move(sentence)});
   }
 
-  void AddDay(FindingLevel level, FindingSubject subject, const Date& day, const std::string& predicate) {
-    Add(level, subject, day.Year(), day, currency_.code + ": " + DateInWords(day) + " " + predicate + ".");
+  void AddDay(FindingLevel level, FindingSubject subject, const Date& day, const Phrase& predicate) {
+    Add(level, subject, day.Year(), day,
+        Phrase::Of("%1: %2 %3.", {currency_.code, LongDay(day.Serial()), predicate}));
   }
 
   [[nodiscard]] std::string Calendar(int year) const { return currency_.code + " " + std::to_string(year); }
@@ -63,11 +60,11 @@ class CurrencyReview {
   void ReviewBook() {
     for (const std::string& fault : currency_.book_faults) {
       Add(FindingLevel::kWarning, FindingSubject::kFaultyBook, {}, {},
-          "The book of " + currency_.code + " cannot be used: " + fault + ".");
+          Phrase::Of("The book of %1 cannot be used: %2.", {currency_.code, fault}));
     }
     if (!currency_.book && currency_.book_faults.empty()) {
       Add(FindingLevel::kNote, FindingSubject::kNoBook, {}, {},
-          currency_.code + " has no book, so nothing tells what its calendars should be.");
+          Phrase::Of("%1 has no book, so nothing tells what its calendars should be.", {currency_.code}));
     }
     if (currency_.book) ReviewYearsBeforeBook(*currency_.book);
   }
@@ -77,9 +74,11 @@ class CurrencyReview {
                                       [&](const auto& calendar) { return !book.HoldsIn(calendar.year); });
     if (before == 0) return;
     Add(FindingLevel::kNote, FindingSubject::kBeforeBook, {}, {},
-        "The book of " + currency_.code + " holds from " + std::to_string(*book.since) + " on, and " +
-            (before == 1 ? "a calendar of an earlier year is" : "calendars of earlier years are") +
-            " compared with no plan.");
+        Phrase::OfNumber(
+            before,
+            "The book of %1 holds from %2 on, and a calendar of an earlier year is compared with no plan.",
+            "The book of %1 holds from %2 on, and calendars of earlier years are compared with no plan.",
+            {currency_.code, std::to_string(*book.since)}));
   }
 
   void ReviewYears(const ReviewHorizon& horizon) {
@@ -91,8 +90,9 @@ class CurrencyReview {
       if (is_there) continue;
       const bool is_running = year == horizon.running_year;
       Add(is_running ? FindingLevel::kError : FindingLevel::kWarning, FindingSubject::kMissingYear, year, {},
-          currency_.code + " has no calendar for " + std::to_string(year) +
-              (is_running ? ", the running year." : "."));
+          Phrase::Of(
+              is_running ? "%1 has no calendar for %2, the running year." : "%1 has no calendar for %2.",
+              {currency_.code, std::to_string(year)}));
     }
   }
 
@@ -101,7 +101,8 @@ class CurrencyReview {
                                           [](const auto& day) { return day.kind == RuleKind::kWeekday; });
     if (!has_weekends) {
       Add(FindingLevel::kError, FindingSubject::kNoWeekends, calendar.year, {},
-          Calendar(calendar.year) + " has no weekends: no weekday holiday closes any of its days.");
+          Phrase::Of("%1 has no weekends: no weekday holiday closes any of its days.",
+                     {Calendar(calendar.year)}));
     }
     const bool is_planned = planner_ && planner_->Reaches(calendar.year);
     bool is_odd = !is_planned;
@@ -131,33 +132,31 @@ class CurrencyReview {
 
   void ReviewDifference(const Comparison& comparison, const ComparedDay& day) {
     const ComparisonLine line = comparison.LineOf(day);
-    std::string should = " and should be ";
-    if (line.should) {
-      should += *line.should + " (" + line.why + ")";
-    } else {
-      // Behind "an ordinary working day" the reason has what else would be there.
-      should += "a working day" + line.why.substr(std::min(line.why.find(';'), line.why.size()));
-    }
+    const Phrase should = line.should
+                              ? Phrase::Of("%1 (%2)", {*line.should, line.why})
+                              : Phrase::Of("a working day%1", {comparison.Plan().AlsoOn(day.day_of_year)});
     if (day.action != PlanAction::kException) {
       AddDay(FindingLevel::kWarning, FindingSubject::kDiffersFromPlan, line.date,
-             "is " + line.now.value_or("a working day") + should);
+             Phrase::Of("is %1 and should be %2",
+                        {line.now ? Phrase(*line.now) : Phrase::Of("a working day"), should}));
     } else if (IsBlank(day.now->comment)) {
       AddDay(FindingLevel::kWarning, FindingSubject::kExceptionWithoutReason, line.date,
-             "is a working day by exception, without a reason," + should);
+             Phrase::Of("is a working day by exception, without a reason, and should be %1", {should}));
     } else {
       AddDay(FindingLevel::kNote, FindingSubject::kExceptionWithReason, line.date,
-             "is a working day by exception, \"" + day.now->comment + "\", where the plan has " +
-                 line.should.value_or("none"));
+             Phrase::Of("is a working day by exception, \"%1\", where the plan has %2",
+                        {day.now->comment, line.should ? Phrase(*line.should) : Phrase::Of("none")}));
     }
   }
 
   void ReviewUnknown(const Comparison& comparison, const ReviewHorizon& horizon) {
     const YearPlan& plan = comparison.Plan();
-    const std::vector<std::string> sentences = plan.Incomplete();
+    const std::vector<Phrase> sentences = plan.Incomplete();
     for (std::size_t i = 0; i < sentences.size(); ++i) {
       const bool is_late = plan.Year() <= horizon.running_year && !comparison.IsEntered(plan.Unknown()[i]);
       Add(is_late ? FindingLevel::kWarning : FindingLevel::kNote, FindingSubject::kIncompletePlan,
-          plan.Year(), {}, Calendar(plan.Year()) + " cannot be judged in full. " + sentences[i] + ".");
+          plan.Year(), {},
+          Phrase::Of("%1 cannot be judged in full. %2.", {Calendar(plan.Year()), sentences[i]}));
     }
   }
 
@@ -166,21 +165,20 @@ class CurrencyReview {
     const Date date = Date(year, 1, 1).AddDays(day.day_of_year - 1);
     if (day.kind == RuleKind::kWorkingDay && IsBlank(day.comment)) {
       AddDay(FindingLevel::kWarning, FindingSubject::kExceptionWithoutReason, date,
-             "is a working day by exception, without a reason");
+             Phrase::Of("is a working day by exception, without a reason"));
     }
     const KnownRule* const rule = rules_.Find(day.rule);
     if (rule == nullptr) return;
     if (day.kind == RuleKind::kCelebration && (date.Month() != rule->month || date.Day() != rule->day) &&
         !StandsInForLeapDay(*rule, date)) {
       AddDay(FindingLevel::kWarning, FindingSubject::kOtherDate, date,
-             "is " + rule->name + ", whose date is " + DayAndMonth(rule->month, rule->day));
+             Phrase::Of("is %1, whose date is %2", {rule->name, DayAndMonth(rule->month, rule->day)}));
     }
     if (day.kind != RuleKind::kPoint) return;
     const std::optional<int> usual = History().OnlyWeekdayOf(day.rule, year);
     if (usual && *usual != date.Weekday()) {
       AddDay(FindingLevel::kWarning, FindingSubject::kOtherWeekday, date,
-             "is " + rule->name + ", which is on a " + std::string(WeekdayName(*usual)) +
-                 " in every other year");
+             Phrase::Of("is %1, which is on a %2 in every other year", {rule->name, Weekday(*usual)}));
     }
   }
 
@@ -191,12 +189,13 @@ class CurrencyReview {
         (holidays >= usual->least - kUsualDifference && holidays <= usual->most + kUsualDifference)) {
       return;
     }
-    const std::string range = usual->least == usual->most
-                                  ? std::to_string(usual->least)
-                                  : std::to_string(usual->least) + " to " + std::to_string(usual->most);
+    const std::string least = std::to_string(usual->least);
+    const Phrase range = usual->least == usual->most
+                             ? Phrase(least)
+                             : Phrase::Of("%1 to %2", {least, std::to_string(usual->most)});
     Add(FindingLevel::kNote, FindingSubject::kUnusualNumber, year, {},
-        Calendar(year) + " has an unusual number of holidays beside its weekends: " +
-            std::to_string(holidays) + ", and " + range + " in the other years.");
+        Phrase::Of("%1 has an unusual number of holidays beside its weekends: %2, and %3 in the other years.",
+                   {Calendar(year), std::to_string(holidays), range}));
   }
 
   /// Made only for currencies that need it.

@@ -6,9 +6,9 @@ std::string BookRule::NameOfMovedDay() const {
   return moved_name.empty() ? name + " (observed)" : moved_name;
 }
 
-std::string RuleBook::WhyNotIn(int year, const std::string& owner) const {
-  return "The book of " + owner + " holds from " + std::to_string(*since) + " on, so it does not tell what " +
-         std::to_string(year) + " should be";
+platform::Phrase RuleBook::WhyNotIn(int year, const std::string& owner) const {
+  return platform::Phrase::Of("The book of %1 holds from %2 on, so it does not tell what %3 should be",
+                              {owner, std::to_string(*since), std::to_string(year)});
 }
 
 }  // namespace ferrowind::almanac

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/date_expression.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -48,7 +49,7 @@ struct RuleBook {
   /// Why nothing can be planned for `year` by the book of `owner`, without a full stop: "The book of EUR
   /// holds from 2015 on, so it does not tell what 2012 should be". Precondition: it does not hold in that
   /// year.
-  [[nodiscard]] std::string WhyNotIn(int year, const std::string& owner) const;
+  [[nodiscard]] platform::Phrase WhyNotIn(int year, const std::string& owner) const;
   bool operator==(const RuleBook&) const = default;
 };
 

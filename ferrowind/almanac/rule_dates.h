@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/planner.h"
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/phrase.h"
 
 /// What a rule does in years, for who writes it.
 namespace ferrowind::almanac {
@@ -18,7 +18,7 @@ struct RuleDate {
   /// rule has the day; `why` tells which.
   bool has_day = true;
   /// What the plan says of the day (`YearPlan::WhyOf`).
-  std::string why;
+  platform::Phrase why;
 };
 
 struct RuleYear {

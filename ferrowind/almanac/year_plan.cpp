@@ -5,13 +5,16 @@
 #include "ferrowind/almanac/plan_reasons.h"
 
 namespace ferrowind::almanac {
+
+using platform::Phrase;
+
 namespace {
 
-std::string WhyUnknown(const UnknownDates& unknown) {
-  if (unknown.table.empty()) return "the book has no day of that year yet";
-  if (unknown.last_year == 0) return "there is no table " + unknown.table;
-  return "the table " + unknown.table + " reaches from " + std::to_string(unknown.first_year) + " to " +
-         std::to_string(unknown.last_year);
+Phrase WhyUnknown(const UnknownDates& unknown) {
+  if (unknown.table.empty()) return Phrase::Of("the book has no day of that year yet");
+  if (unknown.last_year == 0) return Phrase::Of("there is no table %1", {unknown.table});
+  return Phrase::Of("the table %1 reaches from %2 to %3",
+                    {unknown.table, std::to_string(unknown.first_year), std::to_string(unknown.last_year)});
 }
 
 }  // namespace
@@ -38,13 +41,16 @@ platform::Date YearPlan::DateOf(const PlannedDay& day) const {
   return platform::Date(year_, 1, 1).AddDays(day.day_of_year - 1);
 }
 
-std::string YearPlan::WhyOf(int day_of_year) const { return PlanReasons(*this).WhyOf(day_of_year); }
+Phrase YearPlan::WhyOf(int day_of_year) const { return PlanReasons(*this).WhyOf(day_of_year); }
 
-std::vector<std::string> YearPlan::Incomplete() const {
-  std::vector<std::string> sentences;
+Phrase YearPlan::AlsoOn(int day_of_year) const { return PlanReasons(*this).AlsoOn(day_of_year); }
+
+std::vector<Phrase> YearPlan::Incomplete() const {
+  std::vector<Phrase> sentences;
   for (const UnknownDates& unknown : unknown_) {
-    sentences.push_back("The date of " + book_->rules[unknown.rule].name + " in " + std::to_string(year_) +
-                        " is not known: " + WhyUnknown(unknown));
+    sentences.push_back(
+        Phrase::Of("The date of %1 in %2 is not known: %3",
+                   {book_->rules[unknown.rule].name, std::to_string(year_), WhyUnknown(unknown)}));
   }
   return sentences;
 }

@@ -9,6 +9,7 @@
 
 #include "ferrowind/almanac/rule_book.h"
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -67,12 +68,14 @@ class YearPlan {
 
   /// Why the day is what it is, a sentence without a full stop, for operators: "Easter Sunday 16 April 2028,
   /// two days before"; for an ordinary working day, too. Precondition: 1 to 365 or 366.
-  [[nodiscard]] std::string WhyOf(int day_of_year) const;
+  [[nodiscard]] platform::Phrase WhyOf(int day_of_year) const;
+  /// The end of that sentence: what else came to the day, each behind a semicolon; says nothing without any.
+  [[nodiscard]] platform::Phrase AlsoOn(int day_of_year) const;
 
   /// Empty when the plan is complete.
   [[nodiscard]] const std::vector<UnknownDates>& Unknown() const { return unknown_; }
   /// For operators, a sentence for each of `Unknown`.
-  [[nodiscard]] std::vector<std::string> Incomplete() const;
+  [[nodiscard]] std::vector<platform::Phrase> Incomplete() const;
 
  private:
   friend class PlanBuilder;

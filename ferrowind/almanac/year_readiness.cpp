@@ -67,7 +67,7 @@ class CurrencyReadiness {
       year.readiness = Readiness::kDiffers;
     }
     if (plan.Unknown().empty()) return;
-    const std::vector<std::string> sentences = plan.Incomplete();
+    const std::vector<platform::Phrase> sentences = plan.Incomplete();
     for (std::size_t i = 0; i < sentences.size(); ++i) {
       if (!comparison.IsEntered(plan.Unknown()[i])) year.unpublished.push_back(sentences[i]);
     }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/review.h"
 #include "ferrowind/almanac/rule_directory.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -41,7 +41,7 @@ struct YearReadiness {
   /// ones, since somebody has decided so.
   int excepted_days = 0;
   /// What the plan does not know and nobody has entered, a sentence without a full stop for each rule.
-  std::vector<std::string> unpublished;
+  std::vector<platform::Phrase> unpublished;
 };
 
 /// How `currency` stands in each of the years from `first_year` to `last_year`.

@@ -4,44 +4,32 @@
 #include <utility>
 
 namespace ferrowind {
+
+using platform::Phrase;
+
 namespace {
 
-std::string Filled(const std::string& text, const std::vector<std::string>& arguments,
-                   const std::optional<std::int64_t>& number) {
-  std::string filled;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char next = text[i] == '%' && i + 1 < text.size() ? text[i + 1] : '\0';
-    const auto argument = static_cast<std::size_t>(next - '1');
-    if (next == 'n' && number) {
-      filled += std::to_string(*number);
-      ++i;
-    } else if (next >= '1' && next <= '9' && argument < arguments.size()) {
-      filled += arguments[argument];
-      ++i;
-    } else {
-      filled += text[i];
-    }
-  }
-  return filled;
-}
-
-std::optional<std::string> Translated(const platform::Platform& platform, const std::string& text,
-                                      const std::optional<std::int64_t>& number) {
-  if (platform.words == nullptr || text.empty()) return std::nullopt;
-  return platform.words->Translate(text, number);
+std::vector<Phrase> AsTheyStand(const std::vector<std::string>& arguments) {
+  return {arguments.begin(), arguments.end()};
 }
 
 }  // namespace
 
+std::string Said(const platform::Platform& platform, const Phrase& phrase) {
+  if (platform.words == nullptr) return phrase.InEnglish();
+  return phrase.In([&](const std::string& text, const std::optional<std::int64_t>& number) {
+    return platform.words->Translate(text, number);
+  });
+}
+
 std::string Said(const platform::Platform& platform, const std::string& text,
                  const std::vector<std::string>& arguments) {
-  return Filled(Translated(platform, text, std::nullopt).value_or(text), arguments, std::nullopt);
+  return Said(platform, Phrase::Of(text, AsTheyStand(arguments)));
 }
 
 std::string SaidOfNumber(const platform::Platform& platform, std::int64_t number, const std::string& one,
                          const std::string& many, const std::vector<std::string>& arguments) {
-  const auto translated = Translated(platform, many, number);
-  return Filled(translated.value_or(number == 1 ? one : many), arguments, number);
+  return Said(platform, Phrase::OfNumber(number, one, many, AsTheyStand(arguments)));
 }
 
 platform::FormDesign Said(const platform::Platform& platform, platform::FormDesign design) {

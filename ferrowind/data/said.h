@@ -7,12 +7,14 @@
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/platform/toolkit/form_design.h"
 #include "ferrowind/platform/toolkit/tool_bar.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind {
 
-/// An English text as the operator reads it: translated where the host brings words (`Platform::words`), with
-/// "%1" to "%9" replaced by the arguments. A placeholder without an argument stays; what stands in an
-/// argument is never taken for a placeholder.
+/// A phrase as the operator reads it: translated where the host brings words (`Platform::words`).
+[[nodiscard]] std::string Said(const platform::Platform& platform, const platform::Phrase& phrase);
+
+/// An English text as the operator reads it, with the arguments as they stand in the places of `Phrase::Of`.
 [[nodiscard]] std::string Said(const platform::Platform& platform, const std::string& text,
                                const std::vector<std::string>& arguments = {});
 

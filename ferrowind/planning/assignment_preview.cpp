@@ -6,6 +6,7 @@
 
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_words.h"
 
 namespace ferrowind::planning {
@@ -15,18 +16,16 @@ using almanac::MarkedDay;
 using almanac::RuleKind;
 using platform::Date;
 
-std::string Weekday(int weekday) { return std::string(almanac::WeekdayName(weekday)); }
+std::string Weekday(int weekday) { return InWords(almanac::Weekday(weekday)); }
 
-std::string InWords(const Date& day) {
-  return Weekday(day.Weekday()) + " " + almanac::LongDate(day.Serial());
-}
+std::string Told(const Date& day) { return InWords(almanac::LongDay(day.Serial())); }
 
 /// "a, b and c".
 std::string Listed(const std::vector<std::string>& items) {
   std::string list;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    if (i > 0) list += i + 1 == items.size() ? " and " : ", ";
-    list += items[i];
+    const bool is_last = i + 1 == items.size();
+    list = i == 0 ? items[i] : InWords(is_last ? "%1 and %2" : "%1, %2", {list, items[i]});
   }
   return list;
 }
@@ -37,9 +36,9 @@ std::string Listed(const std::vector<Date>& days) {
   std::vector<std::string> items;
   for (const Date& day : days) {
     if (items.size() == kMost) break;
-    items.push_back(InWords(day));
+    items.push_back(Told(day));
   }
-  if (days.size() > kMost) items.push_back(std::to_string(days.size() - kMost) + " more");
+  if (days.size() > kMost) items.push_back(InWords(days.size() - kMost, "%n more", "%n more"));
   return Listed(items);
 }
 
@@ -55,14 +54,14 @@ class Preview {
       AssignEveryWeek(rule, line);
     } else if (rule.kind == RuleKind::kWeekday) {
       if (rule.weekday != day_->Weekday()) {
-        line.warnings.push_back("It is for " + Weekday(rule.weekday) + "s, and the day is a " +
-                                Weekday(day_->Weekday()));
+        line.warnings.push_back(
+            InWords("It is for %1s, and the day is a %2", {Weekday(rule.weekday), Weekday(day_->Weekday())}));
       }
       AssignTo(*day_, rule, line);
     } else if (rule.date) {
       AssignDated(rule, line);
     } else {
-      line.warnings.emplace_back("It has no date, so that nothing is assigned");
+      line.warnings.push_back(InWords("It has no date, so that nothing is assigned"));
     }
     WarnOfOwner(rule, line);
     return line;
@@ -70,10 +69,10 @@ class Preview {
 
  private:
   void AssignEveryWeek(const RuleToAssign& rule, AssignmentLine& line) {
-    line.days = "every " + Weekday(rule.weekday);
-    int taken = 0;
-    int kept = 0;
-    int had = 0;
+    line.days = InWords("every %1", {Weekday(rule.weekday)});
+    std::size_t taken = 0;
+    std::size_t kept = 0;
+    std::size_t had = 0;
     const Date new_year(calendar_.Year(), 1, 1);
     for (int day = 1; day <= platform::DaysInYear(calendar_.Year()); ++day) {
       if (new_year.AddDays(day - 1).Weekday() != rule.weekday) continue;
@@ -88,10 +87,11 @@ class Preview {
       }
     }
     line.changes = taken > 0;
-    std::vector<std::string> parts{std::to_string(taken) + (taken == 1 ? " day takes it" : " days take it")};
-    if (had > 0) parts.push_back(std::to_string(had) + (had == 1 ? " has it" : " have it"));
+    std::vector<std::string> parts{InWords(taken, "%n day takes it", "%n days take it")};
+    if (had > 0) parts.push_back(InWords(had, "%n has it", "%n have it"));
     if (kept > 0) {
-      parts.push_back(std::to_string(kept) + (kept == 1 ? " stays" : " stay") + " as holidays or exceptions");
+      parts.push_back(
+          InWords(kept, "%n stays as holidays or exceptions", "%n stay as holidays or exceptions"));
     }
     line.now = Listed(parts);
     WarnOfWeekday(rule, line);
@@ -101,34 +101,36 @@ class Preview {
     const Date day = rule.date->AddYears(calendar_.Year() - rule.date->Year());
     const std::vector<Date> planned = calendar_.PlannedDaysOf(rule.name);
     const bool is_planned = std::find(planned.begin(), planned.end(), day) != planned.end();
-    if (day_ && day != *day_) line.warnings.push_back("It goes to its own date, not to " + InWords(*day_));
+    if (day_ && day != *day_)
+      line.warnings.push_back(InWords("It goes to its own date, not to %1", {Told(*day_)}));
     if (rule.kind == RuleKind::kPoint && rule.date->Year() != calendar_.Year() && !is_planned) {
-      line.warnings.push_back("It is dated for " + std::to_string(rule.date->Year()) + ", on " +
-                              InWords(*rule.date));
+      line.warnings.push_back(
+          InWords("It is dated for %1, on %2", {std::to_string(rule.date->Year()), Told(*rule.date)}));
     }
     if (!is_planned && !planned.empty()) {
-      line.warnings.push_back("The book of " + calendar_.Owner().code + " has it on " + Listed(planned));
+      line.warnings.push_back(
+          InWords("The book of %1 has it on %2", {calendar_.Owner().code, Listed(planned)}));
     }
     WarnOfDay(day, rule, line);
     AssignTo(day, rule, line);
   }
 
   void WarnOfDay(const Date& day, const RuleToAssign& rule, AssignmentLine& line) const {
-    if (IsWeekend(day)) line.warnings.push_back("It falls on a " + Weekday(day.Weekday()));
+    if (IsWeekend(day)) line.warnings.push_back(InWords("It falls on a %1", {Weekday(day.Weekday())}));
     std::vector<Date> elsewhere;
     for (const auto& [number, marked] : days_) {
       if (marked.rule == rule.id && number != day.DayOfYear()) elsewhere.push_back(DateOf(number));
     }
-    if (!elsewhere.empty()) line.warnings.push_back("It stands on " + Listed(elsewhere) + " already");
+    if (!elsewhere.empty()) line.warnings.push_back(InWords("It stands on %1 already", {Listed(elsewhere)}));
   }
 
   void AssignTo(const Date& day, const RuleToAssign& rule, AssignmentLine& line) {
     line.day = day;
     const auto marked = days_.find(day.DayOfYear());
-    line.now = marked == days_.end() ? kOrdinaryDay : NameOf(marked->second);
+    line.now = marked == days_.end() ? InWords(kOrdinaryDay) : NameOf(marked->second);
     line.changes = marked == days_.end() || marked->second.rule != rule.id;
     if (marked != days_.end() && marked->second.rule == almanac::kExceptionRule) {
-      line.warnings.emplace_back("The day is a working day by exception, and would be closed");
+      line.warnings.push_back(InWords("The day is a working day by exception, and would be closed"));
     }
     days_[day.DayOfYear()] = {static_cast<std::int16_t>(day.DayOfYear()), rule.kind, rule.id, {}};
   }
@@ -137,8 +139,9 @@ class Preview {
     if (calendar_.IsInBook(rule.id)) return;
     const auto others = calendar_.OtherBooksOf(rule.id);
     if (others.empty()) return;
-    line.warnings.push_back("It belongs to the book" + std::string(others.size() == 1 ? "" : "s") + " of " +
-                            Listed(others) + ", not to that of " + calendar_.Owner().code);
+    const char* const text = others.size() == 1 ? "It belongs to the book of %1, not to that of %2"
+                                                : "It belongs to the books of %1, not to that of %2";
+    line.warnings.push_back(InWords(text, {Listed(others), calendar_.Owner().code}));
   }
 
   void WarnOfWeekday(const RuleToAssign& rule, AssignmentLine& line) const {
@@ -149,8 +152,8 @@ class Preview {
              calendar_.Plan()->DateOf(day).Weekday() == rule.weekday;
     });
     if (!closes) {
-      line.warnings.push_back("The book of " + calendar_.Owner().code + " closes no " +
-                              Weekday(rule.weekday) + "s");
+      line.warnings.push_back(
+          InWords("The book of %1 closes no %2s", {calendar_.Owner().code, Weekday(rule.weekday)}));
     }
   }
 
@@ -170,7 +173,7 @@ class Preview {
 
   [[nodiscard]] std::string NameOf(const MarkedDay& day) const {
     const auto* const rule = calendar_.Rules().Find(day.rule);
-    const std::string name = rule == nullptr ? "rule " + std::to_string(day.rule) : rule->name;
+    const std::string name = rule == nullptr ? InWords("rule %1", {std::to_string(day.rule)}) : rule->name;
     return day.comment.empty() ? name : name + ": " + day.comment;
   }
 

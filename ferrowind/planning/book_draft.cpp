@@ -6,6 +6,7 @@
 
 #include "ferrowind/almanac/expression_error.h"
 #include "ferrowind/almanac/planner.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -58,8 +59,9 @@ BookDraft::BookDraft(Currency currency, const almanac::DateTables& tables)
   const StoredBook* const stored = shelf_.Find(currency_);
   if (stored == nullptr) return;
   if (!stored->book) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            "The book of " + currency_.code + " cannot be read: " + stored->faults.front());
+    throw platform::Failure(
+        platform::failure_number::kInvalidArgument,
+        InWords("The book of %1 cannot be read: %2", {currency_.code, stored->faults.front()}));
   }
   fingerprint_ = stored->fingerprint;
   stored_ = stored->book;
@@ -99,12 +101,12 @@ std::vector<std::string> BookDraft::Faults() const {
   if (IsEmpty()) return faults;
   for (std::size_t position = 0; position < rules_.size(); ++position) {
     if (const auto fault = FaultOfExpression(position))
-      faults.push_back("The rule " + std::to_string(position + 1) + ", \"" + rules_[position].name +
-                       "\": " + *fault);
+      faults.push_back(
+          InWords("The rule %1, \"%2\": %3", {std::to_string(position + 1), rules_[position].name, *fault}));
   }
-  if (platform::Trim(head_.publisher).empty()) faults.emplace_back("The book names no publisher");
-  if (platform::Trim(head_.document).empty()) faults.emplace_back("The book names no document");
-  if (HasFaultySince()) faults.push_back("The book holds since \"" + since_ + "\", which is no year");
+  if (platform::Trim(head_.publisher).empty()) faults.push_back(InWords("The book names no publisher"));
+  if (platform::Trim(head_.document).empty()) faults.push_back(InWords("The book names no document"));
+  if (HasFaultySince()) faults.push_back(InWords("The book holds since \"%1\", which is no year", {since_}));
   if (!faults.empty()) return faults;
   return shelf_.FaultsWith({{currency_, ReadableBook(0).book}});
 }

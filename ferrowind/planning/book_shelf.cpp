@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::planning {
@@ -28,7 +29,8 @@ const StoredBook* BookShelf::Find(const Currency& currency) const {
 const StoredBook& BookShelf::Get(const Currency& currency) const {
   const StoredBook* const stored = Find(currency);
   if (stored == nullptr) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument, currency.code + " has no rule book");
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            InWords("%1 has no rule book", {currency.code}));
   }
   return *stored;
 }

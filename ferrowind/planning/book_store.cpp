@@ -4,6 +4,7 @@
 
 #include "ferrowind/almanac/book_faults.h"
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/json_text.h"
 
@@ -27,7 +28,7 @@ BookRule ReadRule(const RecordSet& row) {
   if (kind < static_cast<std::int32_t>(RuleKind::kWorkingDay) ||
       kind > static_cast<std::int32_t>(RuleKind::kPoint)) {
     throw Failure(platform::failure_number::kInvalidArgument,
-                  "there is no type " + std::to_string(kind) + " of rules");
+                  InWords("there is no type %1 of rules", {std::to_string(kind)}));
   }
   rule.kind = static_cast<RuleKind>(kind);
   rule.expression = almanac::DateExpression::Parse(platform::ToText(row["Expression"]));
@@ -40,8 +41,9 @@ void ReadRules(RecordSet& rules, RuleBook& book, StoredBook& stored) {
     try {
       book.rules.push_back(ReadRule(rules));
     } catch (const Failure& failure) {
-      stored.faults.push_back("The rule " + platform::ToTextOrEmpty(rules["Position"]) + ", \"" +
-                              platform::ToTextOrEmpty(rules["Name1"]) + "\": " + failure.Description());
+      stored.faults.push_back(InWords("The rule %1, \"%2\": %3",
+                                      {platform::ToTextOrEmpty(rules["Position"]),
+                                       platform::ToTextOrEmpty(rules["Name1"]), failure.Description()}));
     }
   }
 }
@@ -88,12 +90,12 @@ std::string RulesJson(const RuleBook& book) {
 }  // namespace
 
 std::vector<StoredBook> LoadBooks(const almanac::DateTables& tables) {
-  return Load("Reading the books", {}, tables);
+  return Load(InWords("Reading the books"), {}, tables);
 }
 
 std::optional<StoredBook> LoadBook(std::int32_t id, const std::string& code,
                                    const almanac::DateTables& tables) {
-  std::vector<StoredBook> books = Load("Reading the book of " + code, id, tables);
+  std::vector<StoredBook> books = Load(InWords("Reading the book of %1", {code}), id, tables);
   if (books.empty()) return std::nullopt;
   return std::move(books.front());
 }
@@ -106,14 +108,14 @@ void StoreBook(std::int32_t id, const std::string& code, const std::string& expe
   parameters.Add("Document", book.document);
   parameters.Add("Rules", RulesJson(book));
   if (book.since) parameters.Add("FromYear", static_cast<std::int32_t>(*book.since));
-  (void)CallDatabase("Writing the book of " + code, "CldIUBook", parameters);
+  (void)CallDatabase(InWords("Writing the book of %1", {code}), "CldIUBook", parameters);
 }
 
 void RemoveBook(std::int32_t id, const std::string& code, const std::string& expected) {
   SourceValues parameters;
   parameters.Add("ID1", id);
   parameters.Add("Expected", expected);
-  (void)CallDatabase("Removing the book of " + code, "CldIUBook", parameters);
+  (void)CallDatabase(InWords("Removing the book of %1", {code}), "CldIUBook", parameters);
 }
 
 }  // namespace ferrowind::planning

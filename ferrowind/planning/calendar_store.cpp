@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::planning {
@@ -19,7 +20,7 @@ using platform::RecordSet;
 using platform::Value;
 
 std::string Reading(const Currency& currency, int year) {
-  return "Reading the calendar " + currency.code + " " + std::to_string(year);
+  return InWords("Reading the calendar %1 %2", {currency.code, std::to_string(year)});
 }
 
 SourceValues CalendarParameters(const Currency& currency, int year) {
@@ -91,7 +92,7 @@ std::optional<CalendarContent> LoadDays(const Currency& currency, int year) {
 }
 
 StoredRules LoadRules() {
-  const CallAnswer answer = CallDatabase("Reading the rules", "CldAllInfo", {}, 3);
+  const CallAnswer answer = CallDatabase(InWords("Reading the rules"), "CldAllInfo", {}, 3);
   StoredRules stored;
   RecordSet& calendars = *answer.record_sets[0];
   for (calendars.MoveFirst(); !calendars.Eof(); calendars.MoveNext()) {
@@ -118,7 +119,7 @@ std::vector<std::pair<CalendarKey, CalendarContent>> LoadMarkedDays(int first_ye
   parameters.Add("FromYear", static_cast<std::int32_t>(first_year));
   parameters.Add("ToYear", static_cast<std::int32_t>(last_year));
   const CallAnswer answer =
-      CallDatabase("Reading the days of all calendars", "CldGetMarkedDays", parameters, 1);
+      CallDatabase(InWords("Reading the days of all calendars"), "CldGetMarkedDays", parameters, 1);
   const RecordSet& rows = *answer.record_sets.front();
   const std::size_t currency = rows.FieldNamed("ID1");
   const std::size_t year = rows.FieldNamed("Year1");

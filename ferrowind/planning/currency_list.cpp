@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/conversion.h"
 
@@ -27,13 +28,14 @@ bool MeansAllCurrencies(std::string_view text) {
   return std::is_eq(platform::CompareIgnoringCase(text, "ALL"));
 }
 
-std::string EndOfMoney(const Currency& currency) {
-  if (!currency.is_money || !currency.last_day) return currency.code + " is no money";
-  return currency.code + " is money until " + currency.last_day->ToIso();
+platform::Phrase EndOfMoney(const Currency& currency) {
+  if (!currency.is_money || !currency.last_day)
+    return platform::Phrase::Of("%1 is no money", {currency.code});
+  return platform::Phrase::Of("%1 is money until %2", {currency.code, currency.last_day->ToIso()});
 }
 
 CurrencyList CurrencyList::Load() {
-  const CallAnswer answer = CallDatabase("Reading the currencies", "CldGetCurrencies", {}, 1);
+  const CallAnswer answer = CallDatabase(InWords("Reading the currencies"), "CldGetCurrencies", {}, 1);
   platform::RecordSet& rows = *answer.record_sets.front();
   std::vector<Currency> currencies;
   for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {

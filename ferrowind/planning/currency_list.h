@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::planning {
 
@@ -28,7 +29,7 @@ struct Currency {
 
 /// Why there are no calendars of a currency, in words for operators without a full stop: "SEK is money until
 /// 2028-12-31". Precondition: it is not live in some year.
-[[nodiscard]] std::string EndOfMoney(const Currency& currency);
+[[nodiscard]] platform::Phrase EndOfMoney(const Currency& currency);
 
 /// Whether a person who writes `text` for a currency means all of them: "ALL", in any letter case.
 [[nodiscard]] bool MeansAllCurrencies(std::string_view text);

@@ -6,11 +6,12 @@
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/record_set_in.h"
+#include "ferrowind/planning/in_words.h"
 
 namespace ferrowind::planning {
 namespace {
 
-std::string InWords(std::int32_t return_value) {
+const char* TextOf(std::int32_t return_value) {
   switch (return_value) {
     case 2:
       return "something else has that name already";
@@ -38,7 +39,7 @@ std::string InWords(std::int32_t return_value) {
 /// The failure that the gateway keeps, which it keeps no longer: it would be reported beside this one.
 platform::Failure TakeFailureOfCall(const std::string& doing) {
   if (std::exchange(Module().pending_failure_count, 0) == 0) {
-    return {platform::failure_number::kInvalidArgument, doing + ": the call failed"};
+    return {platform::failure_number::kInvalidArgument, InWords("%1: the call failed", {doing})};
   }
   const FailureRecord& pending = Module().pending_failures.front();
   return {pending.number, doing + ": " + pending.description};
@@ -47,9 +48,9 @@ platform::Failure TakeFailureOfCall(const std::string& doing) {
 }  // namespace
 
 Refusal::Refusal(const std::string& doing, const std::string& procedure, std::int32_t return_value)
-    : Failure(platform::failure_number::kInvalidArgument, doing + ": " + InWords(return_value) + " (" +
-                                                              procedure + " returned " +
-                                                              std::to_string(return_value) + ")"),
+    : Failure(platform::failure_number::kInvalidArgument,
+              InWords("%1: %2 (%3 returned %4)",
+                      {doing, InWords(TextOf(return_value)), procedure, std::to_string(return_value)})),
       return_value_(return_value) {}
 
 CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
@@ -73,9 +74,9 @@ CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
   }
   if (answer.record_sets.size() < least_record_sets) {
     throw platform::Failure(platform::failure_number::kSubscriptOutOfRange,
-                            doing + ": " + procedure + " gave only " +
-                                std::to_string(answer.record_sets.size()) + " of its " +
-                                std::to_string(least_record_sets) + " record sets");
+                            InWords("%1: %2 gave only %3 of its %4 record sets",
+                                    {doing, procedure, std::to_string(answer.record_sets.size()),
+                                     std::to_string(least_record_sets)}));
   }
   return answer;
 }

@@ -23,7 +23,7 @@ DatabaseReview ReviewContent(const DatabaseContent& content, const almanac::Date
                                {},
                                {},
                                {},
-                               "There is no calendar."});
+                               platform::Phrase::Of("There is no calendar.")});
   }
   review.calendars = content.calendars;
   review.currencies = content.judged.size();

@@ -5,6 +5,7 @@
 
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/local_moment.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -16,12 +17,7 @@ using almanac::MarkedDay;
 using almanac::PlanAction;
 using almanac::RuleKind;
 using platform::Date;
-
-/// A sentence of the plan as the end of another.
-std::string InSentence(std::string sentence) {
-  if (!sentence.empty() && sentence[0] == 'A') sentence[0] = 'a';
-  return sentence;
-}
+using platform::Phrase;
 
 bool HasDatedRule(const MarkedDay& day) { return day.IsClosed() && day.kind != RuleKind::kWeekday; }
 
@@ -54,9 +50,9 @@ const MarkedDay* CalendarStory::MarkedIn(int year, int day_of_year) const {
 }
 
 std::string CalendarStory::NameOf(const MarkedDay& day) const {
-  if (day.rule == almanac::kExceptionRule) return almanac::kExceptionName;
+  if (day.rule == almanac::kExceptionRule) return InWords(almanac::kExceptionName);
   const almanac::KnownRule* const rule = planner_.Rules().Find(day.rule);
-  return rule == nullptr ? "rule " + std::to_string(day.rule) : rule->name;
+  return rule == nullptr ? InWords("rule %1", {std::to_string(day.rule)}) : rule->name;
 }
 
 DayStory CalendarStory::Of(const Date& day) const {
@@ -82,15 +78,19 @@ void CalendarStory::TellPlan(const ComparedDay& day, DayStory& story) const {
   story.expression = ExpressionOf(day);
   if (day.unknown != nullptr) {
     story.opinion_kind = DayStory::Opinion::kUnknown;
-    story.opinion = line.why;
+    story.opinion = InWords(line.why);
     return;
   }
   const bool agrees = day.action == PlanAction::kKeep;
   story.opinion_kind = agrees ? DayStory::Opinion::kAsPlanned : DayStory::Opinion::kOtherwise;
-  const std::string verdict = agrees ? "as planned: " : "should be ";
-  story.opinion = verdict + (agrees        ? line.why
-                             : line.should ? *line.should + ": " + line.why
-                                           : InSentence(line.why));
+  if (agrees) {
+    story.opinion = InWords(Phrase::Of("as planned: %1", {line.why}));
+  } else if (line.should) {
+    story.opinion = InWords(Phrase::Of("should be %1: %2", {*line.should, line.why}));
+  } else {
+    const Phrase also = preparation_->Plan().AlsoOn(day.day_of_year);
+    story.opinion = InWords(Phrase::Of("should be an ordinary working day%1", {also}));
+  }
 }
 
 std::string CalendarStory::ExpressionOf(const ComparedDay& day) const {

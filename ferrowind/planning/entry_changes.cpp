@@ -20,9 +20,7 @@ using platform::JsonValue;
 // Days
 // -----------------------------------------------------------------------------------------------------------
 
-std::string LongDay(const Date& date) {
-  return std::string(almanac::WeekdayName(date.Weekday())) + " " + almanac::LongDate(date.Serial());
-}
+std::string LongDay(const Date& date) { return InWords(almanac::LongDay(date.Serial())); }
 
 bool IsSame(const PastDay& left, const PastDay& right) {
   return left.type == right.type && left.rule == right.rule && left.comment == right.comment;
@@ -66,7 +64,7 @@ void AddDays(const PastCalendar& before, const PastCalendar& behind, const std::
 
 /// The weekday that the rules' weekdays count from, 1 Sunday to 7 Saturday.
 int LoadFirstDay() {
-  const CallAnswer answer = CallDatabase("Reading the first day of the week", "CldAllInfo", {}, 4);
+  const CallAnswer answer = CallDatabase(InWords("Reading the first day of the week"), "CldAllInfo", {}, 4);
   platform::RecordSet& setting = *answer.record_sets[3];
   setting.MoveFirst();
   return setting.Eof() ? 1 : platform::ToInt32(setting["FirstDay"]);
@@ -82,12 +80,12 @@ std::string TypeText(const std::string& number) {
 
 std::string DateText(const std::string& iso) {
   const auto date = Date::FromIso(iso);
-  return date ? almanac::LongDate(date->Serial()) : iso;
+  return date ? InWords(almanac::LongDate(date->Serial())) : iso;
 }
 
 std::string WeekdayText(const std::string& number) {
   if (number.size() != 1 || number < "1" || number > "7") return number;
-  return std::string(almanac::WeekdayName((number.front() - '1' + LoadFirstDay() - 1) % 7 + 1));
+  return InWords(almanac::Weekday((number.front() - '1' + LoadFirstDay() - 1) % 7 + 1));
 }
 
 std::string AsItStands(const std::string& text) { return text; }

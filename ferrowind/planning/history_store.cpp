@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::planning {
@@ -51,7 +52,7 @@ HistoryPage LoadHistory(const HistoryFilter& filter, std::optional<std::int32_t>
   if (before) parameters.Add("Before", *before);
   // One more tells whether there is any.
   parameters.Add("Count", count + 1);
-  const CallAnswer answer = CallDatabase("Reading the history", "CldGetHistory", parameters, 2);
+  const CallAnswer answer = CallDatabase(InWords("Reading the history"), "CldGetHistory", parameters, 2);
   HistoryPage page;
   page.entries = EntriesIn(*answer.record_sets[0]);
   page.has_older = page.entries.size() > static_cast<std::size_t>(count);
@@ -65,7 +66,7 @@ HistoryPage LoadHistory(const HistoryFilter& filter, std::optional<std::int32_t>
 std::optional<DetailedEntry> LoadEntry(std::int32_t id) {
   SourceValues parameters;
   parameters.Add("EntryID", id);
-  const CallAnswer answer = CallDatabase("Reading the entry " + std::to_string(id) + " of the history",
+  const CallAnswer answer = CallDatabase(InWords("Reading the entry %1 of the history", {std::to_string(id)}),
                                          "CldGetHistory", parameters, 3);
   std::vector<HistoryEntry> entries = EntriesIn(*answer.record_sets[0]);
   if (entries.empty()) return std::nullopt;
@@ -86,8 +87,8 @@ PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::i
   parameters.Add("Year1", year);
   parameters.Add("EntryID", entry);
   const CallAnswer answer =
-      CallDatabase("Reading a calendar of " + std::to_string(year) + " as the entry " +
-                       std::to_string(entry) + " of the history left it",
+      CallDatabase(InWords("Reading a calendar of %1 as the entry %2 of the history left it",
+                           {std::to_string(year), std::to_string(entry)}),
                    "CldGetAsOf", parameters, 1, {return_value::kUnknownCalendar, kChangedSince});
   if (answer.return_value == return_value::kUnknownCalendar) return {PastCalendar::State::kNotThere, {}};
   if (answer.return_value == kChangedSince) return {PastCalendar::State::kNotKept, {}};
@@ -105,8 +106,8 @@ UndoOutcome UndoEntry(const HistoryEntry& entry) {
   using Kind = UndoOutcome::Kind;
   SourceValues parameters;
   parameters.Add("EntryID", entry.id);
-  const CallAnswer answer = CallDatabase("Undoing the entry " + std::to_string(entry.id), "CldUndo",
-                                         parameters, 0, {kNoSuchEntry, kChangedSince});
+  const CallAnswer answer = CallDatabase(InWords("Undoing the entry %1", {std::to_string(entry.id)}),
+                                         "CldUndo", parameters, 0, {kNoSuchEntry, kChangedSince});
   if (answer.return_value == return_value::kDone) return {Kind::kDone, {}};
   if (answer.return_value == kNoSuchEntry) return {Kind::kNoSuchEntry, {}};
   UndoOutcome outcome{Kind::kRefused, {}};

@@ -70,7 +70,7 @@ std::string DayText(const Parameters& parameters) {
   const std::int32_t year = parameters.Number("Year1");
   const std::int32_t day = parameters.Number("Day1");
   if (year < 1 || year > 9999 || day < 1 || day > platform::DaysInYear(year)) throw CannotBeTold();
-  return almanac::LongDate(Date(year, 1, 1).AddDays(day - 1).Serial());
+  return InWords(almanac::LongDate(Date(year, 1, 1).AddDays(day - 1).Serial()));
 }
 
 std::string NeededRule(const HistoryEntry& entry) {
@@ -175,7 +175,7 @@ std::string WordsOfCurrency(const HistoryEntry& entry) {
   const auto last_day = Date::FromIso(parameters.Text("LastDay"));
   if (!last_day) throw CannotBeTold();
   return InWords("Set the currency %1 (%2), money until %3",
-                 {code, name, almanac::LongDate(last_day->Serial())});
+                 {code, name, InWords(almanac::LongDate(last_day->Serial()))});
 }
 
 std::string WordsOf(const HistoryEntry& entry, const std::string& calendar) {

@@ -7,9 +7,14 @@
 
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/said.h"
+#include "ferrowind/platform/values/phrase.h"
 
 /// What planning says to people, in the language of whoever is asking (said.h).
 namespace ferrowind::planning {
+
+[[nodiscard]] inline std::string InWords(const platform::Phrase& phrase) {
+  return Said(AttachedPlatform(), phrase);
+}
 
 [[nodiscard]] inline std::string InWords(const std::string& text,
                                          const std::vector<std::string>& arguments = {}) {

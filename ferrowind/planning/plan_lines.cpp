@@ -69,10 +69,10 @@ class LineMaker {
 
   void AddIncomplete(std::size_t position) {
     std::size_t number = 0;
-    for (std::string& sentence : calendars_[position].Preparation()->Plan().Incomplete()) {
+    for (const platform::Phrase& sentence : calendars_[position].Preparation()->Plan().Incomplete()) {
       PlanLine line = NewLine(Kind::kIncomplete, position, "/incomplete/" + std::to_string(++number));
       line.is_conflict = true;
-      line.why = std::move(sentence);
+      line.why = InWords(sentence);
       Add(std::move(line));
     }
   }
@@ -107,7 +107,7 @@ class LineMaker {
     line.should = std::move(words.should);
     const auto obstacle = comparison.ObstacleOf(day);
     line.is_blocked = obstacle.has_value();
-    if (obstacle) line.why = *obstacle + ". " + line.why;
+    if (obstacle) line.why = InWords(*obstacle) + ". " + line.why;
     line.is_conflict = line.is_blocked || day.action == PlanAction::kException ||
                        (day.action == PlanAction::kRemove && day.now->kind != almanac::RuleKind::kWeekday);
     if (calendar.IsOpenToChoice(day)) line.is_taken = calendar.Takes(day);

@@ -7,6 +7,7 @@
 namespace ferrowind::planning {
 
 using almanac::ComparedDay;
+using platform::Phrase;
 
 bool IsNewWeekend(const almanac::YearPlan& plan, const ComparedDay& day) {
   return day.now == nullptr && plan.KindOf(*day.should) == almanac::RuleKind::kWeekday;
@@ -14,13 +15,15 @@ bool IsNewWeekend(const almanac::YearPlan& plan, const ComparedDay& day) {
 
 std::string WhyOf(const ComparedDay& day, const almanac::ComparisonLine& line) {
   const bool has_reason = day.action == almanac::PlanAction::kException && !day.now->comment.empty();
-  return has_reason ? InWords("%1; now open by exception: %2", {line.why, day.now->comment}) : line.why;
+  if (!has_reason) return InWords(line.why);
+  return InWords(Phrase::Of("%1; now open by exception: %2", {line.why, day.now->comment}));
 }
 
 std::vector<std::string> Incomplete(const YearPreparation& preparation) {
-  std::vector<std::string> sentences = preparation.Plan().Incomplete();
-  for (std::string& sentence : sentences) {
-    sentence = InWords("%1 cannot be planned in full. %2.", {preparation.Name(), sentence});
+  std::vector<std::string> sentences;
+  for (const Phrase& sentence : preparation.Plan().Incomplete()) {
+    sentences.push_back(
+        InWords(Phrase::Of("%1 cannot be planned in full. %2.", {preparation.Name(), sentence})));
   }
   return sentences;
 }

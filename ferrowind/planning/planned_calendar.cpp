@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_words.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -19,7 +20,7 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
     const Currency* const currency = planner->Currencies().Find(key_.first);
     if (currency == nullptr) {
       throw platform::Failure(platform::failure_number::kInvalidArgument,
-                              "There is no currency " + std::to_string(key_.first));
+                              InWords("There is no currency %1", {std::to_string(key_.first)}));
     }
     name_ = currency->code + " " + std::to_string(key_.second);
     preparation_ = planner->Prepare(*currency, key_.second);

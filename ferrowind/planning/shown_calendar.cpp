@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/json_value.h"
 
@@ -49,8 +50,8 @@ CalendarNews NewsSince(const RecordSet& days, std::int32_t currency, std::int32_
   SourceValues parameters;
   parameters.Add("ID1", currency);
   parameters.Add("Year1", year);
-  const CallAnswer answer = CallDatabase("Reading whether a calendar was changed", "CldGetMain", parameters,
-                                         1, {return_value::kUnknownCalendar});
+  const CallAnswer answer = CallDatabase(InWords("Reading whether a calendar was changed"), "CldGetMain",
+                                         parameters, 1, {return_value::kUnknownCalendar});
   CalendarNews news;
   if (answer.return_value == return_value::kUnknownCalendar) {
     news.kind = CalendarNews::Kind::kRemoved;

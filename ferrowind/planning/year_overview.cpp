@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/in_words.h"
 
 namespace ferrowind::planning {
 
@@ -29,7 +30,7 @@ YearOverview YearOverview::Load(std::span<const Currency> currencies, int year) 
 
 std::string YearOverview::NameOf(const almanac::MarkedDay& day) const {
   const almanac::KnownRule* rule = rules_.Find(day.rule);
-  return rule == nullptr ? "rule " + std::to_string(day.rule) : rule->name;
+  return rule == nullptr ? InWords("rule %1", {std::to_string(day.rule)}) : rule->name;
 }
 
 }  // namespace ferrowind::planning

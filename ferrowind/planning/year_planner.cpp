@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::planning {
@@ -52,21 +53,24 @@ std::optional<int> YearPlanner::FirstYearOf(const Currency& currency) const {
 const almanac::Planner& YearPlanner::RequirePlanner(const Currency& currency, int year) const {
   const auto found = books_.find(currency.id);
   if (found == books_.end()) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            currency.code + " has no book, so nothing tells what its calendars should be");
+    throw platform::Failure(
+        platform::failure_number::kInvalidArgument,
+        InWords("%1 has no book, so nothing tells what its calendars should be", {currency.code}));
   }
   if (!currency.IsLiveIn(year)) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            EndOfMoney(currency) + ", so it has no calendar of " + std::to_string(year));
+                            InWords(platform::Phrase::Of("%1, so it has no calendar of %2",
+                                                         {EndOfMoney(currency), std::to_string(year)})));
   }
   if (!found->second.faults.empty()) {
     throw platform::Failure(
         platform::failure_number::kInvalidArgument,
-        "The book of " + currency.code + " cannot be used: " + Joined(found->second.faults));
+        InWords("The book of %1 cannot be used: %2", {currency.code, Joined(found->second.faults)}));
   }
   const almanac::RuleBook& book = found->second.planner->Book();
   if (!book.HoldsIn(year)) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument, book.WhyNotIn(year, currency.code));
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            InWords(book.WhyNotIn(year, currency.code)));
   }
   return *found->second.planner;
 }

@@ -5,6 +5,7 @@
 
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/days_json.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::planning {
@@ -35,7 +36,8 @@ std::optional<std::int32_t> YearPreparation::NewestEntry() const {
   parameters.Add("ID1", currency_.id);
   parameters.Add("Year1", static_cast<std::int32_t>(Year()));
   parameters.Add("Count", 1);
-  const CallAnswer answer = CallDatabase("Reading the history of " + Name(), "CldGetHistory", parameters, 1);
+  const CallAnswer answer =
+      CallDatabase(InWords("Reading the history of %1", {Name()}), "CldGetHistory", parameters, 1);
   platform::RecordSet& rows = *answer.record_sets.front();
   rows.MoveFirst();
   if (rows.Eof() || platform::ToText(rows["ProcedureName"]) != kApplyPlan) return std::nullopt;
@@ -48,7 +50,7 @@ void YearPreparation::Apply(const almanac::DayChoice& choice) const {
   parameters.Add("Year1", static_cast<std::int32_t>(Year()));
   parameters.Add("Expected", calendar_.fingerprint);
   parameters.Add("Days", DaysJson(comparison_, choice));
-  (void)CallDatabase("Applying the plan of " + Name(), kApplyPlan, parameters);
+  (void)CallDatabase(InWords("Applying the plan of %1", {Name()}), kApplyPlan, parameters);
 }
 
 }  // namespace ferrowind::planning

@@ -138,7 +138,7 @@ class Application {
     if (planned.last < years.last) {
       const YearRange after{std::max(years.first, planned.last + 1), years.last};
       errors_ << OneLine(currency.code) << ' ' << TextOf(after)
-              << " is left out: " << planning::EndOfMoney(currency) << ".\n";
+              << " is left out: " << planning::EndOfMoney(currency).InEnglish() << ".\n";
     }
     if (const auto first = planner_.FirstYearOf(currency)) {
       planned.first = std::clamp(*first, planned.first, planned.last + 1);

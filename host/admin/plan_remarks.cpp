@@ -15,8 +15,8 @@ void WriteIncomplete(const planning::YearPreparation& preparation, std::ostream&
 void WriteRemarks(const planning::YearPreparation& preparation, almanac::ExceptionHandling exceptions,
                   std::ostream& out) {
   WriteIncomplete(preparation, out);
-  for (const std::string& obstacle : preparation.Compared().Obstacles(exceptions)) {
-    out << OneLine(preparation.Name() + " cannot be applied: " + obstacle) << ".\n";
+  for (const platform::Phrase& obstacle : preparation.Compared().Obstacles(exceptions)) {
+    out << OneLine(preparation.Name() + " cannot be applied: " + obstacle.InEnglish()) << ".\n";
   }
 }
 

@@ -29,7 +29,7 @@ std::shared_ptr<RecordSet> InFields(const std::vector<Finding>& findings) {
     rows.push_back({std::string(almanac::TextOf(finding.level)),
                     finding.currency.empty() ? Value() : Value(finding.currency),
                     finding.year ? Value(static_cast<std::int32_t>(*finding.year)) : Value(),
-                    finding.day ? Value(*finding.day) : Value(), finding.sentence});
+                    finding.day ? Value(*finding.day) : Value(), finding.sentence.InEnglish()});
   }
   return std::make_shared<RecordSet>(std::vector<std::string>{"level", "currency", "year", "date", "finding"},
                                      std::move(rows));
@@ -39,7 +39,7 @@ std::shared_ptr<RecordSet> InFields(const std::vector<Finding>& findings) {
 std::shared_ptr<RecordSet> InSentences(const std::vector<Finding>& findings) {
   std::vector<std::vector<Value>> rows;
   for (const Finding& finding : findings) {
-    rows.push_back({std::string(almanac::TextOf(finding.level)), finding.sentence});
+    rows.push_back({std::string(almanac::TextOf(finding.level)), finding.sentence.InEnglish()});
   }
   return std::make_shared<RecordSet>(std::vector<std::string>{"level", "finding"}, std::move(rows));
 }

@@ -45,11 +45,10 @@ ExitStatus WhyCommand::Run(const platform::EngineRegistry& engines, std::ostream
     const almanac::ComparedDay compared = comparison.DayAt(day.DayOfYear());
     const almanac::ComparisonLine line = comparison.LineOf(compared);
     const almanac::RuleBook& book = comparison.Plan().Book();
-    out << OneLine(preparation->Owner().code) << ", " << almanac::WeekdayName(day.Weekday()) << ' '
-        << almanac::LongDate(day.Serial()) << '\n';
+    out << OneLine(preparation->Owner().code) << ", " << almanac::LongDay(day.Serial()).InEnglish() << '\n';
     WriteLine("now", NowOf(*preparation, line, compared.now != nullptr ? compared.now->comment : ""), out);
     WriteLine("should", ShouldOf(comparison.Plan(), line), out);
-    WriteLine("why", line.why, out);
+    WriteLine("why", line.why.InEnglish(), out);
     WriteLine("book", book.publisher + ": " + book.document, out);
     WriteIncomplete(*preparation, errors);
   });

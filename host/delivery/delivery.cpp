@@ -34,8 +34,8 @@ void MakeCalendar(const planning::Currency& currency, int year, const almanac::P
   const almanac::RuleDirectory rules(planning::LoadRules().rules);
   const planning::YearPreparation preparation(currency, year, planner, rules);
   preparation.Apply(almanac::ExceptionHandling::kOverwrite);
-  for (const std::string& sentence : preparation.Plan().Incomplete()) {
-    unknown.push_back(preparation.Name() + ": " + sentence);
+  for (const platform::Phrase& sentence : preparation.Plan().Incomplete()) {
+    unknown.push_back(preparation.Name() + ": " + sentence.InEnglish());
   }
 }
 

@@ -111,7 +111,7 @@ Count Compare(const Peer& peer, const Planner& planner, const std::string& secti
       }
       const bool documented = section.find(date.ToIso()) != std::string::npos;
       std::cout << peer.currency << ' ' << date.ToIso() << " closed "
-                << (closed ? "by the book" : "by QuantLib") << ": " << plan.WhyOf(date.DayOfYear())
+                << (closed ? "by the book" : "by QuantLib") << ": " << plan.WhyOf(date.DayOfYear()).InEnglish()
                 << (documented ? "" : " (not documented)") << '\n';
       ++count.differences;
       count.undocumented += documented ? 0 : 1;

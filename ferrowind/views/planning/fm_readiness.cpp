@@ -208,12 +208,12 @@ void fmReadiness::ShowFindings() {
   for (const Finding& finding : report_->review.findings) {
     const std::string year = finding.year ? std::to_string(*finding.year) : std::string();
     // Two findings may say the same, and each row has a key of its own.
-    std::string key = finding.sentence;
+    std::string key = finding.sentence.InEnglish();
     while (findings_.contains(key)) key += '\n';
     findings_[key] = {finding.currency, finding.year, IsAboutBook(finding)};
     TableCell level = words.LevelCell(finding.level);
     level.order = place++;
-    rows.push_back({key, {level, {finding.currency}, {year}, {finding.sentence}}, {}});
+    rows.push_back({key, {level, {finding.currency}, {year}, {Said(context_.platform, finding.sentence)}}, {}});
   }
   tblFindings_.SetEmptyText(Say("All calendars are as planned, as far as it is published"));
   tblFindings_.SetRows(rows);

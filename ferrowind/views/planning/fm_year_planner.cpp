@@ -70,9 +70,9 @@ void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
   add(kSavePdf, "Save as PDF...", "Writes the year into a file for reading and printing", "Ctrl+S");
   add(kSavePicture, "Save as picture...", "Writes the year into a PNG file", "Ctrl+Shift+S");
   add(kClose, "Close", "", "Ctrl+W");
-  tools.SetBar("Year", {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept, kCloseDays,
-                        kToolSeparator, kPrint, kSavePdf, kSavePicture});
-  tools.AddPopupMenu(kDayMenu, "Day", {kExcept, kCloseDays});
+  tools.SetBar(Said(platform, "Year"), {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept,
+                                        kCloseDays, kToolSeparator, kPrint, kSavePdf, kSavePicture});
+  tools.AddPopupMenu(kDayMenu, Said(platform, "Day"), {kExcept, kCloseDays});
 }
 
 }  // namespace

@@ -105,13 +105,14 @@ std::string ReadinessWords::Sentence(const CurrencyReadiness& currency, const Ye
       sentence = Said(platform_, "%1 is as planned.", calendar);
       break;
     case Readiness::kEnded:
-      return planning::EndOfMoney(currency.currency) + ".";
+      return Said(platform_, planning::EndOfMoney(currency.currency)) + ".";
   }
   if (year.excepted_days != 0) {
     sentence += " " + SaidOfNumber(platform_, year.excepted_days, "%n working day by exception has a reason.",
                                    "%n working days by exception have a reason.");
   }
-  for (const std::string& unpublished : year.unpublished) sentence += " " + unpublished + ".";
+  for (const platform::Phrase& unpublished : year.unpublished)
+    sentence += " " + Said(platform_, unpublished) + ".";
   return sentence;
 }
 

@@ -49,10 +49,11 @@ void RuleYearsTable::Show(const std::vector<RuleYear>& years) {
 TableRow RuleYearsTable::RowOf(const RuleYear& year, const RuleDate& date) const {
   const CellTone tone = date.has_day ? CellTone::kNormal : CellTone::kQuiet;
   const CellMark mark = date.has_day ? CellMark::kNone : CellMark::kRemoved;
+  const std::string why = Said(platform_, date.why);
   return {.key = date.date.ToIso() + (date.has_day ? "" : "-"),
           .cells = {{.text = std::to_string(year.year), .tone = tone},
                     {.text = DayText(platform_.locale, date.date), .mark = mark, .tone = tone},
-                    {.text = date.why, .tone = tone, .description = date.why}}};
+                    {.text = why, .tone = tone, .description = why}}};
 }
 
 TableRow RuleYearsTable::CountOf(const RuleYear& year) const {

@@ -268,10 +268,11 @@ TEST_P(PlanningContract, RepairsWithOneCallACalendarEachToWhichAllRulesWereAssig
   std::set<CurrencyDay> found;
   for (const Finding& finding : database.Review().findings) {
     if (finding.level == FindingLevel::kNote) continue;
-    EXPECT_EQ(finding.subject, FindingSubject::kDiffersFromPlan) << finding.sentence;
-    ASSERT_TRUE(finding.day) << finding.sentence;
-    EXPECT_THAT(finding.sentence, HasSubstr(std::to_string(finding.day->Day())));
-    EXPECT_TRUE(found.emplace(finding.currency, *finding.day).second) << "told twice: " << finding.sentence;
+    EXPECT_EQ(finding.subject, FindingSubject::kDiffersFromPlan) << finding.sentence.InEnglish();
+    ASSERT_TRUE(finding.day) << finding.sentence.InEnglish();
+    EXPECT_THAT(finding.sentence.InEnglish(), HasSubstr(std::to_string(finding.day->Day())));
+    EXPECT_TRUE(found.emplace(finding.currency, *finding.day).second)
+        << "told twice: " << finding.sentence.InEnglish();
   }
   EXPECT_EQ(found, wrong);
 
@@ -301,7 +302,7 @@ TEST_P(PlanningContract, RepairsACalendarFullOfExceptionsOrKeepsThemAllAndUndoBr
 
   const auto review = database.Review();
   ASSERT_EQ(review.Worst(), FindingLevel::kError);
-  EXPECT_THAT(review.findings.front().sentence, HasSubstr("no weekends"));
+  EXPECT_THAT(review.findings.front().sentence.InEnglish(), HasSubstr("no weekends"));
   database.Run([&] {
     const YearPlanner planner(host::DeliveredDateTables());
     const auto preparation = planner.Prepare(planner.Currencies().Named("EUR"), kYear);

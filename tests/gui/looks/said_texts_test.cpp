@@ -1,19 +1,20 @@
 // That everything which the windows of planning say of their own can be said in another language.
-#include <QAbstractItemView>
+#include <QAccessible>
 #include <QComboBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
-#include <QTableView>
-#include <QToolButton>
+#include <QRegularExpression>
+#include <QTranslator>
+#include <algorithm>
 
+#include "ferrowind/adapters/qt/services/qt_words.h"
 #include "ferrowind/control/calendar.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/planning/book_store.h"
+#include "ferrowind/views/planning/planning_additions.h"
 #include "ferrowind/views/planning/planning_windows.h"
 
 #include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
+#include "tests/gui/looks/default_locale.h"
 #include "tests/gui/windows/dialog_script.h"
 #include "tests/gui/windows/operator_desk.h"
 #include "tests/gui/windows/operator_hands.h"
@@ -24,20 +25,107 @@ namespace {
 using ::testing::IsEmpty;
 
 constexpr std::int32_t kDollar = 840;
+constexpr std::int32_t kEuro = 978;
 
-/// A language in which every text is the English one behind a mark.
-class MarkedWords : public platform::Words {
+/// A language without any letter of English: every text has another one in the place of each letter.
+class OtherLanguage : public QTranslator {
  public:
-  [[nodiscard]] std::optional<std::string> Translate(const std::string& text,
-                                                     std::optional<std::int64_t> /*number*/) const override {
-    return "~" + text;
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char* context, const char* text, const char* /*disambiguation*/,
+                                  int /*number*/) const override {
+    // By these names shortcuts are read, too.
+    if (qstrcmp(context, "QShortcut") == 0) return {};
+    QString other;
+    bool is_place = false;
+    for (const QChar character : QString::fromUtf8(text)) {
+      other += !is_place && character.isLetter() ? QChar(0x00F8) : character;
+      is_place = character == QLatin1Char('%');
+    }
+    return other;
   }
 };
 
+/// What is written in the database and in the delivered books, in whatever language that is.
+class WrittenTexts {
+ public:
+  explicit WrittenTexts(const OperatorDesk& desk) {
+    for (const char* sql :
+         {"SELECT Name1 FROM CldHoliday", "SELECT Comment FROM CldHoliday", "SELECT Comment FROM CldDay",
+          "SELECT Ccy FROM DicCcy", "SELECT Name FROM DicCcy", "SELECT UserName FROM CldHistory"}) {
+      for (const std::string& text : desk.Read(sql)) Add(text);
+    }
+    for (const auto& [code, book, lines] : host::DeliveredBooks()) {
+      for (const std::string& text : {code, book.publisher, book.document}) Add(text);
+      for (const almanac::BookRule& rule : book.rules) {
+        for (const std::string& text :
+             {rule.name, rule.NameOfMovedDay(), rule.comment, rule.expression.ToText()})
+          Add(text);
+      }
+    }
+    for (const almanac::DateTable& table : host::DeliveredDateTables().All()) Add(table.name);
+    // The same in all languages.
+    Add("UTC");
+    std::sort(texts_.begin(), texts_.end(),
+              [](const QString& left, const QString& right) { return left.size() > right.size(); });
+  }
+
+  [[nodiscard]] QString TakenFrom(QString text) const {
+    // The longer first, since one may be a part of another.
+    for (const QString& written : texts_) text.remove(written);
+    // As the keyboard has them.
+    static const QRegularExpression shortcut(QStringLiteral("\\((Ctrl\\+|Alt\\+|Shift\\+)+[^)]+\\)"));
+    return text.remove(shortcut);
+  }
+
+ private:
+  void Add(const std::string& text) {
+    if (text.size() > 1) texts_.push_back(QString::fromStdString(text));
+  }
+
+  std::vector<QString> texts_;
+};
+
+/// A part of a window, examined on what it tells a screen reader, which is all that it shows and more.
+class SpokenTexts {
+ public:
+  SpokenTexts(QWidget& part, const WrittenTexts& written) : written_(written) {
+    if (part.isWindow()) Judge(part.windowTitle());
+    for (const QWidget* widget : part.findChildren<QWidget*>()) Judge(widget->toolTip());
+    for (const auto* list : part.findChildren<QComboBox*>()) {
+      for (int i = 0; i < list->count(); ++i) Judge(list->itemText(i));
+    }
+    if (auto* root = QAccessible::queryAccessibleInterface(&part)) Walk(*root);
+    std::sort(english_.begin(), english_.end());
+    english_.erase(std::unique(english_.begin(), english_.end()), english_.end());
+  }
+
+  /// The texts in which English is left.
+  [[nodiscard]] const std::vector<std::string>& English() const { return english_; }
+
+ private:
+  void Walk(QAccessibleInterface& element) {
+    for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value})
+      Judge(element.text(kind));
+    for (int i = 0; i < element.childCount(); ++i) {
+      if (auto* child = element.child(i)) Walk(*child);
+    }
+  }
+  void Judge(const QString& text) {
+    static const QRegularExpression english(QStringLiteral("[A-Za-z]{2,}"));
+    if (english.match(written_.TakenFrom(text)).hasMatch()) english_.push_back(text.toStdString());
+  }
+
+  const WrittenTexts& written_;
+  std::vector<std::string> english_;
+};
+
+/// The operator's locale is Japanese, whose names of months and weekdays have no letters of English either.
 class SaidTextsTest : public ::testing::Test {
  protected:
   SaidTextsTest() {
+    QCoreApplication::installTranslator(&language_);
     platform_.words = &words_;
+    platform_.additions = &additions_;
     desk_.Execute("DELETE FROM DicCcy WHERE Ccy NOT IN ('EUR', 'GBP', 'USD')");
     RunHandler(platform_, [] {
       const auto currencies = planning::CurrencyList::Load();
@@ -46,65 +134,114 @@ class SaidTextsTest : public ::testing::Test {
       }
     });
     desk_.Call("CldIUMain", {kDollar, 2028, {}, {}, {}, {}, {}});
+    desk_.Call("CldIUMain", {kEuro, 2026, {}, {}, {}, {}, {}});
   }
   ~SaidTextsTest() override {
     EXPECT_TRUE(script_.IsPlayed());
     EXPECT_TRUE(windows_.CloseAll());
+    EXPECT_TRUE(control_.ForceClosing());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::removeTranslator(&language_);
   }
 
-  /// The texts of the window that are not said in the operator's language: those of its frame, its labels,
-  /// buttons and headers that have letters.
-  static std::vector<std::string> PlainTexts(const std::string& name) {
-    const QWidget* window = WindowOnShow(name);
-    if (window == nullptr) return {name + " is not open"};
-    std::vector<std::string> plain;
-    const auto judge = [&](const QString& text) {
-      const bool has_letters = std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
-      if (has_letters && !text.contains(QLatin1Char('~'))) plain.push_back(text.toStdString());
-    };
-    judge(window->windowTitle());
-    for (const auto* label : window->findChildren<QLabel*>()) judge(label->text());
-    for (const auto* button : window->findChildren<QPushButton*>()) judge(button->text());
-    for (const auto* tool : window->findChildren<QToolButton*>(QRegularExpression(QStringLiteral("^ID_")))) {
-      judge(tool->accessibleName());
-      judge(tool->accessibleDescription());
-    }
-    for (const auto* view : window->findChildren<QTableView*>()) {
-      for (int column = 0; view->model() != nullptr && column < view->model()->columnCount(); ++column)
-        judge(view->model()->headerData(column, Qt::Horizontal).toString());
-    }
-    return plain;
+  [[nodiscard]] std::vector<std::string> EnglishIn(QWidget& part) const {
+    QCoreApplication::processEvents();
+    return SpokenTexts(part, WrittenTexts(desk_)).English();
+  }
+  [[nodiscard]] std::vector<std::string> EnglishIn(const std::string& window) const {
+    QWidget* const shown = WindowOnShow(window);
+    if (shown == nullptr) return {window + " is not open"};
+    return EnglishIn(*shown);
+  }
+  QWidget& OpenCalendars() {
+    control_.Show();
+    QWidget& window = *WindowOnShow("fmCalendar");
+    Activate(window);
+    ClickNode(Find<QTreeView>(window, "tvCalendar"), {"USD", "2028"});
+    return window;
   }
 
+  DefaultLocale locale_{"ja_JP"};
+  OtherLanguage language_;
+  qt::QtWords words_;
   /// No question or message is expected.
   DialogScript script_;
-  MarkedWords words_;
   OperatorDesk desk_{OperatorDesk::Rules::kOfOffice};
   platform::Platform platform_ = desk_.Platform();
   PlanningWindows windows_{platform_, host::DeliveredDateTables()};
-  /// Brings the dictionary, which the windows read the currencies from.
+  PlanningAdditions additions_{{platform_, host::DeliveredDateTables(), windows_}};
   Calendar control_{platform_};
 };
 
 TEST_F(SaidTextsTest, AreThoseOfTheBoard) {
   RunHandler(platform_, [&] { windows_.OpenReadiness(); });
-  EXPECT_THAT(PlainTexts("fmReadiness"), IsEmpty());
+  EXPECT_THAT(EnglishIn("fmReadiness"), IsEmpty());
 }
 
 TEST_F(SaidTextsTest, AreThoseOfThePlanOfAYear) {
-  RunHandler(platform_, [&] { windows_.OpenYearPlan({{kDollar, 2028}}); });
-  EXPECT_THAT(PlainTexts("fmYearPlan"), IsEmpty());
+  RunHandler(platform_, [&] { windows_.OpenYearPlan({{kDollar, 2028}, {kEuro, 2028}}); });
+  EXPECT_THAT(EnglishIn("fmYearPlan"), IsEmpty());
 }
 
-TEST_F(SaidTextsTest, AreThoseOfTheHistory) {
+TEST_F(SaidTextsTest, AreThoseOfTheHistoryAndACalendarOfThen) {
+  desk_.Call("CldIUMain", {kDollar, 2028, 1, 1, 17, {}, "Fair"});
+  const int entry = std::stoi(desk_.ReadOne("SELECT max(EntryID) FROM CldHistory"));
   RunHandler(platform_, [&] { windows_.OpenHistory({}); });
-  EXPECT_THAT(PlainTexts("fmHistory"), IsEmpty());
+  EXPECT_THAT(EnglishIn("fmHistory"), IsEmpty());
+  RunHandler(platform_, [&] { windows_.OpenCalendarThen(entry); });
+  EXPECT_THAT(EnglishIn("fmCalendarThen"), IsEmpty());
 }
 
 TEST_F(SaidTextsTest, AreThoseOfARuleBook) {
   RunHandler(platform_, [&] { windows_.OpenRuleBook(kDollar); });
-  EXPECT_THAT(PlainTexts("fmRuleBook"), IsEmpty());
+  EXPECT_THAT(EnglishIn("fmRuleBook"), IsEmpty());
+}
+
+TEST_F(SaidTextsTest, AreThoseOfThePlannerOfAYear) {
+  RunHandler(platform_, [&] { windows_.OpenYearPlanner({kDollar, kEuro}, 2028); });
+  EXPECT_THAT(EnglishIn("fmYearPlanner"), IsEmpty());
+}
+
+TEST_F(SaidTextsTest, AreThoseOfTheWhyAndTheYearBesideTheDays) {
+  QWidget& window = OpenCalendars();
+  ClickTool(window, "ID_YearPlanner");
+  QTest::qWait(500);
+  ClickTool(window, "ID_Find");
+  EXPECT_THAT(EnglishIn(Find<QWidget>(window, "pnWhy")), IsEmpty());
+  for (const char* tool : {"ID_Why", "ID_Find", "ID_GoToDate", "ID_YearPlanner", "ID_YearWindow"})
+    EXPECT_THAT(EnglishIn(Find<QToolButton>(window, tool)), IsEmpty());
+  EXPECT_THAT(EnglishIn(Find<QWidget>(window, "yvDays")), IsEmpty());
+}
+
+TEST_F(SaidTextsTest, AreThoseOfTheQuestionForADateAndOfWhatItRefuses) {
+  QWidget& window = OpenCalendars();
+  script_.Expect("fmGoToDate", [this](QWidget& dialog) {
+    for (const char* typed : {"?", "2028-02-30", "2031-01-02", "2/30"}) {
+      TypeInto(dialog, "txtDate", typed);
+      ClickButton(dialog, "cmdGo");
+      EXPECT_THAT(EnglishIn(dialog), IsEmpty()) << typed;
+    }
+    ClickButton(dialog, "cmdCancel");
+  });
+  ClickTool(window, "ID_GoToDate");
+}
+
+TEST_F(SaidTextsTest, AreThoseOfTheLookBeforeRulesAreAssigned) {
+  QWidget& window = OpenCalendars();
+  qt::GridView& days = GridIn(window);
+  WalkToRow(days, 3);
+  script_.Expect("ID_StatesMenu", [](QWidget& menu) { PickFromMenu(menu, "ID_AssignSingle"); });
+  script_.Expect("fmEnterHolidays", [this](QWidget& rules) {
+    script_.Expect("fmAssignPreview", [this](QWidget& preview) {
+      EXPECT_THAT(EnglishIn(preview), IsEmpty());
+      ClickButton(preview, "cmdCancel");
+    });
+    ClickTool(rules, "ID_OwnRules");
+    WalkToRow(GridIn(rules), RowsOf(GridIn(rules)) - 1);
+    ClickButton(rules, "cmdAction5");
+    if (rules.isVisible()) rules.close();
+  });
+  RightClickRow(days, 3);
 }
 
 }  // namespace

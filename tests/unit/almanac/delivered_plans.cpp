@@ -34,7 +34,7 @@ const Planner& DeliveredPlanner(std::string_view currency) {
 
 YearPlan CompletePlan(std::string_view currency, int year) {
   YearPlan plan = DeliveredPlan(currency, year);
-  if (!plan.Unknown().empty()) throw std::runtime_error(plan.Incomplete().front());
+  if (!plan.Unknown().empty()) throw std::runtime_error(plan.Incomplete().front().InEnglish());
   return plan;
 }
 

@@ -19,7 +19,7 @@ YearPlan PlanFor(const std::string& rules, int year) {
 }
 
 std::string Why(const std::string& rules, const Date& date) {
-  return PlanFor(rules, date.Year()).WhyOf(date.DayOfYear());
+  return PlanFor(rules, date.Year()).WhyOf(date.DayOfYear()).InEnglish();
 }
 
 std::string Comment(const std::string& rules, const Date& date) {

@@ -81,7 +81,7 @@ TEST(PlannerProperty, HasAReasonForEachDay) {
     const RuleBook book = RandomBook(random);
     const YearPlan plan = PlanYear(book, random.Number(2020, 2040), {});
     for (int day = 1; day <= platform::DaysInYear(plan.Year()); ++day) {
-      const std::string why = plan.WhyOf(day);
+      const std::string why = plan.WhyOf(day).InEnglish();
       ASSERT_EQ(why.starts_with("An ordinary working day"), plan.Find(day) == nullptr) << why;
     }
   }

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/failure_of.h"
+#include "tests/support/says.h"
 #include "tests/unit/almanac/small_book.h"
 
 namespace ferrowind::almanac {
@@ -15,6 +16,7 @@ namespace {
 using ::ferrowind::testing::BookOf;
 using ::ferrowind::testing::BookWithWeekends;
 using ::ferrowind::testing::FailureOf;
+using ::ferrowind::testing::Says;
 using platform::Date;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -332,9 +334,10 @@ TEST(Planner, SaysWhichTableDoesNotReachTheYear) {
   EXPECT_EQ(plan.Unknown()[0].first_year, 2025);
   EXPECT_EQ(plan.Unknown()[0].last_year, 2027);
   EXPECT_EQ(plan.Unknown()[1].last_year, 0);
-  EXPECT_THAT(plan.Incomplete(),
-              ElementsAre("The date of A in 2028 is not known: the table feast reaches from 2025 to 2027",
-                          "The date of B in 2028 is not known: there is no table fast"));
+  EXPECT_THAT(
+      plan.Incomplete(),
+      ElementsAre(Says("The date of A in 2028 is not known: the table feast reaches from 2025 to 2027"),
+                  Says("The date of B in 2028 is not known: there is no table fast")));
 }
 
 TEST(Planner, IsCompleteWhereTheTableReachesOrTheRuleDoesNotHold) {
@@ -361,7 +364,7 @@ TEST(Planner, MissesTheDatesThatTheBookSaysAreUnknown) {
   const std::string rules = "point | A | unknown from 2027 not 2029\n";
   EXPECT_THAT(PlanOf(rules, 2026).Unknown(), IsEmpty());
   EXPECT_THAT(PlanOf(rules, 2027).Incomplete(),
-              ElementsAre("The date of A in 2027 is not known: the book has no day of that year yet"));
+              ElementsAre(Says("The date of A in 2027 is not known: the book has no day of that year yet")));
   EXPECT_EQ(PlanOf(rules, 2199).Unknown().size(), 1U);
   EXPECT_THAT(PlanOf(rules, 2029).Unknown(), IsEmpty()) << "there is none in 2029";
   const std::string announced = rules + "point | A | 2027-05-05\n";

@@ -4,11 +4,13 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/says.h"
 #include "tests/unit/almanac/small_calendars.h"
 
 namespace ferrowind::almanac {
 namespace {
 
+using ::ferrowind::testing::Says;
 using platform::Date;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
@@ -50,7 +52,7 @@ std::vector<Finding> Review(const ReviewedCurrency& currency, const ReviewHorizo
 
 auto Is(FindingLevel level, FindingSubject subject, const char* part_of_sentence) {
   return AllOf(::testing::Field(&Finding::level, level), ::testing::Field(&Finding::subject, subject),
-               ::testing::Field(&Finding::sentence, HasSubstr(part_of_sentence)));
+               ::testing::Field(&Finding::sentence, Says(HasSubstr(part_of_sentence))));
 }
 
 auto IsOn(const Date& day) { return ::testing::Field(&Finding::day, ::testing::Optional(day)); }
@@ -326,7 +328,7 @@ TEST(ReviewOfACurrency, CountsNoHolidayOnAWeekend) {
 TEST(FindingOrder, IsWorstFirstThenByCurrencyYearAndDay) {
   const auto finding = [](FindingLevel level, const char* currency, std::optional<int> year,
                           std::optional<Date> day) {
-    return Finding{level, FindingSubject::kNoBook, currency, year, day, ""};
+    return Finding{level, FindingSubject::kNoBook, currency, year, day, {}};
   };
   const std::vector<Finding> sorted = {
       finding(FindingLevel::kError, "USD", 2028, {}),

@@ -36,7 +36,7 @@ TEST(RuleDates, AreTheDaysThatTheRuleHasInEachYear) {
   EXPECT_EQ(years[0].year, 2027);
   EXPECT_THAT(DatesOf(years[0]), ElementsAre(std::pair("2027-03-26", true)));
   EXPECT_THAT(DatesOf(years[1]), ElementsAre(std::pair("2028-04-14", true)));
-  EXPECT_EQ(years[1].dates[0].why, "Easter Sunday 16 April 2028, two days before");
+  EXPECT_EQ(years[1].dates[0].why.InEnglish(), "Easter Sunday 16 April 2028, two days before");
   EXPECT_TRUE(years[1].is_known);
 }
 
@@ -51,14 +51,14 @@ TEST(RuleDates, TellOfADayThatAnotherRuleHas) {
       YearsOf("celebration | First | 05-01 |\ncelebration | Second | 05-01 |\n", kFirstRule + 1, 2026, 1);
   ASSERT_THAT(years, SizeIs(1));
   EXPECT_THAT(DatesOf(years[0]), ElementsAre(std::pair("2026-05-01", false)));
-  EXPECT_THAT(years[0].dates[0].why, HasSubstr("Second is on this day too"));
+  EXPECT_THAT(years[0].dates[0].why.InEnglish(), HasSubstr("Second is on this day too"));
 }
 
 TEST(RuleDates, TellOfADayOnWhichTheHolidayIsNotObserved) {
   const auto years = YearsOf("celebration | Fair | 08-01 else not observed |\n", kFirstRule, 2026, 1);
   ASSERT_THAT(years, SizeIs(1));
   EXPECT_THAT(DatesOf(years[0]), ElementsAre(std::pair("2026-08-01", false)));
-  EXPECT_THAT(years[0].dates[0].why, HasSubstr("not observed"));
+  EXPECT_THAT(years[0].dates[0].why.InEnglish(), HasSubstr("not observed"));
 }
 
 TEST(RuleDates, AreUnknownWhereTheTableOfTheRuleDoesNotReach) {

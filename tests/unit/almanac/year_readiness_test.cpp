@@ -5,11 +5,13 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/says.h"
 #include "tests/unit/almanac/small_calendars.h"
 
 namespace ferrowind::almanac {
 namespace {
 
+using ::ferrowind::testing::Says;
 using platform::Date;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -132,8 +134,8 @@ TEST_F(YearReadinessTest, NamesTheRulesWhoseDatesAreNotPublishedUntilSomebodyEnt
       "point | Fair | table fairs | Announced\n");
   const YearReadiness unknown = Of2028(Sundays2028And({}));
   EXPECT_EQ(unknown.readiness, Readiness::kPrepared);
-  EXPECT_THAT(unknown.unpublished, ElementsAre("The date of Fair in 2028 is not known: the table fairs "
-                                               "reaches from 2020 to 2027"));
+  EXPECT_THAT(unknown.unpublished, ElementsAre(Says("The date of Fair in 2028 is not known: the table fairs "
+                                                    "reaches from 2020 to 2027")));
   const YearReadiness entered = Of2028(Sundays2028And({Marked("2028-03-01", rule::kFair)}));
   EXPECT_EQ(entered.readiness, Readiness::kPrepared);
   EXPECT_THAT(entered.unpublished, IsEmpty());

@@ -31,7 +31,7 @@ class ReviewWorld : public PlanningWorld {
 std::vector<std::string> Texts(const DatabaseReview& review) {
   std::vector<std::string> texts;
   for (const Finding& finding : review.findings) {
-    texts.push_back(std::string(almanac::TextOf(finding.level)) + " " + finding.sentence);
+    texts.push_back(std::string(almanac::TextOf(finding.level)) + " " + finding.sentence.InEnglish());
   }
   return texts;
 }

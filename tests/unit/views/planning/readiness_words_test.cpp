@@ -72,7 +72,7 @@ TEST(ReadinessWords, OneDayIsCountedAsOne) {
 
 TEST(ReadinessWords, SayHowMuchOfAPreparedYearIsPublished) {
   YearReadiness year = Year(2028, Readiness::kPrepared);
-  year.unpublished = {"The date of Fair in 2028 is not known"};
+  year.unpublished = {platform::Phrase::Of("The date of Fair in 2028 is not known")};
   const TableCell cell = CellOf(year);
   EXPECT_EQ(cell.text, "Prepared as published");
   EXPECT_EQ(cell.description, "EUR 2028 is as planned. The date of Fair in 2028 is not known.");
