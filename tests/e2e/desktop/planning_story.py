@@ -90,6 +90,9 @@ class PlanningWalk:
 class KeyboardWalk(PlanningWalk):
     """By key presses alone: the mouse is never touched."""
 
+    # By which a day is excepted.
+    EXCEPTS_BY = 'CldIUMain'
+
     def start(self, url):
         self.session.start('--database', url)
         self.wait_active(BOARD)
@@ -181,10 +184,129 @@ class KeyboardWalk(PlanningWalk):
         self.session.keys('alt+c', 'Home')
         wait_for(lambda: self.table(HISTORY, 'Changes').row_count() >= count, f'{count} changes in the history')
 
-    def close_everything(self):
+    def leave(self):
         self.session.keys('ctrl+w')
         self.wait_active(CALENDARS)
         self.session.keys('alt+F4')
         self.wait_active(BOARD)
         self.session.keys('alt+F4')
-        return self.session.app.wait(60)
+        assert self.session.app.wait(60) == 0, self.session.printed()
+
+
+class AccessibleWalk(PlanningWalk):
+    """By what an assistive tool can do alone: neither a key nor the mouse is touched."""
+
+    # In the planner, where all tools are on the bar.
+    EXCEPTS_BY = 'CldApplyPlan'
+    has_planner = False
+
+    def press(self, title, name):
+        """The button whose caption begins so, once it can be pressed."""
+        def button():
+            return next((node for node in self.accessible.controls(self.window(title))
+                         if self.accessible.role_name(node) == 'push button' and node.name.startswith(name)
+                         and self.accessible.is_enabled(node)), None)
+        self.accessible.do(wait_for(button, f'the button "{name}" in the window "{title}"'), 'Press')
+
+    def write(self, title, field, text):
+        box = self.accessible.control(self.window(title), 'text', field)
+        assert box.queryEditableText().setTextContents(text), f'{field} took no text'
+        wait_for(lambda: self.accessible.content(box) == text, f'"{text}" in the field {field}')
+
+    def select_in_tree(self, *names):
+        """The row of the first name, and behind it of the next ones."""
+        tree = self.accessible.control(self.window(CALENDARS), 'tree', 'Currencies and calendars').queryTable()
+
+        def row():
+            texts = [tree.getAccessibleAt(row, 0).name for row in range(tree.nRows)]
+            found = -1
+            for name in names:
+                if name not in texts[found + 1:]:
+                    return None
+                found = texts.index(name, found + 1)
+            return found + 1
+        assert tree.addRowSelection(wait_for(row, f'{names} in the tree') - 1)
+
+    def select_in_planner(self, row, date):
+        """That day alone, in a row that counts from 0."""
+        days = self.accessible.control(self.window(self.together), 'table', 'Year').queryTable()
+        self.accessible.do(days.getAccessibleAt(row, date.timetuple().tm_yday - 1), 'SetFocus')
+
+    def start(self, url):
+        self.session.start('--database', url)
+        self.window(BOARD)
+
+    def look_at_all_plans(self, count):
+        self.press(BOARD, 'Prepare all')
+        self.window(self.plans.format(count))
+
+    def apply_plans(self, count):
+        self.press(self.plans.format(count), 'Apply')
+        self.wait_said(self.plans.format(count), 'as planned')
+        self.press(self.plans.format(count), 'Close')
+
+    def open_calendar_of_euro(self):
+        self.press(BOARD, 'Open calendars')
+        self.press(CALENDARS, 'Expand')
+        self.select_in_tree('EUR', str(self.year))
+        self.wait_days()
+
+    def open_planner_of_three(self):
+        """Once it is open, the tool brings it to the front as it is."""
+        self.press(CALENDARS, 'Year planner')
+        if not self.has_planner:
+            self.write(self.alone, 'Currencies', ' '.join(TOGETHER))
+            self.press(self.alone, 'Show')
+        self.has_planner = True
+        self.window(self.together)
+
+    def ask_to_close(self, date):
+        row_of_all = 0
+        self.select_in_planner(row_of_all, date)
+        self.wait_said(self.together, f'{len(TOGETHER)} days selected, 0 of them closed')
+        self.press(self.together, 'Close selected days')
+        self.write(CLOSE_DAYS, 'Holiday', MOURNING)
+        self.wait_said(CLOSE_DAYS, 'A new holiday point')
+
+    def close_days(self):
+        self.press(CLOSE_DAYS, 'Close days')
+        return self.wait_said(self.together, 'closed now')
+
+    def close_planner(self):
+        """The window manager's business, to whoever uses no keys."""
+
+    def go_to(self, date):
+        self.press(CALENDARS, 'Go to date')
+        self.write('Go to date', 'Date', date.isoformat())
+        self.press('Go to date', 'Go')
+
+    def except_day(self, date):
+        self.select_in_planner(1 + TOGETHER.index('EUR'), date)
+        self.wait_said(self.together, '1 day selected, 1 of them closed')
+        self.press(self.together, 'Except days')
+        self.write('Except with message', 'Description', REASON)
+        self.press('Except with message', 'Except')
+        self.wait_said(self.together, '1 day is a working day by exception now')
+        self.go_to(date)
+
+    def ask_to_undo(self):
+        self.press(CALENDARS, 'Undo')
+        return self.wait_said('Undo', 'Undo in')
+
+    def undo(self):
+        self.press('Undo', 'Ok')
+
+    def save_planner(self, path):
+        self.press(self.together, 'Save as PDF')
+        self.write('Save as PDF', 'File name:', str(path))
+        self.press('Save as PDF', 'Save')
+        self.wait_said(self.together, 'Saved as')
+
+    def open_history_of_all(self, count):
+        """A currency as a whole is no calendar, and so the history is that of all."""
+        self.select_in_tree('EUR')
+        self.press(CALENDARS, 'History')
+        wait_for(lambda: self.table(HISTORY, 'Changes').row_count() >= count, f'{count} changes in the history')
+
+    def leave(self):
+        assert self.session.app.poll() is None, self.session.printed()
