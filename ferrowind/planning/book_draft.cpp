@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "ferrowind/almanac/expression_error.h"
-#include "ferrowind/almanac/planner.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
@@ -40,16 +39,20 @@ std::optional<int> YearOf(const std::string& text) {
   return year;
 }
 
-/// The plan of the year, or nothing where the book tells of none.
-std::optional<almanac::YearPlan> PlanIn(const almanac::Planner& planner, int year) {
-  if (!planner.Reaches(year)) return std::nullopt;
-  return planner.Plan(year);
+std::optional<std::string> NameOn(const almanac::YearPlan& plan, int day_of_year) {
+  const almanac::PlannedDay* const day = plan.Find(day_of_year);
+  if (day == nullptr) return std::nullopt;
+  return plan.NameOf(*day);
 }
 
-std::optional<std::string> NameOn(const std::optional<almanac::YearPlan>& plan, int day_of_year) {
-  const almanac::PlannedDay* const day = plan ? plan->Find(day_of_year) : nullptr;
-  if (day == nullptr) return std::nullopt;
-  return plan->NameOf(*day);
+/// The years that `one` tells of and `other` does not.
+std::vector<int> YearsOfOneAlone(const almanac::Planner& one, const almanac::Planner& other, int first_year,
+                                 int count) {
+  std::vector<int> years;
+  for (int year = first_year; year < first_year + count; ++year) {
+    if (one.Reaches(year) && !other.Reaches(year)) years.push_back(year);
+  }
+  return years;
 }
 
 }  // namespace
@@ -145,12 +148,13 @@ std::vector<almanac::RuleYear> BookDraft::YearsOf(std::size_t position, int firs
 }
 
 std::vector<PlanChange> BookDraft::Changes(int first_year, int count) const {
-  const almanac::Planner before(stored_.value_or(RuleBook{}), tables_);
-  const almanac::Planner after(ReadableBook(0).book, tables_);
+  const almanac::Planner before = StoredPlanner();
+  const almanac::Planner after = DraftPlanner();
   std::vector<PlanChange> changes;
   for (int year = first_year; year < first_year + count; ++year) {
-    const auto old_plan = PlanIn(before, year);
-    const auto new_plan = PlanIn(after, year);
+    if (!before.Reaches(year) || !after.Reaches(year)) continue;
+    const auto old_plan = before.Plan(year);
+    const auto new_plan = after.Plan(year);
     for (int day = 1; day <= platform::DaysInYear(year); ++day) {
       auto was = NameOn(old_plan, day);
       auto will_be = NameOn(new_plan, day);
@@ -161,6 +165,18 @@ std::vector<PlanChange> BookDraft::Changes(int first_year, int count) const {
   }
   return changes;
 }
+
+std::vector<int> BookDraft::YearsLost(int first_year, int count) const {
+  return YearsOfOneAlone(StoredPlanner(), DraftPlanner(), first_year, count);
+}
+
+std::vector<int> BookDraft::YearsGained(int first_year, int count) const {
+  return YearsOfOneAlone(DraftPlanner(), StoredPlanner(), first_year, count);
+}
+
+almanac::Planner BookDraft::StoredPlanner() const { return {stored_.value_or(RuleBook{}), tables_}; }
+
+almanac::Planner BookDraft::DraftPlanner() const { return {ReadableBook(0).book, tables_}; }
 
 void BookDraft::Store() const {
   if (IsEmpty()) {

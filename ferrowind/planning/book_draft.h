@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
+#include "ferrowind/almanac/planner.h"
 #include "ferrowind/almanac/rule_book.h"
 #include "ferrowind/almanac/rule_dates.h"
 #include "ferrowind/planning/book_shelf.h"
@@ -68,8 +69,14 @@ class BookDraft {
   /// be read; empty while its own cannot.
   [[nodiscard]] std::vector<almanac::RuleYear> YearsOf(std::size_t position, int first_year, int count) const;
   /// The days of `count` years from `first_year` on that the plan of this book has otherwise than that of the
-  /// stored one. Only of a draft without faults.
+  /// stored one, in the years that both tell of. Only of a draft without faults.
   [[nodiscard]] std::vector<PlanChange> Changes(int first_year, int count) const;
+  /// Those of `count` years from `first_year` on that the stored book tells of and this one does not. Only of
+  /// a draft without faults.
+  [[nodiscard]] std::vector<int> YearsLost(int first_year, int count) const;
+  /// Those of `count` years from `first_year` on that this book tells of and the stored one does not. Only of
+  /// a draft without faults.
+  [[nodiscard]] std::vector<int> YearsGained(int first_year, int count) const;
 
   /// Puts the draft in place of the stored book; a draft without a publisher, a document and rules removes
   /// it. Only of one without faults. A `Refusal` when somebody else has changed the book since it was read:
@@ -84,6 +91,8 @@ class BookDraft {
     std::optional<std::size_t> position;
   };
   [[nodiscard]] Readable ReadableBook(std::size_t position) const;
+  [[nodiscard]] almanac::Planner StoredPlanner() const;
+  [[nodiscard]] almanac::Planner DraftPlanner() const;
   [[nodiscard]] bool IsEmpty() const;
   [[nodiscard]] bool HasFaultySince() const;
 

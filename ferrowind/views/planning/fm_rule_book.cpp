@@ -272,7 +272,26 @@ std::string fmRuleBook::ChangesText() const {
   const auto changes = draft_->Changes(this_year, kComparedYears);
   const std::string years =
       std::to_string(this_year) + " - " + std::to_string(this_year + kComparedYears - 1);
-  if (changes.empty()) return Said(platform_, "The plans of %1 stay as they are.", {years});
+  const std::string text = YearsText(this_year);
+  if (changes.empty())
+    return text.empty() ? Said(platform_, "The plans of %1 stay as they are.", {years}) : text;
+  return text + (text.empty() ? "" : " ") + DaysText(changes, years);
+}
+
+std::string fmRuleBook::YearsText(int first_year) const {
+  std::string text;
+  const auto tell = [&](const char* sentence, const std::vector<int>& years) {
+    std::string list;
+    for (const int year : years) list += (list.empty() ? "" : ", ") + std::to_string(year);
+    if (!list.empty()) text += (text.empty() ? "" : " ") + Said(platform_, sentence, {list});
+  };
+  tell("No plan any more for: %1.", draft_->YearsLost(first_year, kComparedYears));
+  tell("A plan from now on for: %1.", draft_->YearsGained(first_year, kComparedYears));
+  return text;
+}
+
+std::string fmRuleBook::DaysText(const std::vector<planning::PlanChange>& changes,
+                                 const std::string& years) const {
   std::string text =
       SaidOfNumber(platform_, static_cast<std::int64_t>(changes.size()),
                    "%n day of the plans of %1 changes:", "%n days of the plans of %1 change:", {years});

@@ -51,6 +51,10 @@ class fmRuleBook : public PlanningWindow, public std::enable_shared_from_this<fm
   void ShowBookOutcome();
   [[nodiscard]] std::string OutcomeText(const std::vector<std::string>& faults) const;
   [[nodiscard]] std::string ChangesText() const;
+  /// What changes about which years the book tells of; "" for nothing.
+  [[nodiscard]] std::string YearsText(int first_year) const;
+  [[nodiscard]] std::string DaysText(const std::vector<planning::PlanChange>& changes,
+                                     const std::string& years) const;
   void EnableControls();
 
   void Form_Load();

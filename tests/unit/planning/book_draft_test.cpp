@@ -197,8 +197,10 @@ TEST(BookDraft, KnowsSinceWhenTheBookHolds) {
     EXPECT_THAT(draft.Faults(), IsEmpty());
     // Ten years from 2026 on, but for the first.
     EXPECT_THAT(draft.YearsOf(1, kYear, 10), SizeIs(9));
-    // 52 Sundays, 25 December and Good Friday of 2026 are told of no more.
-    EXPECT_THAT(draft.Changes(kYear, 2), SizeIs(54));
+    // What is told of no more is not planned to be open.
+    EXPECT_THAT(draft.Changes(kYear, 2), IsEmpty());
+    EXPECT_THAT(draft.YearsLost(kYear, 2), ElementsAre(2026));
+    EXPECT_THAT(draft.YearsGained(kYear, 2), IsEmpty());
     draft.Store();
     EXPECT_EQ(component.world.commands.CallsOf("CldIUBook").front().Parameter("@FromYear"), Value(2027));
   });

@@ -307,6 +307,7 @@ TEST(RuleBookWindow, SavesSinceWhenTheBookHolds) {
     book.TakeBook(0);
     book.Rules().ClickRow("2");
     book.Box("txtSince").ReplaceText("2027");
+    EXPECT_EQ(book.TextOf("lblOutcome"), "No plan any more for: 2026.");
     // Of the ten years from 2025 on.
     EXPECT_EQ(book.Years().RowCount(), 8u);
     book.Click("cmdSave");
