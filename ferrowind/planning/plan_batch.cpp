@@ -113,6 +113,11 @@ void PlanBatch::PlanTried(const std::vector<PlanOutcome>& outcomes) {
 }
 
 std::vector<PlanOutcome> PlanBatch::Apply() {
+  // Several are told as one action, not each in the place of the one before.
+  const auto together = CalendarsToChange() > 1
+                            ? std::make_unique<ActionScope>(AttachedPlatform().action_observer,
+                                                            platform::ActionKind::kApplyPlan)
+                            : nullptr;
   std::vector<PlanOutcome> outcomes;
   const auto applied_before = std::exchange(applied_, {});
   bool has_failed = false;
@@ -131,7 +136,7 @@ std::vector<PlanOutcome> PlanBatch::Apply() {
 }
 
 PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
-  const PlannedCalendar& calendar = calendars_[position];
+  PlannedCalendar& calendar = calendars_[position];
   const bool existed = calendar.Preparation()->CalendarExists();
   const std::string& currency = calendar.Preparation()->Owner().code;
   try {
@@ -155,6 +160,10 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
 }
 
 std::vector<PlanOutcome> PlanBatch::Undo() {
+  const auto together =
+      applied_.size() > 1
+          ? std::make_unique<ActionScope>(AttachedPlatform().action_observer, platform::ActionKind::kUndo)
+          : nullptr;
   std::vector<PlanOutcome> outcomes;
   while (!applied_.empty()) {
     outcomes.push_back(UndoOne(applied_.back()));

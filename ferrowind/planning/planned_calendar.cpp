@@ -70,7 +70,13 @@ void PlannedCalendar::Take(int day_of_year, bool is_taken) {
   choice_.Decide(day_of_year, is_taken);
 }
 
+void PlannedCalendar::Apply() {
+  preparation_->Apply(choice_);
+  is_rest_ = true;
+}
+
 void PlannedCalendar::TakeAll(bool is_taken) {
+  is_rest_ = false;
   decisions_.clear();
   ChooseAnew();
   if (is_taken) return;
@@ -78,7 +84,7 @@ void PlannedCalendar::TakeAll(bool is_taken) {
 }
 
 bool PlannedCalendar::IsLeftOut() const {
-  if (preparation_ == nullptr) return false;
+  if (preparation_ == nullptr || is_rest_) return false;
   const auto& days = preparation_->Compared().Days();
   const auto is_taken_at_first = [&](const ComparedDay& day) {
     return day.action != PlanAction::kException && IsOpenToChoice(day);

@@ -29,8 +29,9 @@ class PlannedCalendar {
   [[nodiscard]] const std::string& Name() const { return name_; }
 
   /// Reads and compares it by `planner`, which it keeps. Whatever makes that fail becomes `WhyNot`. When it
-  /// was planned before, days that were left out stay so, and so does a calendar all of whose days were; a
-  /// day that was taken against the rule above is only while it is and should be the same as then.
+  /// was planned before, days that were left out stay so, and so does a calendar all of whose days were,
+  /// unless that is what a plan that was applied has left; a day that was taken against the rule above is
+  /// only while it is and should be the same as then.
   void Plan(const std::shared_ptr<const YearPlanner>& planner);
   /// It cannot be planned, for that reason.
   void Fail(const std::string& why_not);
@@ -52,7 +53,7 @@ class PlannedCalendar {
   /// Whether `Apply` would change anything. A calendar that does not exist is not made without any day.
   [[nodiscard]] bool HasWork() const;
   /// As `YearPreparation::Apply`. Precondition: `HasWork`.
-  void Apply() const { preparation_->Apply(choice_); }
+  void Apply();
 
  private:
   /// What somebody has decided about a day, and what was planned for it then.
@@ -78,6 +79,8 @@ class PlannedCalendar {
   std::shared_ptr<const YearPlanner> planner_;
   std::unique_ptr<const YearPreparation> preparation_;
   almanac::DayChoice choice_ = almanac::ExceptionHandling::kKeep;
+  /// Whether the days that differ are those that an applied plan has left.
+  bool is_rest_ = false;
   /// By the day of the year.
   std::map<int, Decision> decisions_;
 };

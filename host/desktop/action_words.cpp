@@ -97,6 +97,12 @@ std::size_t CountDone(const ActionRecord& record) {
   return static_cast<std::size_t>(std::count_if(record.writes.begin(), record.writes.end(), IsDone));
 }
 
+/// Plans, and their undoing, are of several calendars where there is a write for each.
+bool IsOfManyCalendars(const ActionRecord& record) {
+  const ActionKind kind = record.action.kind;
+  return (kind == ActionKind::kApplyPlan || kind == ActionKind::kUndo) && record.writes.size() > 1;
+}
+
 /// Past participle of what the kinds do to rules.
 const char* DoneVerb(ActionKind kind) {
   switch (kind) {
@@ -196,7 +202,12 @@ std::string ActionWords::Command(const OperatorAction& action) const {
 
 std::string ActionWords::Success(const ActionRecord& record) const {
   const OperatorAction& action = record.action;
-  if (CountDone(record) == 0) return "";
+  const std::size_t done = CountDone(record);
+  if (done == 0) return "";
+  if (IsOfManyCalendars(record)) {
+    return action.kind == ActionKind::kUndo ? "Undid the changes of " + Counted(done, "calendar")
+                                            : "Applied the plans of " + Counted(done, "calendar");
+  }
   switch (action.kind) {
     case ActionKind::kCreateCalendar:
       return "Created the calendar" + With(" ", CalendarText(action));
@@ -225,7 +236,8 @@ std::string ActionWords::Question(const OperatorAction& action) const {
 
 std::string ActionWords::Refusal(const ActionRecord& record) const {
   const bool is_of_many = record.action.rules.size() > 1;
-  std::string text = Command(record.action) + ": " + (is_of_many ? Balance(record) : "refused") + ".";
+  const bool is_counted = is_of_many || IsOfManyCalendars(record);
+  std::string text = Command(record.action) + ": " + (is_counted ? Balance(record) : "refused") + ".";
   for (const auto& [reason, rules] : RefusedByReason(record)) {
     std::vector<std::string> names;
     for (const auto& rule : rules) names.push_back(Quoted(rule));

@@ -105,10 +105,6 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
   outcome_.SetColumns({{.key = "Outcome", .caption = Said(platform_, "What was done"), .stretches = true}});
   outcome_.SetVisible(false);
   if (calendars.size() > 1) FillCalendarList();
-  form_->SetCaption(calendars.size() == 1
-                        ? Said(platform_, "Plan of %1", {batch_.Calendars().front().Name()})
-                        : SaidOfNumber(platform_, static_cast<std::int64_t>(calendars.size()),
-                                       "Plan of %n calendar", "Plans of %n calendars"));
   ShowLines();
 }
 
@@ -175,7 +171,17 @@ void fmYearPlan::Form_QueryUnload() {
 // Showing
 // ------------------------------------------------------------------------------------------------
 
+void fmYearPlan::ShowCaption() {
+  const auto& calendars = batch_.Calendars();
+  form_->SetCaption(calendars.size() == 1
+                        ? Said(platform_, "Plan of %1", {calendars.front().Name()})
+                        : SaidOfNumber(platform_, static_cast<std::int64_t>(calendars.size()),
+                                       "Plan of %n calendar", "Plans of %n calendars"));
+}
+
 void fmYearPlan::ShowLines() {
+  // A calendar whose currency could not be read is called by its number until it is.
+  ShowCaption();
   planning::PlanLineFilter filter;
   if (filter_ != nullptr && filter_->Chosen() > 0) {
     filter.calendar = static_cast<std::size_t>(filter_->ItemData(filter_->Chosen()));

@@ -37,6 +37,7 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   void AddTools();
   void FillCalendarList();
   void RunTool(const std::string& id);
+  void ShowCaption();
   void ShowLines();
   void Apply();
   void Undo();

@@ -63,6 +63,10 @@ TEST_F(ActionWordsTest, ASuccessSaysWhatWasDoneAndCountsTheDays) {
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kApplyPlan), {Done()})),
             "Applied the plan of EUR 2028");
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kUndo), {Done()})), "Undid a change of EUR 2028");
+  EXPECT_EQ(words_.Success(Record({ActionKind::kApplyPlan, {}, 0, {}, {}}, {Done(), Failed("No"), Done()})),
+            "Applied the plans of 2 calendars");
+  EXPECT_EQ(words_.Success(Record({ActionKind::kUndo, {}, 0, {}, {}}, {Done(), Done()})),
+            "Undid the changes of 2 calendars");
   const auto assign = Euro2028(ActionKind::kAssignRules, {"Saturday", "Sunday"});
   EXPECT_EQ(words_.Success(Record(assign, {Done("Saturday"), Done("Sunday")}, 115)),
             "Assigned 2 rules to EUR 2028: 115 days set");

@@ -196,6 +196,25 @@ TEST(PlanBatch, UndoesWhatItHasAppliedTheLastCallFirst) {
   });
 }
 
+TEST(PlanBatch, HasAfterUndoingTheSameDaysLeftOutAsBeforeApplying) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    PlanBatch batch(kNoTables, {{kDollar, 2028}});
+    const auto before = batch.Totals();
+    ASSERT_GT(before.taken, 1U);
+    for (const auto& day : batch.Calendars().front().Preparation()->Compared().Days()) {
+      if (!batch.Calendars().front().Takes(day)) continue;
+      batch.At(0).Take(day.day_of_year, false);
+      break;
+    }
+    (void)batch.Apply();
+    ASSERT_EQ(batch.Totals().taken, 0U);
+    (void)batch.Undo();
+    EXPECT_EQ(batch.Totals().taken, before.taken - 1);
+    EXPECT_EQ(batch.Totals().left_out, 1U);
+  });
+}
+
 TEST(PlanBatch, CanStillUndoWhenALaterApplyHasChangedNothing) {
   RunInFreshThread([] {
     BatchWorld world;
@@ -326,16 +345,18 @@ TEST(PlanBatch, TellsTheHostOfEachCallThatWritesAndHowItEnds) {
     PlanBatch batch(kNoTables, {{kEuro, 2028}, {kDollar, 2028}});
     BatchWorld::CreateCalendar(kDollar, 2028);
     (void)batch.Apply();
-    EXPECT_THAT(observer.events, ElementsAre("began apply plan EUR 2028", "write 0", "ended",
-                                             "began apply plan USD 2028", "write 8", "ended"));
+    EXPECT_THAT(observer.events,
+                ElementsAre("began apply plan", "began apply plan EUR 2028", "write 0", "ended",
+                            "began apply plan USD 2028", "write 8", "ended", "ended"));
     observer.events.clear();
     (void)batch.Undo();
     EXPECT_THAT(observer.events, ElementsAre("began undo EUR 2028", "write 0", "ended"));
     observer.events.clear();
     world.world.faults.FailAtCall(1);
     (void)batch.Apply();
-    EXPECT_THAT(observer.events, ElementsAre("began apply plan EUR 2028",
-                                             HasSubstr("write -1 Applying the plan of EUR 2028"), "ended"));
+    EXPECT_THAT(observer.events,
+                ElementsAre("began apply plan", "began apply plan EUR 2028",
+                            HasSubstr("write -1 Applying the plan of EUR 2028"), "ended", "ended"));
   });
 }
 

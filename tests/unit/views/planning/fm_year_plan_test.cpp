@@ -345,6 +345,18 @@ TEST(YearPlanWindow, KeepsTellingOfAFailureUntilTheNextCall) {
   });
 }
 
+TEST(YearPlanWindow, CallsACalendarByItsCurrencyAsSoonAsThatCanBeRead) {
+  RunInFreshThread([] {
+    PlanWorld world;
+    world.world.faults.FailAtCall(1);
+    world.Open();
+    world.world.faults.Disarm();
+    EXPECT_EQ(world.Form().Caption(), "Plan of 978 2028");
+    world.ClickTool("ID_Refresh");
+    EXPECT_EQ(world.Form().Caption(), "Plan of EUR 2028");
+  });
+}
+
 TEST(YearPlanWindow, TellsWhatWentWrongFirst) {
   RunInFreshThread([] {
     PlanWorld world;
