@@ -1,6 +1,7 @@
 #include "host/desktop/start_page.h"
 
 #include <QScreen>
+#include <QShortcut>
 
 #include "host/delivery/delivered_tables.h"
 
@@ -21,6 +22,8 @@ StartPage::StartPage(DesktopSurroundings& surroundings, OperatorNews& news, Back
   board_ = fmReadiness::Create({platform_, DeliveredDateTables(), windows}, fmReadiness::DoorsTo(windows));
   changed_ = news.OnChange([this] { is_out_of_date_ = true; });
   connect(&window, &BackOfficeWindow::Activated, this, &StartPage::FollowWhenOld);
+  auto* const refresh = new QShortcut(Qt::Key_F5, &window);
+  connect(refresh, &QShortcut::activated, this, &StartPage::Read);
   window.AskBeforeClosing([&windows] { return windows.CloseAll(); });
   window.resize(kSize.boundedTo(window.screen()->availableSize() * kShareOfScreen));
   since_read_.start();

@@ -39,6 +39,7 @@ platform::FormDesign Design() {
                    {.kind = ControlKind::kTable, .name = "tblFindings", .selects_many = true, .sorts = true},
                    {ControlKind::kSplitter, "spBoard"},
                    {ControlKind::kButton, "cmdRefresh", "Refresh"},
+                   {ControlKind::kButton, "cmdHistory", "History..."},
                    {ControlKind::kButton, "cmdBook", "Rule book..."},
                    {ControlKind::kButton, "cmdPlan", "Year plan..."},
                    {ControlKind::kButton, "cmdPrepareAll", "Prepare all..."}}};
@@ -58,7 +59,8 @@ std::shared_ptr<fmReadiness> fmReadiness::Create(const PlanningContext& context,
 
 ReadinessDoors fmReadiness::DoorsTo(PlanningWindows& windows) {
   return {.open_year_plan = [&windows](const auto& calendars) { windows.OpenYearPlan(calendars); },
-          .open_rule_book = [&windows](std::int32_t currency) { windows.OpenRuleBook(currency); }};
+          .open_rule_book = [&windows](std::int32_t currency) { windows.OpenRuleBook(currency); },
+          .open_history = [&windows] { windows.OpenHistory({}); }};
 }
 
 fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
@@ -72,6 +74,7 @@ fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
       lblFindings_(ControlOf<platform::Label>(*form_, "lblFindings")),
       tblFindings_(ControlOf<platform::Table>(*form_, "tblFindings")),
       cmdRefresh_(ControlOf<platform::Button>(*form_, "cmdRefresh")),
+      cmdHistory_(ControlOf<platform::Button>(*form_, "cmdHistory")),
       cmdBook_(ControlOf<platform::Button>(*form_, "cmdBook")),
       cmdPlan_(ControlOf<platform::Button>(*form_, "cmdPlan")),
       cmdPrepareAll_(ControlOf<platform::Button>(*form_, "cmdPrepareAll")) {}
@@ -93,6 +96,7 @@ void fmReadiness::Subscribe() {
   subscriptions_.push_back(tblBoard_.OnCurrentChange(Running(&fmReadiness::EnableButtons)));
   subscriptions_.push_back(tblFindings_.OnActivate(Running(&fmReadiness::OpenFinding)));
   subscriptions_.push_back(cmdRefresh_.OnClick(Running(&fmReadiness::Read)));
+  subscriptions_.push_back(cmdHistory_.OnClick(Running(&fmReadiness::OpenHistory)));
   subscriptions_.push_back(cmdBook_.OnClick(Running(&fmReadiness::OpenBook)));
   subscriptions_.push_back(cmdPlan_.OnClick(Running(&fmReadiness::OpenPlanOfCell)));
   subscriptions_.push_back(cmdPrepareAll_.OnClick(Running(&fmReadiness::PrepareAll)));
@@ -169,7 +173,7 @@ void fmReadiness::ShowReport() {
   lblSummary_.SetText(words.Summary());
   ShowBoard();
   ShowFindings();
-  cmdPrepareAll_.SetCaption(Say("Prepare all for %1...", {std::to_string(report_->NextYear())}));
+  cmdPrepareAll_.SetCaption(Say("Prepare all for %1...", {std::to_string(YearToPrepare())}));
   EnableButtons();
 }
 
@@ -205,7 +209,7 @@ void fmReadiness::ShowFindings() {
   findings_.clear();
   std::vector<TableRow> rows;
   std::int64_t place = 0;
-  for (const Finding& finding : report_->review.findings) {
+  for (const Finding& finding : words.Findings()) {
     const std::string year = finding.year ? std::to_string(*finding.year) : std::string();
     // Two findings may say the same, and each row has a key of its own.
     std::string key = finding.sentence.InEnglish();
@@ -224,7 +228,15 @@ void fmReadiness::EnableButtons() {
   const bool is_chosen = ChosenCalendar().has_value();
   cmdBook_.SetEnabled(doors_.open_rule_book != nullptr && is_chosen);
   cmdPlan_.SetEnabled(has_way && is_chosen);
-  cmdPrepareAll_.SetEnabled(has_way && report_ && !report_->ToPrepare(report_->NextYear()).empty());
+  cmdPrepareAll_.SetEnabled(has_way && report_ && !report_->ToPrepare(YearToPrepare()).empty());
+  cmdHistory_.SetEnabled(doors_.open_history != nullptr);
+}
+
+int fmReadiness::YearToPrepare() const {
+  for (int year = report_->NextYear(); year <= report_->LastYear(); ++year) {
+    if (!report_->ToPrepare(year).empty()) return year;
+  }
+  return report_->NextYear();
 }
 
 // Ways to the plans
@@ -256,6 +268,10 @@ void fmReadiness::OpenBook() {
   if (calendar && doors_.open_rule_book) doors_.open_rule_book(calendar->first);
 }
 
+void fmReadiness::OpenHistory() {
+  if (doors_.open_history) doors_.open_history();
+}
+
 void fmReadiness::OpenFinding() {
   const std::optional<std::string> row = tblFindings_.CurrentRow();
   if (!row || !report_) return;
@@ -272,7 +288,7 @@ void fmReadiness::OpenFinding() {
 
 void fmReadiness::PrepareAll() {
   if (!report_) return;
-  const std::vector<CalendarKey> calendars = report_->ToPrepare(report_->NextYear());
+  const std::vector<CalendarKey> calendars = report_->ToPrepare(YearToPrepare());
   if (!calendars.empty()) OpenPlan(calendars);
 }
 

@@ -24,6 +24,8 @@ struct ReadinessDoors {
   std::function<void(const std::vector<planning::CalendarKey>& calendars)> open_year_plan = {};
   /// Of the currency of that number.
   std::function<void(std::int32_t currency)> open_rule_book = {};
+  /// Of all calendars.
+  std::function<void()> open_history = {};
 };
 
 /// The readiness board: how far each currency is prepared for the years around today, what a review of all
@@ -76,8 +78,11 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
 
   void OpenPlanOfCell();
   void OpenBook();
+  void OpenHistory();
   void OpenFinding();
   void PrepareAll();
+  /// The next year, or the one after it once nothing of the next one is left to prepare. Only with a report.
+  [[nodiscard]] int YearToPrepare() const;
   void OpenPlan(const std::vector<planning::CalendarKey>& calendars);
   /// What the operator has chosen on the board; nothing without a row.
   [[nodiscard]] std::optional<planning::CalendarKey> ChosenCalendar() const;
@@ -93,6 +98,7 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   platform::Label& lblFindings_;
   platform::Table& tblFindings_;
   platform::Button& cmdRefresh_;
+  platform::Button& cmdHistory_;
   platform::Button& cmdBook_;
   platform::Button& cmdPlan_;
   platform::Button& cmdPrepareAll_;

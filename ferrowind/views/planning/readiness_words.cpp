@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <set>
 #include <vector>
 
 #include "ferrowind/data/said.h"
@@ -166,10 +167,40 @@ std::string ReadinessWords::Summary() const {
   return Said(platform_, "Prepared: %1, %2.", {share_in(report_.today.Year()), share_in(report_.NextYear())});
 }
 
+std::string ReadinessWords::EmptyCalendar(const Finding& finding) const {
+  if (finding.subject != almanac::FindingSubject::kDiffersFromPlan) return {};
+  for (const CurrencyReadiness& currency : report_.currencies) {
+    if (currency.currency.code != finding.currency) continue;
+    for (const YearReadiness& of : currency.years) {
+      const bool is_empty =
+          of.readiness == Readiness::kNotPrepared || of.readiness == Readiness::kWeekendsOnly;
+      if (of.year == finding.year && is_empty) return Sentence(currency, of);
+    }
+  }
+  return {};
+}
+
+std::vector<Finding> ReadinessWords::Findings() const {
+  std::vector<Finding> findings;
+  std::set<std::string> told;
+  for (const Finding& finding : report_.review.findings) {
+    const std::string sentence = EmptyCalendar(finding);
+    if (sentence.empty()) {
+      findings.push_back(finding);
+    } else if (told.insert(sentence).second) {
+      findings.push_back(finding);
+      findings.back().day.reset();
+      findings.back().sentence = sentence;
+    }
+  }
+  return findings;
+}
+
 std::string ReadinessWords::FindingsTitle() const {
-  if (report_.review.findings.empty()) return Said(platform_, "The review has found nothing");
+  const std::vector<Finding> findings = Findings();
+  if (findings.empty()) return Said(platform_, "The review has found nothing");
   std::array<int, 3> counts{};
-  for (const Finding& finding : report_.review.findings) ++counts[static_cast<std::size_t>(finding.level)];
+  for (const Finding& finding : findings) ++counts[static_cast<std::size_t>(finding.level)];
   std::string list;
   const auto add = [&](FindingLevel level, const char* one, const char* many) {
     const int count = counts[static_cast<std::size_t>(level)];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "ferrowind/almanac/finding.h"
 #include "ferrowind/almanac/year_readiness.h"
@@ -29,11 +30,16 @@ class ReadinessWords {
   /// How many currencies are prepared for the running and for the next year.
   [[nodiscard]] std::string Summary() const;
 
+  /// Those of the review, where the days of a calendar without holidays are one finding: what is missing
+  /// there is not this or that day.
+  [[nodiscard]] std::vector<almanac::Finding> Findings() const;
   /// "Findings of the review: 1 error, 2 warnings, 3 notes".
   [[nodiscard]] std::string FindingsTitle() const;
   [[nodiscard]] platform::TableCell LevelCell(almanac::FindingLevel level) const;
 
  private:
+  /// What to say in place of a day that is missing in a calendar without holidays; "" for other findings.
+  [[nodiscard]] std::string EmptyCalendar(const almanac::Finding& finding) const;
   [[nodiscard]] std::string Sentence(const planning::CurrencyReadiness& currency,
                                      const almanac::YearReadiness& year) const;
   [[nodiscard]] platform::TableCell WordAndShape(const almanac::YearReadiness& year) const;

@@ -115,6 +115,12 @@ TEST_F(StartPage, IsNotReadAgainForNothing) {
   EXPECT_EQ(Cell("EUR", "Name"), "Euro");
 }
 
+TEST_F(StartPage, IsReadAgainByF5) {
+  CreateCalendarElsewhere(kEuro, ThisYear());
+  QTest::keyClick(&Board(), Qt::Key_F5);
+  EXPECT_EQ(Cell("EUR", "Name"), "Euro");
+}
+
 TEST_F(StartPage, FollowsAtOnceWhatAWindowOfPlanningHasChanged) {
   CreateCalendarElsewhere(kEuro, ThisYear());
   surroundings_->Windows().TellChanged({{kEuro, ThisYear()}});
@@ -176,7 +182,8 @@ TEST_F(StartPageWithBook, PreparesTheNextYearOfAllCurrenciesAfterALookAtThePlan)
   Activate(*plan);
   ClickButton(*plan, "cmdApply");
   EXPECT_EQ(Cell("USD", NextYear()), "Prepared");
-  EXPECT_FALSE(Find<QPushButton>(*back_office_, "cmdPrepareAll").isEnabled());
+  EXPECT_EQ(Find<QPushButton>(*back_office_, "cmdPrepareAll").text().toStdString(),
+            "&Prepare all for " + std::to_string(ThisYear() + 2) + "...");
   EXPECT_EQ(Cell("USD", std::to_string(ThisYear())), "Weekends only");
 }
 

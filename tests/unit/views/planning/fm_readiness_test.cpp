@@ -26,6 +26,7 @@ using platform::Date;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using testing::RunInFreshThread;
 
 using Opened = std::vector<std::vector<CalendarKey>>;
@@ -39,7 +40,8 @@ class ReadinessWorld : public planning::ReportWorld {
     window =
         fmReadiness::Create({platform, tables, windows},
                             {[this](const auto& calendars_of_plan) { opened.push_back(calendars_of_plan); },
-                             [this](std::int32_t currency) { books_opened.push_back(currency); }});
+                             [this](std::int32_t currency) { books_opened.push_back(currency); },
+                             [this] { ++histories_opened; }});
   }
   void Show() { window->Show(); }
 
@@ -65,6 +67,7 @@ class ReadinessWorld : public planning::ReportWorld {
   PlanningWindows windows{platform, tables};
   Opened opened;
   std::vector<std::int32_t> books_opened;
+  int histories_opened = 0;
   std::shared_ptr<fmReadiness> window;
 };
 
@@ -107,6 +110,22 @@ TEST(Readiness, ListsTheFindingsWorstFirstWithShapesForTheirLevels) {
     EXPECT_EQ(board.Findings().Cell(keys.back(), "level").text, "Note");
     EXPECT_THAT(board.Label("lblFindings"), HasSubstr("Findings of the review: "));
     EXPECT_THAT(board.Findings().Texts(board.FindingWith("EUR 2026 has no weekends"))[1], "EUR");
+  });
+}
+
+TEST(Readiness, TellsOfACalendarWithoutHolidaysOnceAndLeadsToItsPlan) {
+  RunInFreshThread([] {
+    ReadinessWorld board(
+        {{kEuro, 2026}, {kEuro, 2027}},
+        {{kEuro, 2026, 359, 3, 3, {}}, {kEuro, 2027, 3, 2, 2, {}}, {kEuro, 2027, 10, 2, 2, {}}});
+    board.Show();
+    // A Sunday is where none should be, twice, and Christmas Day is missing.
+    const std::string key =
+        board.FindingWith("EUR 2027 is closed on weekends only. 3 days are not as planned.");
+    for (const std::string& other : board.Findings().RowKeys())
+      EXPECT_THAT(board.Findings().Cell(other, "finding").text, Not(HasSubstr("EUR: Sunday")));
+    board.Findings().DoubleClickRow(key);
+    EXPECT_THAT(board.opened, ElementsAre(ElementsAre(CalendarKey(kEuro, 2027))));
   });
 }
 
@@ -186,11 +205,24 @@ TEST(Readiness, PreparesTheNextYearOfAllCurrenciesThatAPlanWouldChange) {
   });
 }
 
-TEST(Readiness, OffersNoPreparationOfAllWhenNothingWouldChange) {
+TEST(Readiness, PreparesTheYearAfterTheNextOnceNothingIsLeftOfTheNextOne) {
   RunInFreshThread([] {
     ReadinessWorld board({{kEuro, 2026}, {kEuro, 2027}},
                          {{kEuro, 2026, 359, 3, 3, {}}, {kEuro, 2027, 359, 3, 3, {}}});
     board.Show();
+    EXPECT_EQ(board.Button("cmdPrepareAll").Caption(), "Prepare all for 2028...");
+    board.Button("cmdPrepareAll").Click();
+    EXPECT_THAT(board.opened, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028))));
+  });
+}
+
+TEST(Readiness, OffersNoPreparationOfAllWhenNothingWouldChange) {
+  RunInFreshThread([] {
+    ReadinessWorld board(
+        {{kEuro, 2026}, {kEuro, 2027}, {kEuro, 2028}},
+        {{kEuro, 2026, 359, 3, 3, {}}, {kEuro, 2027, 359, 3, 3, {}}, {kEuro, 2028, 360, 3, 3, {}}});
+    board.Show();
+    EXPECT_EQ(board.Button("cmdPrepareAll").Caption(), "Prepare all for 2027...");
     EXPECT_FALSE(board.Button("cmdPrepareAll").Enabled());
   });
 }
@@ -216,6 +248,15 @@ TEST(Readiness, TheRuleBookOfTheCurrencyIsOneButtonAway) {
   });
 }
 
+TEST(Readiness, TheHistoryIsOneButtonAway) {
+  RunInFreshThread([] {
+    ReadinessWorld board;
+    board.Show();
+    board.Button("cmdHistory").Click();
+    EXPECT_EQ(board.histories_opened, 1);
+  });
+}
+
 TEST(Readiness, WithoutAWayToPlansOffersNone) {
   RunInFreshThread([] {
     ReadinessWorld board;
@@ -223,6 +264,7 @@ TEST(Readiness, WithoutAWayToPlansOffersNone) {
     board.window = fmReadiness::Create({board.platform, board.tables, board.windows}, {});
     board.Show();
     EXPECT_FALSE(board.Button("cmdBook").Enabled());
+    EXPECT_FALSE(board.Button("cmdHistory").Enabled());
     EXPECT_FALSE(board.Button("cmdPlan").Enabled());
     EXPECT_FALSE(board.Button("cmdPrepareAll").Enabled());
     EXPECT_NO_THROW(board.Board().DoubleClickRow("EUR", "2027"));
