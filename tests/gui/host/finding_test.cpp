@@ -52,6 +52,7 @@ TEST_F(Finding, LeavesOutDaysWhileTheOperatorTypes) {
   EXPECT_EQ(RowsOf(Days()), 366);
   EXPECT_TRUE(Days().hasFocus());
   EXPECT_EQ(CellText(Days(), Days().currentIndex().row(), "Day of year"), "96") << "5 April";
+  EXPECT_TRUE(Days().viewport()->rect().contains(Days().visualRect(Days().currentIndex()).center()));
 }
 
 TEST_F(Finding, ShowsWhatATypedDateMeansAndGoesThere) {

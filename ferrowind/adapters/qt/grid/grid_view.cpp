@@ -181,7 +181,11 @@ void GridView::SetCurrentRow(int row) {
   const int kept_column = current_column_;
   int column = std::max(current_column_ - 1, 0);
   if (current_column_ == 0 && header_->count() > 0) column = std::max(header_->FirstVisibleColumn(), 0);
-  GoTo(model_->index(row, column));
+  const QModelIndex index = model_->index(row, column);
+  const bool is_current = index == currentIndex();
+  GoTo(index);
+  // Going to another row does that.
+  if (is_current) scrollTo(index);
   current_column_ = kept_column;
 }
 
