@@ -23,6 +23,16 @@ TEST_F(TableComfortTest, FitsItsColumnsToWhatStandsInThemAndStretchesTheRest) {
             view_->viewport()->width());
 }
 
+TEST_F(TableComfortTest, GrowsWithTheRowsThatItGetsAndNeverShrinks) {
+  table_->SetRows({Row("a", "")});
+  table_->SetRows({Row("a", "A name of some length")});
+  const int width = view_->columnWidth(1);
+  EXPECT_GE(width, view_->fontMetrics().horizontalAdvance("A name of some length") + 14);
+  table_->SetRows({Row("a", "")});
+  EXPECT_EQ(view_->columnWidth(1), width);
+  EXPECT_EQ(view_->columnWidth(0) + width + view_->columnWidth(2), view_->viewport()->width());
+}
+
 TEST_F(TableComfortTest, KeepsAWidthThatTheOperatorGave) {
   table_->SetRows({Row("a", "Name", "x")});
   TableHeader& header = view_->Header();

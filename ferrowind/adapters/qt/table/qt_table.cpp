@@ -66,7 +66,11 @@ void QtTable::SetColumns(const std::vector<platform::TableColumn>& columns) {
 void QtTable::SetRows(const std::vector<platform::TableRow>& rows) {
   const bool was_empty = content_.RowCount() == 0;
   Change([&] { content_.SetRows(rows); });
-  if (was_empty) view_.FitColumns();
+  if (was_empty) {
+    view_.FitColumns();
+  } else {
+    view_.WidenColumns();
+  }
 }
 
 void QtTable::SetEmptyText(const std::string& text) { view_.SetEmptyText(ToQt(text)); }

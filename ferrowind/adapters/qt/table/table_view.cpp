@@ -189,6 +189,18 @@ void TableView::FitColumns() {
   Stretch();
 }
 
+void TableView::WidenColumns() {
+  bool has_widened = false;
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    if (settled_columns_.contains(column) || model_->Content().Columns()[Place(column)].stretches) continue;
+    const int width = FittingWidth(column);
+    if (width <= columnWidth(column)) continue;
+    header_->resizeSection(column, width);
+    has_widened = true;
+  }
+  if (has_widened) Stretch();
+}
+
 void TableView::Stretch() {
   if (model_ == nullptr) return;
   const auto& columns = model_->Content().Columns();

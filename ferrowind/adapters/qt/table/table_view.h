@@ -37,6 +37,9 @@ class TableView final : public UniformTableView {
   /// Gives each column that the operator has not resized the width at which its cells are read in full,
   /// within reason, and those that stretch what is left.
   void FitColumns();
+  /// Gives more width to those columns whose cells are wider by now; none gets narrower, but for those that
+  /// stretch.
+  void WidenColumns();
   /// The operator's widths are forgotten: other columns have come.
   void ForgetWidths() { settled_columns_.clear(); }
 
