@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QWindow>
+#include <utility>
 
 namespace ferrowind::host {
 
@@ -20,24 +21,31 @@ void NewsFooter::TellTrouble(const QString& text) {
 
 void NewsFooter::TellNote(const QString& text) {
   note_ = text;
+  is_note_new_ = !text.isEmpty();
   Show();
 }
 
 void NewsFooter::Show() {
-  if (trouble_.isEmpty() && note_.isEmpty()) return Leave();
   Follow();
   if (!panel_) return;
-  panel_->Tell(trouble_, note_);
+  if (std::exchange(is_note_new_, false)) has_note_ = true;
+  const QString note = has_note_ ? note_ : QString();
+  if (trouble_.isEmpty() && note.isEmpty()) return Leave();
+  panel_->Tell(trouble_, note);
   Place();
 }
 
 void NewsFooter::Follow() {
   QWidget* const window = QApplication::activeWindow();
-  if ((trouble_.isEmpty() && note_.isEmpty()) || window == nullptr || window == &own_window_ ||
-      window->windowType() != Qt::Window || (panel_ && panel_->parentWidget() == window))
+  if (window == nullptr || window->windowType() != Qt::Window) return;
+  if (window == &own_window_) {
+    is_note_new_ = false;
     return;
+  }
+  const bool is_for_window = !trouble_.isEmpty() || (is_note_new_ && !note_.isEmpty());
+  if (!is_for_window || (panel_ && panel_->parentWidget() == window)) return;
   auto* const panel = new FooterPanel(window);
-  panel->Tell(trouble_, note_);
+  panel->Tell(trouble_, is_note_new_ ? note_ : QString());
   panel->FitInto(window->size());
   if (!panel->HasRoomIn(window->size())) {
     delete panel;
@@ -45,6 +53,7 @@ void NewsFooter::Follow() {
   }
   Leave();
   panel_ = panel;
+  has_note_ = std::exchange(is_note_new_, false);
   margins_ = window->contentsMargins();
   connect(panel, &FooterPanel::Dismissed, this, &NewsFooter::Dismissed, Qt::QueuedConnection);
   window->installEventFilter(this);
@@ -79,7 +88,10 @@ bool NewsFooter::eventFilter(QObject* object, QEvent* event) {
   if (panel_ && panel_->parentWidget() == object) {
     if (event->type() == QEvent::Resize) Place();
     // A window that is closed or minimised tells nobody.
-    if (event->type() == QEvent::Hide) Leave();
+    if (event->type() == QEvent::Hide) {
+      is_note_new_ = has_note_;
+      Leave();
+    }
   }
   return QObject::eventFilter(object, event);
 }

@@ -12,6 +12,9 @@ namespace ferrowind::host {
 /// Puts the trouble that stands, and the note of the last action, below the content of the window in which
 /// the operator works, as long as that window has room for them. The windows are not the host's own and know
 /// nothing of it; nothing of them is covered. Dialogs are left alone, and the window behind keeps the texts.
+///
+/// A trouble goes with the operator from window to window. A note stays where it was told, and goes into the
+/// next window only when that one closes: elsewhere it would seem to be about something else.
 class NewsFooter : public QObject {
   Q_OBJECT
 
@@ -43,6 +46,10 @@ class NewsFooter : public QObject {
   QWidget& own_window_;
   QString trouble_;
   QString note_;
+  /// Whether the window that is active next is to have the note.
+  bool is_note_new_ = false;
+  /// Whether the panel shows it.
+  bool has_note_ = false;
   /// Goes with the window that it is on.
   QPointer<FooterPanel> panel_;
   /// Those that the window has without the panel.

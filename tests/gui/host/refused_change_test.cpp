@@ -53,6 +53,25 @@ TEST_F(RefusedChange, AnExceptionInAReadOnlyFileStaysToldAfterTheDaysWereReadAga
   EXPECT_EQ(StatusLine(), "Excepted 6 January 2028, USD");
 }
 
+TEST_F(RefusedChange, TheNoteOfASuccessStaysInTheWindowInWhichItWasTold) {
+  OpenCalendars();
+  PickForDay(5, "ID_Except");
+  QWidget other;
+  other.resize(600, 400);
+  other.show();
+  Activate(other);
+  QCoreApplication::processEvents();
+  EXPECT_THAT(NoteIn(other), IsEmpty());
+  EXPECT_EQ(NoteIn(Calendars()), "Excepted 6 January 2028, USD");
+  SetReadOnly(true);
+  ReturnToCalendars();
+  PickForDay(6, "ID_Except");
+  Activate(other);
+  QCoreApplication::processEvents();
+  EXPECT_THAT(TroubleIn(other), HasSubstr("is read-only")) << "a trouble goes with the operator";
+  SetReadOnly(false);
+}
+
 TEST_F(RefusedChange, AnAssignmentCountsTheDaysThatItSet) {
   OpenCalendars();
   InHolidays([this](QWidget& holidays) {
