@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/almanac/book_text.h"
@@ -73,6 +75,35 @@ TEST_F(RuleBookWindowTest, AddsARuleByKeyboardAndStoresIt) {
   EXPECT_THAT(Text("lblOutcome"), HasSubstr("The book of EUR is saved."));
   EXPECT_THAT(desk_.Read("SELECT Position, Name1, TID1, Expression FROM CldRecurrence WHERE Position > 3"),
               ElementsAre("4|Good Friday|4|easter-2", "5|Christmas Eve|3|12-24", "6|Christmas Day|3|12-25"));
+}
+
+TEST_F(RuleBookWindowTest, AddsNoRuleByEnterInAField) {
+  WalkTo(3);
+  const int rules = Rules().model()->rowCount();
+  for (const char* field : {"txtName", "txtExpression", "txtPublisher"}) {
+    Box(field).setFocus();
+    Press(Box(field), Qt::Key_Return);
+  }
+  EXPECT_EQ(Rules().model()->rowCount(), rules);
+  Find<QPushButton>(*window_, "cmdAdd").setFocus();
+  Press(Find<QPushButton>(*window_, "cmdAdd"), Qt::Key_Return);
+  EXPECT_EQ(Rules().model()->rowCount(), rules + 1) << "it presses the button that has the focus";
+  ClickButton(*window_, "cmdRemove");
+}
+
+TEST_F(RuleBookWindowTest, FitsASmallScreenWhateverTheKindOfDate) {
+  WalkTo(3);
+  auto& forms = Find<QComboBox>(*window_, "cmbForm");
+  std::vector<QString> names;
+  for (int i = 0; i < forms.count(); ++i) names.push_back(forms.itemText(i));
+  for (const QString& name : names) {
+    ChooseItem(*window_, "cmbForm", name.toStdString());
+    QCoreApplication::processEvents();
+    const QSize least = window_->layout()->totalMinimumSize();
+    EXPECT_LE(least.width(), 790) << name.toStdString();
+    EXPECT_LE(least.height(), 560) << name.toStdString();
+  }
+  Reset(3, "easter-2");
 }
 
 TEST_F(RuleBookWindowTest, WritesTheExpressionThatIsChosenInTheLists) {
