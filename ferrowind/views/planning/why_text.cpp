@@ -40,7 +40,9 @@ platform::TableCell DateCell(const Platform& platform, const SameDay& year) {
   if (!year.is_prepared) return {.text = Said(platform, "not prepared"), .mark = CellMark::kMissing};
   const std::string what = year.rule.empty() ? Said(platform, planning::kOrdinaryDay) : year.rule;
   const std::string weekday = platform.locale.WeekdayName(year.day.Weekday());
-  return {.text = weekday + ", " + what, .description = DayText(platform.locale, year.day) + ": " + what};
+  // A weekend is called by its weekday.
+  return {.text = what == weekday ? weekday : weekday + ", " + what,
+          .description = DayText(platform.locale, year.day) + ": " + what};
 }
 
 platform::TableCell RuleCell(const Platform& platform, const SameDay& year) {
