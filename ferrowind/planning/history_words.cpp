@@ -112,7 +112,7 @@ std::string WordsOfDates(const std::vector<JsonValue>& dates, const std::string&
   if (dates.size() != 1) return InWords(dates.size(), "%n day of %1", "%n days of %1", {calendar});
   const auto date = Date::FromIso(dates.front().text);
   if (!date) throw CannotBeTold();
-  return almanac::LongDate(date->Serial());
+  return InWords(almanac::LongDate(date->Serial()));
 }
 
 /// What a call did that gave days of a calendar which was there one and the same: by hand, mostly. Nothing

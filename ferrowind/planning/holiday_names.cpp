@@ -61,7 +61,7 @@ std::string HolidayNames::RefusalOf(const Use& use, std::span<const Date> days) 
   };
   if (use.kind == RuleKind::kCelebration && std::any_of(days.begin(), days.end(), is_elsewhere)) {
     return InWords("%1 is on %2 each year. Take another name for another day.",
-                   {use.name, almanac::DayAndMonth(use.month, use.day)});
+                   {use.name, InWords(almanac::DayAndMonth(use.month, use.day))});
   }
   return "";
 }
