@@ -103,9 +103,12 @@ std::vector<std::string> BookDraft::Faults() const {
   std::vector<std::string> faults;
   if (IsEmpty()) return faults;
   for (std::size_t position = 0; position < rules_.size(); ++position) {
-    if (const auto fault = FaultOfExpression(position))
-      faults.push_back(
-          InWords("The rule %1, \"%2\": %3", {std::to_string(position + 1), rules_[position].name, *fault}));
+    const auto fault = FaultOfExpression(position);
+    if (!fault) continue;
+    const std::string number = std::to_string(position + 1);
+    const std::string& name = rules_[position].name;
+    faults.push_back(name.empty() ? InWords("The rule %1: %2", {number, *fault})
+                                  : InWords("The rule %1, \"%2\": %3", {number, name, *fault}));
   }
   if (platform::Trim(head_.publisher).empty()) faults.push_back(InWords("The book names no publisher"));
   if (platform::Trim(head_.document).empty()) faults.push_back(InWords("The book names no document"));
@@ -120,6 +123,8 @@ bool BookDraft::HasFaultySince() const {
 }
 
 std::optional<std::string> BookDraft::FaultOfExpression(std::size_t position) const {
+  if (platform::Trim(rules_[position].expression).empty())
+    return InWords("Choose when it is, or write an expression such as 12-25 or easter-2");
   try {
     (void)DateExpression::Parse(rules_[position].expression);
     return std::nullopt;

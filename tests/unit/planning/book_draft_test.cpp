@@ -14,8 +14,10 @@ using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Optional;
 using testing::RunInFreshThread;
 using ::testing::SizeIs;
+using ::testing::StartsWith;
 
 constexpr int kYear = 2026;
 
@@ -128,6 +130,16 @@ TEST(BookDraft, TellsTheFaultOfAnExpression) {
               "\"05-32\" is no date expression: at 4, a day of the month is expected");
     EXPECT_FALSE(draft.FaultOfExpression(0));
     EXPECT_THAT(draft.Faults(), ElementsAre(AllOf(HasSubstr("rule 4, \"Labour Day\""), HasSubstr("05-32"))));
+  });
+}
+
+TEST(BookDraft, TellsWhatANewRuleIsStillToBeGiven) {
+  RunInFreshThread([] {
+    DraftWorld component;
+    BookDraft draft(DraftWorld::Euro(), component.tables);
+    draft.Insert(0, {});
+    EXPECT_THAT(draft.FaultOfExpression(0), Optional(HasSubstr("Choose when it is")));
+    EXPECT_THAT(draft.Faults(), ElementsAre(StartsWith("The rule 1: Choose when it is")));
   });
 }
 
