@@ -209,7 +209,7 @@ void fmReadiness::ShowFindings() {
   findings_.clear();
   std::vector<TableRow> rows;
   std::int64_t place = 0;
-  for (const Finding& finding : words.Findings()) {
+  for (const auto& [finding, sentence] : words.Findings()) {
     const std::string year = finding.year ? std::to_string(*finding.year) : std::string();
     // Two findings may say the same, and each row has a key of its own.
     std::string key = finding.sentence.InEnglish();
@@ -217,7 +217,7 @@ void fmReadiness::ShowFindings() {
     findings_[key] = {finding.currency, finding.year, IsAboutBook(finding)};
     TableCell level = words.LevelCell(finding.level);
     level.order = place++;
-    rows.push_back({key, {level, {finding.currency}, {year}, {Said(context_.platform, finding.sentence)}}, {}});
+    rows.push_back({key, {level, {finding.currency}, {year}, {sentence}}, {}});
   }
   tblFindings_.SetEmptyText(Say("All calendars are as planned, as far as it is published"));
   tblFindings_.SetRows(rows);

@@ -180,27 +180,25 @@ std::string ReadinessWords::EmptyCalendar(const Finding& finding) const {
   return {};
 }
 
-std::vector<Finding> ReadinessWords::Findings() const {
-  std::vector<Finding> findings;
+std::vector<ReadinessWords::SaidFinding> ReadinessWords::Findings() const {
+  std::vector<SaidFinding> findings;
   std::set<std::string> told;
   for (const Finding& finding : report_.review.findings) {
     const std::string sentence = EmptyCalendar(finding);
     if (sentence.empty()) {
-      findings.push_back(finding);
+      findings.push_back({finding, Said(platform_, finding.sentence)});
     } else if (told.insert(sentence).second) {
-      findings.push_back(finding);
-      findings.back().day.reset();
-      findings.back().sentence = sentence;
+      findings.push_back({finding, sentence});
     }
   }
   return findings;
 }
 
 std::string ReadinessWords::FindingsTitle() const {
-  const std::vector<Finding> findings = Findings();
+  const std::vector<SaidFinding> findings = Findings();
   if (findings.empty()) return Said(platform_, "The review has found nothing");
   std::array<int, 3> counts{};
-  for (const Finding& finding : findings) ++counts[static_cast<std::size_t>(finding.level)];
+  for (const SaidFinding& said : findings) ++counts[static_cast<std::size_t>(said.finding.level)];
   std::string list;
   const auto add = [&](FindingLevel level, const char* one, const char* many) {
     const int count = counts[static_cast<std::size_t>(level)];

@@ -14,6 +14,11 @@ namespace ferrowind {
 /// A report on readiness in the operator's words and shapes.
 class ReadinessWords {
  public:
+  struct SaidFinding {
+    const almanac::Finding& finding;
+    std::string sentence;
+  };
+
   /// Both must outlive this object.
   ReadinessWords(const platform::Platform& platform, const planning::ReadinessReport& report)
       : platform_(platform), report_(report) {}
@@ -32,7 +37,7 @@ class ReadinessWords {
 
   /// Those of the review, where the days of a calendar without holidays are one finding: what is missing
   /// there is not this or that day.
-  [[nodiscard]] std::vector<almanac::Finding> Findings() const;
+  [[nodiscard]] std::vector<SaidFinding> Findings() const;
   /// "Findings of the review: 1 error, 2 warnings, 3 notes".
   [[nodiscard]] std::string FindingsTitle() const;
   [[nodiscard]] platform::TableCell LevelCell(almanac::FindingLevel level) const;
