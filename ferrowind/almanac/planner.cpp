@@ -14,10 +14,6 @@ Planner::Planner(RuleBook book, const DateTables& tables)
 
 const RuleBook& Planner::Book() const { return *prepared_->Book(); }
 
-bool Planner::Reaches(int year) const {
-  return year >= kFirstYear && year <= kLastYear && Book().HoldsIn(year);
-}
-
 YearPlan Planner::Plan(int year) const {
   if (year < kFirstYear || year > kLastYear) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,

@@ -39,8 +39,8 @@ class Planner {
 
   [[nodiscard]] const RuleBook& Book() const;
 
-  /// Whether `year` is one from `kFirstYear` to `kLastYear` for which the book holds.
-  [[nodiscard]] bool Reaches(int year) const;
+  /// `RuleBook::CanPlan` of the book.
+  [[nodiscard]] bool Reaches(int year) const { return Book().CanPlan(year); }
   /// A year that the planner does not reach is a `platform::Failure` that says why. Threads may plan at once.
   [[nodiscard]] YearPlan Plan(int year) const;
 

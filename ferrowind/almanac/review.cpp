@@ -37,10 +37,20 @@ class CurrencyReview {
     matches_.emplace(*currency.book, rules);
   }
 
-  std::vector<Finding> Run(const ReviewHorizon& horizon) {
+  std::vector<Finding> Run(const ReviewHorizon& horizon, const ComparisonUse& use) {
     ReviewBook();
     ReviewYears(horizon);
-    for (const CalendarContent& calendar : currency_.calendars) ReviewCalendar(calendar, horizon);
+    for (const CalendarContent& calendar : currency_.calendars) {
+      if (!planner_ || !planner_->Reaches(calendar.year)) {
+        ReviewCalendar(calendar, nullptr, horizon);
+        if (use) use(calendar, nullptr);
+        continue;
+      }
+      const YearPlan plan = planner_->Plan(calendar.year);
+      const Comparison comparison(plan, calendar, *matches_);
+      ReviewCalendar(calendar, &comparison, horizon);
+      if (use) use(calendar, &comparison);
+    }
     return std::move(findings_);
   }
 
@@ -96,7 +106,9 @@ class CurrencyReview {
     }
   }
 
-  void ReviewCalendar(const CalendarContent& calendar, const ReviewHorizon& horizon) {
+  /// `comparison` is null when no plan can be made of the year.
+  void ReviewCalendar(const CalendarContent& calendar, const Comparison* comparison,
+                      const ReviewHorizon& horizon) {
     const bool has_weekends = std::any_of(calendar.days.begin(), calendar.days.end(),
                                           [](const auto& day) { return day.kind == RuleKind::kWeekday; });
     if (!has_weekends) {
@@ -104,18 +116,13 @@ class CurrencyReview {
           Phrase::Of("%1 has no weekends: no weekday holiday closes any of its days.",
                      {Calendar(calendar.year)}));
     }
-    const bool is_planned = planner_ && planner_->Reaches(calendar.year);
-    bool is_odd = !is_planned;
-    if (is_planned) {
-      const YearPlan plan = planner_->Plan(calendar.year);
-      const Comparison comparison(plan, calendar, *matches_);
-      is_odd = comparison.Differs();
-      ReviewPlanned(comparison, has_weekends);
-      if (!plan.Unknown().empty()) ReviewUnknown(comparison, horizon);
+    if (comparison != nullptr) {
+      ReviewPlanned(*comparison, has_weekends);
+      if (!comparison->Plan().Unknown().empty()) ReviewUnknown(*comparison, horizon);
     } else {
       for (const MarkedDay& day : calendar.days) ReviewUnplanned(day, calendar.year);
     }
-    if (is_odd) ReviewNumber(calendar.year);
+    if (comparison == nullptr || comparison->Differs()) ReviewNumber(calendar.year);
   }
 
   void ReviewPlanned(const Comparison& comparison, bool has_weekends) {
@@ -222,8 +229,9 @@ ReviewHorizon ReviewHorizon::Of(const Date& today, std::optional<int> further_ye
 }
 
 std::vector<Finding> ReviewCurrency(const ReviewedCurrency& currency, const RuleDirectory& rules,
-                                    const DateTables& tables, const ReviewHorizon& horizon) {
-  return CurrencyReview(currency, rules, tables).Run(horizon);
+                                    const DateTables& tables, const ReviewHorizon& horizon,
+                                    const ComparisonUse& use) {
+  return CurrencyReview(currency, rules, tables).Run(horizon, use);
 }
 
 }  // namespace ferrowind::almanac

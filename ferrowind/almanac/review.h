@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "ferrowind/almanac/calendar_content.h"
+#include "ferrowind/almanac/comparison.h"
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/finding.h"
 #include "ferrowind/almanac/rule_book.h"
@@ -38,13 +40,19 @@ struct ReviewedCurrency {
   std::vector<CalendarContent> calendars;
 };
 
-/// What is wrong or odd about the calendars of a currency, in no particular order.
+/// Is told of each calendar of a currency once, with its comparison with the plan of its year, which lives as
+/// long as the call; null when no plan can be made of that year.
+using ComparisonUse = std::function<void(const CalendarContent& calendar, const Comparison* comparison)>;
+
+/// What is wrong or odd about the calendars of a currency, in no particular order. `use` is for whoever needs
+/// the comparisons that it takes as well.
 ///
 /// A calendar is judged by the plan of its year. Only days that no plan judges, for lack of a book that
 /// holds in the year or of the dates of a rule, are judged by the other years of the currency: whether a
 /// holiday stands on another weekday than ever before, or a celebration on another date than its rule says.
 [[nodiscard]] std::vector<Finding> ReviewCurrency(const ReviewedCurrency& currency,
                                                   const RuleDirectory& rules, const DateTables& tables,
-                                                  const ReviewHorizon& horizon);
+                                                  const ReviewHorizon& horizon,
+                                                  const ComparisonUse& use = {});
 
 }  // namespace ferrowind::almanac

@@ -46,6 +46,10 @@ struct RuleBook {
   std::vector<BookRule> rules;
 
   [[nodiscard]] bool HoldsIn(int year) const { return !since || year >= *since; }
+  /// Whether `year` is one from `kFirstYear` to `kLastYear` for which the book holds.
+  [[nodiscard]] bool CanPlan(int year) const {
+    return year >= kFirstYear && year <= kLastYear && HoldsIn(year);
+  }
   /// Why nothing can be planned for `year` by the book of `owner`, without a full stop: "The book of EUR
   /// holds from 2015 on, so it does not tell what 2012 should be". Precondition: it does not hold in that
   /// year.

@@ -1,11 +1,8 @@
 #include "ferrowind/almanac/year_readiness.h"
 
-#include <algorithm>
-#include <optional>
+#include <cstddef>
 
 #include "ferrowind/almanac/comparison.h"
-#include "ferrowind/almanac/planner.h"
-#include "ferrowind/almanac/rule_matches.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::almanac {
@@ -28,64 +25,50 @@ void Count(const ComparedDay& day, YearReadiness& year) {
   ++(has_reason ? year.excepted_days : year.differing_days);
 }
 
-class CurrencyReadiness {
- public:
-  CurrencyReadiness(const ReviewedCurrency& currency, const RuleDirectory& rules, const DateTables& tables)
-      : currency_(currency) {
-    if (!currency.book) return;
-    planner_.emplace(*currency.book, tables);
-    matches_.emplace(*currency.book, rules);
+void Compare(const Comparison& comparison, YearReadiness& year) {
+  for (const ComparedDay& day : comparison.Days()) Count(day, year);
+  if (year.differing_days == 0 && year.readiness != Readiness::kNotPrepared) {
+    year.readiness = Readiness::kPrepared;
+  } else if (year.readiness == Readiness::kNotCompared) {
+    year.readiness = Readiness::kDiffers;
   }
-
-  [[nodiscard]] YearReadiness Of(int year) const {
-    YearReadiness readiness;
-    readiness.year = year;
-    const auto calendar =
-        std::find_if(currency_.calendars.begin(), currency_.calendars.end(),
-                     [year](const CalendarContent& content) { return content.year == year; });
-    readiness.has_calendar = calendar != currency_.calendars.end();
-    if (currency_.last_day && currency_.last_day->Year() < year) {
-      readiness.readiness = Readiness::kEnded;
-      return readiness;
-    }
-    readiness.can_be_planned = planner_ && planner_->Reaches(year);
-    if (readiness.has_calendar) {
-      readiness.readiness = ByClosedDays(*calendar);
-      if (readiness.can_be_planned) Compare(*calendar, readiness);
-    }
-    return readiness;
+  const YearPlan& plan = comparison.Plan();
+  if (plan.Unknown().empty()) return;
+  const std::vector<platform::Phrase> sentences = plan.Incomplete();
+  for (std::size_t i = 0; i < sentences.size(); ++i) {
+    if (!comparison.IsEntered(plan.Unknown()[i])) year.unpublished.push_back(sentences[i]);
   }
+}
 
- private:
-  void Compare(const CalendarContent& calendar, YearReadiness& year) const {
-    const YearPlan plan = planner_->Plan(calendar.year);
-    const Comparison comparison(plan, calendar, *matches_);
-    for (const ComparedDay& day : comparison.Days()) Count(day, year);
-    if (year.differing_days == 0 && year.readiness != Readiness::kNotPrepared) {
-      year.readiness = Readiness::kPrepared;
-    } else if (year.readiness == Readiness::kNotCompared) {
-      year.readiness = Readiness::kDiffers;
-    }
-    if (plan.Unknown().empty()) return;
-    const std::vector<platform::Phrase> sentences = plan.Incomplete();
-    for (std::size_t i = 0; i < sentences.size(); ++i) {
-      if (!comparison.IsEntered(plan.Unknown()[i])) year.unpublished.push_back(sentences[i]);
-    }
+/// Before its calendar is looked at.
+YearReadiness StartOf(const ReviewedCurrency& currency, int year) {
+  YearReadiness readiness;
+  readiness.year = year;
+  if (currency.last_day && currency.last_day->Year() < year) {
+    readiness.readiness = Readiness::kEnded;
+  } else {
+    readiness.can_be_planned = currency.book && currency.book->CanPlan(year);
   }
-
-  const ReviewedCurrency& currency_;
-  std::optional<Planner> planner_;
-  std::optional<RuleMatches> matches_;
-};
+  return readiness;
+}
 
 }  // namespace
 
-std::vector<YearReadiness> ReadinessOf(const ReviewedCurrency& currency, const RuleDirectory& rules,
-                                       const DateTables& tables, int first_year, int last_year) {
-  const CurrencyReadiness readiness(currency, rules, tables);
-  std::vector<YearReadiness> years;
-  for (int year = first_year; year <= last_year; ++year) years.push_back(readiness.Of(year));
-  return years;
+CurrencyJudgement JudgeCurrency(const ReviewedCurrency& currency, const RuleDirectory& rules,
+                                const DateTables& tables, const ReviewHorizon& horizon, int first_year,
+                                int last_year) {
+  CurrencyJudgement judgement;
+  for (int year = first_year; year <= last_year; ++year) judgement.years.push_back(StartOf(currency, year));
+  const auto use = [&](const CalendarContent& calendar, const Comparison* comparison) {
+    if (calendar.year < first_year || calendar.year > last_year) return;
+    YearReadiness& year = judgement.years[static_cast<std::size_t>(calendar.year - first_year)];
+    year.has_calendar = true;
+    if (year.readiness == Readiness::kEnded) return;
+    year.readiness = ByClosedDays(calendar);
+    if (comparison != nullptr) Compare(*comparison, year);
+  };
+  judgement.findings = ReviewCurrency(currency, rules, tables, horizon, use);
+  return judgement;
 }
 
 }  // namespace ferrowind::almanac

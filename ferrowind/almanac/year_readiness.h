@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
+#include "ferrowind/almanac/finding.h"
 #include "ferrowind/almanac/review.h"
 #include "ferrowind/almanac/rule_directory.h"
 #include "ferrowind/platform/values/phrase.h"
@@ -44,9 +45,18 @@ struct YearReadiness {
   std::vector<platform::Phrase> unpublished;
 };
 
-/// How `currency` stands in each of the years from `first_year` to `last_year`.
-[[nodiscard]] std::vector<YearReadiness> ReadinessOf(const ReviewedCurrency& currency,
-                                                     const RuleDirectory& rules, const DateTables& tables,
-                                                     int first_year, int last_year);
+/// What is to be told of a currency.
+struct CurrencyJudgement {
+  /// As `ReviewCurrency` gives them.
+  std::vector<Finding> findings = {};
+  /// One for each year from the first to the last.
+  std::vector<YearReadiness> years = {};
+};
+
+/// Reviews `currency` by `horizon`, and tells how it stands in the years from `first_year` to `last_year`.
+/// Each calendar is compared with its plan once for both.
+[[nodiscard]] CurrencyJudgement JudgeCurrency(const ReviewedCurrency& currency, const RuleDirectory& rules,
+                                              const DateTables& tables, const ReviewHorizon& horizon,
+                                              int first_year, int last_year);
 
 }  // namespace ferrowind::almanac

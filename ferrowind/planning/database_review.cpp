@@ -13,8 +13,7 @@ std::optional<almanac::FindingLevel> DatabaseReview::Worst() const {
   return findings.front().level;
 }
 
-DatabaseReview ReviewContent(const DatabaseContent& content, const almanac::DateTables& tables,
-                             const almanac::ReviewHorizon& horizon) {
+DatabaseReview ReviewContent(const DatabaseContent& content, const CurrencyReviewer& reviewer) {
   DatabaseReview review;
   if (content.calendars == 0) {
     // Nobody reviews an empty database on purpose: a monitor was given a wrong one.
@@ -28,7 +27,7 @@ DatabaseReview ReviewContent(const DatabaseContent& content, const almanac::Date
   review.calendars = content.calendars;
   review.currencies = content.judged.size();
   for (const auto& [id, currency] : content.judged) {
-    auto findings = almanac::ReviewCurrency(currency, content.rules, tables, horizon);
+    auto findings = reviewer(id, currency);
     std::move(findings.begin(), findings.end(), std::back_inserter(review.findings));
   }
   std::stable_sort(review.findings.begin(), review.findings.end(), almanac::ComesBefore);
@@ -37,7 +36,11 @@ DatabaseReview ReviewContent(const DatabaseContent& content, const almanac::Date
 
 DatabaseReview ReviewDatabase(const almanac::DateTables& tables, const platform::Date& today,
                               std::optional<int> further_years) {
-  return ReviewContent(LoadContent(tables), tables, almanac::ReviewHorizon::Of(today, further_years));
+  const DatabaseContent content = LoadContent(tables);
+  const auto horizon = almanac::ReviewHorizon::Of(today, further_years);
+  return ReviewContent(content, [&](std::int32_t /*currency_id*/, const almanac::ReviewedCurrency& currency) {
+    return almanac::ReviewCurrency(currency, content.rules, tables, horizon);
+  });
 }
 
 }  // namespace ferrowind::planning

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -25,9 +27,12 @@ struct DatabaseReview {
   [[nodiscard]] std::optional<almanac::FindingLevel> Worst() const;
 };
 
-/// Reviews every calendar of `content`, and whether those that must be there are.
-[[nodiscard]] DatabaseReview ReviewContent(const DatabaseContent& content, const almanac::DateTables& tables,
-                                           const almanac::ReviewHorizon& horizon);
+/// Reviews a currency of that number.
+using CurrencyReviewer =
+    std::function<std::vector<almanac::Finding>(std::int32_t currency_id, const almanac::ReviewedCurrency&)>;
+
+/// What `reviewer` finds about the currencies of `content`, each asked for once, in the order of the numbers.
+[[nodiscard]] DatabaseReview ReviewContent(const DatabaseContent& content, const CurrencyReviewer& reviewer);
 
 /// Reviews the content of the calling thread's database by `almanac::ReviewHorizon::Of`. Reads only; fails as
 /// database_call.h says.

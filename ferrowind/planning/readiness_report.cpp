@@ -14,21 +14,6 @@ using almanac::Readiness;
 using almanac::ReviewHorizon;
 using almanac::YearReadiness;
 
-CurrencyReadiness ReadinessIn(const DatabaseContent& content, std::int32_t id,
-                              const almanac::ReviewedCurrency& judged, const almanac::DateTables& tables,
-                              const ReadinessReport& report) {
-  CurrencyReadiness readiness;
-  if (const Currency* const known = content.currencies.Find(id)) {
-    readiness.currency = *known;
-  } else {
-    readiness.currency.id = id;
-    readiness.currency.code = judged.code;
-  }
-  readiness.years =
-      almanac::ReadinessOf(judged, content.rules, tables, report.FirstYear(), report.LastYear());
-  return readiness;
-}
-
 /// Whether what stands in the calendar could not be traded on.
 bool IsUnprepared(const YearReadiness& year) {
   return year.readiness == Readiness::kNotPrepared || year.readiness == Readiness::kWeekendsOnly;
@@ -63,10 +48,14 @@ std::vector<CalendarKey> ReadinessReport::ToPrepare(int year) const {
 
 ReadinessReport ReadReadiness(const almanac::DateTables& tables, const platform::Date& today) {
   const DatabaseContent content = LoadContent(tables);
-  ReadinessReport report{today, {}, ReviewContent(content, tables, ReviewHorizon::Of(today, {}))};
-  for (const auto& [id, judged] : content.judged) {
-    report.currencies.push_back(ReadinessIn(content, id, judged, tables, report));
-  }
+  const auto horizon = ReviewHorizon::Of(today, {});
+  ReadinessReport report{today, {}, {}};
+  report.review = ReviewContent(content, [&](std::int32_t id, const almanac::ReviewedCurrency& currency) {
+    auto judgement = almanac::JudgeCurrency(currency, content.rules, tables, horizon, report.FirstYear(),
+                                            report.LastYear());
+    report.currencies.push_back({content.currencies.FindOrNumber(id), std::move(judgement.years)});
+    return std::move(judgement.findings);
+  });
   std::sort(report.currencies.begin(), report.currencies.end(),
             [](const auto& left, const auto& right) { return left.currency.code < right.currency.code; });
   return report;

@@ -20,6 +20,8 @@ constexpr const char* kSmallBook =
     "weekday | Sunday | weekday Sunday | Weekend\n"
     "celebration | Christmas Day | 12-25 | 25 December\n";
 
+constexpr ReviewHorizon kHorizon{2028, 2028};
+
 /// The Sundays of 2028 that have not one of those days, and the days.
 CalendarContent Sundays2028And(std::vector<MarkedDay> days) {
   for (Date day(2028, 1, 2); day.Year() == 2028; day = day.AddDays(7)) {
@@ -39,7 +41,7 @@ class YearReadinessTest : public ::testing::Test {
   YearReadiness Of2028(std::optional<CalendarContent> calendar) {
     if (calendar) currency_.calendars = {*calendar};
     const RuleDirectory rules(SmallRules());
-    return ReadinessOf(currency_, rules, tables_, 2028, 2028).front();
+    return JudgeCurrency(currency_, rules, tables_, kHorizon, 2028, 2028).years.front();
   }
   void UseBook(const char* lines) { currency_.book = BookOf(lines); }
 
@@ -144,7 +146,7 @@ TEST_F(YearReadinessTest, NamesTheRulesWhoseDatesAreNotPublishedUntilSomebodyEnt
 TEST_F(YearReadinessTest, GivesEachYearOfTheSpan) {
   currency_.calendars = {Sundays2028And({})};
   const RuleDirectory rules(SmallRules());
-  const auto years = ReadinessOf(currency_, rules, tables_, 2027, 2029);
+  const auto years = JudgeCurrency(currency_, rules, tables_, kHorizon, 2027, 2029).years;
   ASSERT_EQ(years.size(), 3U);
   EXPECT_EQ(years[0].year, 2027);
   EXPECT_EQ(years[0].readiness, Readiness::kNotPrepared);
