@@ -53,6 +53,10 @@ Refusal::Refusal(const std::string& doing, const std::string& procedure, std::in
                       {doing, InWords(TextOf(return_value)), procedure, std::to_string(return_value)})),
       return_value_(return_value) {}
 
+std::shared_ptr<platform::SharedConnections> ShareConnections() {
+  return AttachedPlatform().commands.ShareConnections();
+}
+
 CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
                         const SourceValues& parameters, std::size_t least_record_sets,
                         std::initializer_list<std::int32_t> expected) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ferrowind/data/source_values.h"
+#include "ferrowind/platform/database/command.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/platform/values/record_set.h"
 
@@ -47,5 +48,9 @@ struct CallAnswer {
 [[nodiscard]] CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
                                       const SourceValues& parameters, std::size_t least_record_sets = 0,
                                       std::initializer_list<std::int32_t> expected = {});
+
+/// While it lives, the calls of the thread go over one connection; to be made for those that belong together.
+/// Null, or a `platform::Failure`, as `platform::CommandFactory` says.
+[[nodiscard]] std::shared_ptr<platform::SharedConnections> ShareConnections();
 
 }  // namespace ferrowind::planning

@@ -6,6 +6,7 @@
 
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/database_call.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -46,6 +47,7 @@ void AddNames(const CurrencyList& list, ReviewedCurrencies& currencies) {
 }  // namespace
 
 DatabaseContent LoadContent(const almanac::DateTables& tables) {
+  const auto shared = ShareConnections();
   StoredRules stored = LoadRules();
   ReviewedCurrencies judged;
   AddCalendars(stored.calendars, LoadMarkedDays(kFirstCalendarYear, kLastCalendarYear), judged);

@@ -86,4 +86,8 @@ std::unique_ptr<platform::Command> FaultyCommandFactory::CreateCommand() {
   return std::make_unique<FaultyCommand>(inner_.CreateCommand(), plan_);
 }
 
+std::shared_ptr<platform::SharedConnections> FaultyCommandFactory::ShareConnections() {
+  return inner_.ShareConnections();
+}
+
 }  // namespace ferrowind::headless

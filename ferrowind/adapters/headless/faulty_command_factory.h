@@ -14,6 +14,7 @@ class FaultyCommandFactory : public platform::CommandFactory {
   /// Both must outlive this and all that it makes.
   FaultyCommandFactory(platform::CommandFactory& inner, FaultPlan& plan) : inner_(inner), plan_(plan) {}
   [[nodiscard]] std::unique_ptr<platform::Command> CreateCommand() override;
+  [[nodiscard]] std::shared_ptr<platform::SharedConnections> ShareConnections() override;
 
  private:
   platform::CommandFactory& inner_;

@@ -36,7 +36,7 @@ class ResultCursor {
 ///
 /// Set the type, the text, the connection and the cursor location, refresh the parameters, set their values,
 /// execute, read the return value. Every method may fail with a `Failure`. Nothing is shared between
-/// commands.
+/// commands, but for the connection where somebody has asked for that (`CommandFactory::ShareConnections`).
 class Command {
  public:
   virtual ~Command() = default;
@@ -44,7 +44,7 @@ class Command {
   /// Only `kStoredProcedureCommand` is supported; anything else is the failure Invalid argument.
   virtual void SetType(std::int32_t type) = 0;
   virtual void SetText(const std::string& text) = 0;
-  /// Chooses the engine and opens the command's own new connection.
+  /// Chooses the engine and opens the command's own new connection, or takes the one that is shared.
   virtual void SetConnection(const std::string& connection_string) = 0;
   /// Only `kClientSideCursor` is supported; anything else is the failure Invalid argument.
   virtual void SetCursorLocation(std::int32_t location) = 0;
@@ -61,11 +61,22 @@ class Command {
   [[nodiscard]] virtual Value ParameterAt(std::int32_t position) const = 0;
 };
 
+/// Closes the shared connections when the last one of it is gone.
+class SharedConnections {
+ public:
+  virtual ~SharedConnections() = default;
+};
+
 class CommandFactory {
  public:
   virtual ~CommandFactory() = default;
   /// A new command, never null.
   [[nodiscard]] virtual std::unique_ptr<Command> CreateCommand() = 0;
+
+  /// As long as what it returns lives, the factory's commands share one connection to each database, which
+  /// the first of them opens. For calls that follow each other at once; each is a transaction of its own as
+  /// ever. After a failure of a connection the next command opens a new one. Null when nothing is shared.
+  [[nodiscard]] virtual std::shared_ptr<SharedConnections> ShareConnections() { return nullptr; }
 };
 
 }  // namespace ferrowind::platform

@@ -18,7 +18,7 @@ struct CallOutcome {
   std::vector<std::shared_ptr<RecordSet>> record_sets;
 };
 
-/// One connection to a database, for one call; closed when destroyed.
+/// One connection to a database, for one call or several that follow each other; closed when destroyed.
 ///
 /// Every method fails with a `Failure` that keeps the engine's own code and text. A connection is used by one
 /// thread.

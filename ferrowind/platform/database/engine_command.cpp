@@ -1,6 +1,9 @@
 #include "ferrowind/platform/database/engine_command.h"
 
 #include <algorithm>
+#include <map>
+#include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -35,9 +38,19 @@ class DeliveredResult : public ResultCursor {
   std::size_t position_;
 };
 
+/// Gives a command the connection that it works on, and learns when that has failed.
+class ConnectionSource {
+ public:
+  virtual ~ConnectionSource() = default;
+  [[nodiscard]] virtual std::shared_ptr<Connection> Connect(const std::string& connection_string) = 0;
+  virtual void Drop(const std::shared_ptr<Connection>& connection) = 0;
+};
+
 class EngineCommand : public Command {
  public:
-  explicit EngineCommand(const EngineRegistry& engines) : engines_(engines) {}
+  /// Where `source` is none, or gone, the command opens a connection of its own.
+  EngineCommand(const EngineRegistry& engines, std::weak_ptr<ConnectionSource> source)
+      : engines_(engines), source_(std::move(source)) {}
 
   void SetType(std::int32_t type) override {
     if (type != kStoredProcedureCommand) throw InvalidArgument();
@@ -46,7 +59,9 @@ class EngineCommand : public Command {
   void SetText(const std::string& text) override { procedure_ = text; }
 
   void SetConnection(const std::string& connection_string) override {
-    connection_ = engines_.EngineFor(connection_string).Connect(connection_string);
+    const auto source = source_.lock();
+    connection_ = source ? source->Connect(connection_string)
+                         : engines_.EngineFor(connection_string).Connect(connection_string);
   }
 
   void SetCursorLocation(std::int32_t location) override {
@@ -55,7 +70,8 @@ class EngineCommand : public Command {
 
   void RefreshParameters() override {
     parameters_.clear();
-    for (auto& description : OpenConnection().DescribeProcedure(procedure_)) {
+    const auto describe = [this](Connection& connection) { return connection.DescribeProcedure(procedure_); };
+    for (auto& description : OnConnection(describe)) {
       parameters_.push_back({FoldCase(description.name), std::move(description), {}});
     }
   }
@@ -76,7 +92,8 @@ class EngineCommand : public Command {
     for (const auto& parameter : parameters_) {
       if (parameter.description.direction == ParameterDirection::kInput) inputs.push_back(parameter.value);
     }
-    CallOutcome outcome = OpenConnection().Call(procedure_, inputs);
+    CallOutcome outcome =
+        OnConnection([&](Connection& connection) { return connection.Call(procedure_, inputs); });
     for (auto& parameter : parameters_) {
       if (parameter.description.direction == ParameterDirection::kReturnValue) {
         parameter.value = outcome.return_value;
@@ -102,23 +119,56 @@ class EngineCommand : public Command {
     Value value;
   };
 
-  [[nodiscard]] Connection& OpenConnection() const {
+  template <typename Work>
+  std::invoke_result_t<const Work&, Connection&> OnConnection(const Work& work) {
     if (!connection_) {
       throw Failure(failure_number::kObjectNotSet, "The command has no connection");
     }
-    return *connection_;
+    try {
+      return work(*connection_);
+    } catch (...) {
+      if (const auto source = source_.lock()) source->Drop(connection_);
+      throw;
+    }
   }
 
   const EngineRegistry& engines_;
+  std::weak_ptr<ConnectionSource> source_;
   std::string procedure_;
-  std::unique_ptr<Connection> connection_;
+  std::shared_ptr<Connection> connection_;
   std::vector<Parameter> parameters_;
 };
 
 }  // namespace
 
+class EngineCommandFactory::Shared : public SharedConnections, public ConnectionSource {
+ public:
+  explicit Shared(const EngineRegistry& engines) : engines_(engines) {}
+
+  [[nodiscard]] std::shared_ptr<Connection> Connect(const std::string& connection_string) override {
+    std::shared_ptr<Connection>& connection = connections_[connection_string];
+    if (!connection) connection = engines_.EngineFor(connection_string).Connect(connection_string);
+    return connection;
+  }
+
+  void Drop(const std::shared_ptr<Connection>& connection) override {
+    std::erase_if(connections_, [&](const auto& entry) { return entry.second == connection; });
+  }
+
+ private:
+  const EngineRegistry& engines_;
+  /// By connection string; null for one that could not be opened.
+  std::map<std::string, std::shared_ptr<Connection>> connections_;
+};
+
 std::unique_ptr<Command> EngineCommandFactory::CreateCommand() {
-  return std::make_unique<EngineCommand>(engines_);
+  return std::make_unique<EngineCommand>(engines_, shared_);
+}
+
+std::shared_ptr<SharedConnections> EngineCommandFactory::ShareConnections() {
+  auto shared = shared_.lock();
+  if (!shared) shared_ = shared = std::make_shared<Shared>(engines_);
+  return shared;
 }
 
 }  // namespace ferrowind::platform

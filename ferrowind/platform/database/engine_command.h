@@ -13,9 +13,14 @@ class EngineCommandFactory : public CommandFactory {
   /// `engines` is shared with the commands made here and must outlive them.
   explicit EngineCommandFactory(const EngineRegistry& engines) : engines_(engines) {}
   [[nodiscard]] std::unique_ptr<Command> CreateCommand() override;
+  [[nodiscard]] std::shared_ptr<SharedConnections> ShareConnections() override;
 
  private:
+  class Shared;
+
   const EngineRegistry& engines_;
+  /// Gone while nobody shares.
+  std::weak_ptr<Shared> shared_;
 };
 
 }  // namespace ferrowind::platform

@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
+#include <string>
 
 #include <gmock/gmock.h>
 
@@ -14,7 +17,9 @@
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/database_review.h"
 #include "ferrowind/planning/plan_batch.h"
+#include "ferrowind/planning/readiness_report.h"
 #include "ferrowind/planning/year_planner.h"
+#include "ferrowind/platform/database/engine.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/values/conversion.h"
 
@@ -61,14 +66,37 @@ SourceValues Parameters(std::initializer_list<std::pair<const char*, Value>> val
   return parameters;
 }
 
+/// An engine that counts the connections which are opened.
+class CountingEngine : public platform::Engine {
+ public:
+  explicit CountingEngine(platform::Engine& engine) : engine_(engine) {}
+
+  [[nodiscard]] std::unique_ptr<platform::Connection> Connect(const std::string& connection_string) override {
+    ++opened_;
+    return engine_.Connect(connection_string);
+  }
+  [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
+                                                                    const std::string& name) override {
+    return engine_.ReadDictionary(connection_string, name);
+  }
+  [[nodiscard]] std::unique_ptr<platform::ChangeWatch> Watch(const std::string& connection_string) override {
+    return engine_.Watch(connection_string);
+  }
+
+  [[nodiscard]] int Opened() const { return opened_; }
+
+ private:
+  platform::Engine& engine_;
+  int opened_ = 0;
+};
+
 /// A database with the books of the five currencies.
 class PlannedDatabase {
  public:
   explicit PlannedDatabase(const DatabaseKind<CalendarDatabaseUnderTest>& kind) : database_(kind.make()) {
     const std::string url = database_->ConnectionString();
-    // The engine is the database's own.
-    const std::shared_ptr<platform::Engine> engine(std::shared_ptr<void>(), &database_->Engine());
-    engines_.Register(url.substr(0, url.find(':')), engine);
+    engine_ = std::make_shared<CountingEngine>(database_->Engine());
+    engines_.Register(url.substr(0, url.find(':')), engine_);
     Run([&] {
       const auto currencies = planning::CurrencyList::Load();
       for (const std::string& code : kCurrencies) {
@@ -79,6 +107,13 @@ class PlannedDatabase {
 
   void Run(const std::function<void()>& work) {
     host::RunWithDatabase(engines_, database_->ConnectionString(), work);
+  }
+
+  /// How many connections that opens.
+  int ConnectionsOf(const std::function<void()>& work) {
+    const int before = engine_->Opened();
+    Run(work);
+    return engine_->Opened() - before;
   }
 
   /// How many calendars had to be changed.
@@ -195,6 +230,7 @@ class PlannedDatabase {
   }
 
   std::unique_ptr<CalendarDatabaseUnderTest> database_;
+  std::shared_ptr<CountingEngine> engine_;
   platform::EngineRegistry engines_;
 };
 
@@ -236,6 +272,20 @@ TEST_P(PlanningContract, AppliedCalendarsAreAsPlannedAndTheReviewSaysSo) {
   EXPECT_THAT(review.findings, IsEmpty());
   EXPECT_EQ(review.calendars, 15U);
   EXPECT_EQ(review.currencies, 5U);
+}
+
+TEST_P(PlanningContract, TheReadinessOfAllCurrenciesIsReadOverOneConnection) {
+  PlannedDatabase database(GetParam());
+  ASSERT_EQ(database.ApplyPlans(2026, 2027), 10);
+  std::optional<planning::ReadinessReport> report;
+  const auto read = [&] { report = planning::ReadReadiness(host::DeliveredDateTables(), kToday); };
+  EXPECT_EQ(database.ConnectionsOf(read), 1);
+  ASSERT_THAT(report->currencies, SizeIs(5));
+  for (const planning::CurrencyReadiness& currency : report->currencies) {
+    EXPECT_EQ(currency.years[1].readiness, almanac::Readiness::kPrepared) << currency.currency.code;
+    EXPECT_EQ(currency.years[3].readiness, almanac::Readiness::kNotPrepared) << currency.currency.code;
+  }
+  EXPECT_EQ(database.ConnectionsOf(read), 1) << "nothing stays open in between";
 }
 
 TEST_P(PlanningContract, APlanIsRefusedWhenTheCalendarHasChangedSinceItWasCompared) {

@@ -28,7 +28,17 @@ class EngineCommandTest : public ::testing::Test {
  protected:
   EngineCommandTest() {
     engines_.Register("small", engine_);
-    command_ = EngineCommandFactory(engines_).CreateCommand();
+    command_ = factory_.CreateCommand();
+  }
+
+  /// Runs a whole command, and drops it.
+  void RunCommand(const char* connection_string = kConnectionString) {
+    command_ = factory_.CreateCommand();
+    command_->SetText("CldGetMain");
+    command_->SetConnection(connection_string);
+    command_->RefreshParameters();
+    (void)command_->Execute(kUnspecified);
+    command_.reset();
   }
 
   /// Brings the command to where its parameters can be set.
@@ -42,6 +52,7 @@ class EngineCommandTest : public ::testing::Test {
 
   std::shared_ptr<SmallEngine> engine_ = std::make_shared<SmallEngine>();
   EngineRegistry engines_;
+  EngineCommandFactory factory_{engines_};
   std::unique_ptr<Command> command_;
 };
 
@@ -69,6 +80,59 @@ TEST_F(EngineCommandTest, ClosesItsConnectionWhenItIsDropped) {
   EXPECT_EQ(engine_->open_connections, 1);
   command_.reset();
   EXPECT_EQ(engine_->open_connections, 0);
+}
+
+TEST_F(EngineCommandTest, EachCommandConnectsAnew) {
+  RunCommand();
+  RunCommand();
+  EXPECT_THAT(engine_->connected_to, ElementsAre(kConnectionString, kConnectionString));
+}
+
+TEST_F(EngineCommandTest, CommandsShareAConnectionWhileSomebodyAsksForThat) {
+  auto outer = factory_.ShareConnections();
+  RunCommand();
+  auto inner = factory_.ShareConnections();
+  RunCommand();
+  inner.reset();
+  RunCommand();
+  EXPECT_THAT(engine_->connected_to, ElementsAre(kConnectionString));
+  EXPECT_THAT(engine_->called, ElementsAre("CldGetMain", "CldGetMain", "CldGetMain"));
+  EXPECT_EQ(engine_->open_connections, 1);
+  outer.reset();
+  EXPECT_EQ(engine_->open_connections, 0);
+  RunCommand();
+  EXPECT_EQ(engine_->connected_to.size(), 2U);
+}
+
+TEST_F(EngineCommandTest, EachDatabaseHasASharedConnectionOfItsOwn) {
+  const auto shared = factory_.ShareConnections();
+  RunCommand("small:one");
+  RunCommand("small:two");
+  RunCommand("small:one");
+  EXPECT_THAT(engine_->connected_to, ElementsAre("small:one", "small:two"));
+}
+
+TEST_F(EngineCommandTest, ASharedConnectionThatHasFailedIsReplaced) {
+  const auto shared = factory_.ShareConnections();
+  RunCommand();
+  command_ = factory_.CreateCommand();
+  Prepare();
+  command_->SetText("CldNothing");
+  EXPECT_EQ(FailureOf([&] { command_->RefreshParameters(); }).Number(), failure_number::kInvalidArgument);
+  command_.reset();
+  EXPECT_EQ(engine_->open_connections, 0);
+  RunCommand();
+  EXPECT_THAT(engine_->connected_to, ElementsAre(kConnectionString, kConnectionString));
+}
+
+TEST_F(EngineCommandTest, ACommandKeepsItsConnectionWhenNobodySharesAnyMore) {
+  auto shared = factory_.ShareConnections();
+  command_ = factory_.CreateCommand();
+  Prepare();
+  shared.reset();
+  EXPECT_EQ(engine_->open_connections, 1);
+  (void)command_->Execute(kUnspecified);
+  EXPECT_THAT(engine_->called, ElementsAre("CldGetMain"));
 }
 
 TEST_F(EngineCommandTest, NeedsAConnectionToAskForParametersAndToExecute) {
