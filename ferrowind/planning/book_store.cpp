@@ -1,5 +1,6 @@
 #include "ferrowind/planning/book_store.h"
 
+#include <cstddef>
 #include <utility>
 
 #include "ferrowind/almanac/book_faults.h"
@@ -18,32 +19,50 @@ using platform::Failure;
 using platform::RecordSet;
 using platform::Value;
 
+/// The places of what makes a rule, looked up once for many rows.
+struct RuleFields {
+  explicit RuleFields(const RecordSet& rules)
+      : currency(rules.FieldNamed("ID1")),
+        position(rules.FieldNamed("Position")),
+        name(rules.FieldNamed("Name1")),
+        kind(rules.FieldNamed("TID1")),
+        expression(rules.FieldNamed("Expression")),
+        comment(rules.FieldNamed("Comment")),
+        moved_name(rules.FieldNamed("MovedName")) {}
+
+  std::size_t currency, position, name, kind, expression, comment, moved_name;
+};
+
 /// A rule of the book, which was written by whoever may write books, so by other programs too.
-BookRule ReadRule(const RecordSet& row) {
+BookRule ReadRule(const RecordSet& rules, RecordSet::Bookmark row, const RuleFields& fields) {
   BookRule rule;
-  rule.name = platform::ToText(row["Name1"]);
-  rule.comment = platform::ToTextOrEmpty(row["Comment"]);
-  rule.moved_name = platform::ToTextOrEmpty(row["MovedName"]);
-  const std::int32_t kind = platform::ToInt32(row["TID1"]);
+  rule.name = platform::ToText(rules.Cell(row, fields.name));
+  rule.comment = platform::ToTextOrEmpty(rules.Cell(row, fields.comment));
+  rule.moved_name = platform::ToTextOrEmpty(rules.Cell(row, fields.moved_name));
+  const std::int32_t kind = platform::ToInt32(rules.Cell(row, fields.kind));
   if (kind < static_cast<std::int32_t>(RuleKind::kWorkingDay) ||
       kind > static_cast<std::int32_t>(RuleKind::kPoint)) {
     throw Failure(platform::failure_number::kInvalidArgument,
                   InWords("there is no type %1 of rules", {std::to_string(kind)}));
   }
   rule.kind = static_cast<RuleKind>(kind);
-  rule.expression = almanac::DateExpression::Parse(platform::ToText(row["Expression"]));
+  rule.expression = almanac::DateExpression::Parse(platform::ToText(rules.Cell(row, fields.expression)));
   return rule;
 }
 
-/// Takes the rows of the currency off `rules`, which are ordered by currency.
-void ReadRules(RecordSet& rules, RuleBook& book, StoredBook& stored) {
-  for (; !rules.Eof() && platform::ToInt32(rules["ID1"]) == stored.currency; rules.MoveNext()) {
+/// Takes the rows of the currency off `rules`, which are ordered by currency, from the one at `next` on.
+void ReadRules(const RecordSet& rules, const RuleFields& fields, std::size_t& next, RuleBook& book,
+               StoredBook& stored) {
+  for (; next < rules.RowCount(); ++next) {
+    const auto row = rules.BookmarkAt(next);
+    if (platform::ToInt32(rules.Cell(row, fields.currency)) != stored.currency) return;
     try {
-      book.rules.push_back(ReadRule(rules));
+      book.rules.push_back(ReadRule(rules, row, fields));
     } catch (const Failure& failure) {
-      stored.faults.push_back(InWords("The rule %1, \"%2\": %3",
-                                      {platform::ToTextOrEmpty(rules["Position"]),
-                                       platform::ToTextOrEmpty(rules["Name1"]), failure.Description()}));
+      stored.faults.push_back(
+          InWords("The rule %1, \"%2\": %3",
+                  {platform::ToTextOrEmpty(rules.Cell(row, fields.position)),
+                   platform::ToTextOrEmpty(rules.Cell(row, fields.name)), failure.Description()}));
     }
   }
 }
@@ -54,8 +73,9 @@ std::vector<StoredBook> Load(const std::string& doing, const Value& currency,
   parameters.Add("ID1", currency);
   const CallAnswer answer = CallDatabase(doing, "CldGetBook", parameters, 2);
   RecordSet& heads = *answer.record_sets[0];
-  RecordSet& rules = *answer.record_sets[1];
-  rules.MoveFirst();
+  const RecordSet& rules = *answer.record_sets[1];
+  const RuleFields fields(rules);
+  std::size_t next_rule = 0;
   std::vector<StoredBook> books;
   for (heads.MoveFirst(); !heads.Eof(); heads.MoveNext()) {
     StoredBook& stored = books.emplace_back();
@@ -65,7 +85,7 @@ std::vector<StoredBook> Load(const std::string& doing, const Value& currency,
     book.publisher = platform::ToTextOrEmpty(heads["Publisher"]);
     book.document = platform::ToTextOrEmpty(heads["Document"]);
     if (!heads["FromYear"].IsEmpty()) book.since = platform::ToInt32(heads["FromYear"]);
-    ReadRules(rules, book, stored);
+    ReadRules(rules, fields, next_rule, book, stored);
     if (!stored.faults.empty()) continue;
     stored.faults = almanac::FaultsOf(book, tables);
     stored.book = std::move(book);

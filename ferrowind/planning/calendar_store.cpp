@@ -56,6 +56,36 @@ struct DayFields {
   std::size_t day, kind, rule, comment;
 };
 
+/// The same of what makes a rule.
+struct RuleFields {
+  explicit RuleFields(const RecordSet& rows)
+      : id(rows.FieldNamed("ID2")),
+        name(rows.FieldNamed("Name1")),
+        kind(rows.FieldNamed("TID1")),
+        month(rows.FieldNamed("MY")),
+        day(rows.FieldNamed("MD")),
+        removal(rows.FieldNamed("Del")) {}
+
+  [[nodiscard]] KnownRule Read(const RecordSet& rows, RecordSet::Bookmark row) const {
+    constexpr std::int32_t kRemoved = 2;
+    KnownRule rule;
+    rule.id = Number(rows.Cell(row, id));
+    rule.name = platform::ToTextOrEmpty(rows.Cell(row, name));
+    rule.kind = static_cast<RuleKind>(Number(rows.Cell(row, kind)));
+    const Value& month_of_date = rows.Cell(row, month);
+    const Value& day_of_date = rows.Cell(row, day);
+    if (rule.kind == RuleKind::kCelebration && !month_of_date.IsEmpty() && !day_of_date.IsEmpty()) {
+      rule.month = platform::ToInt32(month_of_date);
+      rule.day = platform::ToInt32(day_of_date);
+    }
+    const Value& mark = rows.Cell(row, removal);
+    rule.is_removed = !mark.IsEmpty() && platform::ToInt32(mark) == kRemoved;
+    return rule;
+  }
+
+  std::size_t id, name, kind, month, day, removal;
+};
+
 /// Nothing when the procedure returns one of `no_calendar`.
 std::optional<CalendarContent> ReadDays(const Currency& currency, int year,
                                         std::initializer_list<std::int32_t> no_calendar) {
@@ -94,22 +124,19 @@ std::optional<CalendarContent> LoadDays(const Currency& currency, int year) {
 StoredRules LoadRules() {
   const CallAnswer answer = CallDatabase(InWords("Reading the rules"), "CldAllInfo", {}, 3);
   StoredRules stored;
-  RecordSet& calendars = *answer.record_sets[0];
-  for (calendars.MoveFirst(); !calendars.Eof(); calendars.MoveNext()) {
-    stored.calendars.emplace_back(platform::ToInt32(calendars["ID1"]), platform::ToInt32(calendars["Year1"]));
+  const RecordSet& calendars = *answer.record_sets[0];
+  const std::size_t currency = calendars.FieldNamed("ID1");
+  const std::size_t year = calendars.FieldNamed("Year1");
+  stored.calendars.reserve(calendars.RowCount());
+  for (std::size_t i = 0; i < calendars.RowCount(); ++i) {
+    const auto row = calendars.BookmarkAt(i);
+    stored.calendars.emplace_back(Number(calendars.Cell(row, currency)), Number(calendars.Cell(row, year)));
   }
-  constexpr std::int32_t kRemoved = 2;
-  RecordSet& rules = *answer.record_sets[2];
-  for (rules.MoveFirst(); !rules.Eof(); rules.MoveNext()) {
-    KnownRule& rule = stored.rules.emplace_back();
-    rule.id = platform::ToInt32(rules["ID2"]);
-    rule.name = platform::ToTextOrEmpty(rules["Name1"]);
-    rule.kind = static_cast<RuleKind>(platform::ToInt32(rules["TID1"]));
-    if (rule.kind == RuleKind::kCelebration && !rules["MY"].IsEmpty() && !rules["MD"].IsEmpty()) {
-      rule.month = platform::ToInt32(rules["MY"]);
-      rule.day = platform::ToInt32(rules["MD"]);
-    }
-    rule.is_removed = !rules["Del"].IsEmpty() && platform::ToInt32(rules["Del"]) == kRemoved;
+  const RecordSet& rules = *answer.record_sets[2];
+  const RuleFields fields(rules);
+  stored.rules.reserve(rules.RowCount());
+  for (std::size_t i = 0; i < rules.RowCount(); ++i) {
+    stored.rules.push_back(fields.Read(rules, rules.BookmarkAt(i)));
   }
   return stored;
 }
