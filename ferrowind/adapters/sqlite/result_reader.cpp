@@ -35,12 +35,14 @@ std::string_view TypeOf(const Statement& statement, int column) {
   return blank == std::string_view::npos ? std::string_view() : name.substr(blank + 1);
 }
 
-/// In large steps: cells are costly to move, and most results are a year of days or a handful of rows.
+/// In large steps: cells are costly to move, room that nothing is written to costs next to nothing, and most
+/// results are a year of days or a handful of rows.
 void MakeRoomForRow(std::vector<Value>& cells, std::size_t fields) {
-  constexpr std::size_t kFirstRows = 32;
-  constexpr std::size_t kGrowth = 4;
+  constexpr std::size_t kFirstRows = 384;
+  constexpr std::size_t kManyCells = 1024 * 1024;
   if (cells.capacity() - cells.size() >= fields) return;
-  cells.reserve(cells.empty() ? kFirstRows * fields : cells.capacity() * kGrowth);
+  const std::size_t growth = cells.capacity() < kManyCells ? 8 : 2;
+  cells.reserve(cells.empty() ? kFirstRows * fields : cells.capacity() * growth);
 }
 
 }  // namespace
@@ -83,6 +85,18 @@ Value ResultReader::Cell(int column) const {
   }
 }
 
+void ResultReader::AppendCell(int column, std::vector<Value>& cells) const {
+  const bool is_as_stored = columns_[static_cast<std::size_t>(column)] == ColumnKind::kAsStored;
+  if (is_as_stored && sqlite3_column_type(statement_.Get(), column) == SQLITE_INTEGER) {
+    const std::int64_t number = statement_.Integer(column);
+    if (Fits<std::int32_t>(number)) {
+      cells.emplace_back(static_cast<std::int32_t>(number));
+      return;
+    }
+  }
+  cells.push_back(Cell(column));
+}
+
 Value ResultReader::DateCell(int column) const {
   const auto date = Date::FromIso(statement_.Text(column));
   if (!date) throw BadCell(column, "something that is no date");
@@ -102,7 +116,7 @@ std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement) {
   for (int column = 0; column < count; ++column) rows->fields.emplace_back(reader.Name(column));
   while (statement.Step()) {
     MakeRoomForRow(rows->cells, static_cast<std::size_t>(count));
-    for (int column = 0; column < count; ++column) rows->cells.push_back(reader.Cell(column));
+    for (int column = 0; column < count; ++column) reader.AppendCell(column, rows->cells);
     ++rows->row_count;
   }
   return std::make_shared<platform::RecordSet>(std::move(rows));

@@ -108,16 +108,17 @@ void RowRecorder::OnChange(void* recorder, sqlite3* /*database*/, int operation,
 
 void RowRecorder::Record(std::size_t table, int operation) {
   const RecordedTable& recorded = Tables()[table];
-  std::optional<std::string> old_row;
-  std::optional<std::string> new_row;
-  if (operation != SQLITE_INSERT) old_row = RowText(database_.Get(), sqlite3_preupdate_old, recorded);
-  if (operation != SQLITE_DELETE) new_row = RowText(database_.Get(), sqlite3_preupdate_new, recorded);
   // No statement of a procedure changes a key.
   const CellReader read = operation == SQLITE_INSERT ? sqlite3_preupdate_new : sqlite3_preupdate_old;
   Key key{static_cast<std::int64_t>(table)};
   for (std::size_t i = 0; i < recorded.key.size(); ++i) {
     key[i + 1] = sqlite3_value_int64(RawCell(database_.Get(), read, static_cast<int>(i)));
   }
+  if (IsNewDay(key, operation)) return;
+  std::optional<std::string> old_row;
+  std::optional<std::string> new_row;
+  if (operation != SQLITE_INSERT) old_row = RowText(database_.Get(), sqlite3_preupdate_old, recorded);
+  if (operation != SQLITE_DELETE) new_row = RowText(database_.Get(), sqlite3_preupdate_new, recorded);
   RecordReplaced(key, std::move(old_row), new_row);
 }
 
@@ -129,12 +130,14 @@ void RowRecorder::RecordReplaced(const Key& key, std::optional<std::string> old_
     return;
   }
   if (old_row == new_row) return;
-  if (key[0] == kDayTable) {
-    if (!old_row || IsOfNewCalendar(key)) return;
-    if (!new_row && *old_row == kOrdinaryDay) return;
-  }
+  if (key[0] == kDayTable && !new_row && old_row == kOrdinaryDay) return;
   changes_.emplace(key, Change{std::move(old_row), false});
   order_.push_back(key);
+}
+
+bool RowRecorder::IsNewDay(const Key& key, int operation) const {
+  if (key[0] != kDayTable || changes_.contains(key)) return false;
+  return operation == SQLITE_INSERT || IsOfNewCalendar(key);
 }
 
 bool RowRecorder::IsOfNewCalendar(const Key& day) const {

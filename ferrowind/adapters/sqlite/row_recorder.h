@@ -53,6 +53,8 @@ class RowRecorder {
   void Record(std::size_t table, int operation);
   void RecordReplaced(const Key& key, std::optional<std::string> old_row,
                       const std::optional<std::string>& new_row);
+  /// Whether the change is of a day that was added, of which nothing is kept.
+  [[nodiscard]] bool IsNewDay(const Key& key, int operation) const;
   [[nodiscard]] bool IsOfNewCalendar(const Key& day) const;
 
   const DatabaseHandle& database_;
