@@ -37,11 +37,17 @@ void TextCache::SetFont(const QFont& font) {
   metrics_ = QFontMetrics(fonts_[kPlain]);
   bold_metrics_ = QFontMetrics(fonts_[kBold]);
   layouts_.clear();
+  widths_.clear();
   for (auto& widths : letter_widths_) widths.clear();
 }
 
 int TextCache::WidthOf(const QString& text, unsigned char style) const {
-  return MetricsOf(style).horizontalAdvance(SingleLine(text));
+  const auto known = widths_.constFind({text, style});
+  if (known != widths_.constEnd()) return *known;
+  if (widths_.size() >= static_cast<qsizetype>(kMostLayouts)) widths_.clear();
+  const int width = MetricsOf(style).horizontalAdvance(SingleLine(text));
+  widths_.insert({text, style}, width);
+  return width;
 }
 
 bool TextCache::FitsByLetters(const QString& text, int width, unsigned char style) const {
@@ -64,8 +70,10 @@ const TextCache::Layout& TextCache::LayoutOf(const QString& text, int width, uns
   if (known != layouts_.end()) return known->second;
   if (layouts_.size() >= kMostLayouts) layouts_.clear();
   const QFontMetrics& metrics = MetricsOf(style);
-  const QString elided = metrics.elidedText(SingleLine(text), Qt::ElideRight, width);
-  Layout layout{QStaticText(elided), metrics.horizontalAdvance(elided)};
+  const int whole_width = WidthOf(text, style);
+  const bool fits = whole_width <= width;
+  const QString shown = fits ? SingleLine(text) : metrics.elidedText(SingleLine(text), Qt::ElideRight, width);
+  Layout layout{QStaticText(shown), fits ? whole_width : metrics.horizontalAdvance(shown)};
   layout.text.setTextFormat(Qt::PlainText);
   layout.text.setPerformanceHint(QStaticText::AggressiveCaching);
   layout.text.prepare(QTransform(), FontOf(style));

@@ -8,6 +8,7 @@
 #include <QString>
 #include <cstddef>
 #include <unordered_map>
+#include <utility>
 
 class QPainter;
 
@@ -59,6 +60,8 @@ class TextCache {
   QFontMetrics metrics_;
   QFontMetrics bold_metrics_;
   std::unordered_map<Key, Layout, KeyHash> layouts_;
+  /// Of whole texts, by text and style.
+  mutable QHash<std::pair<QString, unsigned char>, int> widths_;
   /// Of the letters of the plain and the bold font, as far as they were asked for.
   mutable std::unordered_map<char16_t, int> letter_widths_[2];
 };

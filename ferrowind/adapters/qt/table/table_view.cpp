@@ -103,6 +103,7 @@ void TableView::SetEmptyText(const QString& text) {
 // Looks
 
 void TableView::UpdateFont() {
+  cells_.UpdateFont();
   SetRowHeight(cells_.RowHeight());
   FitColumns();
 }
@@ -336,7 +337,7 @@ QColor TableView::GroundOf(int row, int column) const {
                                                                               : colors_.selected;
 }
 
-void TableView::PaintRow(QPainter& painter, int row) const {
+void TableView::PaintRow(QPainter& painter, int row) {
   const QRect area(0, TopOf(row), viewport()->width(), RowHeight());
   painter.fillRect(area, GroundOf(row, -1));
   const platform::TableRow& shown = model_->Content().RowAt(Place(row));

@@ -80,7 +80,7 @@ class TableView final : public UniformTableView {
   [[nodiscard]] bool IsOnBox(const QPoint& point) const;
   [[nodiscard]] int FittingWidth(int column) const;
   [[nodiscard]] QColor GroundOf(int row, int column) const;
-  void PaintRow(QPainter& painter, int row) const;
+  void PaintRow(QPainter& painter, int row);
   void PaintCurrentMark(QPainter& painter) const;
   void PaintEmpty(QPainter& painter) const;
   [[nodiscard]] bool IsTyping() const;
