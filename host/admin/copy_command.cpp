@@ -23,7 +23,7 @@ std::string Summary(content::Source& source) {
 
 /// Copies, and tells what. No connection is left open when it fails.
 std::string Copy(const platform::EngineRegistry& engines, const std::string& from, const std::string& to) {
-  const auto source = OpenContent(engines, from);
+  const auto source = OpenContent(engines, from, Interruption::WasAsked);
   const std::string summary = Summary(*source);
   ProgressLine line(STDERR_FILENO);
   const auto observe = [&](const content::CopyProgress& progress) {
@@ -32,7 +32,9 @@ std::string Copy(const platform::EngineRegistry& engines, const std::string& fro
     line.Show((is_copying ? "Copying " : "Comparing ") + std::string(progress.rows), progress.done,
               progress.total);
   };
-  FillDatabase(engines, to, [&](content::Target& target) { content::CopyContent(*source, target, observe); });
+  FillDatabase(
+      engines, to, [&](content::Target& target) { content::CopyContent(*source, target, observe); },
+      Interruption::WasAsked);
   return summary;
 }
 

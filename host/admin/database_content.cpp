@@ -30,15 +30,17 @@ void RequireThisVersion(const platform::EngineRegistry& engines, const std::stri
 
 }  // namespace
 
-std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines,
-                                             const std::string& url) {
-  return IsOnServer(engines, url) ? postgres::OpenContent(url) : sqlite::OpenContent(sqlite::PathIn(url));
+std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines, const std::string& url,
+                                             const std::function<bool()>& is_stopped) {
+  if (IsOnServer(engines, url)) return postgres::OpenContent(url);
+  return sqlite::OpenContent(sqlite::PathIn(url), is_stopped);
 }
 
 void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
-                  const std::function<void(content::Target& target)>& fill) {
+                  const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped) {
   if (IsOnServer(engines, url)) return postgres::FillDatabase(url, fill);
-  sqlite::FillDatabase(sqlite::PathIn(url), fill);
+  sqlite::FillDatabase(sqlite::PathIn(url), fill, is_stopped);
 }
 
 void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,

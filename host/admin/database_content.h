@@ -12,14 +12,18 @@
 /// `platform::Failure`, as is whatever the engine cannot do.
 namespace ferrowind::host {
 
-/// The content of the database as it is now, whatever others write meanwhile.
+/// The content of the database as it is now, whatever others write meanwhile. A file is read no longer than
+/// until `is_stopped` says so, and then is a failure.
 [[nodiscard]] std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines,
-                                                           const std::string& url);
+                                                           const std::string& url,
+                                                           const std::function<bool()>& is_stopped = {});
 
 /// Calls `fill` with the database, which is created without rules and calendars where there is none. What
-/// `fill` wrote is there when it has returned; when it throws, the database is as it was.
+/// `fill` wrote is there when it has returned; when it throws, the database is as it was. `is_stopped` as for
+/// `OpenContent`.
 void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
-                  const std::function<void(content::Target& target)>& fill);
+                  const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped = {});
 
 /// As `RunWithDatabase`. When `work` fails on a database of another schema version, which lacks procedures or
 /// has others, the failure says which version it has and that it is to be upgraded first.

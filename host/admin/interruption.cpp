@@ -57,7 +57,13 @@ void EndBySignal(int signal) {
 void RunInterruptibly(const std::function<void()>& work, std::ostream& errors) {
   try {
     const Interruption interruption;
-    work();
+    try {
+      work();
+    } catch (const platform::Failure&) {
+      // What was told to stop may fail in words of its own.
+      Interruption::ThrowIfAsked();
+      throw;
+    }
   } catch (const Interrupted& interrupted) {
     errors << "ferrowindctl: " << interrupted.Description() << std::endl;
     EndBySignal(interrupted.Signal());

@@ -14,6 +14,7 @@
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/result_reader.h"
 #include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
@@ -23,8 +24,9 @@ namespace {
 /// An open calendar database and the transaction that all of its content is read in.
 class Snapshot {
  public:
-  explicit Snapshot(const std::string& path)
+  explicit Snapshot(const std::string& path, const std::function<bool()>& is_stopped = {})
       : database_(path),
+        limit_(database_, is_stopped),
         must_be_a_calendar_database_(database_),
         transaction_(database_, Transaction::Kind::kReading) {}
 
@@ -32,13 +34,15 @@ class Snapshot {
 
  private:
   DatabaseHandle database_;
+  StatementLimit limit_;
   ProcedureCatalogue must_be_a_calendar_database_;
   Transaction transaction_;
 };
 
 class SnapshotSource : public content::Source {
  public:
-  explicit SnapshotSource(const std::string& path) : snapshot_(path), content_(snapshot_.Database()) {
+  SnapshotSource(const std::string& path, const std::function<bool()>& is_stopped)
+      : snapshot_(path, is_stopped), content_(snapshot_.Database()) {
     RequireDeliveredVersion(snapshot_.Database());
   }
 
@@ -57,8 +61,10 @@ class SnapshotSource : public content::Source {
 enum class Target { kExisting, kNew };
 
 void FillExisting(const std::string& path, Target kind,
-                  const std::function<void(content::Target& target)>& fill) {
+                  const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped) {
   DatabaseHandle database(path);
+  const StatementLimit limit(database, is_stopped);
   const ProcedureCatalogue must_be_a_calendar_database(database);
   Transaction transaction(database, Transaction::Kind::kWriting);
   RequireDeliveredVersion(database);
@@ -86,15 +92,18 @@ bool HasTable(const DatabaseHandle& database, const char* name) {
 
 }  // namespace
 
-std::unique_ptr<content::Source> OpenContent(const std::string& path) {
-  return platform::WithFailuresOnly([&] { return std::make_unique<SnapshotSource>(path); });
+std::unique_ptr<content::Source> OpenContent(const std::string& path,
+                                             const std::function<bool()>& is_stopped) {
+  return platform::WithFailuresOnly([&] { return std::make_unique<SnapshotSource>(path, is_stopped); });
 }
 
-void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill) {
+void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped) {
   platform::WithFailuresOnly([&] {
-    if (!IsMissingOrEmpty(AbsolutePath(path))) return FillExisting(path, Target::kExisting, fill);
-    CreateDatabase(
-        path, [&](const std::string& unfinished) { FillExisting(PathIn(unfinished), Target::kNew, fill); });
+    if (!IsMissingOrEmpty(AbsolutePath(path))) return FillExisting(path, Target::kExisting, fill, is_stopped);
+    CreateDatabase(path, [&](const std::string& unfinished) {
+      FillExisting(PathIn(unfinished), Target::kNew, fill, is_stopped);
+    });
   });
 }
 

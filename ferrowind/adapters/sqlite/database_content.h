@@ -11,13 +11,17 @@ namespace ferrowind::sqlite {
 
 /// The content of the calendar database at `path` as it is now, whatever others write meanwhile; nobody is
 /// kept from writing. A file that cannot be read or is no calendar database is a `platform::Failure`, and so
-/// is one whose schema is of another version than this program's.
-[[nodiscard]] std::unique_ptr<content::Source> OpenContent(const std::string& path);
+/// is one whose schema is of another version than this program's. Reading fails soon after `is_stopped` has
+/// become true, which is asked now and then, however long a statement takes.
+[[nodiscard]] std::unique_ptr<content::Source> OpenContent(const std::string& path,
+                                                           const std::function<bool()>& is_stopped = {});
 
 /// Calls `fill` with the calendar database at `path`, which is created without rules and calendars, as
 /// `CreateDatabase` does it, when there is no file or an empty one. What `fill` wrote is there for others
 /// when it has returned, all of it at once; when it throws, the database is as it was or not there.
-void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill);
+/// `is_stopped` as `OpenContent` takes it.
+void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped = {});
 
 /// What the calendar database at `path` is and holds, whatever the version of its schema. A file that cannot
 /// be read or is no calendar database is a `platform::Failure`.

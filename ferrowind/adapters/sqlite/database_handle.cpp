@@ -14,6 +14,10 @@ namespace {
 /// Longer texts are refused rather than taken into memory.
 constexpr int kMostBytesOfACell = 64 * 1024 * 1024;
 
+/// Of which the delivered ones need a small part.
+constexpr int kMostBytesOfAStatement = 1024 * 1024;
+constexpr int kMostTriggersInEachOther = 10;
+
 /// The switches of a connection, all of which take effect without looking into the file.
 int Configure(sqlite3* database) {
   constexpr std::pair<int, int> kSwitches[] = {
@@ -31,6 +35,8 @@ int Configure(sqlite3* database) {
     if (code != SQLITE_OK) return code;
   }
   sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kMostBytesOfACell);
+  sqlite3_limit(database, SQLITE_LIMIT_SQL_LENGTH, kMostBytesOfAStatement);
+  sqlite3_limit(database, SQLITE_LIMIT_TRIGGER_DEPTH, kMostTriggersInEachOther);
   sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
   const int code = AddNameCollation(database);
   return code == SQLITE_OK ? AddSqlFunctions(database) : code;

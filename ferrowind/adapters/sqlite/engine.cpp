@@ -6,6 +6,7 @@
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/result_reader.h"
 #include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
@@ -14,7 +15,7 @@ namespace ferrowind::sqlite {
 
 std::unique_ptr<platform::Connection> Engine::Connect(const std::string& connection_string) {
   return platform::WithFailuresOnly([&]() -> std::unique_ptr<platform::Connection> {
-    return std::make_unique<EngineConnection>(Open(connection_string));
+    return std::make_unique<EngineConnection>(Open(connection_string), longest_call_);
   });
 }
 
@@ -25,6 +26,7 @@ std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& c
       throw platform::Failure(platform::failure_number::kInvalidArgument, "There is no dictionary " + name);
     }
     const DatabaseHandle database = Open(connection_string);
+    const StatementLimit limit(database, longest_call_);
     const ProcedureCatalogue must_be_a_calendar_database(database);
     Statement currencies(database, "SELECT CcyID, Ccy, CcyType, Name FROM DicCcy ORDER BY Ccy");
     return ReadRecordSet(currencies);

@@ -23,8 +23,11 @@ class Engine : public platform::Engine {
   /// The scheme of its connection strings.
   static constexpr const char* kScheme = "sqlite";
 
-  /// A call waits up to `busy_timeout` for another program to release the database.
-  explicit Engine(std::chrono::milliseconds busy_timeout = kBusyTimeout) : busy_timeout_(busy_timeout) {}
+  /// A call waits up to `busy_timeout` for another program to release the database, and fails when it takes
+  /// longer than `longest_call`.
+  explicit Engine(std::chrono::milliseconds busy_timeout = kBusyTimeout,
+                  std::chrono::milliseconds longest_call = kLongestCall)
+      : busy_timeout_(busy_timeout), longest_call_(longest_call) {}
   /// Calls wait for another program as long as `budget`, which is not null, has time for them all.
   explicit Engine(std::shared_ptr<WaitBudget> budget) : budget_(std::move(budget)) {}
 
@@ -37,6 +40,7 @@ class Engine : public platform::Engine {
   [[nodiscard]] DatabaseHandle Open(const std::string& connection_string) const;
 
   std::chrono::milliseconds busy_timeout_ = kBusyTimeout;
+  std::chrono::milliseconds longest_call_ = kLongestCall;
   /// Null for the time-out.
   std::shared_ptr<WaitBudget> budget_;
 };

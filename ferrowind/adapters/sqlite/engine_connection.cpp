@@ -7,6 +7,7 @@
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
 #include "ferrowind/adapters/sqlite/row_recorder.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/call_inputs.h"
 #include "ferrowind/platform/database/failure_boundary.h"
@@ -16,12 +17,13 @@ namespace ferrowind::sqlite {
 using platform::Failure;
 using platform::Value;
 
-EngineConnection::EngineConnection(DatabaseHandle database)
-    : database_(std::move(database)), catalogue_(database_) {}
+EngineConnection::EngineConnection(DatabaseHandle database, std::chrono::milliseconds longest_call)
+    : database_(std::move(database)), longest_call_(longest_call), catalogue_(database_) {}
 
 std::vector<platform::ParameterDescription> EngineConnection::DescribeProcedure(
     const std::string& procedure) {
   return platform::WithFailuresOnly([&] {
+    const StatementLimit limit(database_, longest_call_);
     LoadProcedure(procedure);
     return procedure_->parameters;
   });
@@ -29,6 +31,7 @@ std::vector<platform::ParameterDescription> EngineConnection::DescribeProcedure(
 
 platform::CallOutcome EngineConnection::Call(const std::string& procedure, const std::vector<Value>& inputs) {
   return platform::WithFailuresOnly([&] {
+    const StatementLimit limit(database_, longest_call_);
     if (!procedure_ || asked_name_ != procedure) LoadProcedure(procedure);
     platform::RefuseWrongInputs(procedure_->name, procedure_->parameters, inputs);
     Transaction transaction(database_,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +15,8 @@ namespace ferrowind::sqlite {
 /// again.
 class EngineConnection : public platform::Connection {
  public:
-  explicit EngineConnection(DatabaseHandle database);
+  /// A call that takes longer than `longest_call` fails.
+  EngineConnection(DatabaseHandle database, std::chrono::milliseconds longest_call);
 
   [[nodiscard]] std::vector<platform::ParameterDescription> DescribeProcedure(
       const std::string& procedure) override;
@@ -28,6 +30,7 @@ class EngineConnection : public platform::Connection {
   void LoadProcedure(const std::string& name);
 
   DatabaseHandle database_;
+  std::chrono::milliseconds longest_call_;
   ProcedureCatalogue catalogue_;
   /// The procedure that was described last, and the name that it was asked for by.
   std::optional<sql_script::ProcedureDefinition> procedure_;

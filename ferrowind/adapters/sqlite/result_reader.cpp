@@ -45,6 +45,20 @@ void MakeRoomForRow(std::vector<Value>& cells, std::size_t fields) {
   cells.reserve(cells.empty() ? kFirstRows * fields : cells.capacity() * growth);
 }
 
+/// A file from somewhere else may give any number of long rows.
+constexpr std::size_t kMostBytesOfARecordSet = std::size_t{512} * 1024 * 1024;
+
+std::size_t BytesOf(const Value& cell) {
+  const auto* const text = cell.If<std::string>();
+  return sizeof(Value) + (text != nullptr ? text->size() : 0);
+}
+
+platform::Failure TooMuch(const DatabaseHandle& database) {
+  return {
+      platform::failure_number::kInvalidArgument,
+      "The database " + database.Path() + " gives more than 512 MB at once, which no calendar database does"};
+}
+
 }  // namespace
 
 ResultReader::ResultReader(const Statement& statement) : statement_(statement) {
@@ -111,12 +125,17 @@ platform::Failure ResultReader::BadCell(int column, const char* what) const {
 
 std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement) {
   const ResultReader reader(statement);
+  std::size_t bytes = 0;
   const int count = statement.ColumnCount();
   auto rows = std::make_shared<RecordRows>();
   for (int column = 0; column < count; ++column) rows->fields.emplace_back(reader.Name(column));
   while (statement.Step()) {
     MakeRoomForRow(rows->cells, static_cast<std::size_t>(count));
-    for (int column = 0; column < count; ++column) reader.AppendCell(column, rows->cells);
+    for (int column = 0; column < count; ++column) {
+      reader.AppendCell(column, rows->cells);
+      bytes += BytesOf(rows->cells.back());
+    }
+    if (bytes > kMostBytesOfARecordSet) throw TooMuch(statement.Database());
     ++rows->row_count;
   }
   return std::make_shared<platform::RecordSet>(std::move(rows));

@@ -41,7 +41,8 @@ class ResultReader {
   std::vector<ColumnKind> columns_;
 };
 
-/// All rows of `statement`, which has columns and has not been run yet.
+/// All rows of `statement`, which has columns and has not been run yet. More than 512 MB of them are a
+/// failure.
 [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement);
 
 }  // namespace ferrowind::sqlite

@@ -60,6 +60,8 @@ std::string PlainWords(sqlite3* handle, int code, const std::string& path) {
       return database + " refuses a wrong row";
     case SQLITE_TOOBIG:
       return "A value is too long for the database " + path;
+    case SQLITE_INTERRUPT:
+      return database + " did not finish: it took too long, or was told to stop";
     case SQLITE_NOMEM:
       return "There is not enough memory for the database " + path;
     default:

@@ -28,6 +28,29 @@ done
 """
 
 
+ENDLESS_DAYS = """
+PRAGMA foreign_keys = OFF; DROP TABLE CldDay;
+CREATE VIEW CldDay AS WITH RECURSIVE Endless (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM Endless)
+  SELECT n AS ID1, n AS Year1, n AS Day1, n AS ODate, n AS TID1, n AS ID2, n AS Comment FROM Endless WHERE n < 0;
+"""
+
+
+class Stop(ferrowindctl.WithADeliveredDatabase):
+
+    def test_a_copy_of_a_file_that_never_ends_ends_at_the_first_signal(self):
+        self.open_from_outside().executescript(ENDLESS_DAYS)
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(signal=number):
+                copy = subprocess.Popen([ferrowindctl.PROGRAM, "copy", self.url(), self.url("copy.db")],
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+                time.sleep(2)
+                self.assertIsNone(copy.poll(), "it reads on")
+                copy.send_signal(number)
+                _, errors = copy.communicate(timeout=30)
+                self.assertEqual((copy.returncode, errors.decode()), (-number, "ferrowindctl: Stopped; nothing was changed\n"))
+                self.assertFalse(self.path("copy.db").exists())
+
+
 class Kill(ferrowindctl.WithADeliveredDatabase):
 
     def effects(self):

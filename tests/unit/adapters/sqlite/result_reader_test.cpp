@@ -44,6 +44,18 @@ class ResultReaderTest : public ::testing::Test {
   DatabaseHandle database_ = DatabaseHandle::InMemory();
 };
 
+TEST_F(ResultReaderTest, RefusesMoreThanAnyCalendarDatabaseGives) {
+  Statement statement(database_,
+                      "WITH RECURSIVE Row (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM Row LIMIT 1000)"
+                      " SELECT hex(zeroblob(30000000)) AS Text FROM Row");
+  try {
+    (void)ReadRecordSet(statement);
+    ADD_FAILURE() << "60 GB were read";
+  } catch (const platform::Failure& failure) {
+    EXPECT_THAT(failure.Description(), ::testing::HasSubstr("gives more than 512 MB at once"));
+  }
+}
+
 TEST_F(ResultReaderTest, GivesAnInt16ForAColumnDeclaredSmallint) {
   EXPECT_EQ(Cell("Small", "7"), Value(std::int16_t{7}));
   EXPECT_EQ(Cell("Small", "-32768"), Value(std::int16_t{-32768}));
