@@ -10,7 +10,7 @@ if [ $# -gt 0 ]; then
   exit 2
 fi
 
-# On the first way without a server, which then runs this again.
+# Started without a server it builds what it needs, and runs again beside one.
 if [ -z "${FERROWIND_POSTGRES:-}" ]; then
   "$root/tools/install_packages.sh" build test
   "$root/tools/build.sh" release ferrowindctl -DBUILD_TESTING=OFF -DFERROWIND_BENCHMARKS=OFF

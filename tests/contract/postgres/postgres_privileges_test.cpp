@@ -11,27 +11,16 @@
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/postgres/postgres_database.h"
 #include "tests/contract/postgres/postgres_server.h"
+#include "tests/contract/postgres/refused_statements.h"
 
 namespace ferrowind::contract {
 namespace {
 
-using ::testing::AnyOf;
 using ::testing::Contains;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::IsSupersetOf;
 using ::testing::Not;
-
-/// The texts in the first column of the superuser's query.
-std::vector<std::string> AskAll(const std::string& database, const std::string& query) {
-  postgres::ServerConnection connection(postgres_server::SuperuserUri(database));
-  const auto result = connection.Query(query);
-  std::vector<std::string> texts;
-  for (int row = 0; row < PQntuples(result.get()); ++row) {
-    texts.emplace_back(PQgetvalue(result.get(), row, 0));
-  }
-  return texts;
-}
 
 /// Relations of the schema that are of one of the kinds.
 std::vector<std::string> Relations(const std::string& database, const std::string& kinds) {
@@ -39,14 +28,6 @@ std::vector<std::string> Relations(const std::string& database, const std::strin
                 "SELECT relname::text FROM pg_class WHERE relnamespace = 'ferrowind'::regnamespace AND "
                 "relkind = ANY ('{" +
                     kinds + "}')");
-}
-
-void ExpectRefused(postgres::ServerConnection& connection, const std::string& sql) {
-  const std::string failure = FailureTextOf([&] { connection.RunScript(sql); });
-  EXPECT_THAT(failure, AnyOf(HasSubstr("permission denied"), HasSubstr("must be owner"),
-                             HasSubstr("must be superuser"), HasSubstr("must be member"),
-                             HasSubstr("must have admin option"), HasSubstr("is not allowed")))
-      << sql;
 }
 
 TEST(PostgresPrivileges, AnOperatorIsRefusedEveryStatementOnEveryTable) {
