@@ -1,7 +1,7 @@
--- A sentence for everything by which a role could do more than it is for. The roles themselves only hold rights: nobody logs
--- in as one, they have no power over the server, and no role's rights but their own. Those who administer the database (superusers,
--- its owner, and whoever may act as that) may be members of the owner; an operator's or a reader's login has no other way to
--- the tables.
+-- A sentence for everything by which a role could do more than it is for. The roles themselves only hold rights: nobody logs in
+-- as one, they have no power over the server, and no role's rights but their own. Those who administer one of the server's calendar
+-- databases, which share the roles, may be members of the owner: superusers, the owner of such a database, and whoever may act
+-- as that. An operator's or a reader's login has no other way to the tables.
 WITH delivered AS (
   SELECT r.* FROM pg_roles r WHERE r.rolname IN ('ferrowind_owner', 'ferrowind_operator', 'ferrowind_reader')
 ), administrator AS (

@@ -146,7 +146,8 @@ FROM delivered d CROSS JOIN this t
 WHERE NOT EXISTS (SELECT FROM aclexplode(coalesce(t.datacl, acldefault('d', t.datdba))) AS g
                   WHERE g.grantee IN (0, d.oid) AND g.privilege_type = 'CONNECT')
 UNION ALL
-SELECT format('Everybody has the right %s on the schema public; take it: REVOKE ALL ON SCHEMA public FROM PUBLIC', g.privilege_type)
+SELECT format('Everybody has the right %s on the schema public; take it: REVOKE ALL ON SCHEMA public FROM PUBLIC',
+              g.privilege_type)
 FROM pg_namespace n CROSS JOIN aclexplode(coalesce(n.nspacl, acldefault('n', n.nspowner))) AS g
 WHERE n.nspname = 'public' AND g.grantee = 0
 UNION ALL
@@ -177,7 +178,8 @@ FROM setting s CROSS JOIN this t CROSS JOIN LATERAL (SELECT
   CASE WHEN s.rolname IS NULL AND s.setdatabase = 0 THEN 'For everybody' WHEN s.rolname IS NULL THEN 'In this database'
     ELSE format('For %I', s.rolname) END AS text,
   CASE WHEN s.rolname IS NULL AND s.setdatabase = 0 THEN 'ROLE ALL' WHEN s.rolname IS NULL THEN format('DATABASE %I', t.datname)
-    WHEN s.setdatabase = 0 THEN format('ROLE %I', s.rolname) ELSE format('ROLE %I IN DATABASE %I', s.rolname, t.datname) END AS owner
+    WHEN s.setdatabase = 0 THEN format('ROLE %I', s.rolname)
+    ELSE format('ROLE %I IN DATABASE %I', s.rolname, t.datname) END AS owner
 ) AS who
 -- How long something may last, what is logged and how much memory it takes change no result.
 WHERE s.name !~ '^(log_|tcp_|auto_explain\.|(statement|lock|deadlock|idle_session|idle_in_transaction_session|transaction)_timeout$)'
@@ -189,8 +191,8 @@ FROM pg_parameter_acl a CROSS JOIN aclexplode(a.paracl) AS g
 WHERE g.grantee = 0 OR EXISTS (SELECT FROM delivered d JOIN pg_roles r ON r.oid = g.grantee AND NOT r.rolsuper
                                WHERE pg_has_role(g.grantee, d.oid, 'MEMBER'))
 UNION ALL
-SELECT format('The server has %s set to "%s" instead of "%s", in %s; correct it', name, coalesce(reset_val, setting), wanted.value,
-              coalesce(sourcefile, 'its start or the login''s settings'))
+SELECT format('The server has %s set to "%s" instead of "%s", in %s; correct it', name, coalesce(reset_val, setting),
+              wanted.value, coalesce(sourcefile, 'its start or the login''s settings'))
 FROM pg_settings JOIN (VALUES ('session_replication_role', 'origin'), ('transform_null_equals', 'off'),
   ('allow_system_table_mods', 'off'), ('zero_damaged_pages', 'off'), ('ignore_checksum_failure', 'off'),
   ('ignore_system_indexes', 'off'), ('event_triggers', 'on')) AS wanted (parameter, value) ON wanted.parameter = name
