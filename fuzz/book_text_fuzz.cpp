@@ -66,7 +66,8 @@ void ExpectOrderlyPlan(const YearPlan& plan) {
     Expect(plan.DateOf(day).Year() == plan.Year(), "a planned day is within the year");
     (void)plan.CommentOf(day);
   }
-  for (const int day : {1, 2, 60, 120, 359, 360, 365}) Expect(!plan.WhyOf(day).InEnglish().empty(), "a day has a reason");
+  for (const int day : {1, 2, 60, 120, 359, 360, 365})
+    Expect(!plan.WhyOf(day).InEnglish().empty(), "a day has a reason");
   Expect(plan.Incomplete().size() == plan.Unknown().size(), "each rule without dates is told");
 }
 
