@@ -15,7 +15,7 @@ namespace ferrowind::planning {
 /// Gives days of the calendar what `days` says, the JSON list of `CldApplyPlan`: all of them or none, in one
 /// call, which is one entry of the history. False, with nothing changed, when the calendar of the calling
 /// thread's database is not as it was `seen` any more. Fails as database_call.h says; the description then
-/// begins with what is done, `doing`, and of which calendar: "Excepting days" "of EUR 2028".
+/// begins with what is done, `doing`, in which %1 is the calendar: "Excepting days of %1".
 [[nodiscard]] bool ChangeSeenDays(const std::string& doing, const Currency& currency,
                                   const almanac::CalendarContent& seen, const std::string& days);
 

@@ -202,6 +202,21 @@ TEST_F(SaidTextsTest, AreThoseOfThePlannerOfAYear) {
   EXPECT_THAT(EnglishIn("fmYearPlanner"), IsEmpty());
 }
 
+TEST_F(SaidTextsTest, AreThoseOfTheQuestionForAnAnnouncedHoliday) {
+  RunHandler(platform_, [&] { windows_.OpenYearPlanner({kDollar, kEuro}, 2028); });
+  QWidget& planner = *WindowOnShow("fmYearPlanner");
+  Activate(planner);
+  script_.Expect("fmCloseDays", [this](QWidget& dialog) {
+    EXPECT_THAT(EnglishIn(dialog), IsEmpty());
+    for (const char* name : {"~", "Saturday", "Christmas Day"}) {
+      TypeInto(dialog, "txtName", name);
+      EXPECT_THAT(EnglishIn(dialog), IsEmpty()) << name;
+    }
+    ClickButton(dialog, "cmdCancel");
+  });
+  ClickTool(planner, "ID_CloseDays");
+}
+
 TEST_F(SaidTextsTest, AreThoseOfTheWhyAndTheYearBesideTheDays) {
   QWidget& window = OpenCalendars();
   ClickTool(window, "ID_YearPlanner");
