@@ -2,6 +2,7 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QRegularExpression>
+#include <QToolButton>
 #include <QTranslator>
 #include <algorithm>
 
