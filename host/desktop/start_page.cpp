@@ -4,6 +4,7 @@
 #include <QShortcut>
 
 #include "host/delivery/delivered_tables.h"
+#include "host/desktop/window_memory.h"
 
 namespace ferrowind::host {
 namespace {
@@ -24,8 +25,13 @@ StartPage::StartPage(DesktopSurroundings& surroundings, OperatorNews& news, Back
   connect(&window, &BackOfficeWindow::Activated, this, &StartPage::FollowWhenOld);
   auto* const refresh = new QShortcut(Qt::Key_F5, &window);
   connect(refresh, &QShortcut::activated, this, &StartPage::Read);
-  window.AskBeforeClosing([&windows] { return windows.CloseAll(); });
   window.resize(kSize.boundedTo(window.screen()->availableSize() * kShareOfScreen));
+  const WindowMemory memory(window, "Back office");
+  memory.Restore();
+  window.AskBeforeClosing([&windows, memory] {
+    memory.Save();
+    return windows.CloseAll();
+  });
   since_read_.start();
   board_->Show();
 }

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "ferrowind/adapters/qt/services/settings_store.h"
 #include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 
@@ -88,6 +89,21 @@ TEST_F(StartPage, FitsASmallScreen) {
   back_office_->resize(100, 100);
   EXPECT_LE(back_office_->width(), 780);
   EXPECT_LE(back_office_->height(), 540);
+}
+
+TEST_F(StartPage, OpensAsLargeAsItWasLeftAndWithoutThatMemoryAsItIsRead) {
+  const QSize at_first = back_office_->size();
+  back_office_->resize(at_first - QSize(31, 43));
+  back_office_->close();
+  page_.reset();
+  WorkOn("sqlite:" + DatabasePath());
+  Open();
+  EXPECT_EQ(back_office_->size(), at_first - QSize(31, 43));
+  qt::SettingsStore().Write("\\Tessaro\\Host\\Back office", "Geometry", std::string("no geometry"));
+  page_.reset();
+  WorkOn("sqlite:" + DatabasePath());
+  Open();
+  EXPECT_EQ(back_office_->size(), at_first);
 }
 
 TEST_F(StartPage, ShowsWhatThisProgramHasChangedWhenTheOperatorComesBack) {
