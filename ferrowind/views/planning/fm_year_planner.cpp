@@ -171,8 +171,19 @@ void fmYearPlanner::Show(const std::vector<Currency>& currencies, int year) {
 }
 
 void fmYearPlanner::ShowAsTyped() {
-  const int year = TypedYear(year_box_.Text());
-  Show(TypedCurrencies(currencies_box_.Text(), year), year);
+  platform::TextBox* typed = &year_box_;
+  try {
+    const int year = TypedYear(typed->Text());
+    typed = &currencies_box_;
+    Show(TypedCurrencies(typed->Text(), year), year);
+  } catch (const TypingError& error) {
+    // Told beside the field, which it is about, and not as a failure of the program.
+    summary_.SetText(error.Description() + ".");
+    typed->SetFocus();
+    typed->SelectAll();
+    platform_.toolkit.Beep();
+    return;
+  }
   view_.SetFocus();
 }
 

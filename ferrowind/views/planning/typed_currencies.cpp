@@ -17,8 +17,12 @@ using platform::Failure;
 
 constexpr const char* kSeparators = " \t,;";
 
-platform::Failure Mistyped(const std::string& sentence) {
-  return {platform::failure_number::kInvalidArgument, sentence};
+const Currency& Named(const CurrencyList& list, const std::string& word) {
+  try {
+    return list.Named(word);
+  } catch (const platform::Failure& failure) {
+    throw TypingError(failure.Description());
+  }
 }
 
 std::vector<std::string> Words(const std::string& text) {
@@ -51,15 +55,15 @@ std::vector<Currency> TypedCurrencies(const std::string& text, int year) {
       }
       continue;
     }
-    const Currency& currency = list.Named(word);
+    const Currency& currency = Named(list, word);
     if (!currency.is_money)
-      throw Mistyped(planning::InWords("%1 has no calendars: it is no money", {currency.code}));
+      throw TypingError(planning::InWords("%1 has no calendars: it is no money", {currency.code}));
     AddOnce(currencies, currency);
   }
   if (!currencies.empty()) return currencies;
-  throw Mistyped(Words(text).empty()
-                     ? planning::InWords("Name at least one currency, such as EUR, or ALL")
-                     : planning::InWords("No currency has a calendar of %1", {std::to_string(year)}));
+  throw TypingError(Words(text).empty()
+                        ? planning::InWords("Name at least one currency, such as EUR, or ALL")
+                        : planning::InWords("No currency has a calendar of %1", {std::to_string(year)}));
 }
 
 int TypedYear(const std::string& text) {
@@ -68,7 +72,7 @@ int TypedYear(const std::string& text) {
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), year);
   const bool is_number = error == std::errc() && end == digits.data() + digits.size();
   if (is_number && year >= planning::kFirstCalendarYear && year <= planning::kLastCalendarYear) return year;
-  throw Mistyped(planning::InWords(
+  throw TypingError(planning::InWords(
       "\"%1\" is no year from %2 to %3",
       {digits, std::to_string(planning::kFirstCalendarYear), std::to_string(planning::kLastCalendarYear)}));
 }

@@ -346,8 +346,18 @@ TEST(YearPlannerWindow, ShowsTheCurrenciesAndTheYearThatAreTyped) {
     EXPECT_THAT(world.View().Content().calendars, SizeIs(3));
     world.Type("txtYear", "28");
     world.ClickShow();
-    EXPECT_THAT(world.Reports(), ElementsAre(HasSubstr("is no year")));
+    EXPECT_THAT(world.Summary(), HasSubstr("\"28\" is no year"));
+    EXPECT_EQ(world.Form().FocusedControl(), "txtYear");
     EXPECT_EQ(world.View().Content().year, 2028);
+    world.Type("txtYear", "2028");
+    world.Type("txtCurrencies", "EUR XQQ");
+    world.ClickShow();
+    EXPECT_EQ(world.Summary(), "The database has no currency XQQ.");
+    EXPECT_EQ(world.Form().FocusedControl(), "txtCurrencies");
+    EXPECT_THAT(world.Reports(), IsEmpty()) << "nothing has failed";
+    world.Type("txtCurrencies", "EUR");
+    world.ClickShow();
+    EXPECT_THAT(world.Summary(), HasSubstr("working days"));
   });
 }
 
