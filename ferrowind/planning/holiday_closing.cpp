@@ -114,12 +114,6 @@ std::vector<std::int16_t> HolidayClosing::DaysForBook(const Place& place) const 
   return days;
 }
 
-void HolidayClosing::Take(const std::string& key, bool is_taken) {
-  for (const ClosingLine& line : Lines()) {
-    if (line.key == key && line.is_taken) decisions_[key] = is_taken;
-  }
-}
-
 bool HolidayClosing::CanClose() const {
   return name_.refusal.empty() && std::any_of(places_.begin(), places_.end(),
                                               [&](const auto& place) { return !TakenDays(place).empty(); });

@@ -78,8 +78,8 @@ class HolidayClosing {
 
   /// Calendar by calendar, each with its days by date and its book behind them.
   [[nodiscard]] std::vector<ClosingLine> Lines() const;
-  /// Does nothing with a line that is not there or leaves no choice.
-  void Take(const std::string& key, bool is_taken);
+  /// Changes nothing where the line leaves no choice.
+  void Take(const std::string& key, bool is_taken) { decisions_[key] = is_taken; }
   /// What `Close` would do, in a sentence.
   [[nodiscard]] std::string Summary() const;
   /// Whether there is a name that days can be closed as, and a day to close.
