@@ -21,6 +21,8 @@ namespace ferrowind::qt {
 namespace {
 
 constexpr int kWidestFit = 320;
+/// Beside columns that stretch, which hold what there is most to say about: theirs is the room that is left.
+constexpr int kWidestBesideStretched = 180;
 /// What a column that stretches keeps at least, where its cells are that wide.
 constexpr int kLeastStretched = 140;
 /// Rows that a fitting column width takes into account.
@@ -182,10 +184,21 @@ int TableView::FittingWidth(int column) const {
 
 int TableView::sizeHintForColumn(int column) const { return model_ == nullptr ? 0 : FittingWidth(column); }
 
+int TableView::GivenWidth(int column) const {
+  const auto& columns = model_->Content().Columns();
+  const bool is_beside_stretched =
+      !columns[Place(column)].stretches &&
+      std::any_of(columns.begin(), columns.end(), [](const auto& each) { return each.stretches; });
+  const int width = FittingWidth(column);
+  return is_beside_stretched
+             ? std::min(width, std::max(kWidestBesideStretched, header_->FittingWidth(column)))
+             : width;
+}
+
 void TableView::FitColumns() {
   if (model_ == nullptr) return;
   for (int column = 0; column < model_->columnCount(); ++column) {
-    if (!settled_columns_.contains(column)) header_->resizeSection(column, FittingWidth(column));
+    if (!settled_columns_.contains(column)) header_->resizeSection(column, GivenWidth(column));
   }
   Stretch();
 }
@@ -194,7 +207,7 @@ void TableView::WidenColumns() {
   bool has_widened = false;
   for (int column = 0; column < model_->columnCount(); ++column) {
     if (settled_columns_.contains(column) || model_->Content().Columns()[Place(column)].stretches) continue;
-    const int width = FittingWidth(column);
+    const int width = GivenWidth(column);
     if (width <= columnWidth(column)) continue;
     header_->resizeSection(column, width);
     has_widened = true;

@@ -79,6 +79,8 @@ class TableView final : public UniformTableView {
   [[nodiscard]] bool HasBox(const QModelIndex& index) const;
   [[nodiscard]] bool IsOnBox(const QPoint& point) const;
   [[nodiscard]] int FittingWidth(int column) const;
+  /// What the column gets of that before the operator gives it a width.
+  [[nodiscard]] int GivenWidth(int column) const;
   [[nodiscard]] QColor GroundOf(int row, int column) const;
   void PaintRow(QPainter& painter, int row);
   void PaintCurrentMark(QPainter& painter) const;
