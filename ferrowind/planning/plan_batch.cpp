@@ -13,6 +13,7 @@
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/in_words.h"
+#include "ferrowind/planning/plan_run.h"
 #include "ferrowind/planning/plan_words.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/values/failure.h"
@@ -104,35 +105,10 @@ void PlanBatch::PlanAnew(const std::vector<std::size_t>& positions) {
   }
 }
 
-void PlanBatch::PlanTried(const std::vector<PlanOutcome>& outcomes) {
-  std::vector<std::size_t> tried;
-  for (const PlanOutcome& outcome : outcomes) {
-    if (outcome.kind != Kind::kNotTried) tried.push_back(outcome.calendar);
-  }
-  PlanAnew(tried);
-}
-
 std::vector<PlanOutcome> PlanBatch::Apply() {
-  // Several are told as one action, not each in the place of the one before.
-  const auto together = CalendarsToChange() > 1
-                            ? std::make_unique<ActionScope>(AttachedPlatform().action_observer,
-                                                            platform::ActionKind::kApplyPlan)
-                            : nullptr;
-  std::vector<PlanOutcome> outcomes;
-  const auto applied_before = std::exchange(applied_, {});
-  bool has_failed = false;
-  for (std::size_t i = 0; i < calendars_.size(); ++i) {
-    if (!calendars_[i].HasWork()) continue;
-    if (has_failed) {
-      outcomes.push_back({i, Kind::kNotTried, InWords("%1 was not tried.", {calendars_[i].Name()})});
-      continue;
-    }
-    outcomes.push_back(ApplyOne(i));
-    has_failed = outcomes.back().kind == Kind::kFailed;
-  }
-  if (applied_.empty()) applied_ = applied_before;
-  PlanTried(outcomes);
-  return outcomes;
+  PlanRun run(*this, PlanRun::Kind::kApply);
+  while (run.Next()) run.Step();
+  return run.Finish();
 }
 
 PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
@@ -160,18 +136,9 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
 }
 
 std::vector<PlanOutcome> PlanBatch::Undo() {
-  const auto together =
-      applied_.size() > 1
-          ? std::make_unique<ActionScope>(AttachedPlatform().action_observer, platform::ActionKind::kUndo)
-          : nullptr;
-  std::vector<PlanOutcome> outcomes;
-  while (!applied_.empty()) {
-    outcomes.push_back(UndoOne(applied_.back()));
-    if (outcomes.back().kind == Kind::kFailed) break;
-    applied_.pop_back();
-  }
-  PlanTried(outcomes);
-  return outcomes;
+  PlanRun run(*this, PlanRun::Kind::kUndo);
+  while (run.Next()) run.Step();
+  return run.Finish();
 }
 
 PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {

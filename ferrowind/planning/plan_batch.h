@@ -65,6 +65,8 @@ class PlanBatch {
   std::vector<PlanOutcome> Undo();
 
  private:
+  friend class PlanRun;
+
   /// A call that has changed a calendar.
   struct Applied {
     std::size_t calendar = 0;
@@ -75,7 +77,6 @@ class PlanBatch {
 
   [[nodiscard]] PlanOutcome ApplyOne(std::size_t position);
   [[nodiscard]] PlanOutcome UndoOne(const Applied& applied) const;
-  void PlanTried(const std::vector<PlanOutcome>& outcomes);
 
   const almanac::DateTables& tables_;
   std::vector<PlannedCalendar> calendars_;

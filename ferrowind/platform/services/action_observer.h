@@ -60,7 +60,8 @@ struct ActionStep {
 ///
 /// All calls come on the user-interface thread, in the order of what they tell: an action begins, its uses of
 /// the database end one by one, and the action ends, also when it fails. No window waits for the operator
-/// meanwhile, except messages of the shared services. An action that begins within another one is a part of
+/// meanwhile, except messages of the shared services, and a dialog that only says how far it is and can be
+/// stopped. An action that begins within another one is a part of
 /// it and ends before it. What an observer throws is dropped. It must not use the component, nor close it.
 class ActionObserver {
  public:

@@ -1,16 +1,19 @@
 #include "ferrowind/views/planning/fm_year_plan.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/plan_words.h"
+#include "ferrowind/views/planning/fm_progress.h"
 
 namespace ferrowind {
 namespace {
 
 using planning::PlanOutcome;
+using planning::PlanRun;
 using platform::ControlKind;
 using platform::ControlOf;
 
@@ -20,6 +23,8 @@ constexpr const char* kAllDays = "ID_AllDays";
 constexpr const char* kUndo = "ID_UndoPlan";
 constexpr const char* kClose = "ID_ClosePlan";
 constexpr std::int32_t kAllCalendars = -1;
+/// Fewer calendars are done before anybody could read how far they are.
+constexpr std::size_t kLeastWithProgress = 4;
 
 platform::FormDesign Design(std::size_t calendars) {
   platform::FormDesign design = {
@@ -209,9 +214,12 @@ void fmYearPlan::RefreshSummary() {
 
 void fmYearPlan::ShowCurrentLine() { current_line_.SetText(table_.CurrentSentence()); }
 
-void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes) {
-  // What went wrong stands first, where it is seen without scrolling.
+void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes, const std::string& stopped) {
+  // What is not done stands first, where it is seen without scrolling.
   std::vector<platform::TableRow> rows;
+  if (!stopped.empty()) {
+    rows.push_back({.key = "stopped", .cells = {{.text = stopped, .mark = platform::CellMark::kWarning}}});
+  }
   for (const bool is_bad : {true, false}) {
     for (const PlanOutcome& outcome : outcomes) {
       if (IsBad(outcome) != is_bad) continue;
@@ -238,16 +246,47 @@ void fmYearPlan::RunTool(const std::string& id) {
 
 void fmYearPlan::PlanAnew() {
   batch_.PlanAnew();
-  Tell({});
+  Tell({}, {});
   ShowLines();
 }
 
-void fmYearPlan::Apply() { ShowDone(batch_.Apply()); }
+void fmYearPlan::Apply() { Do(PlanRun::Kind::kApply); }
 
-void fmYearPlan::Undo() { ShowDone(batch_.Undo()); }
+void fmYearPlan::Undo() { Do(PlanRun::Kind::kUndo); }
 
-void fmYearPlan::ShowDone(const std::vector<PlanOutcome>& outcomes) {
-  Tell(outcomes);
+void fmYearPlan::Do(PlanRun::Kind kind) {
+  PlanRun run(batch_, kind);
+  if (run.All() < kLeastWithProgress) {
+    while (run.Next()) run.Step();
+  } else {
+    // What is done by then is told, even when the progress cannot be.
+    RunStep([&] { ShowProgress(run, kind); });
+  }
+  std::string stopped;
+  if (run.Next()) {
+    stopped = SaidOfNumber(platform_, static_cast<std::int64_t>(run.All()),
+                           "Stopped after %1 of %n calendar; the others are as they were.",
+                           "Stopped after %1 of %n calendars; the others are as they were.",
+                           {std::to_string(run.Done())});
+  }
+  ShowDone(run.Finish(), stopped);
+}
+
+void fmYearPlan::ShowProgress(PlanRun& run, PlanRun::Kind kind) {
+  const bool applies = kind == PlanRun::Kind::kApply;
+  const auto next = [&]() -> std::optional<std::string> {
+    const auto position = run.Next();
+    if (!position) return std::nullopt;
+    return Said(
+        platform_, applies ? "Applying the plan of %1, %2 of %3." : "Undoing the plan of %1, %2 of %3.",
+        {batch_.Calendars()[*position].Name(), std::to_string(run.Done() + 1), std::to_string(run.All())});
+  };
+  fmProgress progress(platform_, form_->Caption(), {.next = next, .step = [&] { run.Step(); }});
+  progress.ShowModal();
+}
+
+void fmYearPlan::ShowDone(const std::vector<PlanOutcome>& outcomes, const std::string& stopped) {
+  Tell(outcomes, stopped);
   ShowLines();
   PlanningWindows::Changed changed;
   for (const PlanOutcome& outcome : outcomes) {

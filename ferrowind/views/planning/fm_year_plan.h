@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ferrowind/planning/plan_batch.h"
+#include "ferrowind/planning/plan_run.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/planning/plan_table.h"
@@ -42,13 +43,17 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   void Apply();
   void Undo();
   void PlanAnew();
+  /// Applies or undoes all, or until the operator stops it.
+  void Do(planning::PlanRun::Kind kind);
+  void ShowProgress(planning::PlanRun& run, planning::PlanRun::Kind kind);
   void PlanAnewAfter(const PlanningWindows::Changed& changed);
-  /// Tells what became of the calls, until the next of them or until the plans are made anew.
-  void Tell(const std::vector<planning::PlanOutcome>& outcomes);
+  /// Tells what became of the calls, until the next of them or until the plans are made anew. `stopped` says
+  /// that the operator has stopped them; empty when not.
+  void Tell(const std::vector<planning::PlanOutcome>& outcomes, const std::string& stopped);
   void RefreshSummary();
   void ShowCurrentLine();
   /// Shows and tells the others what `outcomes` have changed.
-  void ShowDone(const std::vector<planning::PlanOutcome>& outcomes);
+  void ShowDone(const std::vector<planning::PlanOutcome>& outcomes, const std::string& stopped);
   void Form_Load();
   void Form_QueryUnload();
   void CloseByButton();

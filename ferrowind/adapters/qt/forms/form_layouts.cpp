@@ -10,6 +10,7 @@
 #include "ui_fmGoToDate.h"
 #include "ui_fmHistory.h"
 #include "ui_fmMessage.h"
+#include "ui_fmProgress.h"
 #include "ui_fmReadiness.h"
 #include "ui_fmRuleBook.h"
 #include "ui_fmSelectYear.h"
@@ -38,6 +39,7 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmGoToDate>("fmGoToDate");
   layouts.AddGenerated<Ui::fmHistory>("fmHistory");
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
+  layouts.AddGenerated<Ui::fmProgress>("fmProgress");
   layouts.AddGenerated<Ui::fmReadiness>("fmReadiness");
   layouts.AddGenerated<Ui::fmRuleBook>("fmRuleBook");
   layouts.AddGenerated<Ui::fmSelectYear>("fmSelectYear");

@@ -414,6 +414,59 @@ TEST(YearPlanWindow, ComesBackWhereItWasClosed) {
   });
 }
 
+/// Four calendars of EUR, of which a dialog tells how far they are.
+class ManyPlansWorld : public PlanWorld {
+ public:
+  ManyPlansWorld() { Open({{kEuro, 2028}, {kEuro, 2029}, {kEuro, 2030}, {kEuro, 2031}}); }
+
+  /// What the dialog says at each step up to the last of `steps`; it is stopped then, unless it has closed.
+  Texts StepsShown(std::size_t steps, const std::string& button) {
+    Texts shown;
+    world.toolkit.ScriptModal("fmProgress", [&](headless::HeadlessForm& dialog) {
+      while (dialog.IsShown() && shown.size() < steps) {
+        shown.push_back(dialog.Part<headless::HeadlessLabel>("lblStep").Text());
+        world.toolkit.Advance(1000);
+      }
+      if (dialog.IsShown()) dialog.Part<HeadlessButton>("cmdStop").Click();
+    });
+    Button(button).Click();
+    return shown;
+  }
+};
+
+TEST(YearPlanWindow, TellsHowFarItIsWithManyCalendars) {
+  RunInFreshThread([] {
+    ManyPlansWorld world;
+    // A second of the toolkit's time does them all.
+    EXPECT_THAT(world.StepsShown(9, "cmdApply"), ElementsAre("Applying the plan of EUR 2028, 1 of 4."));
+    EXPECT_THAT(world.OutcomeTexts(), ElementsAre("EUR 2028 is as planned now.", "EUR 2029 is made.",
+                                                  "EUR 2030 is made.", "EUR 2031 is made."));
+    EXPECT_THAT(world.StepsShown(9, "cmdUndo"), ElementsAre("Undoing the plan of EUR 2031, 1 of 4."));
+    EXPECT_FALSE(world.Button("cmdUndo").Visible());
+  });
+}
+
+TEST(YearPlanWindow, IsStoppedBetweenTwoOfManyCalendarsAndTellsWhatWasDone) {
+  RunInFreshThread([] {
+    ManyPlansWorld world;
+    world.world.toolkit.ScriptModal("fmProgress", [&](headless::HeadlessForm& dialog) {
+      const auto& step = dialog.Part<headless::HeadlessLabel>("lblStep");
+      while (step.Text() != "Applying the plan of EUR 2030, 3 of 4.") world.world.toolkit.Advance(1);
+      dialog.PressEscape();
+    });
+    world.Button("cmdApply").Click();
+    EXPECT_THAT(world.OutcomeTexts(),
+                ElementsAre("Stopped after 2 of 4 calendars; the others are as they were.",
+                            "EUR 2028 is as planned now.", "EUR 2029 is made."));
+    EXPECT_EQ(world.Summary(), "2 calendars: 4 days.");
+    EXPECT_TRUE(world.Button("cmdApply").Enabled());
+    EXPECT_THAT(world.told_changes,
+                ElementsAre(ElementsAre(CalendarKey(kEuro, 2028), CalendarKey(kEuro, 2029))));
+    world.world.toolkit.Advance(1000);
+    EXPECT_THAT(planning::LoadRules().calendars, SizeIs(2)) << "nothing goes on behind it";
+  });
+}
+
 TEST(YearPlanWindow, MayBeClosedByWhoeverLearnsOfItsChanges) {
   RunInFreshThread([] {
     PlanWorld world;
