@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/in_words.h"
-#include "ferrowind/planning/local_moment.h"
+#include "ferrowind/planning/moment_text.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::planning {
@@ -118,7 +119,8 @@ std::string CalendarStory::LoadLastChange(const Date& day) const {
     return std::move(found->entry);
   });
   const HistoryEntry& entry = page.entries.front();
-  return entry.user + ", " + LocalMoment(entry.moment) + ": " + words.Tell(entry).Sentence();
+  return entry.user + ", " + MomentText(AttachedPlatform().locale, entry.moment) + ": " +
+         words.Tell(entry).Sentence();
 }
 
 std::vector<SameDay> CalendarStory::Around(const Date& day) const {

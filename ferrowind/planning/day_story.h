@@ -71,7 +71,7 @@ class CalendarStory {
   [[nodiscard]] DayStory Of(const platform::Date& day) const;
   /// The years around, ascending, without the calendar's own.
   [[nodiscard]] std::vector<SameDay> Around(const platform::Date& day) const;
-  /// Who changed the day last, when and how: "anna, 3 March 2027 09:14: Assigned Good Friday to 14 April
+  /// Who changed the day last, when and how: "anna, 3/03/2027 Wed 09:14: Assigned Good Friday to 14 April
   /// 2028"; empty when the history knows of no change. Reads it now; fails as database_call.h says.
   [[nodiscard]] std::string LoadLastChange(const platform::Date& day) const;
 

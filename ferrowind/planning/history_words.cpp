@@ -6,8 +6,9 @@
 #include <utility>
 
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/in_words.h"
-#include "ferrowind/planning/local_moment.h"
+#include "ferrowind/planning/moment_text.h"
 #include "ferrowind/planning/one_line.h"
 #include "ferrowind/platform/values/json_value.h"
 
@@ -231,7 +232,7 @@ std::string HistoryWords::WhyNotUndone(const HistoryEntry& entry, const UndoOutc
   return why + " " +
          InWords("The newest change of %1 is \"%2\" (%3, %4). Undo that first.",
                  {Calendar(*outcome.later), Tell(*outcome.later).Sentence(), outcome.later->user,
-                  LocalMoment(outcome.later->moment)});
+                  ExactMomentText(AttachedPlatform().locale, outcome.later->moment)});
 }
 
 ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {

@@ -7,7 +7,7 @@
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
-#include "ferrowind/planning/local_moment.h"
+#include "ferrowind/planning/moment_text.h"
 #include "ferrowind/planning/one_line.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/planning/day_text.h"
@@ -92,7 +92,7 @@ void fmCalendarThen::Fill(std::int32_t entry) {
     return found->entry;
   });
   const std::string calendar = words.Calendar(then);
-  const std::string moment = planning::LocalMoment(then.moment);
+  const std::string moment = planning::ExactMomentText(platform_.locale, then.moment);
   form_->SetCaption(Said(platform_, "%1 as of %2", {calendar, moment}));
   ControlOf<platform::Label>(*form_, "lblThen")
       .SetText(Said(platform_, "%1 as it was after: %2 \u2014 %3, %4",

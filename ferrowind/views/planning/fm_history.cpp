@@ -7,7 +7,7 @@
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/entry_changes.h"
-#include "ferrowind/planning/local_moment.h"
+#include "ferrowind/planning/moment_text.h"
 #include "ferrowind/views/planning/day_text.h"
 
 namespace ferrowind {
@@ -255,8 +255,12 @@ void fmHistory::ShowLines() {
                                      : Said(platform_, "%1 (redone)", {sentence});
     }
     rows.push_back({.key = std::to_string(line.entry.id),
-                    .cells = {cell(planning::LocalMoment(line.entry.moment)), cell(line.entry.user),
-                              cell(line.calendar), cell(std::move(sentence))}});
+                    .cells = {{.text = planning::ExactMomentText(platform_.locale, line.entry.moment),
+                               .tone = tone,
+                               .order = line.entry.id},
+                              cell(line.entry.user),
+                              cell(line.calendar),
+                              cell(std::move(sentence))}});
   }
   is_busy_ = true;
   entries_.SetRows(rows);
@@ -285,7 +289,7 @@ void fmHistory::ShowCurrent() {
                       .cells = {{.text = change.what}, {.text = change.before}, {.text = change.behind}}});
     }
     told = line->told.Sentence() + " \u2014 " + line->entry.user + ", " +
-           planning::LocalMoment(line->entry.moment);
+           planning::ExactMomentText(platform_.locale, line->entry.moment);
     remark = changes.remark;
   }
   told_.SetText(told);

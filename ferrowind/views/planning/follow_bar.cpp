@@ -10,8 +10,8 @@
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/moment_text.h"
 #include "ferrowind/platform/toolkit/button.h"
-#include "ferrowind/views/planning/moment_text.h"
 
 namespace ferrowind {
 namespace {
@@ -112,9 +112,10 @@ std::string FollowBar::SentenceOf(const CalendarNews& news) const {
     return Said(platform_,
                 is_removed ? "This calendar was removed." : "This calendar was changed since it was read.");
   }
-  return Said(
-      platform_, is_removed ? "%1 removed this calendar, %2: %3." : "%1 changed this calendar, %2: %3.",
-      {news.call->user, MomentText(platform_.locale, news.call->moment), InWords(*news.call).Sentence()});
+  return Said(platform_,
+              is_removed ? "%1 removed this calendar, %2: %3." : "%1 changed this calendar, %2: %3.",
+              {news.call->user, planning::MomentText(platform_.locale, news.call->moment),
+               InWords(*news.call).Sentence()});
 }
 
 }  // namespace ferrowind

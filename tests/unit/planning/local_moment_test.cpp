@@ -1,38 +1,11 @@
 #include "ferrowind/planning/local_moment.h"
 
-#include <cstdlib>
-#include <ctime>
-#include <optional>
-#include <string>
-
 #include <gtest/gtest.h>
+
+#include "tests/unit/planning/time_zone.h"
 
 namespace ferrowind::planning {
 namespace {
-
-/// This program's clock is in that time zone as long as this lives.
-class TimeZone {
- public:
-  explicit TimeZone(const char* zone) {
-    if (const char* const old = std::getenv("TZ")) old_ = old;
-    Set(zone);
-  }
-  ~TimeZone() { Set(old_ ? old_->c_str() : nullptr); }
-  TimeZone(const TimeZone&) = delete;
-  TimeZone& operator=(const TimeZone&) = delete;
-
- private:
-  static void Set(const char* zone) {
-    if (zone != nullptr) {
-      setenv("TZ", zone, 1);
-    } else {
-      unsetenv("TZ");
-    }
-    tzset();
-  }
-
-  std::optional<std::string> old_;
-};
 
 TEST(LocalMoment, IsToldByThisComputersClock) {
   // Nine hours before UTC's, without daylight saving.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdlib>
+#include <ctime>
+#include <optional>
+#include <string>
+
+namespace ferrowind::planning {
+
+/// This program's clock is in that time zone as long as this lives.
+class TimeZone {
+ public:
+  explicit TimeZone(const char* zone) {
+    if (const char* const old = std::getenv("TZ")) old_ = old;
+    Set(zone);
+  }
+  ~TimeZone() { Set(old_ ? old_->c_str() : nullptr); }
+  TimeZone(const TimeZone&) = delete;
+  TimeZone& operator=(const TimeZone&) = delete;
+
+ private:
+  static void Set(const char* zone) {
+    if (zone != nullptr) {
+      setenv("TZ", zone, 1);
+    } else {
+      unsetenv("TZ");
+    }
+    tzset();
+  }
+
+  std::optional<std::string> old_;
+};
+
+}  // namespace ferrowind::planning
