@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
+#include <QKeySequence>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QTest>
@@ -25,11 +26,13 @@ namespace ferrowind::gui {
 namespace {
 
 constexpr Qt::Key kKeys[] = {
-    Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab,       Qt::Key_Backtab, Qt::Key_Up,     Qt::Key_Down,
-    Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,      Qt::Key_End,     Qt::Key_PageUp, Qt::Key_PageDown,
-    Qt::Key_Space,  Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Menu,    Qt::Key_Plus,   Qt::Key_Minus,
-    Qt::Key_F5,     Qt::Key_A,      Qt::Key_C,         Qt::Key_G,       Qt::Key_N,      Qt::Key_E,
-    Qt::Key_R,      Qt::Key_S,      Qt::Key_Asterisk,  Qt::Key_F2,      Qt::Key_F10,    Qt::Key_5};
+    Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down, Qt::Key_Left,
+    Qt::Key_Right, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_Delete,
+    Qt::Key_Backspace, Qt::Key_Menu, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_F5, Qt::Key_A, Qt::Key_C, Qt::Key_G,
+    Qt::Key_N, Qt::Key_E, Qt::Key_R, Qt::Key_S, Qt::Key_Asterisk, Qt::Key_F2, Qt::Key_F10, Qt::Key_5,
+    // Letters of the buttons of planning, with Alt.
+    Qt::Key_B, Qt::Key_D, Qt::Key_F, Qt::Key_H, Qt::Key_I, Qt::Key_L, Qt::Key_O, Qt::Key_P, Qt::Key_T,
+    Qt::Key_U, Qt::Key_W, Qt::Key_Y, Qt::Key_Z};
 constexpr Qt::KeyboardModifiers kModifiers[] = {Qt::NoModifier,
                                                 Qt::NoModifier,
                                                 Qt::NoModifier,
@@ -39,8 +42,14 @@ constexpr Qt::KeyboardModifiers kModifiers[] = {Qt::NoModifier,
                                                 Qt::ControlModifier | Qt::ShiftModifier};
 constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
                                         Qt::MiddleButton};
-const char* const kTexts[] = {"2028", "abc",    "", "Christmas", "USD", "9", "\xc3\xa4\xe2\x82\xac",
-                              "  ",   "'\";--%"};
+/// Of the tools of planning.
+const char* const kShortcuts[] = {"Ctrl+B",   "Ctrl+D",       "Ctrl+E", "Ctrl+F",       "Ctrl+H",
+                                  "Ctrl+I",   "Ctrl+L",       "Ctrl+P", "Ctrl+S",       "Ctrl+W",
+                                  "Ctrl+Z",   "Ctrl+Shift+S", "F5",     "Ctrl+Shift+Y", "Ctrl+Shift+Z",
+                                  "Alt+PgUp", "Alt+PgDown"};
+const char* const kTexts[] = {
+    "2028", "abc",     "",         "Christmas",  "USD",      "9",        "\xc3\xa4\xe2\x82\xac",
+    "  ",   "'\";--%", "14 April", "2028-12-25", "easter-2", "EUR, USD", "last Monday of 5"};
 
 QWidget* WindowOnTop() {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
@@ -161,6 +170,10 @@ void RandomOperator::PressAnyKey() {
   QWidget* focused = QApplication::focusWidget();
   if (QWidget* popup = QApplication::activePopupWidget()) focused = popup;
   if (focused == nullptr) focused = WindowOnTop();
+  if (Below(6) == 0) {
+    QTest::keySequence(focused, QKeySequence(QLatin1String(kShortcuts[Below(std::size(kShortcuts))])));
+    return;
+  }
   const Qt::Key key = kKeys[Below(std::size(kKeys))];
   QTest::keyClick(focused, key, kModifiers[Below(std::size(kModifiers))]);
 }
