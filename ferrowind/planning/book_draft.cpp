@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/almanac/expression_error.h"
+#include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
@@ -183,7 +184,20 @@ almanac::Planner BookDraft::StoredPlanner() const { return {stored_.value_or(Rul
 
 almanac::Planner BookDraft::DraftPlanner() const { return {ReadableBook(0).book, tables_}; }
 
-void BookDraft::Store() const {
+void BookDraft::Store() {
+  const auto sent = std::exchange(sent_, ReadableBook(0).book);
+  try {
+    Send();
+  } catch (const Refusal& refusal) {
+    if (refusal.ReturnValue() != return_value::kContentIsAnother || !sent) throw;
+    const auto stored = LoadBook(currency_.id, currency_.code, tables_);
+    if (!stored || stored->book != sent) throw;
+    fingerprint_ = stored->fingerprint;
+    Send();
+  }
+}
+
+void BookDraft::Send() const {
   if (IsEmpty()) {
     RemoveBook(currency_.id, currency_.code, fingerprint_);
   } else {

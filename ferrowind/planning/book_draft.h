@@ -80,9 +80,9 @@ class BookDraft {
 
   /// Puts the draft in place of the stored book; a draft without a publisher, a document and rules removes
   /// it. Only of one without faults. A `Refusal` when somebody else has changed the book since it was read:
-  /// nothing is lost, the draft stays as it is. Once it is stored, the book is to be
-  /// read anew.
-  void Store() const;
+  /// nothing is lost, the draft stays as it is. Once it is stored, the book is to be read anew; where that
+  /// fails, or the answer was lost, the draft can be stored again.
+  void Store();
 
  private:
   /// The rules that can be read, and where the one at `position` stands among them.
@@ -93,6 +93,7 @@ class BookDraft {
   [[nodiscard]] Readable ReadableBook(std::size_t position) const;
   [[nodiscard]] almanac::Planner StoredPlanner() const;
   [[nodiscard]] almanac::Planner DraftPlanner() const;
+  void Send() const;
   [[nodiscard]] bool IsEmpty() const;
   [[nodiscard]] bool HasFaultySince() const;
 
@@ -106,6 +107,8 @@ class BookDraft {
   /// As it is stored; nothing when the currency has none.
   std::optional<almanac::RuleBook> stored_;
   std::string fingerprint_;
+  /// What `Store` was called with last, whether it stands in the database or not.
+  std::optional<almanac::RuleBook> sent_;
 };
 
 }  // namespace ferrowind::planning

@@ -65,11 +65,17 @@ std::optional<std::string> HeadlessToolkit::ChooseFileToSave(const std::string& 
   for (const auto& kind : kinds) suffixes.push_back(kind.suffix);
   state_->log.Record("toolkit.ChooseFileToSave(" + ArgumentText(title) + ", " + ArgumentText(suggested_name) +
                      ", " + ArgumentText(suffixes) + ")");
-  if (file_answers_.empty()) {
+  if (file_scripts_.empty()) {
     state_->errors.Raise("A file was asked for (" + title + "), but the test has no answer");
   }
-  std::optional<std::string> answer = std::move(file_answers_.front());
-  file_answers_.pop_front();
+  const auto script = std::move(file_scripts_.front());
+  file_scripts_.pop_front();
+  const auto& forms = state_->forms_at_work;
+  const HeadlessForm* const owner = forms.empty() ? nullptr : forms.back();
+  auto answer = script();
+  if (owner != nullptr && owner->HasUnloaded()) {
+    throw platform::Interruption("The window that the question for a file belongs to has closed");
+  }
   return answer;
 }
 

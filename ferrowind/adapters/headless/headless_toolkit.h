@@ -59,7 +59,13 @@ class HeadlessToolkit : public platform::Toolkit {
 
   /// The operator will choose that file, or none, the next time that one is asked for and no answer waits. A
   /// question without an answer is a script error.
-  void AnswerNextFile(std::optional<std::string> path) { file_answers_.push_back(std::move(path)); }
+  void AnswerNextFile(std::optional<std::string> path) {
+    ScriptNextFile([path = std::move(path)] { return path; });
+  }
+  /// The same, with what happens while the question is on show; returns the file, or nothing.
+  void ScriptNextFile(std::function<std::optional<std::string>()> script) {
+    file_scripts_.push_back(std::move(script));
+  }
   /// Lets time pass: what `After` was asked for meanwhile is called, in the order of its time.
   void Advance(std::int32_t milliseconds);
 
@@ -99,7 +105,7 @@ class HeadlessToolkit : public platform::Toolkit {
   std::int64_t now_ = 0;
   std::vector<MadeForm> made_forms_;
   std::set<std::string> missing_layouts_;
-  std::deque<std::optional<std::string>> file_answers_;
+  std::deque<std::function<std::optional<std::string>()>> file_scripts_;
   int beep_count_ = 0;
 };
 

@@ -6,7 +6,6 @@
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/calendar_store.h"
-#include "ferrowind/planning/entry_changes.h"
 #include "ferrowind/planning/moment_text.h"
 #include "ferrowind/views/planning/day_text.h"
 
@@ -105,11 +104,9 @@ fmHistory::fmHistory(const PlanningContext& context)
                        {.key = "Who", .caption = Said(platform_, "Who")},
                        {.key = "Calendar", .caption = Said(platform_, "Calendar")},
                        {.key = "Change", .caption = Said(platform_, "What"), .stretches = true}});
-  entries_.SetEmptyText(Said(platform_, "Nothing was changed."));
   changes_.SetColumns({{.key = "What", .caption = Said(platform_, "What"), .stretches = true},
                        {.key = "Before", .caption = Said(platform_, "Before"), .stretches = true},
                        {.key = "After", .caption = Said(platform_, "After"), .stretches = true}});
-  changes_.SetEmptyText(Said(platform_, "Everything stayed as it was."));
   persons_.AddItem(Said(platform_, "Everybody"), kEverybody);
   persons_.AddItem(Said(platform_, "Me"), kMine);
   persons_.Choose(0);
@@ -218,10 +215,24 @@ void fmHistory::RunTool(const std::string& id) {
 }
 
 void fmHistory::ShowChosen() {
-  if (calendars_.Chosen() < 0 || persons_.Chosen() < 0) return;
-  list_.Show(choices_[static_cast<std::size_t>(calendars_.ItemData(calendars_.Chosen()))],
-             persons_.ItemData(persons_.Chosen()) == kMine);
+  if (is_busy_ || calendars_.Chosen() < 0 || persons_.Chosen() < 0) return;
+  try {
+    list_.Show(choices_[static_cast<std::size_t>(calendars_.ItemData(calendars_.Chosen()))],
+               persons_.ItemData(persons_.Chosen()) == kMine);
+  } catch (const platform::Failure&) {
+    ChooseWhatIsOnShow();
+    throw;
+  }
+  calendar_on_show_ = calendars_.Chosen();
+  person_on_show_ = persons_.Chosen();
   ShowLines();
+}
+
+void fmHistory::ChooseWhatIsOnShow() {
+  is_busy_ = true;
+  calendars_.Choose(calendar_on_show_);
+  persons_.Choose(person_on_show_);
+  is_busy_ = false;
 }
 
 void fmHistory::ShowOlder() {
@@ -235,7 +246,7 @@ void fmHistory::Reload() {
 }
 
 void fmHistory::ReloadAfter(const PlanningWindows::Changed& /*changed*/) {
-  if (!is_busy_ && !has_closed_) Reload();
+  if (!has_closed_) Reload();
 }
 
 // Showing
@@ -263,6 +274,7 @@ void fmHistory::ShowLines() {
                               cell(std::move(sentence))}});
   }
   is_busy_ = true;
+  entries_.SetEmptyText(Said(platform_, "Nothing was changed."));
   entries_.SetRows(rows);
   is_busy_ = false;
   older_.SetVisible(list_.HasOlder());
@@ -279,23 +291,29 @@ void fmHistory::ShowCurrent() {
   const HistoryList::Line* const line = CurrentLine();
   ShowStep(line);
   then_.SetEnabled(line != nullptr && line->entry.currency && line->entry.year);
+  if (line == nullptr) return ShowChanges("", {});
+  try {
+    ShowChanges(line->told.Sentence() + " \u2014 " + line->entry.user + ", " +
+                    planning::ExactMomentText(platform_.locale, line->entry.moment),
+                planning::LoadChanges(line->entry, list_.Currencies()));
+  } catch (const platform::Failure&) {
+    // Those on show are of another entry.
+    ShowChanges("", {});
+    throw;
+  }
+}
+
+void fmHistory::ShowChanges(const std::string& told, const planning::EntryChanges& changes) {
   std::vector<platform::TableRow> rows;
-  std::string told;
-  std::string remark;
-  if (line != nullptr) {
-    const auto changes = planning::LoadChanges(line->entry, list_.Currencies());
-    for (const auto& change : changes.changes) {
-      rows.push_back({.key = Number(rows.size()),
-                      .cells = {{.text = change.what}, {.text = change.before}, {.text = change.behind}}});
-    }
-    told = line->told.Sentence() + " \u2014 " + line->entry.user + ", " +
-           planning::ExactMomentText(platform_.locale, line->entry.moment);
-    remark = changes.remark;
+  for (const auto& change : changes.changes) {
+    rows.push_back({.key = Number(rows.size()),
+                    .cells = {{.text = change.what}, {.text = change.before}, {.text = change.behind}}});
   }
   told_.SetText(told);
+  changes_.SetEmptyText(told.empty() ? "" : Said(platform_, "Everything stayed as it was."));
   changes_.SetRows(rows);
-  remark_.SetText(remark);
-  remark_.SetVisible(!remark.empty());
+  remark_.SetText(changes.remark);
+  remark_.SetVisible(!changes.remark.empty());
 }
 
 void fmHistory::ShowStep(const HistoryList::Line* line) {
@@ -327,17 +345,20 @@ void fmHistory::Do(UndoStep::Kind kind) {
   if (line->entry.currency && line->entry.year) changed = {{*line->entry.currency, *line->entry.year}};
   // The button is disabled afterwards, and the focus would go to the next one.
   entries_.SetFocus();
-  const std::string why_not = list_.Do(*step);
-  Reload();
-  if (!why_not.empty()) {
-    platform_.toolkit.Beep();
-    remark_.SetText(why_not);
-    remark_.SetVisible(true);
-    return;
+  std::string why_not;
+  try {
+    why_not = list_.Do(*step);
+  } catch (const platform::Failure&) {
+    // With its answer lost it may be done all the same.
+    windows_.TellChanged(changed);
+    throw;
   }
-  is_busy_ = true;
-  windows_.TellChanged(changed);
-  is_busy_ = false;
+  // This window learns of it as the others do.
+  if (why_not.empty()) return windows_.TellChanged(changed);
+  Reload();
+  platform_.toolkit.Beep();
+  remark_.SetText(why_not);
+  remark_.SetVisible(true);
 }
 
 void fmHistory::OpenCalendarThen() {

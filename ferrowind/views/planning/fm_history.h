@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "ferrowind/planning/entry_changes.h"
 #include "ferrowind/planning/history_list.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/window_placement.h"
@@ -38,13 +40,16 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   void FillCalendarList();
   void AddChoice(const planning::HistoryFilter& filter);
   void RunTool(const std::string& id);
-  /// Reads what the two lists ask for.
+  /// Reads what the two lists ask for. On failure they ask for what is on show again.
   void ShowChosen();
+  void ChooseWhatIsOnShow();
   void ShowOlder();
   void Reload();
   void ReloadAfter(const PlanningWindows::Changed& changed);
   void ShowLines();
   void ShowCurrent();
+  /// `told` is empty for no entry.
+  void ShowChanges(const std::string& told, const planning::EntryChanges& changes);
   void ShowStep(const planning::HistoryList::Line* line);
   void Undo();
   void Redo();
@@ -74,8 +79,11 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   std::vector<planning::HistoryFilter> choices_;
   StoredPlacement placement_{"Window History"};
   bool has_closed_ = false;
-  /// While this window fills the lists, or tells the others of its own changes.
+  /// While this window fills the lists.
   bool is_busy_ = false;
+  /// The items of the two lists that the entries are of.
+  std::int32_t calendar_on_show_ = 0;
+  std::int32_t person_on_show_ = 0;
   std::vector<platform::Subscription> subscriptions_;
 };
 

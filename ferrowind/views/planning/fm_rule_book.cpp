@@ -176,10 +176,10 @@ bool fmRuleBook::MayLeave() const {
 void fmRuleBook::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
 
 void fmRuleBook::Form_QueryUnload(bool& cancel) {
-  if (!MayLeave()) {
-    cancel = true;
-    return;
-  }
+  // Nothing is lost where the question cannot be asked.
+  cancel = true;
+  if (!MayLeave()) return;
+  cancel = false;
   has_closed_ = true;
   placement_.Save(*form_);
 }

@@ -127,11 +127,19 @@ void HistoryTools::Undo() {
   const platform::Platform& platform = context_.platform;
   const std::string question = Said(platform, "Undo in %1: %2?", {name, own->told.change});
   if (Confirm(platform.toolkit, Said(platform, "Undo"), question, 1) != 0) return;
-  const auto outcome = planning::UndoEntry(own->entry);
+  const PlanningWindows::Changed changed{{calendar->currency_id, calendar->year}};
+  planning::UndoOutcome outcome;
+  try {
+    outcome = planning::UndoEntry(own->entry);
+  } catch (const platform::Failure&) {
+    // With its answer lost it may be done all the same.
+    context_.windows.TellChanged(changed);
+    throw;
+  }
   if (outcome.kind != planning::UndoOutcome::Kind::kDone) {
     return Tell(teller.Words().WhyNotUndone(own->entry, outcome));
   }
-  context_.windows.TellChanged({{calendar->currency_id, calendar->year}});
+  context_.windows.TellChanged(changed);
 }
 
 void HistoryTools::Tell(const std::string& text) const {

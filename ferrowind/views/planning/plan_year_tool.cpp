@@ -33,7 +33,9 @@ void PlanYearTool::CalendarCreated(const platform::CalendarOnShow& calendar) {
   const platform::Platform& platform = context_.platform;
   const std::string question = Said(platform, "Nothing is closed in %1 %2 yet. Prepare it now?",
                                     {calendar.currency, std::to_string(calendar.year)});
-  if (Confirm(platform.toolkit, Said(platform, "New calendar"), question, 1) == 0) Open(calendar);
+  const bool is_wanted = Confirm(platform.toolkit, Said(platform, "New calendar"), question, 1) == 0;
+  // It may have closed while the question was just being answered.
+  if (is_wanted && !has_closed_) Open(calendar);
 }
 
 void PlanYearTool::Open(const platform::CalendarOnShow& calendar) {

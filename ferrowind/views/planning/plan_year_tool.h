@@ -21,6 +21,7 @@ class PlanYearTool : public CalendarsAddition {
   void DaysShown() override { RefreshTool(); }
   bool RunTool(const std::string& id) override;
   void CalendarCreated(const platform::CalendarOnShow& calendar) override;
+  void Closing() override { has_closed_ = true; }
 
  private:
   void RefreshTool();
@@ -28,6 +29,7 @@ class PlanYearTool : public CalendarsAddition {
 
   PlanningContext context_;
   platform::CalendarsScene& scene_;
+  bool has_closed_ = false;
 };
 
 }  // namespace ferrowind

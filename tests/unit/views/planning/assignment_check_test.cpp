@@ -8,7 +8,7 @@
 
 #include "ferrowind/adapters/headless/headless_label.h"
 
-#include "tests/support/run_in_fresh_thread.h"
+#include "tests/support/fault_scenario.h"
 #include "tests/unit/views/planning/planned_holidays.h"
 
 namespace ferrowind {
@@ -135,6 +135,47 @@ TEST(AssignmentCheck, AssignsNothingWhereThePreviewCannotBeMadeAndSaysWhy) {
     EXPECT_EQ(holidays.RuleOn(Date(2028, 4, 3)), std::nullopt);
     EXPECT_EQ(holidays.world.log.StartingWith("services.ReportError(").size(), 1u);
   });
+}
+
+/// The window for EUR 2028 on show, without Good Friday on its day, and a preview that is always confirmed.
+class ConfirmedAssignment : public PlannedHolidays {
+ public:
+  void Begin() {
+    Tables().calendars.at({kEuro, 2028})[93] = {};
+    if (!window || was_shown) {
+      MakeWindow();
+      ASSERT_TRUE(Init(kWholeCalendarMode));
+      Form().Show();
+    }
+    was_shown = false;
+  }
+  void AssignGoodFriday() {
+    if (world.toolkit.WaitingScripts() == 0) {
+      world.toolkit.ScriptModal("fmAssignPreview", [this](HeadlessForm& preview) {
+        was_shown = true;
+        world.faults.Disarm();
+        preview.PressEnter();
+      });
+    }
+    Assign("Good Friday");
+  }
+  [[nodiscard]] bool IsAssigned() { return RuleOn(Date(2028, 4, 3)).has_value(); }
+
+  bool was_shown = false;
+};
+
+TEST(AssignmentCheck, AssignsNothingUnlessThePreviewWasShownWhicheverCallFails) {
+  testing::FailEachCall<ConfirmedAssignment>(
+      {.arrange = [](ConfirmedAssignment& holidays) { holidays.Begin(); },
+       .act = [](ConfirmedAssignment& holidays) { holidays.AssignGoodFriday(); },
+       .look =
+           [](ConfirmedAssignment& holidays) {
+             EXPECT_EQ(holidays.IsAssigned(), holidays.was_shown);
+             EXPECT_EQ(holidays.Form().IsShown(), !holidays.was_shown);
+             const bool has_failed = holidays.world.faults.HasFired();
+             EXPECT_TRUE(holidays.was_shown || has_failed) << "it bears all failures before";
+           }},
+      30);
 }
 
 }  // namespace

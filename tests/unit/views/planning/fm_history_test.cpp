@@ -16,7 +16,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing::HistoryWorld;
 using ::testing::IsEmpty;
-using ::testing::Not;
 using testing::RunInFreshThread;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
@@ -279,41 +278,6 @@ TEST(HistoryWindow, MayBeDroppedAtAnyMoment) {
     history.ButtonOf("cmdUndo").Click();
     EXPECT_THAT(history.SeenByOperator(), IsEmpty());
   });
-}
-
-/// What the gateway passes over without a word, each parameter and each record set for itself.
-bool IsPassedOver(const std::string& call) {
-  return call == "command.SetParameter" || call == "services.TraceMessage" || call.starts_with("cursor.");
-}
-
-TEST(HistoryWindow, TellsEveryFailureAndGoesOn) {
-  // So few in one database that all of its changes stand on one page.
-  constexpr int kRunsOfADatabase = 40;
-  bool has_fired = true;
-  for (int call = 1; has_fired;) {
-    RunInFreshThread([&] {
-      HistoryWorld history;
-      history.OpenHistory({978, 2028});
-      for (int run = 0; run < kRunsOfADatabase && has_fired; ++run, ++call) {
-        history.Entries().ClickRow("3");
-        history.world.log.Clear();
-        history.world.faults.FailAtCall(call);
-        history.Entries().ClickRow("4");
-        auto& undo = history.ButtonOf("cmdUndo");
-        (undo.Enabled() ? undo : history.ButtonOf("cmdRedo")).Click();
-        has_fired = history.world.faults.HasFired();
-        const std::string failed = history.world.faults.FailedCall();
-        history.world.faults.Disarm();
-        if (has_fired && !IsPassedOver(failed)) {
-          EXPECT_THAT(history.SeenByOperator(), Not(IsEmpty())) << failed;
-        }
-        history.History().Part<headless::HeadlessToolBar>("tbHistory").ClickTool("ID_Refresh");
-        ASSERT_EQ(history.Sentences().back(), kCreated) << failed;
-        EXPECT_TRUE(undo.Enabled() || history.ButtonOf("cmdRedo").Enabled()) << failed;
-      }
-    });
-    ASSERT_LT(call, 1000);
-  }
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "ferrowind/views/calendars/fm_calendar.h"
 #include "ferrowind/views/planning/planning_additions.h"
 
+#include "tests/support/fault_scenario.h"
 #include "tests/unit/views/planning/history_world.h"
 
 namespace ferrowind {
@@ -58,6 +59,18 @@ class ToolsWorld : public HistoryWorld {
       form.Part<HeadlessButton>(button).Click();
     });
   }
+  /// The question, and what tells why nothing was undone.
+  void AnswerAll() {
+    while (world.toolkit.WaitingScripts() < 2) Answer("cmdOk");
+  }
+  /// What stands on the day that the operator excepts, in the database and in the grid.
+  [[nodiscard]] std::string StoredName() const {
+    const auto rule = world.database->Tables().calendars.at({978, 2028})[104].rule;
+    return rule ? world.database->Tables().rules.at(*rule).name : "Working day";
+  }
+  [[nodiscard]] std::string NameOnShow() const {
+    return Calendars().Part<headless::HeadlessGrid>("gexCalendar").CellText(105, "HolidayName");
+  }
   [[nodiscard]] std::size_t EntryCount() const { return world.database->History().size(); }
 
   platform::Platform with_additions = platform;
@@ -66,6 +79,10 @@ class ToolsWorld : public HistoryWorld {
   std::shared_ptr<GridFields> holiday_headers = std::make_shared<GridFields>();
   std::shared_ptr<fmCalendar> window;
   std::vector<std::string> asked;
+
+ private:
+  /// The Calendars window reads the days anew then, which is not for the tools to answer for.
+  platform::Subscription changed_ = windows.OnChanged([this](const auto&) { world.faults.Disarm(); });
 };
 
 TEST(HistoryTools, OpenTheHistoryOfTheCalendarOnShow) {
@@ -189,6 +206,47 @@ TEST(HistoryTools, LeaveTheDaysOnShowWhenTheHistoryCannotBeRead) {
     calendars.Tools().ClickTool("ID_Undo");
     EXPECT_THAT(calendars.SeenByOperator(), ElementsAre(HasSubstr("no history")));
   });
+}
+
+TEST(HistoryTools, UndoAllOrNothingAndShowWhichWhicheverCallFails) {
+  testing::FailEachCall<ToolsWorld>(
+      {.arrange =
+           [](ToolsWorld& calendars) {
+             calendars.ExceptGoodFriday();
+             calendars.Refresh();
+             calendars.AnswerAll();
+           },
+       .act = [](ToolsWorld& calendars) { calendars.Calendars().PressShortcut("Ctrl+Z"); },
+       .look =
+           [](ToolsWorld& calendars) {
+             EXPECT_EQ(calendars.NameOnShow(), calendars.StoredName());
+             if (calendars.StoredName() != "Good Friday") {
+               calendars.AnswerAll();
+               calendars.Calendars().PressShortcut("Ctrl+Z");
+             }
+             EXPECT_EQ(calendars.StoredName(), "Good Friday");
+           }},
+      40);
+}
+
+TEST(HistoryTools, NameNothingWhileTheHistoryCannotBeReadAndSayNothingOfIt) {
+  testing::FailEachCall<ToolsWorld>(
+      {.arrange = [](ToolsWorld& calendars) { calendars.Tools().ClickTool("ID_Refresh"); },
+       .act = [](ToolsWorld& calendars) { calendars.Rest(); },
+       .look =
+           [](ToolsWorld& calendars) {
+             // Without the name of the asker, which the gateway passes over, no change is one's own.
+             const bool is_known = !testing::IsPassedOver(calendars.world.faults.FailedCall());
+             EXPECT_TRUE(calendars.Tools().ToolEnabled("ID_Undo") || !is_known);
+             EXPECT_THAT(calendars.Tools().ToolDescription("ID_Undo"),
+                         ::testing::StartsWith("Undoes your last change of this calendar"));
+             calendars.Refresh();
+             EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
+                       "Undoes your last change of this calendar: Created the calendar EUR 2028");
+           },
+       .is_silent = [](const std::string&) { return true; },
+       .most_told = 0},
+      20);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include "ferrowind/views/calendars/fm_calendar.h"
 #include "ferrowind/views/planning/planning_additions.h"
 
-#include "tests/support/run_in_fresh_thread.h"
+#include "tests/support/fault_scenario.h"
 #include "tests/unit/planning/memory_planning_world.h"
 
 namespace ferrowind {
@@ -46,6 +46,10 @@ class ToolWorld : public planning::MemoryPlanningWorld {
   }
   void SelectNode(const std::string& node) const {
     Form().Part<headless::HeadlessTree>("tvCalendar").ClickNode(node);
+  }
+  void ReadAnew() const {
+    Tools().ClickTool("ID_Refresh");
+    Tools().ClickTool("ID_Expand");
   }
   [[nodiscard]] std::size_t PlanWindows() const { return world.toolkit.CountOfForms("fmYearPlan"); }
   /// Creates the calendar of 2029 of the selected currency, and presses the button when it is asked whether
@@ -122,13 +126,44 @@ TEST(PlanYearTool, DoesNotOfferThatForACurrencyWithoutABook) {
   RunInFreshThread([] {
     ToolWorld world;
     ToolWorld::CreateCalendar(kDollar, 2028);
-    world.Tools().ClickTool("ID_Refresh");
-    world.Tools().ClickTool("ID_Expand");
+    world.ReadAnew();
     world.SelectNode("K840_2028");
     world.CreateCalendarAndAnswer("cmdOk");
     EXPECT_EQ(world.question, "");
     EXPECT_EQ(world.PlanWindows(), 0U);
   });
+}
+
+TEST(PlanYearTool, WorksAsEverAfterAnyFailureOfANewCalendarAndItsOffer) {
+  testing::FailEachCall<ToolWorld>(
+      {.arrange =
+           [](ToolWorld& world) {
+             EXPECT_TRUE(world.windows.CloseAll());
+             world.world.database->Tables().calendars.erase({kEuro, 2029});
+             world.ReadAnew();
+             world.SelectNode("K978_2028");
+             world.question.clear();
+           },
+       .act = [](ToolWorld& world) { world.CreateCalendarAndAnswer("cmdOk"); },
+       .look =
+           [](ToolWorld& world) {
+             const bool is_created = world.world.database->Tables().calendars.contains({kEuro, 2029});
+             const std::string failed = world.world.faults.FailedCall();
+             // The dialog of a new calendar says nothing where its own answer is lost.
+             if (is_created && world.question.empty() && failed != "command.ParameterAt") {
+               EXPECT_FALSE(testing::SeenByOperator(world.world.log).empty());
+             }
+             world.ReadAnew();
+             world.SelectNode(is_created ? "K978_2029" : "K978_2028");
+             EXPECT_TRUE(world.Tools().ToolEnabled(kTool));
+             if (failed.empty()) {
+               EXPECT_TRUE(world.world.toolkit.FormNamed("fmYearPlan").IsShown());
+             }
+           },
+       // The window itself says nothing of some of the calls that it reads the calendars by.
+       .is_silent = [](const std::string&) { return true; },
+       .most_told = 2},
+      40);
 }
 
 }  // namespace

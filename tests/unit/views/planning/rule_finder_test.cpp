@@ -10,8 +10,9 @@
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/views/planning/planning_additions.h"
 
-#include "tests/support/run_in_fresh_thread.h"
+#include "tests/support/fault_scenario.h"
 #include "tests/unit/views/holidays/holidays_world.h"
+#include "tests/unit/views/planning/planned_holidays.h"
 
 namespace ferrowind {
 namespace {
@@ -90,6 +91,42 @@ TEST(RuleFinder, LeavesEscToTheWindowWhileTheBarIsClosed) {
     holidays.Form().PressEscape();
     EXPECT_FALSE(holidays.Form().IsShown());
   });
+}
+
+class SearchedRules : public testing::PlannedHolidays {
+ public:
+  SearchedRules() {
+    EXPECT_TRUE(Init(kWholeCalendarMode));
+    Form().Show();
+  }
+  void Type(const std::string& text) { Form().Part<HeadlessTextBox>("txtFind").ReplaceText(text); }
+  void ReadAnew() { Form().Part<headless::HeadlessButton>("cmdAction4").Click(); }
+};
+
+TEST(RuleFinder, KeepsWhatIsTypedAndFindsItOnceTheListCanBeReadAgain) {
+  testing::FailEachCall<SearchedRules>({.arrange =
+                                            [](SearchedRules& rules) {
+                                              rules.Form().PressShortcut("Ctrl+F");
+                                              rules.Type("");
+                                            },
+                                        .act =
+                                            [](SearchedRules& rules) {
+                                              rules.Type("FRI");
+                                              rules.ReadAnew();
+                                            },
+                                        .look =
+                                            [](SearchedRules& rules) {
+                                              EXPECT_EQ(rules.Form().Part<HeadlessTextBox>("txtFind").Text(),
+                                                        "FRI");
+                                              rules.ReadAnew();
+                                              EXPECT_THAT(rules.Names(), ElementsAre("Good Friday"));
+                                              rules.Form().PressEscape();
+                                              EXPECT_THAT(rules.Names(), ::testing::Contains("Saturday"));
+                                            },
+                                        // The window itself says nothing of its list.
+                                        .is_silent = [](const std::string&) { return true; },
+                                        .most_told = 2},
+                                       15);
 }
 
 }  // namespace
