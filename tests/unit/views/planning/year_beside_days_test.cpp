@@ -7,7 +7,7 @@
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/adapters/headless/headless_year_view.h"
 
-#include "tests/support/run_in_fresh_thread.h"
+#include "tests/support/fault_scenario.h"
 #include "tests/unit/views/planning/planned_window.h"
 
 namespace ferrowind {
@@ -42,10 +42,26 @@ class YearWindow : public PlannedWindow {
       form.Part<headless::HeadlessButton>("cmdExcept").Click();
     });
   }
+  /// The window is open at `kDay`, with or without the year.
+  void Require(bool is_visible) {
+    if (!window) OpenAt(kDay);
+    if (Tools().ToolPressed("ID_YearPlanner") != is_visible) ClickTool();
+  }
+  [[nodiscard]] bool IsExcepted(const Date& day) {
+    const auto& days = Tables().calendars.at({kEuro, day.Year()});
+    return days[static_cast<std::size_t>(day.DayOfYear()) - 1].rule == 1;
+  }
+  /// The window reads the days anew then, which is not for the year to answer for.
+  void FailNothingOnceTold() {
+    told_ = windows.OnChanged([this](const auto&) { world.faults.Disarm(); });
+  }
   [[nodiscard]] std::size_t Messages() {
     return world.log.StartingWith("services.ShowMessage(").size() +
            world.log.StartingWith("services.ReportError(").size();
   }
+
+ private:
+  platform::Subscription told_;
 };
 
 TEST(YearBesideDays, IsHiddenUntilTheOperatorAsksForItAndComesBackAsItWasLeft) {
@@ -181,6 +197,53 @@ TEST(YearBesideDays, ShowsNothingWhenTheCalendarCannotBeReadAndSaysSo) {
     calendars.Tools().ClickTool("ID_Refresh");
     EXPECT_THAT(calendars.Year().Content().calendars, SizeIs(1));
   });
+}
+
+TEST(YearBesideDays, IsShownOnceItCanBeReadWhicheverCallFails) {
+  testing::FailEachCall<YearWindow>({.arrange =
+                                         [](YearWindow& calendars) {
+                                           calendars.Require(false);
+                                           calendars.Tools().ClickTool("ID_Refresh");
+                                         },
+                                     .act = [](YearWindow& calendars) { calendars.ClickTool(); },
+                                     .look =
+                                         [](YearWindow& calendars) {
+                                           EXPECT_TRUE(calendars.Tools().ToolPressed("ID_YearPlanner"));
+                                           EXPECT_TRUE(calendars.Year().Visible());
+                                           calendars.Tools().ClickTool("ID_Refresh");
+                                           EXPECT_THAT(calendars.Year().Content().calendars, SizeIs(1));
+                                         }},
+                                    10);
+}
+
+TEST(YearBesideDays, ExceptsAllOfTheSelectedDaysOrNoneWhicheverCallFails) {
+  const Date other(2028, 4, 17);
+  testing::FailEachCall<YearWindow>({.arrange =
+                                         [&](YearWindow& calendars) {
+                                           if (!calendars.window) calendars.FailNothingOnceTold();
+                                           calendars.Require(true);
+                                           calendars.Give(kDay, kGoodFriday);
+                                           calendars.Give(other, kGoodFriday);
+                                           calendars.Tools().ClickTool("ID_Refresh");
+                                           calendars.Year().ClickDay(YearWindow::On(kDay));
+                                           calendars.Year().ExtendToDay(YearWindow::On(other));
+                                           calendars.AnswerReason("busy");
+                                         },
+                                     .act =
+                                         [](YearWindow& calendars) {
+                                           calendars.Tools().ChooseFromNextPopup("ID_ExceptDays");
+                                           calendars.Year().PressMenuKey();
+                                         },
+                                     .look =
+                                         [&](YearWindow& calendars) {
+                                           EXPECT_EQ(calendars.IsExcepted(kDay), calendars.IsExcepted(other));
+                                           calendars.Tools().ClickTool("ID_Refresh");
+                                           EXPECT_EQ(calendars.Year().TextOf(YearWindow::On(kDay)),
+                                                     calendars.IsExcepted(kDay)
+                                                         ? "2028-04-14, Working day by exception: busy"
+                                                         : "2028-04-14, Good Friday, closed");
+                                         }},
+                                    40);
 }
 
 }  // namespace
