@@ -1,5 +1,6 @@
 // The host closes all windows, or an answered dialog is still closing, while the additions of planning ask.
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 

@@ -1,4 +1,7 @@
 // The history and the calendar as it was, while their surroundings fail.
+#include <cstddef>
+#include <string>
+
 #include <gmock/gmock.h>
 
 #include "ferrowind/data/run_handler.h"

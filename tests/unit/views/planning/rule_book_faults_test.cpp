@@ -1,4 +1,7 @@
 // The rule book window while its surroundings fail, and while it is closed under a question.
+#include <memory>
+#include <string>
+
 #include <gmock/gmock.h>
 
 #include "ferrowind/adapters/headless/headless_button.h"
