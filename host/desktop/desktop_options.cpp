@@ -1,8 +1,12 @@
 #include "host/desktop/desktop_options.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QTextStream>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <string_view>
 
 namespace ferrowind::host {
 namespace {
@@ -20,6 +24,18 @@ qt::Theme ThemeNamed(const QString& name) {
 }
 
 }  // namespace
+
+void ShowTextAskedFor(const std::vector<std::string>& arguments) {
+  constexpr std::array<std::string_view, 5> kOptions = {"-h", "--help", "--help-all", "-v", "--version"};
+  const auto asked = std::find_first_of(arguments.begin(), arguments.end(), kOptions.begin(), kOptions.end());
+  if (asked == arguments.end()) return;
+  std::array<char, 10> name{"ferrowind"};
+  std::array<char*, 2> only_name{name.data(), nullptr};
+  int count = 1;
+  const QCoreApplication without_display(count, only_name.data());
+  // The others may be for the toolkit of an application that has a display.
+  (void)ReadOptions({QString::fromUtf8(name.data()), QString::fromStdString(*asked)});
+}
 
 DesktopOptions ReadOptions(const QStringList& arguments) {
   QCommandLineParser parser;

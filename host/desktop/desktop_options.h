@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <string>
+#include <vector>
 
 #include "ferrowind/adapters/qt/look/theme.h"
 
@@ -18,6 +19,10 @@ struct DesktopOptions {
   bool open = false;
   qt::Theme theme = qt::Theme::kSystem;
 };
+
+/// Prints the help or the version and exits with 0 when the arguments behind the program's name ask for that,
+/// which needs no display; else does nothing.
+void ShowTextAskedFor(const std::vector<std::string>& arguments);
 
 /// Reads the arguments of the running application. Prints the help or the version and exits with 0 when they
 /// ask for it; prints what is wrong and exits with 1 when they cannot be understood.

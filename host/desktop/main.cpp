@@ -53,10 +53,11 @@ QString DatabaseNameText(const DesktopOptions& options) {
 
 int main(int argc, char** argv) {
   ferrowind::host::PrivateArguments arguments(argc, argv);
+  QCoreApplication::setOrganizationName(QStringLiteral("Tessaro"));
+  QCoreApplication::setApplicationName(QStringLiteral("ferrowind"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(FERROWIND_VERSION));
+  ferrowind::host::ShowTextAskedFor(arguments.BehindName());
   QApplication application(arguments.Count(), arguments.Values());
-  QApplication::setOrganizationName(QStringLiteral("Tessaro"));
-  QApplication::setApplicationName(QStringLiteral("ferrowind"));
-  QApplication::setApplicationVersion(QStringLiteral(FERROWIND_VERSION));
   const DesktopOptions options = ferrowind::host::ReadOptions(QApplication::arguments());
   ferrowind::qt::ApplyTheme(application, options.theme);
   QApplication::setWindowIcon(ferrowind::qt::ProgramIcon());

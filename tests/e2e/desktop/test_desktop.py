@@ -122,6 +122,15 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(app.wait(30), 1)
         self.assertIn('databse', self.session.printed())
 
+    def test_help_and_version_are_told_without_a_display(self):
+        environment = {name: value for name, value in os.environ.items()
+                       if name not in ('DISPLAY', 'WAYLAND_DISPLAY', 'QT_QPA_PLATFORM')}
+        for option, text in (('--help', '--database <URL>'), ('--version', 'ferrowind ')):
+            told = subprocess.run([PROGRAM, '--theme', 'dark', option], env=environment, capture_output=True, text=True,
+                                  timeout=30)
+            self.assertEqual((told.returncode, told.stderr), (0, ''))
+            self.assertIn(text, told.stdout)
+
     # The board -----------------------------------------------------------------------------------
 
     def board(self):
