@@ -1,7 +1,9 @@
 // The year planner as an operator has it.
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
+#include <QToolBar>
 
 #include <gmock/gmock.h>
 
@@ -64,6 +66,14 @@ TEST_F(YearPlannerTest, ShowsAYearWithItsCounters) {
   EXPECT_EQ(Planner().windowTitle(), QStringLiteral("Year planner - USD 2028"));
   EXPECT_EQ(Summary(), "260 working days, 106 weekend days, 0 holidays");
   EXPECT_TRUE(Pane().hasFocus());
+  Planner().close();
+}
+
+TEST_F(YearPlannerTest, HasAnIconForEachOfItsTools) {
+  OpenPlanner({kDollar}, 2028);
+  for (const QAction* tool : Find<QToolBar>(Planner(), "tbYear").actions()) {
+    EXPECT_EQ(tool->icon().isNull(), tool->isSeparator()) << tool->objectName().toStdString();
+  }
   Planner().close();
 }
 

@@ -20,6 +20,13 @@ void AddRows(QPainterPath& path) {
   for (const qreal y : {6.0, 12.0, 18.0}) AddLine(path, {{11, y}, {20.5, y}});
 }
 
+/// Down onto a line, at the lower right.
+void AddSaveArrow(QPainterPath& path) {
+  AddLine(path, {{17.5, 12.5}, {17.5, 19}});
+  AddLine(path, {{14.8, 16.5}, {17.5, 19.2}, {20.2, 16.5}});
+  AddLine(path, {{14, 21.5}, {21, 21.5}});
+}
+
 /// A small tree of a parent and two children, leaving room at the lower right.
 void AddBranches(QPainterPath& path) {
   path.addRoundedRect(3, 3, 8, 5, 1.2, 1.2);
@@ -200,6 +207,53 @@ Glyph YearWindowGlyph() {
   for (const qreal y : {11.5, 15.5}) {
     for (const qreal x : {6.5, 11.0, 15.5}) glyph.accent_lines.addRect(x, y, 2, 1.5);
   }
+  return glyph;
+}
+
+Glyph YearBeforeGlyph() {
+  Glyph glyph = Sheet(3.5, 5, 17, 15.5);
+  AddLine(glyph.accent_lines, {{13.5, 12.2}, {10.5, 15.2}, {13.5, 18.2}});
+  return glyph;
+}
+
+Glyph YearAfterGlyph() {
+  Glyph glyph = Sheet(3.5, 5, 17, 15.5);
+  AddLine(glyph.accent_lines, {{10.5, 12.2}, {13.5, 15.2}, {10.5, 18.2}});
+  return glyph;
+}
+
+Glyph PrintGlyph() {
+  Glyph glyph;
+  AddLine(glyph.lines, {{7, 8.5}, {7, 3.5}, {17, 3.5}, {17, 8.5}});
+  AddLine(glyph.lines, {{7, 16.5},
+                        {4.5, 16.5},
+                        {3.5, 15.5},
+                        {3.5, 9.5},
+                        {4.5, 8.5},
+                        {19.5, 8.5},
+                        {20.5, 9.5},
+                        {20.5, 15.5},
+                        {19.5, 16.5},
+                        {17, 16.5}});
+  glyph.accent_lines.addRect(7, 13, 10, 7.5);
+  return glyph;
+}
+
+Glyph SaveDocumentGlyph() {
+  Glyph glyph;
+  AddLine(glyph.lines, {{10.5, 20.5}, {5, 20.5}, {5, 3.5}, {13, 3.5}, {18, 8.5}, {18, 11}});
+  AddLine(glyph.lines, {{12.5, 3.5}, {12.5, 9}, {18, 9}});
+  AddLine(glyph.lines, {{8, 12.5}, {12, 12.5}});
+  AddSaveArrow(glyph.accent_lines);
+  return glyph;
+}
+
+Glyph SavePictureGlyph() {
+  Glyph glyph;
+  AddLine(glyph.lines, {{11, 18.5}, {3.5, 18.5}, {3.5, 4.5}, {20.5, 4.5}, {20.5, 11}});
+  AddLine(glyph.lines, {{3.5, 16}, {8.5, 10.5}, {12, 14.5}});
+  glyph.lines.addEllipse(14, 7, 3, 3);
+  AddSaveArrow(glyph.accent_lines);
   return glyph;
 }
 

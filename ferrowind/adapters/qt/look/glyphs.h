@@ -22,6 +22,11 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph BookGlyph();
 [[nodiscard]] Glyph YearGlyph();
 [[nodiscard]] Glyph YearWindowGlyph();
+[[nodiscard]] Glyph YearBeforeGlyph();
+[[nodiscard]] Glyph YearAfterGlyph();
+[[nodiscard]] Glyph PrintGlyph();
+[[nodiscard]] Glyph SaveDocumentGlyph();
+[[nodiscard]] Glyph SavePictureGlyph();
 [[nodiscard]] Glyph HistoryGlyph();
 [[nodiscard]] Glyph UndoGlyph();
 [[nodiscard]] Glyph FindGlyph();
