@@ -41,18 +41,35 @@ void StoredView::Started() {
   grid.SetGroupByBoxVisible(has_box);
   scene_.Tools().SetToolPressed(GroupByBoxTool::kId, has_box);
   const std::int32_t year = Stored(kYear);
+  has_started_ = true;
   if (year == 0) return;
-  scene_.Choose(Stored(kCurrency), year);
+  const std::int32_t currency = Stored(kCurrency);
+  stored_.emplace(currency, year);
+  scene_.Choose(currency, year);
   const std::int32_t row = std::min(Stored(kFirstRow), grid.RowCount());
   if (row > 0) grid.SetFirstVisibleRow(row);
 }
 
+void StoredView::DaysShown() {
+  // A session may end without closing the window. Not worth a message when it cannot be kept.
+  if (has_started_) IgnoringFailure([this] { StoreCalendar(); });
+}
+
+void StoredView::StoreCalendar() {
+  const auto calendar = scene_.OnShow();
+  const std::pair shown(calendar ? calendar->currency_id : 0, calendar ? calendar->year : 0);
+  if (shown == stored_) return;
+  Store(kCurrency, shown.first);
+  Store(kYear, shown.second);
+  // Of the one before.
+  Store(kFirstRow, 0);
+  stored_ = shown;
+}
+
 void StoredView::Closing() {
   const platform::Grid& grid = scene_.Days();
-  const auto calendar = scene_.OnShow();
-  Store(kCurrency, calendar ? calendar->currency_id : 0);
-  Store(kYear, calendar ? calendar->year : 0);
-  Store(kFirstRow, calendar ? grid.FirstVisibleRow() : 0);
+  StoreCalendar();
+  Store(kFirstRow, scene_.OnShow() ? grid.FirstVisibleRow() : 0);
   Store(kGroupBox, grid.GroupByBoxVisible() ? 1 : 0);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <string>
+#include <cstdint>
+#include <optional>
+#include <utility>
 
 #include "ferrowind/views/planning/calendars_addition.h"
 #include "ferrowind/views/planning/planning_context.h"
@@ -16,10 +18,17 @@ class StoredView : public CalendarsAddition {
   StoredView(const PlanningContext& context, platform::CalendarsScene& scene);
 
   void Started() override;
+  void DaysShown() override;
   void Closing() override;
 
  private:
+  void StoreCalendar();
+
   platform::CalendarsScene& scene_;
+  /// Before that, what is on show is not what the operator chose.
+  bool has_started_ = false;
+  /// Currency and year as they are stored, 0 for none.
+  std::optional<std::pair<std::int32_t, std::int32_t>> stored_;
 };
 
 }  // namespace ferrowind

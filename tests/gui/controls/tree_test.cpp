@@ -47,6 +47,15 @@ class TreeTest : public ::testing::Test {
       tree_.OnNodeClick([this](const std::string& key) { clicks_.push_back(key); });
 };
 
+TEST_F(TreeTest, ShowsTheNodeThatWasSelectedBeforeItWasShown) {
+  view_.hide();
+  view_.resize(200, 60);
+  tree_.Select("USN2027");
+  view_.show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&view_));
+  EXPECT_TRUE(view_.viewport()->rect().contains(PlaceOf("USN2027")));
+}
+
 TEST_F(TreeTest, ClicksTheNodeThatAKeyMovesTheSelectionTo) {
   tree_.Select("EUR");
   Press(Qt::Key_Down);

@@ -106,6 +106,13 @@ void TreeView::SetNodeExpanded(const QModelIndex& index, bool is_expanded) {
   setExpanded(index, is_expanded);
 }
 
+void TreeView::showEvent(QShowEvent* event) {
+  QTreeView::showEvent(event);
+  // What was selected before could not be scrolled to.
+  const Work work(*this);
+  if (const QModelIndex selected = SelectedNode(); selected.isValid()) scrollTo(selected);
+}
+
 bool TreeView::viewportEvent(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
   const auto& help = *static_cast<QHelpEvent*>(event);

@@ -29,6 +29,7 @@ class TreeView : public QTreeView {
   void Toggled(const QModelIndex& index, bool is_expanded);
 
  protected:
+  void showEvent(QShowEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

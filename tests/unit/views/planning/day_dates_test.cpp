@@ -2,6 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/views/common/window_placement.h"
+
 #include "tests/unit/views/planning/memory_calendars.h"
 
 namespace ferrowind {
@@ -55,6 +59,22 @@ TEST(StoredView, OpensOnTheCalendarThatWasLeftAndWhereItWasScrolledTo) {
     EXPECT_EQ(calendars.Tree().Selected(), "K978_2028");
     EXPECT_EQ(calendars.Grid().RowCount(), 366);
     EXPECT_EQ(calendars.Grid().FirstVisibleRow(), 100);
+  });
+}
+
+TEST(StoredView, KnowsTheCalendarOnShowWhenTheSessionEndsWithoutClosingTheWindow) {
+  RunInFreshThread([] {
+    MemoryCalendars calendars;
+    calendars.OpenAt(2028);
+    calendars.Close();
+    calendars.OpenAt(2027);
+    const auto stored = [&](const char* name) {
+      return platform::ToInt32(SharedServicesObject().ReadSetting(SettingsSectionOf("Window Calendars"), name,
+                                                                  {}, std::int32_t{0}));
+    };
+    EXPECT_EQ(stored("LastCurrency"), 978);
+    EXPECT_EQ(stored("LastYear"), 2027);
+    EXPECT_EQ(stored("FirstVisibleRow"), 0);
   });
 }
 
