@@ -32,6 +32,8 @@ class HistoryList {
   /// The newest entries of `filter`, whose user counts for nothing: those of the user of this program when
   /// `is_own`, else everybody's.
   void Show(const HistoryFilter& filter, bool is_own);
+  /// What was asked for last.
+  [[nodiscard]] const HistoryFilter& Shown() const { return filter_; }
   /// Reads as many as there are in the list now, or a page at least.
   void Reload();
   void ShowOlder();

@@ -41,6 +41,21 @@ std::vector<HistoryEntry> EntriesIn(RecordSet& rows) {
   return entries;
 }
 
+PastCalendar LoadPast(const std::string& what, const SourceValues& parameters) {
+  const CallAnswer answer =
+      CallDatabase(what, "CldGetAsOf", parameters, 1, {return_value::kUnknownCalendar, kChangedSince});
+  if (answer.return_value == return_value::kUnknownCalendar) return {PastCalendar::State::kNotThere, {}};
+  if (answer.return_value == kChangedSince) return {PastCalendar::State::kNotKept, {}};
+  PastCalendar calendar{PastCalendar::State::kThere, {}};
+  RecordSet& rows = *answer.record_sets.front();
+  for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+    calendar.days.push_back({platform::ToDate(rows["ODate"]), platform::ToInt32(rows["TID1"]),
+                             NumberOrNothing(rows["ID2"]), platform::ToTextOrEmpty(rows["Name1"]),
+                             platform::ToTextOrEmpty(rows["Comment"])});
+  }
+  return calendar;
+}
+
 }  // namespace
 
 HistoryPage LoadHistory(const HistoryFilter& filter, std::optional<std::int32_t> before, std::int32_t count) {
@@ -86,20 +101,17 @@ PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::i
   parameters.Add("ID1", currency);
   parameters.Add("Year1", year);
   parameters.Add("EntryID", entry);
-  const CallAnswer answer =
-      CallDatabase(InWords("Reading a calendar of %1 as the entry %2 of the history left it",
-                           {std::to_string(year), std::to_string(entry)}),
-                   "CldGetAsOf", parameters, 1, {return_value::kUnknownCalendar, kChangedSince});
-  if (answer.return_value == return_value::kUnknownCalendar) return {PastCalendar::State::kNotThere, {}};
-  if (answer.return_value == kChangedSince) return {PastCalendar::State::kNotKept, {}};
-  PastCalendar calendar{PastCalendar::State::kThere, {}};
-  RecordSet& rows = *answer.record_sets.front();
-  for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
-    calendar.days.push_back({platform::ToDate(rows["ODate"]), platform::ToInt32(rows["TID1"]),
-                             NumberOrNothing(rows["ID2"]), platform::ToTextOrEmpty(rows["Name1"]),
-                             platform::ToTextOrEmpty(rows["Comment"])});
-  }
-  return calendar;
+  return LoadPast(InWords("Reading a calendar of %1 as the entry %2 of the history left it",
+                          {std::to_string(year), std::to_string(entry)}),
+                  parameters);
+}
+
+PastCalendar LoadCalendarAsOf(std::int32_t currency, std::int32_t year, const std::string& moment) {
+  SourceValues parameters;
+  parameters.Add("ID1", currency);
+  parameters.Add("Year1", year);
+  parameters.Add("Moment", moment);
+  return LoadPast(InWords("Reading a calendar of %1 as of %2", {std::to_string(year), moment}), parameters);
 }
 
 UndoOutcome UndoEntry(const HistoryEntry& entry) {

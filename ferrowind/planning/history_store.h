@@ -95,6 +95,9 @@ struct PastCalendar {
 
 /// The calendar behind the call of the entry `entry`; 0 for before all of them.
 [[nodiscard]] PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::int32_t entry);
+/// The calendar behind the last call at or before `moment`, UTC as YYYY-MM-DDTHH:MM:SS.sssZ.
+[[nodiscard]] PastCalendar LoadCalendarAsOf(std::int32_t currency, std::int32_t year,
+                                            const std::string& moment);
 
 struct UndoOutcome {
   enum class Kind {

@@ -116,7 +116,7 @@ void MemoryDatabase::AddToHistory(const MemoryProcedure& procedure, const std::v
                                   MemoryChanges changes) {
   MemoryEntry entry;
   entry.id = static_cast<std::int32_t>(history_.size()) + 1;
-  entry.moment = platform::MomentNow();
+  entry.moment = moment_.value_or(platform::MomentNow());
   entry.user = user_;
   entry.procedure = procedure.name;
   entry.currency = InputNamed("@ID1", procedure, inputs);

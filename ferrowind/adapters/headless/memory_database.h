@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -48,6 +49,9 @@ class MemoryDatabase {
   /// Whom the history names for the calls from now on; "memory" at first.
   void SetUser(std::string user) { user_ = std::move(user); }
   [[nodiscard]] const std::string& User() const { return user_; }
+  /// When the history says that the calls from now on were made, as it writes moments, none before an earlier
+  /// one's; at first each when it is made.
+  void SetMoment(std::string moment) { moment_ = std::move(moment); }
   /// Found without regard to case; a failure that names it when there is none.
   [[nodiscard]] const MemoryProcedure& ProcedureNamed(const std::string& name) const;
   /// Calls it in a transaction, as `platform::Connection::Call` promises.
@@ -63,6 +67,7 @@ class MemoryDatabase {
   MemoryTables tables_;
   MemoryHistory history_;
   std::string user_ = "memory";
+  std::optional<std::string> moment_;
   std::vector<MemoryProcedure> procedures_;
 };
 

@@ -47,11 +47,6 @@ HistoryEntry RequireEntry(std::int32_t id) {
   return std::move(found->entry);
 }
 
-std::string NothingThere(PastCalendar::State state, const platform::Platform& platform) {
-  return state == PastCalendar::State::kNotKept ? Said(platform, "The history does not reach back so far.")
-                                                : Said(platform, "There was no such calendar then.");
-}
-
 platform::TableRow RowOf(const PastDay& day, const platform::Platform& platform) {
   const bool is_ordinary = !day.rule && day.comment.empty();
   const auto tone = is_ordinary ? platform::CellTone::kQuiet : platform::CellTone::kNormal;
@@ -64,26 +59,57 @@ platform::TableRow RowOf(const PastDay& day, const platform::Platform& platform)
 
 }  // namespace
 
+struct fmCalendarThen::Creatable : fmCalendarThen {
+  explicit Creatable(const PlanningContext& surroundings) : fmCalendarThen(surroundings) {}
+};
+
 std::shared_ptr<fmCalendarThen> fmCalendarThen::Create(const PlanningContext& context, std::int32_t entry) {
-  struct Creatable : fmCalendarThen {
-    Creatable(const PlanningContext& surroundings, std::int32_t id) : fmCalendarThen(surroundings, id) {}
-  };
-  auto window = std::make_shared<Creatable>(context, entry);
+  auto window = std::make_shared<Creatable>(context);
+  window->ShowBehind(entry);
+  window->Connect();
+  return window;
+}
+
+std::shared_ptr<fmCalendarThen> fmCalendarThen::CreateAsOf(const PlanningContext& context,
+                                                           const planning::CalendarKey& calendar,
+                                                           const std::string& moment) {
+  auto window = std::make_shared<Creatable>(context);
+  window->ShowAsOf(calendar, moment);
   window->Connect();
   return window;
 }
 
 std::string fmCalendarThen::NameFor(std::int32_t entry) { return "fmCalendarThen " + std::to_string(entry); }
 
-fmCalendarThen::fmCalendarThen(const PlanningContext& context, std::int32_t entry)
+std::string fmCalendarThen::NameFor(const planning::CalendarKey& calendar, const std::string& moment) {
+  return "fmCalendarThen " + std::to_string(calendar.first) + " " + std::to_string(calendar.second) + " " +
+         moment;
+}
+
+std::string fmCalendarThen::WhyEmpty(const platform::Platform& platform, PastCalendar::State state) {
+  switch (state) {
+    case PastCalendar::State::kNotThere:
+      return Said(platform, "There was no such calendar then.");
+    case PastCalendar::State::kNotKept:
+      return Said(platform, "The history does not reach back so far.");
+    case PastCalendar::State::kThere:
+      break;
+  }
+  return {};
+}
+
+fmCalendarThen::fmCalendarThen(const PlanningContext& context)
     : platform_(context.platform), form_(platform_.toolkit.CreateForm(Said(platform_, Design()))) {
   ControlOf<platform::ToolBar>(*form_, "tbThen")
       .AddTool(
           {.id = kClose, .caption = Said(platform_, "Close"), .category = "History", .shortcut = "Ctrl+W"});
-  Fill(entry);
+  ControlOf<platform::Table>(*form_, "tblDays")
+      .SetColumns({{.key = "Date", .caption = Said(platform_, "Date")},
+                   {.key = "Day", .caption = Said(platform_, "Day"), .stretches = true},
+                   {.key = "Comment", .caption = Said(platform_, "Comment"), .stretches = true}});
 }
 
-void fmCalendarThen::Fill(std::int32_t entry) {
+void fmCalendarThen::ShowBehind(std::int32_t entry) {
   const HistoryEntry then = RequireEntry(entry);
   const auto currencies = planning::CurrencyList::Load();
   const planning::HistoryWords words(currencies, [](std::int32_t id) -> std::optional<HistoryEntry> {
@@ -97,13 +123,22 @@ void fmCalendarThen::Fill(std::int32_t entry) {
   ControlOf<platform::Label>(*form_, "lblThen")
       .SetText(Said(platform_, "%1 as it was after: %2 \u2014 %3, %4",
                     {calendar, words.Tell(then).Sentence(), then.user, moment}));
+  ShowDays(planning::LoadCalendarBehind(*then.currency, *then.year, then.id));
+}
+
+void fmCalendarThen::ShowAsOf(const planning::CalendarKey& calendar, const std::string& moment) {
+  const auto& [currency, year] = calendar;
+  const std::string name =
+      planning::CurrencyList::Load().FindOrNumber(currency).code + " " + std::to_string(year);
+  const std::string when = planning::ExactMomentText(platform_.locale, moment);
+  form_->SetCaption(Said(platform_, "%1 as of %2", {name, when}));
+  ControlOf<platform::Label>(*form_, "lblThen").SetText(Said(platform_, "%1 as it was at: %2", {name, when}));
+  ShowDays(planning::LoadCalendarAsOf(currency, year, moment));
+}
+
+void fmCalendarThen::ShowDays(const PastCalendar& past) {
   auto& days = ControlOf<platform::Table>(*form_, "tblDays");
-  days.SetColumns({{.key = "Date", .caption = Said(platform_, "Date")},
-                   {.key = "Day", .caption = Said(platform_, "Day"), .stretches = true},
-                   {.key = "Comment", .caption = Said(platform_, "Comment"), .stretches = true}});
-  const PastCalendar past = planning::LoadCalendarBehind(*then.currency, *then.year, then.id);
-  if (past.state != PastCalendar::State::kThere)
-    return days.SetEmptyText(NothingThere(past.state, platform_));
+  days.SetEmptyText(WhyEmpty(platform_, past.state));
   std::vector<platform::TableRow> rows;
   for (const PastDay& day : past.days) rows.push_back(RowOf(day, platform_));
   days.SetRows(rows);

@@ -7,7 +7,10 @@
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/moment_text.h"
+#include "ferrowind/platform/database/history_moment.h"
 #include "ferrowind/views/planning/day_text.h"
+#include "ferrowind/views/planning/fm_as_of.h"
+#include "ferrowind/views/planning/fm_calendar_then.h"
 
 namespace ferrowind {
 namespace {
@@ -21,6 +24,7 @@ using platform::ControlOf;
 constexpr const char* kRefresh = "ID_Refresh";
 constexpr const char* kUndo = "ID_UndoChange";
 constexpr const char* kRedo = "ID_RedoChange";
+constexpr const char* kAsOf = "ID_CalendarAsOf";
 constexpr const char* kClose = "ID_CloseHistory";
 constexpr std::int32_t kEverybody = 0;
 constexpr std::int32_t kMine = 1;
@@ -47,6 +51,7 @@ platform::FormDesign Design() {
               {ControlKind::kButton, "cmdUndo", "Undo"},
               {ControlKind::kButton, "cmdRedo", "Redo"},
               {ControlKind::kButton, "cmdThen", "Calendar then"},
+              {ControlKind::kButton, "cmdAsOf", "Calendar at..."},
               {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
 }
 
@@ -90,13 +95,18 @@ fmHistory::fmHistory(const PlanningContext& context)
       remark_(ControlOf<platform::Label>(*form_, "lblRemark")),
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       redo_(ControlOf<platform::Button>(*form_, "cmdRedo")),
-      then_(ControlOf<platform::Button>(*form_, "cmdThen")) {
+      then_(ControlOf<platform::Button>(*form_, "cmdThen")),
+      as_of_(ControlOf<platform::Button>(*form_, "cmdAsOf")) {
   tools_.AddTool(
       Said(platform_, platform::ToolDesign{kRefresh, "Refresh", "History", "Reads the history anew"}));
   tools_.AddTool(
       {.id = kUndo, .caption = Said(platform_, "Undo"), .category = "History", .shortcut = "Ctrl+Z"});
   tools_.AddTool(
       {.id = kRedo, .caption = Said(platform_, "Redo"), .category = "History", .shortcut = "Ctrl+Shift+Z"});
+  tools_.AddTool({.id = kAsOf,
+                  .caption = Said(platform_, "Calendar at..."),
+                  .category = "History",
+                  .shortcut = "Ctrl+D"});
   tools_.AddTool(
       {.id = kClose, .caption = Said(platform_, "Close"), .category = "History", .shortcut = "Ctrl+W"});
   tools_.SetBar(Said(platform_, "History"), {kRefresh});
@@ -168,6 +178,7 @@ void fmHistory::Connect() {
   on_click("cmdUndo", &fmHistory::Undo);
   on_click("cmdRedo", &fmHistory::Redo);
   on_click("cmdThen", &fmHistory::OpenCalendarThen);
+  on_click("cmdAsOf", &fmHistory::OpenCalendarAsOf);
   on_click("cmdClose", &fmHistory::CloseByButton);
   subscribe(windows_.OnChanged(handler(&fmHistory::ReloadAfter)));
 }
@@ -211,6 +222,7 @@ void fmHistory::RunTool(const std::string& id) {
   if (id == kRefresh) Reload();
   if (id == kUndo) Undo();
   if (id == kRedo) Redo();
+  if (id == kAsOf) OpenCalendarAsOf();
   if (id == kClose) (void)Close();
 }
 
@@ -291,6 +303,8 @@ void fmHistory::ShowCurrent() {
   const HistoryList::Line* const line = CurrentLine();
   ShowStep(line);
   then_.SetEnabled(line != nullptr && line->entry.currency && line->entry.year);
+  as_of_.SetEnabled(CalendarMeant().has_value());
+  tools_.SetToolEnabled(kAsOf, as_of_.Enabled());
   if (line == nullptr) return ShowChanges("", {});
   try {
     ShowChanges(line->told.Sentence() + " \u2014 " + line->entry.user + ", " +
@@ -364,6 +378,31 @@ void fmHistory::Do(UndoStep::Kind kind) {
 void fmHistory::OpenCalendarThen() {
   const HistoryList::Line* const line = CurrentLine();
   if (line != nullptr && line->entry.currency && line->entry.year) windows_.OpenCalendarThen(line->entry.id);
+}
+
+std::optional<planning::CalendarKey> fmHistory::CalendarMeant() const {
+  const auto key_of = [](const auto& of) -> std::optional<planning::CalendarKey> {
+    if (!of.currency || !of.year) return std::nullopt;
+    return planning::CalendarKey(*of.currency, *of.year);
+  };
+  if (const auto chosen = key_of(list_.Shown())) return chosen;
+  const HistoryList::Line* const line = CurrentLine();
+  return line != nullptr ? key_of(line->entry) : std::nullopt;
+}
+
+void fmHistory::OpenCalendarAsOf() {
+  const auto calendar = CalendarMeant();
+  if (!calendar) return;
+  const auto& [currency, year] = *calendar;
+  const HistoryList::Line* const line = CurrentLine();
+  fmAsOf dialog(platform_, list_.Currencies().FindOrNumber(currency).code + " " + std::to_string(year),
+                line != nullptr ? line->entry.moment : platform::MomentNow(), [&](const std::string& moment) {
+                  const auto past = planning::LoadCalendarAsOf(calendar->first, calendar->second, moment);
+                  return fmCalendarThen::WhyEmpty(platform_, past.state);
+                });
+  dialog.ShowModal();
+  // The host may have closed this window meanwhile, with all others.
+  if (dialog.Chosen() && !has_closed_) windows_.OpenCalendarAsOf(*calendar, *dialog.Chosen());
 }
 
 }  // namespace ferrowind

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/entry_changes.h"
 #include "ferrowind/planning/history_list.h"
 #include "ferrowind/platform/platform.h"
@@ -55,7 +56,11 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   void Redo();
   void Do(planning::UndoStep::Kind kind);
   void OpenCalendarThen();
+  /// Asks for the moment.
+  void OpenCalendarAsOf();
   [[nodiscard]] const planning::HistoryList::Line* CurrentLine() const;
+  /// The calendar whose changes are on show, else that of the current change; nothing where that is of none.
+  [[nodiscard]] std::optional<planning::CalendarKey> CalendarMeant() const;
   void Form_Load();
   void Form_QueryUnload();
   void CloseByButton();
@@ -75,6 +80,7 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   platform::Button& undo_;
   platform::Button& redo_;
   platform::Button& then_;
+  platform::Button& as_of_;
   /// What the items of the list of calendars stand for.
   std::vector<planning::HistoryFilter> choices_;
   StoredPlacement placement_{"Window History"};

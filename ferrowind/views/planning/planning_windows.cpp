@@ -38,6 +38,11 @@ void PlanningWindows::OpenCalendarThen(std::int32_t entry) {
        [&](const PlanningContext& context) { return fmCalendarThen::Create(context, entry); });
 }
 
+void PlanningWindows::OpenCalendarAsOf(const planning::CalendarKey& calendar, const std::string& moment) {
+  Open(fmCalendarThen::NameFor(calendar, moment),
+       [&](const PlanningContext& context) { return fmCalendarThen::CreateAsOf(context, calendar, moment); });
+}
+
 void PlanningWindows::OpenYearPlan(const std::vector<planning::CalendarKey>& calendars) {
   Open(fmYearPlan::NameFor(calendars),
        [&](const PlanningContext& context) { return fmYearPlan::Create(context, calendars); });

@@ -42,6 +42,8 @@ class PlanningWindows {
   void OpenHistory(const planning::HistoryFilter& filter);
   /// The calendar of that entry of the history as its call left it.
   void OpenCalendarThen(std::int32_t entry);
+  /// A calendar as it was at a moment, UTC as YYYY-MM-DDTHH:MM:SS.sssZ.
+  void OpenCalendarAsOf(const planning::CalendarKey& calendar, const std::string& moment);
 
   /// The readiness board.
   void OpenReadiness();

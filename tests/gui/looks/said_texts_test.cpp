@@ -189,6 +189,18 @@ TEST_F(SaidTextsTest, AreThoseOfTheHistoryAndACalendarOfThen) {
   const int entry = std::stoi(desk_.ReadOne("SELECT max(EntryID) FROM CldHistory"));
   RunHandler(platform_, [&] { windows_.OpenHistory({}); });
   EXPECT_THAT(EnglishIn("fmHistory"), IsEmpty());
+  script_.Expect("fmAsOf", [this](QWidget& question) {
+    EXPECT_THAT(EnglishIn(question), IsEmpty());
+    for (const char* typed : {"2999-12-31", "2000-01-01"}) {
+      TypeInto(question, "txtDate", typed);
+      ClickButton(question, "cmdShow");
+      EXPECT_THAT(EnglishIn(question), IsEmpty()) << typed;
+    }
+    TypeInto(question, "txtTime", "?");
+    EXPECT_THAT(EnglishIn(question), IsEmpty());
+    ClickButton(question, "cmdCancel");
+  });
+  ClickButton(*WindowOnShow("fmHistory"), "cmdAsOf");
   RunHandler(platform_, [&] { windows_.OpenCalendarThen(entry); });
   EXPECT_THAT(EnglishIn("fmCalendarThen"), IsEmpty());
 }

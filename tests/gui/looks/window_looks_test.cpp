@@ -212,6 +212,13 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheHistoryAndACalendarOfThen) {
   const int entry = std::stoi(desk_.ReadOne("SELECT max(EntryID) FROM CldHistory"));
   RunHandler(platform_, [&] { windows_.OpenHistory({}); });
   Examine("fmHistory");
+  script_.Expect("fmAsOf", [this](QWidget& question) {
+    Examine(question);
+    TypeInto(question, "txtDate", "?");
+    Examine(question);
+    ClickButton(question, "cmdCancel");
+  });
+  ClickButton(*WindowOnShow("fmHistory"), "cmdAsOf");
   RunHandler(platform_, [&] { windows_.OpenCalendarThen(entry); });
   Examine("fmCalendarThen");
 }

@@ -1,5 +1,7 @@
 // The history as an operator has it: the real windows over a real database.
+#include <QDate>
 #include <QLabel>
+#include <QLineEdit>
 
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/data/run_handler.h"
@@ -110,6 +112,26 @@ TEST_F(HistoryTest, ShowsTheCalendarAsAChangeLeftIt) {
   Picture(then, "calendar-then");
   Press(days, Qt::Key_W, Qt::ControlModifier);
   EXPECT_FALSE(then.isVisible());
+}
+
+TEST_F(HistoryTest, ShowsTheCalendarOfAMomentThatIsTyped) {
+  QWidget& window = OpenHistory();
+  script_.Expect("fmAsOf", [](QWidget& question) {
+    EXPECT_TRUE(Find<QLineEdit>(question, "txtDate").hasFocus());
+    Picture(question, "as-of");
+    TypeInto(question, "txtDate", "1 January 2000");
+    ClickButton(question, "cmdShow");
+    EXPECT_EQ(Find<QLabel>(question, "lblMeaning").text().toStdString(), "There was no such calendar then.");
+    Picture(question, "as-of-before-all");
+    // By keyboard back to today, when all was done.
+    TypeInto(question, "txtDate", QDate::currentDate().toString(Qt::ISODate).toStdString());
+    Press(question, Qt::Key_Return);
+  });
+  Press(Entries(window), Qt::Key_D, Qt::ControlModifier);
+  QWidget& then = OnShow("fmCalendarThen");
+  EXPECT_EQ(RowText(Find<qt::TableView>(then, "tblDays"), 105),
+            "Saturday 15 April 2028 | Working day by exception | Move to the new building, third floor");
+  EXPECT_TRUE(then.windowTitle().startsWith("USD 2028 as of ")) << then.windowTitle().toStdString();
 }
 
 TEST_F(HistoryTest, IsReadOnASmallScreenAndInTheDark) {

@@ -80,6 +80,21 @@ TEST(HistoryStore, GivesACalendarAsACallLeftIt) {
   });
 }
 
+TEST(HistoryStore, ReadsACalendarAsItWasAtAMoment) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    component.AddSundayAndGoodFriday();
+    component.world.database->SetMoment("2998-06-01T10:00:20.500Z");
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
+    component.world.database->SetMoment("2998-06-01T10:00:20.501Z");
+    component.AssignGoodFriday();
+    EXPECT_EQ(LoadCalendarAsOf(978, 2028, "2998-06-01T10:00:20.499Z").state, PastCalendar::State::kNotThere);
+    EXPECT_EQ(LoadCalendarAsOf(978, 2028, "2998-06-01T10:00:20.500Z").days.at(104).rule, std::nullopt);
+    EXPECT_EQ(LoadCalendarAsOf(978, 2028, "2998-06-01T10:00:20.501Z").days.at(104).rule, 3);
+    EXPECT_THROW(static_cast<void>(LoadCalendarAsOf(978, 2028, "yesterday")), platform::Failure);
+  });
+}
+
 TEST(HistoryStore, UndoesAnEntry) {
   RunInFreshThread([] {
     MemoryWorld component;

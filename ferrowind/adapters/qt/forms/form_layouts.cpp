@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/forms/form_layouts.h"
 
 #include "ui_fmAddHoliday.h"
+#include "ui_fmAsOf.h"
 #include "ui_fmAssignPreview.h"
 #include "ui_fmCalendar.h"
 #include "ui_fmCalendarThen.h"
@@ -30,6 +31,7 @@ bool FormLayouts::Build(const std::string& form_name, QDialog& window) const {
 FormLayouts ComponentLayouts() {
   FormLayouts layouts;
   layouts.AddGenerated<Ui::fmAddHoliday>("fmAddHoliday");
+  layouts.AddGenerated<Ui::fmAsOf>("fmAsOf");
   layouts.AddGenerated<Ui::fmAssignPreview>("fmAssignPreview");
   layouts.AddGenerated<Ui::fmCalendar>("fmCalendar");
   layouts.AddGenerated<Ui::fmCalendarThen>("fmCalendarThen");
