@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,7 +19,7 @@ namespace ferrowind::sqlite {
 namespace {
 
 /// The files of `system` with a guard in front. All but two functions are the system's own, which find in a
-/// copy what they find in the original.
+/// copy what they find in the original, and so are those of the open files, but for one of a database's.
 struct Guard {
   Guard(sqlite3_vfs& guarded_system, std::string guard_name)
       : files(guarded_system), system(guarded_system), name(std::move(guard_name)) {}
@@ -29,11 +30,23 @@ struct Guard {
   std::string name;
 };
 
-sqlite3_vfs* SystemBehind(sqlite3_vfs* files) { return &reinterpret_cast<Guard*>(files)->system; }
+/// An open database file with a guard in front of the shared memory beside it. Lies behind what the system
+/// keeps of the file.
+struct GuardedDatabase {
+  /// First, so that SQLite's pointer to them is one to this.
+  sqlite3_io_methods methods;
+  const sqlite3_io_methods* system;
+  /// SQLite's own, which lives as long as the file is open.
+  const char* path;
+};
 
-bool IsDangerBesideLog(std::string_view log) {
-  log.remove_suffix(kLogSuffix.size());
-  return DangerBeside(std::string(log)).has_value();
+/// The first version of a file's functions that has those of shared memory.
+constexpr int kVersionWithSharedMemory = 2;
+
+/// The bytes that `system` takes for a file, and what is left out so that something else can lie behind them.
+std::size_t RoomOfFile(const sqlite3_vfs& system) {
+  constexpr std::size_t kStep = alignof(GuardedDatabase);
+  return (static_cast<std::size_t>(system.szOsFile) + kStep - 1) / kStep * kStep;
 }
 
 int Refuse(sqlite3_file* file) {
@@ -41,18 +54,57 @@ int Refuse(sqlite3_file* file) {
   return SQLITE_CANTOPEN;
 }
 
-/// Looks again when the log is open, before anything is written to it.
+/// Whether what has just been opened beside `database` is not to be used. When nothing has the name any more,
+/// it was somebody's who put it there for that moment only: SQLite removes these files while nobody opens
+/// them.
+bool IsDangerInUse(const std::string& database, std::string_view suffix) {
+  return DangerBeside(database).has_value() || !IsAnythingAt(database + std::string(suffix));
+}
+
+/// Looks again when the log is open, before anything is read from it or written to it.
 int OpenLog(sqlite3_vfs* system, const char* name, sqlite3_file* file, int flags, int* flags_out) {
-  if (IsDangerBesideLog(name)) return Refuse(file);
+  std::string database = name;
+  database.resize(database.size() - kLogSuffix.size());
+  if (DangerBeside(database)) return Refuse(file);
   const int code = system->xOpen(system, name, file, flags, flags_out);
-  if (code != SQLITE_OK || !IsDangerBesideLog(name)) return code;
+  if (code != SQLITE_OK || !IsDangerInUse(database, kLogSuffix)) return code;
   file->pMethods->xClose(file);
   return Refuse(file);
 }
 
+/// SQLite opens the shared memory with the first of its pages, page 0.
+int MapSharedMemory(sqlite3_file* file, int page, int size, int may_extend, void volatile** memory) noexcept {
+  try {
+    const auto& guarded = *reinterpret_cast<const GuardedDatabase*>(file->pMethods);
+    const auto map = [&] { return guarded.system->xShmMap(file, page, size, may_extend, memory); };
+    if (page != 0) return map();
+    if (DangerBeside(guarded.path)) return SQLITE_CANTOPEN;
+    const int code = map();
+    const bool is_mapped = code == SQLITE_OK || code == SQLITE_READONLY;
+    if (!is_mapped || !IsDangerInUse(guarded.path, kSharedMemorySuffix)) return code;
+    guarded.system->xShmUnmap(file, 0);
+    *memory = nullptr;
+    return SQLITE_CANTOPEN;
+  } catch (const std::exception&) {
+    return SQLITE_NOMEM;
+  }
+}
+
+int OpenDatabase(Guard& guard, const char* name, sqlite3_file* file, int flags, int* flags_out) {
+  const int code = guard.system.xOpen(&guard.system, name, file, flags, flags_out);
+  if (code != SQLITE_OK || file->pMethods->iVersion < kVersionWithSharedMemory) return code;
+  void* const behind = reinterpret_cast<std::byte*>(file) + RoomOfFile(guard.system);
+  auto* const guarded = new (behind) GuardedDatabase{*file->pMethods, file->pMethods, name};
+  guarded->methods.xShmMap = MapSharedMemory;
+  file->pMethods = &guarded->methods;
+  return code;
+}
+
 int Open(sqlite3_vfs* files, const char* name, sqlite3_file* file, int flags, int* flags_out) noexcept {
   try {
-    sqlite3_vfs* const system = SystemBehind(files);
+    Guard& guard = *reinterpret_cast<Guard*>(files);
+    if ((flags & SQLITE_OPEN_MAIN_DB) != 0) return OpenDatabase(guard, name, file, flags, flags_out);
+    sqlite3_vfs* const system = &guard.system;
     if ((flags & SQLITE_OPEN_WAL) != 0) return OpenLog(system, name, file, flags, flags_out);
     if ((flags & (SQLITE_OPEN_MAIN_JOURNAL | SQLITE_OPEN_SUPER_JOURNAL)) != 0) {
       if ((flags & SQLITE_OPEN_CREATE) == 0) return Refuse(file);
@@ -69,8 +121,8 @@ int Open(sqlite3_vfs* files, const char* name, sqlite3_file* file, int flags, in
 int Access(sqlite3_vfs* files, const char* name, int flags, int* answer) noexcept {
   try {
     if (std::string_view(name).ends_with(kJournalSuffix) && IsAnythingAt(name)) return SQLITE_CANTOPEN;
-    sqlite3_vfs* const system = SystemBehind(files);
-    return system->xAccess(system, name, flags, answer);
+    sqlite3_vfs& system = reinterpret_cast<Guard*>(files)->system;
+    return system.xAccess(&system, name, flags, answer);
   } catch (const std::exception&) {
     return SQLITE_NOMEM;
   }
@@ -80,6 +132,7 @@ std::unique_ptr<Guard> MakeGuard(sqlite3_vfs& system, std::size_t number) {
   auto guard = std::make_unique<Guard>(system, "ferrowind-guarded-" + std::to_string(number));
   guard->files.pNext = nullptr;
   guard->files.zName = guard->name.c_str();
+  guard->files.szOsFile = static_cast<int>(RoomOfFile(system) + sizeof(GuardedDatabase));
   guard->files.xOpen = Open;
   guard->files.xAccess = Access;
   if (sqlite3_vfs_register(&guard->files, 0) != SQLITE_OK) {

@@ -20,6 +20,7 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/adapters/sqlite/files_beside.h"
 
+#include "tests/contract/database/planting_files.h"
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/database/sqlite_database.h"
 
@@ -176,6 +177,17 @@ TEST_F(SqliteFilesBeside, ALinkInThePlaceOfTheLogOrTheSharedMemoryIsRefused) {
     std::filesystem::remove(Path() + suffix);
     EXPECT_EQ(ReadFile(Victim()), "precious");
   }
+}
+
+TEST_F(SqliteFilesBeside, ALogOrSharedMemoryThatIsThereOnlyWhileItIsOpenedIsRefused) {
+  for (const std::string suffix : {"-wal", "-shm"}) {
+    const PlantingFiles planting(Victim(), suffix);
+    EXPECT_THAT(FailureTextOf([&] { (void)sqlite::ReadSchemaVersion(Path()); }),
+                HasSubstr(Path() + " cannot be opened: "))
+        << suffix;
+    EXPECT_GT(PlantingFiles::Count(), 0) << suffix;
+  }
+  EXPECT_EQ(FailureTextOf([&] { (void)sqlite::ReadSchemaVersion(Path()); }), "");
 }
 
 TEST_F(SqliteFilesBeside, TheLogOfAnotherOpenConnectionIsUsed) {
