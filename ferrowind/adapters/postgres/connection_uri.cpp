@@ -44,10 +44,12 @@ struct OptionsFree {
   void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
 };
 
-/// libpq marks what a form would not show while it is typed; others it may come to know tell by their names.
+/// libpq marks what a form would not show while it is typed, but not the keys that newer ones take in place
+/// of a password; others it may come to know tell by their names.
 bool IsSecret(const PQconninfoOption& option) {
   const std::string_view keyword = option.keyword;
-  return std::string_view(option.dispchar) == "*" || keyword.find("password") != std::string_view::npos ||
+  return std::string_view(option.dispchar) == "*" || keyword.starts_with("scram_") ||
+         keyword.find("password") != std::string_view::npos ||
          keyword.find("secret") != std::string_view::npos;
 }
 

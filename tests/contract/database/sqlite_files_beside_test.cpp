@@ -3,7 +3,6 @@
 #include <atomic>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <string>
 #include <thread>
@@ -20,6 +19,7 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/adapters/sqlite/files_beside.h"
 
+#include "tests/contract/database/file_bytes.h"
 #include "tests/contract/database/planting_files.h"
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/database/sqlite_database.h"
@@ -31,15 +31,6 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 const Arguments kNewCalendar = {{"ID1", 978}, {"Year1", 2026}};
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void WriteFile(const std::string& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string BigEndian(std::uint32_t number) {
   std::string bytes;

@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 
 #include <gmock/gmock.h>
@@ -16,6 +15,7 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/platform/values/failure.h"
 
+#include "tests/contract/database/file_bytes.h"
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/database/sqlite_database.h"
 
@@ -26,15 +26,6 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 const Arguments kNewCalendar = {{"ID1", 978}, {"Year1", 2026}};
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void WriteFile(const std::string& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
 
 /// Any other file in the place of a database.
 class DatabaseAt : public DatabaseUnderTest {

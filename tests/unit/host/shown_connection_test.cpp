@@ -23,6 +23,12 @@ TEST(ShownConnection, HasNoPasswordHoweverItIsWritten) {
   }
 }
 
+TEST(ShownConnection, HasNoKeyThatStandsForAPassword) {
+  for (const std::string keyword : {"scram_client_key", "scram_server_key", "oauth_client_secret"}) {
+    EXPECT_THAT(ShownConnection("postgresql://host/db?" + keyword + "=Tr0ub"), Not(HasSubstr("Tr0ub")));
+  }
+}
+
 TEST(ShownConnection, KeepsTheOtherSettings) {
   EXPECT_EQ(
       ShownConnection("postgresql://us%40er:secret@[::1]:5433,b/d%2Fb?sslmode=require&options=-c%20a%3Db"),
