@@ -66,19 +66,11 @@ const MarkedDay* HolidayClosing::MarkOf(const Place& place, std::int16_t day) {
   return found == days.end() || found->day_of_year != day ? nullptr : &*found;
 }
 
-std::vector<Date> HolidayClosing::OpenDates() const {
-  std::vector<Date> dates;
-  for (const Place& place : places_) {
-    if (!place.calendar->exists) continue;
-    for (const std::int16_t day : place.days) {
-      const MarkedDay* const marked = MarkOf(place, day);
-      if (marked == nullptr || !marked->IsClosed()) dates.push_back(DateOf(day));
-    }
-  }
-  return dates;
-}
+void HolidayClosing::SetName(const std::string& typed) { name_ = names_.Read(typed, {}); }
 
-void HolidayClosing::SetName(const std::string& typed) { name_ = names_.Read(typed, OpenDates()); }
+HolidayName HolidayClosing::Name() const { return names_.Read(name_.name, TakenDates()); }
+
+std::vector<std::string> HolidayClosing::KnownNames() const { return names_.For(TakenDates()); }
 
 // What is taken
 // ------------------------------------------------------------------------------------------------
@@ -105,6 +97,14 @@ std::vector<std::int16_t> HolidayClosing::TakenDays(const Place& place) const {
   return taken;
 }
 
+std::vector<Date> HolidayClosing::TakenDates() const {
+  std::vector<Date> dates;
+  for (const Place& place : places_) {
+    for (const std::int16_t day : TakenDays(place)) dates.push_back(DateOf(day));
+  }
+  return dates;
+}
+
 std::vector<std::int16_t> HolidayClosing::DaysForBook(const Place& place) const {
   std::vector<std::int16_t> days;
   if (!place.plan) return days;
@@ -115,8 +115,8 @@ std::vector<std::int16_t> HolidayClosing::DaysForBook(const Place& place) const 
 }
 
 bool HolidayClosing::CanClose() const {
-  return name_.refusal.empty() && std::any_of(places_.begin(), places_.end(),
-                                              [&](const auto& place) { return !TakenDays(place).empty(); });
+  return Name().refusal.empty() && std::any_of(places_.begin(), places_.end(),
+                                               [&](const auto& place) { return !TakenDays(place).empty(); });
 }
 
 // In words

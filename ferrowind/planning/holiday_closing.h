@@ -72,9 +72,10 @@ class HolidayClosing {
 
   /// What the holiday is called; at first nothing is.
   void SetName(const std::string& typed);
-  [[nodiscard]] const HolidayName& Name() const { return name_; }
-  /// The names that can be taken, by the alphabet.
-  [[nodiscard]] std::vector<std::string> KnownNames() const { return names_.For(OpenDates()); }
+  /// What that means for the days that are taken.
+  [[nodiscard]] HolidayName Name() const;
+  /// The names that the days that are taken can be closed as, by the alphabet.
+  [[nodiscard]] std::vector<std::string> KnownNames() const;
 
   /// Calendar by calendar, each with its days by date and its book behind them.
   [[nodiscard]] std::vector<ClosingLine> Lines() const;
@@ -105,7 +106,6 @@ class HolidayClosing {
   };
 
   [[nodiscard]] Place PlaceOf(const SelectedDays& selected) const;
-  [[nodiscard]] std::vector<platform::Date> OpenDates() const;
   [[nodiscard]] platform::Date DateOf(std::int16_t day) const;
   [[nodiscard]] std::string NameOf(const Place& place) const;
   /// Null for an ordinary working day.
@@ -114,6 +114,8 @@ class HolidayClosing {
   [[nodiscard]] bool IsTaken(const std::string& key, bool is_taken_at_first) const;
   [[nodiscard]] bool IsTaken(const Place& place, std::int16_t day) const;
   [[nodiscard]] std::vector<std::int16_t> TakenDays(const Place& place) const;
+  /// Of all places.
+  [[nodiscard]] std::vector<platform::Date> TakenDates() const;
   /// Those that the book can get.
   [[nodiscard]] std::vector<std::int16_t> DaysForBook(const Place& place) const;
 
@@ -129,6 +131,7 @@ class HolidayClosing {
   YearPlanner planner_;
   HolidayNames names_;
   std::vector<Place> places_;
+  /// As it is for no day: `Name` looks at those that are taken.
   HolidayName name_;
   /// By key, of the lines about which somebody has decided.
   std::map<std::string, bool> decisions_;

@@ -139,7 +139,7 @@ void fmCloseDays::ShowAnew() {
 }
 
 std::string fmCloseDays::MeaningOfName() const {
-  const planning::HolidayName& name = closing_.Name();
+  const planning::HolidayName name = closing_.Name();
   if (!name.refusal.empty()) return name.refusal;
   if (name.is_new) return Said(platform_, "A new holiday point, on the days that are closed here.");
   return Said(platform_,

@@ -99,6 +99,22 @@ TEST(HolidayClosing, ClosesNothingWithoutANameAndNothingWithoutADay) {
   });
 }
 
+TEST(HolidayClosing, JudgesANameByTheDaysThatAreTaken) {
+  RunInFreshThread([] {
+    ClosingWorld world;
+    constexpr std::int16_t kChristmas = 360;
+    HolidayClosing closing = world.Closing({{0, {kFriday, kChristmas}}});
+    closing.SetName("Christmas Day");
+    EXPECT_THAT(closing.Name().refusal, HasSubstr("is on 25 December each year"));
+    closing.Take("978/126", false);
+    EXPECT_EQ(closing.Name().refusal, "");
+    EXPECT_THAT(closing.KnownNames(), Contains("Christmas Day"));
+    EXPECT_TRUE(closing.CanClose());
+    closing.Take("978/126", true);
+    EXPECT_FALSE(closing.CanClose());
+  });
+}
+
 TEST(HolidayClosing, LeavesAnExceptionOpenUntilSomebodyTakesIt) {
   RunInFreshThread([] {
     ClosingWorld world;
