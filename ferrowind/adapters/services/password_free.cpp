@@ -23,7 +23,8 @@ std::size_t SecretOfUri(const std::string& text) {
 }
 
 bool EndsInKeyword(const std::string& folded, std::size_t end) {
-  constexpr std::array<std::string_view, 2> kKeywords = {"password", "pwd"};
+  constexpr std::array<std::string_view, 5> kKeywords = {"password", "pwd", "secret", "scram_client_key",
+                                                         "scram_server_key"};
   return std::any_of(kKeywords.begin(), kKeywords.end(), [&](std::string_view keyword) {
     return end >= keyword.size() && folded.compare(end - keyword.size(), keyword.size(), keyword) == 0;
   });

@@ -42,6 +42,10 @@ TEST(PasswordFree, HidesTheValueOfAKeyword) {
   EXPECT_EQ(PasswordFree("PWD = secret;Server=db"), "PWD = ***");
   EXPECT_EQ(PasswordFree("postgresql://db/x?user=anna&sslpassword=secret&a=b"),
             "postgresql://db/x?user=anna&sslpassword=***");
+  for (const std::string keyword : {"oauth_client_secret", "scram_client_key", "scram_server_key"}) {
+    EXPECT_EQ(PasswordFree("postgresql://db/x?" + keyword + "=abc&a=b"),
+              "postgresql://db/x?" + keyword + "=***");
+  }
 }
 
 TEST(PasswordFree, HidesAQuotedValueWhole) {
