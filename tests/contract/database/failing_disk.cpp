@@ -3,16 +3,20 @@
 #include <new>
 #include <stdexcept>
 
+#include <sqlite3.h>
+
 namespace ferrowind::contract {
 namespace {
 
 bool is_filling = false;
 int writes_left = 0;
 bool has_failed = false;
+/// At one address for good: those who have used it may know it longer than it is registered.
+sqlite3_vfs vfs;
 
 sqlite3_vfs* RealVfs() {
-  static sqlite3_vfs* const vfs = sqlite3_vfs_find("unix");
-  return vfs;
+  static sqlite3_vfs* const real = sqlite3_vfs_find("unix");
+  return real;
 }
 
 /// A file whose writes may fail; the real one lies behind it in the same memory.
@@ -70,7 +74,7 @@ int ShmUnmap(sqlite3_file* file, int is_deleting) {
   return RealFile(file)->pMethods->xShmUnmap(RealFile(file), is_deleting);
 }
 
-int Open(sqlite3_vfs* /*vfs*/, const char* name, sqlite3_file* file, int flags, int* out_flags) {
+int Open(sqlite3_vfs* /*files*/, const char* name, sqlite3_file* file, int flags, int* out_flags) {
   auto* const disk_file = new (file) DiskFile{};
   const int code = RealVfs()->xOpen(RealVfs(), name, RealFile(file), flags, out_flags);
   if (RealFile(file)->pMethods == nullptr) return code;
@@ -99,18 +103,18 @@ int Open(sqlite3_vfs* /*vfs*/, const char* name, sqlite3_file* file, int flags, 
 
 }  // namespace
 
-FailingDisk::FailingDisk() : vfs_(*RealVfs()) {
-  vfs_.zName = "failing disk";
-  vfs_.pNext = nullptr;
-  vfs_.szOsFile = RealVfs()->szOsFile + static_cast<int>(sizeof(DiskFile));
-  vfs_.xOpen = Open;
+FailingDisk::FailingDisk() {
+  vfs = *RealVfs();
+  vfs.zName = "failing disk";
+  vfs.pNext = nullptr;
+  vfs.szOsFile = RealVfs()->szOsFile + static_cast<int>(sizeof(DiskFile));
+  vfs.xOpen = Open;
   MakeRoom();
-  if (sqlite3_vfs_register(&vfs_, 1) != SQLITE_OK)
-    throw std::runtime_error("the failing disk cannot be used");
+  if (sqlite3_vfs_register(&vfs, 1) != SQLITE_OK) throw std::runtime_error("the failing disk cannot be used");
 }
 
 FailingDisk::~FailingDisk() {
-  sqlite3_vfs_unregister(&vfs_);
+  sqlite3_vfs_unregister(&vfs);
   sqlite3_vfs_register(RealVfs(), 1);
 }
 

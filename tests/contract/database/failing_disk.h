@@ -1,13 +1,9 @@
 #pragma once
 
-#include <string>
-
-#include <sqlite3.h>
-
 namespace ferrowind::contract {
 
 /// While it lives, every database that this process opens is written through a file system whose writes fail
-/// as those on a full disk do, from the write on that a test chooses.
+/// as those on a full disk do, from the write on that a test chooses. One at a time.
 class FailingDisk {
  public:
   FailingDisk();
@@ -21,9 +17,6 @@ class FailingDisk {
   static void MakeRoom();
   /// Whether a write has failed since the last `FillAfter`.
   [[nodiscard]] static bool HasFailed();
-
- private:
-  sqlite3_vfs vfs_;
 };
 
 }  // namespace ferrowind::contract

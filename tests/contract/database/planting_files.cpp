@@ -40,7 +40,7 @@ int ShmMap(sqlite3_file* file, int page, int size, int may_extend, void volatile
   return WhilePlanted("-shm", [&] { return real_methods->xShmMap(file, page, size, may_extend, memory); });
 }
 
-int Open(sqlite3_vfs* /*vfs*/, const char* name, sqlite3_file* file, int flags, int* out_flags) {
+int Open(sqlite3_vfs* /*files*/, const char* name, sqlite3_file* file, int flags, int* out_flags) {
   const auto open = [&] { return RealVfs()->xOpen(RealVfs(), name, file, flags, out_flags); };
   if ((flags & SQLITE_OPEN_WAL) != 0) return WhilePlanted("-wal", open);
   const int code = open();
