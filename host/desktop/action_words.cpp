@@ -162,10 +162,6 @@ std::string Balance(const ActionRecord& record) {
 
 }  // namespace
 
-std::string ActionWords::DayText(const platform::Date& day) const {
-  return std::to_string(day.Day()) + " " + locale_.MonthName(day.Month()) + " " + std::to_string(day.Year());
-}
-
 std::string ActionWords::Command(const OperatorAction& action) const {
   switch (action.kind) {
     case ActionKind::kOpenCalendars:
@@ -177,7 +173,8 @@ std::string ActionWords::Command(const OperatorAction& action) const {
     case ActionKind::kCreateCalendar:
       return "New calendar" + With(" ", CalendarText(action));
     case ActionKind::kExceptDay:
-      return "Except" + (action.day ? " " + DayText(*action.day) : "") + With(", ", action.currency);
+      return "Except" + (action.day ? " " + locale_.LongDateText(*action.day) : "") +
+             With(", ", action.currency);
     case ActionKind::kOpenRules:
       return "Assign holiday" + With(", ", CalendarText(action));
     case ActionKind::kShowRules:
@@ -212,7 +209,8 @@ std::string ActionWords::Success(const ActionRecord& record) const {
     case ActionKind::kCreateCalendar:
       return "Created the calendar" + With(" ", CalendarText(action));
     case ActionKind::kExceptDay:
-      return "Excepted" + (action.day ? " " + DayText(*action.day) : "") + With(", ", action.currency);
+      return "Excepted" + (action.day ? " " + locale_.LongDateText(*action.day) : "") +
+             With(", ", action.currency);
     case ActionKind::kApplyPlan:
       return "Applied the plan" + With(" of ", CalendarText(action));
     case ActionKind::kUndo:

@@ -33,8 +33,6 @@ class ActionWords {
   [[nodiscard]] static std::string Reason(platform::ActionKind kind, const platform::ActionStep& step);
 
  private:
-  [[nodiscard]] std::string DayText(const platform::Date& day) const;
-
   const platform::Locale& locale_;
 };
 

@@ -59,6 +59,8 @@ class NoLocale : public platform::Locale {
   [[nodiscard]] std::string MonthName(int) const override { RefuseWindow(); }
   [[nodiscard]] std::string WeekdayName(int) const override { RefuseWindow(); }
   [[nodiscard]] std::string DateText(const platform::Date&) const override { RefuseWindow(); }
+  [[nodiscard]] std::string LongDateText(const platform::Date&) const override { RefuseWindow(); }
+  [[nodiscard]] std::string LongDayText(const platform::Date&) const override { RefuseWindow(); }
   [[nodiscard]] platform::DateReading ReadDate(const std::string&, int) const override { RefuseWindow(); }
 };
 

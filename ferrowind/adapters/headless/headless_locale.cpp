@@ -30,6 +30,14 @@ std::string HeadlessLocale::DateText(const Date& date) const {
   return date.ToIso() + " " + WeekdayName(date.Weekday()).substr(0, 3);
 }
 
+std::string HeadlessLocale::LongDateText(const Date& date) const {
+  return std::to_string(date.Day()) + " " + MonthName(date.Month()) + " " + std::to_string(date.Year());
+}
+
+std::string HeadlessLocale::LongDayText(const Date& date) const {
+  return WeekdayName(date.Weekday()) + " " + LongDateText(date);
+}
+
 platform::DateReading HeadlessLocale::ReadDate(const std::string& text, int year) const {
   constexpr std::size_t kLengthOfMonthAndDay = 5;
   std::string iso = text.substr(0, text.find(' '));

@@ -13,6 +13,10 @@ class HeadlessLocale : public platform::Locale {
   [[nodiscard]] std::string WeekdayName(int weekday) const override;
   /// "2028-04-14 Fri".
   [[nodiscard]] std::string DateText(const platform::Date& date) const override;
+  /// "14 April 2028".
+  [[nodiscard]] std::string LongDateText(const platform::Date& date) const override;
+  /// "Friday 14 April 2028".
+  [[nodiscard]] std::string LongDayText(const platform::Date& date) const override;
   /// Reads what `DateText` writes, without the weekday or the year, too: "2028-04-14", "04-14".
   [[nodiscard]] platform::DateReading ReadDate(const std::string& text, int year) const override;
 };

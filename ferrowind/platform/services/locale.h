@@ -28,6 +28,10 @@ class Locale {
   /// A date as it is shown where there is little room: in the short form of the language, with all
   /// four digits of the year and the weekday's short name ("14/04/2028 Fri").
   [[nodiscard]] virtual std::string DateText(const Date& date) const = 0;
+  /// A date in words, as the language writes it ("14 April 2028").
+  [[nodiscard]] virtual std::string LongDateText(const Date& date) const = 0;
+  /// The same with its weekday ("Friday 14 April 2028").
+  [[nodiscard]] virtual std::string LongDayText(const Date& date) const = 0;
   /// Reads a date as people of that language write it, and as `DateText` and ISO 8601 do; one without a year
   /// is in `year`. A text that could be two dates, or none, is refused: it is never completed, cut or
   /// corrected.

@@ -3,11 +3,11 @@
 namespace ferrowind {
 
 std::string DateText(const platform::Locale& locale, const platform::Date& day) {
-  return std::to_string(day.Day()) + " " + locale.MonthName(day.Month()) + " " + std::to_string(day.Year());
+  return locale.LongDateText(day);
 }
 
 std::string DayText(const platform::Locale& locale, const platform::Date& day) {
-  return locale.WeekdayName(day.Weekday()) + " " + DateText(locale, day);
+  return locale.LongDayText(day);
 }
 
 }  // namespace ferrowind

@@ -125,6 +125,16 @@ TEST_F(LocaleContract, WritesADateWithItsWeekdayAndAllOfItsYear) {
   EXPECT_NE(friday.substr(friday.size() - 3), saturday.substr(saturday.size() - 3)) << "the weekday";
 }
 
+TEST_F(LocaleContract, WritesADateInWordsWithAndWithoutItsWeekday) {
+  const Date day(2028, 4, 14);
+  const auto& locale = under_test->Locale();
+  const std::string date = locale.LongDateText(day);
+  EXPECT_THAT(date, testing::AllOf(testing::HasSubstr("14"), testing::HasSubstr(locale.MonthName(4)),
+                                   testing::HasSubstr("2028")));
+  EXPECT_THAT(date, testing::Not(testing::HasSubstr(locale.WeekdayName(6))));
+  EXPECT_EQ(locale.LongDayText(day), locale.WeekdayName(6) + " " + date);
+}
+
 TEST_F(LocaleContract, ReadsTheDatesThatItWritesAndThoseOfIso8601) {
   for (const Date date : {Date(2028, 4, 14), Date(2028, 2, 29), Date(1999, 12, 31)}) {
     EXPECT_EQ(under_test->Locale().ReadDate(under_test->Locale().DateText(date), 2026).date, date);

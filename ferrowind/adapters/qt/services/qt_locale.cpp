@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/qt/services/qt_locale.h"
 
+#include "ferrowind/adapters/qt/dates/long_date.h"
 #include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/values/failure.h"
@@ -21,6 +22,14 @@ std::string QtLocale::DateText(const platform::Date& date) const {
   const QDate day = ToQt(date);
   return FromQt(ShortDate(day, locale_) + QLatin1Char(' ') +
                 locale_.dayName(day.dayOfWeek(), QLocale::ShortFormat));
+}
+
+std::string QtLocale::LongDateText(const platform::Date& date) const {
+  return FromQt(LongDate(ToQt(date), locale_));
+}
+
+std::string QtLocale::LongDayText(const platform::Date& date) const {
+  return FromQt(LongDay(ToQt(date), locale_));
 }
 
 platform::DateReading QtLocale::ReadDate(const std::string& text, int year) const {

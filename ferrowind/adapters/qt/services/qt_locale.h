@@ -15,6 +15,8 @@ class QtLocale : public platform::Locale {
   [[nodiscard]] std::string MonthName(int month) const override;
   [[nodiscard]] std::string WeekdayName(int weekday) const override;
   [[nodiscard]] std::string DateText(const platform::Date& date) const override;
+  [[nodiscard]] std::string LongDateText(const platform::Date& date) const override;
+  [[nodiscard]] std::string LongDayText(const platform::Date& date) const override;
   [[nodiscard]] platform::DateReading ReadDate(const std::string& text, int year) const override;
 
  private:

@@ -1,9 +1,9 @@
 #include "ferrowind/adapters/qt/year/year_accessible.h"
 
+#include "ferrowind/adapters/qt/dates/long_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/adapters/qt/year/year_cell_accessible.h"
 #include "ferrowind/adapters/qt/year/year_pane.h"
-#include "ferrowind/adapters/qt/year/year_texts.h"
 
 namespace ferrowind::qt {
 
@@ -77,7 +77,7 @@ QAccessibleInterface* YearAccessible::cellAt(int row, int column) const {
 
 QString YearAccessible::columnDescription(int column) const {
   if (column < 0 || column >= columnCount()) return {};
-  return DateInWords(pane_.Days().DateOf(column + 1), pane_.locale());
+  return LongDay(ToQt(pane_.Days().DateOf(column + 1)), pane_.locale());
 }
 
 QString YearAccessible::rowDescription(int row) const {

@@ -7,12 +7,12 @@
 #include <cmath>
 #include <utility>
 
+#include "ferrowind/adapters/qt/dates/long_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/adapters/qt/year/legend_painter.h"
 #include "ferrowind/adapters/qt/year/year_colors.h"
 #include "ferrowind/adapters/qt/year/year_layout.h"
 #include "ferrowind/adapters/qt/year/year_painter.h"
-#include "ferrowind/adapters/qt/year/year_texts.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -150,7 +150,7 @@ void YearPages::PaintNotes(Flow& flow) const {
   const qreal width = (flow.page.width() - (kNoteColumns - 1) * 2 * kGap) / kNoteColumns;
   qreal date_width = 0;
   for (int day = 1; day <= days_.DayCount(); ++day)
-    date_width = std::max(date_width, metrics.horizontalAdvance(DateInWords(days_.DateOf(day), locale_)));
+    date_width = std::max(date_width, metrics.horizontalAdvance(LongDay(ToQt(days_.DateOf(day)), locale_)));
   date_width += kGap;
   const auto height_of = [&](const platform::YearNote& note) {
     const QRectF box(0, 0, width - date_width, 1e6);
@@ -176,7 +176,8 @@ void YearPages::PaintNotes(Flow& flow) const {
         const QRectF date(is_mirrored ? start + width - date_width : start, y, date_width, metrics.height());
         const QRectF text(is_mirrored ? start : start + date_width, y, width - date_width, height_of(*note));
         flow.painter.setPen(flow.colors.muted);
-        flow.painter.drawText(date, Qt::AlignLeading, DateInWords(days_.DateOf(note->day_of_year), locale_));
+        flow.painter.drawText(date, Qt::AlignLeading,
+                              LongDay(ToQt(days_.DateOf(note->day_of_year)), locale_));
         flow.painter.setPen(flow.colors.text);
         flow.painter.drawText(text, Qt::AlignLeading | Qt::TextWordWrap, ToQt(note->text));
         y += height_of(*note);

@@ -1,20 +1,14 @@
 #include "ferrowind/adapters/qt/year/year_texts.h"
 
+#include "ferrowind/adapters/qt/dates/long_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
 namespace ferrowind::qt {
 
-QString DateInWords(const platform::Date& date, const QLocale& locale) {
-  // Commas would set the parts of the date apart as they do the texts behind it.
-  QString format = locale.dateFormat(QLocale::LongFormat);
-  format.remove(QLatin1Char(','));
-  return locale.toString(ToQt(date), format);
-}
-
 QString TextOfDay(const year_engine::YearDays& days, const year_engine::YearPlace& place,
                   const QLocale& locale) {
   const QString separator = QStringLiteral(", ");
-  QString text = DateInWords(days.DateOf(place.day), locale);
+  QString text = LongDay(ToQt(days.DateOf(place.day)), locale);
   const QString description = ToQt(days.DescriptionOf(place.calendar, place.day));
   if (!description.isEmpty()) text += separator + description;
   if (days.CalendarCount() == 1) return text;

@@ -7,9 +7,6 @@
 
 namespace ferrowind::qt {
 
-/// "Friday 14 April 2028", as people of the locale write it.
-[[nodiscard]] QString DateInWords(const platform::Date& date, const QLocale& locale);
-
 /// What tooltips and assistive tools say of a day: "Friday 14 April 2028, Good Friday, closed"; of several
 /// calendars with the calendar's in front.
 [[nodiscard]] QString TextOfDay(const year_engine::YearDays& days, const year_engine::YearPlace& place,
