@@ -14,4 +14,8 @@ namespace ferrowind {
 [[nodiscard]] std::int32_t Confirm(platform::Toolkit& toolkit, const std::string& caption,
                                    const std::string& message, std::int32_t state);
 
+/// Asks whether something may be lost: true for "Ok". Enter alone answers "Cancel".
+[[nodiscard]] bool ConfirmLoss(platform::Toolkit& toolkit, const std::string& caption,
+                               const std::string& message);
+
 }  // namespace ferrowind

@@ -40,6 +40,8 @@ void fmMessage::SetState(std::int32_t state) {
   if (state == 0 || state == 1) ControlOf<Button>(*form_, "cmdCancel").SetVisible(state == 1);
 }
 
+void fmMessage::PreferCancel() { ControlOf<Button>(*form_, "cmdCancel").SetFocus(); }
+
 void fmMessage::ShowModal() { form_->ShowModal(); }
 
 void fmMessage::Unload() { form_->Unload(); }

@@ -22,6 +22,8 @@ class fmMessage {
   void SetMessage(const std::string& message);
   /// 0 hides "Cancel", 1 shows it, any other value changes nothing.
   void SetState(std::int32_t state);
+  /// Puts the focus on "Cancel", so that Enter alone presses that.
+  void PreferCancel();
   /// Returns once a button was pressed.
   void ShowModal();
   void Unload();

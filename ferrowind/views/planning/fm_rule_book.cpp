@@ -167,10 +167,9 @@ bool fmRuleBook::Close() {
 
 bool fmRuleBook::MayLeave() const {
   if (!draft_ || !draft_->IsChanged()) return true;
-  return Confirm(platform_.toolkit, Said(platform_, "Rule book"),
-                 Said(platform_, "The rule book of %1 has changes that are not saved. Lose them?",
-                      {draft_->Owner().code}),
-                 1) == 0;
+  return ConfirmLoss(platform_.toolkit, Said(platform_, "Rule book"),
+                     Said(platform_, "The rule book of %1 has changes that are not saved. Lose them?",
+                          {draft_->Owner().code}));
 }
 
 void fmRuleBook::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }

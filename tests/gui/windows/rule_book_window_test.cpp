@@ -141,6 +141,14 @@ TEST_F(RuleBookWindowTest, AsksBeforeEscLosesChanges) {
   EXPECT_EQ(WindowOnShow("fmRuleBook"), nullptr);
 }
 
+TEST_F(RuleBookWindowTest, LosesNoChangesToEnterAlone) {
+  TypeInto(*window_, "txtDocument", "Mine");
+  script_.Expect("fmMessage", [](QWidget& question) { Press(*question.focusWidget(), Qt::Key_Return); });
+  Press(Box("txtDocument"), Qt::Key_Escape);
+  EXPECT_TRUE(window_->isVisible());
+  TypeInto(*window_, "txtDocument", "Calendar of TARGET closing days");
+}
+
 TEST_F(RuleBookWindowTest, IsReadInFullOnASmallScreen) {
   EXPECT_LE(window_->width(), window_->screen()->availableSize().width()) << "as it has opened";
   EXPECT_LE(window_->minimumSizeHint().width(), 800);
