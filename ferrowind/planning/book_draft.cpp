@@ -7,6 +7,7 @@
 #include "ferrowind/almanac/expression_error.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
+#include "ferrowind/planning/told_write.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -185,6 +186,13 @@ almanac::Planner BookDraft::StoredPlanner() const { return {stored_.value_or(Rul
 almanac::Planner BookDraft::DraftPlanner() const { return {ReadableBook(0).book, tables_}; }
 
 void BookDraft::Store() {
+  WriteTold(platform::ActionKind::kStoreBook, {.currency = currency_.code}, [this] {
+    SendAfterLostAnswers();
+    return return_value::kDone;
+  });
+}
+
+void BookDraft::SendAfterLostAnswers() {
   const auto sent = std::exchange(sent_, ReadableBook(0).book);
   try {
     Send();

@@ -59,6 +59,8 @@ class BookDraft {
   /// Swaps the rule with the one behind it.
   void MoveDown(std::size_t position);
 
+  /// Whether the database has a book of the currency.
+  [[nodiscard]] bool IsStored() const { return stored_.has_value(); }
   /// Whether there is anything to store.
   [[nodiscard]] bool IsChanged() const;
   /// Why the book cannot be stored: sentences without a full stop; empty when it can be.
@@ -93,6 +95,8 @@ class BookDraft {
   [[nodiscard]] Readable ReadableBook(std::size_t position) const;
   [[nodiscard]] almanac::Planner StoredPlanner() const;
   [[nodiscard]] almanac::Planner DraftPlanner() const;
+  /// Sends the draft, once more when what it was sent before is there already, although nobody heard so.
+  void SendAfterLostAnswers();
   void Send() const;
   [[nodiscard]] bool IsEmpty() const;
   [[nodiscard]] bool HasFaultySince() const;

@@ -1,20 +1,18 @@
 #include "ferrowind/planning/plan_batch.h"
 
 #include <algorithm>
-#include <functional>
 #include <memory>
 #include <numeric>
 #include <optional>
 #include <utility>
 
-#include "ferrowind/data/action_scope.h"
-#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_run.h"
 #include "ferrowind/planning/plan_words.h"
+#include "ferrowind/planning/told_write.h"
 #include "ferrowind/planning/year_planner.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -34,31 +32,6 @@ std::optional<HistoryEntry> EntryOfPlan(const CalendarKey& calendar) {
     return std::move(newest);
   } catch (const platform::Failure&) {
     return std::nullopt;
-  }
-}
-
-/// A calendar as the host is told of it.
-struct ToldCalendar {
-  std::string currency;
-  int year = 0;
-};
-
-/// Makes a call that writes, which gives its return value, and tells the host of it and how it ends.
-void CallTold(platform::ActionKind kind, const ToldCalendar& calendar,
-              const std::function<std::int32_t()>& call) {
-  platform::ActionObserver* const observer = AttachedPlatform().action_observer;
-  const ActionScope action(observer, kind, [&](platform::OperatorAction& about) {
-    about.currency = calendar.currency;
-    about.year = calendar.year;
-  });
-  try {
-    TellWrite(observer, {}, call());
-  } catch (const Refusal& refusal) {
-    TellWrite(observer, {}, refusal.ReturnValue());
-    throw;
-  } catch (const platform::Failure&) {
-    TellFailedWrite(observer, {});
-    throw;
   }
 }
 
@@ -116,7 +89,7 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   const bool existed = calendar.Preparation()->CalendarExists();
   const std::string& currency = calendar.Preparation()->Owner().code;
   try {
-    CallTold(platform::ActionKind::kApplyPlan, {currency, calendar.Key().second}, [&] {
+    WriteTold(platform::ActionKind::kApplyPlan, {currency, calendar.Key().second}, [&] {
       calendar.Apply();
       return return_value::kDone;
     });
@@ -146,7 +119,7 @@ PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
   try {
     UndoOutcome outcome;
     const CalendarKey& key = calendars_[applied.calendar].Key();
-    CallTold(platform::ActionKind::kUndo, {applied.currency, key.second}, [&] {
+    WriteTold(platform::ActionKind::kUndo, {applied.currency, key.second}, [&] {
       outcome = UndoEntry(applied.entry);
       return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone : return_value::kChangedSince;
     });

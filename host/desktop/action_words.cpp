@@ -193,6 +193,8 @@ std::string ActionWords::Command(const OperatorAction& action) const {
       return "Apply the plan" + With(" of ", CalendarText(action));
     case ActionKind::kUndo:
       return "Undo a change" + With(" of ", CalendarText(action));
+    case ActionKind::kStoreBook:
+      return "Save the rule book of " + action.currency;
   }
   return "";
 }
@@ -215,6 +217,8 @@ std::string ActionWords::Success(const ActionRecord& record) const {
       return "Applied the plan" + With(" of ", CalendarText(action));
     case ActionKind::kUndo:
       return "Undid a change" + With(" of ", CalendarText(action));
+    case ActionKind::kStoreBook:
+      return "Saved the rule book of " + action.currency;
     case ActionKind::kAssignRules:
       return DoneVerb(action.kind) + DoneRules(record) + With(" to ", CalendarText(action)) +
              (record.changed_days ? ": " + DaysSet(*record.changed_days) : "");

@@ -36,7 +36,7 @@ class RecordingActionObserver : public platform::ActionObserver {
   static std::string TextOf(const platform::OperatorAction& action) {
     constexpr const char* kNames[] = {"open",       "refresh",    "show",       "create", "except",
                                       "open rules", "show rules", "assign",     "add",    "edit",
-                                      "remove",     "restore",    "apply plan", "undo"};
+                                      "remove",     "restore",    "apply plan", "undo",   "store book"};
     std::string text = kNames[static_cast<std::size_t>(action.kind)];
     if (!action.currency.empty()) text += " " + action.currency;
     if (action.year != 0) text += " " + std::to_string(action.year);

@@ -32,6 +32,8 @@ enum class ActionKind {
   kApplyPlan,
   /// An earlier change of a calendar is to be taken back.
   kUndo,
+  /// The rule book of a currency is to be saved, or removed where nothing is left in it.
+  kStoreBook,
 };
 
 /// An action, and what it is about. What does not belong to the kind, or could not be told, is empty.

@@ -258,7 +258,14 @@ void fmRuleBook::ShowBookOutcome() {
 }
 
 std::string fmRuleBook::OutcomeText(const std::vector<std::string>& faults) const {
-  if (!draft_->IsChanged()) return Said(platform_, "Nothing is changed.");
+  if (!draft_->IsChanged()) {
+    if (draft_->IsStored()) return Said(platform_, "Nothing is changed.");
+    return Said(
+        platform_,
+        "%1 has no rule book yet, so that nothing can be planned for it. Say who publishes its holidays "
+        "and where, add its rules, and save them.",
+        {draft_->Owner().code});
+  }
   if (faults.empty()) return ChangesText();
   const auto others = static_cast<int>(faults.size()) - 1;
   return faults.front() + '.' +

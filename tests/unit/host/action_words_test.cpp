@@ -49,6 +49,7 @@ TEST_F(ActionWordsTest, ACommandNamesWhatItIsAbout) {
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kOpenRules)), "Assign holiday, EUR 2028");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kApplyPlan)), "Apply the plan of EUR 2028");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kUndo)), "Undo a change of EUR 2028");
+  EXPECT_EQ(words_.Command({ActionKind::kStoreBook, "EUR", 0, {}, {}}), "Save the rule book of EUR");
   EXPECT_EQ(words_.Command(ChristmasException()), "Except 25 December 2028, EUR");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kAssignRules, {"Saturday"})),
             "Assign \"Saturday\" to EUR 2028");
@@ -63,6 +64,8 @@ TEST_F(ActionWordsTest, ASuccessSaysWhatWasDoneAndCountsTheDays) {
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kApplyPlan), {Done()})),
             "Applied the plan of EUR 2028");
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kUndo), {Done()})), "Undid a change of EUR 2028");
+  EXPECT_EQ(words_.Success(Record({ActionKind::kStoreBook, "EUR", 0, {}, {}}, {Done()})),
+            "Saved the rule book of EUR");
   EXPECT_EQ(words_.Success(Record({ActionKind::kApplyPlan, {}, 0, {}, {}}, {Done(), Failed("No"), Done()})),
             "Applied the plans of 2 calendars");
   EXPECT_EQ(words_.Success(Record({ActionKind::kUndo, {}, 0, {}, {}}, {Done(), Done()})),

@@ -4,6 +4,8 @@
 
 #include "ferrowind/planning/database_call.h"
 
+#include "tests/support/recording_action_observer.h"
+#include "tests/unit/planning/memory_planning_world.h"
 #include "tests/unit/planning/planning_world.h"
 
 namespace ferrowind::planning {
@@ -229,6 +231,24 @@ TEST(BookDraft, IsStoredInPlaceOfTheBookThatItWasMadeOf) {
     EXPECT_EQ(call.Parameter("@ID1"), Value(978));
     EXPECT_EQ(call.Parameter("@Expected"), Value("f2"));
     EXPECT_THAT(platform::ToText(call.Parameter("@Rules")), HasSubstr("Labour Day"));
+  });
+}
+
+TEST(BookDraft, TellsTheHostThatItIsStored) {
+  RunInFreshThread([] {
+    testing::RecordingActionObserver observer;
+    const MemoryPlanningWorld component(&observer);
+    MemoryPlanningWorld::GiveBook(kEuro, "EUR", "celebration | Christmas Day | 12-25 |\n");
+    const almanac::DateTables tables;
+    BookDraft draft(DraftWorld::Euro(), tables);
+    BookDraft slower = draft;
+    draft.Insert(0, LabourDay());
+    draft.Store();
+    EXPECT_THAT(observer.events, ElementsAre("began store book EUR", "write 0", "ended"));
+    slower.Insert(0, LabourDay());
+    EXPECT_THROW(slower.Store(), Refusal);
+    EXPECT_THAT(std::vector(observer.events.begin() + 3, observer.events.end()),
+                ElementsAre("began store book EUR", "write 8", "ended"));
   });
 }
 

@@ -31,9 +31,11 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using testing::RunInFreshThread;
+using ::testing::StartsWith;
 
 constexpr std::int32_t kEuro = 978;
 constexpr std::int32_t kDollar = 840;
+constexpr std::int32_t kKuna = 191;
 
 /// The rule book window on the book of the euro: Sunday, 25 December and Good Friday; the dollar has one,
 /// too.
@@ -357,6 +359,14 @@ TEST(RuleBookWindow, AsksBeforeChangesAreLost) {
     book.AnswerQuestion("cmdOk");
     EXPECT_TRUE(book.Form().CloseByOperator());
     EXPECT_FALSE(book.window->IsOpen());
+  });
+}
+
+TEST(RuleBookWindow, SaysThatThereIsNoBookYetAndWhatToDo) {
+  RunInFreshThread([] {
+    BookWorld book;
+    book.window = fmRuleBook::Create({book.platform, book.tables, book.windows}, kKuna);
+    EXPECT_THAT(book.TextOf("lblOutcome"), StartsWith("HRK has no rule book yet"));
   });
 }
 
