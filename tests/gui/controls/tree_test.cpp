@@ -56,6 +56,14 @@ TEST_F(TreeTest, ShowsTheNodeThatWasSelectedBeforeItWasShown) {
   EXPECT_TRUE(view_.viewport()->rect().contains(PlaceOf("USN2027")));
 }
 
+TEST_F(TreeTest, KeepsTheSelectedNodeInSightWhenItsRoomShrinks) {
+  tree_.Select("USN2027");
+  ASSERT_GT(PlaceOf("USN2027").y(), 60);
+  view_.resize(200, 60);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(view_.viewport()->rect().contains(PlaceOf("USN2027")));
+}
+
 TEST_F(TreeTest, ClicksTheNodeThatAKeyMovesTheSelectionTo) {
   tree_.Select("EUR");
   Press(Qt::Key_Down);

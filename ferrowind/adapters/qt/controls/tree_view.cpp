@@ -2,6 +2,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <utility>
@@ -111,6 +112,17 @@ void TreeView::showEvent(QShowEvent* event) {
   // What was selected before could not be scrolled to.
   const Work work(*this);
   if (const QModelIndex selected = SelectedNode(); selected.isValid()) scrollTo(selected);
+}
+
+void TreeView::resizeEvent(QResizeEvent* event) {
+  QTreeView::resizeEvent(event);
+  const QModelIndex selected = SelectedNode();
+  if (!selected.isValid()) return;
+  // What was in sight stays there.
+  const QRect place = visualRect(selected);
+  if (place.top() < 0 || place.bottom() >= event->oldSize().height()) return;
+  const Work work(*this);
+  scrollTo(selected);
 }
 
 bool TreeView::viewportEvent(QEvent* event) {
