@@ -22,7 +22,8 @@ namespace {
 
 constexpr int kWidestFit = 320;
 /// Beside columns that stretch, which hold what there is most to say about: theirs is the room that is left.
-constexpr int kWidestBesideStretched = 180;
+/// A date with its weekday and month in full is no wider.
+constexpr int kWidestBesideStretched = 240;
 /// What a column that stretches keeps at least, where its cells are that wide.
 constexpr int kLeastStretched = 140;
 /// Rows that a fitting column width takes into account.
