@@ -16,6 +16,8 @@
 #include "ferrowind/adapters/headless/headless_tool_bar.h"
 #include "ferrowind/adapters/headless/headless_year_view.h"
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/planning/entry_changes.h"
+#include "ferrowind/planning/history_list.h"
 #include "ferrowind/views/planning/planning_windows.h"
 
 #include "tests/support/run_in_fresh_thread.h"
@@ -154,6 +156,27 @@ TEST(YearPlannerWindow, ExceptsASelectedRangeWithOneReason) {
     EXPECT_EQ(world.Status(), "2 days are working days by exception now");
     EXPECT_THAT(world.told_changes, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028))));
     EXPECT_THAT(world.Reports(), IsEmpty());
+  });
+}
+
+TEST(YearPlannerWindow, LeavesItsExceptionsInTheHistoryWithTheirDaysAndReason) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    world.View().ClickDay({kEuroKey, 104});
+    world.View().ExtendToDay({kEuroKey, 107});
+    world.AnswerReason("ready early");
+    world.Tools().ClickTool("ID_ExceptDays");
+    planning::HistoryList history;
+    history.Show({kEuro, 2028}, false);
+    const auto& newest = history.Lines().front();
+    EXPECT_EQ(newest.told.Sentence(), "Excepted 2 days of EUR 2028: ready early");
+    std::vector<std::string> days;
+    for (const auto& change : planning::LoadChanges(newest.entry, history.Currencies()).changes) {
+      days.push_back(change.what + ": " + change.behind);
+    }
+    EXPECT_THAT(days, ElementsAre("Friday 14 April 2028: Working day by exception: ready early",
+                                  "Saturday 15 April 2028: Working day by exception: ready early"));
   });
 }
 
