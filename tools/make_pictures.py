@@ -151,7 +151,8 @@ class Photographer:
 
     # Pictures ------------------------------------------------------------------------------------
 
-    def take_calendars(self, theme, name):
+    def open_calendar(self, theme):
+        """The year of the euro that stays the same, on the first of May."""
         self.session.database.parent.mkdir(parents=True)
         self.make_database(f'sqlite:{self.session.database}')
         self.studio.use_frames(theme)
@@ -163,7 +164,10 @@ class Photographer:
         self.story.wait_rows(CALENDARS, 365)
         self.session.keys('Tab')
         self.story.go_to_day('1 May 2026 Fri')
-        self.take(name)
+
+    def take_calendars(self, theme):
+        self.open_calendar(theme)
+        self.take(f'calendars-{theme}')
 
     def take_grouped(self, name):
         """By month and type, with the holidays of April unfolded."""
@@ -178,18 +182,29 @@ class Photographer:
         self.session.keys('Down', 'Down', 'Right', *['Down'] * (april_holidays + 1), 'Right')
         self.take(name)
 
-    def take_finding(self):
+    def take_finding(self, theme):
         """What is left of a year, and what a typed date means; behind the pictures of the Calendars window."""
         self.session.keys('ctrl+f')
         self.session.type('easter')
         self.story.wait_rows(CALENDARS, 2)
-        self.take('guide-find')
+        self.take(in_theme('guide-find', theme))
         self.session.keys('Escape', 'ctrl+d')
         self.story.wait_active('Go to date')
         self.session.type('14 April')
-        self.studio.take('guide-go-to-date', self.session, 'Go to date')
+        self.studio.take(in_theme('guide-go-to-date', theme), self.session, 'Go to date')
         self.session.keys('Escape')
         self.story.wait_active(CALENDARS)
+
+    def take_news(self, theme):
+        """That somebody else has changed the calendar on show."""
+        # The bar takes its room from the days, and the current one is to be seen above it.
+        self.session.keys(*['Down'] * 4, *['Up'] * 4)
+        self.run_ctl('call', f'sqlite:{self.session.database}', 'CldIUMain', 'ID1=978', 'Year1=2026', 'TID1=1', 'ID2=1',
+                     'Day1=121', 'Comment=Year-end processing')
+        window = self.story.accessible.wait_window(CALENDARS)
+        wait_for(lambda: any('changed this calendar' in text for text in self.story.accessible.showing_texts(window)),
+                 'the bar')
+        self.take(in_theme('guide-news', theme))
 
     def take_year_plan(self, theme):
         """Of a calendar that was just created."""
@@ -205,6 +220,9 @@ class Photographer:
         self.session.type('2028')
         self.session.keys('Return')
         self.story.wait_active('New calendar')
+        if theme == 'dark':
+            # The story takes the light one.
+            self.studio.take('guide-prepare-it-dark', self.session, 'New calendar')
         self.session.keys('alt+o')
         self.story.wait_active('Plan of USD 2028')
         self.session.keys('Down', 'Down', 'space')
@@ -237,17 +255,7 @@ class Photographer:
 
     def take_year_planner(self, theme):
         """Of one currency and of several, and beside the days."""
-        self.session.database.parent.mkdir(parents=True)
-        self.make_database(f'sqlite:{self.session.database}')
-        self.studio.use_frames(theme)
-        self.session.start('--open', '--theme', theme)
-        self.story.wait_active(CALENDARS)
-        self.arrange()
-        self.session.type('EUR')
-        self.session.keys('Right', 'Down')
-        self.story.wait_rows(CALENDARS, 365)
-        self.session.keys('Tab')
-        self.story.go_to_day('1 May 2026 Fri')
+        self.open_calendar(theme)
         self.session.keys('ctrl+shift+y')
         self.take(in_theme('guide-year-beside-days', theme))
         self.session.keys('ctrl+p')
@@ -336,6 +344,12 @@ class Photographer:
         wait_for(lambda: 'as of' in self.session.active_title(), 'the calendar as it was')
         self.session.keys('ctrl+End', 'Page_Up')
         self.studio.take(f'guide-calendar-then-{theme}', self.session, self.session.active_title())
+        self.session.keys('Escape')
+        self.story.wait_active('History')
+        self.session.keys('ctrl+d')
+        self.story.wait_active('Calendar at a moment')
+        self.studio.take(in_theme('guide-as-of', theme), self.session, 'Calendar at a moment')
+        self.session.keys('Escape')
 
     def take_story(self):
         database = f'sqlite:{self.session.home / "story.sqlite"}'
@@ -355,9 +369,10 @@ class Photographer:
 def main():
     programs = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ROOT / 'build' / 'release' / 'bin').resolve()
     takes = {
-        'dark': lambda user: user.take_calendars('dark', 'calendars-dark'),
-        'light': lambda user: (user.take_calendars('light', 'calendars-light'), user.take_finding(),
+        'dark': lambda user: (user.take_calendars('dark'), user.take_finding('dark'), user.take_news('dark')),
+        'light': lambda user: (user.take_calendars('light'), user.take_finding('light'),
                                user.take_grouped('calendars-grouped')),
+        'news': lambda user: (user.open_calendar('light'), user.take_news('light')),
         'board-dark': lambda user: user.take_board('dark'),
         'board': lambda user: user.take_board('light'),
         'plan-dark': lambda user: user.take_year_plan('dark'),

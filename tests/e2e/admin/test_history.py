@@ -100,6 +100,15 @@ class HistoryTests:
         [last] = self.history("--since", self.history()[-1]["Moment"])[-1:]
         self.assertEqual(last["What"], "Undid: Created the calendar EUR 2026")
 
+    def test_tells_days_that_were_excepted_together_with_their_reason(self):
+        self.change("CldIUMain", "ID1=840", "Year1=2026")
+        output, _ = self.assert_run(DONE, "call", self.database, "CldGetFingerprint", "ID1=840", "Year1=2026",
+                                    "--format", "json")
+        [[fingerprint]] = json.loads(output)["results"][0]["rows"]
+        days = [{"TID1": 1, "Dates": ["2026-12-24", "2026-12-31"], "DayComment": "Year-end processing"}]
+        self.change("CldApplyPlan", "ID1=840", "Year1=2026", f"Expected={fingerprint}", f"Days={json.dumps(days)}")
+        self.assertEqual(self.history()[-1]["What"], "Excepted 2 days of USD 2026: Year-end processing")
+
     def test_names_what_it_cannot_read(self):
         for options, text in ((("--since", "yesterday"), '"yesterday" is neither a date'),
                               (("--since", ""), '"" is neither a date'),
