@@ -65,7 +65,8 @@ class DesktopTest(unittest.TestCase):
         """Goes to the first calendar of the currency by typing, and waits until its days are there."""
         self.session.focus('Calendars')
         self.session.type(currency)
-        self.session.keys('Right', 'Down')
+        # Folded first, as the calendar that was on show last is unfolded again.
+        self.session.keys('Left', 'Right', 'Down')
         return self.accessible.wait_find(self.accessible.application(), 'table cell', '1 Jan 2026 Thu')
 
     def grid(self):
