@@ -114,7 +114,8 @@ SELECT r.Name1, r.Comment, r.TID1,
 FROM NewRule r, CldSetting s
 ORDER BY r.Place;
 
-WITH Item (Dates, TID1, ID2, Comment) AS (
+-- Read once, and not again for each day of the year.
+WITH Item (Dates, TID1, ID2, Comment) AS MATERIALIZED (
   SELECT json_extract(i.value, '$.Dates'), json_extract(i.value, '$.TID1'),
     CASE
       WHEN json_extract(i.value, '$.Name1') IS NOT NULL
@@ -123,7 +124,7 @@ WITH Item (Dates, TID1, ID2, Comment) AS (
     END,
     json_extract(i.value, '$.DayComment')
   FROM json_each(:Days) i
-), Planned (Day1, TID1, ID2, Comment) AS (
+), Planned (Day1, TID1, ID2, Comment) AS MATERIALIZED (
   SELECT CAST(strftime('%j', d.value) AS INTEGER), i.TID1, i.ID2, i.Comment FROM Item i, json_each(i.Dates) d
 )
 UPDATE CldDay SET TID1 = p.TID1, ID2 = p.ID2, Comment = p.Comment
