@@ -96,9 +96,9 @@ class HolidayClosing {
   struct Place {
     const YearOverview::Calendar* calendar = nullptr;
     std::vector<std::int16_t> days;
-    std::optional<almanac::YearPlan> plan;
+    std::optional<almanac::YearPlan> plan = {};
     /// Why there is no plan, without a full stop.
-    std::string why_no_plan;
+    std::string why_no_plan = {};
   };
   struct Entering {
     const Place* place = nullptr;

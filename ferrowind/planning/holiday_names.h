@@ -19,7 +19,7 @@ struct HolidayName {
   /// Whether neither a rule nor a book has the name yet. It becomes that of a holiday point then.
   bool is_new = true;
   /// Why no day can be closed as that, a sentence; empty when days can be.
-  std::string refusal;
+  std::string refusal = {};
 };
 
 /// The names of holidays that rules and books have, for days that are closed by hand.

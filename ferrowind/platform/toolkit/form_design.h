@@ -66,7 +66,7 @@ enum class FormStart { kAsPlaced, kCenterOwner, kCenterScreen };
 /// A form as a view needs it: the toolkit makes the form of this name and gives it these texts.
 struct FormDesign {
   std::string name;
-  std::string caption;
+  std::string caption = {};
   FormBorder border = FormBorder::kSizable;
   FormStart start = FormStart::kAsPlaced;
   /// The designed client area, in twips. Dialogs grow where their texts need it.
