@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 #include "ferrowind/data/exec_proc.h"
@@ -60,13 +61,18 @@ std::size_t ReadCalendar(int currency, int year) {
 
 void ReadAllInfo() { KeepResult(static_cast<std::size_t>(Call("CldAllInfo", {})->Count())); }
 
-void MarkDay(int currency, int year, int day) {
+void MarkDay(int currency, int year, int day, const std::string& comment) {
   SourceValues parameters = CalendarParameters(currency, year);
   parameters.Add("TID1", 1);
   parameters.Add("ID2", 1);
   parameters.Add("Day1", day);
-  parameters.Add("Comment", std::string("Stock-taking"));
+  parameters.Add("Comment", comment);
   Call("CldIUMain", parameters);
+}
+
+void MarkAnotherDay(int number) {
+  constexpr int kDays = 365;
+  MarkDay(kEuro, kYear, 1 + number % kDays, "Stock-taking " + std::to_string(number));
 }
 
 void CompareReading(const Benchmark& benchmark, const std::string& name, double limit, int calls,

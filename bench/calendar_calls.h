@@ -28,7 +28,9 @@ void CreateCalendarWithWeekends(int currency, int year);
 void ReadAllInfo();
 
 /// Calls `CldIUMain` to make a day an exception with a comment.
-void MarkDay(int currency, int year, int day);
+void MarkDay(int currency, int year, int day, const std::string& comment = "Stock-taking");
+/// A change of a day of the calendar kEuro of kYear that no other `number` makes.
+void MarkAnotherDay(int number);
 
 /// Measures `ReadCalendar` of the euro's calendar, which exists, against `read_by_peer`, which returns the
 /// number of cells as well and must find as many. `calls` is how many calls make up a run.

@@ -1,18 +1,16 @@
 // A procedure call on a server with everything that belongs to it, from connecting to the detached record
 // set, against the calls of the server's own client library that connect, run the same statement and read all
-// cells; and many operators who make such calls, against the server's own load generator. Without a server to
-// measure on, the program starts one of its own for itself.
+// cells; the same with sessions kept, also against that library on one connection kept open; and many
+// operators who make such calls, against the server's own load generator. Without a server to measure on, the
+// program starts one of its own for itself.
 
 #include <chrono>
 #include <cstddef>
-#include <cstdlib>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include <libpq-fe.h>
-#include <unistd.h>
 
 #include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/engine.h"
@@ -22,6 +20,7 @@
 #include "bench/delaying_proxy.h"
 #include "bench/measurement.h"
 #include "bench/operators.h"
+#include "bench/own_server.h"
 #include "host/session/procedure_session.h"
 
 namespace {
@@ -33,11 +32,8 @@ using ferrowind::bench::kYear;
 using ferrowind::host::RunWithDatabase;
 using ferrowind::platform::EngineRegistry;
 
-constexpr const char* kServerVariable = "FERROWIND_POSTGRES";
-
 /// The number of cells.
-std::size_t CallPeer(const std::string& uri) {
-  PGconn* const connection = PQconnectdb(uri.c_str());
+std::size_t ReadByPeer(PGconn* connection) {
   const std::string id = std::to_string(kEuro);
   const std::string year = std::to_string(kYear);
   const char* const values[] = {id.c_str(), year.c_str()};
@@ -58,27 +54,34 @@ std::size_t CallPeer(const std::string& uri) {
   }
   KeepResult(sum);
   PQclear(result);
+  return cells;
+}
+
+std::size_t CallPeer(const std::string& uri) {
+  PGconn* const connection = PQconnectdb(uri.c_str());
+  const std::size_t cells = ReadByPeer(connection);
   PQfinish(connection);
   return cells;
 }
 
-/// The value that libpq reads in the URI for `keyword`.
-std::string SettingIn(const std::string& uri, const std::string& keyword) {
-  PQconninfoOption* const options = PQconninfoParse(uri.c_str(), nullptr);
-  std::string value;
-  for (const PQconninfoOption* option = options; option != nullptr && option->keyword != nullptr; ++option) {
-    if (option->keyword == keyword && option->val != nullptr) value = option->val;
-  }
-  PQconninfoFree(options);
-  return value;
+std::string Closing(const std::string& uri) {
+  return uri + (uri.find('?') == std::string::npos ? "?" : "&") + "keep_sessions=no";
 }
 
 void MeasureOnLoopback(const Benchmark& benchmark, const std::string& uri) {
-  ferrowind::bench::AddWeekendRules();
-  ferrowind::bench::CreateCalendarWithWeekends(kEuro, kYear);
   CompareReading(
       benchmark, "20 calls of CldGetMain on a server, peer: raw libpq", 1.35, 20,
       [&] { return CallPeer(uri); }, 31);
+}
+
+void MeasureKeptSessions(const Benchmark& benchmark, const std::string& uri) {
+  CompareReading(
+      benchmark, "20 calls, sessions kept, peer: raw libpq", 0.15, 20, [&] { return CallPeer(uri); }, 15);
+  PGconn* const connection = PQconnectdb(uri.c_str());
+  CompareReading(
+      benchmark, "200 calls, sessions kept, peer: raw libpq, one kept", 1.6, 200,
+      [&] { return ReadByPeer(connection); }, 15);
+  PQfinish(connection);
 }
 
 void MeasureOverDistance(const Benchmark& benchmark, const std::string& uri) {
@@ -89,43 +92,34 @@ void MeasureOverDistance(const Benchmark& benchmark, const std::string& uri) {
 /// As long as a call of theirs takes one of ours may take a ninth longer: nine calls in the time of ten.
 void MeasureOperators(const Benchmark& benchmark, const EngineRegistry& engines, const std::string& uri) {
   constexpr int kCalls = 30 * ferrowind::bench::kOperators;
+  const auto by_peer = [&] { return ferrowind::bench::WorkOfLoadGenerator(uri, kCalls); };
   benchmark.CompareTimes(
       "a call of 16 operators at work, peer: pgbench -C", 1 / 0.9,
-      [&] { return ferrowind::bench::WorkOfOperators(engines, uri, kCalls); },
-      [&] { return ferrowind::bench::WorkOfLoadGenerator(uri, kCalls); }, 9);
-}
-
-/// Runs this program again beside a server of its own; returns only when that cannot be done.
-void StartAgainWithServer(char** argv) {
-  std::vector<char*> command;
-  std::string script = FERROWIND_WITH_POSTGRES;
-  command.push_back(script.data());
-  std::string program = "/proc/self/exe";
-  std::vector<char> path(4096);
-  const ssize_t size = readlink(program.c_str(), path.data(), path.size() - 1);
-  if (size <= 0) return;
-  path[static_cast<std::size_t>(size)] = '\0';
-  command.push_back(path.data());
-  for (char** argument = argv + 1; *argument != nullptr; ++argument) command.push_back(*argument);
-  command.push_back(nullptr);
-  execv(script.c_str(), command.data());
+      [&] { return ferrowind::bench::WorkOfOperators(engines, Closing(uri), kCalls); }, by_peer, 9);
+  benchmark.CompareTimes(
+      "the same, sessions kept, peer: pgbench -C", 1.0 / 4,
+      [&] { return ferrowind::bench::WorkOfOperators(engines, uri, kCalls); }, by_peer, 9);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (std::getenv(kServerVariable) == nullptr) StartAgainWithServer(argv);
-  return ferrowind::bench::RunBenchmark(argc, argv, [](const Benchmark& benchmark) {
-    const char* const uri = std::getenv(kServerVariable);
-    if (uri == nullptr) throw std::runtime_error("no server of its own could be started");
+  return ferrowind::bench::RunBenchmark(argc, argv, [&](const Benchmark& benchmark) {
+    const std::string uri = ferrowind::bench::OwnServer(argv);
     ferrowind::postgres::CreateDatabaseObjects(uri);
     EngineRegistry engines;
     engines.Register(ferrowind::postgres::Engine::kScheme, std::make_shared<ferrowind::postgres::Engine>());
-    RunWithDatabase(engines, uri, [&] { MeasureOnLoopback(benchmark, uri); });
+    RunWithDatabase(engines, uri, [] {
+      ferrowind::bench::AddWeekendRules();
+      ferrowind::bench::CreateCalendarWithWeekends(kEuro, kYear);
+    });
+    RunWithDatabase(engines, Closing(uri), [&] { MeasureOnLoopback(benchmark, uri); });
+    RunWithDatabase(engines, uri, [&] { MeasureKeptSessions(benchmark, uri); });
     {
-      const ferrowind::bench::DelayingProxy proxy(SettingIn(uri, "port"), std::chrono::milliseconds(1));
-      const std::string distant = std::string(uri) + "?port=" + proxy.Port();
-      RunWithDatabase(engines, distant, [&] { MeasureOverDistance(benchmark, distant); });
+      const ferrowind::bench::DelayingProxy proxy(ferrowind::bench::PortIn(uri),
+                                                  std::chrono::milliseconds(1));
+      const std::string distant = uri + "?port=" + proxy.Port();
+      RunWithDatabase(engines, Closing(distant), [&] { MeasureOverDistance(benchmark, distant); });
     }
     RunWithDatabase(engines, uri, [] { ferrowind::bench::CreateCalendarsOfOperators(); });
     MeasureOperators(benchmark, engines, uri);

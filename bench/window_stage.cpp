@@ -60,9 +60,15 @@ void PaintWatch::WaitUntilPainted() const {
 void LetWindowsRest() {
   auto* dispatcher = QAbstractEventDispatcher::instance();
   const Watch watch;
-  while (dispatcher->processEvents(QEventLoop::AllEvents)) {
-    if (watch.Milliseconds() > kPatience) throw std::runtime_error("the windows never rest");
-  }
+  const auto wait = [&] {
+    while (dispatcher->processEvents(QEventLoop::AllEvents)) {
+      if (watch.Milliseconds() > kPatience) throw std::runtime_error("the windows never rest");
+    }
+  };
+  wait();
+  // The event loop of a program deletes closed windows, and none runs here.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  wait();
 }
 
 bool PaintWatch::eventFilter(QObject* watched, QEvent* event) {
@@ -94,26 +100,43 @@ WindowStage::WindowStage(const std::string& fill, Additions additions) {
   surroundings_.UseDatabase("sqlite:" + DatabasePath());
 }
 
+WindowStage::WindowStage(const Elsewhere& database) {
+  platform_.additions = nullptr;
+  surroundings_.UseDatabase(database.connection_string);
+}
+
 WindowStage::~WindowStage() {
   control_.reset();
   // A closed window is deleted by the event loop, and needs its surroundings until then.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void WindowStage::OpenCalendars(const std::string& currency) {
+void WindowStage::PlaceControl() {
   // The stage before this one has left its objects in the thread's state.
   Module() = ModuleState();
   control_ = std::make_unique<Calendar>(Platform());
+}
+
+void WindowStage::ShowCalendar(const std::string& currency) {
   control_->Show();
   QTreeView& tree = Tree();
   tree.setFocus();
-  PressKey(tree, Qt::Key_Home);
-  for (int row = 0; row < tree.model()->rowCount(); ++row) {
-    if (tree.currentIndex().data().toString().toStdString() == currency) break;
-    PressKey(tree, Qt::Key_Down);
-  }
+  const QAbstractItemModel& currencies = *tree.model();
+  int row = 0;
+  while (row < currencies.rowCount() && currencies.index(row, 0).data().toString().toStdString() != currency)
+    ++row;
+  tree.setCurrentIndex(currencies.index(row, 0));
   PressKey(tree, Qt::Key_Right);
   PressKey(tree, Qt::Key_Down);
+}
+
+void WindowStage::CloseCalendars() {
+  if (!control_->ForceClosing()) throw std::logic_error("the Calendars window stays open");
+}
+
+void WindowStage::OpenCalendars(const std::string& currency) {
+  PlaceControl();
+  ShowCalendar(currency);
   QCoreApplication::processEvents();
   GridIn(Calendars()).SetCurrentRow(0);
   if (GridIn(Calendars()).Model()->rowCount() == 0) throw std::runtime_error("no days of " + currency);

@@ -41,8 +41,8 @@ class PaintWatch : public QObject {
   bool is_painted_ = false;
 };
 
-/// Lets events run until none is left: what one side of a comparison leaves over must not fall into the other
-/// one's time. An error after ten seconds.
+/// Lets events run until none is left, and closed windows are gone: what one side of a comparison leaves over
+/// must not fall into the other one's time. An error after ten seconds.
 void LetWindowsRest();
 
 /// The component's windows as the desktop program puts them together, over a database in a temporary folder.
@@ -53,13 +53,23 @@ class WindowStage {
 
   /// `fill` is SQL that is run on the database, which has no delivered rules.
   explicit WindowStage(const std::string& fill, Additions additions = Additions::kNone);
+  /// Over the database of a connection string instead, without additions.
+  struct Elsewhere {
+    std::string connection_string;
+  };
+  explicit WindowStage(const Elsewhere& database);
   ~WindowStage();
 
   [[nodiscard]] std::string DatabasePath() const { return folder_.filePath("calendars.db").toStdString(); }
   [[nodiscard]] const platform::Platform& Platform() const { return platform_; }
 
-  /// Opens the Calendars window and selects the first calendar of the currency. Called once; a stage on which
-  /// it was called before must be gone.
+  /// Makes the control, as a host does that starts. Called once; a stage on which it was called before must
+  /// be gone.
+  void PlaceControl();
+  /// Opens the placed control's Calendars window and selects the first calendar of the currency.
+  void ShowCalendar(const std::string& currency);
+  void CloseCalendars();
+  /// `PlaceControl` and `ShowCalendar`, and waits until the days are on show.
   void OpenCalendars(const std::string& currency);
   [[nodiscard]] QWidget& Calendars() const;
   [[nodiscard]] QTreeView& Tree() const;

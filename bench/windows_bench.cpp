@@ -9,6 +9,7 @@
 #include <QSqlQueryModel>
 #include <QSqlTableModel>
 #include <QTableView>
+#include <filesystem>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -72,12 +73,15 @@ constexpr const char* kRuleQuery =
 constexpr int kDelColumn = 8;
 constexpr int kTypeColumn = 9;
 
-/// A database that Qt has open.
+/// A copy of the stage's database with the view, which ours would refuse as foreign. Qt has it open.
 class QtDatabase {
  public:
   explicit QtDatabase(const WindowStage& stage) {
+    const std::string path = stage.DatabasePath() + ".peer";
+    std::filesystem::copy_file(stage.DatabasePath(), path);
+    ferrowind::sqlite::DatabaseHandle(path).Execute(kDayView);
     auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), kName);
-    database.setDatabaseName(QString::fromStdString(stage.DatabasePath()));
+    database.setDatabaseName(QString::fromStdString(path));
     if (!database.open()) throw std::runtime_error(database.lastError().text().toStdString());
   }
   QtDatabase(const QtDatabase&) = delete;
@@ -103,7 +107,7 @@ void RequireRows(int rows, int wanted) {
 
 void MeasureSelection(const Benchmark& benchmark, const std::string& name, double limit,
                       WindowStage::Additions additions) {
-  WindowStage stage(std::string(kDollarCalendars) + kDayView + Rules(2, 18, false) +
+  WindowStage stage(std::string(kDollarCalendars) + Rules(2, 18, false) +
                         "UPDATE CldDay SET TID1 = 2, ID2 = 2 WHERE strftime('%w', ODate) IN ('0', '6')",
                     additions);
   stage.OpenCalendars("USD");
@@ -162,9 +166,11 @@ void Run(sqlite3* database, const char* sql) {
 /// What a call adds to the history.
 constexpr const char* kHistoryEntry =
     "INSERT INTO CldHistory (Moment, UserName, ProcedureName, ID1, Year1, Parameters, ReturnValue, "
-    "RowsChanged)"
-    " VALUES ('2028-01-02T03:04:05.678Z', 'clerk', 'CldIUMain', 840, 2028,"
-    " '{\"ID1\": 840, \"Year1\": 2028, \"TID1\": 3, \"ID2\": 5, \"Day1\": 20}', 0, 1)";
+    "RowsChanged, ChainPosition, Previous, Hash)"
+    " SELECT '2028-01-02T03:04:05.678Z', 'clerk', 'CldIUMain', 840, 2028,"
+    " '{\"ID1\": 840, \"Year1\": 2028, \"TID1\": 3, \"ID2\": 5, \"Day1\": 20}', 0, 1,"
+    " ifnull(max(ChainPosition), 0) + 1, '', '' FROM CldHistory"
+    " WHERE ifnull(ID1, 0) = 840 AND ifnull(Year1, 0) = 2028";
 
 /// What one call does: opens the file, assigns the rule and notes that in a transaction of its own, closes
 /// the file.

@@ -26,7 +26,7 @@ std::optional<DateExpression> TryParse(std::string_view text) {
     return DateExpression::Parse(text);
   } catch (const ExpressionError& error) {
     Expect(error.Place() >= 1 && error.Place() <= text.size() + 1, "a refusal names a place in the text");
-    Expect(!error.Expectation().empty(), "a refusal says what is expected");
+    Expect(!error.Expectation().IsEmpty(), "a refusal says what is expected");
     Expect(ferrowind::platform::IsWellFormedUtf8(error.Description()), "a refusal is UTF-8");
     return std::nullopt;
   }

@@ -5,7 +5,7 @@ import pathlib
 import re
 import sys
 
-FOLDERS = ("ferrowind/adapters", "ferrowind/almanac", "ferrowind/control", "ferrowind/data", "ferrowind/planning", "ferrowind/platform",
+FOLDERS = ("ferrowind/adapters", "ferrowind/almanac", "ferrowind/business_days", "ferrowind/control", "ferrowind/data", "ferrowind/exchange", "ferrowind/loading", "ferrowind/planning", "ferrowind/platform",
            "host")
 # Sources whose every text of several words is told to people, and so is in the guide.
 COMPLETE = ("ferrowind/adapters/content/content_copy.cpp", "ferrowind/adapters/content/schema_upgrade.cpp",
@@ -13,7 +13,7 @@ COMPLETE = ("ferrowind/adapters/content/content_copy.cpp", "ferrowind/adapters/c
             "ferrowind/adapters/sqlite/sqlite_failure.cpp", "ferrowind/data/error_table.cpp",
             "host/admin/history_arguments.cpp", "host/admin/interruption.cpp")
 # Questions to a database whose answers are told to people, and the beginnings of those answers, each of which is in the guide.
-QUESTIONS = "database/postgres/check"
+QUESTIONS = ("database/postgres/check", "database/postgres/administration")
 FOREIGN = "| in the bracket |"  # The header of the table of texts that come from a library.
 _LITERAL = re.compile(r'"(?:[^"\\\n]|\\.)*"')
 _JOINED = re.compile(r'"\s*\n\s*"')
@@ -91,7 +91,7 @@ def main(root):
     sources = {path.relative_to(root).as_posix(): path.read_text(encoding="utf-8")
                for folder in FOLDERS for path in sorted((root / folder).rglob("*.[ch]*")) if path.suffix in (".cpp", ".h")}
     questions = {path.relative_to(root).as_posix(): path.read_text(encoding="utf-8")
-                 for path in sorted((root / QUESTIONS).glob("*.sql"))}
+                 for folder in QUESTIONS for path in sorted((root / folder).glob("*.sql"))}
     corpus = "\n".join([text for source in sources.values() for text in literals(source)]
                        + [_PLACE.sub("…", text) for question in questions.values() for text in sql_literals(question)])
     problems = [f"docs/admin/failures.md: no program says \"{text}\"" for text in unknown_texts(guide, corpus)]

@@ -32,6 +32,8 @@ def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[s
     compiler = ""
     flags: dict[str, list[str]] = {}
     for command in commands:
+        if pathlib.Path(command["file"]).suffix != ".cpp":
+            continue  # A program in C has a compiler of its own.
         words = shlex.split(command["command"])
         if pathlib.Path(words[0]).name == "ccache":
             words = words[1:]

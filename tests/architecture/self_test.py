@@ -4,6 +4,7 @@
 import json
 import pathlib
 import shutil
+import sys
 import tempfile
 import unittest
 
@@ -14,7 +15,13 @@ import failure_texts
 import format as format_check
 import headers_alone
 import include_graph
+import installed_package
 import shell_programs
+import workflow
+
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+import said_texts  # noqa: E402
+import translations  # noqa: E402
 
 
 class TemporaryTree(unittest.TestCase):
@@ -48,6 +55,12 @@ class IncludeGraph(TemporaryTree):
             self.assertIn(word, errors[0])
 
     def test_accepts_a_tree_that_follows_its_list(self):
+        self.assertEqual(self.errors(), [])
+
+    def test_accepts_headers_for_everybody_also_one_that_the_build_writes(self):
+        self.write("ferrowind/export.h", "#pragma once\n")
+        self.write("ferrowind/version.h.in", "#pragma once\n")
+        self.write("ferrowind/data/cell.cpp", '#include "ferrowind/export.h"\n#include "ferrowind/version.h"\n')
         self.assertEqual(self.errors(), [])
 
     def test_refuses_an_arrow_that_is_not_listed_and_names_the_place(self):
@@ -261,8 +274,14 @@ endif()
 
     def test_refuses_a_warning_of_an_optimising_build_and_shows_it(self):
         self.write("main.cpp", self.DOUBTFUL + self.MAIN)
-        with self.assertRaisesRegex(RuntimeError, "MinSizeRel does not compile clean(.|\n)*may be used uninitialized"):
-            self.compile_as(build_types.Build("g++", "MinSizeRel"))
+        with self.assertRaisesRegex(RuntimeError, "RelWithDebInfo does not compile clean(.|\n)*may be used uninitialized"):
+            self.compile_as(build_types.Build("g++", "RelWithDebInfo"))
+
+    def test_refuses_a_warning_that_comes_where_nothing_is_asserted(self):
+        self.write("main.cpp", "#include <cassert>\nint main(int count, char**) { int one = count; assert(one == 1); }\n")
+        self.compile_as(build_types.Build("g++", ""))
+        with self.assertRaisesRegex(RuntimeError, "clang.*Release does not compile clean(.|\n)*unused variable"):
+            self.compile_as(build_types.Build("clang++", "Release"))
 
     def test_refuses_a_source_that_lives_on_precompiled_headers(self):
         self.write("main.cpp", "int main() { return std::string().size() == 0 ? 0 : 1; }\n")
@@ -270,9 +289,22 @@ endif()
         with self.assertRaisesRegex(RuntimeError, "building g.*Release failed"):
             self.compile_as(build_types.Build("g++", "Release", precompiled=False))
 
-    def test_builds_every_type_with_the_compiler_whose_warnings_hang_on_it(self):
+    def test_builds_the_types_that_are_installed_with_the_compiler_whose_warnings_hang_on_it(self):
         types = {build.build_type for build in build_types.BUILDS if build.compiler == "g++"}
-        self.assertEqual(types, {"", "Release", "RelWithDebInfo", "MinSizeRel"})
+        self.assertEqual(types, {"", "Release", "RelWithDebInfo"})
+
+
+class InstalledPackage(TemporaryTree):
+    def test_names_an_include_that_is_not_installed(self):
+        self.write("include/a/b.h", '#include <string>\n#include "a/c.h"\n#include "a/inside.h"\n')
+        self.write("include/a/c.h", "#pragma once\n")
+        self.assertEqual(installed_package.missing_includes(self.root / "include", ["a/b.h", "a/c.h"]),
+                         ["a/b.h includes a/inside.h"])
+
+    def test_names_an_installed_file_that_names_the_repository(self):
+        self.write("prefix/lib/a.pc", "prefix=/usr\n")
+        file = self.write("prefix/lib/b.pc", "libdir=/home/anna/tree/build\n")
+        self.assertEqual(installed_package.installed_references(self.root / "prefix", pathlib.Path("/home/anna/tree")), [str(file)])
 
 
 class FailureTexts(unittest.TestCase):
@@ -336,6 +368,9 @@ class ShellPrograms(unittest.TestCase):
 
     def test_passes_over_comments_quotes_and_documents(self):
         self.assert_named("# rm\ncat <<'END' >file  # mv\nrm a\nEND\nprintf 'cp; mv' \"ln; tr\"\ntouch a", "cat", "touch")
+
+    def test_comes_to_an_end_where_a_quote_has_none(self):
+        self.assert_named("ls; a man's cache", "ls", "a")
 
     def test_passes_over_patterns_and_functions(self):
         self.assert_named('case $1 in\n  start | stop) mkdir a ;;\n  *)\n    rmdir a\nesac\ncp b', "mkdir", "rmdir", "cp")
@@ -451,6 +486,131 @@ class BroughtPrograms(TemporaryTree):
     def test_refuses_a_program_of_a_guide_that_the_tests_do_not_bring(self):
         self.write("docs/a.md", "```sh\n# as root\napt-get install openbox\n```\n\n```sh\nopenbox\n```\n")
         self.assert_refused("docs/a.md", "openbox", "./test")
+
+
+class Workflow(TemporaryTree):
+    def setUp(self):
+        super().setUp()
+        self.write("tools/build.sh", "").chmod(0o755)
+        self.step = {"run": "cd build && tools/build.sh x | tee tools.txt"}
+        self.workflow = {True: "push", "jobs": {"build": {"runs-on": "debian", "steps": [{"uses": "it"}, self.step]}}}
+
+    def check(self):
+        return workflow.check_workflow(self.root, "a.yml", self.workflow)
+
+    def test_accepts_one_whose_scripts_are_here(self):
+        self.assertEqual(self.check(), (1, []))
+
+    def test_refuses_a_script_that_is_not_here(self):
+        self.step["run"] = "apt-get update\n./test"
+        self.assertEqual(self.check(), (1, ["a.yml: the job build runs ./test, which is no program here"]))
+
+    def test_refuses_a_script_that_is_no_program(self):
+        (self.root / "tools/build.sh").chmod(0o644)
+        self.assertEqual(self.check(), (1, ["a.yml: the job build runs tools/build.sh, which is no program here"]))
+
+    def test_refuses_one_that_nothing_starts(self):
+        del self.workflow[True]
+        self.assertEqual(self.check(), (1, ["a.yml: nothing starts it"]))
+
+    def test_refuses_a_job_without_steps(self):
+        self.workflow["jobs"]["build"]["steps"] = []
+        self.assertEqual(self.check(), (0, ["a.yml: the job build lacks a machine or steps"]))
+
+    def test_refuses_one_without_jobs(self):
+        self.assertEqual(workflow.check_workflow(self.root, "a.yml", ["text"]), (0, ["a.yml: there are no jobs"]))
+
+
+class Translations(TemporaryTree):
+    def setUp(self):
+        super().setUp()
+        self.write("ferrowind/views/planning/window.cpp", """
+            const auto design = Design{.caption = "History", .controls = {{ControlKind::kLabel, "lblDay", "Day"}}};
+            //: said
+            constexpr std::array<const char*, 2> kDays = {"Sunday", "Monday"};
+            constexpr const char* kTool = "ID_Tool";
+            //: said 2
+            const Column kColumns[] = {{"Name1", "name", AsItStands}};
+            void Tell() {
+              //: says 2 3
+              const auto add = [&](int count, const char* one, const char* many) { parts.push_back(Said(one)); };
+              add(2, "%n day", "%n days");
+              Show(Said(platform_, is_open ? "Open on %1" : "Closed on %1", {"EUR"}), "Window History");
+              Show(SaidOfNumber(platform_, count, "It changes.", "They change."));
+            }
+            """)
+        self.write("ferrowind/adapters/qt/forms/fmDays.ui", """<ui><class>fmDays</class><widget>
+            <property name="accessibleName"><string>Days</string></property>
+            <property name="text"><string>Of the design</string></property></widget></ui>""")
+        self.texts = said_texts.texts_of_tree(self.root)
+        self.forms = {text: ["%n Tag", "%n Tage"] if text.text == "%n days" else ["Es", "Sie"] if text.counts
+                      else ["Am %1" if "%1" in text.text else "Wort"] for text in self.texts}
+        self.path = self.root / "translations" / "ferrowind_de.ts"
+
+    def faults(self):
+        german = translations.Translations("de", self.path)
+        german.forms = self.forms
+        german.write()
+        return translations.Translations("de", self.path).faults(self.texts)
+
+    def assert_refused(self, *words):
+        faults = self.faults()
+        self.assertEqual(len(faults), 1, faults)
+        for word in words:
+            self.assertIn(word, faults[0])
+
+    def form(self, text, *forms):
+        self.forms[next(said for said in self.texts if said.text == text)] = list(forms)
+
+    def test_find_the_texts_that_are_said_and_nothing_else(self):
+        self.assertEqual({(text.context, text.text, text.counts) for text in self.texts}, {
+            ("ferrowind", "History", False), ("ferrowind", "Day", False), ("ferrowind", "Sunday", False),
+            ("ferrowind", "Monday", False), ("ferrowind", "name", False), ("ferrowind", "%n days", True),
+            ("ferrowind", "Open on %1", False), ("ferrowind", "Closed on %1", False),
+            ("ferrowind", "They change.", True), ("fmDays", "Days", False)})
+
+    def test_accept_a_language_that_has_every_text(self):
+        self.assertEqual(self.faults(), [])
+
+    def test_refuse_a_text_that_is_missing_and_one_that_is_left_over(self):
+        text = next(said for said in self.texts if said.text == "Monday")
+        del self.forms[text]
+        self.assert_refused("Monday", "missing")
+        self.forms[text] = ["Montag"]
+        self.forms[said_texts.SaidText("ferrowind", "Gone")] = ["Weg"]
+        self.assert_refused("Gone", "any more")
+
+    def test_refuse_what_is_unfinished_or_empty(self):
+        self.form("Monday")
+        self.assert_refused("Monday", "unfinished")
+        self.form("Monday", " ")
+        self.assertIn('"Monday": a translation is empty', self.faults())
+
+    def test_refuse_another_place_but_need_no_number_in_the_form_for_one(self):
+        self.form("Open on %1", "Am %2")
+        self.assert_refused("Open on %1", "places")
+        self.form("Open on %1", "Am %1")
+        self.form("%n days", "ein Tag", "%n Tage")
+        self.assertEqual(self.faults(), [])
+        self.form("%n days", "ein Tag", "viele Tage")
+        self.assert_refused("%n days", "places")
+
+    def test_refuse_other_numbers_of_forms(self):
+        self.form("%n days", "%n Tage")
+        self.assert_refused("%n days", "1 forms")
+
+    def test_refuse_access_keys_that_collide(self):
+        self.texts |= {said_texts.SaidText("ferrowind", text) for text in ("&Open calendars", "&Close calendars")}
+        self.form("&Open calendars", "Kalender &zeigen")
+        self.form("&Close calendars", "Kalender &Zumachen")
+        self.assert_refused('"z"', "Kalender &zeigen")
+        self.form("&Close calendars", "Kalender zumachen")
+        self.assert_refused("access key")
+
+    def test_refuse_a_mark_that_nothing_follows(self):
+        self.write("ferrowind/data/said.cpp", "int a; //: said\n")
+        with self.assertRaises(ValueError):
+            said_texts.texts_of_tree(self.root)
 
 
 if __name__ == "__main__":

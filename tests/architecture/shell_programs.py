@@ -75,9 +75,10 @@ class _Reader:
                 found += self.text[self.at + 1:self.at + 2].replace("\n", "")
                 self.at += 2
             elif character == "'":
-                end = self.text.find("'", self.at + 1)
-                found += self.text[self.at + 1:end]
-                self.at = end + 1
+                begin = self.at + 1
+                self.at = begin
+                self.skip_to("'")
+                found += self.text[begin:self.at].removesuffix("'")
             elif character == '"':
                 self.at += 1
                 while self.at < len(self.text) and self.rest() != '"':

@@ -20,7 +20,7 @@ TEST_P(ProceduresContract, ParametersAndFieldsAreThoseOfTheCatalogue) {
                             {"Moment", "9999-12-31T23:59:59Z"},
                             {"FromYear", 2026},
                             {"ToYear", 2026}};
-  ASSERT_EQ(catalogue.at("procedures").size(), 15U);
+  ASSERT_EQ(catalogue.at("procedures").size(), 18U);
   for (const auto& procedure : catalogue.at("procedures")) {
     const std::string name = procedure.at("name");
     const auto parameters =

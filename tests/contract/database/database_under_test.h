@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -43,8 +44,9 @@ class CalendarDatabaseUnderTest : public DatabaseUnderTest {
  public:
   /// Sets the setting `FirstDay`, which no procedure changes.
   virtual void SetFirstDay(int first_day) = 0;
-  /// Sets the last day of a currency, as an upgrade does whatever calendars there are, and no procedure.
-  virtual void SetLastDay(std::int32_t currency, platform::Date last_day) = 0;
+  /// Sets or takes away the last day of a currency, as an upgrade does whatever calendars there are, and no
+  /// procedure. What is not taken away again is a fault to the check, since no call made it.
+  virtual void SetLastDay(std::int32_t currency, std::optional<platform::Date> last_day) = 0;
   /// Whether the database finds itself sound, as after every call it must; true where an engine has no such
   /// check.
   [[nodiscard]] virtual bool IsSound() = 0;

@@ -19,6 +19,9 @@ namespace ferrowind::contract {
   return text.str();
 }
 
+/// From this version on the script has the content below in it, by calls: the history is chained to it.
+inline constexpr int kVersionWithContent = 5;
+
 /// SQL for either engine that puts the calendar of the euro for 2026 and the rule 2, Sunday, into it.
 inline constexpr const char* kOldContent =
     "INSERT INTO CldHoliday (ID2, Name1, TID1, WD) VALUES (2, 'Sunday', 2, 1);"

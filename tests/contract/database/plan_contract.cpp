@@ -344,16 +344,13 @@ TEST_P(ProceduresContract, DaysOfAnotherShapeAreRefusedAndChangeNothing) {
 
 TEST_P(ProceduresContract, DaysHaveAMegabyteAtMost) {
   constexpr std::size_t kMost = 1048576;
-  const std::string start = R"([{"TID1": 1, "DayComment": ")";
-  const std::string end = R"(", "Dates": ["2028-01-01"]}])";
-  const std::string most = start + std::string(kMost - start.size() - end.size(), 'x') + end;
+  const std::string start = R"([{"TID1": 1, "DayComment": "né", "Dates": ["2028-01-01"]})";
+  // Bytes, not letters.
+  const std::string most = start + std::string(kMost - start.size() - 1, ' ') + "]";
   EXPECT_EQ(Apply(kEuro, 2028, most + " "), 7);
   EXPECT_EQ(Fingerprint(kEuro, 2028), "");
   EXPECT_EQ(Apply(kEuro, 2028, most), 0);
-  EXPECT_EQ(DayOn(Date(2028, 1, 1))[kComment], Value(std::string(kMost - start.size() - end.size(), 'x')));
-  // Bytes, not letters.
-  const std::string wide = start + std::string(kMost - start.size() - end.size() - 1, 'x') + "é" + end;
-  EXPECT_EQ(Apply(kEuro, 2029, wide), 7);
+  EXPECT_EQ(DayOn(Date(2028, 1, 1))[kComment], Value("né"));
   EXPECT_EQ(Apply(kEuro, 2029, std::string(kMost, '[')), 7);
 }
 
@@ -382,6 +379,7 @@ TEST_P(ProceduresContract, APlanOfAYearAfterTheLastDayIsForACalendarThatIsThereA
   EXPECT_EQ(Apply(kEuro, 2028, kDays), 0);
   EXPECT_EQ(DayOn(Date(2028, 1, 3)).at(2), Value("A"));
   EXPECT_EQ(Apply(kEuro, 2029, "[]"), 3);
+  database().SetLastDay(kEuro, {});
 }
 
 }  // namespace

@@ -51,6 +51,7 @@ std::vector<Row> ProceduresContract::Content() {
   }
   add("CldGetBook");
   add("CldGetCurrencies");
+  add("CldGetConventions");
   return content;
 }
 

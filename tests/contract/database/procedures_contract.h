@@ -59,7 +59,7 @@ class ProceduresContract : public ::testing::TestWithParam<DatabaseKind<Calendar
   std::int32_t LastEntry();
   /// The newest entry's moment.
   std::string LastMoment();
-  /// All that the procedures show of the content: calendars, days, rules, books and currencies.
+  /// All that the procedures show of the content: calendars, days, rules, books, currencies and conventions.
   std::vector<Row> Content();
 
   /// Adds a rule, which must be possible, and returns its number.

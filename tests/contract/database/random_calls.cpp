@@ -13,7 +13,7 @@ using platform::Date;
 using platform::Value;
 
 void RandomCalls::Make() {
-  switch (UpTo(11)) {
+  switch (UpTo(12)) {
     case 0:
       Call("CldIUMain", {{"ID1", Currency()}, {"Year1", Year()}});
       break;
@@ -36,6 +36,9 @@ void RandomCalls::Make() {
       break;
     case 8:
       ChangeCurrency();
+      break;
+    case 9:
+      ChangeConvention();
       break;
     default:
       AssignDays();
@@ -126,6 +129,15 @@ void RandomCalls::ChangeCurrency() {
                          {"CcyType", 0},
                          {"Name", "currency " + std::to_string(UpTo(9))},
                          {"LastDay", UpTo(1) == 0 ? Value() : Value(Date(2029, 1, 1).AddDays(UpTo(999)))}});
+}
+
+void RandomCalls::ChangeConvention() {
+  const Value value = UpTo(2) == 0 ? Value() : Value(UpTo(1));
+  if (UpTo(1) == 0) {
+    Call("CldIUConvention", {{"CcyID", kEuro}, {"OtherID", kDollar}, {"SpotDays", value}});
+  } else {
+    Call("CldIUConvention", {{"CcyID", Currency()}, {"DollarStops", value}});
+  }
 }
 
 platform::CallOutcome RandomCalls::Call(const std::string& procedure, const Arguments& arguments) {

@@ -35,6 +35,7 @@ class RandomCalls {
   void ApplyPlan();
   void StoreBook();
   void ChangeCurrency();
+  void ChangeConvention();
   platform::CallOutcome Call(const std::string& procedure, const Arguments& arguments);
 
   ProcedureCaller& caller_;

@@ -74,6 +74,31 @@ TEST_F(SqliteChangeWatch, TellsOfChangesInAFileThatWasPutInThePlaceOfTheOld) {
   EXPECT_TRUE(watch_->Look());
 }
 
+TEST_F(SqliteChangeWatch, FollowsALinkToTheFileAndToAnotherOne) {
+  const std::string link = database_.Path() + ".link";
+  std::filesystem::create_symlink(database_.Path(), link);
+  const auto watch = database_.Engine().Watch("sqlite:" + link);
+  const auto long_ago = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+  std::filesystem::last_write_time(database_.Path(), long_ago);
+  EXPECT_TRUE(watch->Look());
+  EXPECT_FALSE(watch->Look());
+  {
+    // Keeps the change in the log beside the file: the file itself stays as it is.
+    sqlite::DatabaseHandle other(database_.Path(), std::chrono::milliseconds(0));
+    other.Execute("SELECT count(*) FROM CldCalendar");
+    ASSERT_EQ(CreateCalendar(2028), 0);
+    ASSERT_EQ(std::filesystem::last_write_time(database_.Path()), long_ago);
+    EXPECT_TRUE(watch->Look());
+  }
+  EXPECT_FALSE(watch->Look());
+  SqliteDatabase other;
+  std::filesystem::remove(link);
+  EXPECT_THAT(FailureTextOf([&] { static_cast<void>(watch->Look()); }), HasSubstr("there is no such file"));
+  std::filesystem::create_symlink(other.Path(), link);
+  EXPECT_TRUE(watch->Look());
+  EXPECT_FALSE(watch->Look());
+}
+
 TEST_F(SqliteChangeWatch, SaysThatTheFileIsMissingAndTellsWhenItIsBack) {
   const std::string elsewhere = database_.Path() + ".away";
   std::filesystem::rename(database_.Path(), elsewhere);

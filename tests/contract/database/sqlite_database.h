@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "ferrowind/adapters/sqlite/engine.h"
 
@@ -31,19 +32,20 @@ class SqliteDatabase : public DatabaseWithHistoryUnderTest {
   [[nodiscard]] platform::Engine& Engine() override { return engine_; }
   [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
   void SetFirstDay(int first_day) override;
-  void SetLastDay(std::int32_t currency, platform::Date last_day) override;
+  void SetLastDay(std::int32_t currency, std::optional<platform::Date> last_day) override;
   [[nodiscard]] bool IsSound() override;
   [[nodiscard]] std::string UserName() override;
 
   [[nodiscard]] std::string Path() const { return folder_.Path() + "/calendars.db"; }
   /// Runs SQL as a program does that opens the file by itself.
   void Execute(const std::string& sql);
-  /// Adds a procedure from its source.
+  /// Adds a procedure from its source, which makes the database no less sound.
   void AddProcedure(const std::string& source);
 
  private:
   TemporaryFolder folder_;
   sqlite::Engine engine_;
+  std::vector<std::string> added_procedures_;
 };
 
 /// A SQLite database with the probe procedures.

@@ -1,7 +1,9 @@
 // Files that somebody made to do harm: a call ends in time, with a failure that says so.
 
 #include <chrono>
+#include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -10,6 +12,8 @@
 #include "ferrowind/adapters/content/content_copy.h"
 #include "ferrowind/adapters/content/content_table.h"
 #include "ferrowind/adapters/sqlite/database_content.h"
+#include "ferrowind/adapters/sqlite/database_file.h"
+#include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/platform/values/conversion.h"
 
@@ -23,6 +27,7 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 using std::chrono::steady_clock;
 using ::testing::AllOf;
+using ::testing::Contains;
 using ::testing::HasSubstr;
 
 /// A table that never comes to an end, in the place of a delivered one.
@@ -43,15 +48,74 @@ class SqliteHostileFile : public ::testing::Test {
     });
   }
 
+  /// All that a window or a command begins with, but the check, which tells more.
+  void ExpectAllRefuse(const std::string& what) {
+    const std::string url = database_.ConnectionString();
+    const std::string path = database_.Path();
+    const std::function<void()> beginnings[] = {
+        [&] { (void)sqlite::Engine().Connect(url); },
+        [&] { (void)sqlite::Engine().ReadDictionary(url, "Ccy"); },
+        [&] { (void)sqlite::Engine().Watch(url)->Look(); },
+        [&] { (void)sqlite::UpgradeDatabase(path); },
+        [&] { (void)sqlite::ReadSchemaVersion(path); },
+        [&] { sqlite::RequireThisVersion(path); },
+        [&] { (void)sqlite::OpenContent(path); },
+        [&] { (void)sqlite::ReadStatus(path); },
+        [&] { sqlite::FillDatabase(path, [](content::Target&) {}); },
+    };
+    for (const auto& begin : beginnings) {
+      EXPECT_THAT(FailureTextOf(begin), AllOf(HasSubstr(path), HasSubstr("holds the " + what)));
+    }
+  }
+
   SqliteDatabase database_;
 };
 
-TEST_F(SqliteHostileFile, AViewThatNeverEndsEndsWithTheTimeOfTheCall) {
+TEST_F(SqliteHostileFile, NothingOfADatabaseIsUsedThatHoldsAForeignView) {
   database_.Execute(kEndlessDays);
+  ExpectAllRefuse("view CldDay");
+}
+
+TEST_F(SqliteHostileFile, NothingOfADatabaseIsUsedThatHoldsAForeignTrigger) {
+  database_.Execute("CREATE TRIGGER Swallow BEFORE INSERT ON CldHistory BEGIN SELECT RAISE(IGNORE); END");
+  ExpectAllRefuse("trigger Swallow");
+}
+
+TEST_F(SqliteHostileFile, NothingOfADatabaseIsUsedWhoseViewOrTableIsAnother) {
+  database_.Execute("DROP VIEW CalendarDay; CREATE VIEW CalendarDay AS SELECT 1 AS ID1");
+  ExpectAllRefuse("view CalendarDay");
+  SqliteDatabase other;
+  other.Execute("ALTER TABLE CldDay ADD Extra AS (CASE WHEN TID1 = 1 THEN 2 END)");
+  EXPECT_THAT(FailureTextOf([&] { (void)ProcedureCaller(other).Call("CldAllInfo"); }),
+              HasSubstr("table CldDay"));
+}
+
+TEST_F(SqliteHostileFile, AnEndlessViewInThePlaceOfTheProceduresIsNotRead) {
+  database_.Execute(
+      "PRAGMA foreign_keys = OFF; DROP TABLE ProcedureCatalogue; CREATE VIEW ProcedureCatalogue AS"
+      " WITH RECURSIVE Endless (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM Endless)"
+      " SELECT 'x' AS Name, n AS Writes, 'x' AS Body FROM Endless WHERE n < 0");
   const auto start = steady_clock::now();
-  EXPECT_THAT(FailureOfCall(milliseconds(300), "CldGetMain", {978, 2026}),
-              AllOf(HasSubstr(database_.Path()), HasSubstr("it took too long"), HasSubstr("SQLite 9")));
+  ExpectAllRefuse("view ProcedureCatalogue");
+  EXPECT_THAT(sqlite::CheckDatabase(database_.Path()),
+              Contains(HasSubstr("view ProcedureCatalogue does not belong")));
   EXPECT_LT(steady_clock::now() - start, seconds(10));
+}
+
+TEST_F(SqliteHostileFile, AViewThatComesWhileAConnectionIsOpenIsRefusedByTheNextCall) {
+  const auto connection = database_.Engine().Connect(database_.ConnectionString());
+  EXPECT_EQ(connection->Call("CldAllInfo", {}).return_value, 0);
+  database_.Execute(kEndlessDays);
+  EXPECT_THAT(FailureTextOf([&] { (void)connection->Call("CldAllInfo", {}); }), HasSubstr("view CldDay"));
+}
+
+TEST_F(SqliteHostileFile, AnotherVersionsOwnViewsAndTriggersAreNoneOfSomebodyElse) {
+  // As if a program of the version before had made it.
+  database_.Execute("PRAGMA user_version = 3");
+  EXPECT_EQ(ProcedureCaller(database_).Call("CldAllInfo").return_value, 0);
+  database_.Execute("CREATE VIEW Stray AS SELECT 1");
+  EXPECT_THAT(FailureTextOf([&] { (void)sqlite::UpgradeDatabase(database_.Path()); }),
+              HasSubstr("view Stray"));
 }
 
 TEST_F(SqliteHostileFile, ABodyThatNeverEndsEndsWithTheTimeOfTheCallAndChangesNothing) {
@@ -64,16 +128,53 @@ WITH RECURSIVE Endless (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM Endless) SEL
   EXPECT_EQ(platform::ToInt32((*all.record_sets.at(3))["FirstDay"]), 1);
 }
 
+TEST_F(SqliteHostileFile, TheTimeThatAnotherProgramHoldsTheFileIsNotThatOfTheCall) {
+  sqlite::Engine engine(seconds(30), milliseconds(300));
+  const auto connection = engine.Connect(database_.ConnectionString());
+  const std::vector<platform::Value> inputs = {978, 2031, {}, {}, {}, {}, {}};
+  ASSERT_EQ(connection->DescribeProcedure("CldIUMain").size(), inputs.size() + 1);
+  sqlite::DatabaseHandle other(database_.Path());
+  other.Execute("BEGIN IMMEDIATE");
+  std::thread release([&] {
+    std::this_thread::sleep_for(milliseconds(600));
+    other.Execute("ROLLBACK");
+  });
+  EXPECT_EQ(FailureTextOf([&] { (void)connection->Call("CldIUMain", inputs); }), "");
+  release.join();
+}
+
+TEST_F(SqliteHostileFile, ACopyTellsOfItselfAlsoWithinFewLongRows) {
+  ASSERT_EQ(ProcedureCaller(database_).Return("CldIUMain", {{"ID1", 978}, {"Year1", 2031}}), 0);
+  database_.Execute("UPDATE CldDay SET Comment = printf('%.15000000c', 'x') WHERE Day1 <= 6");
+  const auto source = sqlite::OpenContent(database_.Path());
+  SqliteDatabase copy;
+  std::int64_t between = 0;
+  const auto observe = [&](const content::CopyProgress& progress) {
+    if (progress.done % 128 != 0) ++between;
+  };
+  sqlite::FillDatabase(copy.Path(),
+                       [&](content::Target& target) { content::CopyContent(*source, target, observe); });
+  EXPECT_GT(between, 0);
+}
+
 TEST_F(SqliteHostileFile, ACopyStopsInTheMiddleOfAStatementWhenItIsAsked) {
-  database_.Execute(kEndlessDays);
-  const auto stop = steady_clock::now() + milliseconds(300);
-  const auto is_stopped = [&] { return steady_clock::now() > stop; };
+  constexpr int kEntries = 100000;
+  database_.Execute(
+      "WITH RECURSIVE N (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM N WHERE n < " +
+      std::to_string(kEntries) +
+      ") INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters,"
+      " ReturnValue, RowsChanged, ChainPosition, Previous, Hash)"
+      " SELECT '2026-01-01T00:00:00.000Z', 'eve', 'CldIUMain', '{}', 0, n, 1000 + n, '', '' FROM N");
+  const auto source = sqlite::OpenContent(database_.Path(), [] { return true; });
+  int read = 0;
   const std::string failure = FailureTextOf([&] {
-    const auto source = sqlite::OpenContent(database_.Path(), is_stopped);
-    for (const content::Table& table : content::Tables()) (void)source->CountRows(table);
+    for (const content::Table& table : content::Tables()) {
+      const auto rows = source->Rows(table, content::RowOrder::kByKey);
+      for (content::Row row; rows->Next(row);) ++read;
+    }
   });
   EXPECT_THAT(failure, HasSubstr("was told to stop"));
-  EXPECT_LT(steady_clock::now() - stop, seconds(10));
+  EXPECT_LT(read, kEntries / 2);
 }
 
 }  // namespace

@@ -62,6 +62,7 @@ std::vector<Change> Changes() {
       {"a currency's last day",
        "CldIUCurrency",
        {{"CcyID", kEuro}, {"Ccy", "EUR"}, {"CcyType", 0}, {"Name", "New"}, {"LastDay", Date(2029, 6, 30)}}},
+      {"a convention", "CldIUConvention", {{"CcyID", kEuro}, {"OtherID", kDollar}, {"SpotDays", 1}}},
   };
 }
 
@@ -323,6 +324,24 @@ TEST_P(ProceduresContract, UndoOfANewCurrencyIsRefusedWhenItIsInUse) {
   ASSERT_EQ(Undo(LastEntry()), 0);
   EXPECT_EQ(Undo(added), 0);
   EXPECT_EQ(CreateCalendar(998, 2028), 3);
+}
+
+TEST_P(ProceduresContract, UndoBringsNothingBackOfACurrencyThatIsGone) {
+  ASSERT_EQ(caller().Return("CldIUCurrency", {{"CcyID", 998}, {"Ccy", "ZZZ"}, {"CcyType", 0}, {"Name", "Z"}}),
+            0);
+  const auto added = LastEntry();
+  ASSERT_EQ(CreateCalendar(998, 2028), 0);
+  ASSERT_EQ(Undo(LastEntry()), 0);
+  const auto calendar_removed = LastEntry();
+  ASSERT_EQ(StoreBook(998, "[]"), 0);
+  ASSERT_EQ(Undo(LastEntry()), 0);
+  const auto book_removed = LastEntry();
+  ASSERT_EQ(Undo(added), 0);
+  EXPECT_EQ(Undo(book_removed), 9);
+  EXPECT_EQ(Undo(calendar_removed), 9);
+  EXPECT_EQ(Undo(LastEntry()), 0) << "the currency comes back";
+  EXPECT_EQ(Undo(book_removed), 0);
+  EXPECT_EQ(Undo(calendar_removed), 0);
 }
 
 TEST_P(ProceduresContract, UndoOfWhatIsNoEntryIsRefused) {

@@ -24,9 +24,9 @@ class MemoryCalendars : public CalendarDatabaseUnderTest {
   [[nodiscard]] platform::Engine& Engine() override { return engine_; }
   [[nodiscard]] std::string ConnectionString() override { return "memory:contract"; }
   void SetFirstDay(int first_day) override { database_.Tables().first_day = first_day; }
-  void SetLastDay(std::int32_t currency, platform::Date last_day) override {
+  void SetLastDay(std::int32_t currency, std::optional<platform::Date> last_day) override {
     for (headless::MemoryCurrency& known : database_.Tables().currencies) {
-      if (known.id == currency) known.last_day = last_day;
+      if (known.id == currency) known.last_day = last_day ? platform::Value(*last_day) : platform::Value();
     }
   }
   [[nodiscard]] bool IsSound() override { return true; }

@@ -278,7 +278,8 @@ TEST_P(PlanningContract, TheReadinessOfAllCurrenciesIsReadOverOneConnection) {
   PlannedDatabase database(GetParam());
   ASSERT_EQ(database.ApplyPlans(2026, 2027), 10);
   std::optional<planning::ReadinessReport> report;
-  const auto read = [&] { report = planning::ReadReadiness(host::DeliveredDateTables(), kToday); };
+  planning::ReadinessReader reader(host::DeliveredDateTables());
+  const auto read = [&] { report = reader.Read(kToday); };
   EXPECT_EQ(database.ConnectionsOf(read), 1);
   ASSERT_THAT(report->currencies, SizeIs(5));
   for (const planning::CurrencyReadiness& currency : report->currencies) {
@@ -286,6 +287,48 @@ TEST_P(PlanningContract, TheReadinessOfAllCurrenciesIsReadOverOneConnection) {
     EXPECT_EQ(currency.years[3].readiness, almanac::Readiness::kNotPrepared) << currency.currency.code;
   }
   EXPECT_EQ(database.ConnectionsOf(read), 1) << "nothing stays open in between";
+}
+
+TEST_P(PlanningContract, AReportThatIsMadeAgainTellsOfEachCallMeanwhile) {
+  PlannedDatabase database(GetParam());
+  ASSERT_EQ(database.ApplyPlans(2026, 2028), 15);
+  planning::ReadinessReader reader(host::DeliveredDateTables());
+  std::optional<planning::ReadinessReport> report;
+  const auto euro_2027 = [&] {
+    database.Run([&] { report = reader.Read(kToday); });
+    const auto euro = std::find_if(report->currencies.begin(), report->currencies.end(),
+                                   [](const auto& currency) { return currency.currency.code == "EUR"; });
+    return euro->years.at(2);
+  };
+  EXPECT_EQ(euro_2027().readiness, almanac::Readiness::kPrepared);
+
+  database.Run([] {
+    (void)CallDatabase("Excepting a day", "CldIUMain",
+                       Parameters({{"ID1", 978},
+                                   {"Year1", 2027},
+                                   {"TID1", 1},
+                                   {"ID2", 1},
+                                   {"Day1", 1},
+                                   {"ODate", Date(2027, 1, 1)},
+                                   {"Comment", "Year end"}}));
+  });
+  EXPECT_EQ(euro_2027().excepted_days, 1);
+  const auto undo = [&] {
+    const std::int32_t entry = database.NewestEntries(1).front();
+    database.Run([&] { (void)CallDatabase("Undoing", "CldUndo", Parameters({{"EntryID", entry}})); });
+  };
+  undo();
+  EXPECT_EQ(euro_2027().excepted_days, 0);
+
+  database.Run([] {
+    const auto book = planning::LoadBook(978, "EUR", host::DeliveredDateTables());
+    planning::StoreBook(978, "EUR", book->fingerprint, DeliveredBook("USD"));
+  });
+  EXPECT_EQ(euro_2027().readiness, almanac::Readiness::kDiffers);
+  EXPECT_FALSE(report->review.findings.empty());
+  undo();
+  EXPECT_EQ(euro_2027().readiness, almanac::Readiness::kPrepared);
+  EXPECT_THAT(report->review.findings, IsEmpty());
 }
 
 TEST_P(PlanningContract, APlanIsRefusedWhenTheCalendarHasChangedSinceItWasCompared) {

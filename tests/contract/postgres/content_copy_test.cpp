@@ -3,6 +3,8 @@
 #include "ferrowind/adapters/content/content_copy.h"
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -13,15 +15,22 @@
 
 #include "ferrowind/adapters/content/content_comparison.h"
 #include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/adapters/content/doubtful_outcome.h"
+#include "ferrowind/adapters/postgres/database_content.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/admin/database_content.h"
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/postgres/copy_end.h"
+#include "tests/contract/postgres/cutting_proxy.h"
+#include "tests/contract/postgres/postgres_server.h"
 
 namespace ferrowind::contract {
 namespace {
+
+/// No more rows are copied or compared between two calls of an observer.
+constexpr std::int64_t kRowsBetweenQuestions = 128;
 
 using platform::Date;
 using platform::Value;
@@ -39,8 +48,9 @@ platform::EngineRegistry Engines() {
 }
 
 constexpr const char* kAddHistoryEntry =
-    "INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
-    " VALUES ('2028-01-02T03:04:05.678Z', 'me', 'CldIUMain', '{}', 0, 0)";
+    "INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters, ReturnValue, RowsChanged,"
+    " ChainPosition, Previous, Hash) VALUES ('2028-01-02T03:04:05.678Z', 'me', 'CldIUMain', '{}', 0, 0, 1, "
+    "'', '')";
 
 void CopyTo(content::Source& source, CopyEnd& to, const content::CopyObserver& observe = {}) {
   host::FillDatabase(Engines(), to.ConnectionString(),
@@ -96,7 +106,7 @@ std::vector<std::vector<Row>> HistoryToldOf(CopyEnd& database) {
 }
 
 /// How many entries the history of the tricky content has; the last one undoes the plan of the dollar.
-constexpr int kEntries = 29;
+constexpr int kEntries = 30;
 
 Arguments PlanOfTheDollar() {
   return {
@@ -117,7 +127,7 @@ void FillWithTrickyContent(CopyEnd& database) {
                                           "tab\there",
                                           "line\nbreak\r\n",
                                           "back\\slash \\x41",
-                                          std::string(10000, 'x') + "ü"};
+                                          std::string(199, 'x') + "ü"};
   for (const std::string& name : names) {
     ASSERT_EQ(caller.Return("CldIUCelebrate", {{"Name1", name}, {"TID1", 2}, {"WD", 1}, {"Comment", name}}),
               0)
@@ -155,7 +165,7 @@ void FillWithTrickyContent(CopyEnd& database) {
   };
   assign(1900, 1, 3, 11, {});
   assign(3000, 365, 3, 12, "");
-  assign(2024, 60, 1, 1, "excepted: 祝日\t\\N\n" + std::string(10000, 'y'));
+  assign(2024, 60, 1, 1, "excepted: 祝日\t\\N\n" + std::string(3980, 'y'));
   assign(2024, 366, 1, 1, {});
   ASSERT_EQ(caller.Return("CldIUBook", {{"ID1", 978},
                                         {"Expected", ""},
@@ -166,11 +176,15 @@ void FillWithTrickyContent(CopyEnd& database) {
                                             "MovedName": "a\tb\n祝日"}])"},
                                         {"FromYear", 2015}}),
             0);
+  ASSERT_EQ(caller.Return("CldIUCurrency", {{"CcyID", 900},
+                                            {"Ccy", "AOU"},
+                                            {"CcyType", std::int16_t{1}},
+                                            {"Name", "a unit of the administrator's own: ÄÖÜ"},
+                                            {"LastDay", Date(2025, 12, 31)}}),
+            0);
   ASSERT_EQ(caller.Return("CldApplyPlan", PlanOfTheDollar()), 0);
   ASSERT_EQ(caller.Return("CldUndo", {{"EntryID", kEntries - 1}}), 0);
   database.Execute("UPDATE CldSetting SET FirstDay = 7");
-  database.Execute(
-      "INSERT INTO DicCcy VALUES (9001, 'ÄÖÜ', 1, 'a unit of the administrator''s own', '2025-12-31')");
 }
 
 struct Direction {
@@ -211,6 +225,16 @@ TEST_P(ContentCopy, MakesTheDatabaseAndTakesEverythingAlong) {
   EXPECT_EQ(EverythingToldOf(to_), told);
   EXPECT_EQ(EverythingToldOf(from_), told);
   EXPECT_TRUE(to_.IsSound());
+}
+
+TEST_P(ContentCopy, TakesTextsAlongThatAreOlderThanTheirLimits) {
+  FillWithTrickyContent(from_);
+  from_.Execute("UPDATE CldHoliday SET Name1 = '" + std::string(10000, 'n') + "', Comment = '" +
+                std::string(10000, 'c') + "' WHERE ID2 = 5");
+  from_.Execute("UPDATE CldDay SET Comment = '" + std::string(10000, 'd') +
+                "' WHERE Day1 = 366 AND Comment IS NULL");
+  Copy(from_, to_);
+  EXPECT_EQ(Differences(from_, to_), "");
 }
 
 TEST_P(ContentCopy, GoesIntoADatabaseThatHoldsWhatItWasCreatedWith) {
@@ -291,21 +315,21 @@ TEST_P(ContentCopy, RefusesATargetThatHoldsAnythingAndSaysWhat) {
 
 TEST_P(ContentCopy, ThatIsStoppedLeavesTheTargetAsItWas) {
   FillWithTrickyContent(from_);
-  int observed = 0;
+  // How often the observer is called depends on the time that rows take; how far the copy comes does not.
+  std::int64_t furthest = 0;
   const auto vacant = GetParam().to();
-  Copy(from_, *vacant, [&](const content::CopyProgress&) { ++observed; });
-  ASSERT_GT(observed, 10);
+  Copy(from_, *vacant, [&](const content::CopyProgress& progress) { furthest = progress.done; });
+  ASSERT_GT(furthest, 10);
 
   const auto created = GetParam().to();
   const auto reference = GetParam().to();
   created->Create();
   reference->Create();
-  for (const int last : {1, observed / 2, observed}) {
+  for (const std::int64_t last : {std::int64_t{0}, furthest / 2, furthest - kRowsBetweenQuestions}) {
     const auto stopped_copy_to = [&](CopyEnd& target) {
-      int seen = 0;
       return FailureTextOf([&] {
-        Copy(from_, target, [&](const content::CopyProgress&) {
-          if (++seen == last) throw platform::Failure(4711, "stopped");
+        Copy(from_, target, [&](const content::CopyProgress& progress) {
+          if (progress.done >= last) throw platform::Failure(4711, "stopped");
         });
       });
     };
@@ -330,7 +354,7 @@ TEST_P(ContentCopy, TellsHowFarItIs) {
   EXPECT_EQ(told.front().rows, "currencies");
   EXPECT_EQ(told.back().step, content::CopyProgress::Step::kComparing);
   EXPECT_LE(told.back().done, told.back().total);
-  EXPECT_LT(told.back().total - told.back().done, 128);
+  EXPECT_LT(told.back().total - told.back().done, kRowsBetweenQuestions);
 }
 
 TEST_P(ContentCopy, ThatDiffersIsNotKept) {
@@ -338,8 +362,9 @@ TEST_P(ContentCopy, ThatDiffersIsNotKept) {
   to_.Create();
   const auto reference = GetParam().to();
   reference->Create();
-  to_.SpoilDays();
-  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }), HasSubstr("row 1 of CldDay"));
+  const std::string told = to_.SpoilDays();
+  EXPECT_THAT(FailureTextOf([&] { Copy(from_, to_); }), HasSubstr(told));
+  to_.LeaveDaysAlone();
   EXPECT_EQ(Differences(to_, *reference), "");
 }
 
@@ -438,11 +463,119 @@ TEST_P(OneEnd, TellsItsStatus) {
   EXPECT_THAT(status.calendars_by_year, ElementsAre(Pair(1900, 1), Pair(2024, 2), Pair(3000, 1)));
 
   end->SetSchemaVersion(1);
-  end->Execute("ALTER TABLE CldHistory RENAME TO Gone");
+  end->TakeHistoryAway();
   const auto old = host::ReadStatus(Engines(), end->ConnectionString());
   EXPECT_EQ(old.schema_version, 1);
   EXPECT_EQ(old.history_entries, std::nullopt);
   EXPECT_EQ(old.rules, 13);
+}
+
+/// So many days that a copy makes the keys of their table behind them.
+void FillWithManyDays(CopyEnd& database) {
+  ProcedureCaller caller(database);
+  for (int year = 2024; year < 2032; ++year) {
+    ASSERT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", year}}), 0);
+  }
+}
+
+TEST(FileToServer, ManyRowsLeaveEveryKeyAsItWas) {
+  FileEnd from;
+  ServerEnd vacant;
+  ServerEnd created;
+  from.Create();
+  created.Create();
+  FillWithManyDays(from);
+  for (ServerEnd* to : {&vacant, &created}) {
+    Copy(from, *to);
+    EXPECT_EQ(Differences(from, *to), "");
+    EXPECT_TRUE(to->IsSound());
+  }
+}
+
+TEST(FileToServer, ManyRowsThatAreStoppedLeaveEveryKeyAsItWas) {
+  FileEnd from;
+  ServerEnd to;
+  from.Create();
+  to.Create();
+  FillWithManyDays(from);
+  using Step = content::CopyProgress::Step;
+  for (const Step step : {Step::kCopying, Step::kComparing}) {
+    const auto stop = [&](const content::CopyProgress& progress) {
+      if (progress.step == step && progress.rows == "days") throw platform::Failure(4711, "stopped");
+    };
+    EXPECT_EQ(FailureTextOf([&] { Copy(from, to, stop); }), "stopped");
+    EXPECT_TRUE(to.IsSound());
+  }
+  Copy(from, to);
+}
+
+TEST(FileToServer, ManyRowsThatAKeyForbidsAreRefusedWithIt) {
+  FileEnd from;
+  ServerEnd to;
+  from.Create();
+  FillWithManyDays(from);
+  from.Execute(
+      "PRAGMA foreign_keys = OFF; UPDATE CldDay SET TID1 = 3, ID2 = 77 WHERE Year1 = 2030 AND Day1 = 5");
+  EXPECT_THAT(FailureTextOf([&] { Copy(from, to); }),
+              AllOf(HasSubstr("CldDay: "), HasSubstr("cldday_id2_tid1_fkey"), HasSubstr("(77, 3)")));
+  EXPECT_TRUE(to.IsVacant());
+}
+
+TEST(FileToServer, ALongStatementOfTheServerEndsWhenTheCopyIsStopped) {
+  FileEnd from;
+  ServerEnd to;
+  from.Create();
+  to.Create();
+  to.Execute(
+      "CREATE FUNCTION Wait() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN PERFORM pg_sleep(120); RETURN NULL; "
+      "END';CREATE TRIGGER Wait AFTER DELETE ON CldHoliday FOR EACH STATEMENT EXECUTE FUNCTION Wait()");
+  const auto begin = std::chrono::steady_clock::now();
+  const auto is_stopped = [&] { return std::chrono::steady_clock::now() - begin > std::chrono::seconds(2); };
+  const auto source = host::OpenContent(Engines(), from.ConnectionString());
+  EXPECT_THAT(FailureTextOf([&] {
+                host::FillDatabase(
+                    Engines(), to.ConnectionString(),
+                    [&](content::Target& target) { content::CopyContent(*source, target); }, is_stopped);
+              }),
+              HasSubstr("was told to stop"));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
+  to.Execute("DROP TRIGGER Wait ON CldHoliday; DROP FUNCTION Wait");
+  EXPECT_EQ(Differences(from, to), "");
+}
+
+TEST(FileToServer, ACopyWhoseLastAnswerIsLostSaysThatItsOutcomeIsNotKnown) {
+  FileEnd from;
+  from.Create();
+  const auto source = host::OpenContent(Engines(), from.ConnectionString());
+  const auto copy_through = [&](ServerEnd& to, std::size_t limit) {
+    CuttingProxy proxy(postgres_server::Port(), CuttingProxy::Direction::kToClient, limit);
+    std::string uri = to.ConnectionString();
+    const std::string port = ":" + postgres_server::Port() + "/";
+    uri.replace(uri.find(port), port.size(), ":" + proxy.Port() + "/");
+    const std::string failure = FailureTextOf([&] {
+      try {
+        postgres::FillDatabase(uri + "?sslmode=disable&gssencmode=disable",
+                               [&](content::Target& target) { content::CopyContent(*source, target); });
+      } catch (const content::DoubtfulOutcome& unknown) {
+        throw platform::Failure(unknown.Number(), "UNKNOWN " + unknown.Description());
+      }
+    });
+    return std::pair(failure, proxy.Passed());
+  };
+  // The end of a commit is 12 bytes, and that the server is ready 6 more.
+  constexpr std::size_t kCommitAnswer = 18;
+  ServerEnd uncut;
+  uncut.Create();
+  const auto [no_failure, whole] = copy_through(uncut, CuttingProxy::kNever);
+  ASSERT_EQ(no_failure, "");
+  ServerEnd committed;
+  committed.Create();
+  const std::string lost = copy_through(committed, whole - kCommitAnswer + 1).first;
+  EXPECT_THAT(lost, AllOf(HasSubstr("UNKNOWN It is not known whether"), HasSubstr("was disconnected")));
+  EXPECT_EQ(Differences(uncut, committed), "");
+  ServerEnd undone;
+  undone.Create();
+  EXPECT_THAT(copy_through(undone, whole / 2).first, Not(HasSubstr("UNKNOWN")));
 }
 
 TEST(FileToServer, ATextThatNoServerCanHoldIsNamed) {

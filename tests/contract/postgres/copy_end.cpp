@@ -29,12 +29,17 @@ void FileEnd::Execute(const std::string& sql) {
   sqlite::DatabaseHandle(Path(), std::chrono::milliseconds(200)).Execute(sql.c_str());
 }
 
-void FileEnd::SpoilDays() {
+std::string FileEnd::SpoilDays() {
   Execute(
       "CREATE TRIGGER Spoil AFTER INSERT ON CldDay BEGIN"
       " UPDATE CldDay SET Comment = 'spoilt' WHERE ID1 = NEW.ID1 AND Year1 = NEW.Year1 AND Day1 = NEW.Day1;"
       " END");
+  return "holds the trigger Spoil, which is not this program's";
 }
+
+void FileEnd::LeaveDaysAlone() { Execute("DROP TRIGGER Spoil"); }
+
+void FileEnd::TakeHistoryAway() { Execute("PRAGMA foreign_keys = OFF; DROP TABLE CldHistory"); }
 
 void FileEnd::SetSchemaVersion(int version) { Execute("PRAGMA user_version = " + std::to_string(version)); }
 
@@ -60,12 +65,17 @@ void ServerEnd::Execute(const std::string& sql) {
   postgres_server::Execute(name_, "SET search_path = ferrowind; " + sql);
 }
 
-void ServerEnd::SpoilDays() {
+std::string ServerEnd::SpoilDays() {
   Execute(
       "CREATE FUNCTION Spoil() RETURNS trigger LANGUAGE plpgsql"
       " AS $$ BEGIN NEW.Comment := 'spoilt'; RETURN NEW; END $$;"
       "CREATE TRIGGER Spoil BEFORE INSERT ON CldDay FOR EACH ROW EXECUTE FUNCTION Spoil()");
+  return "row 1 of CldDay";
 }
+
+void ServerEnd::LeaveDaysAlone() { Execute("DROP TRIGGER Spoil ON CldDay"); }
+
+void ServerEnd::TakeHistoryAway() { Execute("ALTER TABLE CldHistory RENAME TO Gone"); }
 
 void ServerEnd::SetSchemaVersion(int version) {
   Execute("UPDATE SchemaVersion SET Version = " + std::to_string(version));

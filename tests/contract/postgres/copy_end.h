@@ -19,8 +19,12 @@ class CopyEnd : public DatabaseUnderTest {
   virtual void Create() = 0;
   /// Runs SQL from outside; the tables' names are known.
   virtual void Execute(const std::string& sql) = 0;
-  /// Makes every row that is inserted into CldDay another one.
-  virtual void SpoilDays() = 0;
+  /// Makes every row that is inserted into CldDay another one. Returns a part of what a copy says of it.
+  [[nodiscard]] virtual std::string SpoilDays() = 0;
+  /// Takes away what `SpoilDays` has put there.
+  virtual void LeaveDaysAlone() = 0;
+  /// Takes the table of the history away, which the first version did not have.
+  virtual void TakeHistoryAway() = 0;
   /// Puts the schema's version to another number.
   virtual void SetSchemaVersion(int version) = 0;
   /// Whether there still is nothing.
@@ -37,7 +41,9 @@ class FileEnd : public CopyEnd {
   [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
   void Create() override;
   void Execute(const std::string& sql) override;
-  void SpoilDays() override;
+  [[nodiscard]] std::string SpoilDays() override;
+  void LeaveDaysAlone() override;
+  void TakeHistoryAway() override;
   void SetSchemaVersion(int version) override;
   [[nodiscard]] bool IsVacant() override;
   [[nodiscard]] std::string OtherConnectionString() override;
@@ -61,7 +67,9 @@ class ServerEnd : public CopyEnd {
   [[nodiscard]] std::string ConnectionString() override;
   void Create() override;
   void Execute(const std::string& sql) override;
-  void SpoilDays() override;
+  [[nodiscard]] std::string SpoilDays() override;
+  void LeaveDaysAlone() override;
+  void TakeHistoryAway() override;
   void SetSchemaVersion(int version) override;
   [[nodiscard]] bool IsVacant() override;
   [[nodiscard]] std::string OtherConnectionString() override;

@@ -1,8 +1,11 @@
-// A watch of a database on a server that stops, cuts connections, refuses them or never answers.
+// Watches of a database on a server that stops, cuts connections, refuses them or never answers.
 
 #include <chrono>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 #include <arpa/inet.h>
 #include <gmock/gmock.h>
@@ -15,6 +18,7 @@
 #include "tests/contract/database/watch_looks.h"
 #include "tests/contract/postgres/postgres_database.h"
 #include "tests/contract/postgres/postgres_server.h"
+#include "tests/contract/postgres/stopped_server.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -57,6 +61,8 @@ class SilentServer {
   ~SilentServer() { close(listener_); }
 
   [[nodiscard]] const std::string& Port() const { return port_; }
+  /// From now on the port refuses everybody.
+  void Refuse() const { shutdown(listener_, SHUT_RDWR); }
 
  private:
   int listener_ = socket(AF_INET, SOCK_STREAM, 0);
@@ -114,6 +120,104 @@ TEST(PostgresChangeWatch, NeverWaitsForAServerThatDoesNotAnswer) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(500));
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
+}
+
+TEST(PostgresChangeWatch, TellsOfAChangeAfterTheServerWasSilent) {
+  PostgresDatabase database;
+  const std::string uri = database.ConnectionString() + "?call_timeout=1";
+  const auto watch = database.Engine().Watch(uri);
+  ASSERT_TRUE(SeesAChange(*watch));
+  {
+    const StoppedServer stopped;
+    EXPECT_THAT(FailureTextOf([&] { static_cast<void>(database.Engine().Connect(uri)); }),
+                HasSubstr("does not answer"));
+    EXPECT_FALSE(SeesAChange(*watch, kAMoment));
+  }
+  EXPECT_TRUE(SeesAChange(*watch)) << "nobody knows whether the connection outlived that";
+  ASSERT_EQ(CreateCalendar(database, 2028), 0);
+  EXPECT_TRUE(SeesAChange(*watch));
+}
+
+/// Of a server with which calls have a second.
+class PostgresSilenceWatch : public ::testing::Test {
+ protected:
+  using Left = std::optional<std::chrono::milliseconds>;
+
+  void Call() {
+    failure_ = FailureTextOf([&] { static_cast<void>(database_.Engine().Connect(uri_)); });
+  }
+  /// No look waits.
+  Left Look() {
+    const auto start = std::chrono::steady_clock::now();
+    const Left left = watch_->Look();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
+    return left;
+  }
+  /// Looks as a window does, until there is nothing to tell any more or the time is over.
+  bool SeesAnAnswerWithin(std::chrono::milliseconds time) {
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (std::chrono::steady_clock::now() < end) {
+      if (!Look()) return true;
+      std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    return false;
+  }
+
+  PostgresDatabase database_;
+  std::string uri_ = database_.ConnectionString() + "?call_timeout=1";
+  std::unique_ptr<platform::SilenceWatch> watch_ = database_.Engine().WatchSilence(uri_);
+  std::string failure_;
+};
+
+TEST_F(PostgresSilenceWatch, TellsNothingWhileCallsAreAnswered) {
+  EXPECT_EQ(Look(), std::nullopt);
+  Call();
+  EXPECT_EQ(failure_, "");
+  EXPECT_EQ(Look(), std::nullopt);
+}
+
+TEST_F(PostgresSilenceWatch, CountsDownAndNoticesTheAnswerWithoutACall) {
+  {
+    const StoppedServer stopped;
+    EXPECT_EQ(Look(), std::nullopt) << "nobody has asked the server anything";
+    Call();
+    EXPECT_THAT(failure_, HasSubstr("does not answer"));
+    const Left first = Look();
+    ASSERT_TRUE(first);
+    EXPECT_LE(*first, std::chrono::seconds(5));
+    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+    const Left second = Look();
+    ASSERT_TRUE(second);
+    EXPECT_LE(*second, *first - std::chrono::seconds(1));
+    EXPECT_FALSE(SeesAnAnswerWithin(std::chrono::milliseconds(4500))) << "beyond the next try";
+    EXPECT_GT(*Look(), std::chrono::seconds(3)) << "which was made";
+  }
+  EXPECT_TRUE(SeesAnAnswerWithin(std::chrono::seconds(3))) << "long before the next try";
+  Call();
+  EXPECT_EQ(failure_, "");
+}
+
+TEST_F(PostgresSilenceWatch, TriesAtOnceWhenItIsAskedTo) {
+  const StoppedServer stopped;
+  Call();
+  watch_->TryNow();
+  EXPECT_GT(*Look(), std::chrono::milliseconds(4900));
+  std::this_thread::sleep_for(std::chrono::milliseconds(600));
+  EXPECT_LT(*Look(), std::chrono::milliseconds(4500));
+  watch_->TryNow();
+  EXPECT_GT(*Look(), std::chrono::milliseconds(4900));
+}
+
+TEST_F(PostgresSilenceWatch, AServerThatRefusesIsNotSilent) {
+  const SilentServer server;
+  uri_ =
+      postgres_server::Uri("anna", "secret", "calendars", server.Port()) + "?sslmode=disable&call_timeout=1";
+  watch_ = database_.Engine().WatchSilence(uri_);
+  Call();
+  ASSERT_TRUE(Look());
+  server.Refuse();
+  watch_->TryNow();
+  EXPECT_TRUE(SeesAnAnswerWithin(std::chrono::seconds(2)));
 }
 
 }  // namespace

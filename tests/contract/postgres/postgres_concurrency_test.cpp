@@ -5,14 +5,17 @@
 #include <functional>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
 
+#include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "tests/contract/database/procedure_caller.h"
 #include "tests/contract/postgres/postgres_database.h"
+#include "tests/contract/postgres/postgres_server.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -131,6 +134,99 @@ TEST(PostgresConcurrency, TwoRulesThatTakeEachOthersNamesDoNotDeadlock) {
       failures);
   EXPECT_THAT(values, ::testing::Each(2));
   EXPECT_THAT(failures, IsEmpty());
+}
+
+/// A call of the operator in a thread of its own, while another one holds its locks.
+class WaitingCall {
+ public:
+  WaitingCall(PostgresDatabase& database, std::function<int(ProcedureCaller&)> call)
+      : thread_([this, &database, call = std::move(call)] {
+          ProcedureCaller caller(database);
+          return_value_ = call(caller);
+          has_ended_ = true;
+        }) {
+    // Until it waits for a lock, or has gone through without.
+    while (!has_ended_ &&
+           postgres_server::Ask(database.Name(),
+                                "SELECT count(*) FROM pg_stat_activity WHERE wait_event_type = 'Lock' AND "
+                                "datname = current_database()") == "0") {
+      std::this_thread::yield();
+    }
+  }
+  [[nodiscard]] bool HasEnded() const { return has_ended_; }
+  [[nodiscard]] int Return() {
+    thread_.join();
+    return return_value_;
+  }
+
+ private:
+  std::atomic<bool> has_ended_ = false;
+  std::atomic<int> return_value_ = -1;
+  std::thread thread_;
+};
+
+class PostgresRemovedRule : public ::testing::Test {
+ protected:
+  PostgresRemovedRule() : other_(database_.ConnectionString()) {
+    ProcedureCaller caller(database_);
+    EXPECT_EQ(caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", 2026}}), 0);
+    EXPECT_EQ(caller.Return("CldIUCelebrate", {{"Name1", "Sunday"}, {"TID1", 2}, {"WD", 1}}), 0);
+  }
+  [[nodiscard]] std::string DaysWithTheRule() const {
+    return postgres_server::Ask(database_.Name(), "SELECT count(*) FROM ferrowind.CldDay WHERE ID2 = 2");
+  }
+
+  PostgresDatabase database_;
+  /// Another operator's, in whose transaction calls stay unfinished.
+  postgres::ServerConnection other_;
+};
+
+int AssignSunday(ProcedureCaller& caller) {
+  return caller.Return("CldIUMain", {{"ID1", 978}, {"Year1", 2026}, {"TID1", 2}, {"ID2", 2}});
+}
+
+TEST_F(PostgresRemovedRule, IsNotAssignedByACallThatBeganBeforeItsRemovalEnded) {
+  other_.RunScript("BEGIN; CALL ferrowind.CldIUCelebrate(\"ID2\" => 2, \"Del\" => 2::smallint)");
+  WaitingCall assignment(database_, AssignSunday);
+  other_.RunScript("COMMIT");
+  EXPECT_EQ(assignment.Return(), 4);
+  EXPECT_EQ(DaysWithTheRule(), "0");
+}
+
+TEST_F(PostgresRemovedRule, IsAssignedWhenItsRemovalComesToNothing) {
+  other_.RunScript("BEGIN; CALL ferrowind.CldIUCelebrate(\"ID2\" => 2, \"Del\" => 2::smallint)");
+  WaitingCall assignment(database_, AssignSunday);
+  EXPECT_FALSE(assignment.HasEnded());
+  other_.RunScript("ROLLBACK");
+  EXPECT_EQ(assignment.Return(), 0);
+  EXPECT_EQ(DaysWithTheRule(), "52");
+}
+
+TEST_F(PostgresRemovedRule, IsRemovedOnlyWhenItsAssignmentHasEnded) {
+  other_.RunScript("BEGIN; CALL ferrowind.CldIUMain(978, 2026, 2, 2)");
+  WaitingCall removal(database_, [](ProcedureCaller& caller) {
+    return caller.Return("CldIUCelebrate", {{"ID2", 2}, {"Del", 2}});
+  });
+  EXPECT_FALSE(removal.HasEnded());
+  other_.RunScript("COMMIT");
+  EXPECT_EQ(removal.Return(), 0);
+  EXPECT_EQ(DaysWithTheRule(), "52");
+}
+
+TEST_F(PostgresRemovedRule, KeepsNobodyFromExceptingDays) {
+  other_.RunScript("BEGIN; CALL ferrowind.CldIUCelebrate(\"ID2\" => 2, \"Del\" => 2::smallint)");
+  EXPECT_EQ(ProcedureCaller(database_).Return(
+                "CldIUMain", {{"ID1", 978}, {"Year1", 2026}, {"TID1", 1}, {"ID2", 1}, {"Day1", 1}}),
+            0);
+  other_.RunScript("ROLLBACK");
+}
+
+TEST_F(PostgresRemovedRule, IsAssignedByManyAtATime) {
+  EXPECT_EQ(ProcedureCaller(database_).Return("CldIUMain", {{"ID1", 840}, {"Year1", 2026}}), 0);
+  other_.RunScript("BEGIN; CALL ferrowind.CldIUMain(840, 2026, 2, 2)");
+  ProcedureCaller caller(database_);
+  EXPECT_EQ(AssignSunday(caller), 0);
+  other_.RunScript("ROLLBACK");
 }
 
 }  // namespace

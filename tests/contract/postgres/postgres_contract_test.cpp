@@ -8,9 +8,13 @@
 namespace ferrowind::contract {
 namespace {
 
-INSTANTIATE_TEST_SUITE_P(Engines, EngineContract,
-                         ::testing::Values(DatabaseKind<DatabaseUnderTest>{"Postgres", MakePostgresProbes}),
-                         KindName<DatabaseKind<DatabaseUnderTest>>);
+INSTANTIATE_TEST_SUITE_P(
+    Engines, EngineContract,
+    ::testing::Values(DatabaseKind<DatabaseUnderTest>{"Postgres", [] { return MakePostgresProbes(); }},
+                      DatabaseKind<DatabaseUnderTest>{
+                          "PostgresWithoutKeptSessions",
+                          [] { return MakePostgresProbes("?keep_sessions=no"); }}),
+    KindName<DatabaseKind<DatabaseUnderTest>>);
 
 INSTANTIATE_TEST_SUITE_P(Engines, ProceduresContract,
                          ::testing::Values(DatabaseKind<CalendarDatabaseUnderTest>{

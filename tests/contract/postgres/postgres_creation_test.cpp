@@ -1,12 +1,15 @@
 // Making a calendar database on a server.
 
+#include <chrono>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
 
 #include "ferrowind/adapters/postgres/database_objects.h"
+#include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "tests/contract/database/procedure_caller.h"
@@ -137,6 +140,23 @@ TEST(PostgresCreation, ADatabaseThatIsNotEmptyIsRefusedAndStaysAsItIs) {
                   [&] { postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(calendars.Name())); }),
               HasSubstr("has a schema ferrowind already"));
   EXPECT_TRUE(calendars.IsSound());
+}
+
+TEST(PostgresCreation, TheSecondOfTwoAtTheSameTimeIsToldThatTheOtherWasFirst) {
+  const std::string name = postgres_server::CreateEmptyDatabase();
+  const std::string uri = postgres_server::SuperuserUri(name);
+  postgres::ServerConnection first(uri);
+  first.RunScript("BEGIN; CREATE SCHEMA ferrowind");
+  std::string failure;
+  std::thread second([&] { failure = FailureTextOf([&] { postgres::CreateDatabaseObjects(uri); }); });
+  while (postgres_server::Ask(name, "SELECT pid FROM pg_locks WHERE NOT granted").empty()) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  first.RunScript("COMMIT");
+  second.join();
+  EXPECT_THAT(failure,
+              ::testing::HasSubstr("somebody else was making it one at the same time and was first"));
+  postgres_server::DropDatabase(name);
 }
 
 TEST(PostgresCreation, ADatabaseOfAnotherEncodingIsRefused) {

@@ -1,5 +1,7 @@
 #include "tests/contract/postgres/postgres_database.h"
 
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/postgres/database_objects.h"
@@ -8,8 +10,22 @@
 
 namespace ferrowind::contract {
 
-PostgresDatabase::PostgresDatabase() : name_(postgres_server::CreateEmptyDatabase()) {
-  postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(name_));
+namespace {
+
+/// A calendar database that all of a program's are copies of.
+const std::string& Model() {
+  static const std::string name = [] {
+    std::string created = postgres_server::CreateEmptyDatabase();
+    postgres::CreateDatabaseObjects(postgres_server::SuperuserUri(created));
+    return created;
+  }();
+  return name;
+}
+
+}  // namespace
+
+PostgresDatabase::PostgresDatabase(std::string more)
+    : name_(postgres_server::CreateDatabaseLike(Model())), more_(std::move(more)) {
   postgres_server::EnsureOperator();
 }
 
@@ -21,11 +37,12 @@ PostgresDatabase::~PostgresDatabase() {
   }
 }
 
-std::string PostgresDatabase::ConnectionString() { return postgres_server::OperatorUri(name_); }
+std::string PostgresDatabase::ConnectionString() { return postgres_server::OperatorUri(name_) + more_; }
 
 std::string PostgresDatabase::ConnectionStringFor(const std::string& procedure) {
-  // Only administrators change the list of currencies, and so undo such a change.
-  const bool is_administrators = procedure == "CldIUCurrency" || procedure == "CldUndo";
+  // Only administrators change the lists of currencies and conventions, and so undo such a change.
+  const bool is_administrators =
+      procedure == "CldIUCurrency" || procedure == "CldIUConvention" || procedure == "CldUndo";
   return is_administrators ? postgres_server::SuperuserUri(name_) : ConnectionString();
 }
 
@@ -33,9 +50,9 @@ void PostgresDatabase::SetFirstDay(int first_day) {
   Execute("UPDATE ferrowind.CldSetting SET FirstDay = " + std::to_string(first_day));
 }
 
-void PostgresDatabase::SetLastDay(std::int32_t currency, platform::Date last_day) {
-  Execute("UPDATE ferrowind.DicCcy SET LastDay = '" + last_day.ToIso() +
-          "' WHERE CcyID = " + std::to_string(currency));
+void PostgresDatabase::SetLastDay(std::int32_t currency, std::optional<platform::Date> last_day) {
+  Execute("UPDATE ferrowind.DicCcy SET LastDay = " + (last_day ? '\'' + last_day->ToIso() + '\'' : "NULL") +
+          " WHERE CcyID = " + std::to_string(currency));
 }
 
 bool PostgresDatabase::IsSound() {
@@ -48,8 +65,8 @@ std::string PostgresDatabase::UserName() { return postgres_server::kOperator; }
 
 void PostgresDatabase::Execute(const std::string& sql) { postgres_server::Execute(name_, sql); }
 
-std::unique_ptr<DatabaseUnderTest> MakePostgresProbes() {
-  auto database = std::make_unique<PostgresDatabase>();
+std::unique_ptr<DatabaseUnderTest> MakePostgresProbes(const std::string& more) {
+  auto database = std::make_unique<PostgresDatabase>(more);
   database->Execute(R"(
 SET search_path = ferrowind;
 CREATE TABLE Probe (Position integer GENERATED ALWAYS AS IDENTITY, Small smallint, Number integer, Text text, Day date);

@@ -13,7 +13,8 @@ namespace ferrowind::contract {
 /// in as an operator.
 class PostgresDatabase : public DatabaseWithHistoryUnderTest {
  public:
-  PostgresDatabase();
+  /// `more` stands behind the connection string of operators.
+  explicit PostgresDatabase(std::string more = {});
   PostgresDatabase(const PostgresDatabase&) = delete;
   PostgresDatabase& operator=(const PostgresDatabase&) = delete;
   ~PostgresDatabase() override;
@@ -22,7 +23,7 @@ class PostgresDatabase : public DatabaseWithHistoryUnderTest {
   [[nodiscard]] std::string ConnectionString() override;
   [[nodiscard]] std::string ConnectionStringFor(const std::string& procedure) override;
   void SetFirstDay(int first_day) override;
-  void SetLastDay(std::int32_t currency, platform::Date last_day) override;
+  void SetLastDay(std::int32_t currency, std::optional<platform::Date> last_day) override;
   [[nodiscard]] bool IsSound() override;
   [[nodiscard]] std::string UserName() override;
 
@@ -32,10 +33,11 @@ class PostgresDatabase : public DatabaseWithHistoryUnderTest {
 
  private:
   std::string name_;
+  std::string more_;
   postgres::Engine engine_;
 };
 
-/// A database on the server with the probe procedures.
-[[nodiscard]] std::unique_ptr<DatabaseUnderTest> MakePostgresProbes();
+/// A database on the server with the probe procedures; `more` as `PostgresDatabase` has it.
+[[nodiscard]] std::unique_ptr<DatabaseUnderTest> MakePostgresProbes(const std::string& more = {});
 
 }  // namespace ferrowind::contract

@@ -258,7 +258,10 @@ TEST_F(PostgresPlanConcurrency, ACurrencyThatEndsGetsNoCalendarBehindItsEnd) {
         },
     });
     EXPECT_THAT(values, AnyOf(ElementsAre(0, 3), ElementsAre(9, 0))) << year;
-    database_.Execute("UPDATE ferrowind.DicCcy SET LastDay = NULL WHERE CcyID = 978");
+    ProcedureCaller caller(database_);
+    ASSERT_EQ(
+        caller.Return("CldIUCurrency", {{"CcyID", 978}, {"Ccy", "EUR"}, {"CcyType", 0}, {"Name", "Euro"}}),
+        0);
   }
   EXPECT_THAT(failures_, IsEmpty());
   EXPECT_TRUE(database_.IsSound());

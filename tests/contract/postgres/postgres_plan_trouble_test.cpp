@@ -122,7 +122,7 @@ END $$)sql");
       return database_.Engine().Connect(postgres_server::Uri(postgres_server::kOperator,
                                                              postgres_server::kOperatorPassword,
                                                              database_.Name(), proxy.Port()) +
-                                        "?sslmode=disable&gssencmode=disable");
+                                        "?sslmode=disable&gssencmode=disable&keep_sessions=no");
     };
     const auto call = [&](CuttingProxy& proxy, const Arguments& given) {
       return CallOver(*connect(proxy), procedure, given).return_value;
@@ -169,7 +169,7 @@ END $$)sql");
   void AwaitEndOfCalls() {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
     while (Ask("SELECT count(*)::text FROM pg_stat_activity WHERE usename = '" +
-               std::string(postgres_server::kOperator) + "'") != "0") {
+               std::string(postgres_server::kOperator) + "' AND state IS DISTINCT FROM 'idle'") != "0") {
       ASSERT_LT(std::chrono::steady_clock::now(), end) << "a call does not end";
     }
   }

@@ -8,8 +8,10 @@
 #include <libpq-fe.h>
 
 #include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres/server_connection.h"
 
 #include "tests/contract/database/procedure_caller.h"
+#include "tests/contract/postgres/postgres_server.h"
 
 namespace ferrowind::contract {
 namespace {
@@ -69,6 +71,14 @@ TEST(PostgresResult, OtherColumnsThanAskedForAreRefused) {
     EXPECT_THAT(FailureTextOf([&] { (void)ReadRecordSet(Answer(types, {}).get(), 1); }),
                 HasSubstr("columns instead of 1"));
   }
+}
+
+TEST(PostgresResult, RowsWithoutColumnsAndAnswersThatTellNoCountAreNoLies) {
+  postgres::ServerConnection connection(postgres_server::SuperuserUri());
+  EXPECT_EQ(PQnfields(connection.Query("SELECT FROM generate_series(1, 3)").get()), 0);
+  EXPECT_GT(PQntuples(connection.Query("EXPLAIN SELECT 1").get()), 0);
+  EXPECT_EQ(PQntuples(connection.Query("SHOW server_version_num").get()), 1);
+  EXPECT_NO_THROW(connection.RunScript("SELECT FROM generate_series(1, 3); EXPLAIN SELECT 1; SHOW port"));
 }
 
 }  // namespace

@@ -34,7 +34,10 @@ class CallMaker {
   void Learn(int entries) { entries_ = entries; }
 
   Arguments Next(std::string& procedure) {
-    switch (Pick(18)) {
+    switch (Pick(19)) {
+      case 18:
+        procedure = "CldIUConvention";
+        return Convention();
       case 8:
       case 9:
       case 10:
@@ -64,7 +67,7 @@ class CallMaker {
         procedure = Sometimes(2) ? "CldGetClosedDays" : "CldGetMarkedDays";
         return {{"FromYear", Sometimes(20) ? Value() : Value(Year())}, {"ToYear", Year()}};
       case 17:
-        procedure = Sometimes(2) ? "CldGetBook" : "CldGetCurrencies";
+        procedure = Sometimes(3) ? "CldGetConventions" : Sometimes(2) ? "CldGetBook" : "CldGetCurrencies";
         if (procedure == "CldGetBook") return {{"ID1", Sometimes(3) ? Value() : Currency()}};
         return {};
       case 0:
@@ -169,6 +172,12 @@ class CallMaker {
                                        : 0},
             {"Name", Name()},
             {"LastDay", Sometimes(3) ? Value(Date(2024 + Pick(3), 1, 1).AddDays(Pick(360))) : Value()}};
+  }
+  Arguments Convention() {
+    const int number = Sometimes(2) ? 840 : 995 + Pick(6);
+    const Value value = Sometimes(3) ? Value() : Value(Pick(Sometimes(8) ? 5 : 2));
+    if (Sometimes(2)) return {{"CcyID", number}, {"DollarStops", value}};
+    return {{"CcyID", number}, {"OtherID", Sometimes(8) ? number : 978}, {"SpotDays", value}};
   }
   Arguments RuleValues() {
     const int type = Sometimes(20) ? Pick(6) : 2 + Pick(3);

@@ -63,6 +63,11 @@ std::string PercentEncoded(const std::string& text) {
   return encoded;
 }
 
+std::string NewName() {
+  static int count = 0;
+  return "test_" + std::to_string(getpid()) + "_" + std::to_string(++count);
+}
+
 }  // namespace
 
 std::string Host() { return Superuser().host; }
@@ -95,9 +100,17 @@ std::string Ask(const std::string& database, const std::string& query) {
 }
 
 std::string CreateEmptyDatabase() {
-  static int count = 0;
-  const std::string name = "test_" + std::to_string(getpid()) + "_" + std::to_string(++count);
+  const std::string name = NewName();
   Execute("postgres", "CREATE DATABASE " + name);
+  return name;
+}
+
+std::string CreateDatabaseLike(const std::string& original) {
+  const std::string name = NewName();
+  Execute("postgres", "CREATE DATABASE " + name + " TEMPLATE " + original);
+  // Rights to a database are no part of it.
+  Execute("postgres", "REVOKE ALL ON DATABASE " + name + " FROM PUBLIC; GRANT CONNECT ON DATABASE " + name +
+                          " TO ferrowind_owner, ferrowind_operator, ferrowind_reader");
   return name;
 }
 

@@ -30,6 +30,9 @@ void Execute(const std::string& database, const std::string& sql);
 
 /// Makes an empty database of a new name, which is returned.
 [[nodiscard]] std::string CreateEmptyDatabase();
+/// A new database with the name it returns, like the calendar database `original`, with which nobody may work
+/// meanwhile. It takes a fraction of the time that creating the objects anew takes.
+[[nodiscard]] std::string CreateDatabaseLike(const std::string& original);
 void DropDatabase(const std::string& name);
 /// Makes the operator's login, when there is none yet. The roles of calendar databases exist.
 void EnsureOperator();

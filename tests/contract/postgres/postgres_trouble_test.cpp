@@ -142,13 +142,14 @@ Calendar NthCalendar(std::size_t number) {
 }
 
 /// Cuts the connection of a creating call after every number of bytes, from none to all that the call sends
-/// in `direction`.
+/// in `direction`. It ends with the call, since what makes a kept session ready for the next one is no part
+/// of it.
 void CutEverywhere(CuttingProxy::Direction direction) {
   PostgresDatabase database;
   const auto through = [&](CuttingProxy& proxy) {
     return postgres_server::Uri(postgres_server::kOperator, postgres_server::kOperatorPassword,
                                 database.Name(), proxy.Port()) +
-           "?sslmode=disable&gssencmode=disable";
+           "?sslmode=disable&gssencmode=disable&keep_sessions=no";
   };
   // Open all the while, since a new connection costs the server more than a call.
   const auto uncut_connection = database.Engine().Connect(database.ConnectionString());

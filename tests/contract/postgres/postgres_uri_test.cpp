@@ -43,6 +43,41 @@ TEST(PostgresUri, WaitsForNoServerForEverUnlessItSaysSo) {
   EXPECT_EQ(Settings("postgresql://host/db?client_encoding=LATIN1")["client_encoding"], "UTF8");
 }
 
+TEST(PostgresUri, SaysHowLongACallMayWait) {
+  const auto timeout = [](const std::string& more) {
+    const ConnectionUri parsed("postgresql://host/db" + more);
+    for (const auto& [keyword, value] : parsed.Settings()) EXPECT_NE(keyword, postgres::kCallTimeout);
+    return parsed.CallTimeout().count();
+  };
+  EXPECT_EQ(timeout(""), 5000);
+  EXPECT_EQ(timeout("?call_timeout=12"), 12000);
+  EXPECT_EQ(timeout("?sslmode=disable&call_timeout=12&connect_timeout=3"), 12000);
+  EXPECT_EQ(timeout("?call_timeout=12&call_timeout=7"), 7000);
+  EXPECT_EQ(Settings("postgresql://host/db?sslmode=disable&call_timeout=1&connect_timeout=3")["sslmode"],
+            "disable");
+  for (const std::string wrong : {"", "0", "-1", "601", "5s", "five", "99999999999", "1.5"}) {
+    EXPECT_THAT(FailureTextOf([&] { static_cast<void>(timeout("?call_timeout=" + wrong)); }),
+                HasSubstr("no whole number of seconds from 1 to 600"))
+        << wrong;
+  }
+}
+
+TEST(PostgresUri, SaysWhetherSessionsAreKept) {
+  const auto keeping = [](const std::string& more) {
+    const ConnectionUri parsed("postgresql://host/db" + more);
+    for (const auto& [keyword, value] : parsed.Settings()) EXPECT_NE(keyword, postgres::kKeepSessions);
+    return parsed.Keeping();
+  };
+  EXPECT_EQ(keeping(""), postgres::SessionKeeping::kOfServers);
+  EXPECT_EQ(keeping("?keep_sessions=yes&sslmode=disable"), postgres::SessionKeeping::kAlways);
+  EXPECT_EQ(keeping("?call_timeout=3&keep_sessions=no"), postgres::SessionKeeping::kNever);
+  for (const std::string wrong : {"", "No", "0", "true"}) {
+    EXPECT_THAT(FailureTextOf([&] { static_cast<void>(keeping("?keep_sessions=" + wrong)); }),
+                HasSubstr("neither yes nor no"))
+        << wrong;
+  }
+}
+
 TEST(PostgresUri, AWrongOneIsRefusedWithoutAnyPartOfItsPassword) {
   postgres::Engine engine;
   for (const std::string uri :

@@ -155,6 +155,17 @@ TEST_F(LabelContract, ShowsTextAsItIs) {
   }
 }
 
+TEST_F(LabelContract, AnAnnouncementChangesNothingThatIsSeen) {
+  auto& label = The<platform::Label>("lblText");
+  label.SetText("Tom & Jerry");
+  for (const bool is_visible : {true, false}) {
+    label.SetVisible(is_visible);
+    label.Announce();
+    EXPECT_EQ(label.Text(), "Tom & Jerry");
+    EXPECT_EQ(label.Visible(), is_visible);
+  }
+}
+
 class StatusBarContract : public ToolkitContract {};
 
 TEST_F(StatusBarContract, KeepsTheTextOfItsPanel) {
@@ -225,6 +236,18 @@ TEST_F(FileQuestionContract, AddsTheSuffixOfTheKindToANameWithoutOne) {
 
 TEST_F(FileQuestionContract, GivesNothingWhenItIsTurnedDown) {
   EXPECT_EQ(under_test->AskForFile(std::nullopt), std::nullopt);
+}
+
+TEST_F(FileQuestionContract, GivesTheFileThatIsToBeRead) {
+  EXPECT_EQ(under_test->AskForFileToRead("days.ics"), "days.ics");
+}
+
+TEST_F(FileQuestionContract, GivesNoFileThatIsNotThere) {
+  EXPECT_EQ(under_test->AskForFileToRead("nights.ics"), std::nullopt);
+}
+
+TEST_F(FileQuestionContract, GivesNoFileToReadWhenItIsTurnedDown) {
+  EXPECT_EQ(under_test->AskForFileToRead(std::nullopt), std::nullopt);
 }
 
 class ClipboardContract : public ToolkitContract {};

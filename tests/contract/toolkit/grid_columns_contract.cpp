@@ -66,6 +66,15 @@ TEST_F(GridColumnsContract, KeepTheirFieldWhileHidden) {
   EXPECT_EQ(grid.CellValue(1, "Name"), Value("d"));
 }
 
+TEST_F(GridColumnsContract, TakeAnotherCaption) {
+  ShowSample();
+  GridColumn& column = grid.ColumnByKey("Name");
+  column.SetCaption("Holiday");
+  EXPECT_EQ(column.Caption(), "Holiday");
+  EXPECT_EQ(column.Key(), "Name");
+  EXPECT_EQ(grid.CellValue(1, "Name"), Value("d"));
+}
+
 TEST_F(GridColumnsContract, SurviveARecordSetWhenHeld) {
   grid.HoldColumns();
   grid.AttachRecords(SampleRecords());

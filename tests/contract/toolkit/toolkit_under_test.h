@@ -68,6 +68,12 @@ class ToolkitUnderTest {
   /// turns it down where that is nothing. The file's name without its folder, or nothing.
   [[nodiscard]] virtual std::optional<std::string> AskForFile(const std::optional<std::string>& name) = 0;
 
+  /// Calls `ChooseFileToOpen` for lists with the suffixes ics and csv where a file "days.ics" is, and types
+  /// `name` into the question, or turns it down where that is nothing. When the answer is not taken, the
+  /// question is turned down. The file's name without its folder, or nothing.
+  [[nodiscard]] virtual std::optional<std::string> AskForFileToRead(
+      const std::optional<std::string>& name) = 0;
+
   /// Clicks the button, whether it is enabled or not.
   virtual void Click(platform::Button& button) = 0;
   /// Goes to the text box and types behind its text, or in place of the selected text.

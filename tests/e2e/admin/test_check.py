@@ -54,6 +54,16 @@ class Check(ferrowindctl.WithADeliveredDatabase):
         self.assertIn("978", faults)
         self.assertIn("2026", faults)
 
+    def test_names_the_rows_whose_texts_are_too_long_to_be_read(self):
+        too_long = 17 * 1024 * 1024
+        faults = self.faults_after(f"UPDATE CldHoliday SET Comment = printf('%{too_long}s', '') WHERE ID2 = 1",
+                                   f"UPDATE CldDay SET Comment = printf('%{too_long}s', '') "
+                                   "WHERE ID1 = 978 AND Day1 IN (5, 7)")
+        self.assertIn("The row ID2 1 of the table CldHoliday has a text that is too long to be read\n", faults)
+        for day in (5, 7):
+            self.assertRegex(faults, rf"The row ID1 978, Year1 \d{{4}}, Day1 {day} of the table CldDay has a text that is too long")
+        self.assertNotIn("Day1 6", faults)
+
     def test_lists_a_day_whose_rule_does_not_exist(self):
         faults = self.faults_after(
             "UPDATE CldDay SET ID2 = 4711 WHERE ID1 = 978 AND Year1 = 2026 AND ODate = '2026-12-25'")

@@ -86,9 +86,7 @@ class HostileFile(ferrowindctl.WithADeliveredDatabase):
         for command in (("call", self.url(), "CldAllInfo"), ("history", self.url()), ("review", self.url())):
             for form in ("json", "csv"):
                 with self.subTest(command=command[0], form=form):
-                    # A table of CSV has line breaks within its quotes.
-                    shown = self.on_a_terminal(*command, "--format", form)
-                    self.assertIsNone(UNSAFE.search(shown), shown[:2000])
+                    self.assert_harmless(self.on_a_terminal(*command, "--format", form))
 
     def test_gives_programs_the_very_texts(self):
         database = self.open_from_outside()

@@ -28,17 +28,20 @@ done
 """
 
 
-ENDLESS_DAYS = """
-PRAGMA foreign_keys = OFF; DROP TABLE CldDay;
-CREATE VIEW CldDay AS WITH RECURSIVE Endless (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM Endless)
-  SELECT n AS ID1, n AS Year1, n AS Day1, n AS ODate, n AS TID1, n AS ID2, n AS Comment FROM Endless WHERE n < 0;
+# More history than is copied in a few seconds.
+LONG_HISTORY = """
+INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters, ReturnValue, RowsChanged, ChainPosition, Previous, Hash)
+WITH RECURSIVE N (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM N WHERE n < 500000)
+SELECT '2026-01-01T00:00:00.000Z', 'anna', 'CldIUMain', '{}', 0, n, 1000 + n, '', '' FROM N;
 """
 
 
 class Stop(ferrowindctl.WithADeliveredDatabase):
 
-    def test_a_copy_of_a_file_that_never_ends_ends_at_the_first_signal(self):
-        self.open_from_outside().executescript(ENDLESS_DAYS)
+    def test_a_long_copy_ends_at_the_first_signal(self):
+        database = self.open_from_outside()
+        database.executescript(LONG_HISTORY)
+        database.close()
         for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
             with self.subTest(signal=number):
                 copy = subprocess.Popen([ferrowindctl.PROGRAM, "copy", self.url(), self.url("copy.db")],

@@ -20,7 +20,8 @@ class Status(ferrowindctl.WithADeliveredDatabase):
     def status(self, url):
         document = json.loads(self.assert_run(DONE, "status", url, "--format", "json")[0])
         self.assertEqual(list(document), ["results"])
-        about, years, warnings = document["results"]
+        about, years, warnings = document["results"][:3]
+        self.assertEqual(len(document["results"]), 3 if url.startswith("sqlite:") else 4)
         self.assertEqual(about["fields"], FIELDS)
         self.assertEqual(years["fields"], ["Year", "Calendars"])
         self.assertEqual(warnings["fields"], ["Year", "Ccy", "Warning"])
@@ -49,6 +50,20 @@ class Status(ferrowindctl.WithADeliveredDatabase):
         self.assertTrue(on_server["EngineVersion"].startswith(server.ask("postgres", "SHOW server_version").split()[0]))
         for field in ("SchemaVersion", "Currencies", "Rules", "RemovedRules", "Calendars", "Days", "HistoryEntries"):
             self.assertEqual(on_server[field], in_file[field], field)
+
+    def test_tells_who_has_the_connections_of_a_server(self):
+        database = server.Database(self)
+        self.assert_run(DONE, "init", database.uri, "--empty")
+        database.login(self, "e2e_anna", "sesame", "ferrowind_operator")
+        database.login(self, "e2e_reports", "sesame", "ferrowind_reader")
+        server.ask("postgres", "ALTER ROLE e2e_reports CONNECTION LIMIT 5")
+        shares = json.loads(self.assert_run(DONE, "status", database.uri, "--format", "json")[0])["results"][3]
+        self.assertEqual(shares["fields"], ["Logins", "Connections", "Limit", "WithoutLimit"])
+        self.assertEqual(shares["rows"][:2], [["ferrowind_operator", 0, None, "e2e_anna"], ["ferrowind_reader", 0, 5, None]])
+        self.assertEqual([row[0] for row in shares["rows"]], ["ferrowind_operator", "ferrowind_reader", "others", "all"])
+        self.assertEqual(shares["rows"][3][2], int(server.ask("postgres", "SHOW max_connections"))
+                         - int(server.ask("postgres", "SHOW superuser_reserved_connections")))
+        self.assertRegex(self.assert_run(DONE, "status", database.uri)[0], r"ferrowind_operator +0 +e2e_anna\n")
 
     def test_has_the_forms_of_the_other_commands(self):
         table, _ = self.assert_run(DONE, "status", self.url())

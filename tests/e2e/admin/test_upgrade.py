@@ -29,7 +29,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", url)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", url)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 4.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 6.\n")
         self.assert_run(DONE, "check", url)
         self.assert_run(DONE, "init", self.url("new.db"), "--empty")
         self.assertEqual(self.schema("a.db"), self.schema("new.db"))
@@ -45,7 +45,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
                           "UPDATE main.CldRecurrence SET Comment = 'Our own' WHERE ID1 = 978 AND Position = 1")
         old.close()
         output, _ = self.assert_run(DONE, "upgrade", self.url())
-        self.assertEqual(output, "The database was upgraded from the schema version 3 to 4.\n"
+        self.assertEqual(output, "The database was upgraded from the schema version 3 to 6.\n"
                                  "25 rule books say since when they hold now, as delivered.\n"
                                  "Rule books that are not as delivered tell of all years as before: EUR. A line "
                                  "\"since YEAR\" in them says otherwise.\n")
@@ -55,6 +55,32 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         self.assertEqual(len(self.call("CldGetHistory")[0]), 25)
         self.assertIn("There is nothing to do", self.assert_run(DONE, "upgrade", self.url())[0])
 
+    def test_that_was_killed_at_its_end_is_finished_by_the_next_one(self):
+        url = version_1.make_file(self)
+        self.assert_run(DONE, "init", self.url("new.db"), "--year", 2026)
+        self.assert_run(DONE, "upgrade", url)
+        old = self.open_from_outside()
+        # As one leaves it that has changed the schema, and nothing more: books that no call has stored.
+        old.execute("ATTACH ? AS New", [str(self.path("new.db"))])
+        old.executescript("INSERT INTO main.CldBook SELECT ID1, Publisher, Document, NULL FROM New.CldBook; "
+                          "INSERT INTO main.CldRecurrence SELECT * FROM New.CldRecurrence")
+        old.close()
+        output, _ = self.assert_run(DONE, "upgrade", url)
+        self.assertEqual(output, "An upgrade was cut off at its end. The database has the schema version 6.\n"
+                                 "26 rule books say since when they hold now, as delivered.\n")
+        self.assertEqual({book["FromYear"] for book in self.call("CldGetBook")[0]}, {2015})
+        self.assertIn("There is nothing to do", self.assert_run(DONE, "upgrade", url)[0])
+
+    def test_leaves_a_book_alone_that_was_stored_without_a_year(self):
+        self.assert_run(DONE, "init", self.url(), "--year", 2026)
+        book, _ = self.assert_run(DONE, "book", "show", self.url(), "EUR")
+        without_year = [line for line in book.splitlines() if not line.startswith("since ")]
+        self.assertEqual(len(without_year), len(book.splitlines()) - 1)
+        self.path("EUR.txt").write_text("\n".join(without_year) + "\n")
+        self.assert_run(DONE, "book", "set", self.url(), "EUR", self.path("EUR.txt"))
+        self.assertIn("There is nothing to do", self.assert_run(DONE, "upgrade", self.url())[0])
+        self.assertIsNone(self.call("CldGetBook", "ID1=978")[0][0]["FromYear"])
+
     def test_is_what_commands_ask_for_that_an_old_database_has_no_procedures_for(self):
         url = version_1.make_file(self)
         for command in (("plan", url, "EUR", 2028), ("apply", url, "ALL", 2028, "--yes"), ("why", url, "EUR", "2028-04-14"),
@@ -63,27 +89,27 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
                         ("currency", "retire", url, "EUR", "2030-12-31")):
             with self.subTest(command[0]):
                 _, errors = self.assert_run(NOT_DONE, *command)
-                self.assertIn("a.db has the schema version 1; this program's is 4. "
+                self.assertIn("a.db has the schema version 1; this program's is 6. "
                               "Bring it there with \"ferrowindctl upgrade\" first\n", errors)
 
     def test_says_when_there_is_nothing_to_do(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         before = self.path().read_bytes()
         output, _ = self.assert_run(DONE, "upgrade", self.url())
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 4.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 6.\n")
         self.assertEqual(self.path().read_bytes(), before)
 
     def test_refuses_a_newer_database(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         self.open_from_outside().execute("PRAGMA user_version = 7")
         _, errors = self.assert_run(NOT_DONE, "upgrade", self.url())
-        self.assertIn("a.db has the schema version 7; this program's is 4", errors)
+        self.assertIn("a.db has the schema version 7; this program's is 6", errors)
         self.assertIn("newer version of this program", errors)
 
     def test_that_fails_leaves_the_database_as_it_was(self):
         url = version_1.make_file(self)
         self.open_from_outside().execute(
-            "CREATE TRIGGER CldHistoryLosesNoEntry AFTER DELETE ON CldDay BEGIN SELECT 1; END")
+            "CREATE TABLE CldHistoryRow (A)")
         before = self.schema("a.db")
         _, errors = self.assert_run(NOT_DONE, "upgrade", url)
         self.assertIn("the database is as it was", errors)
@@ -112,12 +138,12 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", database.uri)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 4.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 6.\n")
         # The check compares every object and right with those of a new database.
         self.assert_run(DONE, "check", database.uri)
         self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "365")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 4.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 6.\n")
 
     def test_lets_a_delivered_book_say_since_when_it_holds(self):
         self.assert_run(DONE, "init", self.url(), "--year", 2026)
@@ -128,7 +154,7 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
                      + quoted(heads) + "); INSERT INTO ferrowind.CldRecurrence "
                      "SELECT * FROM json_populate_recordset(NULL::ferrowind.CldRecurrence, " + quoted(rules) + ")")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "The database was upgraded from the schema version 3 to 4.\n"
+        self.assertEqual(output, "The database was upgraded from the schema version 3 to 6.\n"
                                  "1 rule book says since when it holds now, as delivered.\n")
         self.assertEqual(database.ask("SELECT FromYear FROM ferrowind.CldBook"), "2015")
         self.assert_run(DONE, "check", database.uri)
@@ -146,7 +172,7 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         database = version_1.make_on_server(self)
         database.ask("UPDATE ferrowind.SchemaVersion SET Version = 7")
         _, errors = self.assert_run(NOT_DONE, "upgrade", database.uri)
-        self.assertIn("has the schema version 7; this program's is 4", errors)
+        self.assertIn("has the schema version 7; this program's is 6", errors)
 
 
 if __name__ == "__main__":

@@ -122,7 +122,7 @@ class OperatorStory:
         """This operator assigns the rules alone."""
         self.wait_active('New calendar')
         self.picture('prepare-it')
-        self.session.keys('alt+c')
+        self.session.keys('alt+n')
 
     def open_rules(self):
         """For the whole calendar."""
@@ -199,7 +199,8 @@ class OperatorStory:
         self.wait_active(PREVIEW)
         if picture:
             self.picture(picture)
-        self.session.keys('Return')
+        # Where there is something to look at, Enter does not go past it.
+        self.session.keys('alt+a')
         self.wait_active(CALENDARS)
         self.wait_in_grid(CALENDARS, 'Date', '1 Jan 2028 Sat')
 

@@ -294,7 +294,7 @@ class AccessibleWalk(PlanningWalk):
         return self.wait_said('Undo', 'Undo in')
 
     def undo(self):
-        self.press('Undo', 'Ok')
+        self.press('Undo', 'Undo')
 
     def save_planner(self, path):
         self.press(self.together, 'Save as PDF')

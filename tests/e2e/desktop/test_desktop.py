@@ -132,6 +132,12 @@ class DesktopTest(unittest.TestCase):
             self.assertEqual((told.returncode, told.stderr), (0, ''))
             self.assertIn(text, told.stdout)
 
+    def test_a_locale_that_is_read_from_the_right_mirrors_the_windows(self):
+        self.session.environment['LC_ALL'] = 'ar_EG.UTF-8'
+        self.open_calendars()
+        tree = self.accessible.wait_find(self.accessible.application(), 'tree', 'Currencies and calendars')
+        self.assertGreater(self.screen_place(tree)[0], self.screen_place(self.grid())[0])
+
     # The board -----------------------------------------------------------------------------------
 
     def board(self):
@@ -501,7 +507,7 @@ class DesktopTest(unittest.TestCase):
                     # What the rules would do is shown before.
                     is_shown = session.windows(re.escape(preview))
                     session.activate_if_open(re.escape(preview) if is_shown else title)
-                    session.keys('Return' if is_shown else 'alt+i')
+                    session.keys('alt+a' if is_shown else 'alt+i')
             time.sleep(0.5)
             return not waiting
         wait_for(are_all_assigned, 'the end of both assignments')

@@ -1,10 +1,11 @@
 """The guide to embedding, followed word for word by somebody with a new home and a copy of the source tree: each of its
-commands as it stands and in order, and its example with the guide's own columns. The windows are read as an assistive tool
-reads them.
+commands as it stands and in order, its example with the guide's own columns, and its other hosts, which are the files of the
+tree to the letter. The windows are read as an assistive tool reads them.
 
 The packages that it has root install are those of the tests, too. Of the environment two things are the test's own: a
 screen, and the compiler's cache, which changes nothing but the time that it takes."""
 
+import calendar
 import contextlib
 import os
 import pathlib
@@ -21,7 +22,9 @@ from desktop_session import DesktopSession, Screen, end_process, wait_for
 ROOT = pathlib.Path(__file__).parents[3]
 PAGE = 'embedding.md'
 EXAMPLE = pathlib.Path('docs/examples/minimal_host')
+OTHERS = pathlib.Path('docs/examples/hosts')
 HOST = 'minimal_host'
+OFFICE = 'own_office'
 BUILD_SECONDS = 1200
 COMPILER_SETTINGS = ('CC', 'CXX', 'CFLAGS', 'CXXFLAGS', 'CPPFLAGS', 'LDFLAGS')
 SCREEN = None
@@ -101,6 +104,24 @@ class Embedding(unittest.TestCase):
         self.assertEqual(refused in output if refused else 'refused' not in output, True, output)
         return captions
 
+    def office_shows(self, commands):
+        """The first week of a calendar that is made in the window of the host with its own surroundings, in the column that it
+        computes."""
+        process = self.start(commands)
+        self.wait_active(process, 'Calendars')
+        self.session.type('USD')
+        self.session.keys('ctrl+n')
+        self.wait_active(process, 'Select year USD currency')
+        self.session.keys('Return')
+        self.wait_active(process, 'Calendars')
+        grid = self.accessible.GridReader(self.accessible.application(OFFICE))
+        wait_for(lambda: grid.row_count() in (365, 366), 'the days of the new calendar')
+        week = grid.column('Weekday', 7)
+        self.session.keys('alt+F4')
+        output = process.communicate(timeout=60)[0]
+        self.assertEqual(process.returncode, 0, output)
+        return week
+
     def wait_active(self, process, title):
         def is_active():
             self.assertIsNone(process.poll(), 'the host has ended')
@@ -121,6 +142,9 @@ class Embedding(unittest.TestCase):
         blocks = [block for block in guide.blocks(PAGE) if block.person != 'root']
         [starting] = [block for block in blocks if f'build/{HOST}/{HOST} ' in block.commands]
         [building] = [block for block in blocks if f'--build build/{HOST}' in block.commands]
+        [others] = [block for block in blocks if f'build/hosts/{OFFICE} ' in block.commands]
+        programs = [text for text in guide.code(PAGE, 'cpp') if 'int main(' in text]
+        fragments = [text for text in guide.code(PAGE, 'cpp') if 'int main(' not in text]
         before_start, open_host = starting.commands.rstrip('\n').rsplit('\n', 1)
         self.assertEqual(guide.code(PAGE, 'cmake'), [(self.tree / EXAMPLE / 'CMakeLists.txt').read_text()])
         for block in blocks[:blocks.index(starting)]:
@@ -131,12 +155,19 @@ class Embedding(unittest.TestCase):
         self.assertIn('Remark', captions)
         self.assertNotIn('Rule number', captions)
 
-        self.put_in(*guide.code(PAGE, 'cpp'))
+        self.put_in(*fragments)
         self.follow(building)
         captions = self.captions_shown_by(open_host, refused='A change was refused: 6')
         self.assertIn('Remark', captions)
         self.assertIn('Rule number', captions)
-        self.assertEqual(blocks[-1], starting, 'blocks behind the start of the host are not followed')
+
+        self.assertEqual(sorted(programs), sorted(path.read_text() for path in (self.tree / OTHERS).glob('*.cpp')))
+        before_start, open_office = others.commands.rstrip('\n').rsplit('\n', 1)
+        self.follow(guide.Block(PAGE, others.line, others.person, before_start, 0, None))
+        self.assertEqual(sorted(self.office_shows(open_office)), sorted(calendar.day_name))
+        self.assertIn('gridLayout', (self.session.home / 'office.ini').read_text())
+        for block in blocks[blocks.index(others) + 1:]:
+            self.follow(block)
 
 
 if __name__ == '__main__':

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -16,6 +17,7 @@
 
 #include "ferrowind/adapters/qt/controls/question_image.h"
 #include "ferrowind/adapters/qt/look/contrast.h"
+#include "ferrowind/adapters/qt/look/text_line.h"
 #include "ferrowind/adapters/qt/look/theme.h"
 
 namespace ferrowind::qt {
@@ -148,6 +150,40 @@ TEST(MessageImages, TellTheKindsApart) {
     const QImage image = box.iconPixmap().toImage();
     EXPECT_FALSE(images.contains(image)) << icon;
     images << image;
+  }
+}
+
+TEST(TextDirectionTest, IsThatOfTheTextOnAButtonInAWindowThatIsReadFromTheRight) {
+  ApplyTheme(*qApp, Theme::kLight);
+  for (const char* text : {"Rule book...", "2026, this year"}) {
+    QPushButton button{QString::fromLatin1(text)};
+    button.resize(160, 30);
+    const QImage picture = button.grab().toImage();
+    button.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(button.grab().toImage(), picture) << text;
+  }
+}
+
+/// What `DrawTextLine` draws for a painter of that direction.
+QImage LineDrawn(Qt::LayoutDirection direction, Qt::Alignment alignment, const QString& text) {
+  QImage picture(200, 30, QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setLayoutDirection(direction);
+  DrawTextLine(painter, QRectF(0, 0, 200, 30), alignment | Qt::AlignVCenter, text);
+  EXPECT_EQ(painter.layoutDirection(), direction);
+  return picture;
+}
+
+TEST(TextDirectionTest, IsThatOfTheTextInALineWhoseSidesAreThoseOfTheWindow) {
+  const QString english = QStringLiteral("30 working days.");
+  const QString arabic = QStringLiteral("\u064A\u0646\u0627\u064A\u0631 2028.");
+  for (const QString& text : {english, arabic}) {
+    const QImage left = LineDrawn(Qt::LeftToRight, Qt::AlignLeading, text);
+    const QImage right = LineDrawn(Qt::LeftToRight, Qt::AlignTrailing, text);
+    EXPECT_NE(left, right);
+    EXPECT_EQ(LineDrawn(Qt::RightToLeft, Qt::AlignLeading, text), right) << text.toStdString();
+    EXPECT_EQ(LineDrawn(Qt::RightToLeft, Qt::AlignTrailing, text), left) << text.toStdString();
   }
 }
 

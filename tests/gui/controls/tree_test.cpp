@@ -142,6 +142,18 @@ TEST_F(TreeTest, ClicksTheNodeThatAnAssistiveToolSelects) {
   EXPECT_THAT(clicks_, ElementsAre("EUR2026", "EUR2027"));
 }
 
+TEST_F(TreeTest, ClicksTheNodeThatAnAssistiveToolSelectsWhenAMouseButtonWasReleasedElsewhere) {
+  tree_.SetExpanded("EUR", true);
+  QTest::mousePress(view_.viewport(), Qt::LeftButton, {}, PlaceOf("CHF"));
+  view_.hide();
+  view_.show();
+  ASSERT_THAT(clicks_, IsEmpty());
+  QAccessibleTableInterface* const rows = QAccessible::queryAccessibleInterface(&view_)->tableInterface();
+  EXPECT_TRUE(rows->selectRow(2));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !clicks_.empty(); }, 2000));
+  EXPECT_THAT(clicks_, ElementsAre("EUR2026"));
+}
+
 TEST_F(TreeTest, ClicksOnceWhenTheSelectionIsDraggedOverNodes) {
   QTest::mousePress(view_.viewport(), Qt::LeftButton, {}, PlaceOf("CHF"));
   QTest::mouseMove(view_.viewport(), PlaceOf("EUR"));

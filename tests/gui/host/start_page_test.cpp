@@ -93,12 +93,12 @@ TEST_F(StartPage, FitsASmallScreen) {
 
 TEST_F(StartPage, OpensAsLargeAsItWasLeftAndWithoutThatMemoryAsItIsRead) {
   const QSize at_first = back_office_->size();
-  back_office_->resize(at_first - QSize(31, 43));
+  back_office_->resize(at_first - QSize(19, 43));
   back_office_->close();
   page_.reset();
   WorkOn("sqlite:" + DatabasePath());
   Open();
-  EXPECT_EQ(back_office_->size(), at_first - QSize(31, 43));
+  EXPECT_EQ(back_office_->size(), at_first - QSize(19, 43));
   qt::SettingsStore().Write("\\Tessaro\\Host\\Back office", "Geometry", std::string("no geometry"));
   page_.reset();
   WorkOn("sqlite:" + DatabasePath());

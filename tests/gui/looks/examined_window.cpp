@@ -10,11 +10,13 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QToolButton>
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/grid/grid_view.h"
 #include "ferrowind/adapters/qt/look/contrast.h"
+#include "ferrowind/adapters/qt/table/table_view.h"
 
 namespace ferrowind::gui {
 namespace {
@@ -163,6 +165,10 @@ std::vector<std::string> ExaminedWindow::FaultsOfRoom() const {
       faults.push_back(NameOf(*widget) + " is cut");
     if (label != nullptr && label->wordWrap() && widget->height() < label->heightForWidth(widget->width()))
       faults.push_back(NameOf(*widget) + " has lines that are cut");
+    const auto* table = qobject_cast<const qt::TableView*>(widget);
+    if (table != nullptr && table->horizontalScrollBar()->maximum() > 0)
+      faults.push_back(NameOf(*widget) + " has columns that are scrolled out of sight by " +
+                       std::to_string(table->horizontalScrollBar()->maximum()) + " pixels");
     const auto* button = qobject_cast<const QPushButton*>(widget);
     if (button != nullptr && widget->width() < widget->minimumSizeHint().width())
       faults.push_back(NameOf(*widget) + " is cut");

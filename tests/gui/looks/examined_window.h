@@ -13,8 +13,8 @@ class ExaminedWindow {
  public:
   explicit ExaminedWindow(QWidget& window);
 
-  /// Texts that are cut, and widgets that stand outside of what holds them or, with the window as small as it
-  /// gets, outside of a screen of 800 x 600.
+  /// Texts that are cut, columns of tables that are scrolled out of sight, and widgets that stand outside of
+  /// what holds them or, with the window as small as it gets, outside of a screen of 800 x 600.
   [[nodiscard]] std::vector<std::string> FaultsOfRoom() const;
   /// Texts that stand out less than 4.5 to 1 from their ground.
   [[nodiscard]] std::vector<std::string> FaultsOfText() const;

@@ -1,12 +1,16 @@
 // That everything which the windows of planning say of their own can be said in another language.
 #include <QAccessible>
 #include <QComboBox>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QToolButton>
 #include <QTranslator>
 #include <algorithm>
+#include <set>
 
+#include "ferrowind/adapters/qt/services/languages.h"
 #include "ferrowind/adapters/qt/services/qt_words.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 #include "ferrowind/control/calendar.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/planning/book_store.h"
@@ -28,12 +32,23 @@ using ::testing::IsEmpty;
 constexpr std::int32_t kDollar = 840;
 constexpr std::int32_t kEuro = 978;
 
-/// A language without any letter of English: every text has another one in the place of each letter.
+/// A language without any letter of English: every text has another one in the place of each letter. It
+/// remembers the component's texts that have no place in the German translation.
 class OtherLanguage : public QTranslator {
  public:
+  OtherLanguage() {
+    // The resource is there from then on.
+    qt::UseLanguages(*qApp, QLocale(QLocale::English));
+    if (!german_.load(QStringLiteral(":/ferrowind/translations/ferrowind_de.qm")))
+      untranslated_.insert("there is no translation at all");
+  }
+
   [[nodiscard]] bool isEmpty() const override { return false; }
   [[nodiscard]] QString translate(const char* context, const char* text, const char* /*disambiguation*/,
-                                  int /*number*/) const override {
+                                  int number) const override {
+    if (*text != 0 && qstrcmp(context, qt::kTextContext) == 0 &&
+        german_.translate(context, text, nullptr, number).isEmpty())
+      untranslated_.insert(text);
     // By these names shortcuts are read, too.
     if (qstrcmp(context, "QShortcut") == 0) return {};
     QString other;
@@ -44,12 +59,20 @@ class OtherLanguage : public QTranslator {
     }
     return other;
   }
+
+  [[nodiscard]] const std::set<std::string>& Untranslated() const { return untranslated_; }
+
+ private:
+  QTranslator german_;
+  mutable std::set<std::string> untranslated_;
 };
 
-/// What is written in the database and in the delivered books, in whatever language that is.
+/// What is written in the database and in the delivered books, and what the operator has typed, in whatever
+/// language that is.
 class WrittenTexts {
  public:
-  explicit WrittenTexts(const OperatorDesk& desk) {
+  explicit WrittenTexts(const OperatorDesk& desk, const std::string& typed) {
+    Add(typed);
     for (const char* sql :
          {"SELECT Name1 FROM CldHoliday", "SELECT Comment FROM CldHoliday", "SELECT Comment FROM CldDay",
           "SELECT Ccy FROM DicCcy", "SELECT Name FROM DicCcy", "SELECT UserName FROM CldHistory"}) {
@@ -143,11 +166,12 @@ class SaidTextsTest : public ::testing::Test {
     EXPECT_TRUE(control_.ForceClosing());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::removeTranslator(&language_);
+    EXPECT_THAT(language_.Untranslated(), IsEmpty());
   }
 
-  [[nodiscard]] std::vector<std::string> EnglishIn(QWidget& part) const {
+  [[nodiscard]] std::vector<std::string> EnglishIn(QWidget& part, const std::string& typed = {}) const {
     QCoreApplication::processEvents();
-    return SpokenTexts(part, WrittenTexts(desk_)).English();
+    return SpokenTexts(part, WrittenTexts(desk_, typed)).English();
   }
   [[nodiscard]] std::vector<std::string> EnglishIn(const std::string& window) const {
     QWidget* const shown = WindowOnShow(window);
@@ -185,7 +209,8 @@ TEST_F(SaidTextsTest, AreThoseOfThePlanOfAYear) {
 }
 
 TEST_F(SaidTextsTest, AreThoseOfTheHistoryAndACalendarOfThen) {
-  desk_.Call("CldIUMain", {kDollar, 2028, 1, 1, 17, {}, "Fair"});
+  // So short that the caption of the button to undo it has room for none or all of its letters.
+  desk_.Call("CldIUMain", {kDollar, 2028, 1, 1, 17, {}, "F"});
   const int entry = std::stoi(desk_.ReadOne("SELECT max(EntryID) FROM CldHistory"));
   RunHandler(platform_, [&] { windows_.OpenHistory({}); });
   EXPECT_THAT(EnglishIn("fmHistory"), IsEmpty());
@@ -210,9 +235,56 @@ TEST_F(SaidTextsTest, AreThoseOfARuleBook) {
   EXPECT_THAT(EnglishIn("fmRuleBook"), IsEmpty());
 }
 
+TEST_F(SaidTextsTest, AreThoseOfWhatIsWrongInARuleBook) {
+  RunHandler(platform_, [&] { windows_.OpenRuleBook(kDollar); });
+  QWidget& window = *WindowOnShow("fmRuleBook");
+  Activate(window);
+  // No expressions, and such as are none of a weekend.
+  for (const char* typed : {"", "?", "12", "13-01", "2028-02-30", "7th", "12-25 ?", "12-25 to", "table ?",
+                            "01-01", "3rd Monday of 01", "table nowhere", "12-25 Monday to Monday"}) {
+    TypeInto(window, "txtExpression", typed);
+    EXPECT_NE(Find<QLabel>(window, "lblOutcome").text(), QString()) << typed;
+    EXPECT_THAT(EnglishIn(window, typed), IsEmpty()) << typed;
+  }
+  TypeInto(window, "txtExpression", "01-01");
+  TypeInto(window, "txtName", "");
+  EXPECT_THAT(EnglishIn(window), IsEmpty());
+  TypeInto(window, "txtPublisher", "");
+  EXPECT_THAT(EnglishIn(window), IsEmpty());
+  script_.Expect("fmMessage", [](QWidget& question) { ClickButton(question, "cmdOk"); });
+  window.close();
+}
+
 TEST_F(SaidTextsTest, AreThoseOfThePlannerOfAYear) {
   RunHandler(platform_, [&] { windows_.OpenYearPlanner({kDollar, kEuro}, 2028); });
   EXPECT_THAT(EnglishIn("fmYearPlanner"), IsEmpty());
+}
+
+TEST_F(SaidTextsTest, AreThoseOfTheImportOfAList) {
+  RunHandler(platform_, [&] { windows_.OpenImport("", 2028); });
+  QWidget& window = *WindowOnShow("fmImport");
+  Activate(window);
+  EXPECT_THAT(EnglishIn(window), IsEmpty());
+  ClickButton(window, "cmdPreview");
+  EXPECT_THAT(EnglishIn(window), IsEmpty()) << "without a file";
+  TypeInto(window, "txtFile", "/?");
+  for (const char* typed : {"", "USD EUR"}) {
+    TypeInto(window, "txtCurrency", typed);
+    ClickButton(window, "cmdPreview");
+    EXPECT_THAT(EnglishIn(window), IsEmpty()) << typed;
+  }
+}
+
+TEST_F(SaidTextsTest, AreThoseOfTheExportOfCalendars) {
+  RunHandler(platform_, [&] { windows_.OpenExport("USD", 2028); });
+  QWidget& window = *WindowOnShow("fmExport");
+  Activate(window);
+  EXPECT_THAT(EnglishIn(window), IsEmpty());
+  for (const char* last : {"2027", "2029"}) {
+    TypeInto(window, "txtLast", last);
+    ClickButton(window, "cmdExport");
+    EXPECT_THAT(EnglishIn(window), IsEmpty()) << last;
+  }
 }
 
 TEST_F(SaidTextsTest, AreThoseOfTheQuestionForAnAnnouncedHoliday) {

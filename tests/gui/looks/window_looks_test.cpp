@@ -1,12 +1,20 @@
+#include <QFrame>
 #include <QLocale>
 #include <QPixmap>
+#include <QTranslator>
+#include <chrono>
 #include <tuple>
 
 #include "ferrowind/adapters/qt/look/theme.h"
+#include "ferrowind/adapters/qt/services/languages.h"
+#include "ferrowind/adapters/qt/services/qt_words.h"
+#include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/control/calendar.h"
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/planning/book_store.h"
+#include "ferrowind/planning/plan_batch.h"
 #include "ferrowind/views/dialogs/fm_wait.h"
+#include "ferrowind/views/planning/fm_progress.h"
 #include "ferrowind/views/planning/planning_additions.h"
 #include "ferrowind/views/planning/planning_windows.h"
 
@@ -17,6 +25,7 @@
 #include "tests/gui/windows/dialog_script.h"
 #include "tests/gui/windows/operator_desk.h"
 #include "tests/gui/windows/operator_hands.h"
+#include "tests/support/scripted_silence.h"
 
 namespace ferrowind::gui {
 namespace {
@@ -27,7 +36,7 @@ constexpr std::int32_t kDollar = 840;
 constexpr std::int32_t kEuro = 978;
 constexpr std::int32_t kPound = 826;
 
-/// How a screen is set up: its theme, and the language of its dates.
+/// How a screen is set up: its theme, and the language of its texts, as far as there is one, and dates.
 using Setup = std::tuple<qt::Theme, const char*>;
 
 /// All windows, with the additions of planning, over a database with the delivered books of three currencies
@@ -36,6 +45,8 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
  protected:
   WindowLooksTest() {
     const auto& [theme, language] = GetParam();
+    qt::UseLanguages(*qApp, QLocale());
+    platform_.words = &words_;
     qApp->setLayoutDirection(QLocale().textDirection());
     qt::ApplyTheme(*qApp, theme);
     platform_.additions = &additions_;
@@ -57,6 +68,7 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     qt::ApplyTheme(*qApp, qt::Theme::kLight);
     qApp->setLayoutDirection(Qt::LeftToRight);
+    qDeleteAll(qApp->findChildren<QTranslator*>());
   }
 
   void Examine(const std::string& name) {
@@ -88,6 +100,14 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
         QStringLiteral("%1/%2 %3 %4.png")
             .arg(folder, name.c_str(), language, theme == qt::Theme::kDark ? "dark" : "light"));
   }
+  /// A year with days of every kind, made as planned.
+  void PrepareTheDollar() {
+    RunHandler(platform_, [&] {
+      planning::PlanBatch batch(host::DeliveredDateTables(), {{kDollar, 2028}});
+      static_cast<void>(batch.Apply());
+    });
+    desk_.Call("CldIUMain", {kDollar, 2028, 1, 1, 17, {}, "Stock-taking"});
+  }
   QWidget& OpenCalendars() {
     control_.Show();
     QWidget& window = *WindowOnShow("fmCalendar");
@@ -103,6 +123,7 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
   }
 
   DefaultLocale locale_{std::get<const char*>(GetParam())};
+  qt::QtWords words_;
   OperatorDesk desk_{OperatorDesk::Rules::kOfOffice};
   DialogScript script_;
   platform::Platform platform_ = desk_.Platform();
@@ -132,6 +153,21 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheYearBesideTheDaysWhileTheyAreFilter
   Examine(window);
 }
 
+TEST_P(WindowLooksTest, CanBeReadAndUsedWhileTheServerDoesNotAnswer) {
+  testing::ScriptedSilence silence;
+  silence.until_next_try = std::chrono::milliseconds(4500);
+  platform_.change_watches = &silence;
+  QWidget& calendars = OpenCalendars();
+  RunHandler(platform_, [&] { windows_.OpenReadiness(); });
+  QWidget& board = *WindowOnShow("fmReadiness");
+  for (QWidget* window : {&calendars, &board}) {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Find<QFrame>(*window, "pnlSilence").isVisible(); }, 5000));
+    Examine(*window);
+  }
+  EXPECT_TRUE(windows_.CloseAll());
+  EXPECT_TRUE(control_.ForceClosing());
+}
+
 TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForADate) {
   QWidget& window = OpenCalendars();
   script_.Expect("fmGoToDate", [this](QWidget& dialog) {
@@ -156,7 +192,7 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAYear) {
   QWidget& window = OpenCalendars();
   script_.Expect("fmSelectYear", [this](QWidget& dialog) {
     Examine(dialog);
-    PressButton(dialog, "Cancel");
+    ClickButton(dialog, "cmdCancel");
   });
   ClickTool(window, "ID_New");
 }
@@ -192,7 +228,7 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAReason) {
   script_.Expect("ID_StatesMenu", [](QWidget& menu) { PickFromMenu(menu, "ID_Except2"); });
   script_.Expect("fmExceptMess", [this](QWidget& dialog) {
     Examine(dialog);
-    PressButton(dialog, "Cancel");
+    ClickButton(dialog, "cmdCancel");
   });
   RightClickRow(days, 3);
 }
@@ -205,6 +241,35 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedOnTheBoard) {
 TEST_P(WindowLooksTest, CanBeReadAndUsedInThePlanOfAYear) {
   RunHandler(platform_, [&] { windows_.OpenYearPlan({{kDollar, 2028}, {kPound, 2028}}); });
   Examine("fmYearPlan");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheImportOfAList) {
+  RunHandler(platform_, [&] { windows_.OpenImport("USD", 2028); });
+  Examine("fmImport");
+  QWidget& window = *WindowOnShow("fmImport");
+  TypeInto(window, "txtFile", "/nowhere/at/all/a-list-of-the-holidays-of-new-york-as-published.csv");
+  ClickButton(window, "cmdPreview");
+  Examine("fmImport");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheExportOfCalendars) {
+  RunHandler(platform_, [&] { windows_.OpenExport("USD", 2028); });
+  Examine("fmExport");
+  QWidget& window = *WindowOnShow("fmExport");
+  TypeInto(window, "txtLast", "2029");
+  ClickButton(window, "cmdExport");
+  Examine("fmExport");
+}
+
+TEST_P(WindowLooksTest, CanBeReadAndUsedInTheProgressOfALongWork) {
+  // As long as the caption of a calendar gets.
+  const std::string step = "Applying the plan of USD 2028, 119 of 120.";
+  fmProgress progress(platform_, "Plans of 120 calendars", {.next = [&] { return step; }, .step = [] {}});
+  script_.Expect("fmProgress", [this](QWidget& dialog) {
+    Examine(dialog);
+    ClickButton(dialog, "cmdStop");
+  });
+  progress.ShowModal();
 }
 
 TEST_P(WindowLooksTest, CanBeReadAndUsedInTheHistoryAndACalendarOfThen) {
@@ -229,6 +294,11 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInARuleBook) {
   QWidget& window = *WindowOnShow("fmRuleBook");
   TypeInto(window, "txtSince", "?");
   Examine(window);
+  // The longest that it says, and lists that cannot be used.
+  Find<qt::TableView>(window, "tblRules")
+      .setCurrentIndex(Find<qt::TableView>(window, "tblRules").model()->index(3, 0));
+  TypeInto(window, "txtExpression", "3rd Monday of 1 or thereabouts");
+  Examine(window);
   script_.Expect("fmMessage", [this](QWidget& question) {
     Examine(question);
     ClickButton(question, "cmdOk");
@@ -237,6 +307,7 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInARuleBook) {
 }
 
 TEST_P(WindowLooksTest, CanBeReadAndUsedInThePlannerOfAYear) {
+  PrepareTheDollar();
   RunHandler(platform_, [&] { windows_.OpenYearPlanner({kDollar}, 2028); });
   Examine("fmYearPlanner");
 }
@@ -248,7 +319,7 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedInTheQuestionForAnAnnouncedHoliday) {
   script_.Expect("fmCloseDays", [this](QWidget& dialog) {
     TypeInto(dialog, "txtName", "National Day of Mourning");
     Examine(dialog);
-    PressButton(dialog, "Cancel");
+    ClickButton(dialog, "cmdCancel");
   });
   ClickTool(planner, "ID_CloseDays");
 }

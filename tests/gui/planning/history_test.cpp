@@ -171,11 +171,11 @@ class HistoryToolsTest : public HistoryTest {
 TEST_F(HistoryToolsTest, UndoOnesOwnLastChangeByKeyboard) {
   Picture(Window(), "calendars-with-history");
   WalkToRow(Days(), 105);
-  AnswerQuestion("Undo in USD 2028: Excepted 15 April 2028: Move to the new building, third floor?", "Ok");
+  AnswerQuestion("Undo in USD 2028: Excepted 15 April 2028: Move to the new building, third floor?", "Undo");
   Press(Days(), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(ReasonOf(106), "-");
   Activate(Window());
-  AnswerQuestion("Undo in USD 2028: Excepted 14 April 2028: Stock-taking?", "Ok");
+  AnswerQuestion("Undo in USD 2028: Excepted 14 April 2028: Stock-taking?", "Undo");
   Press(Days(), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(ReasonOf(105), "-");
   ClickTool(Window(), "ID_History");

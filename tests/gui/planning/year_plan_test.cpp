@@ -1,5 +1,7 @@
 // The plan of a year as an operator has it: the real window over a real database with the delivered books.
 #include <QLabel>
+#include <QScrollBar>
+#include <QTest>
 
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/adapters/qt/table/table_view.h"
@@ -74,12 +76,13 @@ TEST_F(YearPlanTest, IsLookedAtAppliedAndUndoneByKeyboard) {
   Press(lines, Qt::Key_Down);
   Press(lines, Qt::Key_Space);
   EXPECT_EQ(Summary(window),
-            "GBP 2029: a new calendar, 111 days, 104 of them weekends, but not 1 day that is left out.");
+            "GBP 2029: a new calendar, 111 days, 104 of them weekends; unchanged: 1 day that is left out.");
   auto& apply = Find<QPushButton>(window, "cmdApply");
   TabTo(apply);
   Press(apply, Qt::Key_Space);
   EXPECT_EQ(HolidaysOf(kPound, 2029), "111");
-  EXPECT_THAT(RowTexts(Outcome(window)), ElementsAre("GBP 2029 is made but for 1 day that is left out."));
+  EXPECT_THAT(RowTexts(Outcome(window)),
+              ElementsAre("GBP 2029 is made but for 1 day that is left out. 111 days were changed."));
   EXPECT_TRUE(Outcome(window).isVisible());
   EXPECT_THAT(RowTexts(lines), ElementsAre(HasSubstr("Good Friday")));
   Picture(window, "year-plan-applied");
@@ -100,14 +103,14 @@ TEST_F(YearPlanTest, PreparesManyCalendarsAfterOneLook) {
   EXPECT_THAT(RowText(Lines(window), 0), AllOf(HasSubstr("USD 2028 | 25 December 2028"),
                                                HasSubstr("now open by exception: Stock-taking")));
   EXPECT_EQ(Summary(window),
-            "3 calendars: 339 days, 314 of them weekends, but not 1 working day by exception.");
+            "3 calendars: 339 days, 314 of them weekends; unchanged: 1 working day by exception.");
   Picture(window, "year-plan-many");
   ChooseItem(window, "cmbCalendar", "GBP 2028");
   EXPECT_THAT(RowTexts(Lines(window)), Not(Contains(HasSubstr("USD"))));
   ClickButton(window, "cmdApply");
   EXPECT_THAT(RowTexts(Outcome(window)),
-              ElementsAre("EUR 2028 is made.", "GBP 2028 is made.",
-                          "USD 2028 is as planned now but for 1 working day by exception."));
+              ElementsAre("EUR 2028 is made. 111 days were changed.", HasSubstr("GBP 2028 is made. "),
+                          HasSubstr("USD 2028 is as planned now but for 1 working day by exception. ")));
   EXPECT_EQ(HolidaysOf(kEuro, 2028), "111");
   Picture(window, "year-plan-many-applied");
   EXPECT_TRUE(desk_.IsDatabaseSound());
@@ -136,7 +139,22 @@ TEST_F(YearPlanTest, IsReadOnASmallScreenAndInTheDark) {
   }
   const auto& summary = Find<QLabel>(window, "lblSummary");
   EXPECT_GE(summary.height(), summary.heightForWidth(summary.width()));
+  EXPECT_FALSE(Lines(window).horizontalScrollBar()->isVisible());
   Picture(window, "year-plan-dark-small");
+}
+
+TEST_F(YearPlanTest, GoesNoFurtherWhenTheHostClosesItWhileItWorks) {
+  QWidget& window = OpenPlan({{kPound, 2028}, {kPound, 2029}, {kPound, 2030}, {kPound, 2031}});
+  script_.Expect("fmProgress", [this](QWidget& dialog) {
+    auto& step = Find<QLabel>(dialog, "lblStep");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return step.text().contains(QStringLiteral("3 of 4")); }));
+    EXPECT_TRUE(windows_.CloseAll());
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  ClickButton(window, "cmdApply");
+  EXPECT_EQ(WindowOnShow("fmYearPlan"), nullptr);
+  QTest::qWait(100);
+  EXPECT_EQ(desk_.ReadOne("SELECT count(*) FROM CldCalendar WHERE ID1 = 826"), "2");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "ferrowind/adapters/qt/services/qt_clock.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
+#include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {

@@ -43,6 +43,23 @@ TEST_F(SettingsStoreTest, OfAUserIsTheFileThatTheGuideNames) {
   EXPECT_TRUE(guide.readAll().contains("`~/.config/Tessaro/Ferrowind.conf`"));
 }
 
+TEST_F(SettingsStoreTest, OfAProgramIsAFileOfItsOwnAndNamedAsThatWishes) {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
+  const QString before = QCoreApplication::applicationName();
+  SettingsStore store = SettingsStore::OfProgram();
+  QCoreApplication::setApplicationName("Back office");
+  store.Write("Section", "Left", "x");
+  EXPECT_TRUE(QFile::exists(folder_.filePath("Tessaro/Back office.conf")));
+  QCoreApplication::setOrganizationName("Bank");
+  EXPECT_EQ(store.Read("Section", "Left"), std::nullopt);
+  store.Write("Section", "Left", "y");
+  EXPECT_TRUE(QFile::exists(folder_.filePath("Bank/Back office.conf")));
+  EXPECT_FALSE(QFile::exists(folder_.filePath("Tessaro/Ferrowind.conf")));
+  QCoreApplication::setOrganizationName({});
+  QCoreApplication::setApplicationName(before);
+  EXPECT_EQ(SettingsStore().Read("Section", "Left"), std::nullopt);
+}
+
 TEST_F(SettingsStoreTest, HasNothingUnderANameThatWasNeverWritten) {
   Store().Write("Section", "Left", "x");
   EXPECT_EQ(Store().Read("Section", "Top"), std::nullopt);
@@ -66,6 +83,24 @@ TEST_F(SettingsStoreTest, KeepsAnyText) {
   const std::string text = "line\r\nnext, \"quoted\"; \\ \0 \xC3\xA4 \xE2\x82\xAC"s;
   Store().Write("Section", "Text", text);
   EXPECT_EQ(Store().Read("Section", "Text"), Value(text));
+}
+
+/// Each of them, unpacked, is a list of more than two billion values.
+TEST_F(SettingsStoreTest, UnpacksNothingAndSetsAFileAsideThatHoldsPackedValues) {
+  for (const QByteArray& value : {QByteArray("@Variant(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)"),
+                                  QByteArray("\"@Var\"iant(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)"),
+                                  QByteArray("\\x40\\126\\qariant(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)"),
+                                  QByteArray("@DateTime(\\0\\0\\0\\x9)")}) {
+    const QByteArray content = "[Section]\nLeft=1\nTop=" + value + "\n";
+    WriteFile(content);
+    EXPECT_EQ(Store().Read("Section", "Top"), std::nullopt) << content.data();
+    EXPECT_EQ(Store().Read("Section", "Left"), std::nullopt) << content.data();
+    Store().Write("Section", "Left", "2");
+    EXPECT_EQ(Store().Read("Section", "Left"), Value("2"));
+    QFile file(path_ + ".refused");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), content);
+  }
 }
 
 TEST_F(SettingsStoreTest, ReadsATextWithCommasThatWasWrittenByHand) {

@@ -1,10 +1,12 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -283,6 +285,37 @@ TEST_F(GridServicesTest, CopiesAllRowsWhenNoneIsSelected) {
   EXPECT_TRUE(copied.contains("Name\tType")) << copied.toStdString();
   EXPECT_TRUE(copied.contains("b\t1")) << copied.toStdString();
   EXPECT_TRUE(copied.contains("c\t3")) << copied.toStdString();
+}
+
+/// As a host writes it that keeps its settings elsewhere.
+class ServicesWithOwnStore : public QtSharedServices {
+ public:
+  using QtSharedServices::QtSharedServices;
+  [[nodiscard]] Value ReadSetting(const std::string& section, const std::string& name, const Value& /*user*/,
+                                  const Value& default_value) override {
+    const auto found = stored.find(section + "/" + name);
+    return found == stored.end() ? default_value : found->second;
+  }
+  void WriteSetting(const std::string& section, const std::string& name, const Value& value) override {
+    stored[section + "/" + name] = value;
+  }
+  std::map<std::string, Value> stored;
+};
+
+TEST_F(SharedServicesTest, WithAStoreOfTheHostKeepLayoutsThereAlone) {
+  ServicesWithOwnStore services(settings_);
+  GridWidget widget;
+  widget.setObjectName("gex");
+  QtGrid grid(widget);
+  grid.AddColumn("Name", 0, 1, "Name");
+  services.LoadGridLayout(grid, "Calendar\\Layout");
+  grid.ColumnByKey("Name").SetVisible(false);
+  services.SaveGridLayout(grid, "Calendar\\Layout");
+  EXPECT_EQ(services.stored.count("Calendar\\Layout/Layout"), 1U);
+  EXPECT_FALSE(QFile::exists(folder_.filePath("settings.ini")));
+  grid.ColumnByKey("Name").SetVisible(true);
+  services.LoadGridLayout(grid, "Calendar\\Layout");
+  EXPECT_FALSE(grid.ColumnByKey("Name").Visible());
 }
 
 }  // namespace

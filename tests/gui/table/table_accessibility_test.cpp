@@ -79,9 +79,16 @@ TEST_F(TableAccessibilityTest, MakesARowCurrentForAnAssistiveTool) {
   EXPECT_EQ(table_->CurrentRow(), "b");
 }
 
-TEST_F(TableAccessibilityTest, SaysWhyItIsEmpty) {
+TEST_F(TableAccessibilityTest, SaysWhyItIsEmptyForAsLongAsItIs) {
+  table_->SetRows({});
   table_->SetEmptyText("No findings");
   EXPECT_EQ(Description(View()), "No findings");
+  table_->SetRows({Row("a", "A")});
+  EXPECT_EQ(Description(View()), "");
+  table_->SetEmptyText("Nothing at all");
+  EXPECT_EQ(Description(View()), "");
+  table_->SetRows({});
+  EXPECT_EQ(Description(View()), "Nothing at all");
 }
 
 }  // namespace

@@ -33,12 +33,52 @@ TEST_F(TableComfortTest, GrowsWithTheRowsThatItGetsAndNeverShrinks) {
   EXPECT_EQ(view_->columnWidth(0) + width + view_->columnWidth(2), view_->viewport()->width());
 }
 
-TEST_F(TableComfortTest, LeavesMostOfItsRoomToTheColumnsThatStretchWhateverIsLongBesideThem) {
-  table_->SetRows({Row("a", "A name of such a length that hardly any room would be left beside it", "x")});
+TEST_F(TableComfortTest, LeavesMostOfItsRoomToTheColumnsThatStretchAndLackIt) {
+  const std::string name = "A name of such a length that hardly any room would be left beside it";
+  view_->resize(560, 300);
+  table_->SetRows({Row("a", name, std::string(100, 'w'))});
   EXPECT_LE(view_->columnWidth(1), 240);
   EXPECT_GT(view_->columnWidth(1), view_->fontMetrics().horizontalAdvance("A name of such a"));
   view_->resizeColumnToContents(1);
   EXPECT_GT(view_->columnWidth(1), 240) << "a double click on its edge shows all of it";
+}
+
+TEST_F(TableComfortTest, ShowsALongNameInFullWhileTheColumnsThatStretchHaveRoom) {
+  const std::string name = "The national day of independence and unity";
+  const int needed = view_->fontMetrics().horizontalAdvance(QString::fromStdString(name)) + 14;
+  ASSERT_GT(needed, 240);
+  table_->SetRows({Row("a", name, std::string(100, 'w'))});
+  EXPECT_LT(view_->columnWidth(1), needed);
+  view_->resize(900, 300);
+  EXPECT_GE(view_->columnWidth(1), needed);
+  view_->resize(620, 300);
+  EXPECT_LT(view_->columnWidth(1), needed);
+}
+
+TEST_F(TableComfortTest, StretchesTheRestStillWhenTheOperatorHasGivenAColumnAWidth) {
+  table_->SetRows({Row("a", "Name", "x")});
+  TableHeader& header = view_->Header();
+  const int edge = header.sectionViewportPosition(0) + header.sectionSize(0) - 1;
+  QTest::mousePress(header.viewport(), Qt::LeftButton, {}, {edge, header.height() / 2});
+  QTest::mouseMove(header.viewport(), {edge + 40, header.height() / 2});
+  QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, {edge + 40, header.height() / 2});
+  view_->resize(900, 300);
+  EXPECT_EQ(view_->columnWidth(0) + view_->columnWidth(1) + view_->columnWidth(2),
+            view_->viewport()->width());
+}
+
+TEST_F(TableComfortTest, KeepsTheWidthOfADoubleClickOnTheEdge) {
+  const std::string long_text = "A text of such a length that hardly any room would be left beside it, none";
+  table_->SetRows({Row("a", long_text, long_text)});
+  const int given = view_->columnWidth(1);
+  TableHeader& header = view_->Header();
+  const QPoint edge(header.sectionViewportPosition(1) + header.sectionSize(1) - 1, header.height() / 2);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, edge);
+  QTest::mouseDClick(header.viewport(), Qt::LeftButton, {}, edge);
+  const int width = view_->columnWidth(1);
+  EXPECT_GT(width, given);
+  view_->resize(630, 300);
+  EXPECT_EQ(view_->columnWidth(1), width);
 }
 
 TEST_F(TableComfortTest, KeepsAWidthThatTheOperatorGave) {
@@ -80,6 +120,15 @@ TEST_F(TableComfortTest, FindsARowOfCellsByItsFirstOneAndStaysInItsColumn) {
 TEST_F(TableComfortTest, LeavesTabToTheWindow) {
   table_->SetRows({Row("1", "a"), Row("2", "b")});
   Press(Qt::Key_Tab);
+  EXPECT_EQ(table_->CurrentRow(), "1");
+}
+
+TEST_F(TableComfortTest, GoesToTheFirstAndTheLastRowByHomeAndEnd) {
+  table_->SetRows({Row("1", "a"), Row("2", "b"), Row("3", "c")});
+  Press(Qt::Key_End);
+  EXPECT_EQ(table_->CurrentRow(), "3");
+  EXPECT_THAT(table_->SelectedRows(), ElementsAre("3"));
+  Press(Qt::Key_Home);
   EXPECT_EQ(table_->CurrentRow(), "1");
 }
 

@@ -320,5 +320,46 @@ TEST_F(DayGridTest, GroupsByTheNamesOfTheMonthsInTheirOrder) {
   EXPECT_EQ(GroupText(11), "Month name: December (31)");
 }
 
+/// The columns of a host over the same days.
+class HostColumnsTest : public WindowsTest {
+ protected:
+  HostColumnsTest() {
+    desk_.Call("CldIUMain", {kDollar, 2028, 3, 4, 1, Date(2028, 1, 1), {}});
+    headers_->Add("Rule", "ID2", "Rule number");
+    headers_->Add("Weekday", "Weekday", "Weekday");
+    headers_->LocalNames("Weekday")->SetFunction([](const platform::RecordSet& day) {
+      return platform::Value(platform::ToDate(day["ODate"]).Weekday());
+    });
+    OpenDollar2028();
+    Window().resize(1800, 900);
+    QCoreApplication::processEvents();
+  }
+  std::shared_ptr<GridFields> headers_ = Control().Headers();
+};
+
+TEST_F(HostColumnsTest, ShowAFieldThatTheDatabaseGivesAndWhatTheHostComputes) {
+  EXPECT_EQ(CellText(Days(), 0, "Rule number"), "4");
+  EXPECT_EQ(CellText(Days(), 1, "Rule number"), "");
+  EXPECT_EQ(CellText(Days(), 0, "Weekday"), "7");
+  EXPECT_EQ(CellText(Days(), 1, "Weekday"), "1");
+}
+
+TEST_F(HostColumnsTest, AreSortedByWhatTheHostComputes) {
+  ClickHeader(Days(), "Weekday");
+  EXPECT_EQ(CellText(Days(), 0, "Weekday"), "7");
+  EXPECT_EQ(CellText(Days(), 52, "Weekday"), "7");
+  EXPECT_EQ(CellText(Days(), 53, "Weekday"), "6");
+}
+
+TEST_F(HostColumnsTest, TakeCaptionsAndVisibilityWhileTheWindowIsOpen) {
+  headers_->LocalNames("Month")->SetCaption("Number of the month");
+  EXPECT_EQ(CellText(Days(), 0, "Number of the month"), "1");
+  const int comment = ColumnOf(Days(), "Comment");
+  headers_->LocalNames("Comment")->SetVisible(false);
+  EXPECT_TRUE(Days().Header().isSectionHidden(comment));
+  headers_->LocalNames("Comment")->SetVisible(true);
+  EXPECT_FALSE(Days().Header().isSectionHidden(comment));
+}
+
 }  // namespace
 }  // namespace ferrowind::gui

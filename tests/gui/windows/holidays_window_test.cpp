@@ -315,14 +315,20 @@ TEST_F(HolidaysWindowTest, RefusesToEditSeveralRules) {
   });
 }
 
-TEST_F(HolidaysWindowTest, KeepsANameOfTenThousandCharacters) {
+TEST_F(HolidaysWindowTest,
+       KeepsANameOfTenThousandCharactersFromBeforeThereWereLimitsAndSaysWhyItStoresNoneAnew) {
   const std::string name(10000, 'n');
   desk_.Call("CldIUCelebrate",
-             {name, "", 3, {}, platform::Date(2028, 3, 3), std::int16_t{3}, std::int16_t{3}, {}, {}});
+             {"Short", "", 3, {}, platform::Date(2028, 3, 3), std::int16_t{3}, std::int16_t{3}, {}, {}});
+  desk_.Execute("UPDATE CldHoliday SET Name1 = '" + name + "' WHERE MY = 3 AND MD = 3");
   ForCalendar([&](QWidget& holidays) {
     WalkToRule(holidays, name);
     script_.Expect("fmAddHoliday", [&](QWidget& editor) {
-      EXPECT_EQ(Find<QLineEdit>(editor, "txtName").text().size(), 10000);
+      auto& box = Find<QLineEdit>(editor, "txtName");
+      EXPECT_EQ(box.text().size(), 10000);
+      EXPECT_TRUE(box.accessibleDescription().contains("200")) << "the field says how long it may be";
+      ExpectMessage(::testing::HasSubstr("The name has 10000 characters; it may have 200 at most"));
+      ExpectMessage("Tessaro Calendar. Can't add holiday to database");
       ClickButton(editor, "cmdOk");
     });
     ClickButton(holidays, kEdit);

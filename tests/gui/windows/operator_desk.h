@@ -47,11 +47,14 @@ class OperatorDesk {
   [[nodiscard]] const platform::Platform& Platform() const { return platform_; }
   /// For windows that are opened from now on; null for none.
   void SetAdditions(platform::Additions* additions) { platform_.additions = additions; }
+  void SetChangeWatches(platform::ChangeWatchFactory* watches) { platform_.change_watches = watches; }
   [[nodiscard]] const HeardToolkit& Toolkit() const { return toolkit_; }
   [[nodiscard]] const std::string& Folder() const { return folder_.Path(); }
   [[nodiscard]] std::string DatabasePath() const { return Folder() + "/calendars.db"; }
   [[nodiscard]] std::string SettingsPath() const { return Folder() + "/settings.ini"; }
 
+  /// Runs SQL by which a database becomes the one that the test is about, before an operator does anything.
+  void BeginWith(const std::string& sql);
   /// Runs SQL on a connection of its own.
   void Execute(const std::string& sql) const;
   /// The rows that a connection of its own reads: the cells of each as text with "|" between them, NULL as
@@ -61,11 +64,14 @@ class OperatorDesk {
   [[nodiscard]] std::string ReadOne(const std::string& sql) const;
   /// Calls a procedure by position, which must return 0.
   void Call(const std::string& procedure, const std::vector<platform::Value>& inputs);
-  /// Whether the database passes its own check; what is wrong with it fails the test.
+  /// Whether the database passes its own check; what is wrong with it fails the test. That no call has made
+  /// the rules which the desk began with is known.
   [[nodiscard]] bool IsDatabaseSound() const;
 
  private:
   contract::TemporaryFolder folder_;
+  /// What the check finds in the database that the desk begins with.
+  std::vector<std::string> known_problems_;
   std::shared_ptr<sqlite::Engine> engine_;
   platform::EngineRegistry engines_;
   platform::EngineCommandFactory commands_{engines_};

@@ -43,10 +43,10 @@ constexpr Qt::KeyboardModifiers kModifiers[] = {Qt::NoModifier,
 constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
                                         Qt::MiddleButton};
 /// Of the tools of planning.
-const char* const kShortcuts[] = {"Ctrl+B",   "Ctrl+D",       "Ctrl+E", "Ctrl+F",       "Ctrl+H",
-                                  "Ctrl+I",   "Ctrl+L",       "Ctrl+P", "Ctrl+S",       "Ctrl+W",
-                                  "Ctrl+Z",   "Ctrl+Shift+S", "F5",     "Ctrl+Shift+Y", "Ctrl+Shift+Z",
-                                  "Alt+PgUp", "Alt+PgDown"};
+const char* const kShortcuts[] = {"Ctrl+B",       "Ctrl+D",   "Ctrl+E",       "Ctrl+Shift+E", "Ctrl+F",
+                                  "Ctrl+H",       "Ctrl+I",   "Ctrl+L",       "Ctrl+P",       "Ctrl+S",
+                                  "Ctrl+W",       "Ctrl+Z",   "Ctrl+Shift+S", "F5",           "Ctrl+Shift+Y",
+                                  "Ctrl+Shift+Z", "Alt+PgUp", "Alt+PgDown"};
 const char* const kTexts[] = {
     "2028", "abc",     "",         "Christmas",  "USD",      "9",        "\xc3\xa4\xe2\x82\xac",
     "  ",   "'\";--%", "14 April", "2028-12-25", "easter-2", "EUR, USD", "last Monday of 5"};

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 
 #include "ferrowind/adapters/qt/table/table_view.h"
 #include "ferrowind/almanac/book_text.h"
@@ -78,6 +79,34 @@ TEST_F(RuleBookWindowTest, AddsARuleByKeyboardAndStoresIt) {
               ElementsAre("4|Good Friday|4|easter-2", "5|Christmas Eve|3|12-24", "6|Christmas Day|3|12-25"));
 }
 
+TEST_F(RuleBookWindowTest, ScrollsNoTableSidewaysOnASmallScreen) {
+  window_->resize(790, 570);
+  WalkTo(2);
+  TypeInto(*window_, "txtName", "Juneteenth National Independence Day");
+  TypeInto(*window_, "txtExpression", "06-19 saturday to friday, sunday to monday from 2022");
+  QCoreApplication::processEvents();
+  for (const auto* table : window_->findChildren<qt::TableView*>()) {
+    EXPECT_FALSE(table->horizontalScrollBar()->isVisible())
+        << table->objectName().toStdString() << " of " << table->viewport()->width();
+  }
+  Reset(2, "01-01");
+  TypeInto(*window_, "txtName", "New Year's Day");
+}
+
+TEST_F(RuleBookWindowTest, ShowsAllOfItsRulesWithoutScrollingSidewaysAtItsOrdinarySize) {
+  // Wider than the screen of these tests.
+  window_->resize(1040, 660);
+  WalkTo(2);
+  TypeInto(*window_, "txtName", "Juneteenth National Independence Day");
+  TypeInto(*window_, "txtExpression", "06-19 saturday to friday, sunday to monday from 2022");
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(Rules().horizontalScrollBar()->isVisible()) << Rules().width();
+  EXPECT_GE(Rules().columnWidth(0), 140);
+  EXPECT_GE(Rules().columnWidth(2), 140);
+  TypeInto(*window_, "txtName", "New Year's Day");
+  TypeInto(*window_, "txtExpression", "01-01");
+}
+
 TEST_F(RuleBookWindowTest, AddsNoRuleByEnterInAField) {
   WalkTo(3);
   const int rules = Rules().model()->rowCount();
@@ -136,7 +165,7 @@ TEST_F(RuleBookWindowTest, AsksBeforeEscLosesChanges) {
   AnswerQuestion(question, "Cancel");
   Press(Box("txtDocument"), Qt::Key_Escape);
   EXPECT_TRUE(window_->isVisible());
-  AnswerQuestion(question, "Ok");
+  AnswerQuestion(question, "Lose them");
   Press(Box("txtDocument"), Qt::Key_Escape);
   EXPECT_EQ(WindowOnShow("fmRuleBook"), nullptr);
 }

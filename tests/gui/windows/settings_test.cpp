@@ -168,5 +168,18 @@ TEST_F(WindowSettingsTest, ThatCannotBeWrittenDoNotKeepTheWindowOpen) {
   EXPECT_FALSE(IsOpen());
 }
 
+TEST_F(WindowSettingsTest, HideNoColumnAndShowNoneAgainstTheHost) {
+  OpenCalendars();
+  CloseCalendars();
+  ASSERT_TRUE(Stored(kLayout).isValid());
+  Control().Headers()->LocalNames("Comment")->SetVisible(false);
+  OpenDollar2028();
+  EXPECT_TRUE(Days().Header().isSectionHidden(ColumnOf(Days(), "Comment")));
+  CloseCalendars();
+  Control().Headers()->LocalNames("Comment")->SetVisible(true);
+  OpenDollar2028();
+  EXPECT_FALSE(Days().Header().isSectionHidden(ColumnOf(Days(), "Comment")));
+}
+
 }  // namespace
 }  // namespace ferrowind::gui

@@ -6,7 +6,7 @@
 namespace ferrowind::gui {
 
 WindowsTest::WindowsTest(OperatorDesk::Rules rules) : desk_(rules) {
-  desk_.Execute("DELETE FROM DicCcy WHERE Ccy NOT IN ('EUR', 'GBP', 'USD')");
+  desk_.BeginWith("DELETE FROM DicCcy WHERE Ccy NOT IN ('EUR', 'GBP', 'USD')");
   CreateCalendar(kEuro, 2026);
   CreateCalendar(kDollar, 2027);
   CreateCalendar(kDollar, 2028);

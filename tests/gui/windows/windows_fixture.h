@@ -32,6 +32,7 @@ class WindowsTest : public ::testing::Test {
   void ShowCalendars() { control_->Show(); }
   /// Shows it and waits until it has the focus.
   void OpenCalendars();
+  [[nodiscard]] Calendar& Control() const { return *control_; }
   /// As the host does when it closes itself.
   bool ForceClosing() { return control_->ForceClosing(); }
   /// The close box of a window.

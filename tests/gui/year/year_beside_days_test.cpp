@@ -66,6 +66,23 @@ TEST_F(YearBesideDaysTest, ComesAndGoesByItsKeys) {
   EXPECT_FALSE(Year().isVisible());
 }
 
+TEST_F(YearBesideDaysTest, ShowsItsCurrentDayHoweverLateItGetsItsSize) {
+  Window().resize(700, 420);
+  WalkToRow(Days(), 200);
+  ShowYear();
+  QCoreApplication::sendPostedEvents();
+  const auto is_in_sight = [] {
+    return Year().viewport()->rect().contains(Year().RectOf(*Year().Cursor().Current()));
+  };
+  EXPECT_TRUE(is_in_sight());
+  Window().resize(900, 380);
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(is_in_sight());
+  Window().resize(1000, 500);
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(is_in_sight());
+}
+
 TEST_F(YearBesideDaysTest, GoesThroughTheGridByTheKeysOfTheYear) {
   WalkToRow(Days(), 104);
   ShowYear();

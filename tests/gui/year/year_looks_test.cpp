@@ -4,12 +4,15 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
+#include <set>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/look/contrast.h"
 #include "ferrowind/adapters/qt/look/theme.h"
+#include "ferrowind/adapters/qt/year/day_places.h"
 #include "ferrowind/adapters/qt/year/year_colors.h"
 #include "ferrowind/adapters/qt/year/year_layout.h"
 #include "ferrowind/adapters/qt/year/year_pane.h"
@@ -132,6 +135,81 @@ TEST_P(YearLookTest, TodayAndTheCurrentDayStandOut) {
   EXPECT_NE(plain, as_today);
   EXPECT_NE(plain, as_current);
   EXPECT_NE(as_today, as_current);
+}
+
+/// The places of the pixels that the pictures have otherwise, by at least that contrast.
+std::set<std::pair<int, int>> InkOf(const QImage& before, const QImage& after, double contrast) {
+  std::set<std::pair<int, int>> ink;
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
+      if (Contrast(QColor(before.pixel(x, y)), QColor(after.pixel(x, y))) >= contrast) ink.insert({x, y});
+    }
+  }
+  return ink;
+}
+
+TEST_P(YearLookTest, LettersAreWholeInTheFrameOfTheCurrentDayAndTheRingOfToday) {
+  // As wide as on a screen of 800 x 600, and in rooms where days are wider.
+  for (const QSize size : {QSize(780, 450), QSize(780, 520), QSize(960, 620), QSize(1300, 650)}) {
+    YearWidget widget;
+    widget.resize(size);
+    widget.show();
+    const int day = platform::Date(2028, 12, 26).DayOfYear();
+    // The days around it, too, since a letter that stands out of its cell is cut as well.
+    const auto picture_of = [&](const char* letter, bool is_current, bool is_today) {
+      auto content = SmallYear({"EUR"});
+      content.legend = {{{DayTint::kRed, platform::DayShape::kSquare, "C"}, ""}};
+      content.calendars[0].days = {
+          {static_cast<std::int16_t>(day), {DayTint::kRed, platform::DayShape::kSquare, letter}, ""}};
+      if (is_today) content.today = static_cast<std::int16_t>(day);
+      widget.Pane().SetDays(YearDays(content));
+      widget.Pane().GoTo({0, is_current ? day : 20});
+      widget.Pane().setFocus();
+      const QRect cell = widget.Pane().RectOf({0, day});
+      return widget.Pane().viewport()->grab(cell.adjusted(-6, -6, 6, 6)).toImage();
+    };
+    const QRect cell(QPoint(6, 6), widget.Pane().RectOf({0, day}).size());
+    const auto letter = InkOf(picture_of("", false, false), picture_of("C", false, false), 2);
+    ASSERT_FALSE(letter.empty());
+    // Grounds differ, and shades at the edges of the letter with them.
+    const auto as_current = InkOf(picture_of("", true, false), picture_of("C", true, false), 1.2);
+    const auto as_today = InkOf(picture_of("", false, true), picture_of("C", false, true), 1.2);
+    for (const auto& place : letter) {
+      const std::string at = std::to_string(place.first) + ", " + std::to_string(place.second) + " at " +
+                             std::to_string(size.width());
+      EXPECT_TRUE(cell.contains(place.first, place.second)) << at;
+      EXPECT_TRUE(as_current.contains(place)) << at;
+      EXPECT_TRUE(as_today.contains(place)) << at;
+    }
+  }
+}
+
+TEST(DayPlacesTest, KeepNumberLetterMarkAndFrameApart) {
+  const YearDays days(SmallYear({"EUR"}));
+  for (const double points : {7.0, 9.0, 12.0, 18.0}) {
+    QFont font = QApplication::font();
+    font.setPointSizeF(points);
+    const YearMetrics metrics(days, font, QLocale::c());
+    EXPECT_GT(metrics.letter_size.width(), 0);
+    for (double width = 1; width < 2; width += 0.05) {
+      const QRectF cell(QPointF(3, 5),
+                        QSizeF(metrics.least_cell.width() * width, metrics.least_cell.height()));
+      const DayPlaces places(metrics, cell);
+      const QRectF inside = cell.adjusted(metrics.frame, metrics.frame, -metrics.frame, -metrics.frame)
+                                .adjusted(-0.01, -0.01, 0.01, 0.01);
+      QRectF number(0, 0, metrics.number_width, metrics.number_ascent * 0.8);
+      number.moveCenter(places.number.center());
+      QRectF letter(QPointF(0, 0), metrics.letter_size);
+      letter.moveCenter(places.letter.center());
+      for (const QRectF& part : {number, letter, places.mark}) EXPECT_TRUE(inside.contains(part)) << width;
+      const auto apart = [](const QRectF& one, const QRectF& other) {
+        return !one.intersects(other.adjusted(0.01, 0.01, -0.01, -0.01));
+      };
+      EXPECT_TRUE(apart(number, letter)) << width;
+      EXPECT_TRUE(apart(number, places.mark)) << width;
+      EXPECT_TRUE(apart(letter, places.mark)) << width;
+    }
+  }
 }
 
 TEST(YearLayoutTest, FindsEveryDayWhereItIs) {

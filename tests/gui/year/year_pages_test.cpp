@@ -60,6 +60,25 @@ TEST_F(YearPagesTest, TellTenCalendarsTogetherOnOnePage) {
   EXPECT_LE(PagesOf(text), 2);
 }
 
+TEST_F(YearPagesTest, TellAFewCalendarsTogetherOnOnePage) {
+  for (const std::vector<std::string>& few :
+       {std::vector<std::string>{"EUR", "USD"}, {"EUR", "GBP", "USD"}}) {
+    SavePdf(SmallYear(few));
+    EXPECT_EQ(PagesOf(TextOf(File("year.pdf"))), 1) << few.size() << " calendars";
+  }
+}
+
+TEST_F(YearPagesTest, NameTheYearAndTheNumberOfThePageOnFurtherPages) {
+  auto content = SmallYear({"EUR"});
+  content.notes.clear();
+  for (std::int16_t day = 1; day <= 366; ++day) content.notes.push_back({day, "Note"});
+  SavePdf(content);
+  const std::string text = TextOf(File("year.pdf"));
+  const std::size_t second = text.find('\f') + 1;
+  const std::string head = text.substr(second, text.find('\n', second) - second);
+  EXPECT_THAT(head, AllOf(::testing::StartsWith("EUR 2028"), ::testing::EndsWith("2")));
+}
+
 TEST_F(YearPagesTest, GoOnOnFurtherPagesWithMoreCalendarsAndNotes) {
   std::vector<std::string> many;
   for (int i = 0; i < 60; ++i) many.push_back("C" + std::to_string(i));

@@ -64,7 +64,7 @@ class YearPlannerTest : public WindowsTest {
 TEST_F(YearPlannerTest, ShowsAYearWithItsCounters) {
   OpenPlanner({kDollar}, 2028);
   EXPECT_EQ(Planner().windowTitle(), QStringLiteral("Year planner - USD 2028"));
-  EXPECT_EQ(Summary(), "260 working days, 106 weekend days, 0 holidays");
+  EXPECT_EQ(Summary(), "Weekends only: 260 working days, 106 weekend days, 0 holidays");
   EXPECT_TRUE(Pane().hasFocus());
   Planner().close();
 }
@@ -145,7 +145,7 @@ TEST_F(YearPlannerTest, ShowsSeveralCurrenciesWithADayForEachAndForAll) {
   CreateCalendar(kEuro, 2028);
   OpenPlanner({kDollar, kEuro}, 2028);
   EXPECT_EQ(Pane().Days().CalendarCount(), 3);
-  EXPECT_EQ(Summary(), "Open together on 260 days");
+  EXPECT_EQ(Summary(), "Open together on 260 days as far as known; not prepared: EUR; weekends only: USD");
   // A day of the row of all stands for that day of each.
   Press(Pane(), Qt::Key_Home, Qt::ControlModifier);
   EXPECT_EQ(Status(), "2 days selected, 1 of them closed");

@@ -17,17 +17,23 @@ using platform::Date;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+std::vector<std::string> InEnglish(const std::vector<platform::Phrase>& phrases) {
+  std::vector<std::string> sentences;
+  for (const platform::Phrase& phrase : phrases) sentences.push_back(phrase.InEnglish());
+  return sentences;
+}
+
 std::vector<std::string> Faults(const RuleBook& book) {
   DateTables tables;
   tables.Add({"feast", 2025, 2026, {Date(2025, 5, 5), Date(2026, 5, 6)}});
   tables.Add({"empty", 2025, 2026, {}});
-  return FaultsOf(book, tables);
+  return InEnglish(FaultsOf(book, tables));
 }
 
 std::vector<std::string> FaultsOfRules(const std::string& rules) { return Faults(BookWithWeekends(rules)); }
 
 std::vector<std::string> FaultsBetweenRules(const std::string& euro, const std::string& dollar) {
-  return FaultsBetween({{"EUR", BookOf(euro)}, {"USD", BookOf(dollar)}});
+  return InEnglish(FaultsBetween({{"EUR", BookOf(euro)}, {"USD", BookOf(dollar)}}));
 }
 
 TEST(BookFaults, AreNoneInABookOfEveryForm) {
@@ -219,17 +225,17 @@ TEST(BookFaultsBetweenBooks, TellOfAllBooksThatANameClashesWithInOneSentence) {
   const RuleBook twice = BookOf("celebration | A | 01-01 to 2020\ncelebration | A | 01-01 from 2021");
   std::vector<NamedBook> others = {{"AUD", twice}};
   const std::vector<NamedBook> point = {{"THB", BookOf("point | B | easter\npoint | A | easter"), {5, 7}}};
-  EXPECT_THAT(FaultsBetween(point, others),
+  EXPECT_THAT(InEnglish(FaultsBetween(point, others)),
               ElementsAre("\"A\" is a point in line 7 of THB and a celebration in AUD: a name has one kind"));
   others.push_back({"CAD", twice});
   others.push_back({"CHF", twice});
   EXPECT_THAT(
-      FaultsBetween(point, others),
+      InEnglish(FaultsBetween(point, others)),
       ElementsAre("\"A\" is a point in line 7 of THB and a celebration in AUD, CAD and CHF: a name has "
                   "one kind"));
   others.push_back({"DKK", twice});
   EXPECT_THAT(
-      FaultsBetween(point, others),
+      InEnglish(FaultsBetween(point, others)),
       ElementsAre("\"A\" is a point in line 7 of THB and a celebration in AUD, CAD and 2 others: a name "
                   "has one kind"));
 }
@@ -238,17 +244,18 @@ TEST(BookFaultsBetweenBooks, AreNotThoseOfOtherBooksAlone) {
   const std::vector<NamedBook> others = {{"EUR", BookOf("point | A | easter")},
                                          {"USD", BookOf("celebration | A | 01-01")}};
   EXPECT_THAT(FaultsBetween({{"THB", BookOf("point | B | easter")}}, others), IsEmpty());
-  EXPECT_THAT(FaultsBetween({{"THB", BookOf("point | A | easter")}}, others),
+  EXPECT_THAT(InEnglish(FaultsBetween({{"THB", BookOf("point | A | easter")}}, others)),
               ElementsAre("\"A\" is a point in THB and EUR and a celebration in USD: a name has one kind"));
 }
 
 TEST(BookFaults, NameTheLinesOfATextInWhichTheRulesStand) {
-  EXPECT_THAT(FaultsOf(BookWithWeekends("point | A | table fast\npoint | B | easter\npoint | B | easter\n"
-                                        "celebration | B | 01-01\n"),
-                       {}, {4, 5, 7, 8, 11, 12}),
-              ElementsAre("Line 7 (A) asks for the table fast, and there is none of that name",
-                          "Line 11 (B) says the same as line 8",
-                          "\"B\" is a point in line 8 and a celebration in line 12: a name has one kind"));
+  EXPECT_THAT(
+      InEnglish(FaultsOf(BookWithWeekends("point | A | table fast\npoint | B | easter\npoint | B | easter\n"
+                                          "celebration | B | 01-01\n"),
+                         {}, {4, 5, 7, 8, 11, 12})),
+      ElementsAre("Line 7 (A) asks for the table fast, and there is none of that name",
+                  "Line 11 (B) says the same as line 8",
+                  "\"B\" is a point in line 8 and a celebration in line 12: a name has one kind"));
 }
 
 TEST(BookFaultsBetweenBooks, AreNoneForSharedNamesOrFaultsWithinABook) {

@@ -50,7 +50,7 @@ TEST(DateExpressionProperty, AnErrorNamesAPlaceInTheText) {
       ++refused;
       ASSERT_GE(error.Place(), 1U) << text;
       ASSERT_LE(error.Place(), text.size() + 1) << text;
-      ASSERT_FALSE(error.Expectation().empty());
+      ASSERT_FALSE(error.Expectation().IsEmpty());
     }
   }
   EXPECT_GT(refused, 5'000);

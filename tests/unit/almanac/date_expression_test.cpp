@@ -28,7 +28,7 @@ void ExpectRefused(const std::string& text, std::size_t place, const std::string
     ADD_FAILURE() << text << " is taken as " << normal_form;
   } catch (const ExpressionError& error) {
     EXPECT_EQ(error.Place(), place) << text;
-    EXPECT_EQ(error.Expectation(), expectation) << text;
+    EXPECT_EQ(error.Expectation().InEnglish(), expectation) << text;
     EXPECT_EQ(error.Description(), '"' + text + "\" is no date expression: at " + std::to_string(place) +
                                        ", " + expectation + " is expected");
     EXPECT_EQ(error.Number(), platform::failure_number::kInvalidArgument);
@@ -327,11 +327,14 @@ TEST(DateExpressionError, RefusesATextOfAnyLength) {
 }
 
 TEST(DateExpressionError, QuotesAnyBytesAsUtf8OnOneLine) {
-  EXPECT_STREQ(ExpressionError("a\nb", 1, "x").what(), "\"a b\" is no date expression: at 1, x is expected");
-  EXPECT_STREQ(ExpressionError("\xC3(", 1, "x").what(), "\"?(\" is no date expression: at 1, x is expected");
-  EXPECT_STREQ(ExpressionError("\xC3\xA4", 1, "x").what(),
+  EXPECT_STREQ(ExpressionError("a\nb", 1, std::string("x")).what(),
+               "\"a b\" is no date expression: at 1, x is expected");
+  EXPECT_STREQ(ExpressionError("\xC3(", 1, std::string("x")).what(),
+               "\"?(\" is no date expression: at 1, x is expected");
+  EXPECT_STREQ(ExpressionError("\xC3\xA4", 1, std::string("x")).what(),
                "\"\xC3\xA4\" is no date expression: at 1, x is expected");
-  const std::string cut = ExpressionError(std::string(199, 'a') + "\xC3\xA4", 1, "x").Description();
+  const std::string cut =
+      ExpressionError(std::string(199, 'a') + "\xC3\xA4", 1, std::string("x")).Description();
   EXPECT_EQ(cut, '"' + std::string(199, 'a') + "...\" is no date expression: at 1, x is expected");
 }
 

@@ -9,7 +9,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/headless/headless_button.h"
 #include "ferrowind/adapters/headless/headless_form.h"
+#include "ferrowind/adapters/headless/headless_label.h"
 #include "ferrowind/adapters/headless/world.h"
 #include "ferrowind/data/module_state.h"
 
@@ -117,13 +119,76 @@ TEST(Calendar, TriesTheDictionaryObjectAgainForTheNextControl) {
   });
 }
 
-TEST(Calendar, SurvivesAStartWithoutAnyOutsideObject) {
+TEST(Calendar, TriesTheDictionaryObjectAgainWhenItIsShown) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    const auto make = [&control] { return control.world.dictionary; };
+    control.world.objects.RegisterFailing(platform::kDictionaryIdentifier,
+                                          Failure(462, "Server unavailable"));
+    Calendar calendar(control.platform);
+    calendar.Show();
+    EXPECT_FALSE(control.world.log.Contains("fmCalendar.Show()"));
+    EXPECT_EQ(control.world.services->Messages().back().text, "Tessaro Calendar. Can't load currency");
+
+    control.world.objects.Register(platform::kDictionaryIdentifier, make);
+    calendar.Show();
+    EXPECT_TRUE(control.Window().IsShown());
+    EXPECT_EQ(Module().dictionary, control.world.dictionary);
+  });
+}
+
+TEST(Calendar, ADictionaryMakerThatThrowsWhatIsNoExceptionIsShownAsAnyFailure) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.objects.Register(platform::kDictionaryIdentifier,
+                                   []() -> std::shared_ptr<platform::OutsideObject> { throw 42; });
+    const Calendar calendar(control.platform);
+    EXPECT_EQ(control.world.services->Messages().at(0).text,
+              "Error activate dictionary object. Error Number 51.\r\nInternal error: an exception that "
+              "tells nothing of itself");
+  });
+}
+
+/// Has neither a connection string nor currencies.
+class EmptyDictionary : public platform::Dictionary {
+ public:
+  std::string dic_ConnectionString() override { return {}; }
+  std::shared_ptr<platform::RecordSet> dic_GetDicRecByFilter(const std::string& /*name*/,
+                                                             const std::string& /*filter*/) override {
+    return nullptr;
+  }
+};
+
+TEST(Calendar, ADictionaryWithoutARecordSetIsAFailedStart) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.objects.Register(platform::kDictionaryIdentifier,
+                                   [] { return std::make_shared<EmptyDictionary>(); });
+    Calendar calendar(control.platform);
+    calendar.Show();
+    EXPECT_EQ(control.world.services->Messages().back().text, "Tessaro Calendar. Can't load currency");
+    EXPECT_THAT(control.world.services->Traces(),
+                ::testing::Contains("Failure 91: The dictionary object gave no record set of currencies"));
+  });
+}
+
+TEST(Calendar, TellsOfSharedServicesThatCannotBeCreatedByADialogOfItsOwn) {
   RunInFreshThread([] {
     ControlWorld control;
     control.world.objects.Unregister(platform::kDictionaryIdentifier);
     control.world.objects.Unregister(platform::kSharedServicesIdentifier);
     Calendar calendar(control.platform);
+    std::string caption;
+    std::string text;
+    control.world.toolkit.ScriptModal("fmMessage", [&](headless::HeadlessForm& dialog) {
+      caption = dialog.Caption();
+      text = dialog.Part<headless::HeadlessLabel>("lblMessage").Text();
+      dialog.Part<headless::HeadlessButton>("cmdOk").Click();
+    });
     calendar.Show();
+    EXPECT_EQ(caption, "Ferrowind");
+    EXPECT_EQ(text, "The calendars cannot be opened. There is no object Tessaro.SharedServices to create");
+    EXPECT_FALSE(control.world.log.Contains("fmCalendar.Show()"));
     EXPECT_TRUE(calendar.ForceClosing());
   });
 }

@@ -52,6 +52,30 @@ TEST(GridField, TakesANewLocalNameAgainOnceItIsNoLongerConstant) {
   EXPECT_EQ(field.LocalName(), "Free");
 }
 
+TEST(GridField, TellsOfItsCaptionVisibilityAndFunction) {
+  GridField field;
+  int changes = 0;
+  const auto subscription = field.OnChange([&] { ++changes; });
+  field.SetCaption("Day");
+  EXPECT_EQ(changes, 1);
+  field.SetVisible(true);
+  EXPECT_EQ(changes, 2);
+  field.SetFunction([](const platform::RecordSet&) { return platform::Value("computed"); });
+  EXPECT_EQ(changes, 3);
+  EXPECT_TRUE(field.Function());
+  field.SetFieldName("ODate");
+  field.SetLocalName("FullDate");
+  EXPECT_EQ(changes, 3);
+}
+
+TEST(GridField, RefusesAFunctionWhileConstant) {
+  GridField field;
+  GridFieldConstancy::SetConst(field, true);
+  ExpectFailure([&] { field.SetFunction([](const platform::RecordSet&) { return platform::Value(1); }); },
+                kComponentError, "It's constant field");
+  EXPECT_FALSE(field.Function());
+}
+
 TEST(GridField, IndexIsZeroWithoutAHandler) {
   GridField field;
   field.SetLocalName("FullDate");

@@ -69,6 +69,46 @@ TEST(Confirm, TakesAFreshDialogForEachQuestion) {
   });
 }
 
+TEST(Ask, NamesWhatItsButtonsDoAndIsLeftByEscape) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    const Question question = {
+        .caption = "Undo", .message = "Undo it?", .verb = "Undo", .cancel = "Leave it"};
+    component.world.toolkit.ScriptModal("fmMessage", [](HeadlessForm& form) {
+      EXPECT_EQ(form.Part<HeadlessButton>("cmdOk").Caption(), "Undo");
+      EXPECT_EQ(form.Part<HeadlessButton>("cmdCancel").Caption(), "Leave it");
+      form.PressEscape();
+    });
+    EXPECT_FALSE(Ask(component.platform.toolkit, question));
+    component.world.toolkit.ScriptModal("fmMessage", [](HeadlessForm& form) { form.PressEnter(); });
+    EXPECT_TRUE(Ask(component.platform.toolkit, question));
+  });
+}
+
+TEST(Ask, IsCancelledByEnterWhereSomethingWouldBeLost) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    component.world.toolkit.ScriptModal("fmMessage", [](HeadlessForm& form) { form.PressEnter(); });
+    EXPECT_FALSE(Ask(component.platform.toolkit, {.caption = "Book",
+                                                  .message = "Lose them?",
+                                                  .verb = "Lose them",
+                                                  .cancel = "Cancel",
+                                                  .prefers_cancel = true}));
+  });
+}
+
+TEST(Inform, IsLeftByEscape) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    component.world.toolkit.ScriptModal("fmMessage", [](HeadlessForm& form) {
+      EXPECT_FALSE(form.Part<HeadlessButton>("cmdCancel").Visible());
+      form.PressEscape();
+      EXPECT_FALSE(form.IsShown());
+    });
+    Inform(component.platform.toolkit, "Undo", "There is nothing to undo.");
+  });
+}
+
 TEST(Confirm, AFormThatCannotBeMadeIsTheCallersFailure) {
   RunInFreshThread([] {
     ComponentWorld component;

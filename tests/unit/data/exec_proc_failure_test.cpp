@@ -1,5 +1,6 @@
 // What a procedure call does when a step of it fails.
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -116,6 +117,42 @@ TEST(ExecProcFailure, AReturnValueThatIsNoNumberIsMinusOne) {
     EXPECT_EQ(ExecProc("P", nullptr, results), -1);
     EXPECT_EQ(Module().pending_failures[0].number, 13);
   });
+}
+
+/// A host's own way to its database, which goes wrong in ways that no failure tells of.
+class OddCommands : public platform::CommandFactory {
+ public:
+  std::function<void()> before_none = [] {};
+  [[nodiscard]] std::unique_ptr<platform::Command> CreateCommand() override {
+    before_none();
+    return nullptr;
+  }
+};
+
+std::string PendingOfOddCommands(OddCommands& commands) {
+  std::string pending;
+  RunInFreshThread([&] {
+    ComponentWorld component;
+    const platform::Platform odd{component.world.objects, commands,
+                                 component.world.toolkit, component.world.locale,
+                                 component.world.clock,   ""};
+    const InSurroundings surroundings(odd);
+    std::shared_ptr<SourceValues> results;
+    EXPECT_EQ(ExecProc("P", nullptr, results), -1);
+    pending = Module().pending_failures[0].description;
+  });
+  return pending;
+}
+
+TEST(ExecProcFailure, WhatIsThrownAndNoExceptionIsMinusOneAsAnyFailure) {
+  OddCommands commands;
+  commands.before_none = [] { throw 42; };
+  EXPECT_EQ(PendingOfOddCommands(commands), "Internal error: an exception that tells nothing of itself");
+}
+
+TEST(ExecProcFailure, SurroundingsWithoutACommandAreMinusOne) {
+  OddCommands commands;
+  EXPECT_EQ(PendingOfOddCommands(commands), "The surroundings gave no command");
 }
 
 TEST(ExecProcFailure, AnUnknownProcedureIsPending) {

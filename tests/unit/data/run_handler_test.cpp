@@ -82,6 +82,33 @@ TEST(RunHandler, ReportsThatMemoryRanOut) {
   });
 }
 
+TEST(RunHandler, ReportsWhatAHostThrowsThatIsNoException) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    RunHandler([] { throw 42; });
+    EXPECT_EQ(
+        component.world.services->Reports(),
+        (std::vector<ReportedError>{{51, "Internal error: an exception that tells nothing of itself"}}));
+    EXPECT_NO_THROW(IgnoringFailure([] { throw 42; }));
+  });
+}
+
+/// Services whose reports throw what is no exception.
+class OddServices : public headless::HeadlessSharedServices {
+ public:
+  using HeadlessSharedServices::HeadlessSharedServices;
+  void ReportError(std::int32_t /*number*/, const std::string& /*description*/) override { throw 42; }
+};
+
+TEST(RunHandler, SurvivesAReportThatThrowsWhatIsNoException) {
+  RunInFreshThread([] {
+    ComponentWorld component;
+    Module().shared_services = std::make_shared<OddServices>(component.world.log);
+    RunHandler([] { throw Failure(5, "first"); });
+    EXPECT_EQ(Module().runtime_failure.description, "");
+  });
+}
+
 TEST(RunHandler, SurvivesAReportThatFails) {
   RunInFreshThread([] {
     ComponentWorld component;

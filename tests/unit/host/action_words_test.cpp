@@ -126,20 +126,18 @@ TEST_F(ActionWordsTest, EveryReturnValueHasAMeaning) {
                                                 {6, "The calendar exists already"},
                                                 {7, "A value is missing or out of range"},
                                                 {99, "The database refused it, with the number 99"}}) {
-    EXPECT_EQ(ActionWords::Reason(ActionKind::kAddRule, {"", value, {}}), meaning);
+    EXPECT_EQ(words_.Reason(ActionKind::kAddRule, {"", value, {}}), meaning);
   }
 }
 
 TEST_F(ActionWordsTest, AValueOfANewCalendarThatIsOutOfRangeIsItsYear) {
-  EXPECT_EQ(ActionWords::Reason(ActionKind::kCreateCalendar, {"", 7, {}}),
-            "A calendar's year is 1900 to 3000.");
-  EXPECT_EQ(ActionWords::Reason(ActionKind::kCreateCalendar, {"", 6, {}}), "The calendar exists already");
+  EXPECT_EQ(words_.Reason(ActionKind::kCreateCalendar, {"", 7, {}}), "A calendar's year is 1900 to 3000.");
+  EXPECT_EQ(words_.Reason(ActionKind::kCreateCalendar, {"", 6, {}}), "The calendar exists already");
 }
 
 TEST_F(ActionWordsTest, AReasonIsOneLineWithoutAPassword) {
-  EXPECT_EQ(
-      ActionWords::Reason(ActionKind::kRefresh, Failed("it\n\t is  down: postgresql://anna:secret@h/x\n")),
-      "it is down: postgresql://anna:***");
+  EXPECT_EQ(words_.Reason(ActionKind::kRefresh, Failed("it\n\t is  down: postgresql://anna:secret@h/x\n")),
+            "it is down: postgresql://anna:***");
 }
 
 TEST_F(ActionWordsTest, AFailedReadSaysThatWhatIsShownMayBeOld) {

@@ -69,6 +69,9 @@ TEST(GuardedStream, LetsProgramsHaveTextsAsTheyAreUnlessTheirTargetIsATerminal) 
   EXPECT_EQ(target.str(), "\\x1b");
   std::ostringstream other;
   EXPECT_EQ(&ForPrograms(other), &other);
+  EXPECT_TRUE(IsOnTerminal(terminal));
+  EXPECT_FALSE(IsOnTerminal(file));
+  EXPECT_FALSE(IsOnTerminal(other));
 }
 
 TEST(GuardedStream, FailsWithItsTarget) {

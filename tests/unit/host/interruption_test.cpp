@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/content/doubtful_outcome.h"
+
 namespace ferrowind::host {
 namespace {
 
@@ -76,6 +78,17 @@ TEST(InterruptionDeathTest, AWorkThatWasStoppedIsToldOfBeforeTheProgramEnds) {
                   },
                   std::cerr),
               ::testing::KilledBySignal(SIGINT), "nothing was changed");
+}
+
+TEST(Interruption, SaysNothingOfAWorkWhoseEndIsNotKnown) {
+  std::ostringstream errors;
+  const content::DoubtfulOutcome unknown(platform::Failure(4711, "not known"));
+  const auto work = [&] {
+    std::raise(SIGINT);
+    throw content::DoubtfulOutcome(unknown);
+  };
+  EXPECT_THROW(RunInterruptibly(work, errors), content::DoubtfulOutcome);
+  EXPECT_EQ(errors.str(), "");
 }
 
 TEST(Interruption, LetsAWorkThatNobodyStoppedGoOn) {

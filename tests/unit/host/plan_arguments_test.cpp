@@ -44,6 +44,17 @@ TEST(PlanArguments, RefuseWhatIsNoYear) {
   EXPECT_EQ(RefusalOf([] { (void)ReadYears("2030..2028"); }), "The years \"2030..2028\" run backwards");
 }
 
+TEST(PlanArguments, ReadYearsOfListsWithAHyphenToo) {
+  for (const char* text : {"2028..2030", "2028-2030"}) {
+    EXPECT_EQ(ReadYearsOfList(text).first, 2028);
+    EXPECT_EQ(ReadYearsOfList(text).last, 2030);
+  }
+  EXPECT_EQ(ReadYearsOfList("2028").last, 2028);
+  for (const char* text : {"", "2028-", "-2028", "2028-2030-2031", "2028-2030..2031"}) {
+    EXPECT_NE(RefusalOf([&] { (void)ReadYearsOfList(text); }), "not refused") << text;
+  }
+}
+
 TEST(PlanArguments, ReadDays) {
   EXPECT_EQ(ReadDay("2028-02-29"), Date(2028, 2, 29));
   for (const char* text : {"", "2027-02-29", "2028-2-9", "today"}) {

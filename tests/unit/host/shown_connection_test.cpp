@@ -29,6 +29,12 @@ TEST(ShownConnection, HasNoKeyThatStandsForAPassword) {
   }
 }
 
+TEST(ShownConnection, KeepsTheZoneOfAnAddressReadable) {
+  const std::string shown = "postgresql://anna:***@[fe80::1%25eth0]:5432/calendars";
+  EXPECT_EQ(ShownConnection("postgresql://anna:secret@[fe80::1%25eth0]:5432/calendars"), shown);
+  EXPECT_EQ(ShownConnection(shown), shown);
+}
+
 TEST(ShownConnection, KeepsTheOtherSettings) {
   EXPECT_EQ(
       ShownConnection("postgresql://us%40er:secret@[::1]:5433,b/d%2Fb?sslmode=require&options=-c%20a%3Db"),

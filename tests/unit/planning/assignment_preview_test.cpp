@@ -187,7 +187,7 @@ TEST(AssignmentPreview, TellsThatAWeekdayRuleChangesNothingWhereAllDaysHaveIt) {
 TEST(AssignmentPreview, WarnsOfAWeekdayOnWhichTheBookIsOpen) {
   OnAPreview([](EuroWorld& world) {
     EXPECT_THAT(LinesFor(world, {kWednesday})[0].warnings,
-                ElementsAre("The book of EUR closes no Wednesdays"));
+                ElementsAre("The book of EUR does not close each Wednesday"));
     world.Tables().books.clear();
     EXPECT_THAT(LinesFor(world, {kWednesday})[0].warnings, IsEmpty());
   });
@@ -198,7 +198,7 @@ TEST(AssignmentPreview, GivesAWeekdayRuleToASingleDayAndADatedRuleToItsOwn) {
     const Date friday(2028, 4, 7);
     const auto lines = LinesFor(world, {kSaturday, GoodFriday(Date(2028, 4, 14))}, friday);
     EXPECT_EQ(lines[0].day, friday);
-    EXPECT_THAT(lines[0].warnings, ElementsAre("It is for Saturdays, and the day is a Friday"));
+    EXPECT_THAT(lines[0].warnings, ElementsAre("Its weekday is Saturday, and the day is a Friday"));
     EXPECT_EQ(lines[1].day, Date(2028, 4, 14));
     EXPECT_THAT(lines[1].warnings, ElementsAre("It goes to its own date, not to Friday 7 April 2028"));
     EXPECT_THAT(LinesFor(world, {GoodFriday(Date(2028, 4, 14))}, Date(2028, 4, 14))[0].warnings, IsEmpty());

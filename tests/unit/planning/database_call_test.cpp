@@ -57,6 +57,22 @@ TEST(DatabaseCall, SaysEveryReturnValueInOtherWords) {
   });
 }
 
+TEST(DatabaseCall, SaysWhichTextWasTooLong) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    component.world.commands.Answer("P").Returns(7);
+    SourceValues parameters;
+    parameters.Add("Comment", std::string(4001, 'x'));
+    try {
+      (void)CallDatabase("Storing", "P", parameters);
+      FAIL() << "not refused";
+    } catch (const Refusal& refusal) {
+      EXPECT_EQ(refusal.Description(),
+                "Storing: The comment has 4001 characters; it may have 4000 at most (P returned 7)");
+    }
+  });
+}
+
 TEST(DatabaseCall, GivesReturnValuesThatTheCallerExpects) {
   RunInFreshThread([] {
     PlanningWorld component;

@@ -17,14 +17,8 @@ using testing::RunInFreshThread;
 
 class ReviewWorld : public PlanningWorld {
  public:
-  ReviewWorld(Rows calendars, Rows books, Rows rules, Rows marked_days) {
-    AnswerCurrencies();
-    AnswerRules(std::move(calendars));
-    AnswerBooks(std::move(books), std::move(rules));
-    world.commands.Answer("CldGetMarkedDays")
-        .Takes("@FromYear", ParameterType::kInt32)
-        .Takes("@ToYear", ParameterType::kInt32)
-        .Gives({"ID1", "Year1", "Day1", "TID1", "ID2", "Comment"}, std::move(marked_days));
+  ReviewWorld(Rows calendars, Rows books, Rows rules, const Rows& marked_days) {
+    AnswerContent(std::move(calendars), marked_days, std::move(books), std::move(rules));
   }
 };
 

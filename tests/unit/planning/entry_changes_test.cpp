@@ -123,21 +123,60 @@ TEST(EntryChanges, TellWhatOfACurrencyIsAnother) {
   });
 }
 
+/// The answer of the history, of an entry of the calendar EUR 2028 that replaced `rows`; none without rows.
+void AnswerEntry(PlanningWorld& component, const Rows& rows) {
+  Rows entries;
+  if (!rows.empty())
+    entries.push_back({4, "2028-01-01T00:00:00.000Z", "anna", "CldIUMain", 978, 2028, "{}", 1, {}, 1});
+  component.world.commands.Answer("CldGetHistory")
+      .Takes("@EntryID", ParameterType::kInt32)
+      .Gives({"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters", "RowsChanged",
+              "Name1", "KeepsRows"},
+             entries)
+      .Gives({"UserName"}, {})
+      .Gives({"TableName", "ID1", "ID2", "Position", "OldRow", "NewRow"}, rows);
+}
+
+ProcedureScript& AnswerPast(PlanningWorld& component) {
+  return component.world.commands.Answer("CldGetAsOf")
+      .Takes("@ID1", ParameterType::kInt32)
+      .Takes("@Year1", ParameterType::kInt32)
+      .Takes("@EntryID", ParameterType::kInt32);
+}
+
+TEST(EntryChanges, TellDaysThatADamagedDatabaseHasOnOneSideAlone) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    AnswerEntry(component, {});
+    const std::vector<std::string> fields = {"ODate", "TID1", "Name1", "Comment", "ID2"};
+    const std::vector<Value> first = {Date(2028, 1, 1), 4, "New Year", {}, 2};
+    const std::vector<Value> second = {Date(2028, 1, 2), 1, {}, {}, {}};
+    AnswerPast(component).Gives(fields, {first, second});
+    AnswerPast(component).Gives(fields, {second});
+    HistoryEntry entry;
+    entry.id = 4;
+    entry.currency = 978;
+    entry.year = 2028;
+    EXPECT_THAT(Lines(LoadChanges(entry, CurrencyList({}))),
+                ElementsAre("Saturday 1 January 2028 | New Year | "));
+  });
+}
+
+TEST(EntryChanges, TellTextsOfSeveralLinesInOne) {
+  RunInFreshThread([] {
+    PlanningWorld component;
+    AnswerEntry(component, {{"CldHoliday", {}, 2, {}, R"({"Name1": "A"})", R"({"Name1": "B\n\u001b[2J"})"}});
+    HistoryEntry entry;
+    entry.id = 4;
+    EXPECT_THAT(Lines(LoadChanges(entry, CurrencyList({}))), ElementsAre("Rule A: name | A | B  [2J"));
+  });
+}
+
 TEST(EntryChanges, SayThatTheHistoryDoesNotReachThere) {
   RunInFreshThread([] {
     PlanningWorld component;
-    component.world.commands.Answer("CldGetHistory")
-        .Takes("@EntryID", ParameterType::kInt32)
-        .Gives({"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters", "RowsChanged",
-                "Name1", "KeepsRows"},
-               {})
-        .Gives({"UserName"}, {})
-        .Gives({"TableName", "ID1", "ID2", "Position", "OldRow", "NewRow"}, {});
-    component.world.commands.Answer("CldGetAsOf")
-        .Takes("@ID1", ParameterType::kInt32)
-        .Takes("@Year1", ParameterType::kInt32)
-        .Takes("@EntryID", ParameterType::kInt32)
-        .Returns(9);
+    AnswerEntry(component, {});
+    AnswerPast(component).Returns(9);
     HistoryEntry entry;
     entry.id = 4;
     entry.currency = 978;

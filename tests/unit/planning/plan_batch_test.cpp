@@ -166,6 +166,38 @@ TEST(PlanBatch, LeavesNewDaysOfACalendarOutAllOfWhichWasLeftOut) {
   });
 }
 
+TEST(PlanBatch, LeavesNewDaysOfACalendarOutAllOfWhichWasLeftOutOneByOneAfterAnApply) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    PlanBatch batch(kNoTables, {{kEuro, 2028}});
+    (void)batch.Apply();
+    BatchWorld::GiveBook(kEuro, "EUR", std::string(kTwoDays) + "celebration | New Year | 01-01 |\n");
+    batch.PlanAnew();
+    ASSERT_EQ(batch.Totals().taken, 1U);
+    batch.At(0).Take(1, false);
+    BatchWorld::GiveBook(
+        kEuro, "EUR",
+        std::string(kTwoDays) + "celebration | New Year | 01-01 |\ncelebration | Labour Day | 05-01 |\n");
+    batch.PlanAnew();
+    EXPECT_EQ(batch.Totals().taken, 0U);
+    EXPECT_EQ(batch.Totals().left_out, 2U);
+  });
+}
+
+TEST(PlanBatch, LeavesNewDaysOutThatComeWhileTheCalendarCannotBePlanned) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    PlanBatch batch(kNoTables, {{kEuro, 2028}});
+    batch.At(0).TakeAll(false);
+    BatchWorld::GiveBook(kEuro, "EUR", std::string(kTwoDays) + "celebration | New Year | 01-01 |\n");
+    batch.At(0).Fail("The database is away");
+    batch.At(0).Fail("The database is still away");
+    batch.PlanAnew();
+    EXPECT_EQ(batch.Totals().taken, 0U);
+    EXPECT_EQ(batch.Totals().left_out, 3U);
+  });
+}
+
 TEST(PlanBatch, TakesNewDaysOfACalendarWhoseOnlyDifferencesWereExceptions) {
   RunInFreshThread([] {
     BatchWorld world;
@@ -263,7 +295,7 @@ TEST(SummaryOfPlans, TellsWhatWillHappenToOneCalendar) {
     PlanBatch batch(kNoTables, {{kDollar, 2028}});
     EXPECT_EQ(SummaryOf(batch), "USD 2028: a new calendar, 2 days.");
     batch.At(0).Take(kGoodFriday, false);
-    EXPECT_EQ(SummaryOf(batch), "USD 2028: a new calendar, 1 day, but not 1 day that is left out.");
+    EXPECT_EQ(SummaryOf(batch), "USD 2028: a new calendar, 1 day; unchanged: 1 day that is left out.");
     batch.At(0).TakeAll(false);
     EXPECT_EQ(SummaryOf(batch), "USD 2028: no calendar is made.");
     EXPECT_EQ(SummaryOf(PlanBatch(kNoTables, {{kDollar, 1899}})), "1 calendar cannot be planned.");
@@ -276,7 +308,7 @@ TEST(SummaryOfPlans, CountsWhatWillHappenToMany) {
     BatchWorld::Except(kEuro, "2028-04-14", "Stock-taking");
     PlanBatch batch(kNoTables, {{kEuro, 2028}, {kDollar, 2028}, {kDollar, 1899}});
     EXPECT_EQ(SummaryOf(batch),
-              "2 calendars: 3 days, but not 1 working day by exception. 1 calendar cannot be planned.");
+              "2 calendars: 3 days; unchanged: 1 working day by exception. 1 calendar cannot be planned.");
     batch.At(0).Take(kGoodFriday, true);
     EXPECT_EQ(SummaryOf(batch),
               "2 calendars: 4 days. 1 calendar cannot be planned. 1 working day by exception that has a "
@@ -369,7 +401,7 @@ TEST(PlanBatch, CanUndoAgainWhatAFailureHasKeptFromBeingUndone) {
     const auto outcomes = batch.Undo();
     world.world.faults.Disarm();
     EXPECT_THAT(KindsOf(outcomes), ElementsAre(Kind::kFailed));
-    EXPECT_THAT(outcomes.front().sentence, HasSubstr("USD 2028: Undoing the entry"));
+    EXPECT_THAT(outcomes.front().sentence, HasSubstr("USD 2028: Undoing the plan"));
     ASSERT_TRUE(batch.CanUndo());
     EXPECT_THAT(KindsOf(batch.Undo()), ElementsAre(Kind::kDone, Kind::kDone));
   });

@@ -78,6 +78,19 @@ TEST(PlanLines, ShowTheDaysThatStayWhenAllAreAskedFor) {
   });
 }
 
+TEST(PlanLines, TellACauseThatManyCalendarsHaveOfTheFirstOfThemAlone) {
+  RunInFreshThread([] {
+    MemoryPlanningWorld world;
+    world.world.faults.FailAtCall(1);
+    const PlanBatch batch(kNoTables, {{kEuro, 2028}, {kDollar, 2028}});
+    world.world.faults.Disarm();
+    const std::string cause = batch.Calendars()[0].WhyNot();
+    EXPECT_EQ(LineOf(batch, "978/2028/not-planned").why, cause);
+    EXPECT_EQ(LineOf(batch, "840/2028/not-planned").why, "As 978 2028");
+    EXPECT_EQ(LinesOf(batch.Calendars(), {1, false}).front().why, cause) << "where it stands alone";
+  });
+}
+
 TEST(PlanLines, StandConflictsFirstTheGravestBefore) {
   RunInFreshThread([] {
     MemoryPlanningWorld world;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ferrowind/platform/database/parameter.h"
+#include "ferrowind/platform/values/conversion.h"
 
 #include "tests/support/component_world.h"
 #include "tests/support/failure_of.h"
@@ -42,11 +43,32 @@ class PlanningWorld : public testing::ComponentWorld {
 
   ProcedureScript& AnswerCurrencies() {
     return world.commands.Answer("CldGetCurrencies")
-        .Gives({"CcyID", "Ccy", "CcyType", "Name", "LastDay"},
-               {{978, "EUR", std::int16_t{0}, "Euro", {}},
-                {840, "USD", std::int16_t{0}, "US Dollar", {}},
-                {191, "HRK", std::int16_t{0}, "Kuna", platform::Date(2022, 12, 31)},
-                {959, "XAU", std::int16_t{1}, "Gold", {}}});
+        .Gives({"CcyID", "Ccy", "CcyType", "Name", "LastDay"}, Currencies());
+  }
+
+  /// The whole content: these calendars, `marked_days` as rows of ID1, Year1, Day1, TID1, ID2 and Comment,
+  /// the rules of `AnswerRules`, books as for `AnswerBooks`, and the currencies of `AnswerCurrencies`.
+  ProcedureScript& AnswerContent(Rows calendars, const Rows& marked_days, Rows heads, Rows rules) {
+    for (std::vector<Value>& calendar : calendars) {
+      std::string days;
+      for (const std::vector<Value>& day : marked_days) {
+        if (day[0] != calendar[0] || day[1] != calendar[1]) continue;
+        const std::string comment = platform::ToTextOrEmpty(day[5]);
+        days += platform::ToText(day[2]) + ',' + platform::ToText(day[3]) + ',' + platform::ToText(day[4]) +
+                ',' + std::to_string(comment.size()) + ':' + comment;
+      }
+      calendar.push_back(std::move(days));
+    }
+    for (std::vector<Value>& head : heads) head.erase(head.begin() + 3);
+    return world.commands.Answer("CldGetContent")
+        .Gives({"ID1", "Year1", "Days"}, std::move(calendars))
+        .Gives({"ID2", "Name1", "TID1", "MY", "MD", "Del"}, {{1, "Working day by exception", 1, {}, {}, {}},
+                                                             {2, "Sunday", 2, {}, {}, {}},
+                                                             {3, "Christmas Day", 3, 12, 25, 4},
+                                                             {4, "Fair", 4, 3, 1, 2}})
+        .Gives({"ID1", "Publisher", "Document", "FromYear"}, std::move(heads))
+        .Gives({"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"}, std::move(rules))
+        .Gives({"CcyID", "Ccy", "CcyType", "Name", "LastDay"}, Currencies());
   }
 
   ProcedureScript& AnswerCalendar(const std::string& fingerprint, Rows days) {
@@ -58,6 +80,14 @@ class PlanningWorld : public testing::ComponentWorld {
     takes_calendar("CldGetFingerprint").Gives({"Fingerprint"}, {{fingerprint}});
     return takes_calendar("CldGetMain")
         .Gives({"ODate", "TID1", "Name1", "Comment2", "Comment", "ID2", "Day1"}, std::move(days));
+  }
+
+ private:
+  static Rows Currencies() {
+    return {{978, "EUR", std::int16_t{0}, "Euro", {}},
+            {840, "USD", std::int16_t{0}, "US Dollar", {}},
+            {191, "HRK", std::int16_t{0}, "Kuna", platform::Date(2022, 12, 31)},
+            {959, "XAU", std::int16_t{1}, "Gold", {}}};
   }
 };
 

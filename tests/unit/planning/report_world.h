@@ -16,24 +16,22 @@ inline constexpr std::int32_t kKuna = 191;
 /// HRK is money until the end of 2022.
 class ReportWorld : public PlanningWorld {
  public:
-  ReportWorld(Rows calendars, Rows marked_days, Rows books = {{kEuro, "ECB", "Closing days", "f", {}}}) {
-    AnswerCurrencies();
-    AnswerRules(std::move(calendars));
-    const bool has_books = !books.empty();
-    AnswerBooks(std::move(books), has_books
-                                      ? Rows{{kEuro, 1, "Sunday", 2, "weekday Sunday only 2020", {}, {}},
-                                             {kEuro, 2, "Christmas Day", 3, "12-25", {}, {}}}
-                                      : Rows());
-    AnswerMarkedDays(std::move(marked_days));
+  ReportWorld(Rows calendars, Rows marked_days, Rows books = {{kEuro, "ECB", "Closing days", "f", {}}})
+      : calendars_(std::move(calendars)), books_(std::move(books)) {
+    AnswerMarkedDays(marked_days);
   }
 
-  void AnswerMarkedDays(Rows marked_days) {
-    world.commands.Forget("CldGetMarkedDays");
-    world.commands.Answer("CldGetMarkedDays")
-        .Takes("@FromYear", ParameterType::kInt32)
-        .Takes("@ToYear", ParameterType::kInt32)
-        .Gives({"ID1", "Year1", "Day1", "TID1", "ID2", "Comment"}, std::move(marked_days));
+  void AnswerMarkedDays(const Rows& marked_days) {
+    world.commands.Forget("CldGetContent");
+    AnswerContent(calendars_, marked_days, books_,
+                  books_.empty() ? Rows()
+                                 : Rows{{kEuro, 1, "Sunday", 2, "weekday Sunday only 2020", {}, {}},
+                                        {kEuro, 2, "Christmas Day", 3, "12-25", {}, {}}});
   }
+
+ private:
+  Rows calendars_;
+  Rows books_;
 };
 
 /// EUR: no calendar of 2025, 2026 as planned, weekends only in 2027, and Christmas Day a day early in 2028.

@@ -63,6 +63,12 @@ class HeadlessToolkitUnderTest : public ToolkitUnderTest {
                                            {{"PDF document", "pdf"}, {"PNG picture", "png"}});
   }
 
+  [[nodiscard]] std::optional<std::string> AskForFileToRead(const std::optional<std::string>& name) override {
+    // As above: a file that is not there is none that the dialog gives.
+    world_.toolkit.AnswerNextFile(name == "days.ics" ? name : std::nullopt);
+    return world_.toolkit.ChooseFileToOpen("Open a list", "Lists of days", {"ics", "csv"});
+  }
+
   void Click(platform::Button& button) override {
     // The headless operator refuses what a real one tries in vain.
     if (button.Enabled()) As<HeadlessButton>(button).Click();

@@ -1,10 +1,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -113,6 +115,33 @@ class QtToolkitUnderTest : public ToolkitUnderTest {
     const QFileInfo file(qt::ToQt(*path));
     EXPECT_EQ(file.absolutePath(), folder_.path());
     return qt::FromQt(file.fileName());
+  }
+
+  [[nodiscard]] std::optional<std::string> AskForFileToRead(const std::optional<std::string>& name) override {
+    QFile file(folder_.filePath(QStringLiteral("days.ics")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    const auto question = [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); };
+    const auto message = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+    const WhenReady turned_down([&] { return message() != nullptr; },
+                                [&] {
+                                  QFileDialog* const asking =
+                                      qobject_cast<QFileDialog*>(message()->parentWidget());
+                                  message()->reject();
+                                  asking->reject();
+                                },
+                                [] {});
+    const WhenReady ready([&] { return question() != nullptr; },
+                          [&] {
+                            if (!name) return question()->reject();
+                            question()->setDirectory(folder_.path());
+                            auto* line = question()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                            line->setText(qt::ToQt(*name));
+                            QTest::keyClick(line, Qt::Key_Return);
+                          },
+                          [&] { question()->reject(); });
+    const auto path = toolkit_.ChooseFileToOpen("Open a list", "Lists of days", {"ics", "csv"});
+    if (!path) return std::nullopt;
+    return qt::FromQt(QFileInfo(qt::ToQt(*path)).fileName());
   }
 
   void Click(platform::Button& button) override {

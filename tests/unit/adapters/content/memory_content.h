@@ -41,7 +41,7 @@ class MemorySource : public Source {
   std::int64_t CountRows(const Table& table) override {
     return static_cast<std::int64_t>(tables_[table.name].size());
   }
-  std::unique_ptr<RowReader> Rows(const Table& table) override {
+  std::unique_ptr<RowReader> Rows(const Table& table, RowOrder /*order*/) override {
     return std::make_unique<MemoryReader>(tables_[table.name]);
   }
 
@@ -67,16 +67,17 @@ class MemoryTarget : public Target {
   std::int64_t CountRows(const Table& table) override {
     return static_cast<std::int64_t>(tables[table.name].size());
   }
-  std::unique_ptr<RowReader> Rows(const Table& table) override {
+  std::unique_ptr<RowReader> Rows(const Table& table, RowOrder /*order*/) override {
     return std::make_unique<MemoryReader>(tables[table.name]);
   }
+  void KeepOthersOut() override { log.emplace_back("keep others out"); }
   Source* Delivered() override { return delivered_; }
   void Clear(const Table& table) override {
     log.push_back("clear " + std::string(table.name));
     tables[table.name].clear();
   }
-  std::unique_ptr<RowWriter> Writer(const Table& table) override {
-    log.push_back("write " + std::string(table.name));
+  std::unique_ptr<RowWriter> Writer(const Table& table, std::int64_t rows) override {
+    log.push_back("write " + std::to_string(rows) + " " + std::string(table.name));
     return std::make_unique<MemoryWriter>(*this, table.name);
   }
 

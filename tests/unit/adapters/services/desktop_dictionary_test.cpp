@@ -18,6 +18,7 @@ class DictionaryEngine : public platform::Engine {
   std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
                                                       const std::string& name) override {
     asked_ = connection_string + " " + name;
+    if (name == "None") return nullptr;
     if (name != "Ccy") throw platform::Failure(2, "There is no dictionary " + name);
     return std::make_shared<platform::RecordSet>(
         std::vector<std::string>{"CcyID", "Ccy", "CcyType"},
@@ -64,6 +65,10 @@ TEST_F(DesktopDictionaryTest, GivesAllRowsWithoutAFilter) {
 TEST_F(DesktopDictionaryTest, FailsForAFilterThatDoesNotParse) {
   EXPECT_THROW(static_cast<void>(dictionary_.dic_GetDicRecByFilter("Ccy", "CcyType = 0; DROP TABLE DicCcy")),
                platform::Failure);
+}
+
+TEST_F(DesktopDictionaryTest, FailsForAnEngineThatGivesNoRows) {
+  EXPECT_THROW(static_cast<void>(dictionary_.dic_GetDicRecByFilter("None", "")), platform::Failure);
 }
 
 TEST_F(DesktopDictionaryTest, FailsForAnUnknownDictionary) {

@@ -55,12 +55,16 @@ TEST_F(BodyAuthorizerTest, RefusesInABodyWhatReachesBeyondItsTables) {
         std::string("REINDEX"),
         std::string("ANALYZE"),
         std::string("SELECT load_extension('x')"),
+        std::string("SELECT hex(zeroblob(1000000))"),
+        std::string("SELECT length(randomblob(10))"),
+        std::string("SELECT printf('%.1000000c', 'a')"),
         std::string("UPDATE ProcedureCatalogue SET Body = ''"),
         std::string("DELETE FROM procedureparameter"),
         std::string("INSERT INTO CldHistory (UserName, ProcedureName, Parameters, ReturnValue, RowsChanged)"
                     " VALUES ('somebody', 'CldIUMain', '{}', 0, 1)"),
         std::string("INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName) VALUES (1, 1, 'CldDay')"),
         std::string("INSERT INTO CldHistoryStart VALUES (1, '2026-01-01T00:00:00.000Z')"),
+        std::string("INSERT INTO CldChainStart VALUES (978, 2026, 0, NULL, '')"),
         std::string("UPDATE sqlite_schema SET type = 'view'"),
         std::string("UPDATE sqlite_master SET sql = ''"),
         std::string("INSERT INTO sqlite_schema (type) VALUES ('table')")}) {

@@ -20,6 +20,11 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
+
+constexpr const char* kNotLookedThrough =
+    "The file is not looked through for damage as long as it holds tables or indexes that are not this "
+    "program's";
 
 class DatabaseCheckTest : public ::testing::Test {
  protected:
@@ -48,8 +53,8 @@ class DatabaseCheckTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 5"),
-              ElementsAre("The database has the schema version 5; this program's is 4"));
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 7"),
+              ElementsAre("The database has the schema version 7; this program's is 6"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {
@@ -68,6 +73,26 @@ TEST_F(DatabaseCheckTest, FindsMissingAndForeignPartsOfTheSchema) {
       "DROP INDEX CldSettingHasOneRow; CREATE TRIGGER Extra AFTER INSERT ON CldDay BEGIN SELECT 1; END");
   EXPECT_THAT(problems, ElementsAre("The index CldSettingHasOneRow is missing",
                                     "The trigger Extra does not belong to the schema"));
+}
+
+TEST_F(DatabaseCheckTest, FindsAForeignProcedure) {
+  EXPECT_THAT(
+      ProblemsAfter("INSERT INTO ProcedureCatalogue VALUES ('CldGetEvil', 1, 'UPDATE CldDay SET TID1 = 1')"),
+      ElementsAre("The procedure CldGetEvil does not belong to the schema"));
+}
+
+TEST_F(DatabaseCheckTest, ComputesNoForeignConditionColumnOrIndex) {
+  // Fails when it is computed, where somebody else's could do anything.
+  EXPECT_THAT(ProblemsAfter("CREATE TABLE Extra (a CHECK (abs(a) >= 0)); INSERT INTO Extra VALUES"
+                            " (-9223372036854775807 - 1)"),
+              ElementsAre("The table Extra does not belong to the schema", kNotLookedThrough));
+  EXPECT_THAT(ProblemsAfter("DROP TABLE Extra; ALTER TABLE CldDay ADD Extra AS (TID1 + 1)"),
+              ElementsAre("The table CldDay is not this program's",
+                          "The rows are not looked at as long as something else stands for a table"));
+  SqliteDatabase other;
+  other.Execute("CREATE INDEX Extra ON CldHoliday (abs(ID2))");
+  EXPECT_THAT(CheckDatabase(other.Path()),
+              ElementsAre("The index Extra does not belong to the schema", kNotLookedThrough));
 }
 
 TEST_F(DatabaseCheckTest, FindsATriggerOfANameThatOnlySqliteGives) {
@@ -117,7 +142,7 @@ TEST_F(DatabaseCheckTest, FindsATableWhoseTextWasWrittenOver) {
       ProblemsAfterWritingTheSchema(
           "UPDATE sqlite_schema SET sql = replace(sql, 'CHECK (FirstDay BETWEEN 1 AND 7', 'CHECK (true')"
           " WHERE name = 'CldSetting'"),
-      ElementsAre("The table CldSetting is not this program's"));
+      ElementsAre("The table CldSetting is not this program's", kNotLookedThrough));
 }
 
 TEST_F(DatabaseCheckTest, LooksAtNoRowsWhenAViewStandsForATable) {
@@ -136,7 +161,7 @@ TEST_F(DatabaseCheckTest, TakesStatisticsOfTheTablesForNoFault) {
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherHistory) {
   EXPECT_THAT(ProblemsAfter("DROP TRIGGER CldHistoryLosesNoEntry; ALTER TABLE CldHistory ADD Extra INTEGER"),
               ElementsAre("The table CldHistory is not this program's",
-                          "The trigger CldHistoryLosesNoEntry is missing"));
+                          "The trigger CldHistoryLosesNoEntry is missing", kNotLookedThrough));
   EXPECT_THAT(ProblemsAfter("DROP TABLE CldHistory"), Contains("The table CldHistory is missing"));
 }
 
@@ -149,7 +174,7 @@ TEST_F(DatabaseCheckTest, GoesOnWhenATableIsMissing) {
 TEST_F(DatabaseCheckTest, FindsMissingTypesAndRules) {
   EXPECT_THAT(
       ProblemsAfter("DELETE FROM CldHolidayType WHERE TID1 = 3; DELETE FROM CldHoliday"),
-      ElementsAre("The holiday type 3 is missing", "The built-in rule 1, a rule of type 1, is missing"));
+      IsSupersetOf({"The holiday type 3 is missing", "The built-in rule 1, a rule of type 1, is missing"}));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingSetting) {
@@ -165,7 +190,7 @@ TEST_F(DatabaseCheckTest, FindsACalendarWithoutItsDays) {
 
 TEST_F(DatabaseCheckTest, FindsACalendarOfNoCurrency) {
   EXPECT_THAT(ProblemsAfter("UPDATE DicCcy SET CcyType = 1 WHERE CcyID = 978"),
-              ElementsAre("The calendar 978 of 2024 is of no currency"));
+              Contains("The calendar 978 of 2024 is of no currency"));
 }
 
 TEST_F(DatabaseCheckTest, FindsMissingViewsIndexesAndTriggersOfTheHistory) {
@@ -178,8 +203,8 @@ TEST_F(DatabaseCheckTest, FindsMissingViewsIndexesAndTriggersOfTheHistory) {
 TEST_F(DatabaseCheckTest, FindsARuleBookOfNoCurrencyAndOneWithAGap) {
   EXPECT_THAT(ProblemsAfter("INSERT INTO CldBook VALUES (959, 'P', 'D', NULL);"
                             "INSERT INTO CldRecurrence VALUES (959, 2, 'A', 3, '01-01', NULL, NULL)"),
-              ElementsAre("The rule book of 959 is of no currency",
-                          "The rule book of 959 has 1 rules, of which the last is number 2"));
+              IsSupersetOf({"The rule book of 959 is of no currency",
+                            "The rule book of 959 has 1 rules, of which the last is number 2"}));
 }
 
 TEST_F(DatabaseCheckTest, FindsARowOfTheHistoryThatIsNoJsonOrOfNoEntry) {

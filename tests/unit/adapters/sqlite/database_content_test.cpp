@@ -44,7 +44,10 @@ TEST(DatabaseContent, ACopyHasTheBooksAndTheRowsThatCallsReplaced) {
                                             {"Name", "Dollar"},
                                             {"LastDay", platform::Date(2030, 1, 1)}}),
             0);
-  original.Execute("INSERT INTO CldHistoryStart VALUES (0, '2026-01-01T00:00:00.000Z')");
+  // As an upgrade leaves it.
+  original.Execute(
+      "INSERT INTO CldHistoryStart VALUES (0, '2026-01-01T00:00:00.000Z');"
+      "UPDATE CldChainStart SET Moment = '2026-01-02T00:00:00.000Z'");
 
   SqliteDatabase copy;
   const auto source = OpenContent(original.Path());

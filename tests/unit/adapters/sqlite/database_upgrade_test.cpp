@@ -28,6 +28,7 @@ using contract::ProcedureCaller;
 using contract::RowsOf;
 using contract::SqliteDatabase;
 using ::testing::AllOf;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -41,7 +42,7 @@ std::string ContentOfFile(const std::string& path) {
   return content.str();
 }
 
-constexpr std::int64_t kThisVersion = 4;
+constexpr std::int64_t kThisVersion = 6;
 
 /// A database as an older version made it, with a calendar and a rule.
 class OldDatabase : public contract::DatabaseUnderTest {
@@ -50,6 +51,7 @@ class OldDatabase : public contract::DatabaseUnderTest {
     std::ofstream(Path()).close();
     Execute(contract::OldVersionScript(version, "sqlite"));
     Execute("PRAGMA journal_mode = WAL");
+    if (version >= contract::kVersionWithContent) return;
     Execute(contract::kOldContent);
     Execute(
         "WITH RECURSIVE Day (N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Day WHERE N < 365)"
@@ -98,7 +100,7 @@ std::string DataOf(const std::string& path) {
 
 TEST(DatabaseUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
   const SqliteDatabase fresh;
-  for (const int version : {1, 2, 3}) {
+  for (const int version : {1, 2, 3, 4, 5}) {
     OldDatabase old(version);
     const std::string data = DataOf(old.Path());
     ASSERT_NE(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
@@ -195,7 +197,7 @@ TEST(DatabaseUpgrade, AnUpgradedDatabaseKeepsAHistory) {
 }
 
 TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
-  for (const int version : {1, 2, 3}) {
+  for (const int version : {1, 2, 3, 4, 5}) {
     OldDatabase old(version);
     const std::string data = DataOf(old.Path());
     ProcedureCaller caller(old);
@@ -210,14 +212,14 @@ TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
 
 TEST(DatabaseUpgrade, ANewerDatabaseIsReadAndRefusesChangesByWords) {
   SqliteDatabase newer;
-  newer.Execute("PRAGMA user_version = 5");
+  newer.Execute("PRAGMA user_version = 7");
   const std::string data = DataOf(newer.Path());
   ProcedureCaller caller(newer);
   EXPECT_EQ(caller.Call("CldAllInfo").return_value, 0);
   EXPECT_THAT(FailureTextOf([&] {
                 (void)caller.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2026}});
               }),
-              AllOf(HasSubstr("has the schema version 5; this program's is 4"), HasSubstr("newer version")));
+              AllOf(HasSubstr("has the schema version 7; this program's is 6"), HasSubstr("newer version")));
   EXPECT_EQ(DataOf(newer.Path()), data);
 }
 
@@ -232,10 +234,10 @@ TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
 
 TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
   SqliteDatabase fresh;
-  fresh.Execute("PRAGMA user_version = 5");
+  fresh.Execute("PRAGMA user_version = 7");
   const std::string before = SchemaOf(fresh.Path());
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }),
-              AllOf(HasSubstr("has the schema version 5; this program's is 4"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 7; this program's is 6"), HasSubstr("newer")));
   EXPECT_EQ(SchemaOf(fresh.Path()), before);
   fresh.Execute("PRAGMA user_version = 0");
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }), HasSubstr("schema version 0"));
@@ -256,6 +258,22 @@ TEST(DatabaseUpgrade, AScriptThatFailsAtItsEndLeavesTheDatabaseAsItWas) {
   EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
 }
 
+TEST(DatabaseUpgrade, OneThatIsToldToStopLeavesTheDatabaseAsItWas) {
+  OldDatabase old(4);
+  old.Execute(
+      "WITH RECURSIVE Entry (N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Entry WHERE N < 2000)"
+      " INSERT INTO CldHistory SELECT N, '2026-01-01T00:00:00.000Z', 'anna', 'CldIUMain', 978, 2026, '{}', "
+      "0, 0"
+      " FROM Entry");
+  const std::string schema = SchemaOf(old.Path());
+  int times = 0;
+  EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(old.Path(), [&] { return ++times > 1; }); }),
+              HasSubstr("The upgrade failed, and the database is as it was"));
+  EXPECT_EQ(times, 2);
+  EXPECT_EQ(SchemaOf(old.Path()), schema);
+  EXPECT_EQ(UpgradeDatabase(old.Path(), [] { return false; }).to, kThisVersion);
+}
+
 TEST(DatabaseUpgrade, ProceduresAreRenewedAndThoseOfOthersStay) {
   OldDatabase old;
   old.Execute(
@@ -263,7 +281,7 @@ TEST(DatabaseUpgrade, ProceduresAreRenewedAndThoseOfOthersStay) {
       "INSERT INTO ProcedureCatalogue VALUES ('Mine', 0, 'SELECT 7 AS Seven');"
       "INSERT INTO ProcedureParameter VALUES ('Mine', 0, '@RETURN_VALUE', 'int32', 'return')");
   UpgradeDatabase(old.Path());
-  EXPECT_THAT(CheckDatabase(old.Path()), IsEmpty());
+  EXPECT_THAT(CheckDatabase(old.Path()), ElementsAre("The procedure Mine does not belong to the schema"));
   EXPECT_EQ(ProcedureCaller(old).Call("Mine").record_sets.size(), 1U);
 }
 

@@ -36,6 +36,16 @@ TEST(SqlFunctions, NoRowsHaveAFingerprint) {
   EXPECT_EQ(Answer("SELECT FERROWIND_FINGERPRINT(x) FROM (SELECT 1 AS x WHERE 0)").size(), 32U);
 }
 
+TEST(SqlFunctions, DaysAreOneTextWithTheBytesOfTheirComments) {
+  const auto days_of = [](const std::string& rows) {
+    return Answer("WITH r (a, b, c, d) AS (VALUES " + rows + ") SELECT FERROWIND_DAYS(a, b, c, d) FROM r");
+  };
+  EXPECT_EQ(days_of("(1, 3, 2147483647, NULL)"), "1,3,2147483647,0:");
+  EXPECT_EQ(days_of("(1, 2, 7, ''), (366, 1, 1, 'Größe, 1:')"), "1,2,7,0:366,1,1,11:Größe, 1:");
+  EXPECT_EQ(days_of("(1, 2, 7, 'a' || char(0) || 'b')"), std::string("1,2,7,3:a\0b", 11));
+  EXPECT_EQ(Answer("SELECT FERROWIND_DAYS(1, 2, 3, 4) WHERE 0"), "");
+}
+
 TEST(SqlFunctions, TextIsWellFormedAndHasNoNul) {
   const auto is_text = [](const std::string& text) {
     return Answer("SELECT FERROWIND_IS_TEXT(" + text + ")") == "1";

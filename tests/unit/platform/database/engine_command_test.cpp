@@ -141,6 +141,14 @@ TEST_F(EngineCommandTest, NeedsAConnectionToAskForParametersAndToExecute) {
             failure_number::kObjectNotSet);
 }
 
+TEST_F(EngineCommandTest, RefusesRecordSetsOfWhichOneIsMissing) {
+  engine_->outcome.record_sets = {OneRow(1), nullptr, OneRow(3)};
+  Prepare();
+  const Failure failure = FailureOf([&] { (void)command_->Execute(kUnspecified); });
+  EXPECT_EQ(failure.Number(), failure_number::kObjectNotSet);
+  EXPECT_EQ(failure.Description(), "The engine gave nothing for record set 2 of CldGetMain");
+}
+
 TEST_F(EngineCommandTest, PassesOnTheFailureOfAnUnknownProcedure) {
   command_->SetText("CldNone");
   command_->SetConnection(kConnectionString);

@@ -61,6 +61,17 @@ TEST(JsonValue, ReadsNothingElse) {
   }
 }
 
+TEST(JsonValue, KnowsWhereItBeganAndHowFarTheTextCouldBeRead) {
+  const JsonReading whole = ReadJsonAndPlace(" [1, {\"a\": true}]");
+  ASSERT_TRUE(whole.value);
+  EXPECT_EQ(whole.value->place, 1U);
+  EXPECT_EQ(whole.value->items[1].place, 5U);
+  EXPECT_EQ(whole.value->items[1].items[0].place, 11U);
+  const JsonReading broken = ReadJsonAndPlace("[1, 2,]");
+  EXPECT_FALSE(broken.value);
+  EXPECT_EQ(broken.place, 6U);
+}
+
 TEST(JsonValue, GoesAHundredDeepAtMost) {
   EXPECT_TRUE(ReadJson(std::string(100, '[') + std::string(100, ']')));
   EXPECT_FALSE(ReadJson(std::string(200, '[') + std::string(200, ']')));

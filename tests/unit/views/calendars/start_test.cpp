@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ferrowind/platform/values/conversion.h"
+
 #include "tests/unit/views/calendars/calendars_world.h"
 
 namespace ferrowind {
@@ -347,6 +349,38 @@ TEST(CalendarsStart, AWindowThatIsDroppedWhileItsStartFailsLivesUntilTheStartHas
     const auto closing = window->OnClosing([&] { calendars.window.reset(); });
     EXPECT_FALSE(window->Init(calendars.headers, calendars.holiday_headers));
     EXPECT_TRUE(observer.expired());
+  });
+}
+
+TEST(CalendarsStart, HidesAColumnForAsLongAsTheMapDoesWhateverTheStoredLayoutSays) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.Open();
+    calendars.Form().CloseByOperator();
+    calendars.headers->LocalNames("Comment")->SetVisible(false);
+    calendars.Open();
+    EXPECT_FALSE(calendars.Grid().ColumnByKey("Comment").Visible());
+    calendars.Form().CloseByOperator();
+    calendars.headers->LocalNames("Comment")->SetVisible(true);
+    calendars.Open();
+    EXPECT_TRUE(calendars.Grid().ColumnByKey("Comment").Visible());
+  });
+}
+
+TEST(CalendarsStart, ComputesTheCellsOfAColumnAsTheHostSays) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.headers->Add("Initial", "Initial", "Initial");
+    calendars.headers->LocalNames("Initial")->SetFunction([](const platform::RecordSet& day) {
+      if (day["Name1"].IsEmpty()) throw 42;
+      return Value(platform::ToText(day["Name1"]).substr(0, 1));
+    });
+    calendars.OpenAt("K978_2026");
+    EXPECT_EQ(calendars.Grid().CellValue(1, "Initial"), Value("N"));
+    EXPECT_TRUE(calendars.Grid().CellValue(2, "Initial").IsEmpty());
+    EXPECT_EQ(calendars.Grid().CellValue(5, "Initial"), Value("G"));
+    EXPECT_EQ(calendars.Grid().CellValue(5, "Month"), Value(4));
+    EXPECT_TRUE(calendars.SeenByOperator().empty());
   });
 }
 

@@ -322,5 +322,20 @@ TEST(HolidayEditorSave, ANameOfTenThousandCharactersIsSavedWhole) {
   });
 }
 
+TEST(HolidayEditorSave, ATextThatIsRefusedForItsLengthIsNamedBeforeTheMessage) {
+  RunInFreshThread([] {
+    EditorWorld world;
+    ASSERT_TRUE(world.InitToAdd());
+    world.AnswerWith(7);
+    world.Types().Choose(0);
+    world.Weekdays().Choose(0);
+    world.NameBox().SetText(std::string(201, 'n'));
+    world.ClickOk();
+    EXPECT_EQ(world.world.services->Reports().at(0).description,
+              "The name has 201 characters; it may have 200 at most");
+    EXPECT_EQ(world.Messages().size(), 1U);
+  });
+}
+
 }  // namespace
 }  // namespace ferrowind

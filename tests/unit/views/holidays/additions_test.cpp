@@ -56,10 +56,10 @@ TEST(HolidaysAdditions, GiveTheWindowItsCaptionInBothModes) {
   for (const auto& [mode, caption] :
        {std::pair(kSingleDayMode, "Assign holiday for single day, added"),
         std::pair(kWholeCalendarMode, "Assign groups holidays for calendar, added")}) {
-    RunInFreshThread([mode = mode, caption = caption] {
+    RunInFreshThread([shown_mode = mode, expected = caption] {
       AddedWorld holidays;
-      ASSERT_TRUE(holidays.InitWithUsualRules(mode));
-      EXPECT_EQ(holidays.Form().Caption(), caption);
+      ASSERT_TRUE(holidays.InitWithUsualRules(shown_mode));
+      EXPECT_EQ(holidays.Form().Caption(), expected);
     });
   }
 }

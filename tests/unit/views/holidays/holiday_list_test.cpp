@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/platform/values/conversion.h"
+
 #include "tests/support/run_in_fresh_thread.h"
 #include "tests/unit/views/holidays/holidays_world.h"
 
@@ -472,6 +474,21 @@ TEST(HolidaysWindow, WhateverCallFailsAtTheStartItNeverThrowsAndLeavesNothingLoc
     if (!fired) break;
     ASSERT_LT(n, 500);
   }
+}
+
+TEST(HolidaysWindow, HasTheColumnsOfTheHostAsTheHostSetsThem) {
+  RunInFreshThread([] {
+    HolidaysWorld holidays;
+    holidays.headers->Add("Length", "Length", "Length");
+    holidays.headers->LocalNames("Length")->SetFunction([](const platform::RecordSet& rule) {
+      return Value(static_cast<std::int32_t>(platform::ToText(rule["Name1"]).size()));
+    });
+    ASSERT_TRUE(holidays.InitWithUsualRules(1));
+    const auto row = holidays.RowOf("Saturday");
+    EXPECT_EQ(holidays.Grid().CellValue(row, "Length"), Value(8));
+    holidays.headers->LocalNames("Length")->SetCaption("Letters");
+    EXPECT_EQ(holidays.Grid().ColumnByKey("Length").Caption(), "Letters");
+  });
 }
 
 }  // namespace

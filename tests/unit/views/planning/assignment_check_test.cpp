@@ -47,7 +47,8 @@ TEST(AssignmentCheck, ShowsWhatARuleWouldDoAndAssignsItWhenConfirmed) {
                                                 "EUR has it on Friday 14 April 2028."));
       EXPECT_EQ(table.Cell("0", "Rule").mark, CellMark::kWarning);
       EXPECT_EQ(holidays.RuleOn(Date(2028, 4, 3)), std::nullopt);
-      preview.PressEnter();
+      EXPECT_EQ(preview.FocusedControl(), "cmdCancel") << "Enter alone does not go past a warning";
+      Click(preview, "cmdAssign");
     });
     EXPECT_EQ(holidays.RuleOn(Date(2028, 4, 3)), 5);
     EXPECT_EQ(holidays.window->Result(), 1);
@@ -154,7 +155,7 @@ class ConfirmedAssignment : public PlannedHolidays {
       world.toolkit.ScriptModal("fmAssignPreview", [this](HeadlessForm& preview) {
         was_shown = true;
         world.faults.Disarm();
-        preview.PressEnter();
+        Click(preview, "cmdAssign");
       });
     }
     Assign("Good Friday");

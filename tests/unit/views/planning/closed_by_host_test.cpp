@@ -75,7 +75,8 @@ class HostWorld : public PlannedWindow {
 
   [[nodiscard]] std::size_t EntryCount() const { return world.database->History().size(); }
   [[nodiscard]] std::size_t FormCount() const {
-    return world.toolkit.CountOfForms("fmYearPlan") + world.toolkit.CountOfForms("fmMessage");
+    return world.toolkit.CountOfForms("fmYearPlan") + world.toolkit.CountOfForms("fmMessage") +
+           world.toolkit.CountOfForms("fmCalendarThen");
   }
 
   std::shared_ptr<HeadlessForm> calendars_;
@@ -143,6 +144,12 @@ const Asking kAskings[] = {
        PressInPlanner(host, "Ctrl+L");
      },
      "cmdCloseDays"},
+    {"calendar at a moment", "fmAsOf",
+     [](HostWorld& host) {
+       host.windows.OpenHistory({.currency = HostWorld::kEuro, .year = 2028});
+       host.world.toolkit.FormNamed("fmHistory").PressShortcut("Ctrl+D");
+     },
+     "cmdShow"},
 };
 
 TEST(ClosedByHost, TakesTheQuestionAlongAndDoesNothingOfIt) {

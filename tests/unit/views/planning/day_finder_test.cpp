@@ -257,6 +257,25 @@ TEST(GoingToADate, OpensTheGroupThatTheDayIsIn) {
       });
 }
 
+TEST(GoingToADate, TellsOfTheFailureAtAnyCallOfLookingForAnotherYear) {
+  testing::FailEachCall<MemoryCalendars>(
+      {.arrange =
+           [](MemoryCalendars& calendars) {
+             if (!calendars.window) calendars.OpenAt(2028);
+             if (calendars.world.toolkit.WaitingScripts() > 0) return;
+             calendars.world.toolkit.ScriptModal("fmGoToDate", [](HeadlessForm& form) {
+               GoToDate dialog(form);
+               dialog.Type("2040-05-02");
+               dialog.Go();
+               EXPECT_TRUE(dialog.IsShown());
+               dialog.Cancel();
+             });
+           },
+       .act = [](MemoryCalendars& calendars) { calendars.Form().PressShortcut("Ctrl+D"); },
+       .look = [](MemoryCalendars& calendars) { EXPECT_THAT(calendars.Dates(), SizeIs(366)); }},
+      8);
+}
+
 TEST(DayFinder, WorksAsEverAfterAnyFailure) {
   testing::FailEachCall<MemoryCalendars>(
       {.arrange =

@@ -37,11 +37,20 @@ class ReadinessWorld : public planning::ReportWorld {
   explicit ReadinessWorld(Rows calendars = planning::kSmallCalendars, Rows days = planning::kSmallDays,
                           Rows books = {{kEuro, "ECB", "Closing days", "f", {}}})
       : ReportWorld(std::move(calendars), std::move(days), std::move(books)) {
-    window =
-        fmReadiness::Create({platform, tables, windows},
-                            {[this](const auto& calendars_of_plan) { opened.push_back(calendars_of_plan); },
-                             [this](std::int32_t currency) { books_opened.push_back(currency); },
-                             [this] { ++histories_opened; }});
+    window = fmReadiness::Create(
+        {platform, tables, windows},
+        {[this](const auto& calendars_of_plan, const auto& known) {
+           opened.push_back(calendars_of_plan);
+           for (const auto& [currency, year] : calendars_of_plan)
+             codes_opened.push_back(known.FindOrNumber(currency).code);
+         },
+         [this](std::int32_t currency) { books_opened.push_back(currency); }, [this] { ++histories_opened; },
+         [this](const std::string& currency, std::optional<int> year) {
+           exchanges_opened.push_back("import " + currency + " " + std::to_string(year.value_or(0)));
+         },
+         [this](const std::string& currency, std::optional<int> year) {
+           exchanges_opened.push_back("export " + currency + " " + std::to_string(year.value_or(0)));
+         }});
   }
   void Show() { window->Show(); }
 
@@ -66,8 +75,11 @@ class ReadinessWorld : public planning::ReportWorld {
   almanac::DateTables tables;
   PlanningWindows windows{platform, tables};
   Opened opened;
+  /// What the currencies of those are called by what came with them.
+  std::vector<std::string> codes_opened;
   std::vector<std::int32_t> books_opened;
   int histories_opened = 0;
+  std::vector<std::string> exchanges_opened;
   std::shared_ptr<fmReadiness> window;
 };
 
@@ -156,9 +168,10 @@ TEST(Readiness, SaysWhatADatabaseWithNothingLacks) {
 TEST(Readiness, TwoFindingsOfOneSentenceHaveARowEach) {
   RunInFreshThread([] {
     ReadinessWorld board;
-    board.world.commands.Forget("CldGetBook");
+    board.world.commands.Forget("CldGetContent");
     const std::vector<platform::Value> unreadable = {kEuro, 1, "Fair", 4, "now and then", {}, {}};
-    board.AnswerBooks({{kEuro, "ECB", "Closing days", "f", {}}}, {unreadable, unreadable});
+    board.AnswerContent(planning::kSmallCalendars, planning::kSmallDays,
+                        {{kEuro, "ECB", "Closing days", "f", {}}}, {unreadable, unreadable});
     board.Show();
     int rows = 0;
     for (const std::string& key : board.Findings().RowKeys()) {
@@ -183,6 +196,7 @@ TEST(Readiness, EnterADoubleClickAndTheButtonOpenTheYearPlanOfTheCell) {
     EXPECT_THAT(board.opened, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028)),
                                           ElementsAre(CalendarKey(planning::kDollar, 2025)),
                                           ElementsAre(CalendarKey(planning::kDollar, 2025))));
+    EXPECT_THAT(board.codes_opened, ElementsAre("EUR", "USD", "USD"));
   });
 }
 
@@ -257,6 +271,17 @@ TEST(Readiness, TheHistoryIsOneButtonAway) {
   });
 }
 
+TEST(Readiness, ListsAndFilesOfTheChosenCalendarAreOneButtonAway) {
+  RunInFreshThread([] {
+    ReadinessWorld board;
+    board.Show();
+    board.Board().ClickRow("USD", "2027");
+    board.Button("cmdImport").Click();
+    board.Button("cmdExport").Click();
+    EXPECT_THAT(board.exchanges_opened, ElementsAre("import USD 2027", "export USD 2027"));
+  });
+}
+
 TEST(Readiness, WithoutAWayToPlansOffersNone) {
   RunInFreshThread([] {
     ReadinessWorld board;
@@ -265,6 +290,8 @@ TEST(Readiness, WithoutAWayToPlansOffersNone) {
     board.Show();
     EXPECT_FALSE(board.Button("cmdBook").Enabled());
     EXPECT_FALSE(board.Button("cmdHistory").Enabled());
+    EXPECT_FALSE(board.Button("cmdImport").Enabled());
+    EXPECT_FALSE(board.Button("cmdExport").Enabled());
     EXPECT_FALSE(board.Button("cmdPlan").Enabled());
     EXPECT_FALSE(board.Button("cmdPrepareAll").Enabled());
     EXPECT_NO_THROW(board.Board().DoubleClickRow("EUR", "2027"));
@@ -307,7 +334,7 @@ TEST(Readiness, SaysWhyTheDatabaseCannotBeReadAndForgetsItWhenItCanAgain) {
     board.world.commands.FailAt(headless::CommandStep::kExecute, platform::Failure(5, "The disk is full"));
     board.Show();
     EXPECT_EQ(board.Label("lblProblem"),
-              "The database could not be read: Reading the rules: The disk is full");
+              "The database could not be read: Reading the calendars and the rule books: The disk is full");
     EXPECT_EQ(board.Board().EmptyText(), "Nothing could be read");
     EXPECT_FALSE(board.Button("cmdPrepareAll").Enabled());
     EXPECT_THAT(board.SeenByOperator(), IsEmpty());

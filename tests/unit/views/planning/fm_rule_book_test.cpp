@@ -2,6 +2,8 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -216,8 +218,50 @@ TEST(RuleBookWindow, SaysThatAnExpressionIsWrittenByHandWhichChoicesCannotSay) {
     book.Rules().ClickRow("2");
     book.Box("txtExpression").ReplaceText("Friday after 4th Thursday of 11");
     EXPECT_EQ(book.Chosen("cmbForm"), "Written by hand");
-    EXPECT_FALSE(book.List("cmbClosedDay").Visible());
+    EXPECT_FALSE(book.List("cmbClosedDay").Enabled());
     EXPECT_EQ(book.Box("txtExpression").Text(), "Friday after 4th Thursday of 11");
+    book.Rules().ClickRow("1");
+    EXPECT_TRUE(book.List("cmbClosedDay").Enabled());
+    book.Rules().ClickRow("2");
+    EXPECT_EQ(book.Chosen("cmbForm"), "Written by hand");
+    EXPECT_FALSE(book.List("cmbClosedDay").Visible()) << "of another rule";
+  });
+}
+
+TEST(RuleBookWindow, KeepsTheListsInTheirPlaceWhileAnExpressionIsWritten) {
+  RunInFreshThread([] {
+    BookWorld book;
+    book.Rules().ClickRow("2");
+    const auto shown = [&] {
+      std::vector<std::string> names;
+      for (const char* name : {"cmbOffset", "cmbOrdinal", "cmbWeekday", "cmbDay", "cmbMonth", "cmbClosedDay",
+                               "cmbFrom", "cmbTo"}) {
+        if (book.List(name).Visible()) names.emplace_back(name);
+      }
+      return names;
+    };
+    const auto at_first = shown();
+    for (const char* typed : {"easter-", "easter", "", "l", "last Thursday of"}) {
+      book.Box("txtExpression").ReplaceText(typed);
+      EXPECT_EQ(shown(), at_first) << typed;
+      EXPECT_EQ(book.List("cmbOffset").Enabled(), std::string_view(typed) == "easter") << typed;
+      EXPECT_TRUE(book.List("cmbForm").Enabled());
+    }
+    book.Box("txtExpression").ReplaceText("last Thursday of 11");
+    EXPECT_TRUE(book.List("cmbOrdinal").Enabled());
+    EXPECT_TRUE(book.List("cmbOrdinal").Visible());
+    EXPECT_FALSE(book.List("cmbOffset").Visible());
+  });
+}
+
+TEST(RuleBookWindow, OffersTheListsOfAFormThatIsChosenInPlaceOfWhatCannotBeRead) {
+  RunInFreshThread([] {
+    BookWorld book;
+    book.Rules().ClickRow("2");
+    book.Box("txtExpression").ReplaceText("easter-");
+    book.List("cmbForm").ChooseByOperator("By Easter Sunday");
+    EXPECT_TRUE(book.List("cmbOffset").Enabled());
+    EXPECT_EQ(book.TextOf("lblFault"), "");
   });
 }
 

@@ -105,7 +105,7 @@ TEST(YearPlanWindow, HasConflictsFirstAndExceptionsUnchecked) {
     EXPECT_EQ(world.Lines().Cell(kChristmas, "Why").tone, platform::CellTone::kNormal) << "to be seen";
     EXPECT_EQ(world.Lines().Cell(kChristmas, "Action").mark, platform::CellMark::kException);
     EXPECT_EQ(world.Lines().Cell(kChristmas, "Why").text, "25 December; now open by exception: Stock-taking");
-    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day, but not 1 working day by exception.");
+    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day; unchanged: 1 working day by exception.");
   });
 }
 
@@ -153,14 +153,14 @@ TEST(YearPlanWindow, AppliesTheCheckedDaysAndTellsWhatWasDone) {
     PlanWorld world;
     world.Open();
     world.Lines().ClickBox(kGoodFriday);
-    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day, but not 1 day that is left out.");
+    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day; unchanged: 1 day that is left out.");
     EXPECT_EQ(world.Lines().Cell(kGoodFriday, "Why").tone, platform::CellTone::kQuiet);
     EXPECT_FALSE(world.Outcome().Visible());
     world.Button("cmdApply").Click();
     EXPECT_THAT(PlanWorld::DaysOf("EUR", kEuro, 2028), ElementsAre("2028-12-25 Christmas Day"));
     EXPECT_TRUE(world.Outcome().Visible());
     EXPECT_THAT(world.OutcomeTexts(),
-                ElementsAre("EUR 2028 is as planned now but for 1 day that is left out."));
+                ElementsAre("EUR 2028 is as planned now but for 1 day that is left out. 1 day was changed."));
     EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kGoodFriday));
     EXPECT_FALSE(world.Lines().Checked(kGoodFriday));
     EXPECT_FALSE(world.Button("cmdApply").Enabled()) << "there is nothing left to do";
@@ -209,12 +209,14 @@ TEST(YearPlanWindow, ShowsOneOfSeveralCalendarsWhenAskedAndAppliesAll) {
     PlanWorld world;
     world.Open({{kEuro, 2028}, {kDollar, 2028}});
     auto& filter = world.Form().Part<headless::HeadlessDropDownList>("cmbCalendar");
+    EXPECT_EQ(filter.ItemText(0), "All calendars");
     EXPECT_EQ(filter.ItemText(2), "USD 2028");
     filter.Choose(2);
     EXPECT_THAT(world.Lines().RowKeys(), ElementsAre("840/2028", "840/2028/105", "840/2028/360"));
     EXPECT_EQ(world.Summary(), "2 calendars: 4 days. Only USD 2028 is on show.");
     world.Button("cmdApply").Click();
-    EXPECT_THAT(world.OutcomeTexts(), ElementsAre("EUR 2028 is as planned now.", "USD 2028 is made."));
+    EXPECT_THAT(world.OutcomeTexts(), ElementsAre("EUR 2028 is as planned now. 2 days were changed.",
+                                                  "USD 2028 is made. 2 days were changed."));
     filter.Choose(0);
     EXPECT_EQ(world.Summary(), "2 calendars are as planned.");
   });
@@ -339,9 +341,9 @@ TEST(YearPlanWindow, KeepsTellingOfAFailureUntilTheNextCall) {
     world.Lines().ClickBox(kGoodFriday);
     EXPECT_THAT(world.OutcomeTexts(), SizeIs(2));
     world.Button("cmdApply").Click();
-    EXPECT_THAT(
-        world.OutcomeTexts(),
-        ElementsAre("EUR 2028 is as planned now but for 1 day that is left out.", "USD 2028 is made."));
+    EXPECT_THAT(world.OutcomeTexts(),
+                ElementsAre("EUR 2028 is as planned now but for 1 day that is left out. 1 day was changed.",
+                            "USD 2028 is made. 2 days were changed."));
   });
 }
 
@@ -363,8 +365,8 @@ TEST(YearPlanWindow, TellsWhatWentWrongFirst) {
     world.Open({{kEuro, 2028}, {kDollar, 2028}});
     PlanWorld::CreateCalendar(kDollar, 2028);
     world.Button("cmdApply").Click();
-    EXPECT_THAT(world.OutcomeTexts(),
-                ElementsAre(HasSubstr("USD 2028 was changed meanwhile"), "EUR 2028 is as planned now."));
+    EXPECT_THAT(world.OutcomeTexts(), ElementsAre(HasSubstr("USD 2028 was changed meanwhile"),
+                                                  "EUR 2028 is as planned now. 2 days were changed."));
   });
 }
 
@@ -376,7 +378,7 @@ TEST(YearPlanWindow, PlansAnewWhenAskedAndWhenAnotherWindowHasChangedOneOfItsCal
     world.windows.TellChanged({{kDollar, 2028}});
     EXPECT_EQ(world.Summary(), "EUR 2028: 2 days.") << "another calendar";
     world.windows.TellChanged({{kEuro, 2028}});
-    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day, but not 1 working day by exception.");
+    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day; unchanged: 1 working day by exception.");
     PlanWorld::Except(kEuro, "2028-04-14", "Stock-taking");
     world.ClickTool("ID_Refresh");
     EXPECT_EQ(world.Summary(), "EUR 2028 is as planned but for 2 working days by exception.");
@@ -439,8 +441,10 @@ TEST(YearPlanWindow, TellsHowFarItIsWithManyCalendars) {
     ManyPlansWorld world;
     // A second of the toolkit's time does them all.
     EXPECT_THAT(world.StepsShown(9, "cmdApply"), ElementsAre("Applying the plan of EUR 2028, 1 of 4."));
-    EXPECT_THAT(world.OutcomeTexts(), ElementsAre("EUR 2028 is as planned now.", "EUR 2029 is made.",
-                                                  "EUR 2030 is made.", "EUR 2031 is made."));
+    EXPECT_THAT(world.OutcomeTexts(), ElementsAre("EUR 2028 is as planned now. 2 days were changed.",
+                                                  "EUR 2029 is made. 2 days were changed.",
+                                                  "EUR 2030 is made. 2 days were changed.",
+                                                  "EUR 2031 is made. 2 days were changed."));
     EXPECT_THAT(world.StepsShown(9, "cmdUndo"), ElementsAre("Undoing the plan of EUR 2031, 1 of 4."));
     EXPECT_FALSE(world.Button("cmdUndo").Visible());
   });
@@ -457,13 +461,32 @@ TEST(YearPlanWindow, IsStoppedBetweenTwoOfManyCalendarsAndTellsWhatWasDone) {
     world.Button("cmdApply").Click();
     EXPECT_THAT(world.OutcomeTexts(),
                 ElementsAre("Stopped after 2 of 4 calendars; the others are as they were.",
-                            "EUR 2028 is as planned now.", "EUR 2029 is made."));
+                            "EUR 2028 is as planned now. 2 days were changed.",
+                            "EUR 2029 is made. 2 days were changed."));
     EXPECT_EQ(world.Summary(), "2 calendars: 4 days.");
     EXPECT_TRUE(world.Button("cmdApply").Enabled());
     EXPECT_THAT(world.told_changes,
                 ElementsAre(ElementsAre(CalendarKey(kEuro, 2028), CalendarKey(kEuro, 2029))));
     world.world.toolkit.Advance(1000);
     EXPECT_THAT(planning::LoadRules().calendars, SizeIs(2)) << "nothing goes on behind it";
+  });
+}
+
+TEST(YearPlanWindow, GoesNoFurtherWhenTheHostClosesItWhileItWorksAndTellsWhatWasDone) {
+  RunInFreshThread([] {
+    ManyPlansWorld world;
+    world.world.toolkit.ScriptModal("fmProgress", [&](headless::HeadlessForm& dialog) {
+      const auto& step = dialog.Part<headless::HeadlessLabel>("lblStep");
+      while (step.Text() != "Applying the plan of EUR 2029, 2 of 4.") world.world.toolkit.Advance(1);
+      EXPECT_TRUE(world.windows.CloseAll());
+      EXPECT_FALSE(dialog.IsShown());
+    });
+    EXPECT_NO_THROW(world.Button("cmdApply").Click());
+    EXPECT_TRUE(world.Form().HasUnloaded());
+    EXPECT_THAT(world.told_changes, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028))));
+    EXPECT_THAT(world.OutcomeTexts(), IsEmpty());
+    world.world.toolkit.Advance(1000);
+    EXPECT_THAT(planning::LoadRules().calendars, SizeIs(1)) << "nothing goes on behind it";
   });
 }
 

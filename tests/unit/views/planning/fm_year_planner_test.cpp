@@ -19,6 +19,7 @@
 #include "ferrowind/planning/entry_changes.h"
 #include "ferrowind/planning/history_list.h"
 #include "ferrowind/views/planning/planning_windows.h"
+#include "ferrowind/views/planning/year_content.h"
 
 #include "tests/support/run_in_fresh_thread.h"
 #include "tests/unit/planning/memory_planning_world.h"
@@ -128,6 +129,22 @@ TEST(YearPlannerWindow, ShowsTheYearOfACurrency) {
   });
 }
 
+TEST(YearPlannerWindow, OpensTheHistoryOfADayFromItsMenu) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open({kEuro, kDollar});
+    world.View().ClickDay({kJointCalendar, 105});
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_DayHistory")) << "of which calendar";
+    world.View().ClickDay({kEuroKey, 105});
+    EXPECT_TRUE(world.Tools().ToolEnabled("ID_DayHistory"));
+    world.Tools().ChooseFromNextPopup("ID_DayHistory");
+    world.View().PressMenuKey();
+    const auto& choices =
+        world.world.toolkit.FormNamed("fmHistory").Part<headless::HeadlessDropDownList>("cmbCalendar");
+    EXPECT_EQ(choices.ItemText(choices.Chosen()), "EUR, Friday 14 April 2028");
+  });
+}
+
 TEST(YearPlannerWindow, OpensOnceForTheSameCurrenciesAndYear) {
   RunInFreshThread([] {
     PlannerWorld world;
@@ -156,6 +173,39 @@ TEST(YearPlannerWindow, ExceptsASelectedRangeWithOneReason) {
     EXPECT_EQ(world.Status(), "2 days are working days by exception now");
     EXPECT_THAT(world.told_changes, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028))));
     EXPECT_THAT(world.Reports(), IsEmpty());
+  });
+}
+
+TEST(YearPlannerWindow, ExceptsDaysWithoutAReasonFromTheDayMenu) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    world.View().ClickDay({kEuroKey, 104});
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_ExceptDaysPlain")) << "it is open";
+    world.View().ExtendToDay({kEuroKey, 107});
+    const std::size_t calls = world.world.database->History().size();
+    world.Tools().ChooseFromNextPopup("ID_ExceptDaysPlain");
+    world.View().PressMenuKey();
+    EXPECT_THAT(PlannerWorld::ExceptionsOf("EUR", kEuro), ElementsAre("2028-04-14", "2028-04-15"));
+    EXPECT_EQ(world.world.database->History().size(), calls + 1);
+    EXPECT_EQ(world.View().TextOf({kEuroKey, 105}), "2028-04-14, Working day by exception");
+    EXPECT_EQ(world.Status(), "2 days are working days by exception now");
+    EXPECT_THAT(world.told_changes, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028))));
+    EXPECT_EQ(world.world.toolkit.CountOfForms("fmExceptMess"), 0U) << "nothing is asked";
+  });
+}
+
+TEST(YearPlannerWindow, ExceptsNothingWithoutAReasonByTheKeyWhereAllIsOpen) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    world.View().ClickDay({kEuroKey, 104});
+    const std::size_t calls = world.world.database->History().size();
+    world.Form().PressShortcut("Ctrl+Shift+E");
+    EXPECT_EQ(world.world.database->History().size(), calls);
+    world.View().ClickDay({kEuroKey, 105});
+    world.Form().PressShortcut("Ctrl+Shift+E");
+    EXPECT_THAT(PlannerWorld::ExceptionsOf("EUR", kEuro), ElementsAre("2028-04-14"));
   });
 }
 

@@ -133,7 +133,7 @@ TEST(FollowBar, AsksTheDatabaseNothingWhileNothingHappens) {
 
 TEST(FollowBar, LooksNoMoreOnceTheWindowIsClosed) {
   WithWindow([](MemoryCalendars& calendars) {
-    EXPECT_EQ(calendars.world.toolkit.WaitingTimers(), 1U);
+    EXPECT_EQ(calendars.world.toolkit.WaitingTimers(), 2U) << "for changes, and for silence";
     calendars.Close();
     EXPECT_EQ(calendars.world.toolkit.WaitingTimers(), 0U);
   });

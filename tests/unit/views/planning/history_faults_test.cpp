@@ -140,6 +140,28 @@ TEST(HistoryFaults, AtAnyCallOfLookingAtAChangeShowNothingOfAnother) {
       10);
 }
 
+TEST(HistoryFaults, AtAnyCallOfShowingACalendarAsItWasReportItAndShowAllOfItTheNextTime) {
+  const auto choose = [](WatchedHistory& history) {
+    EXPECT_TRUE(history.windows.CloseAll());
+    history.OpenHistory({978, 2028});
+    history.Entries().ClickRow("4");
+  };
+  const auto show = [](WatchedHistory& history) { history.ButtonOf("cmdThen").Click(); };
+  FailEachCall<WatchedHistory>({.arrange = choose,
+                                .act = show,
+                                .look =
+                                    [&](WatchedHistory& history) {
+                                      choose(history);
+                                      show(history);
+                                      auto& then = history.world.toolkit.FormNamed("fmCalendarThen");
+                                      EXPECT_TRUE(then.IsShown());
+                                      EXPECT_EQ(then.Part<headless::HeadlessTable>("tblDays").RowCount(),
+                                                366U);
+                                    },
+                                .is_silent = IsPassedOverAtOpening},
+                               5);
+}
+
 TEST(HistoryFaults, AtAnyCallOfUndoingAndRedoingTellTheOtherWindowsOfWhatIsDone) {
   std::size_t entries = 0;
   FailEachCall<WatchedHistory>({.arrange =

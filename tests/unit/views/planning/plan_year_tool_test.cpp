@@ -91,6 +91,18 @@ TEST(PlanYearTool, OpensThePlanOfTheCalendarOnShow) {
   });
 }
 
+TEST(PlanYearTool, CallsTheCalendarByItsCurrencyWhenTheDatabaseCannotBeRead) {
+  RunInFreshThread([] {
+    ToolWorld world;
+    world.SelectNode("K978_2028");
+    world.world.faults.FailAtCall(1);
+    world.Tools().ClickTool(kTool);
+    world.world.faults.Disarm();
+    ASSERT_EQ(world.PlanWindows(), 1U);
+    EXPECT_EQ(world.world.toolkit.FormNamed("fmYearPlan").Caption(), "Plan of EUR 2028");
+  });
+}
+
 TEST(PlanYearTool, CannotBeUsedWhileNoCalendarIsOnShow) {
   RunInFreshThread([] {
     ToolWorld world;

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/fault_scenario.h"
 #include "tests/support/run_in_fresh_thread.h"
 #include "tests/unit/views/planning/planned_holidays.h"
 
@@ -101,6 +102,34 @@ TEST(RulesOfCalendar, AreListedAsBeforeAtAnyFailingCall) {
     });
   }
   EXPECT_GT(opened, 20);
+}
+
+class ListedRules : public PlannedHolidays {
+ public:
+  ListedRules() {
+    EXPECT_TRUE(Init(kWholeCalendarMode));
+    Form().Show();
+  }
+};
+
+TEST(RulesOfCalendar, AreListedOnceTheListCanBeReadAgainWhicheverCallHasFailed) {
+  testing::FailEachCall<ListedRules>(
+      {.act = [](ListedRules& rules) { rules.Tools().ClickTool("ID_OwnRules"); },
+       .look =
+           [](ListedRules& rules) {
+             EXPECT_TRUE(rules.Form().IsShown());
+             if (rules.Tools().ToolPressed("ID_OwnRules")) rules.Tools().ClickTool("ID_OwnRules");
+             rules.Tools().ClickTool("ID_OwnRules");
+             EXPECT_TRUE(rules.Tools().ToolPressed("ID_OwnRules"));
+             EXPECT_EQ(rules.Names().size(), 5u);
+             rules.Tools().ClickTool("ID_OwnRules");
+             EXPECT_EQ(rules.Names().size(), 6u);
+             rules.Tools().ClickTool("ID_OwnRules");
+           },
+       // The window itself says nothing of its list, and of its weekdays twice.
+       .is_silent = [](const std::string&) { return true; },
+       .most_told = 2},
+      10);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "ferrowind/adapters/headless/headless_control.h"
 
+#include "tests/support/fault_scenario.h"
 #include "tests/support/run_in_fresh_thread.h"
 #include "tests/unit/views/planning/planned_window.h"
 
@@ -53,6 +54,30 @@ TEST(WhyPane, TellsOfTheCurrentDayOnceTheOperatorRestsOnIt) {
   });
 }
 
+TEST(WhyPane, TellsInItsPlaceWhyTheDayCannotBeToldWhicheverCallFails) {
+  testing::FailEachCall<WhyWindow>(
+      {.arrange =
+           [](WhyWindow& calendars) {
+             if (!calendars.window) {
+               calendars.Give(Date(2028, 4, 14), kGoodFriday);
+               calendars.OpenAt(Date(2028, 4, 14));
+             }
+             calendars.Tools().ClickTool("ID_Refresh");
+           },
+       .act = [](WhyWindow& calendars) { calendars.Rest(); },
+       .look =
+           [](WhyWindow& calendars) {
+             EXPECT_THAT(calendars.Text(), StartsWith("EUR, Friday 14 April 2028: "));
+             calendars.Tools().ClickTool("ID_Refresh");
+             calendars.Rest();
+             EXPECT_THAT(calendars.Text(),
+                         StartsWith("EUR, Friday 14 April 2028: Good Friday\nRule: easter-2\n"));
+           },
+       .is_silent = [](const std::string&) { return true; },
+       .most_told = 0},
+      10);
+}
+
 TEST(WhyPane, TellsWhoChangedTheDayLast) {
   RunInFreshThread([] {
     WhyWindow calendars;
@@ -73,11 +98,11 @@ TEST(WhyPane, ShowsTheSameDateAndTheDaysOfTheRuleInTheYearsAround) {
     calendars.OpenAt(Date(2028, 4, 14));
     calendars.Rest();
     ASSERT_EQ(calendars.Years().Columns().size(), 3u);
-    EXPECT_EQ(calendars.Years().Columns()[1].caption, "14 April");
+    EXPECT_EQ(calendars.Years().Columns()[1].caption, "Same day");
     EXPECT_EQ(calendars.Years().Columns()[2].caption, "Good Friday");
     EXPECT_THAT(calendars.Years().RowKeys(), ElementsAre("2026", "2027", "2029", "2030"));
     EXPECT_THAT(calendars.Years().Texts("2027"),
-                ElementsAre("2027", "Wednesday, working day", "Friday 26 March"));
+                ElementsAre("2027", "Wednesday, working day", "Friday 26 March 2027"));
     EXPECT_THAT(calendars.Years().Texts("2026"), ElementsAre("2026", "not prepared", ""));
     EXPECT_EQ(calendars.Years().Cell("2026", "Date").mark, CellMark::kMissing);
     calendars.ClickDay(Date(2028, 4, 13));

@@ -65,7 +65,7 @@ TEST(YearRows, TellTheWeekdayAndTheRuleOfTheDateAndEachDayOfTheRule) {
   EXPECT_EQ(rows[0].key, "2027");
   EXPECT_EQ(rows[0].cells[1].text, "Wednesday, working day");
   EXPECT_EQ(rows[0].cells[1].description, "Wednesday 14 April 2027: working day");
-  EXPECT_EQ(rows[0].cells[2].text, "Friday 26 March, Monday 3 May");
+  EXPECT_EQ(rows[0].cells[2].text, "Friday 26 March 2027, Monday 3 May 2027");
   EXPECT_EQ(rows[1].cells[1].text, "Saturday");
   EXPECT_EQ(rows[1].cells[2].text, "no day");
 }

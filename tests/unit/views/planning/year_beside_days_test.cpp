@@ -185,6 +185,35 @@ TEST(YearBesideDays, OpensTheYearPlannerOfTheCalendarOnShow) {
   });
 }
 
+TEST(YearBesideDays, KeepsTheYearThatItCouldNotReadAnewAndSaysSo) {
+  RunInFreshThread([] {
+    YearWindow calendars;
+    calendars.OpenAt(kDay);
+    calendars.ClickTool();
+    int unread = 0;
+    for (int call = 1; call <= 200 && unread == 0; ++call) {
+      calendars.world.faults.FailAtCall(call);
+      calendars.Tools().ClickTool("ID_Refresh");
+      calendars.world.faults.Disarm();
+      if (!calendars.Tools().ToolEnabled("ID_YearWindow")) {
+        // The days have gone as well.
+        calendars.Close();
+        calendars.OpenAt(kDay);
+        continue;
+      }
+      ASSERT_THAT(calendars.Year().Content().calendars, SizeIs(1)) << "call " << call;
+      EXPECT_EQ(calendars.Year().TextOf(YearWindow::On(kDay)), "2028-04-14, Good Friday, closed");
+      if (calendars.Year().Content().legend.front().text != "As it was before") continue;
+      ++unread;
+      EXPECT_THAT(calendars.Tools().ToolDescription("ID_YearPlanner"),
+                  HasSubstr("The year cannot be read: "));
+    }
+    EXPECT_GT(unread, 0);
+    calendars.Tools().ClickTool("ID_Refresh");
+    EXPECT_EQ(calendars.Year().Content().legend.front().text, "Weekend");
+  });
+}
+
 TEST(YearBesideDays, ShowsNothingWhenTheCalendarCannotBeReadAndSaysSo) {
   RunInFreshThread([] {
     YearWindow calendars;
@@ -192,8 +221,10 @@ TEST(YearBesideDays, ShowsNothingWhenTheCalendarCannotBeReadAndSaysSo) {
     calendars.world.faults.FailAtCall(1);
     calendars.ClickTool();
     calendars.world.faults.Disarm();
-    EXPECT_EQ(calendars.Messages(), 1U);
+    EXPECT_EQ(calendars.Messages(), 0U) << "the operator can go on with the days";
     EXPECT_THAT(calendars.Year().Content().calendars, IsEmpty());
+    EXPECT_EQ(calendars.Year().Content().legend.front().text, "Cannot be read");
+    EXPECT_THAT(calendars.Tools().ToolDescription("ID_YearPlanner"), HasSubstr("The year cannot be read: "));
     calendars.Tools().ClickTool("ID_Refresh");
     EXPECT_THAT(calendars.Year().Content().calendars, SizeIs(1));
   });
@@ -212,7 +243,9 @@ TEST(YearBesideDays, IsShownOnceItCanBeReadWhicheverCallFails) {
                                            EXPECT_TRUE(calendars.Year().Visible());
                                            calendars.Tools().ClickTool("ID_Refresh");
                                            EXPECT_THAT(calendars.Year().Content().calendars, SizeIs(1));
-                                         }},
+                                         },
+                                     // The year says so itself.
+                                     .is_silent = [](const std::string&) { return true; }},
                                     10);
 }
 

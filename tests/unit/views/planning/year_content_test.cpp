@@ -137,12 +137,69 @@ TEST(YearContentTest, NeverTakesAMissingCalendarForAnOpenOne) {
     EXPECT_EQ(missing.days[0].look.shape, platform::DayShape::kHatching);
     EXPECT_EQ(missing.days[0].description, "no calendar");
     const auto& joint = content.calendars[0];
-    EXPECT_EQ(Find(joint, 3)->description, "open as far as known; no calendar: JPY");
+    EXPECT_EQ(Find(joint, 3)->description, "open as far as known; no calendar of JPY");
     EXPECT_EQ(Find(joint, 3)->look.letter, "?");
-    EXPECT_EQ(Find(joint, kGoodFriday)->description, "all closed: Good Friday; no calendar: JPY");
+    EXPECT_EQ(Find(joint, kGoodFriday)->description, "all closed: Good Friday; no calendar of JPY");
     EXPECT_EQ(joint.months[3].text, "-");
     EXPECT_EQ(content.summary, "Open together on 364 days as far as known; no calendar of JPY");
     EXPECT_EQ(content.legend.back().text, "No calendar");
+  });
+}
+
+TEST(YearContentTest, NeverTakesACalendarThatIsNotPreparedForAnOpenOne) {
+  RunInFreshThread([] {
+    TwoCalendars world;
+    MemoryPlanningWorld::CreateCalendar(kEuro, 2029);
+    MemoryPlanningWorld::Except(kEuro, "2029-01-07", "fair");
+    const YearContent content = YearContentOf(TwoCalendars::Overview({kEuroCurrency}, 2029), kToday);
+    EXPECT_EQ(content.summary, "Not prepared: none of its days is closed");
+    const auto& euro = content.calendars[0];
+    ASSERT_THAT(euro.days, SizeIs(365));
+    EXPECT_EQ(euro.days[1].look.shape, platform::DayShape::kHatching);
+    EXPECT_EQ(euro.days[1].description, "not prepared");
+    EXPECT_EQ(euro.days[6].description, "Working day by exception: fair");
+    EXPECT_EQ(euro.months[0].text, "-");
+    EXPECT_EQ(euro.months[0].description, "not prepared");
+    EXPECT_EQ(content.legend.back().text, "Not prepared");
+  });
+}
+
+TEST(YearContentTest, NamesTheCalendarsThatAreNotPreparedBesideThoseThatAreMissing) {
+  RunInFreshThread([] {
+    TwoCalendars world;
+    MemoryPlanningWorld::CreateCalendar(kEuro, 2029);
+    const auto both = [] {
+      return YearContentOf(TwoCalendars::Overview({kEuroCurrency, kDollarCurrency}, 2029), kToday);
+    };
+    EXPECT_EQ(both().summary, "Nothing is known: no calendar of USD; not prepared: EUR");
+    EXPECT_EQ(both().legend.back().text, "No calendar, or not prepared");
+    MemoryPlanningWorld::CreateCalendar(kDollar, 2029);
+    MemoryPlanningWorld::Assign(kDollar, "2029-04-19", 4,
+                                MemoryPlanningWorld::AddPoint("Fair", "2029-04-19"));
+    const YearContent content = both();
+    EXPECT_EQ(content.summary, "Open together on 364 days as far as known; not prepared: EUR");
+    EXPECT_EQ(content.calendars[0].months[0].text, "-");
+    EXPECT_EQ(content.calendars[0].months[0].description, "not prepared: EUR");
+    EXPECT_EQ(Find(content.calendars[0], 3)->description, "open as far as known; not prepared: EUR");
+    EXPECT_EQ(Find(content.calendars[0], 109)->description, "all closed: Fair; not prepared: EUR");
+  });
+}
+
+TEST(YearContentTest, SaysThatACalendarIsClosedOnWeekendsOnly) {
+  RunInFreshThread([] {
+    TwoCalendars world;
+    MemoryPlanningWorld::CreateCalendar(kEuro, 2029);
+    MemoryPlanningWorld::Call("CldIUCelebrate", {{"Name1", "Day of rest"}, {"TID1", 2}, {"WD", 1}});
+    const auto rest = almanac::RuleDirectory(planning::LoadRules().rules).FindNamed("Day of rest")->id;
+    MemoryPlanningWorld::Assign(kEuro, "2029-01-07", 2, rest);
+    const YearContent content = YearContentOf(TwoCalendars::Overview({kEuroCurrency}, 2029), kToday);
+    EXPECT_THAT(content.summary, HasSubstr("Weekends only: "));
+    EXPECT_EQ(content.legend[0].text, "Weekends only");
+    const YearContent both =
+        YearContentOf(TwoCalendars::Overview({kEuroCurrency, kDollarCurrency}, 2029), kToday);
+    EXPECT_THAT(both.summary, HasSubstr("as far as known; no calendar of USD; weekends only: EUR"));
+    EXPECT_EQ(both.calendars[1].description, "Euro: weekends only");
+    EXPECT_EQ(both.legend[0].text, "Weekend");
   });
 }
 

@@ -1,0 +1,195 @@
+#include "ferrowind/business_days/value_dates.h"
+
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/almanac/year_plan.h"
+
+#include "calendars.h"
+#include "database/seed/delivered_conventions.h"
+#include "failure_of.h"
+#include "tests/unit/almanac/delivered_plans.h"
+
+namespace ferrowind::business_days {
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::sys_days;
+
+PreparedYear PlannedYear(const std::string& code, int number) {
+  const std::chrono::year year(number);
+  PreparedYear prepared{year, std::string(year.is_leap() ? 366 : 365, '0')};
+  const almanac::YearPlan plan = testing::DeliveredPlan(code, number);
+  for (const almanac::PlannedDay& day : plan.Days()) {
+    if (plan.KindOf(day) != almanac::RuleKind::kWorkingDay)
+      prepared.days.at(static_cast<std::size_t>(day.day_of_year) - 1) = '1';
+  }
+  return prepared;
+}
+
+/// The delivered books' years 2023 to 2029.
+const CalendarSet& Delivered() {
+  static const CalendarSet set = [] {
+    std::vector<BusinessCalendar> calendars;
+    for (const char* code : {"EUR", "USD", "GBP", "JPY", "CAD", "MXN", "TRY"}) {
+      std::vector<PreparedYear> years;
+      for (int year = 2023; year <= 2029; ++year) years.push_back(PlannedYear(code, year));
+      calendars.emplace_back(code, std::move(years));
+    }
+    return CalendarSet(calendars);
+  }();
+  return set;
+}
+
+ValueDates DatesOf(std::string_view pair) {
+  return {ReadCurrencyPair(pair), Delivered(), ReadMarketConventions(embedded::kMarketConventions)};
+}
+
+std::string Iso(sys_days day) {
+  const std::chrono::year_month_day date(day);
+  return platform::Date(static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+                        static_cast<int>(static_cast<unsigned>(date.day())))
+      .ToIso();
+}
+
+std::string Spot(std::string_view pair, sys_days trade_date) {
+  return Iso(DatesOf(pair).SpotDate(trade_date));
+}
+
+std::string Value(std::string_view pair, sys_days trade_date, std::string_view tenor) {
+  return Iso(DatesOf(pair).ValueDate(trade_date, ReadTenor(tenor)));
+}
+
+TEST(SpotDate, IsTwoBusinessDaysAfterTheTrade) {
+  EXPECT_EQ(Spot("EURUSD", 2026y / 3 / 9), "2026-03-11");
+  // Thursday to Monday, over the weekend.
+  EXPECT_EQ(Spot("EURUSD", 2026y / 3 / 12), "2026-03-16");
+}
+
+TEST(SpotDate, IsNotStoppedByADollarHolidayOnTheNextDay) {
+  // Juneteenth is the Monday after.
+  EXPECT_EQ(Spot("EURUSD", 2023y / 6 / 16), "2023-06-20");
+}
+
+TEST(SpotDate, IsStoppedByADollarHolidayForTheCurrenciesThatSettleSo) {
+  EXPECT_EQ(Spot("USDMXN", 2023y / 6 / 16), "2023-06-21");
+  // Such a currency against another is settled by way of the dollar.
+  EXPECT_EQ(Spot("EURMXN", 2023y / 6 / 16), "2023-06-21");
+}
+
+TEST(SpotDate, IsNoDollarHolidayEvenBetweenOtherCurrencies) {
+  EXPECT_EQ(Spot("GBPEUR", 2024y / 7 / 2), "2024-07-05");
+}
+
+TEST(SpotDate, IsCountedByEachCurrencyForItselfInGoldenWeek) {
+  // 1 May is closed for the euro, 4 to 6 May for the yen: the euro counts to Tuesday, the yen to Thursday.
+  EXPECT_EQ(Spot("EURJPY", 2026y / 4 / 30), "2026-05-07");
+  EXPECT_EQ(Spot("EURUSD", 2026y / 4 / 30), "2026-05-05");
+  EXPECT_EQ(Spot("USDJPY", 2026y / 4 / 30), "2026-05-07");
+}
+
+TEST(SpotDate, PassesTheEndOfTheYear) { EXPECT_EQ(Spot("EURUSD", 2026y / 12 / 30), "2027-01-04"); }
+
+TEST(SpotDate, IsTheNextDayForNextDayPairs) {
+  EXPECT_EQ(Spot("USDCAD", 2026y / 3 / 9), "2026-03-10");
+  EXPECT_EQ(Spot("USDTRY", 2026y / 3 / 9), "2026-03-10");
+  // Canada Day.
+  EXPECT_EQ(Spot("USDCAD", 2026y / 6 / 30), "2026-07-02");
+  // Independence Day cannot be the spot date itself.
+  EXPECT_EQ(Spot("USDCAD", 2025y / 7 / 3), "2025-07-07");
+  // Against others the same currency settles in two days.
+  EXPECT_EQ(Spot("EURCAD", 2026y / 3 / 9), "2026-03-11");
+}
+
+TEST(SpotDate, CountsATradeOnAClosedDayAsDoneOnTheNextOpenOne) {
+  const ValueDates dates = DatesOf("EURUSD");
+  const sys_days saturday = 2026y / 3 / 7;
+  EXPECT_EQ(Iso(dates.SpotDate(saturday)), "2026-03-11");
+  EXPECT_EQ(Iso(dates.SpotDate(saturday, ClosedTradeDate::kStays)), "2026-03-10");
+}
+
+TEST(SpotDate, TakesWeekendsFromTheCalendars) {
+  // One currency rests on Friday and Saturday, as its calendar says.
+  PreparedYear gulf{2026y, {}};
+  for (sys_days day = 2026y / 1 / 1; day <= sys_days(2026y / 12 / 31); day += std::chrono::days(1)) {
+    const std::chrono::weekday weekday(day);
+    gulf.days += weekday == std::chrono::Friday || weekday == std::chrono::Saturday ? '1' : '0';
+  }
+  const CalendarSet set({BusinessCalendar("USD", {YearWith(2026)}), BusinessCalendar("XGU", {gulf})});
+  const ValueDates dates({"USD", "XGU"}, set, {});
+  // Wednesday: Thursday and Sunday are business days of the Gulf, and the dollar is open on Monday.
+  EXPECT_EQ(Iso(dates.SpotDate(2026y / 3 / 11)), "2026-03-16");
+  // Tuesday: Wednesday and Thursday.
+  EXPECT_EQ(Iso(dates.SpotDate(2026y / 3 / 10)), "2026-03-12");
+}
+
+TEST(SpotDate, NamesCurrencyAndYearThatAreNotPrepared) {
+  const CalendarSet set(
+      {BusinessCalendar("USD", {YearWith(2026), YearWith(2027)}), BusinessCalendar("EUR", {YearWith(2026)})});
+  const ValueDates dates({"EUR", "USD"}, set, {});
+  EXPECT_EQ(FailureOf([&] { return dates.SpotDate(2026y / 12 / 30); }), "EUR 2027 is not prepared");
+  EXPECT_EQ(Iso(dates.SpotDate(2026y / 12 / 29)), "2026-12-31");
+}
+
+TEST(SpotDate, NeedsTheCalendarsOfBothAndOfTheDollar) {
+  const CalendarSet set(
+      {BusinessCalendar("EUR", {YearWith(2026)}), BusinessCalendar("GBP", {YearWith(2026)})});
+  EXPECT_EQ(FailureOf([&] { return ValueDates({"EUR", "JPY"}, set, {}); }), "There is no calendar of JPY");
+  EXPECT_EQ(FailureOf([&] { return ValueDates({"EUR", "GBP"}, set, {}); }), "There is no calendar of USD");
+}
+
+TEST(ValueDate, OfShortTenorsIsADayWithoutHolidaysAnywhere) {
+  const sys_days monday = 2026y / 3 / 9;
+  EXPECT_EQ(Value("EURUSD", monday, "ON"), "2026-03-10");
+  EXPECT_EQ(Value("EURUSD", monday, "TN"), "2026-03-11");
+  EXPECT_EQ(Value("EURUSD", monday, "SPOT"), "2026-03-11");
+  EXPECT_EQ(Value("EURUSD", monday, "SN"), "2026-03-12");
+  EXPECT_EQ(Value("EURUSD", monday, "SW"), "2026-03-18");
+  EXPECT_EQ(Value("EURUSD", monday, "3D"), "2026-03-16");
+}
+
+TEST(ValueDate, OfTomorrowNextIsOneDayBehindSpotForNextDayPairs) {
+  EXPECT_EQ(Value("USDCAD", 2026y / 3 / 9, "ON"), "2026-03-10");
+  EXPECT_EQ(Value("USDCAD", 2026y / 3 / 9, "TN"), "2026-03-11");
+}
+
+TEST(ValueDate, OfTomorrowNextDoesNotExistWhereOvernightReachesSpot) {
+  EXPECT_EQ(Value("EURUSD", 2023y / 6 / 16, "ON"), "2023-06-20");
+  EXPECT_EQ(FailureOf([&] { return Value("EURUSD", 2023y / 6 / 16, "TN"); }),
+            "EUR/USD has no TN on that day: its ON settles on the spot date already");
+}
+
+TEST(ValueDate, OfMonthsIsModifiedFollowing) {
+  EXPECT_EQ(Value("EURUSD", 2026y / 3 / 9, "1M"), "2026-04-13");
+  // Spot is 29 January; 28 February is a Saturday, and the Monday after would be in March.
+  EXPECT_EQ(Value("EURUSD", 2026y / 1 / 27, "1M"), "2026-02-27");
+}
+
+TEST(ValueDate, GoesFromTheLastBusinessDayOfAMonthToTheLastOne) {
+  // Spot is Friday, 30 January, the last business day.
+  EXPECT_EQ(Value("EURUSD", 2026y / 1 / 28, "1M"), "2026-02-27");
+  EXPECT_EQ(Value("EURUSD", 2026y / 1 / 28, "2M"), "2026-03-31");
+  // Spot is Friday, 27 February: not 27 March.
+  EXPECT_EQ(Value("EURUSD", 2026y / 2 / 25, "1M"), "2026-03-31");
+}
+
+TEST(ValueDate, OfAYearFromALeapDayIsTheEndOfFebruary) {
+  EXPECT_EQ(Spot("EURUSD", 2024y / 2 / 27), "2024-02-29");
+  EXPECT_EQ(Value("EURUSD", 2024y / 2 / 27, "1Y"), "2025-02-28");
+  EXPECT_EQ(Value("EURUSD", 2024y / 2 / 27, "4Y"), "2028-02-29");
+}
+
+TEST(ValueDate, OfAnImmTenorIsTheNextThirdWednesdayAfterSpot) {
+  EXPECT_EQ(Value("EURUSD", 2026y / 3 / 9, "IMM1"), "2026-03-18");
+  EXPECT_EQ(Value("EURUSD", 2026y / 3 / 9, "IMM2"), "2026-06-17");
+  EXPECT_EQ(Value("EURUSD", 2026y / 3 / 9, "IMM4"), "2026-12-16");
+  // Spot is the third Wednesday of March itself.
+  EXPECT_EQ(Value("EURUSD", 2026y / 3 / 16, "IMM1"), "2026-06-17");
+}
+
+}  // namespace
+}  // namespace ferrowind::business_days
