@@ -30,38 +30,36 @@ if(FERROWIND_FUZZ)
   target_link_options(ferrowind_build_options INTERFACE -fsanitize=address,undefined)
 endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
+# Every object may become a part of a shared library (so -fPIC, also above programs, which share precompiled headers with the
+# libraries), the house's own or a plug-in of a host, which then shows only what is marked (ferrowind/export.h).
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 include(FerrowindPrecompiled)
 
-# ferrowind_add_library(NAME SOURCES a.cpp ... HEADERS a.h ... [DEPENDS target ...] [PRIVATE_DEPENDS target ...]
-#                       [PRECOMPILED set])
-# One leaf of the house: target ferrowind_NAME, for other projects Ferrowind::NAME. The set of precompiled headers is
-# `standard` unless said.
+# ferrowind_add_library(NAME SOURCES a.cpp ... [PUBLIC_HEADERS a.h ...] [HEADERS b.h ...] [DEPENDS target ...]
+#                       [PRIVATE_DEPENDS target ...] [PRECOMPILED set])
+# One leaf of the house: target ferrowind_NAME. Public headers are those that hosts include; they are installed, and mark
+# with FERROWIND_EXPORT what hosts use. The set of precompiled headers is `standard` unless said.
 function(ferrowind_add_library name)
-  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC_HEADERS;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
   set(target ferrowind_${name})
   if(ARG_SOURCES)
     add_library(${target} STATIC ${ARG_SOURCES})
-    target_include_directories(${target} PUBLIC
-      $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
     target_compile_features(${target} PUBLIC cxx_std_20)
-    target_link_libraries(${target} PUBLIC ${ARG_DEPENDS}
-      PRIVATE $<BUILD_INTERFACE:ferrowind_build_options> ${ARG_PRIVATE_DEPENDS})
+    target_link_libraries(${target} PUBLIC ${ARG_DEPENDS} PRIVATE ferrowind_build_options ${ARG_PRIVATE_DEPENDS})
     if(NOT ARG_PRECOMPILED)
       set(ARG_PRECOMPILED standard)
     endif()
     ferrowind_use_precompiled(${target} ${ARG_PRECOMPILED})
   else()
     add_library(${target} INTERFACE)
-    target_include_directories(${target} INTERFACE
-      $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_include_directories(${target} INTERFACE ${PROJECT_SOURCE_DIR})
     target_compile_features(${target} INTERFACE cxx_std_20)
     target_link_libraries(${target} INTERFACE ${ARG_DEPENDS})
   endif()
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
-  add_library(Ferrowind::${name} ALIAS ${target})
-  install(TARGETS ${target} EXPORT FerrowindTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
-  install(FILES ${ARG_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+  list(TRANSFORM ARG_PUBLIC_HEADERS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  set_property(TARGET ${target} PROPERTY FERROWIND_PUBLIC_HEADERS ${ARG_PUBLIC_HEADERS})
 endfunction()
 
 # ferrowind_add_executable(NAME SOURCES a.cpp ... [DEPENDS target ...] [PRECOMPILED set])

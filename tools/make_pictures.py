@@ -97,10 +97,12 @@ class Studio:
 
     def take(self, name, session, title):
         """A picture of the window with its frame, and of what lies over it."""
-        area = self._frame(session.windows(re.escape(title))[-1])
+        window = session.windows(re.escape(title))[-1]
         seen = []
 
         def is_at_rest():
+            # Anew each time: the window, or the frame around it, may just be getting another size.
+            area = self._frame(window)
             seen.append(subprocess.run(['import', '-silent', '-window', 'root', '-crop', area, '+repage', 'ppm:-'],
                                        env=self.screen.environment, stdout=subprocess.PIPE, check=True).stdout)
             # A blinking text cursor gives two pictures in turns.
@@ -112,11 +114,18 @@ class Studio:
                        input=seen[-1], check=True)
         print(path.relative_to(ROOT), flush=True)
 
-    def _frame(self, window):
+    def size_of(self, window):
+        """Without its frame."""
+        return self._geometry(window)[2:]
+
+    def _geometry(self, window):
         told = subprocess.run(['xwininfo', '-id', window], env=self.screen.environment, capture_output=True, text=True,
                               check=True).stdout
-        x, y, width, height = (int(re.search(label + r':\s+(-?\d+)', told)[1]) for label in
-                               ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height'))
+        return tuple(int(re.search(label + r':\s+(-?\d+)', told)[1]) for label in
+                     ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height'))
+
+    def _frame(self, window):
+        x, y, width, height = self._geometry(window)
         extents = self.screen.property_of(window, '_NET_FRAME_EXTENTS')
         left, right, top, bottom = map(int, re.findall(r'\d+', extents.split('=')[1]))
         return f'{width + left + right}x{height + top + bottom}+{x - left}+{y - top}'
@@ -137,7 +146,11 @@ class Photographer:
         """The Calendars window at the size of the pictures."""
         window = self.session.window(CALENDARS)
         self.session.xdotool('windowmove', '--sync', window, 60, 60)
-        self.session.xdotool('windowsize', '--sync', window, *SIZE)
+        # The program may give the window the place it had before meanwhile, so once is not always enough.
+        def has_size():
+            self.session.xdotool('windowsize', window, *SIZE)
+            return self.studio.size_of(window) == SIZE
+        wait_for(has_size, 'the size of the pictures')
 
     def take(self, name):
         self.studio.take(name, self.session, CALENDARS)
@@ -323,6 +336,51 @@ class Photographer:
         self.studio.take(in_theme('guide-assign-preview', theme), self.session, PREVIEW)
         self.session.keys('Escape')
 
+    def take_exchange(self, theme):
+        """A list of which lines cannot be read, the plan of the mended one, and the question which calendars to export."""
+        # What stands in the pictures is no folder of this machine.
+        os.chdir(self.session.home)
+        url = 'sqlite:calendars.db'
+        self.make_database(url)
+        self.studio.use_frames(theme)
+        self.session.start('--database', url, '--theme', theme)
+        self.story.wait_active('Back office')
+        lines = ['2028-01-03 New Year holiday', '2028-04-14 Good Friday', '2028-04-17 Easter Monday',
+                 '2028-05-01 Early May bank holiday', '2028-05-29 Spring bank holiday', '2028-06-05 Jubilee bank holiday',
+                 '2028-08-28 Summer bank holiday', '2028-12-24 Christmas Eve (half day)', '2028-12-25 Christmas Day',
+                 '2028-12-26 Boxing Day']
+        wrong = [*lines[:3], '01/05/2028 Early May bank holiday', *lines[4:7], '2028-02-30 Christmas Eve', *lines[8:]]
+        self.session.keys('alt+i')
+        self.story.wait_active('Import a list')
+        for name, text in (('as-announced.txt', wrong), ('bank-holidays.txt', lines)):
+            pathlib.Path(name).write_text('\n'.join(text) + '\n')
+            self.session.keys('alt+f', 'ctrl+a')
+            self.session.type(name)
+            self.session.keys('Tab', 'Tab')
+            self.session.type('GBP')
+            self.session.keys('Tab')
+            self.session.type('2028')
+            self.session.keys('Return')
+            if text == wrong:
+                window = self.story.accessible.wait_window('Import a list')
+                wait_for(lambda: any('cannot be imported' in text for text in self.story.accessible.showing_texts(window)),
+                         'what is wrong')
+                if theme == 'light':
+                    self.studio.take('guide-import-faults', self.session, 'Import a list')
+        self.story.wait_active('Import of GBP 2028: bank-holidays.txt')
+        self.studio.take(in_theme('guide-import-plan', theme), self.session, 'Import of GBP 2028: bank-holidays.txt')
+        self.session.keys('Escape')
+        self.story.wait_active('Back office')
+        self.session.keys('alt+e')
+        self.story.wait_active('Export calendars')
+        self.session.keys('ctrl+a')
+        self.session.type('EUR, GBP, USD')
+        self.session.keys('Tab')
+        self.session.type(FIRST_YEAR)
+        self.session.keys('Tab')
+        self.session.type(FIRST_YEAR)
+        self.studio.take(in_theme('guide-export', theme), self.session, 'Export calendars')
+
     def take_history(self, theme):
         """Of a calendar with some changes, one of them undone."""
         self.session.database.parent.mkdir(parents=True)
@@ -383,6 +441,8 @@ def main():
         'rule-book-dark': lambda user: user.take_rule_book('dark'),
         'why': lambda user: user.take_why('light'),
         'why-dark': lambda user: user.take_why('dark'),
+        'exchange': lambda user: user.take_exchange('light'),
+        'exchange-dark': lambda user: user.take_exchange('dark'),
         'history-dark': lambda user: user.take_history('dark'),
         'history': lambda user: user.take_history('light'),
         'story': lambda user: user.take_story(),

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Writes database/postgres/check/catalogue.tsv anew, with which the check of a database compares: after a change of the schema,
-# the rights or the form of a routine. What has changed in it is to be read before it is committed.
+# Writes database/postgres/check/catalogue.tsv and server_functions.tsv anew, with which the check of a database compares: after
+# a change of the schema, the rights or the form of a routine, and where a routine uses another function of the server. What has
+# changed in them is to be read before it is committed.
 # usage: tools/write_server_catalogue.sh
 set -euo pipefail
 
@@ -29,3 +30,14 @@ psql=(psql -X -q -A -t -v ON_ERROR_STOP=1)
   WHERE property <> 'text'
 ) TO STDOUT (FORMAT csv, QUOTE E'\x01', DELIMITER E'\x02')" >"$folder/catalogue.tsv.new"
 mv -- "$folder/catalogue.tsv.new" "$folder/catalogue.tsv"
+
+# Functions of the server that scripts name in front of a bracket, and those whose rights the scripts take.
+names=$(cat -- "$root"/database/postgres/{schema.sql,rights.sql,functions/*.sql,procedures/*.sql} |
+  grep -o '[a-z_0-9]\+(' | tr -d '(' | sort -u | paste -s -d ' ')
+"${psql[@]}" "$FERROWIND_POSTGRES" -c 'SET search_path = pg_catalog' -F $'\t' -c "
+  SELECT p.oid::regprocedure, concat_ws(' ', l.lanname, p.prosrc, p.provolatile, p.proisstrict, p.prosecdef, p.proconfig)
+  FROM pg_proc p JOIN pg_language l ON l.oid = p.prolang
+  WHERE p.oid < 16384 AND p.pronamespace = 'pg_catalog'::regnamespace AND l.lanname = 'internal' AND p.prokind = 'f'
+    AND p.proname = ANY (string_to_array('$names', ' '))
+  ORDER BY p.oid::regprocedure::text COLLATE \"C\"" >"$folder/server_functions.tsv.new"
+mv -- "$folder/server_functions.tsv.new" "$folder/server_functions.tsv"

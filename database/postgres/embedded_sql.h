@@ -20,6 +20,10 @@ extern const std::string_view kPostgresFingerprint;
 extern const std::string_view kPostgresMomentFrom;
 extern const std::string_view kPostgresCurrencyCanBe;
 extern const std::string_view kPostgresUndo;
+/// What downstream systems ask in SQL. The conventions are those of database/seed/market_conventions.txt.
+extern const std::string_view kPostgresBusinessDays;
+extern const std::string_view kPostgresDeliveredConventions;
+extern const std::string_view kPostgresValueDates;
 /// The procedures' sources.
 extern const std::string_view kPostgresCldAllInfo;
 extern const std::string_view kPostgresCldGetMain;
@@ -36,19 +40,32 @@ extern const std::string_view kPostgresCldGetClosedDays;
 extern const std::string_view kPostgresCldGetMarkedDays;
 extern const std::string_view kPostgresCldIUCurrency;
 extern const std::string_view kPostgresCldGetCurrencies;
+extern const std::string_view kPostgresCldGetContent;
+extern const std::string_view kPostgresCldIUConvention;
+extern const std::string_view kPostgresCldGetConventions;
+/// Questions of administrators: who is in the way of a lock, and who has the server's connections.
+extern const std::string_view kPostgresLockHolders;
+extern const std::string_view kPostgresConnectionShares;
 /// Who may do what.
 extern const std::string_view kPostgresRights;
 /// The scripts that bring older databases here, by version.
 extern const std::string_view kPostgresUpgradeToHistory;
 extern const std::string_view kPostgresUpgradeToPlans;
 extern const std::string_view kPostgresUpgradeToFirstYears;
+extern const std::string_view kPostgresUpgradeToGuardedRecords;
+extern const std::string_view kPostgresUpgradeToBusinessDays;
 /// A question for all that the schema consists of, and its answer in a new database: a line for each row,
 /// with tabs between the columns, without the texts of routines, which are those of the scripts.
 extern const std::string_view kPostgresObjects;
 extern const std::string_view kPostgresCatalogue;
-/// Questions whose every row is a fault, told in its only text: of the roles, and of what reaches into the
-/// schema from outside.
+/// Questions whose every row is a fault, told in its only text: of the roles, of settings, and of what
+/// reaches into the schema from outside; the parameter of that is the text of the server's functions, a line
+/// for each with a tab between its form and what it is.
 extern const std::string_view kPostgresRoleFaults;
+extern const std::string_view kPostgresSettingFaults;
 extern const std::string_view kPostgresSurroundingFaults;
+extern const std::string_view kPostgresServerFunctions;
+/// A question whose every row is a warning.
+extern const std::string_view kPostgresSettingsInDoubt;
 
 }  // namespace ferrowind::embedded

@@ -23,9 +23,14 @@ extern const std::string_view kSqliteCldGetClosedDays;
 extern const std::string_view kSqliteCldGetMarkedDays;
 extern const std::string_view kSqliteCldIUCurrency;
 extern const std::string_view kSqliteCldGetCurrencies;
+extern const std::string_view kSqliteCldGetContent;
 /// The scripts that bring older databases here, by version.
+extern const std::string_view kSqliteCldIUConvention;
+extern const std::string_view kSqliteCldGetConventions;
 extern const std::string_view kSqliteUpgradeToHistory;
 extern const std::string_view kSqliteUpgradeToRuleBooks;
 extern const std::string_view kSqliteUpgradeToFirstYears;
+extern const std::string_view kSqliteUpgradeToGuardedRecords;
+extern const std::string_view kSqliteUpgradeToBusinessDays;
 
 }  // namespace ferrowind::embedded

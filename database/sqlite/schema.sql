@@ -6,7 +6,7 @@
 -- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here and of the
 -- procedures. A change comes with a script in upgrade/ that brings older databases to the same state.
 PRAGMA application_id = 0x46657277;
-PRAGMA user_version = 4;
+PRAGMA user_version = 6;
 
 -- LastDay: the last day as legal money; NULL as long as it is.
 CREATE TABLE DicCcy (
@@ -63,6 +63,8 @@ CREATE TABLE CldDay (
 ) WITHOUT ROWID;
 
 CREATE INDEX CldDayByDate ON CldDay (ODate);
+-- The days that have a rule, with all that reviews look at, so that they read no other days.
+CREATE INDEX CldDayWithRule ON CldDay (ID1, Year1, Day1, TID1, ID2, Comment) WHERE ID2 IS NOT NULL;
 
 -- The rule book of a currency: whose document it follows, the first year that it tells of (NULL: it tells of all), and in
 -- their order the recurring rules from which the plan of a year is made. Expression says on which dates; MovedName is the
@@ -84,6 +86,18 @@ CREATE TABLE CldRecurrence (
   PRIMARY KEY (ID1, Position)
 ) WITHOUT ROWID;
 
+-- What an administrator says of the market's conventions beside those that are delivered: of a pair of currencies, whose numbers
+-- ascend, the days from trade to spot; of one currency, OtherID being itself, whether a holiday of the dollar stops the count.
+CREATE TABLE CldConvention (
+  ID1 INTEGER NOT NULL REFERENCES DicCcy (CcyID),
+  OtherID INTEGER NOT NULL REFERENCES DicCcy (CcyID),
+  SpotDays INTEGER CHECK (SpotDays BETWEEN 0 AND 2 AND typeof(SpotDays) = 'integer' OR SpotDays IS NULL),
+  DollarStops INTEGER CHECK (DollarStops IN (0, 1) AND typeof(DollarStops) = 'integer' OR DollarStops IS NULL),
+  PRIMARY KEY (ID1, OtherID),
+  CHECK (ID1 <= OtherID),
+  CHECK ((SpotDays IS NULL) = (ID1 = OtherID) AND (DollarStops IS NULL) = (ID1 <> OtherID))
+) WITHOUT ROWID;
+
 -- One row. FirstDay: the weekday that a week begins with, 1 Sunday to 7 Saturday.
 CREATE TABLE CldSetting (
   FirstDay INTEGER NOT NULL CHECK (FirstDay BETWEEN 1 AND 7 AND typeof(FirstDay) = 'integer')
@@ -95,6 +109,9 @@ CREATE UNIQUE INDEX CldSettingHasOneRow ON CldSetting ((1));
 -- null for none), and how many rows of other tables it added or changed. ID1 and Year1 name the calendar that the call was
 -- for, when it was for one. Entries are only ever added. Little is checked and computed here, because every connection
 -- compiles what stands here anew.
+-- Entries that are for the same calendar, those that are for the same rule book and those that are for neither are chained:
+-- ChainPosition counts them, Previous is the Hash of the one before, empty for none, and Hash is over all of the entry and
+-- its rows (README.md).
 CREATE TABLE CldHistory (
   EntryID INTEGER PRIMARY KEY,
   Moment TEXT NOT NULL CHECK (Moment LIKE '____-__-__T__:__:__.___Z'),
@@ -104,8 +121,12 @@ CREATE TABLE CldHistory (
   Year1 INTEGER,
   Parameters TEXT NOT NULL,
   ReturnValue INTEGER NOT NULL,
-  RowsChanged INTEGER NOT NULL
+  RowsChanged INTEGER NOT NULL,
+  ChainPosition INTEGER NOT NULL,
+  Previous TEXT NOT NULL,
+  Hash TEXT NOT NULL
 );
+CREATE UNIQUE INDEX CldHistoryByChain ON CldHistory (ifnull(ID1, 0), ifnull(Year1, 0), ChainPosition);
 CREATE TRIGGER CldHistoryKeepsItsEntries BEFORE UPDATE ON CldHistory
 BEGIN
   SELECT RAISE(ABORT, 'an entry of the history is not changed');
@@ -117,9 +138,10 @@ END;
 
 -- The rows of other tables that a call replaced, so that it can be undone and every calendar shown as it was. A row stands
 -- here by its key: ID1 alone for DicCcy (its CcyID) and CldBook; ID1 and Year1 for CldCalendar, with Day1 for CldDay; ID2 for
--- CldHoliday; ID1 and Position for CldRecurrence. OldRow is a JSON object of the other columns by name, without ODate; NULL
--- when there was no such row. A call has one row for a key, and none for what it left as it was. Days that come with a new
--- calendar have none of their own, nor have ordinary working days that go with their calendar. The engine adds the rows
+-- CldHoliday; ID1 and Position for CldRecurrence and CldConvention (its OtherID). OldRow is a JSON object of the other columns by name, without ODate; NULL
+-- when there was no such row. NewRow is what the call left, in the same form. A call has one row for a key, and none for what
+-- it left as it was. Days that come with a new calendar have none of their own: NewRow of the calendar has those of them
+-- with a rule or a comment, by number. Nor have ordinary working days that go with their calendar. The engine adds the rows
 -- behind the entry; like entries, they are only ever added.
 CREATE TABLE CldHistoryRow (
   EntryID INTEGER NOT NULL REFERENCES CldHistory (EntryID),
@@ -131,6 +153,7 @@ CREATE TABLE CldHistoryRow (
   ID2 INTEGER,
   Position INTEGER,
   OldRow TEXT,
+  NewRow TEXT,
   PRIMARY KEY (EntryID, RowNumber)
 ) WITHOUT ROWID;
 CREATE INDEX CldHistoryRowByKey ON CldHistoryRow (TableName, ID1, Year1, Day1, ID2, Position, EntryID);
@@ -150,6 +173,18 @@ CREATE TABLE CldHistoryStart (
   Moment TEXT NOT NULL CHECK (Moment LIKE '____-__-__T__:__:__.___Z')
 );
 CREATE UNIQUE INDEX CldHistoryStartHasOneRow ON CldHistoryStart ((1));
+
+-- What was there when the entries began to be chained: a digest of each part of it, which is a calendar (ID1 and Year1), a
+-- rule book (ID1), or a whole table (neither; then Year1 is its number). 0 stands for none. EntryID is the last entry before,
+-- Moment that of the upgrade; NULL in a database that has chained its entries from the first on.
+CREATE TABLE CldChainStart (
+  ID1 INTEGER NOT NULL,
+  Year1 INTEGER NOT NULL,
+  EntryID INTEGER NOT NULL,
+  Moment TEXT,
+  Digest TEXT NOT NULL,
+  PRIMARY KEY (ID1, Year1)
+) WITHOUT ROWID;
 
 -- What others read of the calendars. No column has a collation that their programs would have to know.
 CREATE VIEW CalendarList AS

@@ -1,10 +1,13 @@
 #include "ferrowind/almanac/book_faults.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <variant>
 
@@ -12,16 +15,14 @@
 #include "ferrowind/almanac/book_text.h"
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_words.h"
-#include "ferrowind/platform/values/case_fold.h"
-#include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/almanac/rule_directory.h"
 
 namespace ferrowind::almanac {
 namespace {
 
-/// Two names are one in the database when these are the same.
-std::string KeyOf(const std::string& name) { return platform::FoldCase(platform::Trim(name)); }
+using platform::Phrase;
 
-bool IsBlank(const std::string& text) { return platform::Trim(text).empty(); }
+bool IsBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
 
 /// The one date of a celebration.
 std::optional<FixedDate> DateOf(const BookRule& rule) {
@@ -30,58 +31,62 @@ std::optional<FixedDate> DateOf(const BookRule& rule) {
   return *date;
 }
 
-/// What the database will know of a name.
+/// "a celebration".
+Phrase Kind(RuleKind kind) {
+  switch (kind) {
+    case RuleKind::kWorkingDay:
+      return Phrase::Of("a working day");
+    case RuleKind::kWeekday:
+      return Phrase::Of("a weekday");
+    case RuleKind::kCelebration:
+      return Phrase::Of("a celebration");
+    case RuleKind::kPoint:
+      return Phrase::Of("a point");
+  }
+  return {};
+}
+
+/// "on 1 May".
+Phrase OnDate(const FixedDate& date) { return Phrase::Of("on %1", {DayAndMonth(date.month, date.day)}); }
+
+/// What the database will know of a name that a rule uses.
 struct NameUse {
+  std::string name;
+  std::string key;
   RuleKind kind;
   std::optional<FixedDate> date;
-  /// Where the name stands, such as "rule 7".
-  std::string place;
+  /// Whether it is the name of the day to which the rule moves.
+  bool is_of_moved_day;
 };
 
-/// The names met so far, each as it was used first.
-class NamesInUse {
- public:
-  /// What is wrong with this use when the first one of the name was another.
-  std::optional<std::string> Add(const std::string& name, const NameUse& use) {
-    const auto [known, is_new] = uses_.emplace(KeyOf(name), use);
-    if (is_new) return std::nullopt;
-    const NameUse& first = known->second;
-    if (first.kind != use.kind) {
-      return '"' + name + "\" is a " + std::string(TextOf(first.kind)) + " in " + first.place + " and a " +
-             std::string(TextOf(use.kind)) + " in " + use.place + ": a name has one kind";
-    }
-    if (first.date && use.date && *first.date != *use.date) {
-      return '"' + name + "\" is on " + DayAndMonth(first.date->month, first.date->day).InEnglish() + " in " +
-             first.place + " and on " + DayAndMonth(use.date->month, use.date->day).InEnglish() + " in " +
-             use.place + ": a celebration has one date";
-    }
-    return std::nullopt;
-  }
+/// Calls `use` for each name that the rule uses.
+template <typename Use>
+void ForEachName(const BookRule& rule, const Use& use) {
+  use(NameUse{rule.name, NameKey(rule.name), rule.kind, DateOf(rule), false});
+  if (rule.expression.moves.empty()) return;
+  std::string moved = rule.NameOfMovedDay();
+  std::string key = NameKey(moved);
+  use(NameUse{std::move(moved), std::move(key), RuleKind::kPoint, std::nullopt, true});
+}
 
- private:
-  std::map<std::string, NameUse> uses_;
-};
-
-/// The names that a rule at `place` uses.
-std::vector<std::pair<std::string, NameUse>> UsesOf(const BookRule& rule, const std::string& place) {
-  std::vector<std::pair<std::string, NameUse>> uses = {{rule.name, {rule.kind, DateOf(rule), place}}};
-  if (!rule.expression.moves.empty()) {
-    uses.push_back({rule.NameOfMovedDay(), {RuleKind::kPoint, std::nullopt, place + " (moved day)"}});
-  }
-  return uses;
+/// "rule 7 (moved day)", of a rule that stands at `place`.
+Phrase PlaceOfName(const NameUse& use, const Phrase& place) {
+  return use.is_of_moved_day ? Phrase::Of("%1 (moved day)", {place}) : place;
 }
 
 /// "AUD", "AUD and CAD", or "AUD, CAD and 23 others".
-std::string Listed(const std::vector<std::string>& places) {
+Phrase Listed(const std::vector<Phrase>& places) {
   constexpr std::size_t kMostTold = 3;
   const bool are_too_many = places.size() > kMostTold;
   const std::size_t told = are_too_many ? kMostTold - 1 : places.size();
-  std::string list;
+  Phrase list;
   for (std::size_t i = 0; i < told; ++i) {
-    if (i > 0) list += i + 1 == told && !are_too_many ? " and " : ", ";
-    list += places[i];
+    const bool ends_list = i + 1 == told && !are_too_many;
+    list = i == 0 ? places[i] : Phrase::Of(ends_list ? "%1 and %2" : "%1, %2", {list, places[i]});
   }
-  return are_too_many ? list + " and " + std::to_string(places.size() - told) + " others" : list;
+  if (!are_too_many) return list;
+  const auto others = static_cast<std::int64_t>(places.size() - told);
+  return Phrase::OfNumber(others, "%1 and %n other", "%1 and %n others", {list});
 }
 
 /// How several books use one name.
@@ -89,14 +94,15 @@ class SharedName {
  public:
   explicit SharedName(std::string name) : name_(std::move(name)) {}
 
-  void Add(const NameUse& use) {
-    kinds_.Add("a " + std::string(TextOf(use.kind)), use.place);
-    if (use.date) dates_.Add("on " + DayAndMonth(use.date->month, use.date->day).InEnglish(), use.place);
+  void Add(const NameUse& use, const Phrase& place) {
+    kinds_.Add(Kind(use.kind), place);
+    if (use.date) dates_.Add(OnDate(*use.date), place);
   }
 
-  [[nodiscard]] std::optional<std::string> Fault() const {
-    if (kinds_.Differ()) return Told(kinds_) + ": a name has one kind";
-    if (dates_.Differ()) return Told(dates_) + ": a celebration has one date";
+  [[nodiscard]] std::optional<Phrase> Fault() const {
+    if (kinds_.Differ()) return Phrase::Of("\"%1\" is %2: a name has one kind", {name_, kinds_.WithPlaces()});
+    if (dates_.Differ())
+      return Phrase::Of("\"%1\" is %2: a celebration has one date", {name_, dates_.WithPlaces()});
     return std::nullopt;
   }
 
@@ -104,28 +110,32 @@ class SharedName {
   /// What the name is, and where it is that.
   class Meanings {
    public:
-    void Add(const std::string& meaning, const std::string& place) {
-      for (auto& [known, places] : places_) {
-        if (known == meaning) return places.push_back(place);
+    void Add(const Phrase& meaning, const Phrase& place) {
+      const std::string key = meaning.InEnglish();
+      for (auto& known : meanings_) {
+        if (known.key == key) return known.places.push_back(place);
       }
-      places_.push_back({meaning, {place}});
+      meanings_.push_back({key, meaning, {place}});
     }
-    [[nodiscard]] bool Differ() const { return places_.size() > 1; }
-    [[nodiscard]] std::string ToText() const {
-      std::string text;
-      for (const auto& [meaning, places] : places_) {
-        text += (text.empty() ? "" : " and ") + meaning + " in " + Listed(places);
+    [[nodiscard]] bool Differ() const { return meanings_.size() > 1; }
+    /// "a point in AUD and CAD and a celebration in EUR".
+    [[nodiscard]] Phrase WithPlaces() const {
+      Phrase all;
+      for (const auto& [key, meaning, places] : meanings_) {
+        const Phrase one = Phrase::Of("%1 in %2", {meaning, Listed(places)});
+        all = all.IsEmpty() ? one : Phrase::Of("%1 and %2", {all, one});
       }
-      return text;
+      return all;
     }
 
    private:
-    std::vector<std::pair<std::string, std::vector<std::string>>> places_;
+    struct Meaning {
+      std::string key;
+      Phrase meaning;
+      std::vector<Phrase> places;
+    };
+    std::vector<Meaning> meanings_;
   };
-
-  [[nodiscard]] std::string Told(const Meanings& meanings) const {
-    return '"' + name_ + "\" is " + meanings.ToText();
-  }
 
   std::string name_;
   Meanings kinds_;
@@ -140,17 +150,17 @@ class SharedNames {
   void Add(const NamedBook& book, bool are_new) {
     std::set<std::string> own;
     for (std::size_t i = 0; i < book.book.rules.size(); ++i) {
-      const std::string place =
-          i < book.lines.size() ? "line " + std::to_string(book.lines[i]) + " of " + book.name : book.name;
-      for (const auto& [name, use] : UsesOf(book.book.rules[i], place)) {
-        const std::string key = KeyOf(name);
-        if (own.insert(key).second) Add(key, name, use, are_new);
-      }
+      const Phrase place = i < book.lines.size()
+                               ? Phrase::Of("line %1 of %2", {std::to_string(book.lines[i]), book.name})
+                               : Phrase(book.name);
+      ForEachName(book.book.rules[i], [&](const NameUse& use) {
+        if (own.insert(use.key).second) Add(use, PlaceOfName(use, place), are_new);
+      });
     }
   }
 
-  [[nodiscard]] std::vector<std::string> Faults() const {
-    std::vector<std::string> faults;
+  [[nodiscard]] std::vector<Phrase> Faults() const {
+    std::vector<Phrase> faults;
     for (const SharedName& name : names_) {
       if (auto fault = name.Fault()) faults.push_back(std::move(*fault));
     }
@@ -158,14 +168,14 @@ class SharedNames {
   }
 
  private:
-  void Add(const std::string& key, const std::string& name, const NameUse& use, bool is_new) {
-    auto known = positions_.find(key);
+  void Add(const NameUse& use, const Phrase& place, bool is_new) {
+    auto known = positions_.find(use.key);
     if (known == positions_.end()) {
       if (!is_new) return;
-      known = positions_.emplace(key, names_.size()).first;
-      names_.emplace_back(name);
+      known = positions_.emplace(use.key, names_.size()).first;
+      names_.emplace_back(use.name);
     }
-    names_[known->second].Add(use);
+    names_[known->second].Add(use, place);
   }
 
   /// In the order in which the books use them.
@@ -179,12 +189,12 @@ class BookInspection {
   BookInspection(const RuleBook& book, const DateTables& tables, const std::vector<std::size_t>& lines)
       : book_(book), tables_(tables), lines_(lines) {}
 
-  std::vector<std::string> Inspect() {
-    if (IsBlank(book_.publisher)) faults_.emplace_back("The book names no publisher");
-    if (IsBlank(book_.document)) faults_.emplace_back("The book names no document");
+  std::vector<Phrase> Inspect() {
+    if (IsBlank(book_.publisher)) faults_.push_back(Phrase::Of("The book names no publisher"));
+    if (IsBlank(book_.document)) faults_.push_back(Phrase::Of("The book names no document"));
     if (book_.since && (*book_.since < kFirstYear || *book_.since > kLastYear)) {
-      faults_.push_back("The book holds from " + std::to_string(*book_.since) + " on, which is not " +
-                        AYear());
+      faults_.push_back(
+          Phrase::Of("The book holds from %1 on, which is not %2", {std::to_string(*book_.since), AYear()}));
     }
     for (const BookRule& rule : book_.rules) {
       if (rule.expression.IsEveryWeekday() && rule.kind == RuleKind::kWeekday) {
@@ -192,24 +202,25 @@ class BookInspection {
       }
     }
     if (weekend_.IsEmpty()) {
-      faults_.emplace_back(
-          "The book closes no weekday: without a rule of the kind weekday each Saturday and Sunday would be "
-          "a working day");
+      faults_.push_back(Phrase::Of(
+          "The book closes no weekday: without a rule of the kind weekday each Saturday and Sunday "
+          "would be a working day"));
     }
     for (position_ = 0; position_ < book_.rules.size(); ++position_) InspectRule(book_.rules[position_]);
     return std::move(faults_);
   }
 
  private:
+  struct FirstUse {
+    NameUse use;
+    std::size_t position;
+  };
+
   void InspectRule(const BookRule& rule) {
     if (IsBlank(rule.name)) {
-      Add("has no name");
+      Add("%1 (%2) has no name");
     } else {
       InspectNames(rule);
-      for (const auto& [name, use] : UsesOf(rule, PlaceOf(position_))) {
-        if (auto fault = names_.Add(name, use)) faults_.push_back(std::move(*fault));
-      }
-      InspectRepetition(rule);
     }
     InspectKind(rule);
     InspectMoves(rule);
@@ -217,28 +228,59 @@ class BookInspection {
   }
 
   void InspectNames(const BookRule& rule) {
-    const std::string built_in = KeyOf(kExceptionName);
-    if (KeyOf(rule.name) == built_in ||
-        (!rule.expression.moves.empty() && KeyOf(rule.NameOfMovedDay()) == built_in)) {
-      Add("has the name of the built-in rule \"" + std::string(kExceptionName) +
-          "\", which no book can have");
+    static const std::string built_in = NameKey(kExceptionName);
+    bool is_built_in = false;
+    std::vector<NameUse> uses;
+    ForEachName(rule, [&](NameUse use) {
+      is_built_in = is_built_in || use.key == built_in;
+      uses.push_back(std::move(use));
+    });
+    if (is_built_in) {
+      Add("%1 (%2) has the name of the built-in rule \"%3\", which no book can have",
+          {std::string(kExceptionName)});
     }
+    const std::string own = uses.front().key;
+    for (NameUse& use : uses) InspectUse(std::move(use));
+    InspectRepetition(rule, own);
   }
 
-  void InspectRepetition(const BookRule& rule) {
-    const auto [first, is_new] =
-        expressions_.emplace(KeyOf(rule.name) + '\n' + rule.expression.ToText(), position_);
-    if (!is_new) Add("says the same as " + PlaceOf(first->second));
+  void InspectUse(NameUse use) {
+    const auto known = names_.find(use.key);
+    if (known == names_.end()) {
+      std::string key = use.key;
+      names_.emplace(std::move(key), FirstUse{std::move(use), position_});
+      return;
+    }
+    const NameUse& first = known->second.use;
+    const bool is_of_another_kind = first.kind != use.kind;
+    if (!is_of_another_kind && (!first.date || !use.date || *first.date == *use.date)) return;
+    const Phrase first_place = PlaceOfName(first, PlaceOf(known->second.position));
+    const Phrase place = PlaceOfName(use, PlaceOf(position_));
+    faults_.push_back(
+        is_of_another_kind
+            ? Phrase::Of("\"%1\" is %2 in %3 and %4 in %5: a name has one kind",
+                         {use.name, Kind(first.kind), first_place, Kind(use.kind), place})
+            : Phrase::Of("\"%1\" is %2 in %3 and %4 in %5: a celebration has one date",
+                         {use.name, OnDate(*first.date), first_place, OnDate(*use.date), place}));
+  }
+
+  void InspectRepetition(const BookRule& rule, const std::string& key) {
+    std::vector<std::size_t>& others = rules_of_name_[key];
+    const auto first = std::find_if(others.begin(), others.end(), [&](std::size_t position) {
+      return book_.rules[position].expression == rule.expression;
+    });
+    if (first != others.end()) return Add("%1 (%2) says the same as %3", {PlaceOf(*first)});
+    others.push_back(position_);
   }
 
   void InspectKind(const BookRule& rule) {
     const DateExpression& expression = rule.expression;
     if (expression.IsEveryWeekday() != (rule.kind == RuleKind::kWeekday)) {
       Add(expression.IsEveryWeekday()
-              ? "is each week on a weekday, so its kind is weekday"
-              : "is of the kind weekday, so its expression is \"weekday\" and a weekday");
+              ? "%1 (%2) is each week on a weekday, so its kind is weekday"
+              : "%1 (%2) is of the kind weekday, so its expression is \"weekday\" and a weekday");
     } else if (expression.IsBetween() && rule.kind != RuleKind::kPoint) {
-      Add("is a day between holidays, so its kind is point");
+      Add("%1 (%2) is a day between holidays, so its kind is point");
     } else if (rule.kind == RuleKind::kCelebration) {
       InspectCelebration(expression);
     }
@@ -246,14 +288,14 @@ class BookInspection {
 
   void InspectCelebration(const DateExpression& expression) {
     if (!std::holds_alternative<FixedDate>(expression.anchor) || !expression.steps.empty()) {
-      Add("is not on the same date each year, so its kind is point");
+      Add("%1 (%2) is not on the same date each year, so its kind is point");
       return;
     }
     for (const Move& move : expression.moves) {
       for (int weekday = 1; weekday <= 7; ++weekday) {
         if (!move.weekdays.Contains(weekday) || weekend_.Contains(weekday)) continue;
-        Add("moves off a " + std::string(WeekdayName(weekday)) +
-            ", a working day, and takes its name along, so its kind is point");
+        Add("%1 (%2) moves off a %3, a working day, and takes its name along, so its kind is point",
+            {Weekday(weekday)});
         return;
       }
     }
@@ -264,9 +306,10 @@ class BookInspection {
     const bool can_move = rule.kind != RuleKind::kWorkingDay && !expression.IsEveryWeekday() &&
                           !expression.IsBetween() && !expression.IsUnknown();
     if (!can_move && (!expression.moves.empty() || expression.else_not_observed)) {
-      Add("neither moves nor is dropped: it is a working day, a weekday, a day between holidays or unknown");
+      Add("%1 (%2) neither moves nor is dropped: it is a working day, a weekday, a day between holidays or "
+          "unknown");
     } else if (expression.moves.empty() && !rule.moved_name.empty()) {
-      Add("names its moved day, but does not move");
+      Add("%1 (%2) names its moved day, but does not move");
     } else {
       InspectTargets(expression);
     }
@@ -277,12 +320,7 @@ class BookInspection {
     for (const Move& move : expression.moves) {
       const int weekday = move.target.weekday;
       if (move.target.direction != Direction::kNearest || !move.weekdays.Contains(weekday)) continue;
-      const std::string_view name = WeekdayName(weekday);
-      Add(std::string("moves off a ")
-              .append(name)
-              .append(" to the nearest ")
-              .append(name)
-              .append(", which is the same day"));
+      Add("%1 (%2) moves off a %3 to the nearest %3, which is the same day", {Weekday(weekday)});
     }
   }
 
@@ -290,11 +328,11 @@ class BookInspection {
     const DateExpression& expression = rule.expression;
     if (const auto* table = std::get_if<TableDate>(&expression.anchor)) {
       if (tables_.Find(table->table) == nullptr) {
-        Add("asks for the table " + table->table + ", and there is none of that name");
+        Add("%1 (%2) asks for the table %3, and there is none of that name", {table->table});
         return;
       }
     }
-    if (!HasDates(expression)) Add("is on no day of any year");
+    if (!HasDates(expression)) Add("%1 (%2) is on no day of any year");
   }
 
   [[nodiscard]] bool HasDates(const DateExpression& expression) const {
@@ -305,17 +343,23 @@ class BookInspection {
     return false;
   }
 
-  [[nodiscard]] std::string PlaceOf(std::size_t position) const {
-    if (position < lines_.size()) return "line " + std::to_string(lines_[position]);
-    return "rule " + std::to_string(position + 1);
+  [[nodiscard]] Phrase PlaceOf(std::size_t position) const {
+    if (position < lines_.size()) return Phrase::Of("line %1", {std::to_string(lines_[position])});
+    return Phrase::Of("rule %1", {std::to_string(position + 1)});
+  }
+  [[nodiscard]] Phrase PlaceThatBegins(std::size_t position) const {
+    if (position < lines_.size()) return Phrase::Of("Line %1", {std::to_string(lines_[position])});
+    return Phrase::Of("Rule %1", {std::to_string(position + 1)});
   }
 
-  void Add(const std::string& what) {
+  /// `sentence` has the place of the rule at "%1", its name at "%2" and `more` from "%3" on.
+  //: says 1
+  void Add(const std::string& sentence, const std::vector<Phrase>& more = {}) {
     const BookRule& rule = book_.rules[position_];
-    std::string place = PlaceOf(position_);
-    place.front() = place.front() == 'l' ? 'L' : 'R';
-    faults_.push_back(place + " (" + (IsBlank(rule.name) ? rule.expression.ToText() : rule.name) + ") " +
-                      what);
+    std::vector<Phrase> arguments{PlaceThatBegins(position_),
+                                  IsBlank(rule.name) ? rule.expression.ToText() : rule.name};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    faults_.push_back(Phrase::Of(sentence, std::move(arguments)));
   }
 
   const RuleBook& book_;
@@ -323,20 +367,21 @@ class BookInspection {
   const std::vector<std::size_t>& lines_;
   WeekdaySet weekend_;
   std::size_t position_ = 0;
-  NamesInUse names_;
-  std::map<std::string, std::size_t> expressions_;
-  std::vector<std::string> faults_;
+  /// By key.
+  std::unordered_map<std::string, FirstUse> names_;
+  /// The rules that say something else than those before them, by the keys of their names.
+  std::unordered_map<std::string, std::vector<std::size_t>> rules_of_name_;
+  std::vector<Phrase> faults_;
 };
 
 }  // namespace
 
-std::vector<std::string> FaultsOf(const RuleBook& book, const DateTables& tables,
-                                  const std::vector<std::size_t>& lines) {
+std::vector<Phrase> FaultsOf(const RuleBook& book, const DateTables& tables,
+                             const std::vector<std::size_t>& lines) {
   return BookInspection(book, tables, lines).Inspect();
 }
 
-std::vector<std::string> FaultsBetween(const std::vector<NamedBook>& books,
-                                       const std::vector<NamedBook>& others) {
+std::vector<Phrase> FaultsBetween(const std::vector<NamedBook>& books, const std::vector<NamedBook>& others) {
   SharedNames names;
   for (const NamedBook& book : books) names.Add(book, true);
   for (const NamedBook& book : others) names.Add(book, false);

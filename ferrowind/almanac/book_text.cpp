@@ -107,7 +107,7 @@ class BookReader {
   void ReadSince(std::string_view text) {
     ExpectFirst(kSince, reading_.book.since.has_value());
     const std::optional<int> year = YearIn(text);
-    if (!year) throw ErrorAt(text, AYear() + " is expected");
+    if (!year) throw ErrorAt(text, AYear().InEnglish() + " is expected");
     reading_.book.since = year;
   }
 
@@ -137,7 +137,7 @@ class BookReader {
       return DateExpression::Parse(field);
     } catch (const ExpressionError& error) {
       throw TextError(lines_.Number(), lines_.PlaceOf(field) + error.Place() - 1,
-                      error.Expectation() + " is expected in " + Quotation(field));
+                      error.Expectation().InEnglish() + " is expected in " + Quotation(field));
     }
   }
 

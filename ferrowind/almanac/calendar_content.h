@@ -12,6 +12,7 @@ namespace ferrowind::almanac {
 /// The rule that every database has: it makes a day a working day by exception.
 inline constexpr std::int32_t kExceptionRule = 1;
 /// What it is called.
+//: said
 inline constexpr const char* kExceptionName = "Working day by exception";
 
 /// A day of a calendar that has a rule, a working day by exception among them.

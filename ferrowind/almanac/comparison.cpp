@@ -10,6 +10,7 @@ using platform::Phrase;
 
 namespace {
 
+//: said
 const char* TypeInWords(RuleKind kind) {
   switch (kind) {
     case RuleKind::kWorkingDay:

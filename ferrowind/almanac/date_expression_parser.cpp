@@ -12,6 +12,8 @@
 namespace ferrowind::almanac {
 namespace {
 
+using platform::Phrase;
+
 constexpr int kLeapYear = 2000;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -22,13 +24,11 @@ bool IsWord(std::string_view text, std::string_view word) {
   return std::is_eq(platform::CompareIgnoringCase(text, word));
 }
 
-constexpr const char* kBeforeYears = " (a move stands before else, from and to)";
-
 }  // namespace
 
 DateExpression DateExpressionParser::Parse() {
   if (text_.size() > DateExpression::kLongestText) {
-    throw ExpectedAt(DateExpression::kLongestText, "the end");
+    throw ExpectedAt(DateExpression::kLongestText, Phrase::Of("the end"));
   }
   ParseBase();
   if (TakeWord("if")) expression_.only_on = ParseWeekdays();
@@ -45,8 +45,8 @@ DateExpression DateExpressionParser::Parse() {
 void DateExpressionParser::ParseBase() {
   while (const auto weekday = TakeWeekday()) {
     if (expression_.steps.size() == DateExpression::kMostSteps) {
-      throw Expected("a date that follows at most " + std::to_string(DateExpression::kMostSteps) +
-                     " weekdays");
+      throw Expected(Phrase::Of("a date that follows at most %1 weekdays",
+                                {std::to_string(DateExpression::kMostSteps)}));
     }
     expression_.steps.push_back({*weekday, ParseRelation()});
   }
@@ -62,11 +62,12 @@ Anchor DateExpressionParser::ParseAnchor() {
   if (TakeWord("vernal")) return ParseEquinox(Equinox::kVernal);
   if (TakeWord("autumnal")) return ParseEquinox(Equinox::kAutumnal);
   if (TakeWord("table")) return ParseTable();
-  if (!expression_.steps.empty()) throw Expected("a date such as 05-18, easter or 4th Thursday of 11");
+  if (!expression_.steps.empty())
+    throw Expected(Phrase::Of("a date such as 05-18, easter or 4th Thursday of 11"));
   if (TakeWord("weekday")) return EveryWeekday{ParseWeekday()};
   if (TakeWord("between")) return BetweenHolidays{};
   if (TakeWord("unknown")) return UnknownDate{};
-  throw Expected("a date such as 12-25, easter-2 or 1st Monday of 05");
+  throw Expected(Phrase::Of("a date such as 12-25, easter-2 or 1st Monday of 05"));
 }
 
 Anchor DateExpressionParser::ParseNumberedAnchor() {
@@ -83,7 +84,7 @@ Anchor DateExpressionParser::ParseNumberedAnchor() {
       if (IsLetter(Next()) || IsAtDigit()) break;
       return ParseNthWeekday(ordinal);
     }
-    throw ExpectedAt(start, "one of 1st, 2nd, 3rd, 4th, 5th and last");
+    throw ExpectedAt(start, Phrase::Of("one of 1st, 2nd, 3rd, 4th, 5th and last"));
   }
   if (after - start >= 3) return ParseSingleDate();
   return ParseFixedDate();
@@ -91,18 +92,21 @@ Anchor DateExpressionParser::ParseNumberedAnchor() {
 
 FixedDate DateExpressionParser::ParseFixedDate() {
   FixedDate date;
-  date.month = ParseNumber(2, 1, 12, "a month 01 to 12 (a date is MM-DD or YYYY-MM-DD)");
+  date.month =
+      ParseNumber(2, 1, 12, [] { return Phrase::Of("a month 01 to 12 (a date is MM-DD or YYYY-MM-DD)"); });
   ExpectCharacter('-');
-  date.day = ParseNumber(2, 1, DaysInMonth(kLeapYear, date.month), "a day of the month");
+  date.day =
+      ParseNumber(2, 1, DaysInMonth(kLeapYear, date.month), [] { return Phrase::Of("a day of the month"); });
   return date;
 }
 
 SingleDate DateExpressionParser::ParseSingleDate() {
   const int year = ParseYear();
   ExpectCharacter('-');
-  const int month = ParseNumber(2, 1, 12, "a month 01 to 12");
+  const int month = ParseNumber(2, 1, 12, [] { return Phrase::Of("a month 01 to 12"); });
   ExpectCharacter('-');
-  const int day = ParseNumber(2, 1, DaysInMonth(year, month), "a day of the month");
+  const int day =
+      ParseNumber(2, 1, DaysInMonth(year, month), [] { return Phrase::Of("a day of the month"); });
   return {platform::Date(year, month, day)};
 }
 
@@ -112,7 +116,7 @@ NthWeekday DateExpressionParser::ParseNthWeekday(int ordinal) {
   nth.weekday = ParseWeekday();
   ExpectWord("of");
   SkipBlanks();
-  nth.month = ParseNumber(2, 1, 12, "a month 01 to 12");
+  nth.month = ParseNumber(2, 1, 12, [] { return Phrase::Of("a month 01 to 12"); });
   return nth;
 }
 
@@ -121,12 +125,12 @@ EquinoxDate DateExpressionParser::ParseEquinox(Equinox equinox) {
   SkipBlanks();
   const std::size_t start = place_;
   const bool is_behind = Next() == '-';
-  const std::string expectation = "a UTC offset -12:00 to +14:00";
-  if (!TakeCharacter('+') && !TakeCharacter('-')) throw Expected(expectation);
+  const Expectation expectation = [] { return Phrase::Of("a UTC offset -12:00 to +14:00"); };
+  if (!TakeCharacter('+') && !TakeCharacter('-')) throw Expected(expectation());
   const int hours = ParseNumber(2, 0, 14, expectation);
   ExpectCharacter(':');
-  const int size = hours * 60 + ParseNumber(2, 0, 59, "minutes 00 to 59");
-  if (size > (is_behind ? 12 : 14) * 60) throw ExpectedAt(start, expectation);
+  const int size = hours * 60 + ParseNumber(2, 0, 59, [] { return Phrase::Of("minutes 00 to 59"); });
+  if (size > (is_behind ? 12 : 14) * 60) throw ExpectedAt(start, expectation());
   return {equinox, is_behind ? -size : size};
 }
 
@@ -138,9 +142,9 @@ TableDate DateExpressionParser::ParseTable() {
          (place_ > start && Next() == '-' && is_letter_at(place_ + 1))) {
     ++place_;
   }
-  if (place_ == start) throw Expected("the name of a table");
+  if (place_ == start) throw Expected(Phrase::Of("the name of a table"));
   const bool ends_here = place_ == text_.size() || Next() == '+' || Next() == '-' || IsBlank(Next());
-  if (!ends_here) throw Expected("the name of a table, of letters, digits and single hyphens,");
+  if (!ends_here) throw Expected(Phrase::Of("the name of a table, of letters, digits and single hyphens,"));
   return {platform::FoldCase(text_.substr(start, place_ - start)), ParseOffset()};
 }
 
@@ -153,7 +157,7 @@ int DateExpressionParser::ParseOffset() {
   int days = 0;
   while (IsAtDigit() && days <= kLargestOffset) days = days * 10 + (text_[place_++] - '0');
   if (place_ == start || days > kLargestOffset) {
-    throw ExpectedAt(start, "a number of days up to " + std::to_string(kLargestOffset));
+    throw ExpectedAt(start, Phrase::Of("a number of days up to %1", {std::to_string(kLargestOffset)}));
   }
   return is_before ? -days : days;
 }
@@ -161,11 +165,11 @@ int DateExpressionParser::ParseOffset() {
 Relation DateExpressionParser::ParseRelation() {
   if (TakeWord("after")) return Relation::kAfter;
   if (TakeWord("before")) return Relation::kBefore;
-  if (!TakeWord("on")) throw Expected("one of on or after, after, on or before and before");
+  if (!TakeWord("on")) throw Expected(Phrase::Of("one of on or after, after, on or before and before"));
   ExpectWord("or");
   if (TakeWord("after")) return Relation::kOnOrAfter;
   if (TakeWord("before")) return Relation::kOnOrBefore;
-  throw Expected("after or before");
+  throw Expected(Phrase::Of("after or before"));
 }
 
 WeekdaySet DateExpressionParser::ParseWeekdays() {
@@ -179,7 +183,7 @@ WeekdaySet DateExpressionParser::ParseWeekdays() {
 void DateExpressionParser::ParseMoves() {
   while (IsAtMove()) {
     if (expression_.moves.size() == DateExpression::kMostMoves) {
-      throw Expected("the end of at most " + std::to_string(DateExpression::kMostMoves) + " moves");
+      throw Expected(Phrase::Of("the end of at most %1 moves", {std::to_string(DateExpression::kMostMoves)}));
     }
     expression_.moves.push_back(ParseMove());
   }
@@ -203,7 +207,7 @@ Move DateExpressionParser::ParseMove() {
       } else if (const auto weekday = TakeWeekday()) {
         move.weekdays.Add(*weekday);
       } else {
-        throw Expected("a weekday or taken");
+        throw Expected(Phrase::Of("a weekday or taken"));
       }
     } while (TakeCharacter(','));
     ExpectWord("to");
@@ -218,10 +222,10 @@ MoveTarget DateExpressionParser::ParseTarget() {
   if (TakeWord("previous")) {
     direction = Direction::kPrevious;
   } else if (!TakeWord("next")) {
-    throw Expected("a weekday, next or previous");
+    throw Expected(Phrase::Of("a weekday, next or previous"));
   }
   if (const auto weekday = TakeWeekday()) return {direction, *weekday};
-  if (!TakeWord("free")) throw Expected("a weekday or free day");
+  if (!TakeWord("free")) throw Expected(Phrase::Of("a weekday or free day"));
   ExpectWord("day");
   return {direction, MoveTarget::kFreeDay};
 }
@@ -235,10 +239,11 @@ void DateExpressionParser::ParseYears() {
   if (TakeWord("to")) {
     SkipBlanks();
     const std::size_t start = place_;
-    if (IsLetter(Next())) throw Expected(AYear() + kBeforeYears);
+    if (IsLetter(Next()))
+      throw Expected(Phrase::Of("%1 (a move stands before else, from and to)", {AYear()}));
     years.to = ParseYear();
     if (years.from && *years.to < *years.from) {
-      throw ExpectedAt(start, "a year from " + std::to_string(*years.from) + " on");
+      throw ExpectedAt(start, Phrase::Of("a year from %1 on", {std::to_string(*years.from)}));
     }
   }
   if (TakeWord("only")) {
@@ -248,9 +253,9 @@ void DateExpressionParser::ParseYears() {
   } else {
     SkipBlanks();
     if (place_ == text_.size()) return;
-    throw Expected(years.to     ? "only, not or the end"
-                   : years.from ? "to, only, not or the end"
-                                : "a move, else not observed, from, to, only, not or the end");
+    throw Expected(Phrase::Of(years.to     ? "only, not or the end"
+                              : years.from ? "to, only, not or the end"
+                                           : "a move, else not observed, from, to, only, not or the end"));
   }
   do {
     SkipBlanks();
@@ -259,22 +264,21 @@ void DateExpressionParser::ParseYears() {
   std::sort(years.years.begin(), years.years.end());
   years.years.erase(std::unique(years.years.begin(), years.years.end()), years.years.end());
   SkipBlanks();
-  if (place_ < text_.size()) throw Expected("a comma or the end");
+  if (place_ < text_.size()) throw Expected(Phrase::Of("a comma or the end"));
 }
 
-int DateExpressionParser::ParseYear() { return ParseNumber(4, kFirstYear, kLastYear, AYear()); }
+int DateExpressionParser::ParseYear() { return ParseNumber(4, kFirstYear, kLastYear, AYear); }
 
 int DateExpressionParser::ParseWeekday() {
   if (const auto weekday = TakeWeekday()) return *weekday;
-  throw Expected("a weekday");
+  throw Expected(Phrase::Of("a weekday"));
 }
 
-int DateExpressionParser::ParseNumber(std::size_t digits, int least, int most,
-                                      const std::string& expectation) {
+int DateExpressionParser::ParseNumber(std::size_t digits, int least, int most, Expectation expectation) {
   const std::size_t start = place_;
   int number = 0;
   while (IsAtDigit() && place_ - start <= digits) number = number * 10 + (text_[place_++] - '0');
-  if (place_ - start != digits || number < least || number > most) throw ExpectedAt(start, expectation);
+  if (place_ - start != digits || number < least || number > most) throw ExpectedAt(start, expectation());
   return number;
 }
 
@@ -320,12 +324,12 @@ std::optional<int> DateExpressionParser::TakeWeekday() {
   return weekday;
 }
 
-ExpressionError DateExpressionParser::Expected(std::string expectation) const {
+ExpressionError DateExpressionParser::Expected(Phrase expectation) const {
   return ExpectedAt(std::min(text_.find_first_not_of(" \t\r\n", place_), text_.size()),
                     std::move(expectation));
 }
 
-ExpressionError DateExpressionParser::ExpectedAt(std::size_t place, std::string expectation) const {
+ExpressionError DateExpressionParser::ExpectedAt(std::size_t place, Phrase expectation) const {
   return {text_, place + 1, std::move(expectation)};
 }
 

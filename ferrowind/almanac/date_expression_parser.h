@@ -7,6 +7,7 @@
 
 #include "ferrowind/almanac/date_expression.h"
 #include "ferrowind/almanac/expression_error.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind::almanac {
 
@@ -39,8 +40,10 @@ class DateExpressionParser {
   void ParseYears();
   int ParseYear();
   int ParseWeekday();
+  /// What is expected, worded only where it is not there.
+  using Expectation = platform::Phrase (*)();
   /// Exactly `digits` digits with a value from `least` to `most`.
-  int ParseNumber(std::size_t digits, int least, int most, const std::string& expectation);
+  int ParseNumber(std::size_t digits, int least, int most, Expectation expectation);
 
   void SkipBlanks();
   [[nodiscard]] char Next() const { return place_ < text_.size() ? text_[place_] : '\0'; }
@@ -54,8 +57,8 @@ class DateExpressionParser {
   /// A weekday's name that comes next; moved over.
   std::optional<int> TakeWeekday();
 
-  [[nodiscard]] ExpressionError Expected(std::string expectation) const;
-  [[nodiscard]] ExpressionError ExpectedAt(std::size_t place, std::string expectation) const;
+  [[nodiscard]] ExpressionError Expected(platform::Phrase expectation) const;
+  [[nodiscard]] ExpressionError ExpectedAt(std::size_t place, platform::Phrase expectation) const;
 
   std::string_view text_;
   std::size_t place_ = 0;

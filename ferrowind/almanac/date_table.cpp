@@ -21,7 +21,8 @@ void ReadYears(const TextLines& lines, DateTable& table) {
   const std::string_view last = WithoutOuterBlanks(years.substr(first.size()));
   table.first_year = YearIn(first).value_or(0);
   table.last_year = YearIn(last).value_or(0);
-  if (table.first_year == 0) throw TextError(lines.Number(), lines.PlaceOf(first), AYear() + " is expected");
+  if (table.first_year == 0)
+    throw TextError(lines.Number(), lines.PlaceOf(first), AYear().InEnglish() + " is expected");
   if (table.last_year < table.first_year) {
     throw TextError(lines.Number(), lines.PlaceOf(last),
                     "a year " + std::to_string(table.first_year) + " to 2199 is expected");

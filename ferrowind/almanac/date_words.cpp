@@ -15,13 +15,17 @@ using platform::Phrase;
 
 namespace {
 
+//: said
 constexpr std::array<std::string_view, 8> kWeekdays = {"",          "Sunday",   "Monday", "Tuesday",
                                                        "Wednesday", "Thursday", "Friday", "Saturday"};
+//: said
 constexpr std::array<std::string_view, 13> kMonths = {
     "",     "January", "February",  "March",   "April",    "May",     "June",
     "July", "August",  "September", "October", "November", "December"};
+//: said
 constexpr std::array<std::string_view, 13> kNumbers = {
     "", "one", "two", "three", "four", "five", "six", "seven", "eight", "nine", "ten", "eleven", "twelve"};
+//: said
 constexpr std::array<std::string_view, 6> kOrdinals = {"last", "first", "second", "third", "fourth", "fifth"};
 
 }  // namespace
@@ -29,6 +33,8 @@ constexpr std::array<std::string_view, 6> kOrdinals = {"last", "first", "second"
 std::string_view WeekdayName(int weekday) { return kWeekdays.at(static_cast<std::size_t>(weekday)); }
 
 std::optional<int> WeekdayNamed(std::string_view name) {
+  constexpr std::size_t kShortest = 6;
+  if (name.size() < kShortest) return std::nullopt;
   for (int weekday = 1; weekday <= 7; ++weekday) {
     if (std::is_eq(platform::CompareIgnoringCase(name, WeekdayName(weekday)))) return weekday;
   }
@@ -40,12 +46,15 @@ std::string_view MonthName(int month) { return kMonths.at(static_cast<std::size_
 Phrase Weekday(int weekday) { return Phrase::Of(std::string(WeekdayName(weekday))); }
 
 Phrase DayAndMonth(int month, int day) {
-  return Phrase::Of("%1 %2", {std::to_string(day), Phrase::Of(std::string(MonthName(month)))});
+  // The smaller is the later place, so that no other text is the same and each language has its own order.
+  return Phrase::Of("%2 %1", {Phrase::Of(std::string(MonthName(month))), std::to_string(day)});
 }
 
 Phrase LongDate(std::int32_t serial) {
   const auto date = platform::Date::FromSerial(serial);
-  return Phrase::Of("%1 %2", {DayAndMonth(date.Month(), date.Day()), std::to_string(date.Year())});
+  return Phrase::Of("%3 %2 %1",
+                    {std::to_string(date.Year()), Phrase::Of(std::string(MonthName(date.Month()))),
+                     std::to_string(date.Day())});
 }
 
 Phrase LongDay(std::int32_t serial) {
@@ -71,6 +80,7 @@ Phrase AnyOf(WeekdaySet weekdays) {
 
 std::string_view OrdinalWord(int ordinal) { return kOrdinals.at(static_cast<std::size_t>(ordinal)); }
 
+//: said
 std::string_view RelationWords(Relation relation) {
   switch (relation) {
     case Relation::kOnOrAfter:
@@ -90,7 +100,9 @@ std::string UtcOffset(int minutes) {
   return (minutes < 0 ? "-" : "+") + Digits(size / 60, 2) + ':' + Digits(size % 60, 2);
 }
 
-std::string AYear() { return "a year " + std::to_string(kFirstYear) + " to " + std::to_string(kLastYear); }
+Phrase AYear() {
+  return Phrase::Of("a year %1 to %2", {std::to_string(kFirstYear), std::to_string(kLastYear)});
+}
 
 std::optional<int> YearIn(std::string_view text) {
   constexpr std::size_t kDigits = 4;

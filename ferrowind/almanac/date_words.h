@@ -36,7 +36,7 @@ namespace ferrowind::almanac {
 /// "+09:00".
 [[nodiscard]] std::string UtcOffset(int minutes);
 /// "a year 1900 to 2199": what is expected where `YearIn` finds none.
-[[nodiscard]] std::string AYear();
+[[nodiscard]] platform::Phrase AYear();
 /// The year, `kFirstYear` to `kLastYear`, that is the whole of `text`, in four digits.
 [[nodiscard]] std::optional<int> YearIn(std::string_view text);
 /// `number` with leading zeros.

@@ -46,6 +46,7 @@ Phrase YearList(const std::vector<int>& years) {
 
 /// The phrase with the days and the years to which the expression is limited.
 Phrase WithLimits(Phrase phrase, const DateExpression& expression) {
+  //: says 1
   const auto limit = [&phrase](const char* text, Phrase to) {
     phrase = Phrase::Of(text, {std::move(phrase), std::move(to)});
   };
@@ -58,6 +59,7 @@ Phrase WithLimits(Phrase phrase, const DateExpression& expression) {
 }
 
 const char* OrdinalAtStart(int ordinal) {
+  //: said
   static constexpr std::array kOrdinals{"Last", "First", "Second", "Third", "Fourth", "Fifth"};
   return kOrdinals.at(static_cast<std::size_t>(ordinal));
 }
@@ -72,13 +74,13 @@ struct AnchorWords {
   bool is_within;
 
   Phrase operator()(const FixedDate& date) const {
-    const Phrase words = DayAndMonth(date.month, date.day);
-    return is_within ? Phrase::Of("%1 %2", {words, std::to_string(year)}) : words;
+    return is_within ? LongDate(day) : DayAndMonth(date.month, date.day);
   }
   Phrase operator()(const SingleDate&) const {
     return is_within ? LongDate(day) : Phrase::Of("Once, on %1", {LongDate(day)});
   }
   Phrase operator()(const EasterDate& easter) const {
+    //: said
     const char* const text =
         easter.church == Church::kOrthodox ? "Orthodox Easter Sunday %1" : "Easter Sunday %1";
     return WithOffset(Phrase::Of(text, {LongDate(EasterSunday(easter.church, year))}), easter.offset);

@@ -2,6 +2,7 @@
 
 namespace ferrowind::almanac {
 
+//: said
 std::string_view TextOf(PlanAction action) {
   switch (action) {
     case PlanAction::kKeep:

@@ -48,11 +48,14 @@ void PreparedBase::KeepTable(const DateTables& tables, const std::string& name, 
   if (table == nullptr) return;
   first_known_ = table->first_year;
   last_known_ = table->last_year;
+  table_days_.reserve(table->dates.size());
+  for (const platform::Date& date : table->dates) table_days_.push_back(date.Serial() + offset);
+  // Days that stay where they are stay in their years.
+  if (offset == 0 && expression_->steps.empty()) return;
   bool comes_later = false;
   bool comes_earlier = false;
   for (const platform::Date& date : table->dates) {
     const std::int32_t day = date.Serial() + offset;
-    table_days_.push_back(day);
     const int year = platform::Date::FromSerial(TakeSteps(*expression_, day)).Year();
     comes_later = comes_later || year > date.Year();
     comes_earlier = comes_earlier || year < date.Year();

@@ -3,14 +3,14 @@
 #include <utility>
 
 #include "ferrowind/platform/values/case_fold.h"
-#include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::almanac {
-namespace {
 
-std::string NameKey(std::string_view name) { return platform::FoldCase(platform::Trim(std::string(name))); }
-
-}  // namespace
+std::string NameKey(std::string_view name) {
+  const std::size_t first = name.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return platform::FoldCase(name.substr(first, name.find_last_not_of(' ') - first + 1));
+}
 
 RuleDirectory::RuleDirectory(std::vector<KnownRule> rules) : rules_(std::move(rules)) {
   for (std::size_t i = 0; i < rules_.size(); ++i) {

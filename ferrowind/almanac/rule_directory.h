@@ -23,6 +23,10 @@ struct KnownRule {
   bool is_removed = false;
 };
 
+/// What a name is known by in the database, where letter case and outer blanks make no other name of it: two
+/// names are one when their keys are the same.
+[[nodiscard]] std::string NameKey(std::string_view name);
+
 /// The holiday rules of a database, by number and by name.
 class RuleDirectory {
  public:

@@ -8,17 +8,6 @@
 namespace ferrowind::almanac {
 namespace {
 
-/// By its closed days alone.
-Readiness ByClosedDays(const CalendarContent& calendar) {
-  bool has_closed = false;
-  for (const MarkedDay& day : calendar.days) {
-    if (!day.IsClosed()) continue;
-    if (day.kind != RuleKind::kWeekday) return Readiness::kNotCompared;
-    has_closed = true;
-  }
-  return has_closed ? Readiness::kWeekendsOnly : Readiness::kNotPrepared;
-}
-
 void Count(const ComparedDay& day, YearReadiness& year) {
   if (day.action == PlanAction::kKeep) return;
   const bool has_reason = day.action == PlanAction::kException && !platform::Trim(day.now->comment).empty();
@@ -54,6 +43,16 @@ YearReadiness StartOf(const ReviewedCurrency& currency, int year) {
 
 }  // namespace
 
+Readiness ReadinessByClosedDays(const CalendarContent& calendar) {
+  bool has_closed = false;
+  for (const MarkedDay& day : calendar.days) {
+    if (!day.IsClosed()) continue;
+    if (day.kind != RuleKind::kWeekday) return Readiness::kNotCompared;
+    has_closed = true;
+  }
+  return has_closed ? Readiness::kWeekendsOnly : Readiness::kNotPrepared;
+}
+
 CurrencyJudgement JudgeCurrency(const ReviewedCurrency& currency, const RuleDirectory& rules,
                                 const DateTables& tables, const ReviewHorizon& horizon, int first_year,
                                 int last_year) {
@@ -64,7 +63,7 @@ CurrencyJudgement JudgeCurrency(const ReviewedCurrency& currency, const RuleDire
     YearReadiness& year = judgement.years[static_cast<std::size_t>(calendar.year - first_year)];
     year.has_calendar = true;
     if (year.readiness == Readiness::kEnded) return;
-    year.readiness = ByClosedDays(calendar);
+    year.readiness = ReadinessByClosedDays(calendar);
     if (comparison != nullptr) Compare(*comparison, year);
   };
   judgement.findings = ReviewCurrency(currency, rules, tables, horizon, use);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/almanac/finding.h"
 #include "ferrowind/almanac/review.h"
@@ -26,6 +27,9 @@ enum class Readiness : std::uint8_t {
   /// The currency is money no longer in that year.
   kEnded,
 };
+
+/// How far a calendar is prepared by its closed days alone: not prepared, weekends only or not compared.
+[[nodiscard]] Readiness ReadinessByClosedDays(const CalendarContent& calendar);
 
 /// What the calendar of a currency and a year is like beside its plan. The counts are 0 where there is no
 /// plan.

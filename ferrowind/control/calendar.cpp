@@ -1,9 +1,10 @@
 #include "ferrowind/control/calendar.h"
 
-#include <exception>
+#include <string>
 
 #include "ferrowind/control/component_error.h"
 #include "ferrowind/control/default_headers.h"
+#include "ferrowind/data/confirm.h"
 #include "ferrowind/data/error_reporting.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
@@ -16,6 +17,7 @@
 namespace ferrowind {
 namespace {
 
+constexpr const char* kTitle = "Ferrowind";
 constexpr float kSizeInPixels = 16;
 
 }  // namespace
@@ -51,10 +53,12 @@ bool Calendar::ForceClosing() {
 
 void Calendar::Show() {
   RunHandler(platform_, [this] { OpenWindow(); });
+  if (!frmCalendar_) RunHandler(platform_, [this] { TellThatNothingCanBeTold(); });
 }
 
 void Calendar::OpenWindow() {
   if (frmCalendar_) return;
+  RetryDictionary();
   const auto window = CreateCalendarsWindow();
   const auto headers = Headers();
   const auto holiday_headers = HolidayHeaders();
@@ -84,7 +88,7 @@ std::array<platform::Value, 5> Calendar::Version() {
   constexpr std::int16_t kMajor = 1;
   constexpr std::int16_t kMinor = 2;
   constexpr std::int16_t kRevision = 10;
-  return {"Ferrowind", kMajor, kMinor, kRevision, platform::Value()};
+  return {kTitle, kMajor, kMinor, kRevision, platform::Value()};
 }
 
 std::shared_ptr<CalendarsWindow> Calendar::CreateCalendarsWindow() { return fmCalendar::Create(platform_); }
@@ -92,7 +96,7 @@ std::shared_ptr<CalendarsWindow> Calendar::CreateCalendarsWindow() { return fmCa
 void Calendar::EnsureDictionary() {
   try {
     EnsureDictionaryObject();
-  } catch (const std::exception&) {
+  } catch (...) {
     const platform::Failure failure = FailureBeingHandled();
     RunHandler([&failure] {
       SharedServicesObject().ShowMessage("Error activate dictionary object. Error Number " +
@@ -101,6 +105,27 @@ void Calendar::EnsureDictionary() {
                                          kInformationStyle, 1, 1, nullptr, "", true, true);
     });
   }
+}
+
+// What fails again the window itself reports: it has no currencies.
+void Calendar::RetryDictionary() {
+  try {
+    EnsureDictionaryObject();
+  } catch (...) {
+    TraceFailureBeingHandled();
+  }
+}
+
+// Everything else is told by the shared services.
+void Calendar::TellThatNothingCanBeTold() {
+  std::string reason;
+  try {
+    static_cast<void>(SharedServicesObject());
+    return;
+  } catch (...) {
+    reason = FailureBeingHandled().Description();
+  }
+  Inform(platform_.toolkit, kTitle, "The calendars cannot be opened. " + reason);
 }
 
 void Calendar::SnapToSize() {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "ferrowind/control/grid_fields.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/platform/toolkit/control_site.h"
@@ -25,7 +26,7 @@ class CalendarsWindow;
 /// database. So the controls of a thread work on one database, and new surroundings do not change it: a host
 /// that changes databases closes its windows, has its dictionary object answer with the other connection
 /// string, which every call asks for anew, and shows them again.
-class Calendar {
+class FERROWIND_EXPORT Calendar {
  public:
   /// Creates the thread's dictionary object when there is none, and fills the maps with their default
   /// columns. A dictionary object that cannot be created is shown to the operator, and the control goes on
@@ -43,8 +44,9 @@ class Calendar {
   bool ForceClosing();
 
   /// Opens the Calendars window, without an owner and beside the host's windows. Does nothing while one is
-  /// open; it is not brought forward. What goes wrong is shown to the operator, and the window then stays
-  /// closed.
+  /// open; it is not brought forward. A dictionary object that could not be created so far is tried again.
+  /// What goes wrong is shown to the operator, and the window then stays closed; shared services that cannot
+  /// be created are told of by a dialog of the component's own.
   void Show();
 
   /// The column map of the day grid, always the same object. While the Calendars window is open it is the
@@ -65,6 +67,8 @@ class Calendar {
  private:
   void EnsureDictionary();
   void OpenWindow();
+  void RetryDictionary();
+  void TellThatNothingCanBeTold();
   void frmCalendar_OnClosing();
   void SnapToSize();
   std::shared_ptr<GridFields> MapBeforeShow(std::shared_ptr<GridFields>& map) const;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ferrowind/control/grid_field.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/keyed_collection.h"
 #include "ferrowind/platform/values/value.h"
 
@@ -17,7 +18,7 @@ namespace ferrowind {
 /// is a key when it is text and a position when it is a number. Failures: 5 for an unknown key, 9 for a
 /// position that is none, 457 for a key in use, 13 for an index that is neither text nor number, and
 /// 0x80040258 where said.
-class GridFields {
+class FERROWIND_EXPORT GridFields {
  public:
   /// Adds a column, not constant, to the local-name list and then to the field-name list. A local name in use
   /// changes nothing; a field name in use leaves the column in the local-name list only.

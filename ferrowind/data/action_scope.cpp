@@ -34,6 +34,8 @@ ActionStep LastCall(const std::string& rule, std::int32_t return_value) {
   if (module.pending_failure_count != 0) {
     const FailureRecord& pending = module.pending_failures[0];
     step.failure.emplace(pending.number, pending.description);
+  } else if (return_value != 0 && module.too_long_text) {
+    step.failure.emplace(platform::failure_number::kInvalidArgument, module.too_long_text->InEnglish());
   }
   return step;
 }

@@ -6,6 +6,7 @@ namespace ferrowind {
 
 namespace {
 
+constexpr std::int32_t kOkAlone = 0;
 constexpr std::int32_t kWithCancel = 1;
 constexpr std::int32_t kOk = 0;
 
@@ -28,10 +29,15 @@ std::int32_t Confirm(platform::Toolkit& toolkit, const std::string& caption, con
   return AnswerTo(dialog, caption, message, state);
 }
 
-bool ConfirmLoss(platform::Toolkit& toolkit, const std::string& caption, const std::string& message) {
-  fmMessage dialog(toolkit);
-  dialog.PreferCancel();
-  return AnswerTo(dialog, caption, message, kWithCancel) == kOk;
+bool Ask(platform::Toolkit& toolkit, const Question& question) {
+  fmMessage dialog(toolkit, {.ok = question.verb, .cancel = question.cancel, .escape_presses = "cmdCancel"});
+  if (question.prefers_cancel) dialog.PreferCancel();
+  return AnswerTo(dialog, question.caption, question.message, kWithCancel) == kOk;
+}
+
+void Inform(platform::Toolkit& toolkit, const std::string& caption, const std::string& message) {
+  fmMessage dialog(toolkit, {.escape_presses = "cmdOk"});
+  (void)AnswerTo(dialog, caption, message, kOkAlone);
 }
 
 }  // namespace ferrowind

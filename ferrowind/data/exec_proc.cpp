@@ -1,20 +1,25 @@
 #include "ferrowind/data/exec_proc.h"
 
-#include <exception>
 #include <utility>
 
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/pending_failure.h"
 #include "ferrowind/data/runtime_failure.h"
+#include "ferrowind/data/too_long_text.h"
 #include "ferrowind/platform/database/command.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind {
 namespace {
 
 using platform::Command;
 using platform::ResultCursor;
+using platform::failure_number::kCannotCreateObject;
+
+/// What a procedure returns when a value is missing, out of range or too long.
+constexpr std::int32_t kWrongValue = 7;
 
 /// The value as text, empty where it has none, as for a record set.
 std::string TraceText(const platform::Value& value) {
@@ -48,6 +53,7 @@ void CollectRecordSets(std::unique_ptr<ResultCursor> cursor, SourceValues& resul
 void Call(const std::string& procedure, const SourceValues* params, std::shared_ptr<SourceValues>& results,
           std::int32_t& result) {
   const auto command = AttachedPlatform().commands.CreateCommand();
+  if (!command) throw platform::Failure(kCannotCreateObject, "The surroundings gave no command");
   command->SetType(platform::kStoredProcedureCommand);
   command->SetText(procedure);
   command->SetConnection(DictionaryObject().dic_ConnectionString());
@@ -76,9 +82,11 @@ std::int32_t ExecProc(const std::string& ProcName, const SourceValues* Params,
                       std::shared_ptr<SourceValues>& Results) {
   std::int32_t result = kCallFailed;
   Module().pending_failure_count = 0;
+  Module().too_long_text.reset();
   try {
     Call(ProcName, Params, Results, result);
-  } catch (const std::exception&) {
+    if (result == kWrongValue && Params != nullptr) Module().too_long_text = TooLongText(*Params);
+  } catch (...) {
     const platform::Failure failure = FailureBeingHandled();
     SetPendingFailure(failure.Number(), failure.Description());
   }

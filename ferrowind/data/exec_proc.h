@@ -19,7 +19,8 @@ inline constexpr std::int32_t kCallFailed = -1;
 /// unless even that fails (pending_failure.h). Only when the procedure returned 0 and produced a record set,
 /// `Results` is emptied (or created when null) and receives the record sets under the names "1", "2", ...;
 /// they are copies that need no connection any more. Otherwise `Results` stays as it was passed. Every call
-/// forgets the pending failure of the one before.
+/// forgets the pending failure of the one before. Where the procedure refused a text for its length, the
+/// thread's state says which (`ModuleState::too_long_text`).
 std::int32_t ExecProc(const std::string& ProcName, const SourceValues* Params,
                       std::shared_ptr<SourceValues>& Results);
 

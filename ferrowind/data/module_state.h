@@ -3,10 +3,12 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "ferrowind/data/error_table.h"
 #include "ferrowind/platform/platform.h"
+#include "ferrowind/platform/values/phrase.h"
 
 namespace ferrowind {
 
@@ -30,6 +32,8 @@ struct ModuleState {
   /// 0 or 1: only record 0 is ever written.
   std::int32_t pending_failure_count = 0;
   std::array<FailureRecord, 15> pending_failures;
+  /// Which text the procedure of the last call refused for its length; nothing when it did not.
+  std::optional<platform::Phrase> too_long_text;
   /// The failure that the handler now running has caught; an empty description is none.
   FailureRecord runtime_failure;
 

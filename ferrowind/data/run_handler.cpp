@@ -1,7 +1,5 @@
 #include "ferrowind/data/run_handler.h"
 
-#include <exception>
-
 #include "ferrowind/data/error_reporting.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/runtime_failure.h"
@@ -27,13 +25,13 @@ void RunStep(const std::function<void()>& step) {
     step();
   } catch (const platform::Interruption&) {
     throw;
-  } catch (const std::exception&) {
+  } catch (...) {
     try {
       const RuntimeFailureScope caught;
       ShowPendingFailures();
     } catch (const platform::Interruption&) {
       throw;
-    } catch (const std::exception&) {
+    } catch (...) {
       // The report itself failed: there is no one left to tell, and the host must live on.
     }
   }

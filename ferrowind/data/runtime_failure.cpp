@@ -23,6 +23,8 @@ platform::Failure FailureBeingHandled() {
     return {kOutOfMemory, "Out of memory"};
   } catch (const std::exception& exception) {
     return {kInternalError, std::string("Internal error: ") + exception.what()};
+  } catch (...) {
+    return {kInternalError, "Internal error: an exception that tells nothing of itself"};
   }
 }
 

@@ -5,7 +5,8 @@
 
 namespace ferrowind {
 
-/// The exception that is being handled, as a failure: itself when it is one, else one that holds its text.
+/// The exception that is being handled, as a failure: itself when it is one, else one that holds its text. A
+/// host's part of the surroundings may throw what is no `std::exception`: that is a failure as well.
 /// Call it only inside a catch block.
 [[nodiscard]] platform::Failure FailureBeingHandled();
 

@@ -6,6 +6,7 @@
 
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_words.h"
 
@@ -18,7 +19,7 @@ using platform::Date;
 
 std::string Weekday(int weekday) { return InWords(almanac::Weekday(weekday)); }
 
-std::string Told(const Date& day) { return InWords(almanac::LongDay(day.Serial())); }
+std::string Told(const Date& day) { return AttachedPlatform().locale.LongDayText(day); }
 
 /// "a, b and c".
 std::string Listed(const std::vector<std::string>& items) {
@@ -54,8 +55,8 @@ class Preview {
       AssignEveryWeek(rule, line);
     } else if (rule.kind == RuleKind::kWeekday) {
       if (rule.weekday != day_->Weekday()) {
-        line.warnings.push_back(
-            InWords("It is for %1s, and the day is a %2", {Weekday(rule.weekday), Weekday(day_->Weekday())}));
+        line.warnings.push_back(InWords("Its weekday is %1, and the day is a %2",
+                                        {Weekday(rule.weekday), Weekday(day_->Weekday())}));
       }
       AssignTo(*day_, rule, line);
     } else if (rule.date) {
@@ -139,6 +140,7 @@ class Preview {
     if (calendar_.IsInBook(rule.id)) return;
     const auto others = calendar_.OtherBooksOf(rule.id);
     if (others.empty()) return;
+    //: said
     const char* const text = others.size() == 1 ? "It belongs to the book of %1, not to that of %2"
                                                 : "It belongs to the books of %1, not to that of %2";
     line.warnings.push_back(InWords(text, {Listed(others), calendar_.Owner().code}));
@@ -153,7 +155,7 @@ class Preview {
     });
     if (!closes) {
       line.warnings.push_back(
-          InWords("The book of %1 closes no %2s", {calendar_.Owner().code, Weekday(rule.weekday)}));
+          InWords("The book of %1 does not close each %2", {calendar_.Owner().code, Weekday(rule.weekday)}));
     }
   }
 

@@ -131,7 +131,7 @@ std::optional<std::string> BookDraft::FaultOfExpression(std::size_t position) co
     (void)DateExpression::Parse(rules_[position].expression);
     return std::nullopt;
   } catch (const almanac::ExpressionError& error) {
-    return error.Description();
+    return InWords(error.Sentence());
   }
 }
 

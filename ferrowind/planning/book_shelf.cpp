@@ -1,8 +1,8 @@
 #include "ferrowind/planning/book_shelf.h"
 
 #include <algorithm>
-#include <iterator>
 
+#include "ferrowind/almanac/book_lengths.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -11,8 +11,8 @@ namespace {
 
 using almanac::NamedBook;
 
-void Append(std::vector<std::string> more, std::vector<std::string>& faults) {
-  faults.insert(faults.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+void Append(const std::vector<platform::Phrase>& more, std::vector<std::string>& faults) {
+  for (const platform::Phrase& fault : more) faults.push_back(InWords(fault));
 }
 
 }  // namespace
@@ -50,8 +50,11 @@ std::vector<std::string> BookShelf::FaultsWith(const std::vector<PlacedBook>& pl
   for (const auto& [currency, book, lines, source] : placed) {
     ids.insert(currency.id);
     named.push_back({currency.code, book, lines});
-    for (const std::string& fault : almanac::FaultsOf(book, tables_, lines)) {
-      faults.push_back((source.empty() ? currency.code : source) + ": " + fault);
+    for (const platform::Phrase& fault : almanac::FaultsOf(book, tables_, lines)) {
+      faults.push_back((source.empty() ? currency.code : source) + ": " + InWords(fault));
+    }
+    for (const platform::Phrase& fault : almanac::LengthFaultsOf(book, lines)) {
+      faults.push_back((source.empty() ? currency.code : source) + ": " + InWords(fault));
     }
   }
   Append(almanac::FaultsBetween(named, Readable(ids)), faults);

@@ -4,8 +4,10 @@
 #include <utility>
 
 #include "ferrowind/almanac/book_faults.h"
+#include "ferrowind/almanac/expression_error.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
+#include "ferrowind/planning/record_text.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/json_text.h"
 
@@ -18,19 +20,19 @@ using almanac::RuleKind;
 using platform::Failure;
 using platform::RecordSet;
 using platform::Value;
+using Records = std::shared_ptr<const RecordSet>;
 
 /// The places of what makes a rule, looked up once for many rows.
 struct RuleFields {
   explicit RuleFields(const RecordSet& rules)
-      : currency(rules.FieldNamed("ID1")),
-        position(rules.FieldNamed("Position")),
+      : position(rules.FieldNamed("Position")),
         name(rules.FieldNamed("Name1")),
         kind(rules.FieldNamed("TID1")),
         expression(rules.FieldNamed("Expression")),
         comment(rules.FieldNamed("Comment")),
         moved_name(rules.FieldNamed("MovedName")) {}
 
-  std::size_t currency, position, name, kind, expression, comment, moved_name;
+  std::size_t position, name, kind, expression, comment, moved_name;
 };
 
 /// A rule of the book, which was written by whoever may write books, so by other programs too.
@@ -50,45 +52,14 @@ BookRule ReadRule(const RecordSet& rules, RecordSet::Bookmark row, const RuleFie
   return rule;
 }
 
-/// Takes the rows of the currency off `rules`, which are ordered by currency, from the one at `next` on.
-void ReadRules(const RecordSet& rules, const RuleFields& fields, std::size_t& next, RuleBook& book,
-               StoredBook& stored) {
-  for (; next < rules.RowCount(); ++next) {
-    const auto row = rules.BookmarkAt(next);
-    if (platform::ToInt32(rules.Cell(row, fields.currency)) != stored.currency) return;
-    try {
-      book.rules.push_back(ReadRule(rules, row, fields));
-    } catch (const Failure& failure) {
-      stored.faults.push_back(
-          InWords("The rule %1, \"%2\": %3",
-                  {platform::ToTextOrEmpty(rules.Cell(row, fields.position)),
-                   platform::ToTextOrEmpty(rules.Cell(row, fields.name)), failure.Description()}));
-    }
-  }
-}
-
 std::vector<StoredBook> Load(const std::string& doing, const Value& currency,
                              const almanac::DateTables& tables) {
   SourceValues parameters;
   parameters.Add("ID1", currency);
   const CallAnswer answer = CallDatabase(doing, "CldGetBook", parameters, 2);
-  RecordSet& heads = *answer.record_sets[0];
-  const RecordSet& rules = *answer.record_sets[1];
-  const RuleFields fields(rules);
-  std::size_t next_rule = 0;
   std::vector<StoredBook> books;
-  for (heads.MoveFirst(); !heads.Eof(); heads.MoveNext()) {
-    StoredBook& stored = books.emplace_back();
-    stored.currency = platform::ToInt32(heads["ID1"]);
-    stored.fingerprint = platform::ToTextOrEmpty(heads["Fingerprint"]);
-    RuleBook book;
-    book.publisher = platform::ToTextOrEmpty(heads["Publisher"]);
-    book.document = platform::ToTextOrEmpty(heads["Document"]);
-    if (!heads["FromYear"].IsEmpty()) book.since = platform::ToInt32(heads["FromYear"]);
-    ReadRules(rules, fields, next_rule, book, stored);
-    if (!stored.faults.empty()) continue;
-    stored.faults = almanac::FaultsOf(book, tables);
-    stored.book = std::move(book);
+  for (const WrittenBook& written : BooksIn(answer.record_sets[0], answer.record_sets[1])) {
+    books.push_back(written.Read(tables));
   }
   return books;
 }
@@ -108,6 +79,65 @@ std::string RulesJson(const RuleBook& book) {
 }
 
 }  // namespace
+
+std::int32_t WrittenBook::Currency() const {
+  return platform::ToInt32(heads_->Cell(heads_->BookmarkAt(head_), heads_->FieldNamed("ID1")));
+}
+
+void WrittenBook::AppendText(std::string& text) const {
+  AppendRecords(*heads_, head_, head_ + 1, text);
+  AppendRecords(*rules_, first_rule_, last_rule_, text);
+}
+
+StoredBook WrittenBook::Read(const almanac::DateTables& tables) const {
+  const auto head = heads_->BookmarkAt(head_);
+  const auto in_head = [&](const char* field) -> const Value& {
+    return heads_->Cell(head, heads_->FieldNamed(field));
+  };
+  StoredBook stored;
+  stored.currency = Currency();
+  if (heads_->FindField("Fingerprint")) stored.fingerprint = platform::ToTextOrEmpty(in_head("Fingerprint"));
+  RuleBook book;
+  book.publisher = platform::ToTextOrEmpty(in_head("Publisher"));
+  book.document = platform::ToTextOrEmpty(in_head("Document"));
+  if (const Value& since = in_head("FromYear"); !since.IsEmpty()) book.since = platform::ToInt32(since);
+  const RuleFields fields(*rules_);
+  for (std::size_t i = first_rule_; i < last_rule_; ++i) {
+    const auto row = rules_->BookmarkAt(i);
+    const auto add_fault = [&](const std::string& fault) {
+      stored.faults.push_back(InWords("The rule %1, \"%2\": %3",
+                                      {platform::ToTextOrEmpty(rules_->Cell(row, fields.position)),
+                                       platform::ToTextOrEmpty(rules_->Cell(row, fields.name)), fault}));
+    };
+    try {
+      book.rules.push_back(ReadRule(*rules_, row, fields));
+    } catch (const almanac::ExpressionError& error) {
+      add_fault(InWords(error.Sentence()));
+    } catch (const Failure& failure) {
+      add_fault(failure.Description());
+    }
+  }
+  if (!stored.faults.empty()) return stored;
+  for (const platform::Phrase& fault : almanac::FaultsOf(book, tables))
+    stored.faults.push_back(InWords(fault));
+  stored.book = std::move(book);
+  return stored;
+}
+
+std::vector<WrittenBook> BooksIn(const Records& heads, const Records& rules) {
+  const std::size_t currency_of_head = heads->FieldNamed("ID1");
+  const std::size_t currency_of_rule = rules->FieldNamed("ID1");
+  std::vector<WrittenBook> books;
+  std::size_t next = 0;
+  for (std::size_t head = 0; head < heads->RowCount(); ++head) {
+    const Value& currency = heads->Cell(heads->BookmarkAt(head), currency_of_head);
+    const std::size_t first = next;
+    while (next < rules->RowCount() && rules->Cell(rules->BookmarkAt(next), currency_of_rule) == currency)
+      ++next;
+    books.push_back(WrittenBook(heads, rules, head, first, next));
+  }
+  return books;
+}
 
 std::vector<StoredBook> LoadBooks(const almanac::DateTables& tables) {
   return Load(InWords("Reading the books"), {}, tables);

@@ -16,6 +16,7 @@ std::string DatesJson(int year, std::span<const std::int16_t> days) {
   return dates.empty() ? "[]" : dates + "]";
 }
 
+//: says 1
 bool ChangeSeenDays(const std::string& doing, const Currency& currency, const almanac::CalendarContent& seen,
                     const std::string& days) {
   const StoredCalendar now = LoadCalendar(currency, seen.year);

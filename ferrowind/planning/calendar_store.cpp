@@ -106,6 +106,7 @@ std::optional<CalendarContent> ReadDays(const Currency& currency, int year,
 
 StoredCalendar LoadCalendar(const Currency& currency, int year) {
   StoredCalendar calendar;
+  const auto shared = ShareConnections();
   const CallAnswer fingerprint =
       CallDatabase(Reading(currency, year), "CldGetFingerprint", CalendarParameters(currency, year), 1);
   auto days = ReadDays(currency, year, {return_value::kUnknownCalendar});
@@ -121,6 +122,14 @@ std::optional<CalendarContent> LoadDays(const Currency& currency, int year) {
   return ReadDays(currency, year, {return_value::kUnknownCalendar, return_value::kUnknownCurrency});
 }
 
+std::vector<KnownRule> RulesIn(const RecordSet& rows) {
+  const RuleFields fields(rows);
+  std::vector<KnownRule> rules;
+  rules.reserve(rows.RowCount());
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) rules.push_back(fields.Read(rows, rows.BookmarkAt(i)));
+  return rules;
+}
+
 StoredRules LoadRules() {
   const CallAnswer answer = CallDatabase(InWords("Reading the rules"), "CldAllInfo", {}, 3);
   StoredRules stored;
@@ -132,12 +141,7 @@ StoredRules LoadRules() {
     const auto row = calendars.BookmarkAt(i);
     stored.calendars.emplace_back(Number(calendars.Cell(row, currency)), Number(calendars.Cell(row, year)));
   }
-  const RecordSet& rules = *answer.record_sets[2];
-  const RuleFields fields(rules);
-  stored.rules.reserve(rules.RowCount());
-  for (std::size_t i = 0; i < rules.RowCount(); ++i) {
-    stored.rules.push_back(fields.Read(rules, rules.BookmarkAt(i)));
-  }
+  stored.rules = RulesIn(*answer.record_sets[2]);
   return stored;
 }
 

@@ -8,6 +8,7 @@
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/rule_directory.h"
 #include "ferrowind/planning/currency_list.h"
+#include "ferrowind/platform/values/record_set.h"
 
 /// The calendars and rules of the calling thread's database. All fail as database_call.h says.
 namespace ferrowind::planning {
@@ -39,6 +40,9 @@ struct StoredRules {
   /// All, removed ones too.
   std::vector<almanac::KnownRule> rules;
 };
+
+/// The rules of a record set with the fields of rules that procedures give.
+[[nodiscard]] std::vector<almanac::KnownRule> RulesIn(const platform::RecordSet& rows);
 
 /// Which calendars there are, and the rules.
 [[nodiscard]] StoredRules LoadRules();

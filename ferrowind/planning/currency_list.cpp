@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <compare>
+#include <cstddef>
 #include <system_error>
 
 #include "ferrowind/planning/database_call.h"
@@ -36,15 +37,25 @@ platform::Phrase EndOfMoney(const Currency& currency) {
 
 CurrencyList CurrencyList::Load() {
   const CallAnswer answer = CallDatabase(InWords("Reading the currencies"), "CldGetCurrencies", {}, 1);
-  platform::RecordSet& rows = *answer.record_sets.front();
+  return In(*answer.record_sets.front());
+}
+
+CurrencyList CurrencyList::In(const platform::RecordSet& rows) {
+  const std::size_t id = rows.FieldNamed("CcyID");
+  const std::size_t code = rows.FieldNamed("Ccy");
+  const std::size_t name = rows.FieldNamed("Name");
+  const std::size_t type = rows.FieldNamed("CcyType");
+  const std::size_t last_day = rows.FieldNamed("LastDay");
   std::vector<Currency> currencies;
-  for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+  currencies.reserve(rows.RowCount());
+  for (std::size_t i = 0; i < rows.RowCount(); ++i) {
+    const auto row = rows.BookmarkAt(i);
     Currency currency;
-    currency.id = platform::ToInt32(rows["CcyID"]);
-    currency.code = platform::ToText(rows["Ccy"]);
-    currency.name = platform::ToTextOrEmpty(rows["Name"]);
-    currency.is_money = platform::ToInt32(rows["CcyType"]) == 0;
-    if (!rows["LastDay"].IsEmpty()) currency.last_day = platform::ToDate(rows["LastDay"]);
+    currency.id = platform::ToInt32(rows.Cell(row, id));
+    currency.code = platform::ToText(rows.Cell(row, code));
+    currency.name = platform::ToTextOrEmpty(rows.Cell(row, name));
+    currency.is_money = platform::ToInt32(rows.Cell(row, type)) == 0;
+    if (const auto& day = rows.Cell(row, last_day); !day.IsEmpty()) currency.last_day = platform::ToDate(day);
     currencies.push_back(std::move(currency));
   }
   return CurrencyList(std::move(currencies));

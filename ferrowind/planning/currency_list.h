@@ -8,6 +8,7 @@
 
 #include "ferrowind/platform/values/date.h"
 #include "ferrowind/platform/values/phrase.h"
+#include "ferrowind/platform/values/record_set.h"
 
 namespace ferrowind::planning {
 
@@ -38,6 +39,8 @@ class CurrencyList {
  public:
   /// Reads those of the calling thread's database. Fails as database_call.h says.
   [[nodiscard]] static CurrencyList Load();
+  /// Those of a record set of `CldGetCurrencies` or `CldGetContent`.
+  [[nodiscard]] static CurrencyList In(const platform::RecordSet& rows);
   explicit CurrencyList(std::vector<Currency> currencies) : currencies_(std::move(currencies)) {}
 
   [[nodiscard]] const std::vector<Currency>& All() const { return currencies_; }

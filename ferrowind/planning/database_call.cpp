@@ -11,6 +11,7 @@
 namespace ferrowind::planning {
 namespace {
 
+//: said
 const char* TextOf(std::int32_t return_value) {
   switch (return_value) {
     case 2:
@@ -36,6 +37,12 @@ const char* TextOf(std::int32_t return_value) {
   }
 }
 
+/// Why the procedure of the last call refused, where the gateway knows.
+std::string WhyRefused() {
+  const auto& too_long = Module().too_long_text;
+  return too_long ? InWords(*too_long) : "";
+}
+
 /// The failure that the gateway keeps, which it keeps no longer: it would be reported beside this one.
 platform::Failure TakeFailureOfCall(const std::string& doing) {
   if (std::exchange(Module().pending_failure_count, 0) == 0) {
@@ -47,10 +54,11 @@ platform::Failure TakeFailureOfCall(const std::string& doing) {
 
 }  // namespace
 
-Refusal::Refusal(const std::string& doing, const std::string& procedure, std::int32_t return_value)
+Refusal::Refusal(const std::string& doing, const std::string& procedure, std::int32_t return_value,
+                 const std::string& why)
     : Failure(platform::failure_number::kInvalidArgument,
-              InWords("%1: %2 (%3 returned %4)",
-                      {doing, InWords(TextOf(return_value)), procedure, std::to_string(return_value)})),
+              InWords("%1: %2 (%3 returned %4)", {doing, why.empty() ? InWords(TextOf(return_value)) : why,
+                                                  procedure, std::to_string(return_value)})),
       return_value_(return_value) {}
 
 std::shared_ptr<platform::SharedConnections> ShareConnections() {
@@ -69,7 +77,7 @@ CallAnswer CallDatabase(const std::string& doing, const std::string& procedure,
   if (answer.return_value != return_value::kDone) {
     const bool is_expected =
         std::find(expected.begin(), expected.end(), answer.return_value) != expected.end();
-    if (!is_expected) throw Refusal(doing, procedure, answer.return_value);
+    if (!is_expected) throw Refusal(doing, procedure, answer.return_value, WhyRefused());
     return answer;
   }
   for (std::int32_t i = 1; results && i <= results->Count(); ++i) {

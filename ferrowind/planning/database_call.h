@@ -16,8 +16,10 @@ namespace ferrowind::planning {
 /// That a procedure refused: it ran, returned another value than 0 and changed nothing.
 class Refusal : public platform::Failure {
  public:
-  /// `doing` says what the call was for ("Reading the calendar EUR 2028").
-  Refusal(const std::string& doing, const std::string& procedure, std::int32_t return_value);
+  /// `doing` says what the call was for ("Reading the calendar EUR 2028"), `why` the reason where it is known
+  /// better than by the return value, else it is empty.
+  Refusal(const std::string& doing, const std::string& procedure, std::int32_t return_value,
+          const std::string& why = {});
   [[nodiscard]] std::int32_t ReturnValue() const noexcept { return return_value_; }
 
  private:

@@ -25,8 +25,8 @@ DatabaseReview ReviewContent(const DatabaseContent& content, const CurrencyRevie
                                platform::Phrase::Of("There is no calendar.")});
   }
   review.calendars = content.calendars;
-  review.currencies = content.judged.size();
-  for (const auto& [id, currency] : content.judged) {
+  review.currencies = content.written.size();
+  for (const auto& [id, currency] : content.written) {
     auto findings = reviewer(id, currency);
     std::move(findings.begin(), findings.end(), std::back_inserter(review.findings));
   }
@@ -36,10 +36,11 @@ DatabaseReview ReviewContent(const DatabaseContent& content, const CurrencyRevie
 
 DatabaseReview ReviewDatabase(const almanac::DateTables& tables, const platform::Date& today,
                               std::optional<int> further_years) {
-  const DatabaseContent content = LoadContent(tables);
+  const DatabaseContent content = LoadContent();
+  const almanac::RuleDirectory rules = content.ReadRules();
   const auto horizon = almanac::ReviewHorizon::Of(today, further_years);
-  return ReviewContent(content, [&](std::int32_t /*currency_id*/, const almanac::ReviewedCurrency& currency) {
-    return almanac::ReviewCurrency(currency, content.rules, tables, horizon);
+  return ReviewContent(content, [&](std::int32_t /*currency_id*/, const WrittenCurrency& currency) {
+    return almanac::ReviewCurrency(currency.Read(tables), rules, tables, horizon);
   });
 }
 

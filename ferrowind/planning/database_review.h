@@ -29,7 +29,7 @@ struct DatabaseReview {
 
 /// Reviews a currency of that number.
 using CurrencyReviewer =
-    std::function<std::vector<almanac::Finding>(std::int32_t currency_id, const almanac::ReviewedCurrency&)>;
+    std::function<std::vector<almanac::Finding>(std::int32_t currency_id, const WrittenCurrency&)>;
 
 /// What `reviewer` finds about the currencies of `content`, each asked for once, in the order of the numbers.
 [[nodiscard]] DatabaseReview ReviewContent(const DatabaseContent& content, const CurrencyReviewer& reviewer);

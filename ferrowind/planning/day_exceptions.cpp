@@ -19,6 +19,7 @@ std::vector<std::int16_t> DaysToExcept(const almanac::CalendarContent& calendar,
 
 bool ExceptDays(const Currency& currency, const almanac::CalendarContent& seen,
                 std::span<const std::int16_t> days, const std::string& reason) {
+  //: said 1
   return ChangeSeenDays("Excepting days of %1", currency, seen,
                         "[{\"TID1\":1,\"Dates\":" + DatesJson(seen.year, days) +
                             ",\"DayComment\":" + platform::JsonText(reason) + "}]");

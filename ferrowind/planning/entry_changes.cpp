@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ferrowind/almanac/date_words.h"
+#include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/one_line.h"
@@ -20,13 +21,35 @@ using platform::JsonValue;
 // Days
 // -----------------------------------------------------------------------------------------------------------
 
-std::string LongDay(const Date& date) { return InWords(almanac::LongDay(date.Serial())); }
+std::string LongDay(const Date& date) { return AttachedPlatform().locale.LongDayText(date); }
 
 bool IsSame(const PastDay& left, const PastDay& right) {
   return left.type == right.type && left.rule == right.rule && left.comment == right.comment;
 }
 
 bool IsOrdinary(const PastDay& day) { return !day.rule && day.comment.empty(); }
+
+/// Days that stand in one of the two lists alone are told when they are not ordinary, or when both lists are
+/// of a calendar that was there: then a day of the year is missing, which only a damaged database lets
+/// happen.
+void AddDifferences(const std::vector<PastDay>& before, const std::vector<PastDay>& behind,
+                    bool are_of_one_calendar, EntryChanges& changes) {
+  auto was = before.begin();
+  auto is = behind.begin();
+  while (was != before.end() || is != behind.end()) {
+    const bool has_was = was != before.end() && (is == behind.end() || !(is->date < was->date));
+    const bool has_is = is != behind.end() && (was == before.end() || !(was->date < is->date));
+    const Date date = has_was ? was->date : is->date;
+    const bool is_told =
+        has_was && has_is ? !IsSame(*was, *is) : are_of_one_calendar || !IsOrdinary(has_was ? *was : *is);
+    if (is_told) {
+      changes.changes.push_back(
+          {LongDay(date), has_was ? DayInWords(*was) : "", has_is ? DayInWords(*is) : ""});
+    }
+    if (has_was) ++was;
+    if (has_is) ++is;
+  }
+}
 
 void AddDays(const PastCalendar& before, const PastCalendar& behind, const std::string& calendar,
              EntryChanges& changes) {
@@ -44,19 +67,7 @@ void AddDays(const PastCalendar& before, const PastCalendar& behind, const std::
   if (!was_there && !is_there) return;
   if (!was_there) changes.changes.push_back({InWords("Calendar %1", {calendar}), "", days_of(behind)});
   if (!is_there) changes.changes.push_back({InWords("Calendar %1", {calendar}), days_of(before), ""});
-  const std::size_t count = was_there ? before.days.size() : behind.days.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    if (was_there && is_there) {
-      if (IsSame(before.days[i], behind.days[i])) continue;
-      changes.changes.push_back(
-          {LongDay(before.days[i].date), DayInWords(before.days[i]), DayInWords(behind.days[i])});
-      continue;
-    }
-    const PastDay& day = was_there ? before.days[i] : behind.days[i];
-    if (IsOrdinary(day)) continue;
-    changes.changes.push_back(
-        {LongDay(day.date), was_there ? DayInWords(day) : "", was_there ? "" : DayInWords(day)});
-  }
+  AddDifferences(before.days, behind.days, was_there && is_there, changes);
 }
 
 // Rows
@@ -102,6 +113,9 @@ std::string MoneyText(const std::string& type) {
   return type == "0" ? InWords("money") : InWords("no money");
 }
 
+std::string YesOrNo(const std::string& number) { return number == "1" ? InWords("yes") : InWords("no"); }
+
+//: said 2
 const Column kColumns[] = {{"Name1", "name", AsItStands},
                            {"TID1", "type", TypeText},
                            {"D1", "date", DateText},
@@ -116,7 +130,9 @@ const Column kColumns[] = {{"Name1", "name", AsItStands},
                            {"Ccy", "code", AsItStands},
                            {"CcyType", "kind", MoneyText},
                            {"Name", "name", AsItStands},
-                           {"LastDay", "last day as money", DateText}};
+                           {"LastDay", "last day as money", DateText},
+                           {"SpotDays", "days to spot", AsItStands},
+                           {"DollarStops", "stopped by holidays of the dollar", YesOrNo}};
 
 /// Nothing when there was no such row, or no value in it.
 std::string MemberText(const JsonValue& row, const Column& column) {
@@ -135,17 +151,22 @@ std::string NameOf(const JsonValue& before, const JsonValue& behind, std::string
   return "";
 }
 
-std::string CodeOf(const ReplacedRow& row, const CurrencyList& currencies) {
-  if (!row.currency) return "";
-  const Currency* const currency = currencies.Find(*row.currency);
-  return currency != nullptr ? currency->code : std::to_string(*row.currency);
+std::string CodeOf(std::optional<std::int32_t> number, const CurrencyList& currencies) {
+  if (!number) return "";
+  const Currency* const currency = currencies.Find(*number);
+  return currency != nullptr ? currency->code : std::to_string(*number);
+}
+
+std::string SubjectOfConvention(const std::string& code, const std::string& other) {
+  return InWords("Convention of %1", {code == other ? code : code + "/" + other});
 }
 
 std::string SubjectOf(const ReplacedRow& row, const JsonValue& before, const JsonValue& behind,
                       const CurrencyList& currencies) {
   if (row.table == "CldHoliday") return InWords("Rule %1", {NameOf(before, behind, "Name1")});
   if (row.table == "DicCcy") return InWords("Currency %1", {NameOf(before, behind, "Ccy")});
-  const std::string code = CodeOf(row, currencies);
+  const std::string code = CodeOf(row.currency, currencies);
+  if (row.table == "CldConvention") return SubjectOfConvention(code, CodeOf(row.position, currencies));
   if (!row.position) return InWords("Rule book of %1", {code});
   return InWords("Rule book of %1, rule %2", {code, std::to_string(*row.position)});
 }
@@ -157,9 +178,9 @@ void AddRow(const ReplacedRow& row, const CurrencyList& currencies, EntryChanges
   for (const Column& column : kColumns) {
     std::string was = MemberText(before, column);
     std::string is = MemberText(behind, column);
-    if (was != is)
-      changes.changes.push_back(
-          {InWords("%1: %2", {subject, InWords(column.label)}), std::move(was), std::move(is)});
+    if (was == is) continue;
+    changes.changes.push_back({OneLine(InWords("%1: %2", {subject, InWords(column.label)})),
+                               OneLine(std::move(was)), OneLine(std::move(is))});
   }
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/planning/in_words.h"
+
 namespace ferrowind::planning {
 namespace {
 
@@ -81,7 +83,11 @@ std::string HistoryList::Do(const UndoStep& step) const {
   HistoryEntry entry;
   entry.id = step.entry;
   if (auto known = EntryOf(step.entry)) entry = std::move(*known);
-  const UndoOutcome outcome = UndoEntry(entry);
+  const std::string calendar = words_.Calendar(entry);
+  const std::string sentence = words_.Tell(entry).Sentence();
+  const UndoOutcome outcome =
+      UndoEntry(entry, calendar.empty() ? InWords("Undoing \"%1\"", {sentence})
+                                        : InWords("Undoing in %1: %2", {calendar, sentence}));
   return outcome.kind == UndoOutcome::Kind::kDone ? "" : words_.WhyNotUndone(entry, outcome);
 }
 

@@ -114,12 +114,13 @@ PastCalendar LoadCalendarAsOf(std::int32_t currency, std::int32_t year, const st
   return LoadPast(InWords("Reading a calendar of %1 as of %2", {std::to_string(year), moment}), parameters);
 }
 
-UndoOutcome UndoEntry(const HistoryEntry& entry) {
+UndoOutcome UndoEntry(const HistoryEntry& entry, const std::string& what) {
   using Kind = UndoOutcome::Kind;
   SourceValues parameters;
   parameters.Add("EntryID", entry.id);
-  const CallAnswer answer = CallDatabase(InWords("Undoing the entry %1", {std::to_string(entry.id)}),
-                                         "CldUndo", parameters, 0, {kNoSuchEntry, kChangedSince});
+  const CallAnswer answer =
+      CallDatabase(what.empty() ? InWords("Undoing the entry %1", {std::to_string(entry.id)}) : what,
+                   "CldUndo", parameters, 0, {kNoSuchEntry, kChangedSince});
   if (answer.return_value == return_value::kDone) return {Kind::kDone, {}};
   if (answer.return_value == kNoSuchEntry) return {Kind::kNoSuchEntry, {}};
   UndoOutcome outcome{Kind::kRefused, {}};

@@ -112,7 +112,8 @@ struct UndoOutcome {
   std::optional<HistoryEntry> later;
 };
 
-/// Puts back what the call of the entry changed, as a call of its own; all of it or nothing.
-[[nodiscard]] UndoOutcome UndoEntry(const HistoryEntry& entry);
+/// Puts back what the call of the entry changed, as a call of its own; all of it or nothing. A failure says
+/// that `what` failed, which by itself tells the number of the entry.
+[[nodiscard]] UndoOutcome UndoEntry(const HistoryEntry& entry, const std::string& what = {});
 
 }  // namespace ferrowind::planning

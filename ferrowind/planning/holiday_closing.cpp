@@ -233,6 +233,7 @@ bool HolidayClosing::CloseDaysOf(const Place& place, ClosingOutcome& outcome) co
                            ",\"TID1\":" + std::to_string(static_cast<int>(name_.kind)) +
                            ",\"Dates\":" + DatesJson(seen_.Year(), days) + "}]";
   try {
+    //: said 1
     if (!ChangeSeenDays("Closing days of %1", place.calendar->currency, place.calendar->content, json)) {
       outcome.problems.push_back(ChangedMeanwhile(NameOf(place)));
       return false;

@@ -8,6 +8,7 @@
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -79,6 +80,9 @@ HolidayName HolidayNames::Read(const std::string& typed, std::span<const Date> d
   const auto known = uses_.find(KeyOf(typed));
   if (read.name.empty()) {
     read.refusal = InWords("Type what the holiday is called, or choose one that is known.");
+  } else if (const auto too_long = platform::TooLong(platform::LimitedText::kName, read.name);
+             known == uses_.end() && too_long) {
+    read.refusal = InWords("%1.", {InWords(*too_long)});
   } else if (known != uses_.end()) {
     read = {known->second.name, known->second.kind, false, RefusalOf(known->second, days)};
   }

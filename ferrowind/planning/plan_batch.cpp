@@ -6,7 +6,6 @@
 #include <optional>
 #include <utility>
 
-#include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/in_words.h"
@@ -35,6 +34,11 @@ std::optional<HistoryEntry> EntryOfPlan(const CalendarKey& calendar) {
   }
 }
 
+/// What a calendar is called while the currencies cannot be read.
+std::string NameOf(const CalendarKey& key, const CurrencyList& known) {
+  return known.FindOrNumber(key.first).code + " " + std::to_string(key.second);
+}
+
 std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
   auto found = LoadEntry(id);
   if (!found) return std::nullopt;
@@ -43,11 +47,16 @@ std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
 
 }  // namespace
 
-PlanBatch::PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars)
+PlanBatch::PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars,
+                     const CurrencyList& known)
     : tables_(tables) {
-  for (const CalendarKey& key : calendars) {
-    calendars_.emplace_back(key, std::to_string(key.first) + " " + std::to_string(key.second));
-  }
+  for (const CalendarKey& key : calendars) calendars_.emplace_back(key, NameOf(key, known));
+  PlanAnew();
+}
+
+PlanBatch::PlanBatch(const almanac::DateTables& tables, const CalendarKey& calendar, Preparer prepare)
+    : tables_(tables) {
+  calendars_.emplace_back(calendar, NameOf(calendar, CurrencyList({})), std::move(prepare));
   PlanAnew();
 }
 
@@ -87,6 +96,7 @@ std::vector<PlanOutcome> PlanBatch::Apply() {
 PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   PlannedCalendar& calendar = calendars_[position];
   const bool existed = calendar.Preparation()->CalendarExists();
+  const std::size_t changed_days = calendar.Totals().taken;
   const std::string& currency = calendar.Preparation()->Owner().code;
   try {
     WriteTold(platform::ActionKind::kApplyPlan, {currency, calendar.Key().second}, [&] {
@@ -105,7 +115,8 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, currency, std::move(*entry)});
   return {position, Kind::kDone,
           InWords(existed ? "%1 is as planned now%2." : "%1 is made%2.",
-                  {calendar.Name(), ButFor(calendar.Totals())})};
+                  {calendar.Name(), ButFor(calendar.Totals())}),
+          changed_days};
 }
 
 std::vector<PlanOutcome> PlanBatch::Undo() {
@@ -120,7 +131,7 @@ PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
     UndoOutcome outcome;
     const CalendarKey& key = calendars_[applied.calendar].Key();
     WriteTold(platform::ActionKind::kUndo, {applied.currency, key.second}, [&] {
-      outcome = UndoEntry(applied.entry);
+      outcome = UndoEntry(applied.entry, InWords("Undoing the plan"));
       return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone : return_value::kChangedSince;
     });
     if (outcome.kind != UndoOutcome::Kind::kDone) {

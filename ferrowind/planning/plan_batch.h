@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
+#include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/plan_lines.h"
 #include "ferrowind/planning/planned_calendar.h"
@@ -29,6 +30,8 @@ struct PlanOutcome {
   Kind kind = Kind::kDone;
   /// For operators, with the calendar's name in it and a full stop.
   std::string sentence;
+  /// How many days the plan has changed; 0 unless it was applied.
+  std::size_t changed_days = 0;
 };
 
 /// Calendars of the calling thread's database that somebody is about to make as planned, each in one call.
@@ -36,8 +39,13 @@ struct PlanOutcome {
 /// What cannot be read or planned is told by the calendar that it concerns, so that nothing here fails.
 class PlanBatch {
  public:
-  /// Plans each of `calendars`, in that order; none twice. `tables` must outlive the batch.
-  PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars);
+  /// Plans each of `calendars`, in that order; none twice. `tables` must outlive the batch. While the
+  /// currencies cannot be read, calendars are called by those of `known`, and others by the numbers of
+  /// theirs.
+  PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars,
+            const CurrencyList& known = CurrencyList({}));
+  /// Plans the one calendar by `prepare`.
+  PlanBatch(const almanac::DateTables& tables, const CalendarKey& calendar, Preparer prepare);
 
   [[nodiscard]] const std::vector<PlannedCalendar>& Calendars() const { return calendars_; }
   /// To decide about days of. Precondition: a position in `Calendars`.

@@ -56,7 +56,7 @@ class LineMaker {
     if (calendar.Preparation() == nullptr) {
       PlanLine line = NewLine(Kind::kNotPlanned, position, "/not-planned");
       line.is_conflict = true;
-      line.why = calendar.WhyNot();
+      line.why = WhyNot(position);
       Add(std::move(line));
       return;
     }
@@ -65,6 +65,17 @@ class LineMaker {
     for (const ComparedDay& day : calendar.Preparation()->Compared().Days()) {
       if (filter_.shows_all || IsShown(calendar, day)) AddDay(position, day);
     }
+  }
+
+  /// A cause that many have is told of the first of them alone.
+  [[nodiscard]] std::string WhyNot(std::size_t position) const {
+    const std::string& why = calendars_[position].WhyNot();
+    const std::size_t first = filter_.calendar.value_or(0);
+    for (std::size_t before = first; before < position; ++before) {
+      const PlannedCalendar& other = calendars_[before];
+      if (other.Preparation() == nullptr && other.WhyNot() == why) return InWords("As %1", {other.Name()});
+    }
+    return why;
   }
 
   void AddIncomplete(std::size_t position) {

@@ -23,6 +23,8 @@ class PlanRun {
   /// Of how many calendars the steps are, unless one fails.
   [[nodiscard]] std::size_t All() const { return outcomes_.size() + left_.size(); }
   [[nodiscard]] std::size_t Done() const { return outcomes_.size(); }
+  /// Of the steps that are done.
+  [[nodiscard]] const std::vector<PlanOutcome>& Outcomes() const { return outcomes_; }
   /// The position in the batch of the calendar that the next step is about; nothing after the last step, and
   /// after one that failed.
   [[nodiscard]] std::optional<std::size_t> Next() const;

@@ -78,7 +78,7 @@ std::string CountedChanges(const DayTotals& totals) {
     changes = InWords("%1, %2 of them weekends", {changes, std::to_string(totals.new_weekends)});
   }
   const std::string staying = StayingDays(totals);
-  return staying.empty() ? changes : InWords("%1, but not %2", {changes, staying});
+  return staying.empty() ? changes : InWords("%1; unchanged: %2", {changes, staying});
 }
 
 }  // namespace ferrowind::planning

@@ -12,6 +12,7 @@
 namespace ferrowind::planning {
 
 /// What the day of an empty name is called.
+//: said
 inline constexpr const char* kOrdinaryDay = "working day";
 
 /// A weekend day of a new calendar, which everybody knows.

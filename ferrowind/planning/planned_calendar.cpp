@@ -14,8 +14,14 @@ using almanac::DayChoice;
 using almanac::ExceptionHandling;
 using almanac::PlanAction;
 
+Preparer ByRuleBook() {
+  return [](const YearPlanner& planner, const Currency& currency, int year) {
+    return planner.Prepare(currency, year);
+  };
+}
+
 void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
-  const bool was_left_out = IsLeftOut();
+  const bool was_left_out = preparation_ != nullptr ? IsLeftOut() : was_left_out_;
   try {
     const Currency* const currency = planner->Currencies().Find(key_.first);
     if (currency == nullptr) {
@@ -23,7 +29,7 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
                               InWords("There is no currency %1", {std::to_string(key_.first)}));
     }
     name_ = currency->code + " " + std::to_string(key_.second);
-    preparation_ = planner->Prepare(*currency, key_.second);
+    preparation_ = prepare_(*planner, *currency, key_.second);
     planner_ = planner;
     why_not_.clear();
   } catch (const platform::Failure& failure) {
@@ -35,6 +41,7 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
 }
 
 void PlannedCalendar::Fail(const std::string& why_not) {
+  if (preparation_ != nullptr) was_left_out_ = IsLeftOut();
   preparation_.reset();
   why_not_ = why_not;
 }
@@ -66,6 +73,8 @@ void PlannedCalendar::ChooseAnew() {
 void PlannedCalendar::Take(int day_of_year, bool is_taken) {
   const ComparedDay day = preparation_->Compared().DayAt(day_of_year);
   if (!IsOpenToChoice(day)) return;
+  // What was applied has left those that differ; from here on the operator does.
+  if (!is_taken) is_rest_ = false;
   decisions_.insert_or_assign(day_of_year, DecisionOf(day, is_taken));
   choice_.Decide(day_of_year, is_taken);
 }

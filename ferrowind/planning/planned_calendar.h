@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,6 +15,11 @@
 
 namespace ferrowind::planning {
 
+/// Matches a calendar with what it should be, as `YearPlanner::Prepare` does by its rule book.
+using Preparer = std::function<std::unique_ptr<const YearPreparation>(const YearPlanner& planner,
+                                                                      const Currency& currency, int year)>;
+[[nodiscard]] Preparer ByRuleBook();
+
 /// A calendar beside its plan, and which of the days that differ are to become others.
 ///
 /// Working days by exception stay as they are until somebody takes them: they were made by a person against
@@ -22,7 +28,8 @@ namespace ferrowind::planning {
 class PlannedCalendar {
  public:
   /// Not planned yet.
-  PlannedCalendar(const CalendarKey& key, std::string name) : key_(key), name_(std::move(name)) {}
+  PlannedCalendar(const CalendarKey& key, std::string name, Preparer prepare = ByRuleBook())
+      : key_(key), name_(std::move(name)), prepare_(std::move(prepare)) {}
 
   [[nodiscard]] const CalendarKey& Key() const { return key_; }
   /// "EUR 2028"; what it was made with until its currency is known.
@@ -74,6 +81,7 @@ class PlannedCalendar {
 
   CalendarKey key_;
   std::string name_;
+  Preparer prepare_;
   std::string why_not_;
   /// Outlives the preparation, which points into it.
   std::shared_ptr<const YearPlanner> planner_;
@@ -81,6 +89,8 @@ class PlannedCalendar {
   almanac::DayChoice choice_ = almanac::ExceptionHandling::kKeep;
   /// Whether the days that differ are those that an applied plan has left.
   bool is_rest_ = false;
+  /// Whether all days were left out when it could be planned last.
+  bool was_left_out_ = false;
   /// By the day of the year.
   std::map<int, Decision> decisions_;
 };

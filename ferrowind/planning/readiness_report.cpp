@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "ferrowind/almanac/review.h"
+#include "ferrowind/almanac/rule_directory.h"
 #include "ferrowind/planning/database_content.h"
+#include "ferrowind/planning/record_text.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -17,6 +20,17 @@ using almanac::YearReadiness;
 /// Whether what stands in the calendar could not be traded on.
 bool IsUnprepared(const YearReadiness& year) {
   return year.readiness == Readiness::kNotPrepared || year.readiness == Readiness::kWeekendsOnly;
+}
+
+/// The rules and the years.
+std::string BasisOf(const DatabaseContent& content, const ReviewHorizon& horizon,
+                    const ReadinessReport& report) {
+  std::string basis;
+  for (const int year : {horizon.running_year, horizon.last_year, report.FirstYear(), report.LastYear()}) {
+    basis += std::to_string(year) + ' ';
+  }
+  AppendRecords(*content.rules, 0, content.rules->RowCount(), basis);
+  return basis;
 }
 
 }  // namespace
@@ -46,15 +60,26 @@ std::vector<CalendarKey> ReadinessReport::ToPrepare(int year) const {
   return calendars;
 }
 
-ReadinessReport ReadReadiness(const almanac::DateTables& tables, const platform::Date& today) {
-  const DatabaseContent content = LoadContent(tables);
+ReadinessReport ReadinessReader::Read(const platform::Date& today) {
+  const DatabaseContent content = LoadContent();
   const auto horizon = ReviewHorizon::Of(today, {});
   ReadinessReport report{today, {}, {}};
-  report.review = ReviewContent(content, [&](std::int32_t id, const almanac::ReviewedCurrency& currency) {
-    auto judgement = almanac::JudgeCurrency(currency, content.rules, tables, horizon, report.FirstYear(),
-                                            report.LastYear());
-    report.currencies.push_back({content.currencies.FindOrNumber(id), std::move(judgement.years)});
-    return std::move(judgement.findings);
+  std::string basis = BasisOf(content, horizon, report);
+  if (basis != basis_) judged_.clear();
+  basis_ = std::move(basis);
+  std::erase_if(judged_, [&](const auto& judged) { return !content.written.contains(judged.first); });
+
+  std::optional<almanac::RuleDirectory> rules;
+  report.review = ReviewContent(content, [&](std::int32_t id, const WrittenCurrency& currency) {
+    Judged& judged = judged_[id];
+    if (std::string written = currency.Text(); written != judged.written) {
+      if (!rules) rules = content.ReadRules();
+      judged.judgement = almanac::JudgeCurrency(currency.Read(tables_), *rules, tables_, horizon,
+                                                report.FirstYear(), report.LastYear());
+      judged.written = std::move(written);
+    }
+    report.currencies.push_back({content.currencies.FindOrNumber(id), judged.judgement.years});
+    return judged.judgement.findings;
   });
   std::sort(report.currencies.begin(), report.currencies.end(),
             [](const auto& left, const auto& right) { return left.currency.code < right.currency.code; });

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
@@ -41,8 +44,31 @@ struct ReadinessReport {
   [[nodiscard]] std::vector<CalendarKey> ToPrepare(int year) const;
 };
 
-/// Reads the calling thread's database, whose today is `today`. Changes nothing; fails as database_call.h
-/// says.
-[[nodiscard]] ReadinessReport ReadReadiness(const almanac::DateTables& tables, const platform::Date& today);
+/// Makes reports of the calling thread's database, each from its whole content as it is then. What this has
+/// judged before is not judged again: a currency whose calendars and book are to the letter what they were,
+/// by the same rules and in the same years, has the same judgement.
+class ReadinessReader {
+ public:
+  /// `tables` must outlive this object and stay as they are.
+  explicit ReadinessReader(const almanac::DateTables& tables) : tables_(tables) {}
+  ReadinessReader(const ReadinessReader&) = delete;
+  ReadinessReader& operator=(const ReadinessReader&) = delete;
+
+  /// Changes nothing in the database; fails as database_call.h says.
+  [[nodiscard]] ReadinessReport Read(const platform::Date& today);
+
+ private:
+  struct Judged {
+    /// `WrittenCurrency::Text`; empty when it has not been judged.
+    std::string written = {};
+    almanac::CurrencyJudgement judgement = {};
+  };
+
+  const almanac::DateTables& tables_;
+  /// What all of `judged_` were judged by, beside themselves and the tables.
+  std::string basis_;
+  /// By the number of the currency.
+  std::map<std::int32_t, Judged> judged_;
+};
 
 }  // namespace ferrowind::planning

@@ -4,11 +4,13 @@
 #include <utility>
 
 #include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
 
 namespace ferrowind::planning {
 
 YearOverview YearOverview::Load(std::span<const Currency> currencies, int year) {
+  const auto shared = ShareConnections();
   StoredRules rules = LoadRules();
   std::vector<std::pair<CalendarKey, almanac::CalendarContent>> contents = LoadMarkedDays(year, year);
   YearOverview overview(year, almanac::RuleDirectory(std::move(rules.rules)));
@@ -24,6 +26,7 @@ YearOverview YearOverview::Load(std::span<const Currency> currencies, int year) 
     if (found == contents.end()) continue;
     calendar.exists = true;
     calendar.content = found->second;
+    calendar.readiness = almanac::ReadinessByClosedDays(calendar.content);
   }
   return overview;
 }

@@ -8,6 +8,7 @@
 
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/rule_directory.h"
+#include "ferrowind/almanac/year_readiness.h"
 #include "ferrowind/planning/currency_list.h"
 
 namespace ferrowind::planning {
@@ -29,6 +30,8 @@ class YearOverview {
     Currency currency;
     /// Otherwise nobody knows which days are closed.
     bool exists = false;
+    /// By its closed days alone. Of one that is not prepared nobody knows which days will be closed.
+    almanac::Readiness readiness = almanac::Readiness::kNotPrepared;
     almanac::CalendarContent content;
   };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/days_json.h"
@@ -17,10 +18,14 @@ constexpr const char* kApplyPlan = "CldApplyPlan";
 
 YearPreparation::YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                                  const almanac::RuleDirectory& rules)
+    : YearPreparation(currency, planner.Plan(year), LoadCalendar(currency, year), rules) {}
+
+YearPreparation::YearPreparation(const Currency& currency, almanac::YearPlan plan, StoredCalendar calendar,
+                                 const almanac::RuleDirectory& rules)
     : currency_(currency),
-      plan_(planner.Plan(year)),
-      calendar_(LoadCalendar(currency, year)),
-      matches_(planner.Book(), rules),
+      plan_(std::move(plan)),
+      calendar_(std::move(calendar)),
+      matches_(plan_.Book(), rules),
       comparison_(plan_, calendar_.content, matches_) {}
 
 std::string YearPreparation::Name() const { return currency_.code + " " + std::to_string(Year()); }

@@ -22,6 +22,9 @@ class YearPreparation {
   /// (fails as database_call.h says). `rules` are the database's and must outlive this.
   YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                   const almanac::RuleDirectory& rules);
+  /// The same of a plan that was made elsewhere, beside `calendar`, which is of its year.
+  YearPreparation(const Currency& currency, almanac::YearPlan plan, StoredCalendar calendar,
+                  const almanac::RuleDirectory& rules);
   YearPreparation(const YearPreparation&) = delete;
   YearPreparation& operator=(const YearPreparation&) = delete;
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/additions/additions.h"
 #include "ferrowind/platform/database/change_watch.h"
 #include "ferrowind/platform/database/command.h"
@@ -19,7 +20,7 @@ namespace ferrowind::platform {
 /// The component's surroundings, put together by the host's composition root.
 ///
 /// References only: everything must outlive the component's use on the thread that it was attached on.
-struct Platform {
+struct FERROWIND_EXPORT Platform {
   ObjectFactory& objects;
   CommandFactory& commands;
   Toolkit& toolkit;
@@ -34,7 +35,8 @@ struct Platform {
   Additions* additions = nullptr;
   /// The component's texts in the operator's language; null for English.
   const Words* words = nullptr;
-  /// By which windows learn that somebody else changed the database; null for a host whose windows need not.
+  /// By which windows learn that somebody else changed the database, or that it does not answer; null for a
+  /// host whose windows need not.
   ChangeWatchFactory* change_watches = nullptr;
 };
 

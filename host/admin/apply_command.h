@@ -1,21 +1,14 @@
 #pragma once
 
-#include <functional>
 #include <iosfwd>
-#include <optional>
 #include <string>
 
 #include "ferrowind/platform/database/engine_registry.h"
 
+#include "host/admin/confirmation.h"
 #include "host/admin/exit_status.h"
 
 namespace ferrowind::host {
-
-/// Asks the user `question`, and tells whether the answer was yes; nothing when there is nobody to ask.
-using Confirmation = std::function<std::optional<bool>(const std::string& question)>;
-
-/// Asks on the terminal of standard input, if it is one.
-[[nodiscard]] std::optional<bool> AskOnTerminal(const std::string& question);
 
 /// `ferrowindctl apply`: makes calendars as planned.
 struct ApplyCommand {

@@ -1,41 +1,17 @@
 #include "host/admin/book_source.h"
 
-#include <array>
-#include <cerrno>
-#include <cstddef>
-#include <cstring>
-#include <fstream>
-#include <istream>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "ferrowind/almanac/text_lines.h"
-#include "ferrowind/platform/values/failure.h"
+
+#include "host/admin/given_text.h"
 
 namespace ferrowind::host {
 namespace {
 
-using platform::Failure;
-
-constexpr const char* kStandardInput = "-";
 constexpr std::string_view kState = "# state ";
-
-[[noreturn]] void RefuseToRead(const std::string& name, int error) {
-  throw Failure(platform::failure_number::kInvalidArgument,
-                name + " cannot be read: " + std::strerror(error));
-}
-
-std::string ReadAll(std::istream& in, const std::string& name) {
-  std::string text;
-  std::array<char, 4096> part{};
-  errno = 0;
-  while (in.read(part.data(), part.size()) || in.gcount() > 0) {
-    text.append(part.data(), static_cast<std::size_t>(in.gcount()));
-  }
-  // A folder can be opened, too.
-  if (in.bad()) RefuseToRead(name, errno);
-  return text;
-}
 
 /// What the first line that begins as a `StateLine` does says.
 std::optional<std::string> StateIn(const std::string& text) {
@@ -52,15 +28,8 @@ std::optional<std::string> StateIn(const std::string& text) {
 }  // namespace
 
 BookSource ReadBookFrom(const std::string& file, std::istream& in) {
-  const auto read = [](std::istream& from, const std::string& name) {
-    const std::string text = ReadAll(from, name);
-    return BookSource{name, almanac::ReadWholeBook(text), StateIn(text)};
-  };
-  if (file.empty() || file == kStandardInput) return read(in, "Standard input");
-  errno = 0;
-  std::ifstream opened(file, std::ios::binary);
-  if (!opened) RefuseToRead(file, errno);
-  return read(opened, file);
+  GivenText given = ReadGivenText(file, in);
+  return {std::move(given.name), almanac::ReadWholeBook(given.text), StateIn(given.text)};
 }
 
 std::string StateLine(const std::string& fingerprint) { return std::string(kState) + fingerprint + '\n'; }

@@ -37,6 +37,9 @@ ExitStatus CallCommand::Run(const platform::EngineRegistry& engines, std::ostrea
            << OneLine(outcome.failure->Description()) << '\n';
     return ExitStatus::kCallFailed;
   }
+  out.flush();
+  if (outcome.too_long_text)
+    errors << "ferrowindctl: " << OneLine(outcome.too_long_text->InEnglish()) << '\n';
   return outcome.return_value == 0 ? ExitStatus::kDone : ExitStatus::kReturnedNonZero;
 }
 

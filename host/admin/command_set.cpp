@@ -10,6 +10,9 @@ namespace {
 const std::map<std::string, OutputFormat> kFormats = {
     {"table", OutputFormat::kTable}, {"json", OutputFormat::kJson}, {"csv", OutputFormat::kCsv}};
 
+/// Help tells the groups of options, but not those of arguments.
+constexpr const char* kDatabases = "Databases";
+
 }  // namespace
 
 CLI::App& CommandSet::Add(const char* name, const char* description, const char* manual,
@@ -38,6 +41,12 @@ ExitStatus CommandSet::RunChosen(const CommandSurroundings& surroundings) const 
     if (command->parsed()) return action(surroundings);
   }
   throw std::logic_error("No command was named");
+}
+
+void TakeDatabase(CLI::Option& argument) { argument.group(kDatabases); }
+
+bool TakesDatabase(const CLI::Option& argument) {
+  return argument.get_name(true) == "URL" || argument.get_group() == kDatabases;
 }
 
 void AddFormat(CLI::App& command, OutputFormat& format) {

@@ -13,7 +13,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+}  // namespace CLI
 
 namespace ferrowind::host {
 
@@ -47,6 +48,11 @@ class CommandSet {
   CLI::App& program_;
   std::vector<std::pair<CLI::App*, CommandAction>> actions_;
 };
+
+/// Makes the argument the URL of a database for shells, which complete it. One with the name URL is it
+/// anyway.
+void TakeDatabase(CLI::Option& argument);
+[[nodiscard]] bool TakesDatabase(const CLI::Option& argument);
 
 /// The option by which `command` takes the form of its output.
 void AddFormat(CLI::App& command, OutputFormat& format);

@@ -9,6 +9,7 @@
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/platform/values/date.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 #include "host/admin/database_content.h"
 #include "host/admin/text_escapes.h"
@@ -45,6 +46,8 @@ std::string ReadCode(std::string code) {
 
 std::string ReadName(const std::string& name) {
   if (name.find_first_not_of(" \t\r\n") == std::string::npos) throw Refused("The name is blank");
+  if (const auto too_long = platform::TooLong(platform::LimitedText::kName, name))
+    throw Refused(too_long->InEnglish());
   return name;
 }
 

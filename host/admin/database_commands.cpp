@@ -7,6 +7,7 @@
 #include "host/admin/command_set.h"
 #include "host/admin/copy_command.h"
 #include "host/admin/init_command.h"
+#include "host/admin/seal_command.h"
 #include "host/admin/status_command.h"
 #include "host/admin/upgrade_command.h"
 
@@ -33,6 +34,13 @@ of procedures complete, every calendar must have all its days, and the rule of
 every day must exist. Each fault is a line on standard output, and the status
 is then 1.
 
+The entries of the history are chained: each has a hash over itself and the one
+before it. The chains must be whole, and what the entries did, done again, must
+give what the tables hold. What was changed behind the history is named, with the
+entry that it does not fit, who called that and when. Whoever may change every
+table could make the chains anew, or take the newest entries away; --seal, with
+what "seal" printed before, proves that nothing up to then was changed.
+
 A database in order may still lack a calendar of this year, the next or, from
 September on, the one after it, or have one in which no weekend is closed. Each
 such year is a line "Warning: ...", which
@@ -51,10 +59,23 @@ brings an older one there). On a server the user must be one who could create th
 
 How far it is stands on standard error while that is a terminal.)";
 
+constexpr const char* kSealManual =
+    R"(Prints a seal of the history: the number of its newest entry, and letters that
+stand for the newest entry of every chain and for what was there before the first.
+Write it down or keep it elsewhere. "check URL --seal SEAL" proves at any later
+time, however many entries there are by then, that no entry up to that number, and
+nothing before it, was changed or removed. A copy of the database has the same
+seal.
+
+On a server it waits for changing calls that are at work, at most 5 seconds, and
+the user must be one who could create the database. What the seal is of is told on
+standard error.)";
+
 constexpr const char* kStatusManual =
     R"(Prints two tables: the version of the schema, the engine and its version, and how many currencies, rules
 (all of them, and those removed), calendars, days and entries of the history there are; and for each year the
-number of its calendars. Warnings follow: calendars of this year, the next and, from September on, the one after
+number of its calendars. On a server a third one tells how many of its connections operators, readers, others and
+all have open, how many they can have, and which logins have no limit of their own. Warnings follow: calendars of this year, the next and, from September on, the one after
 it that a currency with a rule book or any calendar lacks, and calendars in which no weekend is closed ("review"
 tells more). A database of an older schema has an empty cell for what it does not know. On a server the user must
 be one who could create the database.
@@ -62,8 +83,8 @@ be one who could create the database.
 FORMATS
   table  columns, for people; each warning is a line
   json   {"results": [{"fields": [...], "rows": [[...]]}]} on one line; warnings are a third table with a row
-         for each calendar: Year, Ccy, and "no calendar" or "no weekends"
-  csv    as RFC 4180, an empty line between the three tables)";
+         for each calendar: Year, Ccy, and "no calendar" or "no weekends"; that of connections is the fourth
+  csv    as RFC 4180, an empty line between the tables)";
 
 constexpr const char* kUpgradeManual =
     R"(Brings a database that an older version of this program made to this program's
@@ -100,6 +121,8 @@ void AddCheck(CommandSet& commands) {
                                      return check->Run(surroundings.engines, surroundings.out);
                                    });
   command.add_option("URL", check->url, "The database to check")->required();
+  command.add_option("--seal", check->seal, "What \"seal\" printed before: nothing up to then was changed")
+      ->option_text("SEAL");
 }
 
 void AddCopy(CommandSet& commands) {
@@ -109,8 +132,19 @@ void AddCopy(CommandSet& commands) {
                    [copy](const CommandSurroundings& surroundings) {
                      return copy->Run(surroundings.engines, surroundings.out, surroundings.errors);
                    });
-  command.add_option("FROM", copy->from, "The URL of the database to copy")->required();
-  command.add_option("TO", copy->to, "The URL of the database that it is copied to")->required();
+  TakeDatabase(*command.add_option("FROM", copy->from, "The URL of the database to copy")->required());
+  TakeDatabase(
+      *command.add_option("TO", copy->to, "The URL of the database that it is copied to")->required());
+}
+
+void AddSeal(CommandSet& commands) {
+  const auto seal = std::make_shared<SealCommand>();
+  CLI::App& command =
+      commands.Add("seal", "Print what proves later that the history was not changed", kSealManual,
+                   [seal](const CommandSurroundings& surroundings) {
+                     return seal->Run(surroundings.engines, surroundings.out, surroundings.errors);
+                   });
+  command.add_option("URL", seal->url, "The database to seal")->required();
 }
 
 void AddStatus(CommandSet& commands) {
@@ -125,10 +159,11 @@ void AddStatus(CommandSet& commands) {
 
 void AddUpgrade(CommandSet& commands) {
   const auto upgrade = std::make_shared<UpgradeCommand>();
-  CLI::App& command = commands.Add("upgrade", "Bring an older database to this version", kUpgradeManual,
-                                   [upgrade](const CommandSurroundings& surroundings) {
-                                     return upgrade->Run(surroundings.engines, surroundings.out);
-                                   });
+  CLI::App& command =
+      commands.Add("upgrade", "Bring an older database to this version", kUpgradeManual,
+                   [upgrade](const CommandSurroundings& surroundings) {
+                     return upgrade->Run(surroundings.engines, surroundings.out, surroundings.errors);
+                   });
   command.add_option("URL", upgrade->url, "The database to upgrade")->required();
 }
 
@@ -138,6 +173,7 @@ void AddDatabaseCommands(CommandSet& commands) {
   AddInit(commands);
   AddCheck(commands);
   AddCopy(commands);
+  AddSeal(commands);
   AddStatus(commands);
   AddUpgrade(commands);
 }

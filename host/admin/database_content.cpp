@@ -32,14 +32,14 @@ void RequireThisVersion(const platform::EngineRegistry& engines, const std::stri
 
 std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines, const std::string& url,
                                              const std::function<bool()>& is_stopped) {
-  if (IsOnServer(engines, url)) return postgres::OpenContent(url);
+  if (IsOnServer(engines, url)) return postgres::OpenContent(url, is_stopped);
   return sqlite::OpenContent(sqlite::PathIn(url), is_stopped);
 }
 
 void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
                   const std::function<void(content::Target& target)>& fill,
                   const std::function<bool()>& is_stopped) {
-  if (IsOnServer(engines, url)) return postgres::FillDatabase(url, fill);
+  if (IsOnServer(engines, url)) return postgres::FillDatabase(url, fill, is_stopped);
   sqlite::FillDatabase(sqlite::PathIn(url), fill, is_stopped);
 }
 
@@ -47,8 +47,9 @@ void RunWithCalendars(const platform::EngineRegistry& engines, const std::string
                       const std::function<void()>& work) {
   try {
     RunWithDatabase(engines, url, work);
-  } catch (const platform::Failure&) {
-    RequireThisVersion(engines, url);
+  } catch (const platform::Failure& failure) {
+    const bool is_reached = !IsOnServer(engines, url) || !postgres::IsOfConnection(failure);
+    if (is_reached) RequireThisVersion(engines, url);
     throw;
   }
 }

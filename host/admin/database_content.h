@@ -12,15 +12,15 @@
 /// `platform::Failure`, as is whatever the engine cannot do.
 namespace ferrowind::host {
 
-/// The content of the database as it is now, whatever others write meanwhile. A file is read no longer than
-/// until `is_stopped` says so, and then is a failure.
+/// The content of the database as it is now, whatever others write meanwhile. It is read no longer than until
+/// `is_stopped` says so, and then is a failure.
 [[nodiscard]] std::unique_ptr<content::Source> OpenContent(const platform::EngineRegistry& engines,
                                                            const std::string& url,
                                                            const std::function<bool()>& is_stopped = {});
 
 /// Calls `fill` with the database, which is created without rules and calendars where there is none. What
-/// `fill` wrote is there when it has returned; when it throws, the database is as it was. `is_stopped` as for
-/// `OpenContent`.
+/// `fill` wrote is there when it has returned; when it throws, the database is as it was, but for a
+/// `content::DoubtfulOutcome`. `is_stopped` as for `OpenContent`.
 void FillDatabase(const platform::EngineRegistry& engines, const std::string& url,
                   const std::function<void(content::Target& target)>& fill,
                   const std::function<bool()>& is_stopped = {});

@@ -67,6 +67,11 @@ std::ostream& GuardedStream::ForPrograms() {
   return target_;
 }
 
+bool IsOnTerminal(const std::ostream& out) {
+  const auto* const guarded = dynamic_cast<const GuardedStream*>(&out);
+  return guarded != nullptr && guarded->IsOnTerminal();
+}
+
 std::ostream& ForPrograms(std::ostream& out) {
   auto* const guarded = dynamic_cast<GuardedStream*>(&out);
   return guarded != nullptr ? guarded->ForPrograms() : out;

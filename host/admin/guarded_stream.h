@@ -38,12 +38,16 @@ class GuardedStream : public std::ostream {
   /// For what programs read back and must not find changed, a table of CSV or the text of a rule book: the
   /// target itself, unless it is a terminal.
   [[nodiscard]] std::ostream& ForPrograms();
+  [[nodiscard]] bool IsOnTerminal() const { return is_terminal_; }
 
  private:
   GuardingBuffer buffer_;
   std::ostream& target_;
   bool is_terminal_;
 };
+
+/// Whether `out` is one whose texts people read on a terminal, also where they are meant for programs.
+[[nodiscard]] bool IsOnTerminal(const std::ostream& out);
 
 /// What `GuardedStream::ForPrograms` says of `out`; any other stream as it is.
 [[nodiscard]] std::ostream& ForPrograms(std::ostream& out);

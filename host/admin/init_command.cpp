@@ -13,11 +13,12 @@ namespace {
 
 std::optional<Delivery> Create(const platform::EngineRegistry& engines, const InitCommand& command) {
   ProgressLine line(STDERR_FILENO);
-  return CreateFirstDatabase(
-      engines, command.url, SystemClock(), command.content, [&](std::size_t done, std::size_t total) {
-        Interruption::ThrowIfAsked();
-        line.Show("Creating calendars", static_cast<std::int64_t>(done), static_cast<std::int64_t>(total));
-      });
+  const auto observe = [&](std::size_t done, std::size_t total) {
+    Interruption::ThrowIfAsked();
+    line.Show("Creating calendars", static_cast<std::int64_t>(done), static_cast<std::int64_t>(total));
+  };
+  return CreateFirstDatabase(engines, command.url, SystemClock(), command.content, observe,
+                             Interruption::WasAsked);
 }
 
 void Tell(const Delivery& delivery, std::ostream& out) {

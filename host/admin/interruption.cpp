@@ -1,16 +1,20 @@
 #include "host/admin/interruption.h"
 
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <ostream>
+
+#include "ferrowind/adapters/content/doubtful_outcome.h"
 
 namespace ferrowind::host {
 namespace {
 
 constexpr int kSignals[] = {SIGHUP, SIGINT, SIGTERM};
 
-/// 0 while there was none.
-volatile std::sig_atomic_t received = 0;
+/// 0 while there was none. Other threads may ask for it, too.
+std::atomic<int> received = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
 
 void Remember(int signal) { received = signal; }
 
@@ -59,6 +63,9 @@ void RunInterruptibly(const std::function<void()>& work, std::ostream& errors) {
     const Interruption interruption;
     try {
       work();
+    } catch (const content::DoubtfulOutcome&) {
+      // Stopped or not, something may have been changed.
+      throw;
     } catch (const platform::Failure&) {
       // What was told to stop may fail in words of its own.
       Interruption::ThrowIfAsked();

@@ -26,7 +26,7 @@ class Interruption {
   Interruption& operator=(const Interruption&) = delete;
   ~Interruption();
 
-  /// Whether there was a signal.
+  /// Whether there was a signal. Any thread may ask.
   [[nodiscard]] static bool WasAsked();
   /// Throws `Interrupted` when there was a signal.
   static void ThrowIfAsked();
@@ -36,7 +36,8 @@ class Interruption {
 [[noreturn]] void EndBySignal(int signal);
 
 /// Runs `work` during an `Interruption`: it asks now and then whether it shall stop, and leaves nothing
-/// behind. When a signal has stopped it, `errors` gets to know, and the program ends by that signal.
+/// behind. When a signal has stopped it, `errors` gets to know, and the program ends by that signal. A
+/// `content::DoubtfulOutcome` is passed on, for then it is not known whether nothing was changed.
 void RunInterruptibly(const std::function<void()>& work, std::ostream& errors);
 
 }  // namespace ferrowind::host

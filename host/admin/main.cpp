@@ -5,6 +5,7 @@
 
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/adapters/sqlite/memory_limit.h"
 
 #include "host/admin/command_line.h"
 #include "host/admin/guarded_stream.h"
@@ -12,6 +13,7 @@
 
 int main(int argc, char** argv) {
   const ferrowind::host::PrivateArguments arguments(argc, argv);
+  ferrowind::sqlite::LimitMemoryOfProcess();
   ferrowind::platform::EngineRegistry engines;
   engines.Register(ferrowind::sqlite::Engine::kScheme, std::make_shared<ferrowind::sqlite::Engine>());
   for (const char* scheme :

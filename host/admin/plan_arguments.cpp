@@ -40,6 +40,12 @@ YearRange ReadYears(const std::string& text) {
   return {*first, *last};
 }
 
+YearRange ReadYearsOfList(const std::string& text) {
+  const auto hyphen = text.find('-');
+  if (hyphen == std::string::npos) return ReadYears(text);
+  return ReadYears(text.substr(0, hyphen) + std::string(kBetweenYears) + text.substr(hyphen + 1));
+}
+
 platform::Date ReadDay(const std::string& text) {
   const std::optional<platform::Date> day = platform::Date::FromIso(text);
   if (!day) throw ArgumentError("\"" + text + "\" is no date YYYY-MM-DD");

@@ -18,6 +18,9 @@ struct YearRange {
 /// so is a range that runs backwards.
 [[nodiscard]] YearRange ReadYears(const std::string& text);
 
+/// The same, where several years may be written "2028-2030", too.
+[[nodiscard]] YearRange ReadYearsOfList(const std::string& text);
+
 /// The day of "2028-04-14". Anything else is an `ArgumentError`.
 [[nodiscard]] platform::Date ReadDay(const std::string& text);
 

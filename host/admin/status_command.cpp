@@ -37,6 +37,16 @@ std::shared_ptr<RecordSet> AboutYears(const content::DatabaseStatus& status) {
   return std::make_shared<RecordSet>(std::vector<std::string>{"Year", "Calendars"}, std::move(rows));
 }
 
+std::shared_ptr<RecordSet> AboutConnections(const content::DatabaseStatus& status) {
+  Rows rows;
+  for (const content::ConnectionShare& share : status.connections) {
+    rows.push_back({share.whose, share.connections, share.limit ? Value(*share.limit) : Value(),
+                    share.without_limit.empty() ? Value() : Value(share.without_limit)});
+  }
+  return std::make_shared<RecordSet>(
+      std::vector<std::string>{"Logins", "Connections", "Limit", "WithoutLimit"}, std::move(rows));
+}
+
 CalendarWarnings WarningsOf(const platform::EngineRegistry& engines, const std::string& url) {
   try {
     return {engines, url};
@@ -53,6 +63,7 @@ ExitStatus StatusCommand::Run(const platform::EngineRegistry& engines, std::ostr
   const CalendarWarnings warnings = WarningsOf(engines, url);
   RecordSets tables = {AboutDatabase(status), AboutYears(status)};
   if (format != OutputFormat::kTable) tables.push_back(warnings.Rows());
+  if (!status.connections.empty()) tables.push_back(AboutConnections(status));
   WriteRows(tables, format, out);
   if (format != OutputFormat::kTable) return ExitStatus::kDone;
   const char* gap = "\n";

@@ -16,8 +16,9 @@ struct StatusCommand {
   OutputFormat format = OutputFormat::kTable;
 
   /// Three tables: one row about the database, a row for each year that has calendars, and the warnings about
-  /// calendars (calendar_warnings.h), which the format for people has as sentences. A database that cannot be
-  /// read is a `platform::Failure`.
+  /// calendars (calendar_warnings.h), which the format for people has as sentences at the end. On a server
+  /// one more tells who has how many of its connections. A database that cannot be read is a
+  /// `platform::Failure`.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
 };
 

@@ -14,8 +14,10 @@ struct UpgradeCommand {
   std::string url;
 
   /// Tells on `out` what was done, or that there was nothing to do. What cannot be done is a
-  /// `platform::Failure`, and the database is then as it was.
-  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out) const;
+  /// `platform::Failure`, and the database is then as it was. A signal before it is done ends the program as
+  /// `RunInterruptibly` does.
+  [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out,
+                               std::ostream& errors) const;
 };
 
 }  // namespace ferrowind::host

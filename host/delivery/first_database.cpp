@@ -18,14 +18,17 @@ namespace {
 using Fill =
     std::function<void(const platform::EngineRegistry& engines, const std::string& connection_string)>;
 
-void Create(const platform::EngineRegistry& engines, const std::string& connection_string, const Fill& fill) {
+void Create(const platform::EngineRegistry& engines, const std::string& connection_string, const Fill& fill,
+            const std::function<bool()>& is_stopped) {
   if (postgres::IsConnectionString(connection_string)) {
     return postgres::CreateDatabaseObjects(
-        connection_string, [&](const std::shared_ptr<platform::Engine>& unfinished) {
+        connection_string,
+        [&](const std::shared_ptr<platform::Engine>& unfinished) {
           platform::EngineRegistry engines_of_unfinished;
           engines_of_unfinished.Register(postgres::Engine::kScheme, unfinished);
           fill(engines_of_unfinished, std::string(postgres::Engine::kScheme) + ":");
-        });
+        },
+        is_stopped);
   }
   sqlite::CreateDatabase(sqlite::PathIn(connection_string), [&](const std::string& unfinished) {
     // As long as one connection is open, those of the calls need not write the log
@@ -41,17 +44,19 @@ void Create(const platform::EngineRegistry& engines, const std::string& connecti
 std::optional<Delivery> CreateFirstDatabase(const platform::EngineRegistry& engines,
                                             const std::string& connection_string,
                                             const platform::Clock& clock, const FirstContent& content,
-                                            const DeliveryObserver& observe) {
+                                            const DeliveryObserver& observe,
+                                            const std::function<bool()>& is_stopped) {
   // Says that there is no such engine, where an adapter can only say that it is not its own.
   (void)engines.EngineFor(connection_string);
   std::optional<Delivery> delivery;
   const int first_year = content.first_year.value_or(clock.Today().Year());
-  Create(engines, connection_string,
-         [&](const platform::EngineRegistry& engines_of_unfinished, const std::string& unfinished) {
-           if (content.is_empty) return;
-           RunWithDatabase(engines_of_unfinished, unfinished,
-                           [&] { delivery = Deliver(first_year, observe); });
-         });
+  Create(
+      engines, connection_string,
+      [&](const platform::EngineRegistry& engines_of_unfinished, const std::string& unfinished) {
+        if (content.is_empty) return;
+        RunWithDatabase(engines_of_unfinished, unfinished, [&] { delivery = Deliver(first_year, observe); });
+      },
+      is_stopped);
   return delivery;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -27,10 +28,12 @@ struct FirstContent {
 /// use on another thread; the calling thread's state of the component stays as it is. Fails with a
 /// `platform::Failure` that names the database: when something exists there, which then stays as it is, and
 /// when anything cannot be written; no database is there then. `clock` tells the running year. `observe` is
-/// called as the calendars are made, on another thread, while the calling one waits.
+/// called as the calendars are made, on another thread, while the calling one waits. Once `is_stopped`, which
+/// any thread may call, says so, a creation on a server fails, whatever it waits for.
 std::optional<Delivery> CreateFirstDatabase(const platform::EngineRegistry& engines,
                                             const std::string& connection_string,
                                             const platform::Clock& clock, const FirstContent& content = {},
-                                            const DeliveryObserver& observe = {});
+                                            const DeliveryObserver& observe = {},
+                                            const std::function<bool()>& is_stopped = {});
 
 }  // namespace ferrowind::host

@@ -1,9 +1,13 @@
 #include "host/delivery/first_years.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/history_store.h"
+#include "ferrowind/platform/values/json_value.h"
 
 #include "host/delivery/delivered_books.h"
 #include "host/delivery/delivered_tables.h"
@@ -22,6 +26,28 @@ const almanac::RuleBook* DeliveredAs(const almanac::RuleBook& book, const std::s
   return with_year == found->book ? &found->book : nullptr;
 }
 
+/// Whether the call could say since when the book holds. The history names every parameter, also one without
+/// a value.
+bool CouldSayFirstYear(const planning::HistoryEntry& entry) {
+  if (entry.procedure != "CldIUBook") return false;
+  const auto parameters = platform::ReadJson(entry.parameters);
+  return parameters && parameters->Find("FromYear") != nullptr;
+}
+
+/// Whether somebody has stored a book of the currency since books say when they hold: what it says is meant.
+bool WasStoredSince(std::int32_t currency) {
+  constexpr std::int32_t kPage = 1000;
+  std::optional<std::int32_t> before;
+  while (true) {
+    planning::HistoryFilter filter;
+    filter.currency = currency;
+    const auto page = planning::LoadHistory(filter, before, kPage);
+    if (std::any_of(page.entries.begin(), page.entries.end(), CouldSayFirstYear)) return true;
+    if (!page.has_older) return false;
+    before = page.entries.back().id;
+  }
+}
+
 }  // namespace
 
 FirstYears GiveFirstYears() {
@@ -36,6 +62,7 @@ FirstYears GiveFirstYears() {
       years.others.push_back(currency->code);
       continue;
     }
+    if (WasStoredSince(currency->id)) continue;
     planning::StoreBook(currency->id, currency->code, stored.fingerprint, *book);
     ++years.given;
   }

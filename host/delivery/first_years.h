@@ -17,8 +17,10 @@ struct FirstYears {
   std::vector<std::string> others;
 };
 
-/// Lets each book of the calling thread's database that is as delivered say since when it holds, too. Fails
-/// as ferrowind/planning/database_call.h says; books that were changed before stay so.
+/// Lets each book of the calling thread's database that is as delivered say since when it holds, too, unless
+/// somebody has stored it without a year since books can say one. So it can be done again, and does what is
+/// left where it was cut off. Fails as ferrowind/planning/database_call.h says; books that were changed
+/// before stay so.
 [[nodiscard]] FirstYears GiveFirstYears();
 
 }  // namespace ferrowind::host

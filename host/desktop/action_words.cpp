@@ -1,9 +1,12 @@
 #include "host/desktop/action_words.h"
 
 #include <algorithm>
-#include <utility>
+#include <cstddef>
+#include <cstdint>
 
 #include "ferrowind/adapters/services/password_free.h"
+
+#include "host/desktop/worded.h"
 
 namespace ferrowind::host {
 
@@ -13,12 +16,14 @@ using platform::OperatorAction;
 
 namespace {
 
-std::string Quoted(const std::string& rule) {
-  return rule.empty() ? "a rule without a name" : '"' + rule + '"';
+using platform::Phrase;
+
+Phrase Quoted(const std::string& rule) {
+  return rule.empty() ? Phrase::Of("a rule without a name") : Phrase('"' + rule + '"');
 }
 
-std::string Counted(std::size_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+Phrase CountedRules(std::size_t count) {
+  return Phrase::OfNumber(static_cast<std::int64_t>(count), "%n rule", "%n rules");
 }
 
 std::string Joined(const std::vector<std::string>& parts, const std::string& between) {
@@ -28,8 +33,8 @@ std::string Joined(const std::vector<std::string>& parts, const std::string& bet
 }
 
 /// One by its name, several by their number.
-std::string RulesText(const std::vector<std::string>& rules) {
-  return rules.size() == 1 ? Quoted(rules.front()) : Counted(rules.size(), "rule");
+Phrase RulesPhrase(const std::vector<std::string>& rules) {
+  return rules.size() == 1 ? Quoted(rules.front()) : CountedRules(rules.size());
 }
 
 /// `EUR 2028`, or as much of it as there is.
@@ -39,8 +44,13 @@ std::string CalendarText(const OperatorAction& action) {
   return text;
 }
 
-std::string With(const std::string& separator, const std::string& text) {
-  return text.empty() ? "" : separator + text;
+/// `about` with the calendar of the action behind its other arguments, or `alone` where it is of none.
+//: says 1 2
+Phrase OfCalendar(const char* alone, const char* about, const std::string& calendar,
+                  std::vector<Phrase> arguments = {}) {
+  if (calendar.empty()) return Phrase::Of(alone, std::move(arguments));
+  arguments.emplace_back(calendar);
+  return Phrase::Of(about, std::move(arguments));
 }
 
 /// Without line breaks, and blanks one at a time.
@@ -61,36 +71,35 @@ std::string OneLine(const std::string& text) {
 }
 
 /// What the procedures mean by their return values.
-std::string Meaning(ActionKind kind, std::int32_t return_value) {
+Phrase Meaning(ActionKind kind, std::int32_t return_value) {
   switch (return_value) {
     case 2:
-      return "There is a rule of that name already";
+      return Phrase::Of("There is a rule of that name already");
     case 10:
-      return "A removed rule has that name: it can be restored";
+      return Phrase::Of("A removed rule has that name: it can be restored");
     case 3:
-      return "The database does not know the currency";
+      return Phrase::Of("The database does not know the currency");
     case 4:
-      return "The database does not know the rule";
+      return Phrase::Of("The database does not know the rule");
     case 5:
-      return "The database does not know the calendar";
+      return Phrase::Of("The database does not know the calendar");
     case 6:
-      return "The calendar exists already";
+      return Phrase::Of("The calendar exists already");
     case 7:
       // The year is all that an operator gives for a calendar.
-      if (kind == ActionKind::kCreateCalendar) return "A calendar's year is 1900 to 3000.";
-      return "A value is missing or out of range";
+      return Phrase::Of(kind == ActionKind::kCreateCalendar ? "A calendar's year is 1900 to 3000."
+                                                            : "A value is missing or out of range");
     case 8:
-      return "It was changed meanwhile";
+      return Phrase::Of("It was changed meanwhile");
     case 9:
-      return "A later change is of the same, or the history does not reach there";
+      return Phrase::Of("A later change is of the same, or the history does not reach there");
     default:
-      return "The database refused it, with the number " + std::to_string(return_value);
+      return Phrase::Of("The database refused it, with the number %1", {std::to_string(return_value)});
   }
 }
 
-std::string DaysSet(std::int32_t days) {
-  if (days == 0) return "no day set";
-  return Counted(static_cast<std::size_t>(days), "day") + " set";
+Phrase DaysSet(std::int32_t days) {
+  return days == 0 ? Phrase::Of("no day set") : Phrase::OfNumber(days, "%n day set", "%n days set");
 }
 
 std::size_t CountDone(const ActionRecord& record) {
@@ -103,146 +112,151 @@ bool IsOfManyCalendars(const ActionRecord& record) {
   return (kind == ActionKind::kApplyPlan || kind == ActionKind::kUndo) && record.writes.size() > 1;
 }
 
-/// Past participle of what the kinds do to rules.
-const char* DoneVerb(ActionKind kind) {
-  switch (kind) {
-    case ActionKind::kAssignRules:
-      return "Assigned ";
-    case ActionKind::kRemoveRules:
-      return "Removed ";
-    case ActionKind::kRestoreRules:
-      return "Restored ";
-    case ActionKind::kAddRule:
-      return "Added the rule ";
-    default:
-      return "Changed the rule ";
-  }
-}
-
 /// `11 of 13 rules`, or all of them.
-std::string DoneRules(const ActionRecord& record) {
+Phrase DoneRules(const ActionRecord& record) {
   const auto& rules = record.action.rules;
   const std::size_t done = CountDone(record);
-  if (done >= rules.size()) return RulesText(rules);
-  return std::to_string(done) + " of " + Counted(rules.size(), "rule");
+  if (done >= rules.size()) return RulesPhrase(rules);
+  return Phrase::OfNumber(static_cast<std::int64_t>(rules.size()), "%1 of %n rule", "%1 of %n rules",
+                          {std::to_string(done)});
 }
 
-/// The refused writes, those of one reason together, in the order of the first of each.
-std::vector<std::pair<std::string, std::vector<std::string>>> RefusedByReason(const ActionRecord& record) {
-  std::vector<std::pair<std::string, std::vector<std::string>>> groups;
-  for (const ActionStep& write : record.writes) {
-    if (IsDone(write)) continue;
-    const std::string reason = ActionWords::Reason(record.action.kind, write);
-    auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& g) { return g.first == reason; });
-    if (group == groups.end()) group = groups.insert(groups.end(), {reason, {}});
-    group->second.push_back(write.rule);
+/// What the kinds do to rules, when they have done it.
+const char* RulesDone(ActionKind kind) {
+  //: said
+  switch (kind) {
+    case ActionKind::kRemoveRules:
+      return "Removed %1";
+    case ActionKind::kRestoreRules:
+      return "Restored %1";
+    case ActionKind::kAddRule:
+      return "Added the rule %1";
+    default:
+      return "Changed the rule %1";
   }
-  return groups;
 }
 
 /// What became of each of several rules, in numbers.
-std::string Balance(const ActionRecord& record) {
+std::vector<Phrase> Balance(const ActionRecord& record) {
   const std::size_t done = CountDone(record);
-  const std::size_t refused = record.writes.size() - done;
-  std::vector<std::string> parts;
+  const std::size_t tried = record.writes.size();
+  std::vector<Phrase> parts;
   if (record.action.kind != ActionKind::kAssignRules) {
-    parts.push_back(std::to_string(done) + " done");
+    parts.push_back(Phrase::Of("%1 done", {std::to_string(done)}));
   } else if (record.changed_days) {
     parts.push_back(DaysSet(*record.changed_days));
   } else {
-    parts.push_back(std::to_string(done) + " assigned");
+    parts.push_back(Phrase::Of("%1 assigned", {std::to_string(done)}));
   }
-  parts.push_back(std::to_string(refused) + " refused");
-  const std::size_t tried = record.writes.size();
+  parts.push_back(Phrase::Of("%1 refused", {std::to_string(tried - done)}));
   if (tried < record.action.rules.size()) {
-    parts.push_back(std::to_string(record.action.rules.size() - tried) + " not tried");
+    parts.push_back(Phrase::Of("%1 not tried", {std::to_string(record.action.rules.size() - tried)}));
   }
-  return Joined(parts, ", ");
+  return parts;
 }
 
 }  // namespace
 
-std::string ActionWords::Command(const OperatorAction& action) const {
+std::string ActionWords::Command(const OperatorAction& action) const { return Say(CommandPhrase(action)); }
+
+Phrase ActionWords::CommandPhrase(const OperatorAction& action) const {
+  const std::string calendar = CalendarText(action);
   switch (action.kind) {
     case ActionKind::kOpenCalendars:
-      return "Open calendars";
+      return Phrase::Of("Open calendars");
     case ActionKind::kRefresh:
-      return "Refresh";
+      return Phrase::Of("Refresh");
     case ActionKind::kShowDays:
-      return "Show" + With(" ", CalendarText(action));
+      return OfCalendar("Show", "Show %1", calendar);
     case ActionKind::kCreateCalendar:
-      return "New calendar" + With(" ", CalendarText(action));
+      return OfCalendar("New calendar", "New calendar %1", calendar);
     case ActionKind::kExceptDay:
-      return "Except" + (action.day ? " " + locale_.LongDateText(*action.day) : "") +
-             With(", ", action.currency);
+      return action.day ? OfCalendar("Except %1", "Except %1, %2", action.currency, {DayOf(action)})
+                        : OfCalendar("Except", "Except, %1", action.currency);
     case ActionKind::kOpenRules:
-      return "Assign holiday" + With(", ", CalendarText(action));
+      return OfCalendar("Assign holiday", "Assign holiday, %1", calendar);
     case ActionKind::kShowRules:
-      return "Show the rules";
+      return Phrase::Of("Show the rules");
     case ActionKind::kAssignRules:
-      return "Assign " + RulesText(action.rules) + With(" to ", CalendarText(action));
+      return OfCalendar("Assign %1", "Assign %1 to %2", calendar, {RulesPhrase(action.rules)});
     case ActionKind::kAddRule:
-      return "Add the rule " + RulesText(action.rules);
+      return Phrase::Of("Add the rule %1", {RulesPhrase(action.rules)});
     case ActionKind::kEditRule:
-      return "Edit the rule " + RulesText(action.rules);
+      return Phrase::Of("Edit the rule %1", {RulesPhrase(action.rules)});
     case ActionKind::kRemoveRules:
-      return "Remove " + RulesText(action.rules);
+      return Phrase::Of("Remove %1", {RulesPhrase(action.rules)});
     case ActionKind::kRestoreRules:
-      return "Restore " + RulesText(action.rules);
+      return Phrase::Of("Restore %1", {RulesPhrase(action.rules)});
     case ActionKind::kApplyPlan:
-      return "Apply the plan" + With(" of ", CalendarText(action));
+      return OfCalendar("Apply the plan", "Apply the plan of %1", calendar);
     case ActionKind::kUndo:
-      return "Undo a change" + With(" of ", CalendarText(action));
+      return OfCalendar("Undo a change", "Undo a change of %1", calendar);
     case ActionKind::kStoreBook:
-      return "Save the rule book of " + action.currency;
+      return Phrase::Of("Save the rule book of %1", {action.currency});
   }
-  return "";
+  return {};
 }
 
 std::string ActionWords::Success(const ActionRecord& record) const {
+  return CountDone(record) == 0 ? "" : Say(SuccessPhrase(record));
+}
+
+Phrase ActionWords::SuccessPhrase(const ActionRecord& record) const {
   const OperatorAction& action = record.action;
-  const std::size_t done = CountDone(record);
-  if (done == 0) return "";
+  const auto done = static_cast<std::int64_t>(CountDone(record));
+  const std::string calendar = CalendarText(action);
   if (IsOfManyCalendars(record)) {
-    return action.kind == ActionKind::kUndo ? "Undid the changes of " + Counted(done, "calendar")
-                                            : "Applied the plans of " + Counted(done, "calendar");
+    return action.kind == ActionKind::kUndo ? Phrase::OfNumber(done, "Undid the changes of %n calendar",
+                                                               "Undid the changes of %n calendars")
+                                            : Phrase::OfNumber(done, "Applied the plans of %n calendar",
+                                                               "Applied the plans of %n calendars");
   }
   switch (action.kind) {
     case ActionKind::kCreateCalendar:
-      return "Created the calendar" + With(" ", CalendarText(action));
+      return OfCalendar("Created the calendar", "Created the calendar %1", calendar);
     case ActionKind::kExceptDay:
-      return "Excepted" + (action.day ? " " + locale_.LongDateText(*action.day) : "") +
-             With(", ", action.currency);
+      return action.day ? OfCalendar("Excepted %1", "Excepted %1, %2", action.currency, {DayOf(action)})
+                        : OfCalendar("Excepted", "Excepted, %1", action.currency);
     case ActionKind::kApplyPlan:
-      return "Applied the plan" + With(" of ", CalendarText(action));
+      return OfCalendar("Applied the plan", "Applied the plan of %1", calendar);
     case ActionKind::kUndo:
-      return "Undid a change" + With(" of ", CalendarText(action));
+      return OfCalendar("Undid a change", "Undid a change of %1", calendar);
     case ActionKind::kStoreBook:
-      return "Saved the rule book of " + action.currency;
-    case ActionKind::kAssignRules:
-      return DoneVerb(action.kind) + DoneRules(record) + With(" to ", CalendarText(action)) +
-             (record.changed_days ? ": " + DaysSet(*record.changed_days) : "");
+      return Phrase::Of("Saved the rule book of %1", {action.currency});
+    case ActionKind::kAssignRules: {
+      const Phrase assigned = OfCalendar("Assigned %1", "Assigned %1 to %2", calendar, {DoneRules(record)});
+      return record.changed_days ? Phrase::Of("%1: %2", {assigned, DaysSet(*record.changed_days)}) : assigned;
+    }
     default:
-      return DoneVerb(action.kind) + DoneRules(record);
+      return Phrase::Of(RulesDone(action.kind), {DoneRules(record)});
   }
 }
 
 std::string ActionWords::Question(const OperatorAction& action) const {
-  std::vector<std::string> names;
-  for (const auto& rule : action.rules) names.push_back(Quoted(rule));
-  if (names.empty()) return "";
-  const std::string count = names.size() == 1 ? "" : " (" + std::to_string(names.size()) + ")";
-  return "To be " + std::string(action.kind == ActionKind::kRemoveRules ? "removed" : "changed") + count +
-         ": " + Joined(names, ", ");
+  if (action.rules.empty()) return "";
+  std::vector<std::string> quoted;
+  for (const auto& rule : action.rules) quoted.push_back(Say(Quoted(rule)));
+  const std::string names = Joined(quoted, ", ");
+  const bool removes = action.kind == ActionKind::kRemoveRules;
+  if (quoted.size() == 1) {
+    return Say(Phrase::Of(removes ? "To be removed: %1" : "To be changed: %1", {names}));
+  }
+  return Say(Phrase::Of(removes ? "To be removed (%1): %2" : "To be changed (%1): %2",
+                        {std::to_string(quoted.size()), names}));
 }
 
 std::string ActionWords::Refusal(const ActionRecord& record) const {
   const bool is_of_many = record.action.rules.size() > 1;
-  const bool is_counted = is_of_many || IsOfManyCalendars(record);
-  std::string text = Command(record.action) + ": " + (is_counted ? Balance(record) : "refused") + ".";
+  std::vector<std::string> outcome;
+  if (is_of_many || IsOfManyCalendars(record)) {
+    for (const Phrase& part : Balance(record)) outcome.push_back(Say(part));
+  } else {
+    outcome.push_back(Say(Phrase::Of("refused")));
+  }
+  std::string text = Command(record.action) + ": " + Joined(outcome, ", ") + ".";
   for (const auto& [reason, rules] : RefusedByReason(record)) {
     std::vector<std::string> names;
-    for (const auto& rule : rules) names.push_back(Quoted(rule));
+    for (const auto& rule : rules) names.push_back(Say(Quoted(rule)));
     // The reason first: the names may be more than there is room for.
     text += "\n" + reason + (is_of_many ? ": " + Joined(names, ", ") : "");
   }
@@ -251,12 +265,31 @@ std::string ActionWords::Refusal(const ActionRecord& record) const {
 
 std::string ActionWords::FailedRead(const OperatorAction& action,
                                     const std::vector<std::string>& reasons) const {
-  return Command(action) + ": the database did not do what was asked. What is shown may be out of date.\n" +
-         Joined(reasons, "\n");
+  return Say(Phrase::Of("%1: the database did not do what was asked. What is shown may be out of date.",
+                        {CommandPhrase(action)})) +
+         "\n" + Joined(reasons, "\n");
 }
 
-std::string ActionWords::Reason(ActionKind kind, const ActionStep& step) {
-  return step.failure ? OneLine(PasswordFree(step.failure->Description())) : Meaning(kind, step.return_value);
+std::string ActionWords::Reason(ActionKind kind, const ActionStep& step) const {
+  return step.failure ? OneLine(PasswordFree(step.failure->Description()))
+                      : Say(Meaning(kind, step.return_value));
 }
+
+std::vector<std::pair<std::string, std::vector<std::string>>> ActionWords::RefusedByReason(
+    const ActionRecord& record) const {
+  std::vector<std::pair<std::string, std::vector<std::string>>> groups;
+  for (const ActionStep& write : record.writes) {
+    if (IsDone(write)) continue;
+    const std::string reason = Reason(record.action.kind, write);
+    auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& g) { return g.first == reason; });
+    if (group == groups.end()) group = groups.insert(groups.end(), {reason, {}});
+    group->second.push_back(write.rule);
+  }
+  return groups;
+}
+
+Phrase ActionWords::DayOf(const OperatorAction& action) const { return locale_.LongDateText(*action.day); }
+
+std::string ActionWords::Say(const Phrase& phrase) const { return Worded(words_, phrase); }
 
 }  // namespace ferrowind::host

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ferrowind/platform/services/locale.h"
+#include "ferrowind/platform/services/words.h"
+#include "ferrowind/platform/values/phrase.h"
 
 #include "host/desktop/action_record.h"
 
@@ -12,8 +15,9 @@ namespace ferrowind::host {
 /// The operator's words for actions and what becomes of them; UTF-8, without passwords.
 class ActionWords {
  public:
-  /// `locale` names months, and must outlive this object.
-  explicit ActionWords(const platform::Locale& locale) : locale_(locale) {}
+  /// `locale` names months, `words` translate, null for English. Both must outlive this object.
+  explicit ActionWords(const platform::Locale& locale, const platform::Words* words = nullptr)
+      : locale_(locale), words_(words) {}
 
   /// The action as a command: `Assign 13 rules to EUR 2028`.
   [[nodiscard]] std::string Command(const platform::OperatorAction& action) const;
@@ -30,10 +34,21 @@ class ActionWords {
                                        const std::vector<std::string>& reasons) const;
 
   /// Why the step of an action of that kind was not done, in one line.
-  [[nodiscard]] static std::string Reason(platform::ActionKind kind, const platform::ActionStep& step);
+  [[nodiscard]] std::string Reason(platform::ActionKind kind, const platform::ActionStep& step) const;
 
  private:
+  using Phrase = platform::Phrase;
+
+  [[nodiscard]] std::string Say(const Phrase& phrase) const;
+  [[nodiscard]] Phrase CommandPhrase(const platform::OperatorAction& action) const;
+  [[nodiscard]] Phrase SuccessPhrase(const ActionRecord& record) const;
+  [[nodiscard]] Phrase DayOf(const platform::OperatorAction& action) const;
+  /// The refused writes' rules by the reason, in the order of the first of each.
+  [[nodiscard]] std::vector<std::pair<std::string, std::vector<std::string>>> RefusedByReason(
+      const ActionRecord& record) const;
+
   const platform::Locale& locale_;
+  const platform::Words* words_;
 };
 
 }  // namespace ferrowind::host

@@ -8,6 +8,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "ferrowind/adapters/qt/values/translated.h"
 #include "ferrowind/control/calendar.h"
 #include "ferrowind/platform/values/conversion.h"
 
@@ -35,7 +36,7 @@ QLabel* MakeDatabaseName(const QString& database) {
 QLineEdit* MakeAddress(const QString& url) {
   auto* const address = new QLineEdit(url);
   address->setObjectName(QStringLiteral("databaseAddress"));
-  address->setAccessibleName(QObject::tr("Address of the database"));
+  address->setAccessibleName(qt::Translated("Address of the database"));
   address->setReadOnly(true);
   address->setFrame(false);
   address->setToolTip(url);
@@ -55,9 +56,9 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
                                    const QString& url)
     : control_(new qt::CalendarWidget(platform)), trouble_(new TroubleBar), start_page_(new QWidget) {
   setObjectName(QStringLiteral("backOffice"));
-  setWindowTitle(tr("Back office"));
+  setWindowTitle(qt::Translated("Back office"));
 
-  auto* const title = new QLabel(tr("Business-day calendars"));
+  auto* const title = new QLabel(qt::Translated("Business-day calendars"));
   QFont title_font = title->font();
   title_font.setPointSizeF(title_font.pointSizeF() * 1.4);
   title_font.setBold(true);
@@ -71,10 +72,10 @@ BackOfficeWindow::BackOfficeWindow(const platform::Platform& platform, const QSt
   heading->addStretch();
   heading->addWidget(version);
 
-  auto* const open = new QPushButton(tr("&Open calendars"));
+  auto* const open = new QPushButton(qt::Translated("&Open calendars"));
   open->setObjectName(QStringLiteral("openCalendars"));
   connect(open, &QPushButton::clicked, this, &BackOfficeWindow::OpenCalendars);
-  auto* const close = new QPushButton(tr("&Close calendars"));
+  auto* const close = new QPushButton(qt::Translated("&Close calendars"));
   close->setObjectName(QStringLiteral("closeCalendars"));
   connect(close, &QPushButton::clicked, this, &BackOfficeWindow::CloseCalendars);
 
@@ -133,7 +134,7 @@ void BackOfficeWindow::ShowTrouble() {
 
 void BackOfficeWindow::CloseCalendars() {
   if (!control_->Control().ForceClosing())
-    statusBar()->showMessage(tr("The Calendars window is busy."), 5000);
+    statusBar()->showMessage(qt::Translated("The Calendars window is busy."), 5000);
 }
 
 void BackOfficeWindow::changeEvent(QEvent* event) {

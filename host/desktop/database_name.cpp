@@ -5,30 +5,34 @@
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 
+#include "host/desktop/worded.h"
 #include "host/session/shown_connection.h"
 
 namespace ferrowind::host {
 namespace {
+
+using platform::Phrase;
 
 std::string OfFile(const std::string& path) {
   const std::string name = path.substr(path.find_last_of('/') + 1);
   return name.empty() ? path : name;
 }
 
-std::string OfServer(const postgres::ServerDatabase& database) {
-  return OnOneLine((database.name.empty() ? "The default database" : database.name) + " on " +
-                   (database.server.empty() ? "this computer" : database.server));
+Phrase OfServer(const postgres::ServerDatabase& database) {
+  const Phrase name = database.name.empty() ? Phrase::Of("The default database") : Phrase(database.name);
+  const Phrase server = database.server.empty() ? Phrase::Of("this computer") : Phrase(database.server);
+  return Phrase::Of("%1 on %2", {name, server});
 }
 
 }  // namespace
 
-std::string DatabaseName(const std::string& connection_string) {
+std::string DatabaseName(const std::string& connection_string, const platform::Words* words) {
   const std::string file = std::string(sqlite::Engine::kScheme) + ":";
   if (connection_string.starts_with(file) && connection_string.size() > file.size()) {
     return OfFile(connection_string.substr(file.size()));
   }
   const auto database = postgres::ServerDatabaseOf(connection_string);
-  return database ? OfServer(*database) : ShownConnection(connection_string);
+  return database ? OnOneLine(Worded(words, OfServer(*database))) : ShownConnection(connection_string);
 }
 
 }  // namespace ferrowind::host

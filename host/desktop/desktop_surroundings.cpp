@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "ferrowind/adapters/icalendar/icalendar_list.h"
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/qt/services/qt_clock.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
@@ -19,14 +20,20 @@
 #include "host/desktop/telling_services.h"
 
 namespace ferrowind::host {
+namespace {
+
+/// Where the component's own files are, in a build as in an installation.
+std::string DataFolder() {
+  return QCoreApplication::applicationDirPath().toStdString() + "/" FERROWIND_DATA_FROM_PROGRAMS;
+}
+
+}  // namespace
 
 struct DesktopSurroundings::Parts {
   Parts(OperatorNews& news, std::shared_ptr<sqlite::WaitBudget> patience)
       : patience_of_action(std::move(patience)),
         action_began(news.OnAction([this] { patience_of_action->Renew(); })),
-        platform{objects, commands, toolkit,
-                 locale,  clock,    QCoreApplication::applicationDirPath().toStdString(),
-                 &news} {
+        platform{objects, commands, toolkit, locale, clock, DataFolder(), &news} {
     RegisterIn(engines, std::make_shared<sqlite::Engine>());
     RegisterIn(engines_of_component, std::make_shared<sqlite::Engine>(patience_of_action));
     objects.Register(platform::kDictionaryIdentifier,
@@ -60,7 +67,8 @@ struct DesktopSurroundings::Parts {
   qt::QtClock clock;
   qt::QtWords words;
   platform::Platform platform;
-  PlanningWindows windows{platform, DeliveredDateTables()};
+  icalendar::ICalendar calendar_files;
+  PlanningWindows windows{platform, DeliveredDateTables(), &calendar_files};
   PlanningAdditions additions{{platform, DeliveredDateTables(), windows}};
 };
 

@@ -6,8 +6,13 @@
 
 #include "ferrowind/adapters/qt/look/program_icon.h"
 #include "ferrowind/adapters/qt/look/theme.h"
+#include "ferrowind/adapters/qt/services/languages.h"
 #include "ferrowind/adapters/qt/services/qt_locale.h"
+#include "ferrowind/adapters/qt/services/qt_words.h"
+#include "ferrowind/adapters/qt/values/translated.h"
+#include "ferrowind/adapters/sqlite/memory_limit.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/version.h"
 
 #include "host/delivery/database_version.h"
 #include "host/desktop/back_office_window.h"
@@ -44,9 +49,9 @@ std::string TimeText() {
   return QLocale().toString(QTime::currentTime(), QStringLiteral("HH:mm:ss")).toStdString();
 }
 
-QString DatabaseNameText(const DesktopOptions& options) {
-  if (options.database.empty()) return QStringLiteral("Calendars of this user");
-  return QString::fromStdString(ferrowind::host::DatabaseName(options.database));
+QString DatabaseNameText(const DesktopOptions& options, const ferrowind::platform::Words& words) {
+  if (options.database.empty()) return ferrowind::qt::Translated("Calendars of this user");
+  return QString::fromStdString(ferrowind::host::DatabaseName(options.database, &words));
 }
 
 }  // namespace
@@ -58,12 +63,18 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationVersion(QStringLiteral(FERROWIND_VERSION));
   ferrowind::host::ShowTextAskedFor(arguments.BehindName());
   QApplication application(arguments.Count(), arguments.Values());
+  ferrowind::qt::UseLanguages(application, QLocale());
+  // Qt goes by a translation of its own, which the program may be without.
+  QApplication::setLayoutDirection(QLocale().textDirection());
+  ferrowind::sqlite::LimitMemoryOfProcess();
   const DesktopOptions options = ferrowind::host::ReadOptions(QApplication::arguments());
   ferrowind::qt::ApplyTheme(application, options.theme);
+  QApplication::setDesktopFileName(QStringLiteral("com.tessaro.ferrowind"));
   QApplication::setWindowIcon(ferrowind::qt::ProgramIcon());
 
   const ferrowind::qt::QtLocale locale;
-  OperatorNews news(locale, TimeText);
+  const ferrowind::qt::QtWords words;
+  OperatorNews news(locale, TimeText, &words);
   const ferrowind::host::WaitCursor wait_cursor(news);
   DesktopSurroundings surroundings(news);
   if (!options.trace_file.isEmpty()) TellWhenFailing([&] { surroundings.TraceTo(options.trace_file); });
@@ -80,7 +91,7 @@ int main(int argc, char** argv) {
   }
   surroundings.UseDatabase(database);
 
-  BackOfficeWindow window(surroundings.Get(), DatabaseNameText(options),
+  BackOfficeWindow window(surroundings.Get(), DatabaseNameText(options, words),
                           QString::fromStdString(ferrowind::host::ShownConnection(database)));
   const ferrowind::host::NewsWindows news_windows(news, window);
   const ferrowind::host::StartPage start_page(surroundings, news, window);

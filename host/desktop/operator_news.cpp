@@ -29,8 +29,9 @@ bool Holds(const std::vector<std::string>& texts, const std::string& text) {
 
 }  // namespace
 
-OperatorNews::OperatorNews(const platform::Locale& locale, std::function<std::string()> time_text)
-    : words_(locale), time_text_(std::move(time_text)) {}
+OperatorNews::OperatorNews(const platform::Locale& locale, std::function<std::string()> time_text,
+                           const platform::Words* words)
+    : words_(locale, words), time_text_(std::move(time_text)) {}
 
 // While an action runs
 // ------------------------------------------------------------------------------------------------
@@ -123,14 +124,14 @@ void OperatorNews::TellRefused(const std::string& text) {
 void OperatorNews::ConcludeReads(const ActionRecord& record, bool is_over) {
   std::vector<std::string> told;
   for (const ActionStep& write : record.writes) {
-    if (!IsDone(write)) told.push_back(ActionWords::Reason(record.action.kind, write));
+    if (!IsDone(write)) told.push_back(words_.Reason(record.action.kind, write));
   }
   bool has_failed = false;
   std::vector<std::string> reasons;
   for (const ActionStep& read : record.reads) {
     if (IsDone(read)) continue;
     has_failed = true;
-    const std::string reason = ActionWords::Reason(record.action.kind, read);
+    const std::string reason = words_.Reason(record.action.kind, read);
     if (IsShown(record, read) || Holds(told, reason) || Holds(reasons, reason)) continue;
     reasons.push_back(reason);
   }

@@ -24,8 +24,10 @@ class OperatorNews : public platform::ActionObserver {
  public:
   using TextHandler = std::function<void(const std::string& text)>;
 
-  /// `locale` must outlive this object; `time_text` gives the time of day as people read it.
-  OperatorNews(const platform::Locale& locale, std::function<std::string()> time_text);
+  /// `locale` and `words`, null for English, must outlive this object; `time_text` gives the time of day as
+  /// people read it.
+  OperatorNews(const platform::Locale& locale, std::function<std::string()> time_text,
+               const platform::Words* words = nullptr);
 
   void ActionBegan(const platform::OperatorAction& action) override;
   void WriteEnded(const platform::ActionStep& step) override;

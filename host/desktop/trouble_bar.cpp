@@ -8,6 +8,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "ferrowind/adapters/qt/values/translated.h"
+
 namespace ferrowind::host {
 namespace {
 
@@ -34,8 +36,8 @@ TroubleBar::TroubleBar(QWidget* parent)
   dismiss->setAutoRaise(true);
   dismiss->setFocusPolicy(Qt::TabFocus);
   const QKeySequence keys(Qt::SHIFT | Qt::Key_Escape);
-  dismiss->setToolTip(tr("Hide (%1)").arg(keys.toString(QKeySequence::NativeText)));
-  dismiss->setAccessibleName(tr("Hide"));
+  dismiss->setToolTip(qt::Translated("Hide (%1)").arg(keys.toString(QKeySequence::NativeText)));
+  dismiss->setAccessibleName(qt::Translated("Hide"));
   connect(dismiss, &QToolButton::clicked, this, &TroubleBar::Dismissed);
   // Not the button's own, which would press it for show and act only after that.
   connect(new QShortcut(keys, this), &QShortcut::activated, this, &TroubleBar::Dismissed);

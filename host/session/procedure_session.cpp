@@ -35,6 +35,7 @@ ProcedureOutcome CallProcedure(const std::string& procedure, const SourceValues&
     const FailureRecord& pending = Module().pending_failures.front();
     outcome.failure.emplace(pending.number, pending.description);
   }
+  outcome.too_long_text = Module().too_long_text;
   for (std::int32_t i = 1; results && i <= results->Count(); ++i) {
     outcome.record_sets.push_back(*results->Values(i)->Value.If<platform::Value::Object>());
   }

@@ -10,6 +10,7 @@
 #include "ferrowind/data/source_values.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/phrase.h"
 #include "ferrowind/platform/values/record_set.h"
 
 namespace ferrowind::host {
@@ -22,6 +23,8 @@ struct ProcedureOutcome {
   std::vector<std::shared_ptr<platform::RecordSet>> record_sets;
   /// What the gateway keeps as its pending failure.
   std::optional<platform::Failure> failure;
+  /// Which text the procedure refused for its length.
+  std::optional<platform::Phrase> too_long_text = {};
 };
 
 /// Runs `work` on a thread of its own, on which procedure calls go to the database of `connection_string`,

@@ -48,6 +48,10 @@ class NoToolkit : public platform::Toolkit {
                                                             const std::vector<platform::FileKind>&) override {
     RefuseWindow();
   }
+  [[nodiscard]] std::optional<std::string> ChooseFileToOpen(const std::string&, const std::string&,
+                                                            const std::vector<std::string>&) override {
+    RefuseWindow();
+  }
   void SetClipboardText(const std::string&) override {}
   void ProcessPendingEvents() override {}
   void Beep() override {}

@@ -62,7 +62,13 @@ WITH ours AS (
       WHERE w.ev_class = r.oid AND w.rulename = '_RETURN')
       WHEN r.relkind IN ('i', 'I') THEN pg_get_indexdef(r.oid) END),
     ('state', CASE WHEN NOT i.indisvalid OR NOT i.indisready OR NOT i.indislive THEN 'not valid' END),
-    ('moment of its check', CASE WHEN NOT i.indimmediate THEN 'end of the transaction' END)
+    ('moment of its check', CASE WHEN NOT i.indimmediate THEN 'end of the transaction' END),
+    -- What the server is told not to look for, although it is there.
+    ('triggers', CASE WHEN NOT r.relhastriggers AND EXISTS (SELECT FROM pg_trigger t WHERE t.tgrelid = r.oid) THEN 'overlooked' END),
+    ('rules', CASE WHEN NOT r.relhasrules AND EXISTS (SELECT FROM pg_rewrite w WHERE w.ev_class = r.oid) THEN 'overlooked' END),
+    ('indexes', CASE WHEN NOT r.relhasindex AND EXISTS (SELECT FROM pg_index x WHERE x.indrelid = r.oid) THEN 'overlooked' END),
+    ('checks', CASE WHEN r.relchecks <> (SELECT count(*) FROM pg_constraint c WHERE c.conrelid = r.oid AND c.contype = 'c')
+      THEN 'overlooked' END)
   ) AS said (property, value)
   UNION ALL
   SELECT r.object, said.property, said.value
@@ -85,6 +91,7 @@ WITH ours AS (
     ('type', format_type(a.atttypid, a.atttypmod)),
     ('emptiness', CASE WHEN a.attnotnull THEN 'forbidden' END),
     ('collation', c.collname::text),
+    ('state of its default', CASE WHEN NOT a.atthasdef AND d.oid IS NOT NULL THEN 'overlooked' END),
     ('default', CASE WHEN a.attgenerated = '' THEN pg_get_expr(d.adbin, d.adrelid) END),
     ('formula', CASE WHEN a.attgenerated <> '' THEN pg_get_expr(d.adbin, d.adrelid) END),
     ('numbering', CASE a.attidentity WHEN 'd' THEN 'by default' WHEN 'a' THEN 'always' END),

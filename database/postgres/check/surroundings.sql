@@ -63,14 +63,45 @@ WITH ours AS (
     AND d.classid NOT IN ('pg_amop'::regclass, 'pg_amproc'::regclass)
     -- Triggers that the server makes for a constraint are told by the constraint.
     AND NOT (d.classid = 'pg_trigger'::regclass AND (SELECT tgisinternal FROM pg_trigger WHERE oid = d.objid))
-), setting AS (
-  SELECT s.setdatabase, r.rolname, pg_catalog.split_part(line, '=', 1) AS name,
-    substr(line, strpos(line, '=') + 1) AS value
-  FROM pg_db_role_setting s CROSS JOIN unnest(s.setconfig) AS line LEFT JOIN pg_roles r ON r.oid = s.setrole
-  WHERE s.setdatabase IN (0, (SELECT oid FROM this))
-    AND (s.setrole = 0 OR EXISTS (SELECT FROM delivered d WHERE pg_has_role(s.setrole, d.oid, 'MEMBER')
-                                  AND NOT r.rolsuper OR d.oid = s.setrole)
-         OR s.setdatabase <> 0)
+), set_up AS (
+  -- A row has the number of the transaction that wrote it last, and PL/pgSQL is the last thing that comes with a server: what was
+  -- changed since has a higher one.
+  SELECT min(written) AS last FROM (
+    SELECT xmin::text::bigint AS written FROM pg_extension WHERE extname = 'plpgsql' AND oid < 16384
+    UNION ALL
+    SELECT xmin::text::bigint FROM pg_language WHERE lanname = 'plpgsql' AND oid < 16384
+    UNION ALL
+    SELECT p.xmin::text::bigint FROM pg_proc p JOIN pg_language l ON l.oid = p.prolang
+    WHERE p.oid < 16384 AND l.lanname = 'c' AND p.probin = '$libdir/plpgsql') AS plpgsql
+), server_function (identity, form) AS (
+  -- Those that procedures use, as they come with the server.
+  SELECT pg_catalog.split_part(line, E'\t', 1), pg_catalog.split_part(line, E'\t', 2)
+  FROM pg_catalog.string_to_table($1, E'\n') AS line
+), changed (type, identity) AS (
+  SELECT 'function', p.oid::regprocedure::text
+  FROM set_up, pg_proc p JOIN pg_language l ON l.oid = p.prolang LEFT JOIN server_function f ON f.identity = p.oid::regprocedure::text
+  WHERE p.oid < 16384 AND p.xmin::text::bigint > set_up.last
+    AND CASE WHEN f.form IS NOT NULL THEN f.form IS DISTINCT FROM concat_ws(' ', l.lanname, p.prosrc, p.provolatile, p.proisstrict,
+                                            p.prosecdef, p.proconfig)
+      -- A right that is given or taken changes the row as well.
+      ELSE p.proacl IS NULL OR l.lanname NOT IN ('internal', 'sql', 'c') OR p.prosecdef OR p.proconfig IS NOT NULL END
+  UNION ALL
+  SELECT 'operator', o.oid::regoperator::text FROM set_up, pg_operator o WHERE o.oid < 16384 AND o.xmin::text::bigint > set_up.last
+  UNION ALL
+  SELECT 'cast', format('from %s to %s', format_type(c.castsource, NULL), format_type(c.casttarget, NULL))
+  FROM set_up, pg_cast c WHERE c.oid < 16384 AND c.xmin::text::bigint > set_up.last
+  UNION ALL
+  SELECT 'aggregate', a.aggfnoid::text FROM set_up, pg_aggregate a WHERE a.aggfnoid < 16384 AND a.xmin::text::bigint > set_up.last
+  UNION ALL
+  SELECT DISTINCT 'order', f.opfname::text
+  FROM set_up, pg_opfamily f JOIN (SELECT amopfamily AS family, xmin FROM pg_amop UNION ALL SELECT amprocfamily, xmin FROM pg_amproc)
+    AS part ON part.family = f.oid
+  WHERE f.oid < 16384 AND part.xmin::text::bigint > set_up.last
+  UNION ALL
+  -- Two views are made anew after updates of the server that mend what they show.
+  SELECT 'view', w.ev_class::regclass::text FROM set_up, pg_rewrite w
+  WHERE w.oid < 16384 AND w.xmin::text::bigint > set_up.last
+    AND w.ev_class::regclass::text NOT IN ('pg_stats_ext', 'pg_stats_ext_exprs')
 )
 SELECT format('The %s %s does not belong to a calendar database; drop it', o.type, o.identity)
 FROM added a CROSS JOIN LATERAL pg_identify_object(a.classid, a.objid, 0) AS o
@@ -125,9 +156,12 @@ FROM pg_proc p
 WHERE p.pronamespace = 'pg_catalog'::regnamespace AND p.proname IN ('lo_creat', 'lo_create', 'lo_from_bytea')
   AND EXISTS (SELECT FROM aclexplode(coalesce(p.proacl, acldefault('f', p.proowner))) AS g WHERE g.grantee = 0)
 UNION ALL
-SELECT format('The server''s own function %s was replaced; restore the database into a new server', p.oid::regprocedure)
+SELECT format('The server''s own %s %s was replaced; restore the database into a new server', type, identity) FROM changed
+UNION ALL
+SELECT format('The function %s runs without the limits of rights, in the language %s; drop it', p.oid::regprocedure, l.lanname)
 FROM pg_proc p JOIN pg_language l ON l.oid = p.prolang
-WHERE p.oid < 10000 AND l.lanname NOT IN ('internal', 'sql', 'c')
+WHERE p.oid >= 16384 AND NOT l.lanpltrusted AND p.pronamespace NOT IN (SELECT oid FROM system_schema)
+  AND NOT EXISTS (SELECT FROM pg_depend d WHERE d.classid = 'pg_proc'::regclass AND d.objid = p.oid AND d.deptype = 'e')
 
 UNION ALL
 SELECT format('%s has the right %s on the database; take it: REVOKE %2$s ON DATABASE %3$I FROM %1$s',
@@ -155,6 +189,9 @@ SELECT format('The database is a template, which everybody who may create databa
               ' ALTER DATABASE %I IS_TEMPLATE false', datname)
 FROM this WHERE datistemplate
 UNION ALL
+SELECT format('Nobody but superusers gets into the database; let others in: ALTER DATABASE %I CONNECTION LIMIT -1', datname)
+FROM this WHERE datconnlimit = 0
+UNION ALL
 SELECT format('The database stores texts as %s instead of UTF8; make a new one and copy into it', pg_encoding_to_char(encoding))
 FROM this WHERE pg_encoding_to_char(encoding) <> 'UTF8'
 
@@ -170,31 +207,10 @@ SELECT format('The publication %I sends rows of the tables elsewhere; drop it', 
 UNION ALL
 SELECT format('The subscription %I writes rows that come from elsewhere; drop it', subname)
 FROM pg_subscription WHERE subdbid = (SELECT oid FROM this)
-
-UNION ALL
-SELECT format('%s %s is set to "%s"%s; take it back: ALTER %s RESET %I', who.text, s.name, s.value,
-              CASE WHEN s.setdatabase = 0 OR s.rolname IS NULL THEN '' ELSE ' in this database' END, who.owner, s.name)
-FROM setting s CROSS JOIN this t CROSS JOIN LATERAL (SELECT
-  CASE WHEN s.rolname IS NULL AND s.setdatabase = 0 THEN 'For everybody' WHEN s.rolname IS NULL THEN 'In this database'
-    ELSE format('For %I', s.rolname) END AS text,
-  CASE WHEN s.rolname IS NULL AND s.setdatabase = 0 THEN 'ROLE ALL' WHEN s.rolname IS NULL THEN format('DATABASE %I', t.datname)
-    WHEN s.setdatabase = 0 THEN format('ROLE %I', s.rolname)
-    ELSE format('ROLE %I IN DATABASE %I', s.rolname, t.datname) END AS owner
-) AS who
--- How long something may last, what is logged and how much memory it takes change no result.
-WHERE s.name !~ '^(log_|tcp_|auto_explain\.|(statement|lock|deadlock|idle_session|idle_in_transaction_session|transaction)_timeout$)'
-  AND s.name NOT IN ('work_mem', 'maintenance_work_mem', 'temp_file_limit', 'client_connection_check_interval')
 UNION ALL
 SELECT format('%s may set %s of the server; take it: REVOKE %s ON PARAMETER %2$s FROM %1$s',
               CASE g.grantee WHEN 0 THEN 'PUBLIC' ELSE quote_ident(pg_get_userbyid(g.grantee)) END, a.parname, g.privilege_type)
 FROM pg_parameter_acl a CROSS JOIN aclexplode(a.paracl) AS g
 WHERE g.grantee = 0 OR EXISTS (SELECT FROM delivered d JOIN pg_roles r ON r.oid = g.grantee AND NOT r.rolsuper
                                WHERE pg_has_role(g.grantee, d.oid, 'MEMBER'))
-UNION ALL
-SELECT format('The server has %s set to "%s" instead of "%s", in %s; correct it', name, coalesce(reset_val, setting),
-              wanted.value, coalesce(sourcefile, 'its start or the login''s settings'))
-FROM pg_settings JOIN (VALUES ('session_replication_role', 'origin'), ('transform_null_equals', 'off'),
-  ('allow_system_table_mods', 'off'), ('zero_damaged_pages', 'off'), ('ignore_checksum_failure', 'off'),
-  ('ignore_system_indexes', 'off'), ('event_triggers', 'on')) AS wanted (parameter, value) ON wanted.parameter = name
-WHERE coalesce(reset_val, setting) <> wanted.value
 ORDER BY 1

@@ -11,7 +11,9 @@ BEGIN
       '{"Name1": "text", "TID1": "type", "Expression": "text", "Comment": "text?", "MovedName": "text?"}')
     OR json_array_length(list) > most_rules
     OR EXISTS (SELECT FROM json_array_elements(list) AS rule
-               WHERE btrim(rule ->> 'Name1', ' ') = '' OR btrim(rule ->> 'Expression', ' ') = '')
+               WHERE btrim(rule ->> 'Name1', ' ') = '' OR btrim(rule ->> 'Expression', ' ') = ''
+                 OR length(rule ->> 'Name1') > 200 OR length(rule ->> 'MovedName') > 200
+                 OR length(rule ->> 'Expression') > 4000 OR length(rule ->> 'Comment') > 4000)
   THEN
     RETURN NULL;
   END IF;

@@ -1,5 +1,14 @@
+-- A value as it goes into a hash, so that no two lists of values give the same text: its length in bytes, a colon and itself,
+-- or a dash for null. The server puts it in place of its calls, which it can as long as nothing in it is less than immutable.
+CREATE OR REPLACE FUNCTION HashField(value text) RETURNS text
+LANGUAGE sql IMMUTABLE
+AS $$
+  SELECT coalesce(octet_length(value)::text || ':' || value, '-')
+$$;
+
 -- The entry of the call that is at work. A call that changes something begins it when it has its locks, so that entries which
--- changed the same rows are numbered in the order of their changes, and ends it behind its last change.
+-- changed the same rows are numbered in the order of their changes, and ends it behind its last change. Calls that the locks
+-- let run at the same time are of different chains; the unique index refuses one that saw an older end of its chain.
 
 CREATE OR REPLACE FUNCTION BeginEntry(procedure_name text, of_currency integer, of_year integer, parameters json)
 RETURNS bigint
@@ -8,21 +17,39 @@ AS $$
 DECLARE
   entry bigint;
 BEGIN
-  INSERT INTO CldHistory (ProcedureName, ID1, Year1, Parameters, ReturnValue, RowsChanged)
-  VALUES (procedure_name, of_currency, of_year, parameters, 0, 0)
+  INSERT INTO CldHistory (ProcedureName, ID1, Year1, Parameters, ReturnValue, RowsChanged, ChainPosition, Previous, Hash)
+  SELECT procedure_name, of_currency, of_year, parameters, 0, 0, coalesce(last.ChainPosition, 0) + 1, coalesce(last.Hash, ''), ''
+  FROM (SELECT) AS this LEFT JOIN (
+    SELECT ChainPosition, Hash FROM CldHistory
+    WHERE coalesce(ID1, 0) = coalesce(of_currency, 0) AND coalesce(Year1, 0) = coalesce(of_year, 0)
+    ORDER BY ChainPosition DESC LIMIT 1) AS last ON true
   RETURNING EntryID INTO entry;
   PERFORM set_config('ferrowind.entry', entry::text, true);
   RETURN entry;
 END
 $$;
 
+-- The hash is over the columns of the entry in front of Hash, in their order, and those of its rows in theirs. The engine of a
+-- file computes the same of the same content. It stands in the statement that writes it, since one that is prepared once is
+-- several times as fast as a function that the server plans anew in each call.
 -- Whoever listens is told once the call is done, and not what it did: anyone who may connect may listen, and may raise the
 -- same notification. Who changed what is asked of CldGetHistory, which is for operators alone.
 CREATE OR REPLACE FUNCTION EndEntry(entry bigint, rows_changed bigint) RETURNS void
 LANGUAGE plpgsql
 AS $$
 BEGIN
-  UPDATE CldHistory SET RowsChanged = rows_changed WHERE EntryID = entry;
+  UPDATE CldHistory ended SET RowsChanged = rows_changed, Hash = encode(sha256(convert_to(
+    HashField(EntryID::text) || HashField(to_char(Moment AT TIME ZONE 'UTC', 'YYYY-MM-DD"T"HH24:MI:SS.MS"Z"'))
+    || HashField(UserName) || HashField(ProcedureName) || HashField(ID1::text) || HashField(Year1::text)
+    || HashField(Parameters::text) || HashField(ReturnValue::text) || HashField(rows_changed::text)
+    || HashField(ChainPosition::text) || HashField(Previous)
+    || coalesce((
+      SELECT string_agg(
+        HashField(RowNumber::text) || HashField(TableName) || HashField(ID1::text) || HashField(Year1::text)
+        || HashField(Day1::text) || HashField(ID2::text) || HashField(Position::text) || HashField(OldRow::text)
+        || HashField(NewRow::text), '' ORDER BY RowNumber)
+      FROM CldHistoryRow WHERE CldHistoryRow.EntryID = ended.EntryID), ''), 'UTF8')), 'hex')
+  WHERE EntryID = entry;
   NOTIFY ferrowind_change;
   PERFORM set_config('ferrowind.entry', '', true);
 END

@@ -1,4 +1,4 @@
--- The triggers that keep what a call replaces, so that no procedure can forget it. A row that a statement leaves as it was is
+-- The triggers that keep what a call replaces and leaves, so that no procedure can forget it. A row that a statement leaves as it was is
 -- not kept, and no call changes a row twice.
 
 -- The arguments: the table's name as CldHistoryRow spells it; the columns there that its key goes into; its key; what a row
@@ -15,15 +15,37 @@ BEGIN
   END IF;
   SELECT coalesce(max(RowNumber), 0) INTO kept FROM CldHistoryRow WHERE EntryID = entry;
   EXECUTE format(
-    'INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName, %s, OldRow)'
-    ' SELECT $1, $2 + row_number() OVER (ORDER BY %s), $3, %2$s, %s FROM %s',
-    TG_ARGV[1], TG_ARGV[2], CASE TG_OP WHEN 'INSERT' THEN 'NULL' ELSE TG_ARGV[3] END,
-    CASE TG_OP WHEN 'INSERT' THEN 'new_rows' WHEN 'UPDATE' THEN '(TABLE old_rows EXCEPT TABLE new_rows) AS changed'
-      ELSE 'old_rows WHERE ' || TG_ARGV[4] END)
+    'INSERT INTO CldHistoryRow (EntryID, RowNumber, TableName, %s, OldRow, NewRow)'
+    ' SELECT $1, $2 + row_number() OVER (ORDER BY %s), $3, %2$s, '
+    || CASE TG_OP
+      WHEN 'INSERT' THEN 'NULL, %s FROM new_rows'
+      WHEN 'DELETE' THEN '%s, NULL FROM old_rows WHERE %s'
+      ELSE 'old.content, new.content FROM (SELECT %2$s, %s AS content FROM old_rows) AS old'
+        ' JOIN (SELECT %2$s, %3$s AS content FROM new_rows) AS new USING (%2$s)'
+        ' WHERE old.content::text <> new.content::text' END,
+    TG_ARGV[1], TG_ARGV[2], TG_ARGV[3], TG_ARGV[4])
   USING entry, kept, TG_ARGV[0];
   RETURN NULL;
 END
 $$;
+
+-- The days that come with a new calendar are told by its row.
+CREATE OR REPLACE FUNCTION KeepNewDays() RETURNS trigger
+LANGUAGE plpgsql SET search_path = ferrowind, pg_temp
+AS $$
+BEGIN
+  UPDATE CldHistoryRow kept SET NewRow = ('{' || calendar.days || '}')::json
+  FROM (
+    SELECT ID1, Year1, string_agg(format('"%s" : %s', Day1, DayContent(TID1, ID2, Comment)), ', ' ORDER BY Day1) AS days
+    FROM new_rows WHERE ID2 IS NOT NULL OR Comment IS NOT NULL GROUP BY ID1, Year1
+  ) AS calendar
+  WHERE kept.EntryID = EntryAtWork() AND kept.TableName = 'CldCalendar'
+    AND kept.ID1 = calendar.ID1 AND kept.Year1 = calendar.Year1;
+  RETURN NULL;
+END
+$$;
+CREATE OR REPLACE TRIGGER KeepNewDays AFTER INSERT ON CldDay REFERENCING NEW TABLE AS new_rows FOR EACH STATEMENT
+EXECUTE FUNCTION KeepNewDays();
 
 -- Of a calendar nothing but its being there can change. Days come with their calendar, whose row tells of it, and go with
 -- it; then those that were ordinary working days are not kept.
@@ -37,6 +59,7 @@ BEGIN
     ('CldBook', 'ID1', 'ID1', 'BookContent(Publisher, Document, FromYear)', 'true', '{INSERT,UPDATE,DELETE}'),
     ('CldRecurrence', 'ID1, Position', 'ID1, Position', 'RecurrenceContent(Name1, TID1, Expression, Comment, MovedName)',
       'true', '{INSERT,UPDATE,DELETE}'),
+    ('CldConvention', 'ID1, Position', 'ID1, OtherID', 'ConventionContent(SpotDays, DollarStops)', 'true', '{INSERT,UPDATE,DELETE}'),
     ('CldCalendar', 'ID1, Year1', 'ID1, Year1', 'json_build_object()', 'true', '{INSERT,DELETE}'),
     ('CldDay', 'ID1, Year1, Day1', 'ID1, Year1, Day1', 'DayContent(TID1, ID2, Comment)',
       'ID2 IS NOT NULL OR Comment IS NOT NULL', '{UPDATE,DELETE}')

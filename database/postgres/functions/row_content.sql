@@ -35,6 +35,12 @@ AS $$
     'MovedName', moved_name)
 $$;
 
+CREATE OR REPLACE FUNCTION ConventionContent(spot_days integer, dollar_stops integer) RETURNS json
+LANGUAGE sql STABLE
+AS $$
+  SELECT json_build_object('SpotDays', spot_days, 'DollarStops', dollar_stops)
+$$;
+
 -- What the row whose key `kept` names holds now; null when there is none.
 CREATE OR REPLACE FUNCTION ContentNow(kept CldHistoryRow) RETURNS json
 LANGUAGE sql STABLE
@@ -52,6 +58,9 @@ AS $$
     WHEN 'CldRecurrence' THEN
       (SELECT RecurrenceContent(Name1, TID1, Expression, Comment, MovedName) FROM CldRecurrence
        WHERE ID1 = kept.ID1 AND Position = kept.Position)
+    WHEN 'CldConvention' THEN
+      (SELECT ConventionContent(SpotDays, DollarStops) FROM CldConvention
+       WHERE ID1 = kept.ID1 AND OtherID = kept.Position)
     WHEN 'DicCcy' THEN
       (SELECT CurrencyContent(Ccy, CcyType, Name, LastDay) FROM DicCcy WHERE CcyID = kept.ID1)
   END

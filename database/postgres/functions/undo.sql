@@ -61,10 +61,15 @@ AS $$
     WHERE mine.EntryID = entry AND mine.TableName = 'DicCcy'
       AND NOT CurrencyCanBe(mine.ID1, (mine.OldRow ->> 'CcyType')::smallint, (mine.OldRow ->> 'LastDay')::date)
   ) AND NOT EXISTS (
-    SELECT FROM CldHistoryRow mine JOIN DicCcy c ON c.CcyID = mine.ID1
+    SELECT FROM CldHistoryRow mine LEFT JOIN DicCcy c ON c.CcyID = mine.ID1
     WHERE mine.EntryID = entry AND mine.OldRow IS NOT NULL
-      AND (mine.TableName = 'CldCalendar' AND (c.CcyType <> 0 OR mine.Year1 > extract(year FROM c.LastDay))
-        OR mine.TableName = 'CldBook' AND c.CcyType <> 0)
+      AND (mine.TableName IN ('CldCalendar', 'CldBook') AND (c.CcyID IS NULL OR c.CcyType <> 0)
+        OR mine.TableName = 'CldCalendar' AND mine.Year1 > extract(year FROM c.LastDay))
+  ) AND NOT EXISTS (
+    -- A convention whose currencies are not all there any more.
+    SELECT FROM CldHistoryRow mine
+    WHERE mine.EntryID = entry AND mine.TableName = 'CldConvention' AND mine.OldRow IS NOT NULL
+      AND (SELECT count(*) FROM DicCcy WHERE CcyID IN (mine.ID1, mine.Position)) < CASE mine.Position WHEN mine.ID1 THEN 1 ELSE 2 END
   ) AND EXISTS (
     -- Something does change: a rule that the entry added stays when a day has it that stays.
     SELECT FROM CldHistoryRow mine
@@ -119,6 +124,14 @@ BEGIN
   ON CONFLICT (ID1, Position) DO UPDATE SET
     Name1 = excluded.Name1, TID1 = excluded.TID1, Expression = excluded.Expression, Comment = excluded.Comment,
     MovedName = excluded.MovedName;
+  GET DIAGNOSTICS row_count = ROW_COUNT;
+  changed := changed + row_count;
+
+  INSERT INTO CldConvention (ID1, OtherID, SpotDays, DollarStops)
+  SELECT kept.ID1, kept.Position, old.*
+  FROM CldHistoryRow kept, json_to_record(kept.OldRow) AS old ("SpotDays" integer, "DollarStops" integer)
+  WHERE kept.EntryID = entry AND kept.TableName = 'CldConvention' AND kept.OldRow IS NOT NULL
+  ON CONFLICT (ID1, OtherID) DO UPDATE SET SpotDays = excluded.SpotDays, DollarStops = excluded.DollarStops;
   GET DIAGNOSTICS row_count = ROW_COUNT;
   changed := changed + row_count;
 
@@ -181,6 +194,12 @@ BEGIN
   changed := changed + row_count;
   DELETE FROM CldBook USING CldHistoryRow kept
   WHERE kept.EntryID = entry AND kept.TableName = 'CldBook' AND kept.OldRow IS NULL AND CldBook.ID1 = kept.ID1;
+  GET DIAGNOSTICS row_count = ROW_COUNT;
+  changed := changed + row_count;
+
+  DELETE FROM CldConvention USING CldHistoryRow kept
+  WHERE kept.EntryID = entry AND kept.TableName = 'CldConvention' AND kept.OldRow IS NULL
+    AND CldConvention.ID1 = kept.ID1 AND CldConvention.OtherID = kept.Position;
   GET DIAGNOSTICS row_count = ROW_COUNT;
   changed := changed + row_count;
 

@@ -6,7 +6,7 @@
 --   {"TID1": 1, "DayComment": "...", "Dates": [...]}                    an exception by the built-in rule
 -- DayComment is the comment that the days get. A calendar that does not exist is created. Expected is the calendar's
 -- fingerprint (CldGetFingerprint), empty without a calendar.
--- Returns 0; 7 a value is missing or out of range, or Days is no such list; 3 unknown currency, or no legal money any more
+-- Returns 0; 7 a value is missing, out of range or too long, or Days is no such list; 3 unknown currency, or no legal money any more
 -- when a new calendar's year begins; 8 the calendar is another than expected; 10 a removed rule has the name of one of the
 -- plan; 2 a rule of another type has it.
 -- Locks are taken in one order everywhere: the built-in rule's row for all rules, the currency's, the calendar's.
@@ -37,7 +37,8 @@ BEGIN
   plan := PlannedDays("Days", "Year1");
   IF plan IS NULL
     OR EXISTS (SELECT FROM unnest(plan) WHERE CASE WHEN Name1 IS NULL THEN TID1 <> 1 OR RuleComment IS NOT NULL
-                                              ELSE btrim(Name1, ' ') = '' END)
+                                              ELSE btrim(Name1, ' ') = '' END
+                 OR length(Name1) > 200 OR length(RuleComment) > 4000 OR length(DayComment) > 4000)
   THEN
     RETURN;
   END IF;

@@ -1,4 +1,6 @@
--- Of every calendar of the years FromYear to ToYear its days as a text: '1' for a closed day, '0' for a working day.
+-- Of every calendar of the years FromYear to ToYear its days as a text: '1' for a closed day, '0' for a working day; and the code
+-- of its currency. IsPrepared is 0 of a calendar that is closed on weekends at most, because nobody has entered its holidays yet.
+-- Readers may call it, too.
 -- Returns 0; 7 a value is missing, or the years are not in order.
 CREATE PROCEDURE CldGetClosedDays(
   "FromYear" integer DEFAULT NULL,
@@ -15,9 +17,13 @@ BEGIN
   END IF;
 
   OPEN "Calendars" FOR
-    SELECT ID1 AS "ID1", Year1 AS "Year1",
-      string_agg(CASE TID1 WHEN 1 THEN '0' ELSE '1' END, '' ORDER BY Day1) AS "Days"
-    FROM CldDay WHERE Year1 BETWEEN "FromYear" AND "ToYear" GROUP BY ID1, Year1 ORDER BY ID1, Year1;
+    SELECT ID1 AS "ID1", Year1 AS "Year1", Days AS "Days", Ccy AS "Ccy", IsPrepared AS "IsPrepared"
+    FROM (
+      SELECT ID1, Year1, string_agg(CASE TID1 WHEN 1 THEN '0' ELSE '1' END, '' ORDER BY Day1) AS Days,
+        bool_or(TID1 > 2)::integer AS IsPrepared
+      FROM CldDay WHERE Year1 BETWEEN "FromYear" AND "ToYear" GROUP BY ID1, Year1
+    ) AS calendar JOIN DicCcy ON CcyID = ID1
+    ORDER BY ID1, Year1;
   "RETURN_VALUE" := 0;
 END
 $$;

@@ -2,8 +2,8 @@
 -- JSON list of {"Name1": "Good Friday", "TID1": 4, "Expression": "easter-2"} with "Comment" and "MovedName" where there are
 -- any; the callers know what an expression is. Expected is the book's fingerprint (CldGetBook), empty without a book.
 -- FromYear is the first year that the book tells of; without it the book tells of all years.
--- Returns 0; 7 a value is missing, or Rules is no such list or has more than 10,000 rules; 3 unknown currency; 8 the book is
--- another than expected.
+-- Returns 0; 7 a value is missing or too long, or Rules is no such list, has more than 10,000 rules or is over a megabyte; 3
+-- unknown currency; 8 the book is another than expected.
 -- Whoever changes a book locks its currency first.
 CREATE PROCEDURE CldIUBook(
   "ID1" integer DEFAULT NULL,
@@ -26,6 +26,7 @@ BEGIN
   "RETURN_VALUE" := 7;
   IF "ID1" IS NULL OR "Expected" IS NULL OR num_nonnulls("Publisher", "Document", "Rules") IN (1, 2)
     OR "FromYear" IS NOT NULL AND (is_removal OR "FromYear" NOT BETWEEN 1900 AND 3000)
+    OR length("Publisher") > 200 OR length("Document") > 4000 OR octet_length("Rules") > 1048576
   THEN
     RETURN;
   END IF;

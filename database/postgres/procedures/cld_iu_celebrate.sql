@@ -1,6 +1,6 @@
 -- With Del sets the removal mark of the rule ID2, nothing else given. Otherwise updates the rule ID2 or, without ID2,
 -- inserts a rule: a weekday rule (type 2) has WD; one of type 3 or 4 has D1, MY and MD. The type of a rule stays.
--- Returns 0; 7 a value is missing or out of range; 4 unknown rule; 2 a rule of that name exists; 10 a removed rule
+-- Returns 0; 7 a value is missing, out of range or too long; 4 unknown rule; 2 a rule of that name exists; 10 a removed rule
 -- has that name.
 -- Whoever changes a rule locks the row of the built-in rule first, which itself never changes: so such calls run one
 -- after the other, and of two that bring the same name the second one finds the first one's rule.
@@ -31,7 +31,9 @@ BEGIN
     THEN
       RETURN;
     END IF;
-  ELSIF "Name1" IS NULL OR btrim("Name1", ' ') = '' OR "TID1" IS NULL OR "TID1" NOT BETWEEN 2 AND 4 THEN
+  ELSIF "Name1" IS NULL OR btrim("Name1", ' ') = '' OR "TID1" IS NULL OR "TID1" NOT BETWEEN 2 AND 4
+    OR length("Name1") > 200 OR length("Comment") > 4000
+  THEN
     RETURN;
   ELSIF "TID1" = 2 THEN
     IF "WD" IS NULL OR "WD" NOT BETWEEN 1 AND 7 OR num_nonnulls("D1", "MY", "MD") > 0 THEN

@@ -1,6 +1,6 @@
 -- Adds the currency CcyID, or changes the one that is there. CcyType is 0 for money and 1 for what else has a code; LastDay
 -- is the last day as legal money, empty for a currency that lives.
--- Returns 0; 7 a value is missing or out of range; 2 another currency has the code; 9 it has calendars or a book that it
+-- Returns 0; 7 a value is missing, out of range or too long; 2 another currency has the code; 9 it has calendars or a book that it
 -- could not have then: those of a year after LastDay's, or of what is no money.
 -- Whoever changes the list of currencies locks the built-in rule's row first, so such calls run one after the other.
 CREATE PROCEDURE CldIUCurrency(
@@ -18,7 +18,7 @@ DECLARE
   rows_changed bigint;
 BEGIN
   IF num_nulls("CcyID", "Ccy", "CcyType", "Name") > 0 OR "CcyID" NOT BETWEEN 1 AND 999 OR "Ccy" !~ '^[A-Z]{3}$'
-    OR "CcyType" NOT IN (0, 1) OR btrim("Name", ' ') = '' OR "LastDay" NOT BETWEEN '0001-01-01' AND '9999-12-31'
+    OR "CcyType" NOT IN (0, 1) OR btrim("Name", ' ') = '' OR length("Name") > 200 OR "LastDay" NOT BETWEEN '0001-01-01' AND '9999-12-31'
   THEN
     "RETURN_VALUE" := 7;
     RETURN;

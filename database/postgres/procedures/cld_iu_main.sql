@@ -1,7 +1,7 @@
 -- Without TID1 creates the calendar of the currency ID1 for Year1, every day an ordinary working day. With TID1 gives
 -- days of the calendar the rule ID2 of that type: the day Day1, or for a weekday rule (type 2) without Day1 every day
 -- of the year on its weekday. What a day carried before, its comment included, is replaced.
--- Returns 0; 7 a value is missing or out of range; 3 unknown currency, or for a new calendar one that is no legal money any
+-- Returns 0; 7 a value is missing, out of range or too long; 3 unknown currency, or for a new calendar one that is no legal money any
 -- more when its year begins; 4 unknown rule (a removed one is not assigned either); 5 unknown calendar; 6 the calendar
 -- exists already.
 -- Whoever changes a calendar's days locks the calendar's row first, and whoever creates a calendar its currency's before, so
@@ -28,7 +28,9 @@ DECLARE
   rows_changed bigint;
 BEGIN
   "RETURN_VALUE" := 7;
-  IF "ID1" IS NULL OR "Year1" IS NULL OR "Year1" NOT BETWEEN 1900 AND 3000 THEN
+  IF "ID1" IS NULL OR "Year1" IS NULL OR "Year1" NOT BETWEEN 1900 AND 3000
+    OR length("Comment") > 4000
+  THEN
     RETURN;
   END IF;
   first_date := make_date("Year1", 1, 1);
@@ -79,8 +81,13 @@ BEGIN
       RETURN;
     END IF;
 
-    -- Nobody takes the rule away meanwhile.
-    SELECT * INTO rule FROM CldHoliday WHERE ID2 = "ID2" AND Del IS DISTINCT FROM 2 FOR KEY SHARE;
+    -- Nobody removes or changes the rule meanwhile; whoever does so now is waited for. The built-in rule is never removed,
+    -- and its row is what others lock who then wait for calendars.
+    IF "ID2" = 1 THEN
+      SELECT * INTO rule FROM CldHoliday WHERE ID2 = 1 FOR KEY SHARE;
+    ELSE
+      SELECT * INTO rule FROM CldHoliday WHERE ID2 = "ID2" AND Del IS DISTINCT FROM 2 FOR SHARE;
+    END IF;
     IF NOT FOUND THEN
       "RETURN_VALUE" := 4;
       RETURN;

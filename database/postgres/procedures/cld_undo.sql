@@ -21,7 +21,7 @@ BEGIN
     RETURN;
   END IF;
 
-  IF EXISTS (SELECT FROM CldHistoryRow WHERE EntryID = "EntryID" AND TableName = 'DicCcy')
+  IF EXISTS (SELECT FROM CldHistoryRow WHERE EntryID = "EntryID" AND TableName IN ('DicCcy', 'CldConvention'))
     AND NOT pg_has_role(session_user, 'ferrowind_owner', 'MEMBER')
   THEN
     RAISE insufficient_privilege USING MESSAGE = 'permission denied to change the list of currencies';

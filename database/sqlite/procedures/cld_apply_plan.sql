@@ -8,7 +8,7 @@
 -- list of {"Name1", "TID1", "Comment", "Dates", "DayComment"}: the Dates get the rule of that name and type, with
 -- DayComment as their comment; Comment is for a rule that is new. TID1 1 without Name1 makes ordinary working days, and
 -- with DayComment working days by exception. Days that are not named stay as they are.
--- Returns 0; 7 a value is missing, out of range or of another shape, or Days is over a megabyte; 3 unknown currency, or
+-- Returns 0; 7 a value is missing, out of range, too long or of another shape, or Days is over a megabyte; 3 unknown currency, or
 -- one that gets no calendar of that year any more; 8 the calendar is another than expected; 2 a rule of that name has
 -- another type; 10 a removed rule has that name.
 
@@ -31,6 +31,7 @@ HAVING count(*) <> count(DISTINCT m.key)
     WHEN m.key = 'TID1' THEN m.type = 'integer' AND m.value BETWEEN 1 AND 4
     WHEN m.key = 'Dates' THEN m.type = 'array'
     WHEN m.key IN ('Name1', 'Comment', 'DayComment') THEN m.type = 'null' OR m.type = 'text' AND FERROWIND_IS_TEXT(m.value)
+      AND length(m.value) <= iif(m.key = 'Name1', 200, 4000)
     ELSE 0
   END) <> count(*)
 LIMIT 1;

@@ -1,7 +1,8 @@
 -- procedure CldGetClosedDays reads
 -- parameter @FromYear int32
 -- parameter @ToYear int32
--- Every calendar of these years with its days as a text, a character a day: 1 for closed, 0 for a working day.
+-- Every calendar of these years with its days as a text, a character a day: 1 for closed, 0 for a working day; and the code of
+-- its currency. IsPrepared is 0 of a calendar that is closed on weekends at most, because nobody has entered its holidays yet.
 -- Returns 0; 7 a year is missing or the years are no span.
 
 SELECT 7 AS "@return" WHERE NOT ifnull(:FromYear <= :ToYear, 0);
@@ -9,7 +10,9 @@ SELECT 7 AS "@return" WHERE NOT ifnull(:FromYear <= :ToYear, 0);
 SELECT k.ID1, k.Year1, (
   SELECT group_concat(IsClosed, '')
   FROM (SELECT d.TID1 <> 1 AS IsClosed FROM CldDay d WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 ORDER BY d.Day1)
-) AS Days
-FROM CldCalendar k
+) AS Days, c.Ccy, EXISTS (
+  SELECT 1 FROM CldDay d WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 AND d.ID2 IS NOT NULL AND d.TID1 > 2
+) AS IsPrepared
+FROM CldCalendar k JOIN DicCcy c ON c.CcyID = k.ID1
 WHERE k.Year1 BETWEEN :FromYear AND :ToYear
 ORDER BY k.ID1, k.Year1;

@@ -73,6 +73,9 @@ SELECT TableName, ID1, ID2, Position, OldRow,
     WHEN TableName = 'CldRecurrence' THEN (
       SELECT json_object('Name1', Name1, 'TID1', TID1, 'Expression', Expression, 'Comment', Comment, 'MovedName', MovedName)
       FROM CldRecurrence e WHERE e.ID1 = r.ID1 AND e.Position = r.Position)
+    WHEN TableName = 'CldConvention' THEN (
+      SELECT json_object('SpotDays', SpotDays, 'DollarStops', DollarStops)
+      FROM CldConvention v WHERE v.ID1 = r.ID1 AND v.OtherID = r.Position)
   END AS NewRow
 FROM Replaced r
 ORDER BY TableName, ID1, ID2, Position;

@@ -9,14 +9,15 @@
 -- the fingerprint of the book that the caller saw, '' when it saw none. Rules is a JSON list of
 -- {"Name1", "TID1", "Expression", "Comment", "MovedName"}, the last two may be missing; whether the expressions make
 -- sense is the caller's concern. FromYear is the first year that the book tells of; without it the book tells of all years.
--- Returns 0; 7 a value is missing or of another shape, or there are more than 10,000 rules; 3 unknown currency; 8 the
--- book is another than expected.
+-- Returns 0; 7 a value is missing, too long or of another shape, Rules is over a megabyte, or there are more than 10,000
+-- rules; 3 unknown currency; 8 the book is another than expected.
 
 SELECT :Publisher IS NULL AND :Document IS NULL AND :Rules IS NULL AS "@Removes";
 
 SELECT 7 AS "@return"
 WHERE :ID1 IS NULL OR :Expected IS NULL
   OR NOT :Removes AND (:Publisher IS NULL OR :Document IS NULL OR :Rules IS NULL
+    OR FERROWIND_LENGTH(:Publisher) > 200 OR FERROWIND_LENGTH(:Document) > 4000 OR length(CAST(:Rules AS BLOB)) > 1048576
     OR instr(:Rules, char(0)) > 0 OR NOT json_valid(:Rules)
     -- SQLite cuts a text at this escape. What is left of doubled backslashes begins one.
     OR instr(replace(:Rules, '\\', ''), '\u0000') > 0)
@@ -34,7 +35,9 @@ HAVING count(*) <> count(DISTINCT m.key)
   OR sum(CASE
     WHEN m.key = 'TID1' THEN m.type = 'integer' AND m.value BETWEEN 1 AND 4
     WHEN m.key IN ('Name1', 'Expression') THEN m.type = 'text' AND trim(m.value) <> '' AND FERROWIND_IS_TEXT(m.value)
+      AND length(m.value) <= iif(m.key = 'Name1', 200, 4000)
     WHEN m.key IN ('Comment', 'MovedName') THEN m.type = 'null' OR m.type = 'text' AND FERROWIND_IS_TEXT(m.value)
+      AND length(m.value) <= iif(m.key = 'MovedName', 200, 4000)
     ELSE 0
   END) <> count(*)
 LIMIT 1;

@@ -10,7 +10,7 @@
 -- parameter @Del int16
 -- With Del sets the removal mark of the rule ID2, nothing else given. Otherwise updates the rule ID2 or, without ID2,
 -- inserts a rule: a weekday rule (type 2) has WD; one of type 3 or 4 has D1, MY and MD. The type of a rule stays.
--- Returns 0; 7 a value is missing or out of range; 4 unknown rule; 2 a rule of that name exists; 10 a removed rule
+-- Returns 0; 7 a value is missing, out of range or too long; 4 unknown rule; 2 a rule of that name exists; 10 a removed rule
 -- has that name.
 
 SELECT 7 AS "@return"
@@ -22,6 +22,7 @@ WHERE :Del IS NOT NULL
 SELECT 7 AS "@return"
 WHERE :Del IS NULL
   AND (:Name1 IS NULL OR trim(:Name1) = '' OR :TID1 IS NULL OR :TID1 NOT BETWEEN 2 AND 4
+    OR FERROWIND_LENGTH(:Name1) > 200 OR FERROWIND_LENGTH(:Comment) > 4000
     OR :TID1 = 2 AND (:WD IS NULL OR :WD NOT BETWEEN 1 AND 7 OR :D1 IS NOT NULL OR :MY IS NOT NULL OR :MD IS NOT NULL)
     OR :TID1 <> 2 AND (:WD IS NOT NULL OR :D1 IS NULL OR :MY IS NOT CAST(strftime('%m', :D1) AS INTEGER)
       OR :MD IS NOT CAST(strftime('%d', :D1) AS INTEGER)));

@@ -5,14 +5,14 @@
 -- parameter @Name text
 -- parameter @LastDay date
 -- Adds the currency CcyID or changes all of it. LastDay is its last day as legal money; without it, it is still.
--- Returns 0; 7 a value is missing or out of range; 2 the code is another currency's; 9 it has calendars of a year after its
+-- Returns 0; 7 a value is missing, out of range or too long; 2 the code is another currency's; 9 it has calendars of a year after its
 -- last day, or has calendars or a book and would be no money any more.
 
 SELECT 7 AS "@return"
 WHERE :CcyID IS NULL OR :CcyID NOT BETWEEN 1 AND 999
   OR :Ccy IS NULL OR length(:Ccy) <> 3 OR :Ccy NOT GLOB '[A-Z][A-Z][A-Z]'
   OR :CcyType IS NULL OR :CcyType NOT IN (0, 1)
-  OR :Name IS NULL OR trim(:Name) = '';
+  OR :Name IS NULL OR trim(:Name) = '' OR FERROWIND_LENGTH(:Name) > 200;
 
 SELECT 2 AS "@return" WHERE EXISTS (SELECT 1 FROM DicCcy WHERE Ccy = :Ccy AND CcyID <> :CcyID);
 

@@ -9,12 +9,12 @@
 -- Without TID1 creates the calendar of the currency ID1 for Year1, every day an ordinary working day. With TID1 gives
 -- days of the calendar the rule ID2 of that type: the day Day1, or for a weekday rule (type 2) without Day1 every day
 -- of the year on its weekday. What a day carried before, its comment included, is replaced.
--- Returns 0; 7 a value is missing or out of range; 3 unknown currency, or one that gets no calendar of that year any more;
+-- Returns 0; 7 a value is missing, out of range or too long; 3 unknown currency, or one that gets no calendar of that year any more;
 -- 4 unknown rule (a removed one is not assigned either); 5 unknown calendar; 6 the calendar exists already.
 
 -- The first reason against the call, or 0.
 SELECT CASE
-  WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 THEN 7
+  WHEN :ID1 IS NULL OR :Year1 IS NULL OR :Year1 NOT BETWEEN 1900 AND 3000 OR FERROWIND_LENGTH(:Comment) > 4000 THEN 7
   -- Only money has calendars: the windows list no other currency that a calendar could stand under.
   WHEN c.CcyType IS NOT 0 THEN 3
 

@@ -44,6 +44,8 @@ WITH AsLeft AS (
     WHEN 'CldRecurrence' THEN (
       SELECT json_array(Name1, TID1, Expression, Comment, MovedName)
       FROM CldRecurrence e WHERE e.ID1 = l.ID1 AND e.Position = l.Position)
+    WHEN 'CldConvention' THEN (
+      SELECT json_array(SpotDays, DollarStops) FROM CldConvention v WHERE v.ID1 = l.ID1 AND v.OtherID = l.Position)
   END AS Row,
   CASE l.TableName
     WHEN 'CldDay' THEN json_extract(l.OldRow, '$.TID1', '$.ID2', '$.Comment')
@@ -52,6 +54,7 @@ WITH AsLeft AS (
     WHEN 'DicCcy' THEN json_extract(l.OldRow, '$.Ccy', '$.CcyType', '$.Name', '$.LastDay')
     WHEN 'CldBook' THEN json_extract(l.OldRow, '$.Publisher', '$.Document', '$.FromYear')
     WHEN 'CldRecurrence' THEN json_extract(l.OldRow, '$.Name1', '$.TID1', '$.Expression', '$.Comment', '$.MovedName')
+    WHEN 'CldConvention' THEN json_extract(l.OldRow, '$.SpotDays', '$.DollarStops')
   END AS RowAsLeft
   FROM AsLeft l
 )
@@ -90,7 +93,16 @@ SET Ccy = excluded.Ccy, CcyType = excluded.CcyType, Name = excluded.Name, LastDa
 
 DELETE FROM DicCcy
 WHERE CcyID IN (SELECT ID1 FROM CldHistoryRow WHERE EntryID = :EntryID AND TableName = 'DicCcy' AND OldRow IS NULL)
-  AND CcyID NOT IN (SELECT ID1 FROM CldCalendar UNION SELECT ID1 FROM CldBook);
+  AND CcyID NOT IN (
+    SELECT ID1 FROM CldCalendar UNION SELECT ID1 FROM CldBook UNION SELECT ID1 FROM CldConvention
+    UNION SELECT OtherID FROM CldConvention);
+
+-- A calendar and a book come back with their currency only.
+SELECT 9 AS "@return"
+FROM CldHistoryRow
+WHERE EntryID = :EntryID AND TableName IN ('CldCalendar', 'CldBook') AND OldRow IS NOT NULL
+  AND ID1 NOT IN (SELECT CcyID FROM DicCcy)
+LIMIT 1;
 
 INSERT INTO CldHoliday (ID2, Name1, Comment, TID1, D1, MY, MD, WD, Del)
 SELECT ID2, json_extract(OldRow, '$.Name1'), json_extract(OldRow, '$.Comment'), json_extract(OldRow, '$.TID1'),
@@ -152,6 +164,23 @@ WHERE (ID1, Position) IN (
 
 DELETE FROM CldBook
 WHERE ID1 IN (SELECT ID1 FROM CldHistoryRow WHERE EntryID = :EntryID AND TableName = 'CldBook' AND OldRow IS NULL);
+
+-- A convention comes back with its currencies only.
+SELECT 9 AS "@return"
+FROM CldHistoryRow
+WHERE EntryID = :EntryID AND TableName = 'CldConvention' AND OldRow IS NOT NULL
+  AND (ID1 NOT IN (SELECT CcyID FROM DicCcy) OR Position NOT IN (SELECT CcyID FROM DicCcy))
+LIMIT 1;
+
+INSERT INTO CldConvention (ID1, OtherID, SpotDays, DollarStops)
+SELECT ID1, Position, json_extract(OldRow, '$.SpotDays'), json_extract(OldRow, '$.DollarStops')
+FROM CldHistoryRow
+WHERE EntryID = :EntryID AND TableName = 'CldConvention' AND OldRow IS NOT NULL
+ON CONFLICT (ID1, OtherID) DO UPDATE SET SpotDays = excluded.SpotDays, DollarStops = excluded.DollarStops;
+
+DELETE FROM CldConvention
+WHERE (ID1, OtherID) IN (
+  SELECT ID1, Position FROM CldHistoryRow WHERE EntryID = :EntryID AND TableName = 'CldConvention' AND OldRow IS NULL);
 
 -- What came back is of money, and of no year after it.
 SELECT 9 AS "@return"

@@ -2,7 +2,9 @@
 // `ferrowindctl init` has made. usage: minimal_host sqlite:PATH
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMainWindow>
+#include <QStatusBar>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -17,6 +19,26 @@
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/platform/platform.h"
+
+/// The host's window, which the calendars close with.
+class HostWindow : public QMainWindow {
+ public:
+  explicit HostWindow(const ferrowind::platform::Platform& platform)
+      : calendar_(new ferrowind::qt::CalendarWidget(platform, this)) {
+    setCentralWidget(calendar_);
+  }
+  [[nodiscard]] ferrowind::Calendar& Calendars() const { return calendar_->Control(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    if (Calendars().ForceClosing()) return;
+    event->ignore();
+    statusBar()->showMessage("The calendars have something to ask first.");
+  }
+
+ private:
+  ferrowind::qt::CalendarWidget* calendar_;
+};
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -44,13 +66,11 @@ int main(int argc, char** argv) {
   const ferrowind::platform::Platform platform{
       objects, commands, toolkit, locale, clock, QApplication::applicationDirPath().toStdString()};
 
-  QMainWindow window;
-  auto* calendar = new ferrowind::qt::CalendarWidget(platform, &window);
-  window.setCentralWidget(calendar);
+  HostWindow window(platform);
 
-  // Captions may be changed until the window is shown.
-  calendar->Control().Headers()->LocalNames("Comment")->SetCaption("Remark");
-  calendar->Control().Show();
+  // The maps can be had while no Calendars window is open.
+  window.Calendars().Headers()->LocalNames("Comment")->SetCaption("Remark");
+  window.Calendars().Show();
 
   window.show();
   return QApplication::exec();

@@ -24,8 +24,8 @@ bool IsSame(const Value& left, const Value& right) {
 
 std::optional<std::int64_t> FirstDifference(Source& left, Source& right, const Table& table,
                                             const std::function<void()>& seen) {
-  const auto left_rows = left.Rows(table);
-  const auto right_rows = right.Rows(table);
+  const auto left_rows = left.Rows(table, RowOrder::kByKey);
+  const auto right_rows = right.Rows(table, RowOrder::kByKey);
   Row left_row;
   Row right_row;
   for (std::int64_t position = 1;; ++position) {

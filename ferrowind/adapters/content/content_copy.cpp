@@ -1,9 +1,14 @@
 #include "ferrowind/adapters/content/content_copy.h"
 
 #include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <numeric>
 #include <string>
+#include <vector>
 
 #include "ferrowind/adapters/content/content_comparison.h"
+#include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::content {
@@ -17,11 +22,19 @@ Failure At(const std::string& place, const Failure& failure) {
   return {failure.Number(), place + ": " + failure.Description()};
 }
 
+/// The values of the key, each with a blank in front.
+std::string KeyOf(const Table& table, const Row& row) {
+  std::string key;
+  for (std::size_t i = 0; i < table.key_size; ++i) key += " " + platform::ToTextOrEmpty(row[i]);
+  return key;
+}
+
 /// What the target holds beyond a new database, in words; empty when that is nothing.
 std::string Holdings(Target& target, Source& delivered) {
   std::string holdings;
   for (const Table& table : Tables()) {
-    if (!FirstDifference(target, delivered, table)) continue;
+    // Where the history begins follows from the other tables.
+    if (table.name == "CldChainStart" || !FirstDifference(target, delivered, table)) continue;
     const std::int64_t count = target.CountRows(table);
     const bool has_more = count > delivered.CountRows(table);
     holdings += holdings.empty() ? "" : ", ";
@@ -45,26 +58,26 @@ class Copy {
       : source_(source), target_(target), observe_(observe) {}
 
   void Run() {
-    for (const Table& table : Tables()) total_ += 2 * source_.CountRows(table);
     const auto& tables = Tables();
+    std::vector<std::int64_t> counts;
+    for (const Table& table : tables) counts.push_back(source_.CountRows(table));
+    total_ = 2 * std::accumulate(counts.begin(), counts.end(), std::int64_t{0});
     std::for_each(tables.rbegin(), tables.rend(), [&](const Table& table) { target_.Clear(table); });
-    for (const Table& table : tables) Write(table);
+    for (std::size_t i = 0; i < tables.size(); ++i) Write(tables[i], counts[i]);
     for (const Table& table : tables) Compare(table);
   }
 
  private:
-  void Write(const Table& table) {
+  void Write(const Table& table, std::int64_t count) {
     const std::string name(table.name);
-    const auto rows = source_.Rows(table);
-    const auto writer = target_.Writer(table);
+    const auto rows = source_.Rows(table, RowOrder::kAny);
+    const auto writer = target_.Writer(table, count);
     Row row;
-    std::int64_t position = 0;
     while (rows->Next(row)) {
-      ++position;
       try {
         writer->Add(row);
       } catch (const Failure& failure) {
-        throw At(name + ", row " + std::to_string(position), failure);
+        throw At(name + ", row" + KeyOf(table, row), failure);
       }
       Advance(CopyProgress::Step::kCopying, table);
     }
@@ -83,10 +96,14 @@ class Copy {
                   std::string(table.name) + "; nothing was kept of it");
   }
 
-  /// Not at every row: an observer may take longer than a row.
+  /// Not at every row: an observer may take longer than a row. But a single row may also be long.
   void Advance(CopyProgress::Step step, const Table& table) {
     constexpr std::int64_t kRowsBetween = 128;
-    if (++done_ % kRowsBetween == 0 && observe_) observe_({step, table.rows, done_, total_});
+    constexpr std::chrono::milliseconds kTimeBetween(50);
+    const auto now = std::chrono::steady_clock::now();
+    if ((++done_ % kRowsBetween != 0 && now - observed_ < kTimeBetween) || !observe_) return;
+    observed_ = now;
+    observe_({step, table.rows, done_, total_});
   }
 
   Source& source_;
@@ -94,6 +111,7 @@ class Copy {
   const CopyObserver& observe_;
   std::int64_t done_ = 0;
   std::int64_t total_ = 0;
+  std::chrono::steady_clock::time_point observed_ = std::chrono::steady_clock::now();
 };
 
 }  // namespace
@@ -102,6 +120,7 @@ void CopyContent(Source& source, Target& target, const CopyObserver& observe) {
   if (source.Identity() == target.Identity()) {
     throw Refusal(target.Name() + " cannot be copied to itself");
   }
+  target.KeepOthersOut();
   RefuseFullTarget(target);
   Copy(source, target, observe).Run();
 }

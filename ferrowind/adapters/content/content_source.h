@@ -15,6 +15,13 @@ namespace ferrowind::content {
 /// A value for each column of the table.
 using Row = std::vector<platform::Value>;
 
+/// In which order rows come.
+enum class RowOrder {
+  kByKey,
+  /// The one that costs least.
+  kAny,
+};
+
 /// Gives rows one after the other.
 class RowReader {
  public:
@@ -42,20 +49,24 @@ class Source {
   /// A text that two sources have in common when, and only when, they are the same database.
   [[nodiscard]] virtual std::string Identity() = 0;
   [[nodiscard]] virtual std::int64_t CountRows(const Table& table) = 0;
-  /// All rows, ordered by their key. The reader must not outlive the source.
-  [[nodiscard]] virtual std::unique_ptr<RowReader> Rows(const Table& table) = 0;
+  /// All rows. One reader at a time, and nothing else of the source is used before it is destroyed.
+  [[nodiscard]] virtual std::unique_ptr<RowReader> Rows(const Table& table, RowOrder order) = 0;
 };
 
-/// A calendar database that content can be written into, in a transaction that keeps every other writer out.
-/// As a source it shows what has been written.
+/// A calendar database that content can be written into, in a transaction. As a source it shows what has been
+/// written.
 class Target : public Source {
  public:
+  /// Keeps every other writer out until the transaction ends. Called before anything but `Name` and
+  /// `Identity`.
+  virtual void KeepOthersOut() = 0;
   /// What the database would hold if it had just been created; null when it has. Lives as long as the target.
   [[nodiscard]] virtual Source* Delivered() = 0;
   /// Removes all rows.
   virtual void Clear(const Table& table) = 0;
-  /// One at a time, and nothing else of the target is used before it has finished.
-  [[nodiscard]] virtual std::unique_ptr<RowWriter> Writer(const Table& table) = 0;
+  /// Takes the rows of `table`, which is empty; about `rows` of them are to come. One writer at a time, and
+  /// nothing else of the target is used before it has finished.
+  [[nodiscard]] virtual std::unique_ptr<RowWriter> Writer(const Table& table, std::int64_t rows) = 0;
 };
 
 }  // namespace ferrowind::content

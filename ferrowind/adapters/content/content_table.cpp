@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/content/content_table.h"
 
+#include <algorithm>
+
 namespace ferrowind::content {
 namespace {
 
@@ -27,18 +29,25 @@ const std::vector<Table>& Tables() {
        "recurring rules",
        {"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"},
        2},
+      {"CldConvention", "conventions", {"ID1", "OtherID", "SpotDays", "DollarStops"}, 2},
       {"CldHistory",
        "entries of the history",
        {"EntryID", "Moment", "UserName", "ProcedureName", "ID1", "Year1", "Parameters", "ReturnValue",
-        "RowsChanged"},
+        "RowsChanged", "ChainPosition", "Previous", "Hash"},
        1},
       {"CldHistoryStart", "beginnings of the history", {"EntryID", "Moment"}, 1},
+      {"CldChainStart", "beginnings of chains", {"ID1", "Year1", "EntryID", "Moment", "Digest"}, 2},
       {"CldHistoryRow",
        "rows of the history",
-       {"EntryID", "RowNumber", "TableName", "ID1", "Year1", "Day1", "ID2", "Position", "OldRow"},
+       {"EntryID", "RowNumber", "TableName", "ID1", "Year1", "Day1", "ID2", "Position", "OldRow", "NewRow"},
        2},
   };
   return tables;
+}
+
+const Table& TableNamed(std::string_view name) {
+  const auto& tables = Tables();
+  return *std::find_if(tables.begin(), tables.end(), [&](const Table& table) { return table.name == name; });
 }
 
 std::string ColumnList(const Table& table, std::string (*written)(std::string_view column)) {

@@ -21,6 +21,9 @@ struct Table {
 /// All of them, each behind those that its rows refer to.
 [[nodiscard]] const std::vector<Table>& Tables();
 
+/// The one of `name`, which must be there.
+[[nodiscard]] const Table& TableNamed(std::string_view name);
+
 /// The columns, each as `written` writes it, with commas between.
 [[nodiscard]] std::string ColumnList(const Table& table, std::string (*written)(std::string_view column));
 [[nodiscard]] std::string ColumnList(const Table& table);

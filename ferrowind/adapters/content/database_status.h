@@ -12,6 +12,17 @@
 
 namespace ferrowind::content {
 
+/// How many of the server's connections some of its logins have open.
+struct ConnectionShare {
+  /// A role of calendar databases, whose members they are; "others"; or "all".
+  std::string whose;
+  std::int64_t connections = 0;
+  /// How many they can have open at once; nothing when one of them alone can take all that there are.
+  std::optional<std::int64_t> limit;
+  /// The logins that have no limit of their own, with commas between.
+  std::string without_limit;
+};
+
 /// What a calendar database is and how much it holds.
 struct DatabaseStatus {
   std::int64_t schema_version = 0;
@@ -28,6 +39,8 @@ struct DatabaseStatus {
   std::optional<std::int64_t> history_entries;
   /// Each year that has calendars, ascending, with their number.
   std::vector<std::pair<std::int32_t, std::int64_t>> calendars_by_year;
+  /// Operators, readers, all others, and at last all together; empty for a file.
+  std::vector<ConnectionShare> connections;
 };
 
 /// A failure unless the schema version `found` in the database that failures call `name` is this program's.

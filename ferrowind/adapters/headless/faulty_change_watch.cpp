@@ -30,4 +30,10 @@ std::unique_ptr<platform::ChangeWatch> FaultyChangeWatchFactory::Watch(const std
   return std::make_unique<FaultyChangeWatch>(std::move(inner), plan_);
 }
 
+std::unique_ptr<platform::SilenceWatch> FaultyChangeWatchFactory::WatchSilence(
+    const std::string& connection_string) {
+  plan_.Pass("change_watches.WatchSilence");
+  return inner_.WatchSilence(connection_string);
+}
+
 }  // namespace ferrowind::headless

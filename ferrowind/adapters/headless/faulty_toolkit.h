@@ -37,6 +37,12 @@ class FaultyToolkit : public platform::Toolkit {
     plan_.Pass("toolkit.ChooseFileToSave");
     return inner_.ChooseFileToSave(title, suggested_name, kinds);
   }
+  [[nodiscard]] std::optional<std::string> ChooseFileToOpen(
+      const std::string& title, const std::string& caption,
+      const std::vector<std::string>& suffixes) override {
+    plan_.Pass("toolkit.ChooseFileToOpen");
+    return inner_.ChooseFileToOpen(title, caption, suffixes);
+  }
   void SetClipboardText(const std::string& text) override { inner_.SetClipboardText(text); }
   void ProcessPendingEvents() override { inner_.ProcessPendingEvents(); }
   void Beep() override { inner_.Beep(); }

@@ -34,6 +34,11 @@ HeadlessGridColumn::HeadlessGridColumn(Context context, std::int16_t index, std:
       caption_(std::move(caption)),
       object_(context_.grid_name + ".Columns(" + key_ + ")") {}
 
+void HeadlessGridColumn::SetCaption(const std::string& caption) {
+  Record("SetCaption", {caption});
+  caption_ = caption;
+}
+
 void HeadlessGridColumn::SetBoundField(const std::string& field) {
   Record("SetBoundField", {field});
   bound_field_ = field;

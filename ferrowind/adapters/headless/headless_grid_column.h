@@ -45,6 +45,7 @@ class HeadlessGridColumn : public platform::GridColumn {
 
   [[nodiscard]] const std::string& Key() const override { return key_; }
   [[nodiscard]] std::string Caption() const override { return caption_; }
+  void SetCaption(const std::string& caption) override;
   [[nodiscard]] std::int16_t Index() const override { return index_; }
   [[nodiscard]] std::string BoundField() const override { return bound_field_; }
   void SetBoundField(const std::string& field) override;

@@ -18,6 +18,7 @@ class HeadlessLabel : public HeadlessControl<platform::Label> {
     core_.Record("SetText", {text});
     text_ = text;
   }
+  void Announce() override { core_.Record("Announce", {text_}); }
 
  private:
   std::string text_;

@@ -65,6 +65,18 @@ std::optional<std::string> HeadlessToolkit::ChooseFileToSave(const std::string& 
   for (const auto& kind : kinds) suffixes.push_back(kind.suffix);
   state_->log.Record("toolkit.ChooseFileToSave(" + ArgumentText(title) + ", " + ArgumentText(suggested_name) +
                      ", " + ArgumentText(suffixes) + ")");
+  return AnswerOfOperator(title);
+}
+
+std::optional<std::string> HeadlessToolkit::ChooseFileToOpen(const std::string& title,
+                                                             const std::string& caption,
+                                                             const std::vector<std::string>& suffixes) {
+  state_->log.Record("toolkit.ChooseFileToOpen(" + ArgumentText(title) + ", " + ArgumentText(caption) + ", " +
+                     ArgumentText(suffixes) + ")");
+  return AnswerOfOperator(title);
+}
+
+std::optional<std::string> HeadlessToolkit::AnswerOfOperator(const std::string& title) {
   if (file_scripts_.empty()) {
     state_->errors.Raise("A file was asked for (" + title + "), but the test has no answer");
   }

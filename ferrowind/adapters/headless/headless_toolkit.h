@@ -35,6 +35,9 @@ class HeadlessToolkit : public platform::Toolkit {
   [[nodiscard]] std::optional<std::string> ChooseFileToSave(
       const std::string& title, const std::string& suggested_name,
       const std::vector<platform::FileKind>& kinds) override;
+  [[nodiscard]] std::optional<std::string> ChooseFileToOpen(
+      const std::string& title, const std::string& caption,
+      const std::vector<std::string>& suffixes) override;
   void SetClipboardText(const std::string& text) override;
   void ProcessPendingEvents() override;
   void Beep() override;
@@ -87,6 +90,8 @@ class HeadlessToolkit : public platform::Toolkit {
   [[nodiscard]] std::size_t WaitingScripts() const;
 
  private:
+  [[nodiscard]] std::optional<std::string> AnswerOfOperator(const std::string& title);
+
   struct MadeForm {
     std::string name;
     std::weak_ptr<HeadlessForm> form;

@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/headless/memory_procedures.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/fingerprint.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::headless {
 namespace {
@@ -44,20 +45,13 @@ CallOutcome GetBook(MemoryTables& tables, const std::vector<Value>& inputs) {
   const Value& wanted = inputs[0];
   if (!wanted.IsEmpty() && !IsMoney(tables, wanted)) return {kUnknownCurrency, {}};
   Rows books;
-  Rows rules;
   for (const auto& [currency, book] : tables.books) {
     if (!wanted.IsEmpty() && wanted != Value(currency)) continue;
     books.push_back({currency, book.publisher, book.document, FingerprintOf(book), book.from_year});
-    std::int32_t position = 0;
-    for (const MemoryRecurrence& rule : book.rules) {
-      rules.push_back(
-          {currency, ++position, rule.name, rule.type, rule.expression, rule.comment, rule.moved_name});
-    }
   }
   return {kDone,
           {Records({"ID1", "Publisher", "Document", "Fingerprint", "FromYear"}, std::move(books)),
-           Records({"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"},
-                   std::move(rules))}};
+           RecordsOfRecurrences(tables, wanted)}};
 }
 
 /// The rule that the members of a JSON object say; nothing when they say something else.
@@ -71,11 +65,17 @@ std::optional<MemoryRecurrence> ReadRule(const JsonValue& object) {
   const auto moved_name = members.TextOrNothing("MovedName");
   if (!name || !expression || !comment || !moved_name) return std::nullopt;
   if (IsBlank(*name) || IsBlank(*expression)) return std::nullopt;
+  if (IsLongerThan(platform::kLongestName, *name) || IsLongerThan(platform::kLongestName, *moved_name) ||
+      IsLongerThan(platform::kLongestComment, *expression) ||
+      IsLongerThan(platform::kLongestComment, *comment)) {
+    return std::nullopt;
+  }
   return MemoryRecurrence{platform::ToText(*name), *type, platform::ToText(*expression), *comment,
                           *moved_name};
 }
 
 std::optional<std::vector<MemoryRecurrence>> ReadRules(const std::string& text) {
+  if (text.size() > platform::kLongestList) return std::nullopt;
   const auto json = ReadJson(text);
   if (!json || json->kind != JsonValue::Kind::kList || json->items.size() > kMostRules) return std::nullopt;
   std::vector<MemoryRecurrence> rules;
@@ -95,6 +95,8 @@ CallOutcome InsertOrUpdateBook(MemoryTables& tables, const std::vector<Value>& i
       std::count_if(texts.begin(), texts.end(), [](const Value& text) { return text.IsEmpty(); });
   if (currency.IsEmpty() || expected.IsEmpty() || missing == 1 || missing == 2) return {kWrongValue, {}};
   const Value& from_year = inputs[5];
+  if (IsLongerThan(platform::kLongestName, inputs[2]) || IsLongerThan(platform::kLongestComment, inputs[3]))
+    return {kWrongValue, {}};
   if (!from_year.IsEmpty() && (missing != 0 || !IsYear(from_year))) return {kWrongValue, {}};
   std::optional<std::vector<MemoryRecurrence>> rules;
   if (missing == 0) {

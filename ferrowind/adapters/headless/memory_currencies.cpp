@@ -5,6 +5,7 @@
 #include "ferrowind/adapters/headless/memory_lookup.h"
 #include "ferrowind/adapters/headless/memory_procedures.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::headless {
 namespace {
@@ -14,14 +15,7 @@ using platform::ParameterType;
 using platform::Value;
 
 CallOutcome GetCurrencies(MemoryTables& tables, const std::vector<Value>&) {
-  Rows rows;
-  for (const MemoryCurrency& currency : tables.currencies) {
-    rows.push_back({currency.id, currency.code, currency.type, currency.name, currency.last_day});
-  }
-  std::sort(rows.begin(), rows.end(), [](const auto& left, const auto& right) {
-    return *left[0].template If<std::int32_t>() < *right[0].template If<std::int32_t>();
-  });
-  return {kDone, {Records({"CcyID", "Ccy", "CcyType", "Name", "LastDay"}, std::move(rows))}};
+  return {kDone, {RecordsOfCurrencies(tables)}};
 }
 
 bool IsCode(const Value& text) {
@@ -44,7 +38,7 @@ bool IsInTheWay(const MemoryTables& tables, const MemoryCurrency& currency) {
 
 CallOutcome InsertOrUpdateCurrency(MemoryTables& tables, const std::vector<Value>& inputs) {
   if (!IsBetween(inputs[0], 1, 999) || !IsCode(inputs[1]) || !IsBetween(inputs[2], 0, 1) ||
-      IsBlank(inputs[3])) {
+      IsBlank(inputs[3]) || IsLongerThan(platform::kLongestName, inputs[3])) {
     return {kWrongValue, {}};
   }
   const MemoryCurrency changed{platform::ToInt32(inputs[0]), platform::ToText(inputs[1]),

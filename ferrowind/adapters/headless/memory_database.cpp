@@ -65,7 +65,9 @@ MemoryDatabase::MemoryDatabase() {
   AddUndoProcedure(*this);
   AddPastProcedures(*this);
   AddYearProcedures(*this);
+  AddContentProcedure(*this);
   AddCurrencyProcedures(*this);
+  AddConventionProcedures(*this);
 }
 
 void MemoryDatabase::AddProcedure(const std::string& name,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -29,6 +30,13 @@ struct MemoryProcedure {
   Kind kind = Kind::kUnrecorded;
 };
 
+/// That a database behaves like one whose server does not answer.
+struct MemorySilence {
+  /// What its watches tell; nothing while it answers.
+  std::optional<std::chrono::milliseconds> until_next_try;
+  int tries_asked_for = 0;
+};
+
 /// A calendar database in memory, with all procedures and what belongs to an empty one: currencies (a
 /// choice of them), holiday types, the built-in rule and the setting.
 class MemoryDatabase {
@@ -52,6 +60,8 @@ class MemoryDatabase {
   /// When the history says that the calls from now on were made, as it writes moments, none before an earlier
   /// one's; at first each when it is made.
   void SetMoment(std::string moment) { moment_ = std::move(moment); }
+  /// For a test to set: while it is silent nobody can connect.
+  [[nodiscard]] MemorySilence& Silence() { return silence_; }
   /// Found without regard to case; a failure that names it when there is none.
   [[nodiscard]] const MemoryProcedure& ProcedureNamed(const std::string& name) const;
   /// Calls it in a transaction, as `platform::Connection::Call` promises.
@@ -68,6 +78,7 @@ class MemoryDatabase {
   MemoryHistory history_;
   std::string user_ = "memory";
   std::optional<std::string> moment_;
+  MemorySilence silence_;
   std::vector<MemoryProcedure> procedures_;
 };
 

@@ -43,6 +43,19 @@ class MemoryWatch : public platform::ChangeWatch {
   std::optional<std::size_t> seen_entries_;
 };
 
+class MemorySilenceWatch : public platform::SilenceWatch {
+ public:
+  explicit MemorySilenceWatch(std::shared_ptr<MemoryDatabase> database) : database_(std::move(database)) {}
+
+  [[nodiscard]] std::optional<std::chrono::milliseconds> Look() override {
+    return database_->Silence().until_next_try;
+  }
+  void TryNow() override { ++database_->Silence().tries_asked_for; }
+
+ private:
+  std::shared_ptr<MemoryDatabase> database_;
+};
+
 constexpr const char* kScheme = "memory:";
 
 }  // namespace
@@ -52,7 +65,12 @@ MemoryDatabase& MemoryEngine::CreateDatabase(const std::string& name) {
 }
 
 std::unique_ptr<platform::Connection> MemoryEngine::Connect(const std::string& connection_string) {
-  return std::make_unique<MemoryConnection>(DatabaseOf(connection_string));
+  auto database = DatabaseOf(connection_string);
+  if (database->Silence().until_next_try) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            "The database in memory does not answer");
+  }
+  return std::make_unique<MemoryConnection>(std::move(database));
 }
 
 std::shared_ptr<platform::RecordSet> MemoryEngine::ReadDictionary(const std::string& connection_string,
@@ -62,6 +80,10 @@ std::shared_ptr<platform::RecordSet> MemoryEngine::ReadDictionary(const std::str
 
 std::unique_ptr<platform::ChangeWatch> MemoryEngine::Watch(const std::string& connection_string) {
   return std::make_unique<MemoryWatch>(DatabaseOf(connection_string));
+}
+
+std::unique_ptr<platform::SilenceWatch> MemoryEngine::WatchSilence(const std::string& connection_string) {
+  return std::make_unique<MemorySilenceWatch>(DatabaseOf(connection_string));
 }
 
 std::shared_ptr<MemoryDatabase> MemoryEngine::DatabaseOf(const std::string& connection_string) const {

@@ -20,6 +20,8 @@ class MemoryEngine : public platform::Engine {
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,
                                                                     const std::string& name) override;
   [[nodiscard]] std::unique_ptr<platform::ChangeWatch> Watch(const std::string& connection_string) override;
+  [[nodiscard]] std::unique_ptr<platform::SilenceWatch> WatchSilence(
+      const std::string& connection_string) override;
 
  private:
   [[nodiscard]] std::shared_ptr<MemoryDatabase> DatabaseOf(const std::string& connection_string) const;

@@ -57,7 +57,7 @@ bool AreAsLeft(const std::map<Key, MemoryChange<Row>>& changes, const std::map<K
 }  // namespace
 
 std::int32_t MemoryChanges::CountRows() const {
-  std::size_t count = days.size() + calendars.size() + rules.size() + currencies.size();
+  std::size_t count = days.size() + calendars.size() + rules.size() + currencies.size() + conventions.size();
   for (const auto& [key, change] : calendars)
     count += (change.before ? *change.before : *change.after).size();
   for (const auto& [key, change] : books) {
@@ -78,6 +78,7 @@ MemoryChanges ChangesBetween(const MemoryTables& before, const MemoryTables& aft
   });
   changes.rules = Compare(before.rules, after.rules);
   changes.books = Compare(before.books, after.books);
+  changes.conventions = Compare(before.conventions, after.conventions);
   changes.currencies = Compare(ById(before.currencies), ById(after.currencies));
   return changes;
 }
@@ -89,6 +90,7 @@ void PutBack(const MemoryChanges& changes, MemoryTables& tables) {
   }
   PutBackRows(changes.rules, tables.rules);
   PutBackRows(changes.books, tables.books);
+  PutBackRows(changes.conventions, tables.conventions);
   auto currencies = ById(tables.currencies);
   PutBackRows(changes.currencies, currencies);
   tables.currencies.clear();
@@ -104,6 +106,7 @@ bool AreAsLeft(const MemoryChanges& changes, const MemoryTables& tables) {
   });
   return are_days && AreAsLeft(changes.calendars, tables.calendars) &&
          AreAsLeft(changes.rules, tables.rules) && AreAsLeft(changes.books, tables.books) &&
+         AreAsLeft(changes.conventions, tables.conventions) &&
          AreAsLeft(changes.currencies, ById(tables.currencies));
 }
 

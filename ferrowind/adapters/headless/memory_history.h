@@ -28,6 +28,7 @@ struct MemoryChanges {
   std::map<std::int32_t, MemoryChange<MemoryRule>> rules;
   std::map<std::int32_t, MemoryChange<MemoryBook>> books;
   std::map<std::int32_t, MemoryChange<MemoryCurrency>> currencies;
+  std::map<ConventionKey, MemoryChange<MemoryConvention>> conventions;
 
   /// The days of a calendar that was made or removed count, too.
   [[nodiscard]] std::int32_t CountRows() const;

@@ -5,6 +5,7 @@
 
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::headless {
 
@@ -24,6 +25,10 @@ bool IsBetween(const Value& value, std::int32_t lowest, std::int32_t highest) {
 bool IsYear(const Value& value) { return IsBetween(value, 1900, 3000); }
 
 bool IsBlank(const Value& text) { return text.IsEmpty() || platform::Trim(platform::ToText(text)).empty(); }
+
+bool IsLongerThan(std::size_t most, const Value& text) {
+  return !text.IsEmpty() && platform::CharacterCount(platform::ToText(text)) > most;
+}
 
 const MemoryCurrency* CurrencyOf(const MemoryTables& tables, const Value& currency) {
   const auto found = std::find_if(tables.currencies.begin(), tables.currencies.end(),
@@ -62,6 +67,29 @@ Rows RowsOfCalendar(const MemoryTables& tables, const CalendarKey& key) {
                     day.rule ? Value(*day.rule) : Value(), offset + 1});
   }
   return rows;
+}
+
+std::shared_ptr<platform::RecordSet> RecordsOfCurrencies(const MemoryTables& tables) {
+  std::vector<MemoryCurrency> currencies = tables.currencies;
+  std::sort(currencies.begin(), currencies.end(),
+            [](const auto& left, const auto& right) { return left.id < right.id; });
+  Rows rows;
+  for (const MemoryCurrency& currency : currencies) {
+    rows.push_back({currency.id, currency.code, currency.type, currency.name, currency.last_day});
+  }
+  return Records({"CcyID", "Ccy", "CcyType", "Name", "LastDay"}, std::move(rows));
+}
+
+std::shared_ptr<platform::RecordSet> RecordsOfRecurrences(const MemoryTables& tables, const Value& currency) {
+  Rows rows;
+  for (const auto& [id, book] : tables.books) {
+    if (!currency.IsEmpty() && currency != Value(id)) continue;
+    std::int32_t position = 0;
+    for (const MemoryRecurrence& rule : book.rules) {
+      rows.push_back({id, ++position, rule.name, rule.type, rule.expression, rule.comment, rule.moved_name});
+    }
+  }
+  return Records({"ID1", "Position", "Name1", "TID1", "Expression", "Comment", "MovedName"}, std::move(rows));
 }
 
 MemoryRule* RuleOf(MemoryTables& tables, const Value& rule) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -42,6 +43,9 @@ using Rows = std::vector<std::vector<platform::Value>>;
 /// Nothing but blanks, or empty.
 [[nodiscard]] bool IsBlank(const platform::Value& text);
 
+/// Whether the text, where there is one, has more characters.
+[[nodiscard]] bool IsLongerThan(std::size_t most, const platform::Value& text);
+
 /// Null when there is none of that number.
 [[nodiscard]] const MemoryCurrency* CurrencyOf(const MemoryTables& tables, const platform::Value& currency);
 [[nodiscard]] bool IsMoney(const MemoryTables& tables, const platform::Value& currency);
@@ -54,6 +58,12 @@ using Rows = std::vector<std::vector<platform::Value>>;
 /// Every day an ordinary working day.
 [[nodiscard]] std::vector<MemoryDay> NewCalendar(std::int32_t year);
 [[nodiscard]] Rows RowsOfCalendar(const MemoryTables& tables, const CalendarKey& key);
+
+/// By number, with the fields of `CldGetCurrencies`.
+[[nodiscard]] std::shared_ptr<platform::RecordSet> RecordsOfCurrencies(const MemoryTables& tables);
+/// The rules of the currency's book, without a currency of all books, with the fields of `CldGetBook`.
+[[nodiscard]] std::shared_ptr<platform::RecordSet> RecordsOfRecurrences(const MemoryTables& tables,
+                                                                        const platform::Value& currency);
 
 [[nodiscard]] MemoryRule* RuleOf(MemoryTables& tables, const platform::Value& rule);
 /// The number of the rule of that name, without regard to letter case and outer blanks; 0 when there is none.

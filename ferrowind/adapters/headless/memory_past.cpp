@@ -66,6 +66,14 @@ Value ContentOf(const std::optional<MemoryCurrency>& currency) {
   return json.Text();
 }
 
+Value ContentOf(const std::optional<MemoryConvention>& convention) {
+  if (!convention) return {};
+  platform::JsonObject json;
+  json.Add("SpotDays", convention->spot_days);
+  json.Add("DollarStops", convention->dollar_stops);
+  return json.Text();
+}
+
 /// Of the book's own row, without its rules.
 Value ContentOf(const std::optional<MemoryBook>& book) {
   if (!book) return {};
@@ -97,6 +105,9 @@ Rows RowsOf(const MemoryChanges& changes) {
   };
   for (const auto& [id, change] : changes.books) {
     add("CldBook", id, {}, {}, ContentOf(change.before), ContentOf(change.after));
+  }
+  for (const auto& [key, change] : changes.conventions) {
+    add("CldConvention", key.first, {}, key.second, ContentOf(change.before), ContentOf(change.after));
   }
   for (const auto& [id, change] : changes.rules) {
     add("CldHoliday", {}, id, {}, ContentOf(change.before), ContentOf(change.after));

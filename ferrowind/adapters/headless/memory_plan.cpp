@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/headless/memory_procedures.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/fingerprint.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::headless {
 namespace {
@@ -19,8 +20,6 @@ using platform::JsonValue;
 using platform::ParameterType;
 using platform::ReadJson;
 using platform::Value;
-
-constexpr std::size_t kMostBytes = 1048576;
 
 /// An item of a plan's days: the rule that its dates get.
 struct Item {
@@ -85,11 +84,15 @@ std::optional<Item> ReadItem(const JsonValue& object, std::int32_t year, std::se
   const auto dates = ReadDates(members.Find("Dates"), year, seen);
   if (!members.AreWellFormed() || !name || !type || !comment || !day_comment || !dates) return std::nullopt;
   if (name->IsEmpty() ? *type != kWorkingDay || !comment->IsEmpty() : IsBlank(*name)) return std::nullopt;
+  if (IsLongerThan(platform::kLongestName, *name) || IsLongerThan(platform::kLongestComment, *comment) ||
+      IsLongerThan(platform::kLongestComment, *day_comment)) {
+    return std::nullopt;
+  }
   return Item{*name, *type, *comment, *dates, *day_comment};
 }
 
 std::optional<std::vector<Item>> ReadItems(const std::string& text, std::int32_t year) {
-  if (text.size() > kMostBytes) return std::nullopt;
+  if (text.size() > platform::kLongestList) return std::nullopt;
   const auto json = ReadJson(text);
   if (!json || json->kind != JsonValue::Kind::kList) return std::nullopt;
   std::vector<Item> items;

@@ -6,6 +6,7 @@
 #include "ferrowind/adapters/headless/memory_database.h"
 #include "ferrowind/adapters/headless/memory_lookup.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::headless {
 namespace {
@@ -103,7 +104,8 @@ void AssignWeekdays(const MemoryTables& tables, const Assignment& call, const Me
 
 CallOutcome InsertOrUpdateMain(MemoryTables& tables, const std::vector<Value>& inputs) {
   const Assignment call(inputs);
-  if (call.currency.IsEmpty() || !IsYear(call.year)) return {kWrongValue, {}};
+  if (call.currency.IsEmpty() || !IsYear(call.year) || IsLongerThan(platform::kLongestComment, call.comment))
+    return {kWrongValue, {}};
   if (!IsMoney(tables, call.currency)) return {kUnknownCurrency, {}};
   if (call.type.IsEmpty()) return {CreateCalendar(tables, call), {}};
   if (HasWrongValue(call)) return {kWrongValue, {}};
@@ -145,7 +147,8 @@ struct RuleCall {
 };
 
 bool HasWrongValue(const RuleCall& call) {
-  if (IsBlank(call.name)) return true;
+  if (IsBlank(call.name) || IsLongerThan(platform::kLongestName, call.name)) return true;
+  if (IsLongerThan(platform::kLongestComment, call.comment)) return true;
   if (!IsBetween(call.type, kWeekdayType, kLastType)) return true;
   if (platform::ToInt32(call.type) == kWeekdayType)
     return !IsBetween(call.weekday, 1, 7) || !call.HasNoDate();

@@ -16,7 +16,11 @@ void AddUndoProcedure(MemoryDatabase& database);
 void AddPastProcedures(MemoryDatabase& database);
 /// Adds `CldGetClosedDays` and `CldGetMarkedDays`.
 void AddYearProcedures(MemoryDatabase& database);
+/// Adds `CldGetContent`.
+void AddContentProcedure(MemoryDatabase& database);
 /// Adds `CldIUCurrency` and `CldGetCurrencies`.
 void AddCurrencyProcedures(MemoryDatabase& database);
+/// Adds `CldIUConvention` and `CldGetConventions`.
+void AddConventionProcedures(MemoryDatabase& database);
 
 }  // namespace ferrowind::headless

@@ -36,16 +36,16 @@ struct MemoryDay {
 
 struct MemoryRule {
   std::string name;
-  platform::Value comment;
+  platform::Value comment = {};
   std::int32_t type = 0;
   /// Of a dated rule: date, and its month and day, int16.
-  platform::Value date;
-  platform::Value month;
-  platform::Value day;
+  platform::Value date = {};
+  platform::Value month = {};
+  platform::Value day = {};
   /// Of a weekday rule: int16.
-  platform::Value weekday;
+  platform::Value weekday = {};
   /// int16: 2 removed, 4 restored.
-  platform::Value removal_mark;
+  platform::Value removal_mark = {};
 
   friend bool operator==(const MemoryRule&, const MemoryRule&) = default;
 };
@@ -71,6 +71,17 @@ struct MemoryBook {
   friend bool operator==(const MemoryBook&, const MemoryBook&) = default;
 };
 
+/// Of a pair the days to spot, of a currency whether a holiday of the dollar stops the count.
+struct MemoryConvention {
+  platform::Value spot_days;
+  platform::Value dollar_stops;
+
+  friend bool operator==(const MemoryConvention&, const MemoryConvention&) = default;
+};
+
+/// The numbers of a pair's currencies, ascending; of one currency twice its number.
+using ConventionKey = std::pair<std::int32_t, std::int32_t>;
+
 /// Currency and year.
 using CalendarKey = std::pair<std::int32_t, std::int32_t>;
 
@@ -83,6 +94,7 @@ struct MemoryTables {
   std::map<CalendarKey, std::vector<MemoryDay>> calendars;
   /// By currency.
   std::map<std::int32_t, MemoryBook> books;
+  std::map<ConventionKey, MemoryConvention> conventions;
   /// The weekday that a week begins with, 1 Sunday to 7 Saturday.
   std::int32_t first_day = 1;
   /// Rows of tables that a test's own procedures keep, by table name.

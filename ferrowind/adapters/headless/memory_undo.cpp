@@ -32,7 +32,7 @@ class Undoing {
   [[nodiscard]] bool Run(MemoryTables& tables) const {
     PutBack(changes_, tables);
     KeepRulesInUse(tables);
-    return HasLiveMoney(tables);
+    return HasLiveMoney(tables) && HasCurrenciesOfConventions(tables);
   }
 
  private:
@@ -108,6 +108,13 @@ class Undoing {
                  changes_.calendars.contains(calendar.first) || changes_.currencies.contains(currency);
              return !is_concerned || IsLiveMoney(tables, currency, year);
            });
+  }
+
+  [[nodiscard]] static bool HasCurrenciesOfConventions(const MemoryTables& tables) {
+    return std::all_of(tables.conventions.begin(), tables.conventions.end(), [&](const auto& convention) {
+      return CurrencyOf(tables, convention.first.first) != nullptr &&
+             CurrencyOf(tables, convention.first.second) != nullptr;
+    });
   }
 
   const MemoryChanges& changes_;

@@ -27,10 +27,16 @@ CallOutcome GetClosedDays(MemoryTables& tables, const std::vector<Value>& inputs
   for (const auto& [key, days] : tables.calendars) {
     if (!IsIn(key, inputs)) continue;
     std::string closed;
-    for (const MemoryDay& day : days) closed += day.type == kWorkingDay ? '0' : '1';
-    rows.push_back({key.first, key.second, std::move(closed)});
+    bool is_prepared = false;
+    for (const MemoryDay& day : days) {
+      closed += day.type == kWorkingDay ? '0' : '1';
+      is_prepared = is_prepared || day.type > kWeekdayType;
+    }
+    const MemoryCurrency* const currency = CurrencyOf(tables, key.first);
+    rows.push_back({key.first, key.second, std::move(closed), currency != nullptr ? currency->code : "",
+                    is_prepared ? 1 : 0});
   }
-  return {kDone, {Records({"ID1", "Year1", "Days"}, std::move(rows))}};
+  return {kDone, {Records({"ID1", "Year1", "Days", "Ccy", "IsPrepared"}, std::move(rows))}};
 }
 
 CallOutcome GetMarkedDays(MemoryTables& tables, const std::vector<Value>& inputs) {

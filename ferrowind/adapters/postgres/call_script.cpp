@@ -29,17 +29,23 @@ const char* ServerType(ParameterType type) {
 }  // namespace
 
 CallScript::CallScript(const ServerConnection& connection, const ProcedureSignature& signature,
-                       const std::vector<platform::Value>& inputs)
-    // As long as a database file would be waited for. Longer, and the operator would take the window for
-    // dead.
-    : set_inputs_("SELECT set_config('lock_timeout', '5s', true)") {
+                       const std::vector<platform::Value>& inputs, std::chrono::milliseconds lock_timeout)
+    : set_inputs_("SELECT set_config('lock_timeout', '" + std::to_string(lock_timeout.count()) +
+                  "ms', true)") {
   std::string declarations;
   std::string arguments;
   std::string after_call;
+  std::size_t position = 0;
   std::size_t input = 0;
   std::size_t record_set = 0;
   for (const Argument argument : signature.arguments) {
     if (!arguments.empty()) arguments += ", ";
+    // By name, so that a procedure which was declared anew since it was described is not called with values
+    // for something else.
+    if (!signature.argument_names.empty()) {
+      arguments += connection.Identifier(signature.argument_names.at(position)) + " => ";
+    }
+    ++position;
     switch (argument) {
       case Argument::kInput:
         arguments += AddInput(signature.parameters.at(input + 1), inputs.at(input));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -21,9 +22,9 @@ namespace ferrowind::postgres {
 class CallScript {
  public:
   /// `inputs` has a value for each input of the procedure, of the declared type or empty; a text with NUL is
-  /// not possible here.
+  /// not possible here. The call waits for each lock of others no longer than `lock_timeout`.
   CallScript(const ServerConnection& connection, const ProcedureSignature& signature,
-             const std::vector<platform::Value>& inputs);
+             const std::vector<platform::Value>& inputs, std::chrono::milliseconds lock_timeout);
 
   /// Sets the inputs, and how long the call waits for others.
   [[nodiscard]] const std::string& SetInputs() const { return set_inputs_; }

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <poll.h>
-
 #include "ferrowind/adapters/postgres/postgres_failure.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/platform/database/failure_boundary.h"
@@ -21,17 +19,12 @@ constexpr milliseconds kStepPause{50};
 constexpr milliseconds kLongestDelay = seconds(60);
 constexpr seconds kTimeToConnect{10};
 
-bool IsReady(const PGconn* connection, PostgresPollingStatusType direction) {
-  pollfd socket{PQsocket(connection),
-                static_cast<short>(direction == PGRES_POLLING_READING ? POLLIN : POLLOUT), 0};
-  return poll(&socket, 1, 0) > 0;
-}
-
 }  // namespace
 
 bool ChangeListener::Look() {
   return platform::WithFailuresOnly([&] {
     try {
+      HeedSilence();
       if (stage_ == Stage::kListening) return HasNews();
       if (stage_ == Stage::kOff) {
         if (Clock::now() < next_try_) return false;
@@ -53,31 +46,34 @@ bool ChangeListener::Look() {
 }
 
 milliseconds ChangeListener::Pause() const {
-  return stage_ == Stage::kConnecting || stage_ == Stage::kAsking ? kStepPause : kIdlePause;
+  return stage_ == Stage::kOff || stage_ == Stage::kListening ? kIdlePause : kStepPause;
+}
+
+void ChangeListener::HeedSilence() {
+  const bool is_silent = servers_->NextTry(connection_string_).has_value();
+  if (is_silent && stage_ == Stage::kListening) GiveUp();
+  if (!is_silent && was_silent_ && stage_ == Stage::kOff) next_try_ = Clock::now();
+  was_silent_ = is_silent;
 }
 
 void ChangeListener::BeginToConnect() {
-  const ConnectionArguments arguments(uri_);
-  connection_.reset(PQconnectStartParams(arguments.Keywords(), arguments.Values(), 0));
-  if (!connection_ || PQstatus(connection_.get()) == CONNECTION_BAD) throw ConnectFailure(connection_.get());
+  attempt_ = std::make_unique<ConnectionAttempt>(uri_, servers_->Dead(), kTimeToConnect);
   stage_ = Stage::kConnecting;
-  waits_for_ = PGRES_POLLING_WRITING;
   deadline_ = Clock::now() + kTimeToConnect;
 }
 
 bool ChangeListener::GoOnConnecting() {
-  while (IsReady(connection_.get(), waits_for_)) {
-    waits_for_ = PQconnectPoll(connection_.get());
-    if (waits_for_ == PGRES_POLLING_OK) return true;
-    if (waits_for_ == PGRES_POLLING_FAILED) throw ConnectFailure(connection_.get());
+  if (attempt_->GoOn(Clock::now())) {
+    connection_ = attempt_->Take();
+    attempt_.reset();
+    servers_->Answered(connection_string_);
+    return true;
   }
   if (Clock::now() < deadline_) return false;
-  throw FailureOfState("08001", NameOfDatabase(connection_.get()) + " cannot be connected to",
-                       "the server does not answer");
+  throw NoAnswer("08001", attempt_->DatabaseName(), kTimeToConnect);
 }
 
 void ChangeListener::AskToBeNotified() {
-  PQsetNoticeReceiver(connection_.get(), DropNotice, nullptr);
   if (PQsetnonblocking(connection_.get(), 1) != 0 || PQsendQuery(connection_.get(), kListen) != 1) {
     throw LinkFailure(connection_.get());
   }
@@ -87,15 +83,19 @@ void ChangeListener::AskToBeNotified() {
 bool ChangeListener::IsAgreed() {
   if (PQflush(connection_.get()) < 0) throw LinkFailure(connection_.get());
   TakeWhatCame();
-  if (PQisBusy(connection_.get()) == 1) {
-    if (Clock::now() < deadline_) return false;
-    throw FailureOfState("08006", NameOfDatabase(connection_.get()) + " was disconnected",
-                         "the server does not answer");
+  // To the end, behind which only notifications are taken in: rows of an answer that goes on for ever would
+  // be kept.
+  while (PQisBusy(connection_.get()) == 0) {
+    const QueryResult answer(PQgetResult(connection_.get()));
+    if (!answer && stage_ == Stage::kAgreed) return true;
+    if (PQresultStatus(answer.get()) != PGRES_COMMAND_OK) {
+      throw answer ? ResultFailure(connection_.get(), answer.get())
+                   : StrangeAnswer(connection_.get(), "none");
+    }
+    stage_ = Stage::kAgreed;
   }
-  // What ends the answer is taken in with the notifications.
-  const QueryResult answer(PQgetResult(connection_.get()));
-  if (PQresultStatus(answer.get()) != PGRES_COMMAND_OK) throw ResultFailure(connection_.get(), answer.get());
-  return true;
+  if (Clock::now() < deadline_) return false;
+  throw NoAnswer("08006", NameOfDatabase(connection_.get()), kTimeToConnect);
 }
 
 bool ChangeListener::HasNews() {
@@ -113,6 +113,7 @@ void ChangeListener::TakeWhatCame() {
 }
 
 void ChangeListener::GiveUp() {
+  attempt_.reset();
   connection_.reset();
   stage_ = Stage::kOff;
   next_try_ = Clock::now() + next_delay_;

@@ -3,10 +3,14 @@
 #include <chrono>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include <libpq-fe.h>
 
+#include "ferrowind/adapters/postgres/connection_attempt.h"
+#include "ferrowind/adapters/postgres/connection_handle.h"
 #include "ferrowind/adapters/postgres/connection_uri.h"
+#include "ferrowind/adapters/postgres/silent_servers.h"
 #include "ferrowind/platform/database/change_watch.h"
 
 namespace ferrowind::postgres {
@@ -19,7 +23,9 @@ namespace ferrowind::postgres {
 class ChangeListener : public platform::ChangeWatch {
  public:
   /// Connects as `uri` (connection_uri.h) says, beginning with the first look.
-  explicit ChangeListener(const std::string& uri) : uri_(uri) {}
+  /// `servers` learns when the server answers.
+  ChangeListener(const std::string& uri, std::shared_ptr<SilentServers> servers)
+      : connection_string_(uri), uri_(uri), servers_(std::move(servers)) {}
 
   [[nodiscard]] bool Look() override;
   [[nodiscard]] std::chrono::milliseconds Pause() const override;
@@ -34,13 +40,13 @@ class ChangeListener : public platform::ChangeWatch {
     kConnecting,
     /// The server has been asked to notify.
     kAsking,
+    /// It has agreed, and its answer has not ended.
+    kAgreed,
     kListening,
   };
 
-  struct Finish {
-    void operator()(PGconn* connection) const { PQfinish(connection); }
-  };
-
+  /// When calls find that the server does not answer, nobody knows whether the connection outlives that.
+  void HeedSilence();
   void BeginToConnect();
   /// Goes on for as long as nothing is to be waited for. True once the connection stands.
   [[nodiscard]] bool GoOnConnecting();
@@ -53,11 +59,14 @@ class ChangeListener : public platform::ChangeWatch {
   /// Tries again after a while, the longer the more tries came to nothing.
   void GiveUp();
 
+  std::string connection_string_;
   ConnectionUri uri_;
-  std::unique_ptr<PGconn, Finish> connection_;
+  std::shared_ptr<SilentServers> servers_;
+  /// While it connects.
+  std::unique_ptr<ConnectionAttempt> attempt_;
+  ConnectionHandle connection_;
   Stage stage_ = Stage::kOff;
-  /// What libpq waits for while it connects.
-  PostgresPollingStatusType waits_for_ = PGRES_POLLING_WRITING;
+  bool was_silent_ = false;
   Clock::time_point next_try_ = Clock::time_point::min();
   /// When a connection that does not come about is given up.
   Clock::time_point deadline_;

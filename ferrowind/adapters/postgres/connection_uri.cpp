@@ -1,8 +1,11 @@
 #include "ferrowind/adapters/postgres/connection_uri.h"
 
 #include <algorithm>
+#include <charconv>
 #include <memory>
+#include <optional>
 #include <string_view>
+#include <system_error>
 
 #include <libpq-fe.h>
 
@@ -53,13 +56,62 @@ bool IsSecret(const PQconninfoOption& option) {
          keyword.find("secret") != std::string_view::npos;
 }
 
+/// A URI as libpq knows it, and what stood in it for this adapter.
+struct SplitUri {
+  std::string text;
+  std::optional<std::string> call_timeout = std::nullopt;
+  std::optional<std::string> keep_sessions = std::nullopt;
+};
+
+/// Of several values the last one holds, as with libpq's own keywords.
+SplitUri TakeOwnKeywords(const std::string& uri) {
+  SplitUri taken;
+  const auto query = uri.find('?');
+  taken.text = uri.substr(0, query);
+  if (query == std::string::npos) return taken;
+  const auto take = [](const std::string& parameter, const char* keyword, std::optional<std::string>& value) {
+    const std::string beginning = std::string(keyword) + "=";
+    if (!parameter.starts_with(beginning)) return false;
+    value = parameter.substr(beginning.size());
+    return true;
+  };
+  char sign = '?';
+  for (std::size_t at = query + 1; at <= uri.size();) {
+    const std::size_t end = std::min(uri.find('&', at), uri.size());
+    const std::string parameter = uri.substr(at, end - at);
+    at = end + 1;
+    if (take(parameter, kCallTimeout, taken.call_timeout)) continue;
+    if (take(parameter, kKeepSessions, taken.keep_sessions)) continue;
+    taken.text += sign + parameter;
+    sign = '&';
+  }
+  return taken;
+}
+
+std::chrono::seconds CallTimeoutIn(std::string_view text) {
+  constexpr int kMost = 600;
+  int seconds = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+  if (error != std::errc() || end != text.data() + text.size() || seconds < 1 || seconds > kMost) {
+    throw NotUnderstood("has a call_timeout that is no whole number of seconds from 1 to 600");
+  }
+  return std::chrono::seconds(seconds);
+}
+
+SessionKeeping KeepingIn(std::string_view text) {
+  if (text == "yes") return SessionKeeping::kAlways;
+  if (text == "no") return SessionKeeping::kNever;
+  throw NotUnderstood("has a keep_sessions that is neither yes nor no");
+}
+
 }  // namespace
 
 std::vector<UriSetting> SettingsIn(const std::string& text) {
   RefuseMisplacedSigns(BehindScheme(text));
   if (text.find('\0') != std::string::npos) throw NotUnderstood("holds the character NUL");
+  const SplitUri known = TakeOwnKeywords(text);
   char* error = nullptr;
-  const std::unique_ptr<PQconninfoOption, OptionsFree> options(PQconninfoParse(text.c_str(), &error));
+  const std::unique_ptr<PQconninfoOption, OptionsFree> options(PQconninfoParse(known.text.c_str(), &error));
   // Its text may quote the whole string.
   PQfreemem(error);
   if (!options) throw NotUnderstood("is not a URI that the PostgreSQL library understands");
@@ -69,11 +121,27 @@ std::vector<UriSetting> SettingsIn(const std::string& text) {
     if (std::string_view(option->keyword) == "port") RefuseWrongPort(option->val);
     settings.push_back({option->keyword, option->val, IsSecret(*option)});
   }
+  if (known.call_timeout) {
+    (void)CallTimeoutIn(*known.call_timeout);
+    settings.push_back({kCallTimeout, *known.call_timeout});
+  }
+  if (known.keep_sessions) {
+    (void)KeepingIn(*known.keep_sessions);
+    settings.push_back({kKeepSessions, *known.keep_sessions});
+  }
   return settings;
 }
 
 ConnectionUri::ConnectionUri(const std::string& text) {
-  for (const UriSetting& setting : SettingsIn(text)) Set(setting.keyword.c_str(), setting.value.c_str());
+  for (const UriSetting& setting : SettingsIn(text)) {
+    if (setting.keyword == kCallTimeout) {
+      call_timeout_ = CallTimeoutIn(setting.value);
+    } else if (setting.keyword == kKeepSessions) {
+      keeping_ = KeepingIn(setting.value);
+    } else {
+      Set(setting.keyword.c_str(), setting.value.c_str());
+    }
+  }
   Set("client_encoding", "UTF8");
   SetDefault("fallback_application_name", "Ferrowind");
   // In seconds; the last one, which is for data that the server does not acknowledge, in milliseconds.
@@ -95,8 +163,14 @@ void ConnectionUri::SetDefault(const char* keyword, const char* value) {
   if (!is_set) settings_.emplace_back(keyword, value);
 }
 
-ConnectionArguments::ConnectionArguments(const ConnectionUri& uri) {
-  for (const auto& [keyword, value] : uri.Settings()) {
+std::string ConnectionUri::ValueOf(std::string_view keyword) const {
+  const auto found = std::find_if(settings_.begin(), settings_.end(),
+                                  [&](const auto& setting) { return setting.first == keyword; });
+  return found == settings_.end() ? std::string() : found->second;
+}
+
+ConnectionArguments::ConnectionArguments(const ConnectionSettings& settings) {
+  for (const auto& [keyword, value] : settings) {
     keywords_.push_back(keyword.c_str());
     values_.push_back(value.c_str());
   }

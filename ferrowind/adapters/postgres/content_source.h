@@ -20,7 +20,8 @@ class ServerSource : public content::Source {
   [[nodiscard]] std::string Name() override { return connection_.DatabaseName(); }
   [[nodiscard]] std::string Identity() override;
   [[nodiscard]] std::int64_t CountRows(const content::Table& table) override;
-  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table) override;
+  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table,
+                                                         content::RowOrder order) override;
 
  private:
   [[nodiscard]] std::string NameOf(const content::Table& table) const;

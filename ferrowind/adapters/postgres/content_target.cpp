@@ -1,10 +1,15 @@
 #include "ferrowind/adapters/postgres/content_target.h"
 
 #include <cstddef>
+#include <map>
+#include <optional>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "ferrowind/adapters/postgres/postgres_failure.h"
+#include "ferrowind/adapters/postgres/table_keys.h"
+#include "ferrowind/adapters/postgres/table_locks.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -55,10 +60,13 @@ struct CopyText {
   }
 };
 
-/// Sends rows by COPY, many at a time.
+/// Sends rows by COPY, many at a time. When there are so many that heeding the table's keys row by row takes
+/// longer than making them anew, they are away meanwhile.
 class CopyWriter : public content::RowWriter {
  public:
-  CopyWriter(ServerConnection& connection, const content::Table& table) : connection_(connection) {
+  CopyWriter(ServerConnection& connection, const content::Table& table, std::int64_t rows)
+      : connection_(connection) {
+    if (rows >= kMany) keys_.emplace(connection_, std::string(table.name));
     const std::string sql = std::string("COPY ") + kSchema + "." + std::string(table.name) + " (" +
                             ColumnList(table) + ") FROM STDIN";
     const QueryResult result(PQexec(connection_.Get(), sql.c_str()));
@@ -82,15 +90,17 @@ class CopyWriter : public content::RowWriter {
     platform::WithFailuresOnly([&] {
       Send();
       if (PQputCopyEnd(connection_.Get(), nullptr) != 1) throw LinkFailure(connection_.Get());
-      const QueryResult result(PQgetResult(connection_.Get()));
+      const QueryResult result = connection_.TakeAnswer();
       if (PQresultStatus(result.get()) != PGRES_COMMAND_OK) throw Refusal(result.get());
-      while (const QueryResult more{PQgetResult(connection_.Get())}) {
+      while (connection_.TakeAnswer()) {
       }
+      if (keys_) keys_->PutBack();
     });
   }
 
  private:
   static constexpr std::size_t kEnough = std::size_t{64} * 1024;
+  static constexpr std::int64_t kMany = 2000;
 
   void Send() {
     if (PQputCopyData(connection_.Get(), lines_.data(), static_cast<int>(lines_.size())) != 1) {
@@ -109,13 +119,61 @@ class CopyWriter : public content::RowWriter {
   }
 
   ServerConnection& connection_;
+  std::optional<SetAsideKeys> keys_;
   std::string lines_;
+};
+
+/// The rows of a small source, read once, so that they can be compared with another one on its connection.
+class KeptContent : public content::Source {
+ public:
+  explicit KeptContent(content::Source& source) : name_(source.Name()), identity_(source.Identity()) {
+    for (const content::Table& table : content::Tables()) {
+      auto& kept = rows_[table.name];
+      const auto reader = source.Rows(table, content::RowOrder::kByKey);
+      for (content::Row row; reader->Next(row);) kept.push_back(row);
+    }
+  }
+
+  std::string Name() override { return name_; }
+  std::string Identity() override { return identity_; }
+  std::int64_t CountRows(const content::Table& table) override {
+    return static_cast<std::int64_t>(rows_.at(table.name).size());
+  }
+  std::unique_ptr<content::RowReader> Rows(const content::Table& table,
+                                           content::RowOrder /*order*/) override {
+    return std::make_unique<Reader>(rows_.at(table.name));
+  }
+
+ private:
+  class Reader : public content::RowReader {
+   public:
+    explicit Reader(const std::vector<content::Row>& rows) : rows_(rows) {}
+    bool Next(content::Row& row) override {
+      if (next_ == rows_.size()) return false;
+      row = rows_[next_++];
+      return true;
+    }
+
+   private:
+    const std::vector<content::Row>& rows_;
+    std::size_t next_ = 0;
+  };
+
+  std::string name_;
+  std::string identity_;
+  std::map<std::string_view, std::vector<content::Row>> rows_;
 };
 
 }  // namespace
 
 ServerTarget::ServerTarget(ServerConnection& connection, Kind kind)
     : connection_(connection), content_(connection, kSchema), kind_(kind) {}
+
+void ServerTarget::KeepOthersOut() {
+  // Nobody sees one that is new.
+  if (kind_ == Kind::kNew) return;
+  platform::WithFailuresOnly([&] { KeepOut(connection_, KeptOut::kEverybody); });
+}
 
 content::Source* ServerTarget::Delivered() {
   return platform::WithFailuresOnly([&]() -> content::Source* {
@@ -130,7 +188,8 @@ content::Source* ServerTarget::Delivered() {
     connection_.RunScript("SET LOCAL search_path = pg_temp;" + tables);
     connection_.RunScript(std::string(embedded::kBaseData));
     connection_.RunScript(std::string(embedded::kCurrencies));
-    delivered_ = std::make_unique<ServerSource>(connection_, "pg_temp");
+    ServerSource content(connection_, "pg_temp");
+    delivered_ = std::make_unique<KeptContent>(content);
     return delivered_.get();
   });
 }
@@ -140,8 +199,8 @@ void ServerTarget::Clear(const content::Table& table) {
       [&] { connection_.RunScript(std::string("DELETE FROM ") + kSchema + "." + std::string(table.name)); });
 }
 
-std::unique_ptr<content::RowWriter> ServerTarget::Writer(const content::Table& table) {
-  return platform::WithFailuresOnly([&] { return std::make_unique<CopyWriter>(connection_, table); });
+std::unique_ptr<content::RowWriter> ServerTarget::Writer(const content::Table& table, std::int64_t rows) {
+  return platform::WithFailuresOnly([&] { return std::make_unique<CopyWriter>(connection_, table, rows); });
 }
 
 void ContinueIdentifiers(ServerConnection& connection) {

@@ -23,18 +23,21 @@ class ServerTarget : public content::Target {
   [[nodiscard]] std::int64_t CountRows(const content::Table& table) override {
     return content_.CountRows(table);
   }
-  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table) override {
-    return content_.Rows(table);
+  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table,
+                                                         content::RowOrder order) override {
+    return content_.Rows(table, order);
   }
+  void KeepOthersOut() override;
   [[nodiscard]] content::Source* Delivered() override;
   void Clear(const content::Table& table) override;
-  [[nodiscard]] std::unique_ptr<content::RowWriter> Writer(const content::Table& table) override;
+  [[nodiscard]] std::unique_ptr<content::RowWriter> Writer(const content::Table& table,
+                                                           std::int64_t rows) override;
 
  private:
   ServerConnection& connection_;
   ServerSource content_;
   Kind kind_;
-  std::unique_ptr<ServerSource> delivered_;
+  std::unique_ptr<content::Source> delivered_;
 };
 
 /// Makes the server give out identifiers behind those that the tables hold.

@@ -1,15 +1,21 @@
+#include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "ferrowind/adapters/chain/history_check.h"
 #include "ferrowind/adapters/postgres/catalogue_comparison.h"
+#include "ferrowind/adapters/postgres/content_source.h"
 #include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/delivered_catalogue.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/adapters/postgres/schema_version.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
+#include "ferrowind/adapters/postgres/table_locks.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
@@ -58,12 +64,14 @@ constexpr const char* kDataProblems[] = {
     " FROM ferrowind.CldDay d LEFT JOIN ferrowind.CldHoliday h ON h.ID2 = d.ID2"
     " WHERE CASE WHEN d.ID2 IS NULL THEN d.TID1 <> 1 ELSE h.TID1 IS DISTINCT FROM d.TID1 END",
 
-    "SELECT 'The history gives the number ' || n.next || ' next, but its last entry is number ' ||"
-    "  max(h.EntryID) || '; set it: SELECT setval(''ferrowind.cldhistory_entryid_seq'', ' || max(h.EntryID) "
-    "|| ')'"
-    " FROM ferrowind.CldHistory h, (SELECT last_value + is_called::integer AS next"
-    "                               FROM ferrowind.CldHistory_EntryID_seq) AS n"
-    " GROUP BY n.next HAVING max(h.EntryID) >= n.next",
+    "SELECT 'The history gives the number ' || n.next || ' next, but its last entry is number ' || l.last ||"
+    "  '; set it: SELECT setval(''ferrowind.cldhistory_entryid_seq'', ' || greatest(l.last, 1) || ', ' || "
+    "(l.last > 0) || ')'"
+    " FROM (SELECT last_value::numeric + is_called::integer AS next FROM ferrowind.CldHistory_EntryID_seq) "
+    "AS n,"
+    "  (SELECT coalesce(max(EntryID), 0) AS last FROM ferrowind.CldHistory) AS l"
+    // Numbers of calls that failed are left out, but not half of all.
+    " WHERE l.last >= n.next OR n.next > 4611686018427387904",
 
     "SELECT 'The entry ' || EntryID || ' of the history has ' || count(*) || ' rows, of which the last is "
     "number '"
@@ -75,28 +83,44 @@ constexpr const char* kDataProblems[] = {
     "EntryID",
 };
 
+/// The only texts of the rows that answer `question`.
+std::vector<std::string> SentencesOf(ServerConnection& connection, std::string_view question,
+                                     const std::vector<std::string>& parameters = {}) {
+  const auto rows = ReadRecordSet(connection.Query(std::string(question), parameters).get());
+  std::vector<std::string> sentences;
+  for (std::size_t row = 0; row < rows->RowCount(); ++row) {
+    sentences.push_back(platform::ToTextOrEmpty(rows->Cell(rows->BookmarkAt(row), 0)));
+  }
+  return sentences;
+}
+
 class Check {
  public:
   explicit Check(const std::string& connection_string) : connection_(connection_string) {}
 
-  std::vector<std::string> Run() {
+  std::vector<std::string> Run(const std::optional<chain::Seal>& seal) {
     // The server itself sees to it that nothing is changed, and nothing but its own functions is found by a
     // name.
     connection_.RunScript(
         "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY; SET LOCAL search_path = pg_catalog, pg_temp; SET "
         "LOCAL datestyle = 'ISO';"
-        "SET LOCAL quote_all_identifiers = off");
+        "SET LOCAL quote_all_identifiers = off; SET LOCAL statement_timeout = 0");
     RequireCalendarDatabase(connection_);
     RequireRights();
+    KeepOut(connection_, KeptOut::kChangesOfTables);
     const auto found = Objects();
     const auto expected = DeliveredCatalogue();
     const bool has_plain_tables = HasPlainTables(found, expected);
     if (has_plain_tables) Try([&] { CompareVersion(); });
     Add(CatalogueDifferences(found, expected));
-    Try([&] { Ask(embedded::kPostgresSurroundingFaults); });
+    Try([&] {
+      Ask(embedded::kPostgresSurroundingFaults, {std::string(embedded::kPostgresServerFunctions)});
+    });
     Try([&] { Ask(embedded::kPostgresRoleFaults); });
+    Try([&] { Ask(embedded::kPostgresSettingFaults); });
     if (has_plain_tables) {
       for (const auto* const question : kDataProblems) Try([&] { Ask(question); });
+      if (is_delivered_version_) Try([&] { LookAtHistory(seal); });
     } else {
       problems_.emplace_back("The rows are not looked at as long as something else stands for a table");
     }
@@ -123,11 +147,8 @@ class Check {
   }
 
   /// A question whose every row is a problem.
-  void Ask(std::string_view question) {
-    const auto rows = ReadRecordSet(connection_.Query(std::string(question)).get());
-    for (std::size_t row = 0; row < rows->RowCount(); ++row) {
-      problems_.push_back(platform::ToTextOrEmpty(rows->Cell(rows->BookmarkAt(row), 0)));
-    }
+  void Ask(std::string_view question, const std::vector<std::string>& parameters = {}) {
+    Add(SentencesOf(connection_, question, parameters));
   }
 
   /// Without them, every question to the rows would be a problem of its own.
@@ -145,9 +166,15 @@ class Check {
 
   void CompareVersion() {
     const std::int64_t found = SchemaVersionOf(connection_);
-    if (found == DeliveredVersion()) return;
+    is_delivered_version_ = found == DeliveredVersion();
+    if (is_delivered_version_) return;
     problems_.push_back("The database has the schema version " + std::to_string(found) +
                         "; this program's is " + std::to_string(DeliveredVersion()));
+  }
+
+  void LookAtHistory(const std::optional<chain::Seal>& seal) {
+    ServerSource content(connection_, "ferrowind");
+    Add(chain::HistoryProblems(content, seal));
   }
 
   std::vector<CatalogueFact> Objects() {
@@ -163,13 +190,23 @@ class Check {
   }
 
   ServerConnection connection_;
+  bool is_delivered_version_ = false;
   std::vector<std::string> problems_;
 };
 
 }  // namespace
 
-std::vector<std::string> CheckDatabase(const std::string& connection_string) {
-  return platform::WithFailuresOnly([&] { return Check(connection_string).Run(); });
+std::vector<std::string> CheckDatabase(const std::string& connection_string,
+                                       const std::optional<chain::Seal>& seal) {
+  return platform::WithFailuresOnly([&] { return Check(connection_string).Run(seal); });
+}
+
+std::vector<std::string> SettingsInDoubt(const std::string& connection_string) {
+  return platform::WithFailuresOnly([&] {
+    ServerConnection connection(connection_string);
+    connection.RunScript("BEGIN READ ONLY; SET LOCAL search_path = pg_catalog, pg_temp");
+    return SentencesOf(connection, embedded::kPostgresSettingsInDoubt);
+  });
 }
 
 }  // namespace ferrowind::postgres

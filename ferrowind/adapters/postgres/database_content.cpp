@@ -1,11 +1,14 @@
 #include "ferrowind/adapters/postgres/database_content.h"
 
+#include "ferrowind/adapters/postgres/connection_use.h"
 #include "ferrowind/adapters/postgres/content_source.h"
 #include "ferrowind/adapters/postgres/content_target.h"
 #include "ferrowind/adapters/postgres/database_creation.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/adapters/postgres/schema_version.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
+#include "ferrowind/adapters/postgres/table_locks.h"
+#include "ferrowind/adapters/postgres/work_commit.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/conversion.h"
 
@@ -28,9 +31,10 @@ constexpr const char* kBeginSnapshot = "BEGIN ISOLATION LEVEL REPEATABLE READ RE
 /// A connection and the transaction that all content is read in.
 class SnapshotSource : public content::Source {
  public:
-  explicit SnapshotSource(const std::string& connection_string)
-      : connection_(connection_string), content_(connection_, "ferrowind") {
+  SnapshotSource(const std::string& connection_string, const std::function<bool()>& is_stopped)
+      : connection_(connection_string, is_stopped), content_(connection_, "ferrowind") {
     connection_.RunScript(kBeginSnapshot);
+    KeepOut(connection_, KeptOut::kChangesOfTables);
     RequireCalendarDatabase(connection_);
     RequireDeliveredVersion(connection_);
   }
@@ -38,8 +42,8 @@ class SnapshotSource : public content::Source {
   std::string Name() override { return content_.Name(); }
   std::string Identity() override { return content_.Identity(); }
   std::int64_t CountRows(const content::Table& table) override { return content_.CountRows(table); }
-  std::unique_ptr<content::RowReader> Rows(const content::Table& table) override {
-    return content_.Rows(table);
+  std::unique_ptr<content::RowReader> Rows(const content::Table& table, content::RowOrder order) override {
+    return content_.Rows(table, order);
   }
 
  private:
@@ -54,33 +58,31 @@ void Fill(ServerConnection& connection, ServerTarget::Kind kind,
   ContinueIdentifiers(connection);
 }
 
-/// Others may go on reading.
-void KeepWritersOut(ServerConnection& connection) {
-  std::string tables;
-  for (const content::Table& table : content::Tables()) {
-    tables += (tables.empty() ? "ferrowind." : ", ferrowind.") + std::string(table.name);
+void FillUncommitted(ServerConnection& connection, const std::function<void(content::Target& target)>& fill) {
+  if (!IsCalendarDatabase(connection)) {
+    return CreateObjects(connection, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
   }
-  connection.RunScript("LOCK TABLE " + tables + " IN SHARE ROW EXCLUSIVE MODE");
+  connection.RunScript("BEGIN ISOLATION LEVEL READ COMMITTED");
+  RequireDeliveredVersion(connection);
+  Fill(connection, ServerTarget::Kind::kExisting, fill);
 }
 
 }  // namespace
 
-std::unique_ptr<content::Source> OpenContent(const std::string& connection_string) {
-  return platform::WithFailuresOnly([&] { return std::make_unique<SnapshotSource>(connection_string); });
+std::unique_ptr<content::Source> OpenContent(const std::string& connection_string,
+                                             const std::function<bool()>& is_stopped) {
+  return platform::WithFailuresOnly(
+      [&] { return std::make_unique<SnapshotSource>(connection_string, is_stopped); });
 }
 
 void FillDatabase(const std::string& connection_string,
-                  const std::function<void(content::Target& target)>& fill) {
+                  const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped) {
   platform::WithFailuresOnly([&] {
-    ServerConnection connection(connection_string);
-    if (!IsCalendarDatabase(connection)) {
-      return CreateObjects(connection, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
-    }
-    connection.RunScript("BEGIN");
-    RequireDeliveredVersion(connection);
-    KeepWritersOut(connection);
-    Fill(connection, ServerTarget::Kind::kExisting, fill);
-    connection.RunScript("COMMIT");
+    ServerConnection connection(connection_string, is_stopped);
+    FillUncommitted(connection, fill);
+    connection.StopNoMore();
+    CommitWork(connection);
   });
 }
 
@@ -88,6 +90,7 @@ content::DatabaseStatus ReadStatus(const std::string& connection_string) {
   return platform::WithFailuresOnly([&] {
     ServerConnection connection(connection_string);
     connection.RunScript(kBeginSnapshot);
+    KeepOut(connection, KeptOut::kChangesOfTables);
     RequireCalendarDatabase(connection);
     connection.RunScript("SET LOCAL search_path = ferrowind, pg_temp");
     content::DatabaseStatus status;
@@ -96,6 +99,7 @@ content::DatabaseStatus ReadStatus(const std::string& connection_string) {
     status.engine_version = platform::ToText(Answer(connection, "SELECT current_setting('server_version')"));
     const auto ask = [&](const std::string& query) { return ReadRecordSet(connection.Query(query).get()); };
     content::CountContent(ask, Exists(connection, "class", "ferrowind.CldHistory"), status);
+    status.connections = ReadConnectionUse(connection);
     return status;
   });
 }

@@ -10,18 +10,24 @@
 namespace ferrowind::postgres {
 
 /// The content of the calendar database that `connection_string` names as it is now, whatever others write
-/// meanwhile; nobody is kept from writing. The login must be one that could create the database. A database
-/// that cannot be read or is no calendar database is a `platform::Failure`, and so is one whose schema is of
-/// another version than this program's.
-[[nodiscard]] std::unique_ptr<content::Source> OpenContent(const std::string& connection_string);
+/// meanwhile; nobody is kept from writing, but upgrades wait. The login must be one that could create the
+/// database. A database that cannot be read or is no calendar database is a `platform::Failure`, and so is
+/// one whose schema is of another version than this program's. While the server is waited for, `is_stopped`
+/// is asked again and again; when it says so, the server is told to stop, and that is a failure, too.
+[[nodiscard]] std::unique_ptr<content::Source> OpenContent(const std::string& connection_string,
+                                                           const std::function<bool()>& is_stopped = {});
 
 /// Calls `fill` with the calendar database that `connection_string` names, which is made of it without rules
 /// and calendars, as `CreateDatabaseObjects` does it, when it has no schema `ferrowind`. The login must be
-/// one that could create it. All of it is one transaction, in which nobody else can write into an existing
-/// one: what `fill` wrote is there for others when it has returned, and when it throws, everything is as it
-/// was. The identifiers that the server gives out continue behind those that were written.
+/// one that could create it. All of it is one transaction: what `fill` wrote is there for others when it has
+/// returned, and when it throws, everything is as it was. Only when the connection is lost while all of it is
+/// committed, that is not known, and the failure a `content::DoubtfulOutcome`. The target that keeps others
+/// out of an existing database keeps readers out, too; when somebody does not let go of its tables within 5
+/// seconds, the failure says who (table_locks.h). The identifiers that the server gives out continue behind
+/// those that were written. `is_stopped` as for `OpenContent`.
 void FillDatabase(const std::string& connection_string,
-                  const std::function<void(content::Target& target)>& fill);
+                  const std::function<void(content::Target& target)>& fill,
+                  const std::function<bool()>& is_stopped = {});
 
 /// What the calendar database is and holds, whatever the version of its schema. The login must be one that
 /// could create it. A database that cannot be read or is no calendar database is a `platform::Failure`.

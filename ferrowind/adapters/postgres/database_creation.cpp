@@ -3,11 +3,15 @@
 #include <string>
 #include <string_view>
 
+#include "ferrowind/adapters/chain/chain_start.h"
+#include "ferrowind/adapters/postgres/content_target.h"
 #include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/delivered_objects.h"
+#include "ferrowind/adapters/postgres/postgres_failure.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/adapters/postgres/transaction_engine.h"
+#include "ferrowind/adapters/postgres/work_commit.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
@@ -39,28 +43,46 @@ void RefuseObstacles(ServerConnection& connection) {
                     platform::ToText(obstacles->Cell(obstacles->BookmarkAt(0), 0)));
 }
 
+/// Two that create at the same time see an empty database both; the server makes the second wait for the
+/// first.
+void CreateSchemaOnce(ServerConnection& connection) {
+  try {
+    CreateDeliveredSchema(connection);
+  } catch (const Failure& failure) {
+    if (!IsOfState(failure, "23505") && !IsOfState(failure, "42P06")) throw;
+    throw Introduced(connection.DatabaseName() +
+                         " cannot become a calendar database: somebody else was making it one at the same "
+                         "time and was first. ",
+                     failure);
+  }
+}
+
 }  // namespace
 
 void CreateObjects(ServerConnection& connection, const std::function<void()>& fill) {
   RefuseObstacles(connection);
   connection.RunScript("BEGIN");
   connection.RunScript(std::string(embedded::kPostgresRoles));
-  CreateDeliveredSchema(connection);
+  CreateSchemaOnce(connection);
   for (const std::string_view script : {embedded::kBaseData, embedded::kCurrencies}) {
     connection.RunScript(std::string(script));
   }
+  ServerTarget content(connection, ServerTarget::Kind::kNew);
+  chain::WriteChainStart(content, 0, {});
   if (fill) fill();
   GiveDeliveredRights(connection);
-  connection.RunScript("COMMIT");
 }
 
 void CreateDatabaseObjects(const std::string& connection_string,
-                           const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill) {
+                           const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill,
+                           const std::function<bool()>& is_stopped) {
   platform::WithFailuresOnly([&] {
-    const auto connection = std::make_shared<ServerConnection>(connection_string);
+    const auto connection = std::make_shared<ServerConnection>(connection_string, is_stopped);
     CreateObjects(*connection, [&] {
       if (fill) fill(std::make_shared<TransactionEngine>(connection));
     });
+    connection->StopNoMore();
+    CommitWork(*connection);
   });
 }
 

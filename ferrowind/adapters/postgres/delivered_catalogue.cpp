@@ -30,8 +30,9 @@ std::string Folded(string_view name) {
   return folded;
 }
 
-/// The texts of the routines that a script creates, by name: each is written CREATE [OR REPLACE] FUNCTION or
-/// PROCEDURE at the beginning of a line, with its text between two $$.
+/// The texts of the routines that a script creates, by name, and by name and arguments as they are written:
+/// each is written CREATE [OR REPLACE] FUNCTION or PROCEDURE at the beginning of a line, with its text
+/// between two $$. Where several have a name, their arguments are written as the catalogue has them.
 void AddRoutineTexts(string_view script, std::map<std::string, string_view>& texts) {
   constexpr string_view kBeginnings[] = {"CREATE FUNCTION ", "CREATE PROCEDURE ",
                                          "CREATE OR REPLACE FUNCTION ", "CREATE OR REPLACE PROCEDURE "};
@@ -40,8 +41,11 @@ void AddRoutineTexts(string_view script, std::map<std::string, string_view>& tex
       if (!script.starts_with(beginning)) continue;
       script.remove_prefix(beginning.size());
       const std::string name = Folded(TakeUntil(script, "("));
+      const std::string arguments = Folded(TakeUntil(script, ")"));
       TakeUntil(script, "$$");
-      texts[name] = TakeUntil(script, "$$");
+      const string_view text = TakeUntil(script, "$$");
+      texts[name] = text;
+      texts[name + '(' + arguments + ')'] = text;
       break;
     }
     TakeUntil(script, "\n");
@@ -68,8 +72,9 @@ std::vector<CatalogueFact> DeliveredCatalogue() {
     facts.push_back({std::string(object), std::string(property), std::string(line)});
     // One of the facts of each routine, so that each gets one text.
     if (!object.starts_with(kRoutine) || property != "kind") continue;
-    const auto text =
-        texts.find(std::string(object.substr(kRoutine.size(), object.find('(') - kRoutine.size())));
+    const std::string routine(object.substr(kRoutine.size()));
+    auto text = texts.find(routine);
+    if (text == texts.end()) text = texts.find(routine.substr(0, routine.find('(')));
     if (text != texts.end()) facts.push_back({std::string(object), "text", std::string(text->second)});
   }
   return facts;

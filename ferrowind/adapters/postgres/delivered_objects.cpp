@@ -11,10 +11,13 @@ namespace ferrowind::postgres {
 namespace {
 
 std::vector<std::string_view> Functions() {
-  return {embedded::kPostgresHistoryEntry, embedded::kPostgresRowContent,  embedded::kPostgresKeptRows,
-          embedded::kPostgresJsonLists,    embedded::kPostgresPlannedDays, embedded::kPostgresBookRules,
-          embedded::kPostgresFingerprint,  embedded::kPostgresMomentFrom,  embedded::kPostgresCurrencyCanBe,
-          embedded::kPostgresUndo};
+  return {embedded::kPostgresHistoryEntry,  embedded::kPostgresRowContent,
+          embedded::kPostgresKeptRows,      embedded::kPostgresJsonLists,
+          embedded::kPostgresPlannedDays,   embedded::kPostgresBookRules,
+          embedded::kPostgresFingerprint,   embedded::kPostgresMomentFrom,
+          embedded::kPostgresCurrencyCanBe, embedded::kPostgresUndo,
+          embedded::kPostgresBusinessDays,  embedded::kPostgresDeliveredConventions,
+          embedded::kPostgresValueDates};
 }
 
 struct Procedure {
@@ -39,6 +42,9 @@ std::vector<Procedure> Procedures() {
       {"CldGetMarkedDays", embedded::kPostgresCldGetMarkedDays},
       {"CldIUCurrency", embedded::kPostgresCldIUCurrency},
       {"CldGetCurrencies", embedded::kPostgresCldGetCurrencies},
+      {"CldGetContent", embedded::kPostgresCldGetContent},
+      {"CldIUConvention", embedded::kPostgresCldIUConvention},
+      {"CldGetConventions", embedded::kPostgresCldGetConventions},
   };
 }
 

@@ -31,31 +31,25 @@ std::vector<QueryResult> Pipeline::Run() {
   std::vector<QueryResult> answers;
   std::optional<platform::Failure> failure;
   for (std::size_t i = 0; i < count_; ++i) {
-    answers.push_back(NextAnswer());
+    answers.push_back(connection_.TakeAnswer());
     const auto status = PQresultStatus(answers.back().get());
     if (!failure && status != PGRES_TUPLES_OK && status != PGRES_COMMAND_OK) {
       failure = ResultFailure(connection_.Get(), answers.back().get());
+    }
+    // Each statement's answer is followed by nothing.
+    while (connection_.IsAlive() && connection_.TakeAnswer()) {
     }
     if (!connection_.IsAlive()) break;
   }
   // What ends the answers; the connection takes new statements only behind it.
   if (connection_.IsAlive()) {
-    const QueryResult end(PQgetResult(connection_.Get()));
+    const QueryResult end = connection_.TakeAnswer();
     if (!failure && PQresultStatus(end.get()) != PGRES_PIPELINE_SYNC)
       failure = LinkFailure(connection_.Get());
   }
   if (failure) throw platform::Failure(*failure);
   if (!connection_.IsAlive()) throw LinkFailure(connection_.Get());
   return answers;
-}
-
-QueryResult Pipeline::NextAnswer() {
-  QueryResult answer(PQgetResult(connection_.Get()));
-  // Each statement's answer is followed by nothing once.
-  while (const QueryResult more{PQgetResult(connection_.Get())}) {
-    if (!connection_.IsAlive()) break;
-  }
-  return answer;
 }
 
 }  // namespace ferrowind::postgres

@@ -26,8 +26,6 @@ class Pipeline {
   [[nodiscard]] std::vector<QueryResult> Run();
 
  private:
-  [[nodiscard]] QueryResult NextAnswer();
-
   ServerConnection& connection_;
   std::size_t count_ = 0;
 };

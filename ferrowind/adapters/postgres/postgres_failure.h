@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,8 +20,32 @@ namespace ferrowind::postgres {
 [[nodiscard]] platform::Failure FailureOfState(std::string_view sqlstate, const std::string& plain_words,
                                                const std::string& native_text);
 
-/// That no connection was made. `connection` may be null when there was no memory for it.
-[[nodiscard]] platform::Failure ConnectFailure(const PGconn* connection);
+/// Whether `failure` is of that SQLSTATE.
+[[nodiscard]] bool IsOfState(const platform::Failure& failure, std::string_view sqlstate);
+
+/// That there is no memory for a connection.
+[[nodiscard]] platform::Failure NoMemoryForConnection();
+
+/// That no connection to `database` (as `NameOfDatabase` names it) was made, and why not.
+[[nodiscard]] platform::Failure ConnectFailure(const std::string& database, const std::string& reasons);
+
+/// The same, where a pool in front of the server refuses the "options" of the connection string.
+[[nodiscard]] platform::Failure OptionsRefused(const std::string& database, const std::string& reasons);
+
+/// That a server does not answer; `seconds` until a call tries again.
+[[nodiscard]] platform::Failure SilentServer(const std::string& database, std::int64_t seconds);
+
+/// That a server did not answer in time, of which nothing else is known.
+class NoAnswer : public platform::Failure {
+ public:
+  /// "08001" while it was being connected to, "08006" behind that.
+  NoAnswer(std::string_view sqlstate, const std::string& database, std::chrono::milliseconds time);
+};
+
+/// That a change is stored, of which the server told by `notice` that no standby has confirmed it.
+[[nodiscard]] platform::Failure Unconfirmed(const PGconn* connection, const std::string& notice);
+/// Whether `failure` is that.
+[[nodiscard]] bool IsUnconfirmed(const platform::Failure& failure);
 
 /// What the server answered in `result`, which is no success; a lost connection when that is why.
 [[nodiscard]] platform::Failure ResultFailure(const PGconn* connection, const PGresult* result);
@@ -27,10 +53,22 @@ namespace ferrowind::postgres {
 /// That the connection was lost, or that libpq could not use it.
 [[nodiscard]] platform::Failure LinkFailure(const PGconn* connection);
 
+/// That the other side answered in a way that no server does; `answer` says what it gave.
+[[nodiscard]] platform::Failure StrangeAnswer(const PGconn* connection, const std::string& answer);
+
+/// That the answer to one statement is larger than any that a calendar database gives.
+[[nodiscard]] platform::Failure TooLargeAnswer(const PGconn* connection);
+
 /// `failure` with `introduction` in front of its description.
 [[nodiscard]] platform::Failure Introduced(const std::string& introduction, const platform::Failure& failure);
 
 /// "The database NAME at HOST:PORT" for messages.
 [[nodiscard]] std::string NameOfDatabase(const PGconn* connection);
+
+/// "HOST:PORT"; empty when libpq does not say.
+[[nodiscard]] std::string NameOfServer(const PGconn* connection);
+
+/// A text of libpq, which may have several lines and ends with a line break, on one; empty for null.
+[[nodiscard]] std::string OnOneLine(const char* text);
 
 }  // namespace ferrowind::postgres

@@ -1,11 +1,15 @@
 #include "ferrowind/adapters/postgres/procedure_call.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cstddef>
+#include <string>
 
 #include "ferrowind/adapters/postgres/call_script.h"
 #include "ferrowind/adapters/postgres/pipeline.h"
 #include "ferrowind/adapters/postgres/postgres_failure.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres/table_locks.h"
 #include "ferrowind/platform/database/call_inputs.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -36,6 +40,56 @@ std::int32_t ReturnValueIn(const PGresult* result, const std::string& procedure)
                 "The procedure " + procedure + " gave no return value, so what it did was undone");
 }
 
+void RequireRows(ServerConnection& connection, const PGresult* answer) {
+  if (PQresultStatus(answer) == PGRES_TUPLES_OK) return;
+  connection.GiveUp();
+  throw StrangeAnswer(connection.Get(), "no rows where a record set was fetched");
+}
+
+/// As long as a database file would be waited for; longer, and the operator would take the window for dead.
+/// Less where the call has less time, of which something must be left to say that it waited for a lock.
+std::chrono::milliseconds LockTimeout(const ServerConnection& connection) {
+  constexpr std::chrono::milliseconds kMost = std::chrono::seconds(5);
+  const auto left = connection.TimeLeft();
+  return std::clamp(left / 10 * 8, std::chrono::milliseconds(1), kMost);
+}
+
+/// What was done is not undone when its confirmation is missing.
+void RequireConfirmation(ServerConnection& connection, const std::string& procedure) {
+  if (const auto unconfirmed = connection.TakeUnconfirmed()) {
+    throw Introduced("The procedure " + procedure + " has done its work. ", *unconfirmed);
+  }
+}
+
+/// What is known of a call that has failed.
+Failure FailureOfCall(const ServerConnection& connection, const std::string& procedure,
+                      const Failure& failure) {
+  if (!connection.IsAlive()) {
+    return Introduced("The procedure " + procedure +
+                          " was interrupted; it has done all of its work or nothing, so look before you call "
+                          "it again. ",
+                      failure);
+  }
+  if (connection.WasToldToStop() && IsOfState(failure, "57014")) {
+    return Introduced("The procedure " + procedure +
+                          " took longer than a call may, was told to stop, and has done nothing. ",
+                      failure);
+  }
+  return Introduced("The procedure " + procedure + " failed: ", failure);
+}
+
+bool IsOfLock(const Failure& failure) { return IsOfState(failure, "55P03"); }
+
+/// Who is in the way of a call that has given up waiting; empty when that cannot be told in the time that is
+/// left.
+std::string WhoIsInTheWay(ServerConnection& connection) {
+  try {
+    return HoldersOfRows(connection);
+  } catch (const Failure&) {
+    return {};
+  }
+}
+
 /// After this the connection takes the next call.
 void UndoFailedTransaction(ServerConnection& connection) {
   if (!connection.IsAlive() || PQtransactionStatus(connection.Get()) == PQTRANS_IDLE) return;
@@ -52,7 +106,7 @@ CallOutcome CallProcedure(ServerConnection& connection, const ProcedureSignature
                           const std::string& asked_name, const std::vector<Value>& inputs,
                           CallTransaction transaction) {
   RefuseWrongInputs(signature, asked_name, inputs);
-  const CallScript script(connection, signature, inputs);
+  const CallScript script(connection, signature, inputs, LockTimeout(connection));
   const bool is_own = transaction == CallTransaction::kOwn;
   const std::size_t record_sets = signature.RecordSetCount();
   std::vector<QueryResult> answers;
@@ -71,24 +125,30 @@ CallOutcome CallProcedure(ServerConnection& connection, const ProcedureSignature
       pipeline.Add("CLOSE ALL");
     }
     answers = pipeline.Run();
+    for (std::size_t i = 0; i < record_sets; ++i)
+      RequireRows(connection, answers[return_value_at + 1 + i].get());
+    if (is_own) connection.RequireCommitted(answers.back().get());
   } catch (const Failure& failure) {
-    if (!connection.IsAlive()) {
-      throw Introduced(
-          "The procedure " + asked_name +
-              " was interrupted; it has done all of its work or nothing, so look before you call "
-              "it again. ",
-          failure);
-    }
+    RequireConfirmation(connection, asked_name);
+    const Failure told = FailureOfCall(connection, asked_name, failure);
     if (is_own) UndoFailedTransaction(connection);
-    throw Introduced("The procedure " + asked_name + " failed: ", failure);
+    if (is_own && connection.IsAlive() && IsOfLock(failure)) {
+      throw Introduced(WhoIsInTheWay(connection), told);
+    }
+    throw Failure(told);
   }
+  RequireConfirmation(connection, asked_name);
 
   CallOutcome outcome;
   outcome.return_value = ReturnValueIn(answers[return_value_at].get(), asked_name);
   if (outcome.return_value != 0) return outcome;
-  for (std::size_t i = 0; i < record_sets; ++i) {
-    const PGresult* const rows = answers[return_value_at + 1 + i].get();
-    if (PQnfields(rows) > 0) outcome.record_sets.push_back(ReadRecordSet(rows));
+  try {
+    for (std::size_t i = 0; i < record_sets; ++i) {
+      const PGresult* const rows = answers[return_value_at + 1 + i].get();
+      if (PQnfields(rows) > 0) outcome.record_sets.push_back(ReadRecordSet(rows));
+    }
+  } catch (const Failure& failure) {
+    throw Introduced("The procedure " + asked_name + " has run, but what it gave cannot be read: ", failure);
   }
   return outcome;
 }

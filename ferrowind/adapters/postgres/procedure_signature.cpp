@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 #include "ferrowind/adapters/postgres/binary_value.h"
+#include "ferrowind/adapters/postgres/postgres_failure.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
@@ -21,8 +23,13 @@ using Argument = ProcedureSignature::Argument;
 /// the modes and the first list of types null when all are inputs. The arrays come as they are stored, since
 /// on a new connection every cast, function and sorting costs a server that must look it up first.
 constexpr const char* kSignatureQuery =
-    "SELECT proargnames, proargmodes, proallargtypes, proargtypes FROM pg_catalog.pg_proc"
+    "SELECT proargnames, proargmodes, proallargtypes, proargtypes, pg_catalog.pg_backend_pid()"
+    " FROM pg_catalog.pg_proc"
     " WHERE proname = $1 AND prokind = 'p' AND pronamespace = pg_catalog.to_regnamespace('ferrowind')";
+
+constexpr int kColumnsOfSignature = 5;
+/// Parameters are a hundred at most, with names of 63 bytes.
+constexpr int kMostBytesOfArray = 64 * 1024;
 
 Failure Unusable(const std::string& procedure, const std::string& why) {
   return {platform::failure_number::kInvalidArgument, "The procedure " + procedure + " " + why};
@@ -51,8 +58,21 @@ Argument ArgumentOf(const std::string& procedure, const std::string& mode, Oid t
                  "has a parameter that is neither an input nor a return value nor a record set's cursor");
 }
 
-std::vector<std::string> ArrayIn(const PGresult* result, int column) {
+Failure StrangelyDescribed(const std::string& procedure) {
+  return Unusable(procedure, "is described as no PostgreSQL server describes one");
+}
+
+std::vector<std::string> ArrayIn(const PGresult* result, int column, const std::string& procedure) {
+  if (PQgetlength(result, 0, column) > kMostBytesOfArray) throw StrangelyDescribed(procedure);
   return ReadArray(PQgetvalue(result, 0, column), static_cast<std::size_t>(PQgetlength(result, 0, column)));
+}
+
+QueryResult Ask(ServerConnection& connection, const std::string& procedure, const std::string& folded) {
+  try {
+    return connection.Query(kSignatureQuery, {folded});
+  } catch (const Failure& failure) {
+    throw Introduced("The procedure " + procedure + " cannot be looked up: ", failure);
+  }
 }
 
 /// The signature but for its name. `result` has the one row of the procedure.
@@ -60,14 +80,15 @@ ProcedureSignature SignatureIn(const PGresult* result, const std::string& proced
   ProcedureSignature signature;
   signature.parameters.push_back(
       {"@RETURN_VALUE", 0, ParameterType::kInt32, ParameterDirection::kReturnValue});
-  auto types = ArrayIn(result, 2);
-  if (types.empty()) types = ArrayIn(result, 3);
+  auto types = ArrayIn(result, 2, procedure);
+  if (types.empty()) types = ArrayIn(result, 3, procedure);
   // Parameters at the end may have no names.
-  auto names = ArrayIn(result, 0);
+  auto names = ArrayIn(result, 0, procedure);
   names.resize(types.size());
-  auto modes = ArrayIn(result, 1);
+  auto modes = ArrayIn(result, 1, procedure);
   modes.resize(types.size());
   for (std::size_t i = 0; i < types.size(); ++i) {
+    if (types[i].size() != sizeof(Oid)) throw StrangelyDescribed(procedure);
     const auto type = ReadNumber<Oid>(types[i].data());
     signature.arguments.push_back(ArgumentOf(procedure, modes[i], type));
     if (signature.arguments.back() != Argument::kInput) continue;
@@ -82,6 +103,11 @@ ProcedureSignature SignatureIn(const PGresult* result, const std::string& proced
   if (std::count(signature.arguments.begin(), signature.arguments.end(), Argument::kReturnValue) != 1) {
     throw Unusable(procedure, "does not have one return value");
   }
+  if (std::find(names.begin(), names.end(), std::string()) == names.end()) {
+    signature.argument_names = std::move(names);
+  }
+  if (PQgetlength(result, 0, 4) != sizeof(signature.process)) throw StrangelyDescribed(procedure);
+  signature.process = ReadNumber<std::int32_t>(PQgetvalue(result, 0, 4));
   return signature;
 }
 
@@ -95,7 +121,8 @@ ProcedureSignature ReadSignature(ServerConnection& connection, const std::string
   // The server keeps names that are not in quotes in small letters.
   const std::string folded = platform::FoldCase(name);
   if (name.empty() || name.find('\0') != std::string::npos) throw Unusable(name, "has no possible name");
-  const QueryResult result = connection.Query(kSignatureQuery, {folded});
+  const QueryResult result = Ask(connection, name, folded);
+  if (PQnfields(result.get()) != kColumnsOfSignature) throw StrangelyDescribed(name);
   const int count = PQntuples(result.get());
   if (count == 0) {
     throw Failure(platform::failure_number::kInvalidArgument,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,12 @@ struct ProcedureSignature {
   std::string name;
   /// What stands at each place of a call.
   std::vector<Argument> arguments;
+  /// In the server's spelling; none at all where one of them has no name.
+  std::vector<std::string> argument_names;
   /// The return value first, then the inputs by position.
   std::vector<platform::ParameterDescription> parameters;
+  /// The server's process that described it.
+  std::int32_t process = 0;
 
   [[nodiscard]] std::size_t RecordSetCount() const;
 };

@@ -5,12 +5,14 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
 
 #include "ferrowind/adapters/postgres/binary_value.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/utf8_validation.h"
 
 namespace ferrowind::postgres {
 namespace {
@@ -19,8 +21,8 @@ using platform::Date;
 using platform::RecordRows;
 using platform::Value;
 
-platform::Failure BadColumn(const char* name, const char* what) {
-  return {platform::failure_number::kTypeMismatch, "The column " + std::string(name) + " " + what};
+platform::Failure BadColumn(const std::string& name, const char* what) {
+  return {platform::failure_number::kTypeMismatch, "The column " + name + " " + what};
 }
 
 /// Days count from 1 January 2000, which is the serial 36526.
@@ -52,25 +54,6 @@ bool IsText(Oid type) {
   return type == type_id::kText || type == type_id::kName || type == type_id::kVarchar;
 }
 
-Value ReadCell(const PGresult* result, int row, int column, Oid type) {
-  if (PQgetisnull(result, row, column) != 0) return {};
-  const char* const bytes = PQgetvalue(result, row, column);
-  const auto size = static_cast<std::size_t>(PQgetlength(result, row, column));
-  if (IsText(type)) return std::string(bytes, size);
-  if (size != SizeOf(type))
-    throw BadColumn(PQfname(result, column), "holds a number of another size than its type has");
-  switch (type) {
-    case type_id::kInt2:
-      return ReadNumber<std::int16_t>(bytes);
-    case type_id::kInt4:
-      return ReadNumber<std::int32_t>(bytes);
-    case type_id::kInt8:
-      return ReadNumber<std::int64_t>(bytes);
-    default:
-      return ReadDate(bytes, PQfname(result, column));
-  }
-}
-
 bool IsKnown(Oid type) {
   switch (type) {
     case type_id::kInt2:
@@ -83,19 +66,54 @@ bool IsKnown(Oid type) {
   }
 }
 
+Value ReadCell(const PGresult* result, int row, int column, Oid type) {
+  if (PQgetisnull(result, row, column) != 0) return {};
+  const auto size = static_cast<std::size_t>(PQgetlength(result, row, column));
+  return ReadValue({PQgetvalue(result, row, column), size}, type, PQfname(result, column));
+}
+
 }  // namespace
+
+Value ReadValue(std::string_view bytes, Oid type, const char* column) {
+  if (IsText(type)) {
+    // Not in a database of this kind, and the client's encoding is asked for.
+    if (bytes.find('\0') != std::string_view::npos || !platform::IsWellFormedUtf8(bytes)) {
+      throw BadColumn(column, "holds a text that is not valid UTF-8");
+    }
+    return std::string(bytes);
+  }
+  if (bytes.size() != SizeOf(type))
+    throw BadColumn(column, "holds a number of another size than its type has");
+  switch (type) {
+    case type_id::kInt2:
+      return ReadNumber<std::int16_t>(bytes.data());
+    case type_id::kInt4:
+      return ReadNumber<std::int32_t>(bytes.data());
+    case type_id::kInt8:
+      return ReadNumber<std::int64_t>(bytes.data());
+    default:
+      return ReadDate(bytes.data(), column);
+  }
+}
+
+std::vector<Oid> ReadTypes(const PGresult* result) {
+  std::vector<Oid> types;
+  for (int column = 0; column < PQnfields(result); ++column) {
+    const Oid type = PQftype(result, column);
+    if (!platform::IsWellFormedUtf8(PQfname(result, column)))
+      throw BadColumn(std::to_string(column + 1), "has a name that is not valid UTF-8");
+    if (!IsKnown(type)) throw BadColumn(PQfname(result, column), "is of a type that record sets do not have");
+    types.push_back(type);
+  }
+  return types;
+}
 
 std::shared_ptr<platform::RecordSet> ReadRecordSet(const PGresult* result) {
   const int columns = PQnfields(result);
   const int count = PQntuples(result);
   auto rows = std::make_shared<RecordRows>();
-  std::vector<Oid> types;
-  for (int column = 0; column < columns; ++column) {
-    const Oid type = PQftype(result, column);
-    if (!IsKnown(type)) throw BadColumn(PQfname(result, column), "is of a type that record sets do not have");
-    types.push_back(type);
-    rows->fields.emplace_back(PQfname(result, column));
-  }
+  const std::vector<Oid> types = ReadTypes(result);
+  for (int column = 0; column < columns; ++column) rows->fields.emplace_back(PQfname(result, column));
   rows->row_count = static_cast<std::size_t>(count);
   rows->cells.reserve(rows->row_count * rows->fields.size());
   for (int row = 0; row < count; ++row) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ferrowind/adapters/postgres/comma_list.h"
 #include "ferrowind/adapters/postgres/connection_uri.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -27,10 +28,11 @@ bool IsPlain(char character) {
   return is_letter || is_digit || std::string_view("-._~").find(character) != std::string_view::npos;
 }
 
-std::string Encoded(std::string_view text) {
+/// `also_plain` stands as it is, too.
+std::string Encoded(std::string_view text, std::string_view also_plain = "") {
   std::string encoded;
   for (const char character : text) {
-    if (IsPlain(character)) {
+    if (IsPlain(character) || also_plain.find(character) != std::string_view::npos) {
       encoded += character;
     } else {
       char escape[4];
@@ -39,16 +41,6 @@ std::string Encoded(std::string_view text) {
     }
   }
   return encoded;
-}
-
-std::vector<std::string_view> PartsOf(std::string_view list) {
-  std::vector<std::string_view> parts;
-  for (std::size_t comma = list.find(','); comma != std::string_view::npos; comma = list.find(',')) {
-    parts.push_back(list.substr(0, comma));
-    list.remove_prefix(comma + 1);
-  }
-  parts.push_back(list);
-  return parts;
 }
 
 /// A connection string that is put together again from its settings.
@@ -94,7 +86,7 @@ class Rebuilt {
     for (std::size_t i = 0; i < host_list.size(); ++i) {
       const bool is_address = host_list[i].find(':') != std::string_view::npos;
       text += i == 0 ? "" : ",";
-      text += is_address ? "[" + std::string(host_list[i]) + "]" : Encoded(host_list[i]);
+      text += is_address ? "[" + Encoded(host_list[i], ":") + "]" : Encoded(host_list[i]);
       // One port is that of all hosts.
       const std::string_view port = i < port_list.size() ? port_list[i] : port_list.front();
       if (!port.empty()) text += ":" + std::string(port);

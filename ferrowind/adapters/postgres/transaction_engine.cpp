@@ -8,7 +8,7 @@ namespace ferrowind::postgres {
 
 std::unique_ptr<platform::Connection> TransactionEngine::Connect(const std::string& /*connection_string*/) {
   return platform::WithFailuresOnly([&]() -> std::unique_ptr<platform::Connection> {
-    return std::make_unique<EngineConnection>(connection_, CallTransaction::kOpen);
+    return std::make_unique<EngineConnection>(connection_);
   });
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "ferrowind/platform/values/failure.h"
+
 namespace ferrowind {
 
 DesktopDictionary::DesktopDictionary(const platform::EngineRegistry& engines, std::string connection_string)
@@ -10,6 +12,10 @@ DesktopDictionary::DesktopDictionary(const platform::EngineRegistry& engines, st
 std::shared_ptr<platform::RecordSet> DesktopDictionary::dic_GetDicRecByFilter(const std::string& name,
                                                                               const std::string& filter) {
   auto rows = engines_.EngineFor(connection_string_).ReadDictionary(connection_string_, name);
+  if (!rows) {
+    throw platform::Failure(platform::failure_number::kObjectNotSet,
+                            "The engine gave no rows of the dictionary " + name);
+  }
   rows->SetFilter(filter);
   return rows;
 }

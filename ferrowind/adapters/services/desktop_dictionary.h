@@ -3,13 +3,14 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/services/dictionary.h"
 
 namespace ferrowind {
 
 /// The dictionary of a host that keeps its dictionaries in the calendars' own database.
-class DesktopDictionary : public platform::Dictionary {
+class FERROWIND_EXPORT DesktopDictionary : public platform::Dictionary {
  public:
   /// `engines` must outlive the dictionary. The connection string is not looked at before it is needed.
   DesktopDictionary(const platform::EngineRegistry& engines, std::string connection_string);

@@ -5,12 +5,13 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/object_factory.h"
 
 namespace ferrowind {
 
 /// Creates outside objects by makers that the host has registered.
-class ObjectMakers : public platform::ObjectFactory {
+class FERROWIND_EXPORT ObjectMakers : public platform::ObjectFactory {
  public:
   using Maker = std::function<std::shared_ptr<platform::OutsideObject>()>;
 

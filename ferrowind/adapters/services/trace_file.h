@@ -3,13 +3,14 @@
 #include <string>
 
 #include "ferrowind/adapters/services/trace_sink.h"
+#include "ferrowind/export.h"
 
 namespace ferrowind {
 
 /// Appends trace to a file, one line a text: the time in UTC, a blank, and the text without passwords
 /// (password_free.h), its control characters written as escapes. Each line is in the file when `Write`
 /// returns.
-class TraceFile : public TraceSink {
+class FERROWIND_EXPORT TraceFile : public TraceSink {
  public:
   /// Creates the file where there is none. It is readable by its owner only, from now on at the latest. One
   /// that cannot be opened for writing is a failure that names it; so is a link, a file of another user, one
@@ -27,6 +28,6 @@ class TraceFile : public TraceSink {
 };
 
 /// The text on one line: a backslash becomes two, line breaks \r and \n, other control characters \xHH.
-[[nodiscard]] std::string OnOneLine(const std::string& text);
+[[nodiscard]] FERROWIND_EXPORT std::string OnOneLine(const std::string& text);
 
 }  // namespace ferrowind

@@ -11,7 +11,7 @@
 namespace ferrowind::sqlite {
 
 /// A call that returned 0.
-struct HistoryEntry {
+struct RecordedCall {
   const sql_script::ProcedureDefinition& procedure;
   /// A value for each input of `procedure`, by position, of the declared type or empty.
   const std::vector<platform::Value>& inputs;
@@ -21,12 +21,10 @@ struct HistoryEntry {
   std::int64_t rows_changed = 0;
 };
 
-/// Adds `call` to the history of `database`, in the transaction that is open: when, the operating system's
-/// user, the values of the inputs, and how many rows it changed. Gives the number of the entry.
-std::int64_t AddToHistory(const DatabaseHandle& database, const HistoryEntry& call);
-
-/// Adds the rows that the call of the entry `entry` replaced.
-void AddReplacedRows(const DatabaseHandle& database, std::int64_t entry,
-                     const std::vector<ReplacedRow>& rows);
+/// Adds `call` to the history of `database` with the rows that it changed, in the transaction that is open:
+/// when, the operating system's user, the values of the inputs, how many rows it changed, and a hash that
+/// chains it to the entry before (adapters/chain).
+void AddToHistory(const DatabaseHandle& database, const RecordedCall& call,
+                  const std::vector<ReplacedRow>& rows);
 
 }  // namespace ferrowind::sqlite

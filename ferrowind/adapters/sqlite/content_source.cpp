@@ -14,6 +14,7 @@
 namespace ferrowind::sqlite {
 namespace {
 
+/// By key, which is how a file has them.
 std::string SelectFrom(const content::Table& table) {
   return "SELECT " + content::ColumnList(table) + " FROM " + std::string(table.name) + " ORDER BY " +
          content::KeyList(table);
@@ -67,6 +68,10 @@ class StatementWriter : public content::RowWriter {
 
 }  // namespace
 
+std::unique_ptr<content::RowWriter> RowWriterOf(const DatabaseHandle& database, const content::Table& table) {
+  return std::make_unique<StatementWriter>(database, table);
+}
+
 std::string FileSource::Name() { return "The database " + database_.Path(); }
 
 std::string FileSource::Identity() {
@@ -85,7 +90,8 @@ std::int64_t FileSource::CountRows(const content::Table& table) {
   });
 }
 
-std::unique_ptr<content::RowReader> FileSource::Rows(const content::Table& table) {
+std::unique_ptr<content::RowReader> FileSource::Rows(const content::Table& table,
+                                                     content::RowOrder /*order*/) {
   return platform::WithFailuresOnly([&] { return std::make_unique<StatementReader>(database_, table); });
 }
 
@@ -105,8 +111,8 @@ void FileTarget::Clear(const content::Table& table) {
   platform::WithFailuresOnly([&] { database_.Execute(("DELETE FROM " + std::string(table.name)).c_str()); });
 }
 
-std::unique_ptr<content::RowWriter> FileTarget::Writer(const content::Table& table) {
-  return platform::WithFailuresOnly([&] { return std::make_unique<StatementWriter>(database_, table); });
+std::unique_ptr<content::RowWriter> FileTarget::Writer(const content::Table& table, std::int64_t /*rows*/) {
+  return platform::WithFailuresOnly([&] { return RowWriterOf(database_, table); });
 }
 
 }  // namespace ferrowind::sqlite

@@ -11,6 +11,10 @@
 
 namespace ferrowind::sqlite {
 
+/// Adds rows to `table`, which `database` must outlive the writer for.
+[[nodiscard]] std::unique_ptr<content::RowWriter> RowWriterOf(const DatabaseHandle& database,
+                                                              const content::Table& table);
+
 /// The content of an open database, in the transaction that is open there.
 class FileSource : public content::Source {
  public:
@@ -20,7 +24,8 @@ class FileSource : public content::Source {
   [[nodiscard]] std::string Name() override;
   [[nodiscard]] std::string Identity() override;
   [[nodiscard]] std::int64_t CountRows(const content::Table& table) override;
-  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table) override;
+  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table,
+                                                         content::RowOrder order) override;
 
  private:
   DatabaseHandle& database_;
@@ -38,12 +43,16 @@ class FileTarget : public content::Target {
   [[nodiscard]] std::int64_t CountRows(const content::Table& table) override {
     return content_.CountRows(table);
   }
-  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table) override {
-    return content_.Rows(table);
+  [[nodiscard]] std::unique_ptr<content::RowReader> Rows(const content::Table& table,
+                                                         content::RowOrder order) override {
+    return content_.Rows(table, order);
   }
+  /// The transaction does.
+  void KeepOthersOut() override {}
   [[nodiscard]] content::Source* Delivered() override;
   void Clear(const content::Table& table) override;
-  [[nodiscard]] std::unique_ptr<content::RowWriter> Writer(const content::Table& table) override;
+  [[nodiscard]] std::unique_ptr<content::RowWriter> Writer(const content::Table& table,
+                                                           std::int64_t rows) override;
 
  private:
   /// A new database in memory.

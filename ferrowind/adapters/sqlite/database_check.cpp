@@ -1,4 +1,7 @@
+#include <algorithm>
+#include <chrono>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -6,14 +9,21 @@
 
 #include <sqlite3.h>
 
+#include "ferrowind/adapters/chain/chain_heads.h"
+#include "ferrowind/adapters/chain/history_check.h"
+#include "ferrowind/adapters/sqlite/content_source.h"
+#include "ferrowind/adapters/sqlite/database_content.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/schema_comparison.h"
 #include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
+#include "ferrowind/adapters/sqlite/unreadable_rows.h"
 #include "ferrowind/platform/database/failure_boundary.h"
+#include "ferrowind/platform/values/case_fold.h"
 
 namespace ferrowind::sqlite {
 namespace {
@@ -66,24 +76,32 @@ constexpr std::string_view kDataProblems[] = {
     " FROM CldDay d LEFT JOIN CldHoliday h ON h.ID2 = d.ID2"
     " WHERE CASE WHEN d.ID2 IS NULL THEN d.TID1 <> 1 ELSE h.TID1 IS NOT d.TID1 END",
 
-    "SELECT 'The table ' || \"table\" || ' has a row that refers to a missing row of ' || parent"
-    " FROM pragma_foreign_key_check",
-
-    "SELECT 'The file is damaged: ' || integrity_check FROM pragma_integrity_check WHERE integrity_check <> "
-    "'ok'",
 };
+
+constexpr std::string_view kMissingParents =
+    "SELECT 'The table ' || \"table\" || ' has a row that refers to a missing row of ' || parent"
+    " FROM pragma_foreign_key_check(?1)";
+
+/// Computes the conditions and the indexes of all tables, those of somebody else too.
+constexpr std::string_view kDamage =
+    "SELECT 'The file is damaged: ' || integrity_check FROM pragma_integrity_check WHERE integrity_check <> "
+    "'ok'";
+
+/// Far more than a large database on a slow disk takes.
+constexpr std::chrono::minutes kLongestCheck{10};
 
 class Check {
  public:
-  explicit Check(const std::string& path)
-      : database_(path), catalogue_(database_), delivered_(DatabaseHandle::InMemory()) {
+  explicit Check(const std::string& path) : database_(path), delivered_(DatabaseHandle::InMemory()) {
     FillWithDeliveredSchema(delivered_);
   }
 
-  std::vector<std::string> Run() {
+  std::vector<std::string> Run(const std::optional<chain::Seal>& seal) {
+    const StatementLimit limit(database_, kLongestCheck);
     const Transaction transaction(database_, Transaction::Kind::kReading);
+    RequireCatalogue(database_);
     Try([&] { problems_ = SchemaDifferences(database_, delivered_); });
-    Try([&] { LookAtRows(); });
+    Try([&] { LookAtRows(seal); });
     return std::move(problems_);
   }
 
@@ -99,17 +117,57 @@ class Check {
   }
 
   /// Reading what somebody has put in a table's place would run what he wrote.
-  void LookAtRows() {
+  void LookAtRows(const std::optional<chain::Seal>& seal) {
     if (!HasPlainTables(database_, delivered_)) {
       problems_.emplace_back("The rows are not looked at as long as something else stands for a table");
       return;
     }
-    for (const auto& procedure : DeliveredProcedures()) Try([&] { CompareProcedure(procedure); });
+    Try([&] { CompareProcedures(); });
+    for (const auto& table : TableNames(delivered_)) {
+      Try([&] {
+        for (auto& problem : UnreadableRows(database_, table)) problems_.push_back(std::move(problem));
+      });
+    }
     for (const auto question : kDataProblems) Try([&] { AskForProblems(question); });
+    for (const auto& table : TableNames(delivered_)) Try([&] { AskForProblems(kMissingParents, table); });
+    Try([&] { LookForDamage(); });
+    // Of another version the difference is told; its history may have other columns.
+    if (IsOfThisVersion()) Try([&] { LookAtHistory(seal); });
   }
 
-  void CompareProcedure(const ProcedureDefinition& expected) {
-    const auto found = catalogue_.Find(expected.name);
+  [[nodiscard]] bool IsOfThisVersion() const {
+    return SchemaVersionOf(database_) == SchemaVersionOf(delivered_);
+  }
+
+  void LookForDamage() {
+    if (IsOfThisVersion() && HasForeignTables(database_, delivered_)) {
+      problems_.emplace_back(
+          "The file is not looked through for damage as long as it holds tables or indexes that are not this "
+          "program's");
+      return;
+    }
+    AskForProblems(kDamage);
+  }
+
+  void CompareProcedures() {
+    ProcedureCatalogue catalogue(database_);
+    for (const auto& procedure : DeliveredProcedures()) {
+      Try([&] { CompareProcedure(procedure, catalogue.Find(procedure.name)); });
+    }
+    for (const auto& name : catalogue.Names()) {
+      if (!IsDelivered(name)) problems_.push_back("The procedure " + name + " does not belong to the schema");
+    }
+  }
+
+  static bool IsDelivered(const std::string& name) {
+    const auto& delivered = DeliveredProcedures();
+    return std::any_of(delivered.begin(), delivered.end(), [&](const ProcedureDefinition& procedure) {
+      return platform::CompareIgnoringCase(procedure.name, name) == 0;
+    });
+  }
+
+  void CompareProcedure(const ProcedureDefinition& expected,
+                        const std::optional<ProcedureDefinition>& found) {
     if (!found) {
       problems_.push_back("The procedure " + expected.name + " is missing");
       return;
@@ -130,21 +188,36 @@ class Check {
     return true;
   }
 
+  void LookAtHistory(const std::optional<chain::Seal>& seal) {
+    FileSource content(database_);
+    for (auto& problem : chain::HistoryProblems(content, seal)) problems_.push_back(std::move(problem));
+  }
+
   void AskForProblems(std::string_view question) {
     Statement ask(database_, question);
     while (ask.Step()) problems_.emplace_back(ask.Text(0));
   }
 
+  void AskForProblems(std::string_view question, const std::string& table) {
+    const platform::Value name(table);
+    Statement ask(database_, question);
+    ask.Bind(1, name);
+    while (ask.Step()) problems_.emplace_back(ask.Text(0));
+  }
+
   DatabaseHandle database_;
-  ProcedureCatalogue catalogue_;
   DatabaseHandle delivered_;
   std::vector<std::string> problems_;
 };
 
 }  // namespace
 
-std::vector<std::string> CheckDatabase(const std::string& path) {
-  return platform::WithFailuresOnly([&] { return Check(path).Run(); });
+std::vector<std::string> CheckDatabase(const std::string& path, const std::optional<chain::Seal>& seal) {
+  return platform::WithFailuresOnly([&] { return Check(path).Run(seal); });
+}
+
+chain::SealedHistory SealDatabase(const std::string& path) {
+  return platform::WithFailuresOnly([&] { return chain::SealHistory(*OpenContent(path)); });
 }
 
 }  // namespace ferrowind::sqlite

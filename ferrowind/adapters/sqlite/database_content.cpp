@@ -11,8 +11,8 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/engine.h"
-#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/result_reader.h"
+#include "ferrowind/adapters/sqlite/schema_guard.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
@@ -25,17 +25,15 @@ namespace {
 class Snapshot {
  public:
   explicit Snapshot(const std::string& path, const std::function<bool()>& is_stopped = {})
-      : database_(path),
-        limit_(database_, is_stopped),
-        must_be_a_calendar_database_(database_),
-        transaction_(database_, Transaction::Kind::kReading) {}
+      : database_(path), limit_(database_, is_stopped), transaction_(database_, Transaction::Kind::kReading) {
+    RequireCalendarDatabase(database_);
+  }
 
   [[nodiscard]] DatabaseHandle& Database() { return database_; }
 
  private:
   DatabaseHandle database_;
   StatementLimit limit_;
-  ProcedureCatalogue must_be_a_calendar_database_;
   Transaction transaction_;
 };
 
@@ -49,8 +47,8 @@ class SnapshotSource : public content::Source {
   std::string Name() override { return content_.Name(); }
   std::string Identity() override { return content_.Identity(); }
   std::int64_t CountRows(const content::Table& table) override { return content_.CountRows(table); }
-  std::unique_ptr<content::RowReader> Rows(const content::Table& table) override {
-    return content_.Rows(table);
+  std::unique_ptr<content::RowReader> Rows(const content::Table& table, content::RowOrder order) override {
+    return content_.Rows(table, order);
   }
 
  private:
@@ -65,8 +63,8 @@ void FillExisting(const std::string& path, Target kind,
                   const std::function<bool()>& is_stopped) {
   DatabaseHandle database(path);
   const StatementLimit limit(database, is_stopped);
-  const ProcedureCatalogue must_be_a_calendar_database(database);
   Transaction transaction(database, Transaction::Kind::kWriting);
+  RequireCalendarDatabase(database);
   RequireDeliveredVersion(database);
   {
     FileTarget target(database, kind == Target::kNew);

@@ -17,7 +17,6 @@
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/adapters/sqlite/files_beside.h"
-#include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -55,8 +54,7 @@ bool IsEmptyFileAt(const std::string& path) {
 /// replaced it, so each holds a lock on it until it is done.
 class ReplacedFile {
  public:
-  explicit ReplacedFile(const std::string& path)
-      : handle_(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)) {
+  explicit ReplacedFile(const std::string& path) : handle_(Open(path)) {
     if (handle_ < 0) throw CannotCreate(path, errno);
     try {
       Lock(path);
@@ -71,6 +69,13 @@ class ReplacedFile {
   ~ReplacedFile() { close(handle_); }
 
  private:
+  /// For writing where that is allowed: network drives lock nothing else.
+  static int Open(const std::string& path) {
+    constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const int handle = open(path.c_str(), O_RDWR | kFlags);
+    return handle < 0 && errno == EACCES ? open(path.c_str(), O_RDONLY | kFlags) : handle;
+  }
+
   void Lock(const std::string& path) const {
     if (flock(handle_, LOCK_EX | LOCK_NB) == 0) return;
     if (errno == EWOULDBLOCK) throw InTheWay(path, "another program is creating it just now");
@@ -134,17 +139,35 @@ class NewFile {
   [[nodiscard]] const std::string& Path() const { return path_; }
 
   void TakePlace(bool replaces_empty_file) {
-    const unsigned flags = replaces_empty_file ? 0 : RENAME_NOREPLACE;
-    int result = renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, target_.c_str(), flags);
-    // Some file systems know only the plain kind.
-    if (result != 0 && errno == EINVAL) result = rename(path_.c_str(), target_.c_str());
-    if (result != 0 && errno == EEXIST) throw InTheWay(target_, kFileExists);
-    if (result != 0) throw CannotCreate(target_, errno);
+    if (!replaces_empty_file) {
+      MoveWhereNothingIs();
+    } else if (rename(path_.c_str(), target_.c_str()) != 0) {
+      throw CannotCreate(target_, errno);
+    }
     is_in_place_ = true;
     MakeFolderDurable();
   }
 
  private:
+  void MoveWhereNothingIs() const {
+    if (renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, target_.c_str(), RENAME_NOREPLACE) == 0) return;
+    if (errno == EEXIST) throw InTheWay(target_, kFileExists);
+    if (errno != EINVAL && errno != ENOSYS) throw CannotCreate(target_, errno);
+    // Network drives know only the plain kind, which replaces. A second name never does.
+    GiveSecondName();
+    unlink(path_.c_str());
+  }
+
+  void GiveSecondName() const {
+    if (link(path_.c_str(), target_.c_str()) == 0) return;
+    const int error = errno;
+    // A network drive may have done it, lost its answer and been asked again.
+    struct stat status {};
+    if (stat(path_.c_str(), &status) == 0 && status.st_nlink == 2) return;
+    if (error == EEXIST) throw InTheWay(target_, kFileExists);
+    throw CannotCreate(target_, error);
+  }
+
   void MakeFolderDurable() const {
     const std::string folder = std::filesystem::path(target_).parent_path().string();
     const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -158,24 +181,11 @@ class NewFile {
   bool is_in_place_ = false;
 };
 
-/// Lets readers and a writer work side by side. The file keeps this for good.
-void TurnOnWriteAheadLog(const DatabaseHandle& database) {
-  Statement turn_on(database, "PRAGMA journal_mode = WAL");
-  turn_on.Step();
-  if (turn_on.Text(0) != "wal") {
-    throw Failure(SQLITE_CANTOPEN, "The folder of the database " + database.Path() +
-                                       " is on a file system that databases cannot be shared on");
-  }
-}
-
 void WriteDelivered(const std::string& path) {
   DatabaseHandle database(path);
-  {
-    Transaction transaction(database, Transaction::Kind::kWriting);
-    FillWithDeliveredSchema(database);
-    transaction.Commit();
-  }
-  TurnOnWriteAheadLog(database);
+  Transaction transaction(database, Transaction::Kind::kWriting);
+  FillWithDeliveredSchema(database);
+  transaction.Commit();
 }
 
 }  // namespace

@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/chain/seal.h"
 #include "ferrowind/adapters/content/schema_upgrade.h"
 
 namespace ferrowind::sqlite {
@@ -25,15 +27,28 @@ void CreateDatabase(const std::string& path,
 /// The problems of the calendar database at `path`, each a sentence that says what and where; none when it is
 /// sound: the schema is this program's version, the procedures are this program's, every calendar is a
 /// currency's and has all days of its year with their dates, every day's rule exists and is of the day's
-/// type, the file is intact. Changes nothing. A file that cannot be read or is no calendar database is a
-/// `platform::Failure`.
-[[nodiscard]] std::vector<std::string> CheckDatabase(const std::string& path);
+/// type, the file is intact, nobody has changed the history, and the tables are what it makes of them
+/// (adapters/chain). With a seal, the history up to it is what was sealed. Changes nothing. A file that
+/// cannot be read or is no calendar database is a `platform::Failure`.
+[[nodiscard]] std::vector<std::string> CheckDatabase(const std::string& path,
+                                                     const std::optional<chain::Seal>& seal = {});
+
+/// Seals the history of the calendar database at `path` as it is now. A file that cannot be read, is no
+/// calendar database or is of another version is a `platform::Failure`.
+[[nodiscard]] chain::SealedHistory SealDatabase(const std::string& path);
+
+/// The texts of the calendar database at `path` that are longer than its procedures take, a sentence without
+/// a full stop for each. It is sound all the same: they are from before there were limits. A file that cannot
+/// be read or is no calendar database is a `platform::Failure`.
+[[nodiscard]] std::vector<std::string> LongTexts(const std::string& path);
 
 /// Brings the calendar database at `path` to this program's version: schema and procedures. All of it is one
 /// transaction, so an upgrade that fails or is killed leaves the database as it was; others see it before or
 /// after. A database of this version is left alone, and so may be read-only. A newer one, and a file that
-/// cannot be changed or is no calendar database, are a `platform::Failure`.
-content::UpgradeOutcome UpgradeDatabase(const std::string& path);
+/// cannot be changed or is no calendar database, are a `platform::Failure`, and so is an upgrade that ends
+/// because `is_stopped`, which it asks now and then, says so.
+content::UpgradeOutcome UpgradeDatabase(const std::string& path,
+                                        const std::function<bool()>& is_stopped = {});
 
 /// The version of the schema of the calendar database at `path`. A file that cannot be read or is no calendar
 /// database is a `platform::Failure`.

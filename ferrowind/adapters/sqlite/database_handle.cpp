@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "ferrowind/adapters/sqlite/connection_guard.h"
 #include "ferrowind/adapters/sqlite/guarded_files.h"
 #include "ferrowind/adapters/sqlite/name_collation.h"
 #include "ferrowind/adapters/sqlite/sql_functions.h"
@@ -11,20 +12,10 @@
 namespace ferrowind::sqlite {
 namespace {
 
-/// Longer texts are refused rather than taken into memory.
-constexpr int kMostBytesOfACell = 64 * 1024 * 1024;
-
-/// Of which the delivered ones need a small part.
-constexpr int kMostBytesOfAStatement = 1024 * 1024;
-constexpr int kMostTriggersInEachOther = 10;
-
-/// The switches of a connection, all of which take effect without looking into the file.
+/// What SQL means on a connection. Takes effect without looking into the file.
 int Configure(sqlite3* database) {
   constexpr std::pair<int, int> kSwitches[] = {
       {SQLITE_DBCONFIG_ENABLE_FKEY, 1},
-      {SQLITE_DBCONFIG_DEFENSIVE, 1},
-      {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
-      {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
       // A name in double quotes that is no column shall be an error, not a text.
       {SQLITE_DBCONFIG_DQS_DML, 0},
       {SQLITE_DBCONFIG_DQS_DDL, 0},
@@ -34,10 +25,6 @@ int Configure(sqlite3* database) {
     const int code = sqlite3_db_config(database, what, value, &is_on);
     if (code != SQLITE_OK) return code;
   }
-  sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kMostBytesOfACell);
-  sqlite3_limit(database, SQLITE_LIMIT_SQL_LENGTH, kMostBytesOfAStatement);
-  sqlite3_limit(database, SQLITE_LIMIT_TRIGGER_DEPTH, kMostTriggersInEachOther);
-  sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
   const int code = AddNameCollation(database);
   return code == SQLITE_OK ? AddSqlFunctions(database) : code;
 }
@@ -81,7 +68,7 @@ void DatabaseHandle::Open(const char* name, int flags, std::chrono::milliseconds
       sqlite3_open_v2(name, &database, flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, GuardedFiles());
   database_.reset(database);
   if (code != SQLITE_OK) throw LastFailure();
-  if (Configure(database) != SQLITE_OK ||
+  if (GuardConnection(database) != SQLITE_OK || Configure(database) != SQLITE_OK ||
       sqlite3_busy_timeout(database, static_cast<int>(busy_timeout.count())) != SQLITE_OK) {
     throw LastFailure();
   }

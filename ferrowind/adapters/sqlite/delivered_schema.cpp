@@ -3,7 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "ferrowind/adapters/chain/chain_start.h"
 #include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/adapters/sqlite/content_source.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 
@@ -19,25 +21,32 @@ std::vector<sql_script::ProcedureDefinition> DeliveredProcedures() {
         embedded::kSqliteCldIUCelebrate, embedded::kSqliteCldGetBook, embedded::kSqliteCldIUBook,
         embedded::kSqliteCldGetFingerprint, embedded::kSqliteCldApplyPlan, embedded::kSqliteCldUndo,
         embedded::kSqliteCldGetHistory, embedded::kSqliteCldGetAsOf, embedded::kSqliteCldGetClosedDays,
-        embedded::kSqliteCldGetMarkedDays, embedded::kSqliteCldIUCurrency,
-        embedded::kSqliteCldGetCurrencies}) {
+        embedded::kSqliteCldGetMarkedDays, embedded::kSqliteCldIUCurrency, embedded::kSqliteCldGetCurrencies,
+        embedded::kSqliteCldGetContent, embedded::kSqliteCldIUConvention,
+        embedded::kSqliteCldGetConventions}) {
     procedures.push_back(sql_script::ParseProcedureSource(source));
   }
   return procedures;
 }
 
+std::string_view DeliveredTables() { return embedded::kSqliteSchema; }
+
 void FillWithDeliveredSchema(DatabaseHandle& database) {
   for (const std::string_view script :
-       {embedded::kSqliteSchema, embedded::kBaseData, embedded::kCurrencies}) {
+       {DeliveredTables(), std::string_view(embedded::kBaseData), std::string_view(embedded::kCurrencies)}) {
     database.Execute(std::string(script).c_str());
   }
   for (const auto& procedure : DeliveredProcedures()) AddToCatalogue(database, procedure);
+  FileTarget content(database, true);
+  chain::WriteChainStart(content, 0, {});
 }
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
   static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kSqliteUpgradeToHistory},
                                                               {3, embedded::kSqliteUpgradeToRuleBooks},
-                                                              {4, embedded::kSqliteUpgradeToFirstYears}};
+                                                              {4, embedded::kSqliteUpgradeToFirstYears},
+                                                              {5, embedded::kSqliteUpgradeToGuardedRecords},
+                                                              {6, embedded::kSqliteUpgradeToBusinessDays}};
   return scripts;
 }
 

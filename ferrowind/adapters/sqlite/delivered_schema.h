@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "ferrowind/adapters/content/schema_upgrade.h"
@@ -11,6 +12,9 @@ namespace ferrowind::sqlite {
 
 /// The procedures that this program brings.
 [[nodiscard]] std::vector<sql_script::ProcedureDefinition> DeliveredProcedures();
+
+/// The statements that make the tables, views, indexes and triggers of a new database; it lives for good.
+[[nodiscard]] std::string_view DeliveredTables();
 
 /// Fills the empty `database` with what every calendar database holds: tables, types, the built-in rule, the
 /// setting, currencies, procedures. In the transaction that is open, or one for each statement.

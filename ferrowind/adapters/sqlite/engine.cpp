@@ -3,10 +3,11 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/engine_connection.h"
 #include "ferrowind/adapters/sqlite/file_watch.h"
-#include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/result_reader.h"
+#include "ferrowind/adapters/sqlite/schema_guard.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/statement_limit.h"
+#include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
@@ -25,9 +26,10 @@ std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& c
     if (platform::CompareIgnoringCase(name, "Ccy") != 0) {
       throw platform::Failure(platform::failure_number::kInvalidArgument, "There is no dictionary " + name);
     }
-    const DatabaseHandle database = Open(connection_string);
+    DatabaseHandle database = Open(connection_string);
     const StatementLimit limit(database, longest_call_);
-    const ProcedureCatalogue must_be_a_calendar_database(database);
+    const Transaction transaction(database, Transaction::Kind::kReading);
+    RequireCalendarDatabase(database);
     Statement currencies(database, "SELECT CcyID, Ccy, CcyType, Name FROM DicCcy ORDER BY Ccy");
     return ReadRecordSet(currencies);
   });

@@ -7,6 +7,7 @@
 
 #include "ferrowind/adapters/sqlite/busy_timeout.h"
 #include "ferrowind/adapters/sqlite/wait_budget.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::sqlite {
@@ -18,7 +19,7 @@ class DatabaseHandle;
 ///
 /// Every connection is a new one. Failures carry SQLite's extended result code as their number, and name the
 /// file.
-class Engine : public platform::Engine {
+class FERROWIND_EXPORT Engine : public platform::Engine {
  public:
   /// The scheme of its connection strings.
   static constexpr const char* kScheme = "sqlite";
@@ -46,6 +47,6 @@ class Engine : public platform::Engine {
 };
 
 /// The path in a connection string "sqlite:PATH"; another scheme is a failure.
-[[nodiscard]] std::string PathIn(const std::string& connection_string);
+[[nodiscard]] FERROWIND_EXPORT std::string PathIn(const std::string& connection_string);
 
 }  // namespace ferrowind::sqlite

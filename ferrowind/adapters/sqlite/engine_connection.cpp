@@ -18,12 +18,17 @@ using platform::Failure;
 using platform::Value;
 
 EngineConnection::EngineConnection(DatabaseHandle database, std::chrono::milliseconds longest_call)
-    : database_(std::move(database)), longest_call_(longest_call), catalogue_(database_) {}
+    : database_(std::move(database)), longest_call_(longest_call), schema_(database_) {
+  const StatementLimit limit(database_, longest_call_);
+  schema_.Look();
+  catalogue_.emplace(database_);
+}
 
 std::vector<platform::ParameterDescription> EngineConnection::DescribeProcedure(
     const std::string& procedure) {
   return platform::WithFailuresOnly([&] {
     const StatementLimit limit(database_, longest_call_);
+    schema_.Look();
     LoadProcedure(procedure);
     return procedure_->parameters;
   });
@@ -31,11 +36,16 @@ std::vector<platform::ParameterDescription> EngineConnection::DescribeProcedure(
 
 platform::CallOutcome EngineConnection::Call(const std::string& procedure, const std::vector<Value>& inputs) {
   return platform::WithFailuresOnly([&] {
-    const StatementLimit limit(database_, longest_call_);
-    if (!procedure_ || asked_name_ != procedure) LoadProcedure(procedure);
+    if (!procedure_ || asked_name_ != procedure) {
+      const StatementLimit limit(database_, longest_call_);
+      LoadProcedure(procedure);
+    }
     platform::RefuseWrongInputs(procedure_->name, procedure_->parameters, inputs);
     Transaction transaction(database_,
                             procedure_->writes ? Transaction::Kind::kWriting : Transaction::Kind::kReading);
+    // From here on, since other programs may have kept this one waiting.
+    const StatementLimit limit(database_, longest_call_);
+    schema_.Look();
     platform::CallOutcome outcome = procedure_->writes ? Change(inputs) : Read(inputs);
     if (outcome.return_value == 0) transaction.Commit();
     return outcome;
@@ -60,15 +70,16 @@ platform::CallOutcome EngineConnection::Change(const std::vector<Value>& inputs)
   if (outcome.return_value == 0) {
     const auto rows_changed = sqlite3_total_changes64(database_.Get()) - changes_before;
     const auto replaced_rows = recorder.TakeRows();
-    const auto entry = AddToHistory(database_, {*procedure_, inputs, interpreter.Variable("ID1"),
-                                                interpreter.Variable("Year1"), rows_changed});
-    AddReplacedRows(database_, entry, replaced_rows);
+    AddToHistory(
+        database_,
+        {*procedure_, inputs, interpreter.Variable("ID1"), interpreter.Variable("Year1"), rows_changed},
+        replaced_rows);
   }
   return outcome;
 }
 
 void EngineConnection::LoadProcedure(const std::string& name) {
-  auto found = catalogue_.Find(name);
+  auto found = catalogue_->Find(name);
   if (!found) {
     throw Failure(platform::failure_number::kInvalidArgument,
                   "The database " + database_.Path() + " has no procedure " + name);

@@ -7,6 +7,7 @@
 
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/adapters/sqlite/schema_guard.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::sqlite {
@@ -15,7 +16,8 @@ namespace ferrowind::sqlite {
 /// again.
 class EngineConnection : public platform::Connection {
  public:
-  /// A call that takes longer than `longest_call` fails.
+  /// Looks into the file; one that is no calendar database is a failure. What takes longer than
+  /// `longest_call` fails.
   EngineConnection(DatabaseHandle database, std::chrono::milliseconds longest_call);
 
   [[nodiscard]] std::vector<platform::ParameterDescription> DescribeProcedure(
@@ -31,7 +33,9 @@ class EngineConnection : public platform::Connection {
 
   DatabaseHandle database_;
   std::chrono::milliseconds longest_call_;
-  ProcedureCatalogue catalogue_;
+  SchemaGuard schema_;
+  /// Always there; made behind the first look at the schema.
+  std::optional<ProcedureCatalogue> catalogue_;
   /// The procedure that was described last, and the name that it was asked for by.
   std::optional<sql_script::ProcedureDefinition> procedure_;
   std::string asked_name_;

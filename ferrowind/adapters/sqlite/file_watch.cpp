@@ -1,10 +1,17 @@
 #include "ferrowind/adapters/sqlite/file_watch.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "ferrowind/adapters/sqlite/busy_timeout.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/schema_guard.h"
 #include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
+#include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -57,16 +64,22 @@ std::optional<FileWatch::Trace> FileWatch::TraceOf(const std::string& path) {
 }
 
 std::optional<FileWatch::Traces> FileWatch::TracesNow() const {
-  const auto file = TraceOf(path_);
-  if (!file) return std::nullopt;
-  Traces traces{*file, TraceOf(path_ + "-wal")};
+  // The log stands beside the file itself, not beside a link to it, which may lead elsewhere by now.
+  std::error_code error;
+  const std::string path = std::filesystem::canonical(path_, error).string();
+  const auto file = TraceOf(path);
+  if (error || !file) return std::nullopt;
+  Traces traces{*file, TraceOf(path + "-wal")};
   // Readers, too, make one that stays empty.
   if (traces.log && traces.log->size == 0) traces.log.reset();
   return traces;
 }
 
 std::int64_t FileWatch::NewestEntry() const {
-  const DatabaseHandle database(path_, kNoWaiting);
+  DatabaseHandle database(path_, kNoWaiting);
+  const StatementLimit limit(database, kLongestCall);
+  const Transaction transaction(database, Transaction::Kind::kReading);
+  SchemaGuard(database).Look();
   Statement newest(database, "SELECT max(EntryID) FROM CldHistory");
   newest.Step();
   return newest.Integer(0);

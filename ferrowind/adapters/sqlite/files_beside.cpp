@@ -1,6 +1,8 @@
 #include "ferrowind/adapters/sqlite/files_beside.h"
 
-#include <filesystem>
+#include <algorithm>
+#include <cstddef>
+#include <utility>
 
 #include <unistd.h>
 
@@ -17,7 +19,7 @@ std::optional<struct stat> StatusOf(const std::string& path) {
   return status;
 }
 
-std::optional<std::string> DangerOf(const struct stat& file, const struct stat& database,
+std::optional<std::string> DangerIn(const struct stat& file, const struct stat& database,
                                     const struct stat& folder) {
   if (S_ISLNK(file.st_mode)) return "is a link; move it away";
   if (!S_ISREG(file.st_mode)) return "is no file; move it away";
@@ -41,12 +43,15 @@ bool IsOfAWriter(const struct stat& file, const struct stat& database, const str
   return (database.st_mode & S_IWGRP) != 0 && file.st_gid == database.st_gid && !folder_gives_group_to_all;
 }
 
-std::optional<std::string> DangerBeside(const std::string& path) {
-  const auto database = StatusOf(path);
-  const auto folder = StatusOf(std::filesystem::path(path).parent_path().string());
+FilesBeside::FilesBeside(std::string path)
+    : path_(std::move(path)),
+      database_(StatusOf(path_)),
+      folder_(StatusOf(path_.substr(0, std::max<std::size_t>(path_.rfind('/'), 1)))) {}
+
+std::optional<std::string> FilesBeside::Danger() const {
   // Without them SQLite says what is missing.
-  if (!database || !folder) return std::nullopt;
-  const std::string journal = path + std::string(kJournalSuffix);
+  if (!database_ || !folder_) return std::nullopt;
+  const std::string journal = path_ + std::string(kJournalSuffix);
   if (IsAnythingAt(journal)) {
     return "beside it is a file " + journal +
            ", which these programs never leave, and which would put older content into the database and "
@@ -54,12 +59,28 @@ std::optional<std::string> DangerBeside(const std::string& path) {
            "delete another file of yours; find out who put it there, and move it away";
   }
   for (const auto suffix : {kLogSuffix, kSharedMemorySuffix}) {
-    const std::string name = path + std::string(suffix);
-    const auto file = StatusOf(name);
-    if (!file) continue;
-    if (const auto danger = DangerOf(*file, *database, *folder)) return "beside it " + name + " " + *danger;
+    if (auto danger = DangerOf(suffix)) return danger;
   }
   return std::nullopt;
 }
+
+std::optional<std::string> FilesBeside::DangerOf(std::string_view suffix) const {
+  const auto file = StatusOf(path_ + std::string(suffix));
+  return file ? DangerOf(*file, suffix) : std::nullopt;
+}
+
+bool FilesBeside::HasHarmless(std::string_view suffix) const {
+  const auto file = StatusOf(path_ + std::string(suffix));
+  return file && !DangerOf(*file, suffix);
+}
+
+std::optional<std::string> FilesBeside::DangerOf(const struct stat& file, std::string_view suffix) const {
+  if (!database_ || !folder_) return std::nullopt;
+  const auto danger = DangerIn(file, *database_, *folder_);
+  if (!danger) return std::nullopt;
+  return "beside it " + path_ + std::string(suffix) + " " + *danger;
+}
+
+std::optional<std::string> DangerBeside(const std::string& path) { return FilesBeside(path).Danger(); }
 
 }  // namespace ferrowind::sqlite

@@ -54,20 +54,16 @@ int Refuse(sqlite3_file* file) {
   return SQLITE_CANTOPEN;
 }
 
-/// Whether what has just been opened beside `database` is not to be used. When nothing has the name any more,
-/// it was somebody's who put it there for that moment only: SQLite removes these files while nobody opens
-/// them.
-bool IsDangerInUse(const std::string& database, std::string_view suffix) {
-  return DangerBeside(database).has_value() || !IsAnythingAt(database + std::string(suffix));
-}
-
-/// Looks again when the log is open, before anything is read from it or written to it.
+/// Looks again when the log is open, before anything is read from it or written to it. When nothing has the
+/// name any more, what was opened was somebody's who put it there for that moment only: SQLite removes these
+/// files while nobody opens them.
 int OpenLog(sqlite3_vfs* system, const char* name, sqlite3_file* file, int flags, int* flags_out) {
   std::string database = name;
   database.resize(database.size() - kLogSuffix.size());
-  if (DangerBeside(database)) return Refuse(file);
+  const FilesBeside beside(std::move(database));
+  if (beside.Danger()) return Refuse(file);
   const int code = system->xOpen(system, name, file, flags, flags_out);
-  if (code != SQLITE_OK || !IsDangerInUse(database, kLogSuffix)) return code;
+  if (code != SQLITE_OK || beside.HasHarmless(kLogSuffix)) return code;
   file->pMethods->xClose(file);
   return Refuse(file);
 }
@@ -78,10 +74,11 @@ int MapSharedMemory(sqlite3_file* file, int page, int size, int may_extend, void
     const auto& guarded = *reinterpret_cast<const GuardedDatabase*>(file->pMethods);
     const auto map = [&] { return guarded.system->xShmMap(file, page, size, may_extend, memory); };
     if (page != 0) return map();
-    if (DangerBeside(guarded.path)) return SQLITE_CANTOPEN;
+    const FilesBeside beside(guarded.path);
+    if (beside.DangerOf(kSharedMemorySuffix)) return SQLITE_CANTOPEN;
     const int code = map();
     const bool is_mapped = code == SQLITE_OK || code == SQLITE_READONLY;
-    if (!is_mapped || !IsDangerInUse(guarded.path, kSharedMemorySuffix)) return code;
+    if (!is_mapped || beside.HasHarmless(kSharedMemorySuffix)) return code;
     guarded.system->xShmUnmap(file, 0);
     *memory = nullptr;
     return SQLITE_CANTOPEN;

@@ -17,14 +17,17 @@ constexpr std::string_view kLookup =
     " FROM ProcedureCatalogue r JOIN ProcedureParameter p ON p.ProcedureName = r.Name"
     " WHERE r.Name = ?1 ORDER BY p.Position";
 
+/// A sound database without these tables is a database of something else, or an empty file.
+platform::Failure NoCalendarDatabase(const DatabaseHandle& database, const std::string& why) {
+  return {SQLITE_ERROR, "The file " + database.Path() + " is not a calendar database: " + why};
+}
+
 Statement PrepareLookup(const DatabaseHandle& database) {
   try {
     return Statement(database, kLookup);
   } catch (const platform::Failure& failure) {
-    // A sound database without these tables is a database of something else, or an empty file.
     if (failure.Number() != SQLITE_ERROR) throw;
-    throw platform::Failure(failure.Number(), "The file " + database.Path() +
-                                                  " is not a calendar database: " + failure.Description());
+    throw NoCalendarDatabase(database, failure.Description());
   }
 }
 
@@ -59,6 +62,13 @@ std::vector<std::string> ProcedureCatalogue::Names() const {
   std::vector<std::string> names;
   while (list.Step()) names.emplace_back(list.Text(0));
   return names;
+}
+
+void RequireCatalogue(const DatabaseHandle& database) {
+  Statement count(database,
+                  "SELECT count(*) FROM sqlite_schema"
+                  " WHERE lower(name) IN ('procedurecatalogue', 'procedureparameter')");
+  if (!count.Step() || count.Integer(0) != 2) throw NoCalendarDatabase(database, "it holds no procedures");
 }
 
 void AddToCatalogue(const DatabaseHandle& database, const ProcedureDefinition& procedure) {

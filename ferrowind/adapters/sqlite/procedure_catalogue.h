@@ -28,6 +28,9 @@ class ProcedureCatalogue {
   Statement lookup_;
 };
 
+/// A failure unless `database` has the names of a catalogue; what stands under them is not looked at.
+void RequireCatalogue(const DatabaseHandle& database);
+
 /// Adds `procedure` to the catalogue of `database`, whose tables exist. A name in use is a failure.
 void AddToCatalogue(const DatabaseHandle& database, const sql_script::ProcedureDefinition& procedure);
 

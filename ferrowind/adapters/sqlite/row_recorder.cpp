@@ -5,50 +5,19 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ferrowind/platform/database/json_object.h"
+#include "ferrowind/adapters/chain/recorded_table.h"
+#include "ferrowind/adapters/sqlite/result_reader.h"
+#include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::sqlite {
 namespace {
 
+using chain::kCalendarTable;
+using chain::kDayTable;
+using chain::RecordedTable;
+using chain::RecordedTables;
 using platform::Value;
-
-/// The columns of CldHistoryRow that hold keys, by their places in `ReplacedRow::key`.
-enum KeyColumn : std::size_t { kID1, kYear1, kDay1, kID2, kPosition };
-
-struct Column {
-  /// In the table.
-  int place;
-  const char* name;
-};
-
-struct RecordedTable {
-  std::string_view name;
-  /// Of the key, which is in front: the column of CldHistoryRow that each goes into.
-  std::vector<KeyColumn> key;
-  /// Those that make up the old row.
-  std::vector<Column> columns;
-};
-
-const std::vector<RecordedTable>& Tables() {
-  static const std::vector<RecordedTable> tables = {
-      {"CldCalendar", {kID1, kYear1}, {}},
-      {"CldDay", {kID1, kYear1, kDay1}, {{4, "TID1"}, {5, "ID2"}, {6, "Comment"}}},
-      {"CldHoliday",
-       {kID2},
-       {{1, "Name1"}, {2, "Comment"}, {3, "TID1"}, {4, "D1"}, {5, "MY"}, {6, "MD"}, {7, "WD"}, {8, "Del"}}},
-      {"DicCcy", {kID1}, {{1, "Ccy"}, {2, "CcyType"}, {3, "Name"}, {4, "LastDay"}}},
-      {"CldBook", {kID1}, {{1, "Publisher"}, {2, "Document"}, {3, "FromYear"}}},
-      {"CldRecurrence",
-       {kID1, kPosition},
-       {{2, "Name1"}, {3, "TID1"}, {4, "Expression"}, {5, "Comment"}, {6, "MovedName"}}},
-  };
-  return tables;
-}
-
-constexpr std::size_t kCalendarTable = 0;
-constexpr std::size_t kDayTable = 1;
-constexpr std::string_view kOrdinaryDay = R"({"TID1" : 1, "ID2" : null, "Comment" : null})";
 
 /// Asks for a cell of the row that SQLite tells of, as it was or as it becomes.
 using CellReader = int (*)(sqlite3* database, int column, sqlite3_value** value);
@@ -76,10 +45,8 @@ Value Cell(sqlite3* database, CellReader read, int column) {
   }
 }
 
-std::string RowText(sqlite3* database, CellReader read, const RecordedTable& table) {
-  platform::JsonObject row;
-  for (const Column& column : table.columns) row.Add(column.name, Cell(database, read, column.place));
-  return row.Text();
+std::string TextOf(sqlite3* database, CellReader read, const RecordedTable& table) {
+  return RowText(table, [&](int place) { return Cell(database, read, place); });
 }
 
 }  // namespace
@@ -95,7 +62,7 @@ void RowRecorder::OnChange(void* recorder, sqlite3* /*database*/, int operation,
                            sqlite3_int64 /*new_rowid*/) noexcept {
   auto& self = *static_cast<RowRecorder*>(recorder);
   try {
-    const auto& tables = Tables();
+    const auto& tables = RecordedTables();
     const auto found = std::find_if(tables.begin(), tables.end(),
                                     [&](const RecordedTable& recorded) { return recorded.name == table; });
     if (found != tables.end()) {
@@ -107,7 +74,7 @@ void RowRecorder::OnChange(void* recorder, sqlite3* /*database*/, int operation,
 }
 
 void RowRecorder::Record(std::size_t table, int operation) {
-  const RecordedTable& recorded = Tables()[table];
+  const RecordedTable& recorded = RecordedTables()[table];
   // No statement of a procedure changes a key.
   const CellReader read = operation == SQLITE_INSERT ? sqlite3_preupdate_new : sqlite3_preupdate_old;
   Key key{static_cast<std::int64_t>(table)};
@@ -117,21 +84,21 @@ void RowRecorder::Record(std::size_t table, int operation) {
   if (IsNewDay(key, operation)) return;
   std::optional<std::string> old_row;
   std::optional<std::string> new_row;
-  if (operation != SQLITE_INSERT) old_row = RowText(database_.Get(), sqlite3_preupdate_old, recorded);
-  if (operation != SQLITE_DELETE) new_row = RowText(database_.Get(), sqlite3_preupdate_new, recorded);
-  RecordReplaced(key, std::move(old_row), new_row);
+  if (operation != SQLITE_INSERT) old_row = TextOf(database_.Get(), sqlite3_preupdate_old, recorded);
+  if (operation != SQLITE_DELETE) new_row = TextOf(database_.Get(), sqlite3_preupdate_new, recorded);
+  RecordReplaced(key, std::move(old_row), std::move(new_row));
 }
 
 void RowRecorder::RecordReplaced(const Key& key, std::optional<std::string> old_row,
-                                 const std::optional<std::string>& new_row) {
+                                 std::optional<std::string> new_row) {
   const auto found = changes_.find(key);
   if (found != changes_.end()) {
-    found->second.is_as_it_was = found->second.old_row == new_row;
+    found->second.new_row = std::move(new_row);
     return;
   }
   if (old_row == new_row) return;
-  if (key[0] == kDayTable && !new_row && old_row == kOrdinaryDay) return;
-  changes_.emplace(key, Change{std::move(old_row), false});
+  if (key[0] == kDayTable && !new_row && old_row == chain::kOrdinaryDay) return;
+  changes_.emplace(key, Change{std::move(old_row), std::move(new_row)});
   order_.push_back(key);
 }
 
@@ -145,19 +112,40 @@ bool RowRecorder::IsOfNewCalendar(const Key& day) const {
   return calendar != changes_.end() && !calendar->second.old_row;
 }
 
+std::string RowRecorder::TextOfNewCalendar(const Key& calendar) const {
+  const Value currency(calendar[1]);
+  const Value year(calendar[2]);
+  Statement days(database_,
+                 "SELECT Day1, TID1, ID2, Comment FROM CldDay"
+                 " WHERE ID1 = ?1 AND Year1 = ?2 AND (ID2 IS NOT NULL OR Comment IS NOT NULL) ORDER BY Day1");
+  days.Bind(1, currency);
+  days.Bind(2, year);
+  chain::NewCalendarText text;
+  const ResultReader reader(days);
+  // The places in the table are those in the row, but for the first columns.
+  const RecordedTable& table = RecordedTables()[kDayTable];
+  const int hidden = table.columns.front().place - 1;
+  while (days.Step()) {
+    text.Add(days.Integer(0), RowText(table, [&](int place) { return reader.Cell(place - hidden); }));
+  }
+  return text.Text();
+}
+
 std::vector<ReplacedRow> RowRecorder::TakeRows() {
   if (trouble_) std::rethrow_exception(trouble_);
   std::vector<ReplacedRow> rows;
   rows.reserve(order_.size());
   for (const Key& key : order_) {
     Change& change = changes_.at(key);
-    if (change.is_as_it_was) continue;
-    const RecordedTable& table = Tables()[static_cast<std::size_t>(key[0])];
-    ReplacedRow row{table.name, {}, {}};
+    if (change.old_row == change.new_row) continue;
+    const RecordedTable& table = RecordedTables()[static_cast<std::size_t>(key[0])];
+    ReplacedRow row{table.name, {}, {}, {}};
     for (std::size_t i = 0; i < table.key.size(); ++i) {
       row.key[table.key[i]] = static_cast<std::int32_t>(key[i + 1]);
     }
+    if (key[0] == kCalendarTable && change.new_row) change.new_row = TextOfNewCalendar(key);
     if (change.old_row) row.old_row = std::move(*change.old_row);
+    if (change.new_row) row.new_row = std::move(*change.new_row);
     rows.push_back(std::move(row));
   }
   return rows;

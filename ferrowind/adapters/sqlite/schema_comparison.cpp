@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/sqlite/schema_comparison.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <string_view>
 #include <utility>
@@ -80,19 +82,39 @@ std::vector<std::string> SchemaDifferences(const DatabaseHandle& found, const Da
   return differences.Take();
 }
 
+bool HasForeignTables(const DatabaseHandle& found, const DatabaseHandle& delivered) {
+  const Entries own = EntriesOf(delivered);
+  const Entries all = EntriesOf(found);
+  return std::any_of(all.begin(), all.end(), [&](const auto& entry) {
+    if (!entry.first.starts_with("table ") && !entry.first.starts_with("index ")) return false;
+    const auto match = own.find(entry.first);
+    return match == own.end() || match->second != entry.second;
+  });
+}
+
+std::vector<std::string> TableNames(const DatabaseHandle& database) {
+  Statement tables(database, "SELECT name FROM sqlite_schema WHERE type = 'table'");
+  std::vector<std::string> names;
+  while (tables.Step()) names.emplace_back(tables.Text(0));
+  return names;
+}
+
 bool HasPlainTables(const DatabaseHandle& found, const DatabaseHandle& delivered) {
-  Statement tables(delivered, "SELECT name FROM sqlite_schema WHERE type = 'table'");
-  // What has no page of its own is computed when it is read.
-  Statement computed(found,
-                     "SELECT 1 FROM sqlite_schema WHERE lower(name) = lower(?1) AND type IN ('table', 'view')"
-                     " AND rootpage = 0");
-  while (tables.Step()) {
-    const platform::Value name(std::string(tables.Text(0)));
-    computed.Reset();
-    computed.Bind(1, name);
-    if (computed.Step()) return false;
-  }
-  return true;
+  // What has no page of its own is computed when it is read, as are columns that are an expression of others.
+  constexpr std::string_view kComputed[] = {
+      "SELECT 1 FROM sqlite_schema WHERE lower(name) = lower(?1) AND type IN ('table', 'view')"
+      " AND rootpage = 0",
+      "SELECT 1 FROM pragma_table_xinfo(?1) WHERE hidden IN (2, 3)"};
+  const auto names = TableNames(delivered);
+  return std::none_of(std::begin(kComputed), std::end(kComputed), [&](std::string_view question) {
+    Statement computed(found, question);
+    return std::any_of(names.begin(), names.end(), [&](const std::string& table) {
+      const platform::Value name(table);
+      computed.Reset();
+      computed.Bind(1, name);
+      return computed.Step();
+    });
+  });
 }
 
 }  // namespace ferrowind::sqlite

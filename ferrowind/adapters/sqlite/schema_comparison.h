@@ -13,8 +13,15 @@ namespace ferrowind::sqlite {
 [[nodiscard]] std::vector<std::string> SchemaDifferences(const DatabaseHandle& found,
                                                          const DatabaseHandle& delivered);
 
+/// Whether `found` holds a table or an index that `delivered` has not, or has otherwise.
+[[nodiscard]] bool HasForeignTables(const DatabaseHandle& found, const DatabaseHandle& delivered);
+
+/// The tables that `database` has, views apart.
+[[nodiscard]] std::vector<std::string> TableNames(const DatabaseHandle& database);
+
 /// Whether every name that `delivered` has a table for, `found` has a table of its own file for, or nothing:
-/// not a view or a virtual table, which runs what somebody wrote when it is read.
+/// not a view, a virtual table or one with generated columns, which run what somebody wrote when they are
+/// read.
 [[nodiscard]] bool HasPlainTables(const DatabaseHandle& found, const DatabaseHandle& delivered);
 
 }  // namespace ferrowind::sqlite

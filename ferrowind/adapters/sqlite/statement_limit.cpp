@@ -8,8 +8,8 @@
 namespace ferrowind::sqlite {
 namespace {
 
-/// Some hundred microseconds.
-constexpr int kStepsBetweenLooks = 10000;
+/// Some ten microseconds, as long as cells are short.
+constexpr int kStepsBetweenLooks = 1000;
 
 }  // namespace
 

@@ -2,13 +2,16 @@
 
 #include <sqlite3.h>
 
+#include "ferrowind/adapters/sqlite/write_ahead_log.h"
+
 namespace ferrowind::sqlite {
 
 Transaction::Transaction(DatabaseHandle& database, Kind kind) : database_(database) {
   if (kind == Kind::kWriting) {
-    // What is committed must survive a power cut, whatever this SQLite was built to do by default. A file
-    // that another tool has taken off the log gets it back, so that there is never a journal beside it.
-    database_.Execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL; BEGIN IMMEDIATE");
+    // What is committed must survive a power cut, whatever this SQLite was built to do by default.
+    database_.Execute("PRAGMA synchronous = FULL");
+    RequireWriteAheadLog(database_);
+    database_.Execute("BEGIN IMMEDIATE");
   } else {
     database_.Execute("BEGIN");
   }

@@ -2,11 +2,13 @@
 
 #include <chrono>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::sqlite {
 
 /// The time that all calls of one undertaking together may wait for other programs to release the database.
 /// Once it is spent, a call that meets a locked database fails at once. Used by one thread.
-class WaitBudget {
+class FERROWIND_EXPORT WaitBudget {
  public:
   /// Holds `most` at first.
   explicit WaitBudget(std::chrono::milliseconds most) : most_(most), left_(most) {}

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/additions/calendars_additions.h"
 #include "ferrowind/platform/additions/holidays_additions.h"
 #include "ferrowind/platform/additions/window_parts.h"
@@ -10,7 +11,7 @@ namespace ferrowind::platform {
 
 /// What a host adds to the component's windows: controls, tools and columns behind those that the windows
 /// have of their own, and what they do. Without additions the windows are exactly the given ones.
-class Additions {
+class FERROWIND_EXPORT Additions {
  public:
   virtual ~Additions() = default;
 

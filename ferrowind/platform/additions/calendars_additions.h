@@ -3,13 +3,14 @@
 #include <cstdint>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/additions/calendars_scene.h"
 
 namespace ferrowind::platform {
 
 /// The additions of one Calendars window: what they do when something happens there. A failure of any of
 /// these is shown to the operator, and the window goes on as if there were no additions.
-class CalendarsAdditions {
+class FERROWIND_EXPORT CalendarsAdditions {
  public:
   virtual ~CalendarsAdditions() = default;
 

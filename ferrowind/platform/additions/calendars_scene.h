@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/form.h"
 #include "ferrowind/platform/toolkit/grid.h"
 #include "ferrowind/platform/toolkit/status_bar.h"
@@ -14,7 +15,7 @@
 namespace ferrowind::platform {
 
 /// A calendar that a window works on.
-struct CalendarOnShow {
+struct FERROWIND_EXPORT CalendarOnShow {
   /// The number of its currency, and its code as the window shows it.
   std::int32_t currency_id = 0;
   std::string currency;
@@ -24,7 +25,7 @@ struct CalendarOnShow {
 
 /// The Calendars window as its additions see it. It outlives them. To be used on the user-interface thread;
 /// what a method does not say to fail with reaches the operator as any failure of the window does.
-class CalendarsScene {
+class FERROWIND_EXPORT CalendarsScene {
  public:
   virtual ~CalendarsScene() = default;
 

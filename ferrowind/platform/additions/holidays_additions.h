@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/additions/holidays_scene.h"
 #include "ferrowind/platform/values/record_set.h"
 
@@ -12,7 +13,7 @@ namespace ferrowind::platform {
 /// The additions of one Holidays window: what they do when something happens there. A failure of any of these
 /// is shown to the operator, and the window goes on as if there were no additions; only a failed
 /// `BeforeAssign` keeps the rules from being assigned.
-class HolidaysAdditions {
+class FERROWIND_EXPORT HolidaysAdditions {
  public:
   virtual ~HolidaysAdditions() = default;
 

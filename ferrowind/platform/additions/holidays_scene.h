@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/additions/calendars_scene.h"
 #include "ferrowind/platform/toolkit/form.h"
 #include "ferrowind/platform/toolkit/grid.h"
@@ -14,7 +15,7 @@
 namespace ferrowind::platform {
 
 /// A rule that the operator has chosen, as the window's list holds it; each value possibly empty.
-struct ChosenRule {
+struct FERROWIND_EXPORT ChosenRule {
   Value id;
   Value type;
   Value name;
@@ -25,7 +26,7 @@ struct ChosenRule {
 };
 
 /// The Holidays window as its additions see it. It outlives them. To be used on the user-interface thread.
-class HolidaysScene {
+class FERROWIND_EXPORT HolidaysScene {
  public:
   virtual ~HolidaysScene() = default;
 

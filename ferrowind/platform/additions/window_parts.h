@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/form_design.h"
 #include "ferrowind/platform/toolkit/tool_bar.h"
 
@@ -10,7 +11,7 @@ namespace ferrowind::platform {
 
 /// What additions put on a window, all of it behind what the window has of its own: none of the names and ids
 /// is one of the window's.
-struct WindowParts {
+struct FERROWIND_EXPORT WindowParts {
   /// In tab order; the layout of the form must have them.
   std::vector<ControlDesign> controls = {};
   /// Those that `bar` and `menu` name.

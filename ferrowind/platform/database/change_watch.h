@@ -4,13 +4,16 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/export.h"
+#include "ferrowind/platform/database/silence_watch.h"
+
 namespace ferrowind::platform {
 
 /// Learns whether somebody changes a database, for a program that looks now and then while it is idle.
 ///
 /// A look waits for nobody: not for the database, not for another program, not for a server that is gone. In
 /// between nothing is locked. Used by one thread.
-class ChangeWatch {
+class FERROWIND_EXPORT ChangeWatch {
  public:
   virtual ~ChangeWatch() = default;
 
@@ -27,13 +30,14 @@ class ChangeWatch {
   [[nodiscard]] virtual std::chrono::milliseconds Pause() const = 0;
 };
 
-/// Makes watches of databases.
-class ChangeWatchFactory {
+/// Makes watches of databases, which the connection strings name and which may be out of reach.
+class FERROWIND_EXPORT ChangeWatchFactory {
  public:
   virtual ~ChangeWatchFactory() = default;
-  /// A watch of the database that `connection_string` names, which may be out of reach. Null when that kind
-  /// of database cannot tell of changes; failure when no database can be meant.
+  /// Null when that kind of database cannot tell of changes; failure when no database can be meant.
   [[nodiscard]] virtual std::unique_ptr<ChangeWatch> Watch(const std::string& connection_string) = 0;
+  /// Null when that kind of database is never silent; failure when no database can be meant.
+  [[nodiscard]] virtual std::unique_ptr<SilenceWatch> WatchSilence(const std::string& connection_string) = 0;
 };
 
 }  // namespace ferrowind::platform

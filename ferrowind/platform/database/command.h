@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/parameter.h"
 #include "ferrowind/platform/values/record_set.h"
 
@@ -20,7 +21,7 @@ inline constexpr std::int32_t kStateClosed = 0;
 inline constexpr std::int32_t kStateOpen = 1;
 
 /// One of the record sets that an executed command produced, still held by the command's connection.
-class ResultCursor {
+class FERROWIND_EXPORT ResultCursor {
  public:
   virtual ~ResultCursor() = default;
 
@@ -37,7 +38,7 @@ class ResultCursor {
 /// Set the type, the text, the connection and the cursor location, refresh the parameters, set their values,
 /// execute, read the return value. Every method may fail with a `Failure`. Nothing is shared between
 /// commands, but for the connection where somebody has asked for that (`CommandFactory::ShareConnections`).
-class Command {
+class FERROWIND_EXPORT Command {
  public:
   virtual ~Command() = default;
 
@@ -62,12 +63,12 @@ class Command {
 };
 
 /// Closes the shared connections when the last one of it is gone.
-class SharedConnections {
+class FERROWIND_EXPORT SharedConnections {
  public:
   virtual ~SharedConnections() = default;
 };
 
-class CommandFactory {
+class FERROWIND_EXPORT CommandFactory {
  public:
   virtual ~CommandFactory() = default;
   /// A new command, never null.

@@ -5,16 +5,19 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/change_watch.h"
 #include "ferrowind/platform/database/parameter.h"
+#include "ferrowind/platform/database/silence_watch.h"
 #include "ferrowind/platform/values/record_set.h"
 
 namespace ferrowind::platform {
 
 /// What a procedure call gave.
-struct CallOutcome {
+struct FERROWIND_EXPORT CallOutcome {
   std::int32_t return_value = 0;
-  /// In the order in which the procedure produced them. Empty when the return value is not 0.
+  /// In the order in which the procedure produced them, none of them null. Empty when the return value is
+  /// not 0.
   std::vector<std::shared_ptr<RecordSet>> record_sets;
 };
 
@@ -22,7 +25,7 @@ struct CallOutcome {
 ///
 /// Every method fails with a `Failure` that keeps the engine's own code and text. A connection is used by one
 /// thread.
-class Connection {
+class FERROWIND_EXPORT Connection {
  public:
   virtual ~Connection() = default;
 
@@ -38,20 +41,24 @@ class Connection {
 };
 
 /// A kind of database, reached by connection strings of its own form.
-class Engine {
+class FERROWIND_EXPORT Engine {
  public:
   virtual ~Engine() = default;
 
   /// Opens the database that `connection_string` names. Failure when it cannot be opened; nothing is created.
   [[nodiscard]] virtual std::unique_ptr<Connection> Connect(const std::string& connection_string) = 0;
 
-  /// The rows of the dictionary table `name` ("Ccy": `CcyID`, `Ccy`, `CcyType`, `Name`, ordered by `Ccy`). An
-  /// unknown dictionary is a failure that names it.
+  /// The rows of the dictionary table `name` ("Ccy": `CcyID`, `Ccy`, `CcyType`, `Name`, ordered by `Ccy`);
+  /// never null. An unknown dictionary is a failure that names it.
   [[nodiscard]] virtual std::shared_ptr<RecordSet> ReadDictionary(const std::string& connection_string,
                                                                   const std::string& name) = 0;
 
   /// As `ChangeWatchFactory` says.
   [[nodiscard]] virtual std::unique_ptr<ChangeWatch> Watch(const std::string& connection_string) = 0;
+  /// As `ChangeWatchFactory` says. Files and the like are never silent.
+  [[nodiscard]] virtual std::unique_ptr<SilenceWatch> WatchSilence(const std::string& /*connection_string*/) {
+    return nullptr;
+  }
 };
 
 }  // namespace ferrowind::platform

@@ -94,6 +94,7 @@ class EngineCommand : public Command {
     }
     CallOutcome outcome =
         OnConnection([&](Connection& connection) { return connection.Call(procedure_, inputs); });
+    RequireRecordSets(outcome);
     for (auto& parameter : parameters_) {
       if (parameter.description.direction == ParameterDirection::kReturnValue) {
         parameter.value = outcome.return_value;
@@ -113,6 +114,16 @@ class EngineCommand : public Command {
   }
 
  private:
+  /// Without one of them the others would be taken for each other.
+  void RequireRecordSets(const CallOutcome& outcome) const {
+    const auto& sets = outcome.record_sets;
+    const auto missing = std::find(sets.begin(), sets.end(), nullptr);
+    if (missing == sets.end()) return;
+    throw Failure(failure_number::kObjectNotSet, "The engine gave nothing for record set " +
+                                                     std::to_string(missing - sets.begin() + 1) + " of " +
+                                                     procedure_);
+  }
+
   struct Parameter {
     std::string folded_name;
     ParameterDescription description;

@@ -2,13 +2,14 @@
 
 #include <memory>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/command.h"
 #include "ferrowind/platform/database/engine_registry.h"
 
 namespace ferrowind::platform {
 
 /// Makes commands that run on the engine which their connection string names.
-class EngineCommandFactory : public CommandFactory {
+class FERROWIND_EXPORT EngineCommandFactory : public CommandFactory {
  public:
   /// `engines` is shared with the commands made here and must outlive them.
   explicit EngineCommandFactory(const EngineRegistry& engines) : engines_(engines) {}

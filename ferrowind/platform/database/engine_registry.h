@@ -5,12 +5,13 @@
 #include <utility>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::platform {
 
 /// The engines that a host has, each under the scheme that its connection strings begin with ("sqlite:").
-class EngineRegistry {
+class FERROWIND_EXPORT EngineRegistry {
  public:
   /// `scheme` without its colon. A scheme registered before is taken over by the newer engine.
   void Register(std::string scheme, std::shared_ptr<Engine> engine);

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/database/parameter.h"
 #include "ferrowind/platform/values/value.h"
 
@@ -14,7 +15,7 @@ namespace ferrowind::platform {
 /// alike.
 ///
 /// `inputs` holds a value for each input, by position, of the declared type or empty.
-[[nodiscard]] std::string ParametersAsJson(const std::vector<ParameterDescription>& parameters,
-                                           const std::vector<Value>& inputs);
+[[nodiscard]] FERROWIND_EXPORT std::string ParametersAsJson(
+    const std::vector<ParameterDescription>& parameters, const std::vector<Value>& inputs);
 
 }  // namespace ferrowind::platform

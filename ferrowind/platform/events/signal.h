@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 
 namespace ferrowind::platform {
@@ -18,7 +19,7 @@ namespace ferrowind::platform {
 /// called any more, one added during it is first called by the next. A failure thrown by a handler ends the
 /// emission and reaches the caller of `Emit`.
 template <typename... Arguments>
-class Signal {
+class FERROWIND_EXPORT Signal {
  public:
   using Handler = std::function<void(Arguments...)>;
 

@@ -3,13 +3,15 @@
 #include <functional>
 #include <utility>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// The owned handle of one event subscription: dropping it unsubscribes.
 ///
 /// Safe to drop at any time, also from inside the handler that it stands for and after the source of the
 /// event is gone. Empty when default-constructed or moved from.
-class Subscription {
+class FERROWIND_EXPORT Subscription {
  public:
   Subscription() = default;
   /// `unsubscribe` is run once, when the handle is dropped or reset; it must not throw.

@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/date.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::platform {
 
 /// What an operator may have the component do.
-enum class ActionKind {
+enum class FERROWIND_EXPORT ActionKind {
   /// The Calendars window is to open.
   kOpenCalendars,
   kRefresh,
@@ -37,7 +38,7 @@ enum class ActionKind {
 };
 
 /// An action, and what it is about. What does not belong to the kind, or could not be told, is empty.
-struct OperatorAction {
+struct FERROWIND_EXPORT OperatorAction {
   ActionKind kind = ActionKind::kRefresh;
   /// As the tree shows it, such as "EUR".
   std::string currency;
@@ -48,7 +49,7 @@ struct OperatorAction {
 };
 
 /// How one use of the database ended.
-struct ActionStep {
+struct FERROWIND_EXPORT ActionStep {
   /// The name of the rule that was written, where the use is about one.
   std::string rule;
   /// The procedure's own; 0 done. -1 when the use failed before there was one, always so without a procedure.
@@ -65,7 +66,7 @@ struct ActionStep {
 /// meanwhile, except messages of the shared services, and a dialog that only says how far it is and can be
 /// stopped. An action that begins within another one is a part of
 /// it and ends before it. What an observer throws is dropped. It must not use the component, nor close it.
-class ActionObserver {
+class FERROWIND_EXPORT ActionObserver {
  public:
   virtual ~ActionObserver() = default;
 

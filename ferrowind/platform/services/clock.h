@@ -1,10 +1,11 @@
 #pragma once
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::platform {
 
-class Clock {
+class FERROWIND_EXPORT Clock {
  public:
   virtual ~Clock() = default;
   /// Today in the operator's time zone.

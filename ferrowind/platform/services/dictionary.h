@@ -3,13 +3,14 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/object_factory.h"
 #include "ferrowind/platform/values/record_set.h"
 
 namespace ferrowind::platform {
 
 /// The dictionary component of the host's product family. Operations keep the names that it publishes.
-class Dictionary : public OutsideObject {
+class FERROWIND_EXPORT Dictionary : public OutsideObject {
  public:
   /// The connection string that every database call uses; may differ from call to call. May hold a password.
   [[nodiscard]] virtual std::string dic_ConnectionString() = 0;

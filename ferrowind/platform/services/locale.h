@@ -3,19 +3,20 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::platform {
 
 /// What a typed text means as a date.
-struct DateReading {
+struct FERROWIND_EXPORT DateReading {
   std::optional<Date> date = {};
   /// Why the text is none, for the operator; empty when there is a date.
   std::string refusal = {};
 };
 
 /// Names and dates in the operator's language.
-class Locale {
+class FERROWIND_EXPORT Locale {
  public:
   virtual ~Locale() = default;
   /// The full name of the month 1 (January) to 12, standing alone ("May"). Any other number is the failure

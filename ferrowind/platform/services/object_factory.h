@@ -3,16 +3,18 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// Base of the outside objects that are created by a programmatic identifier.
-class OutsideObject {
+class FERROWIND_EXPORT OutsideObject {
  public:
   virtual ~OutsideObject() = default;
 };
 
 /// Creates the outside objects of the host's product family.
-class ObjectFactory {
+class FERROWIND_EXPORT ObjectFactory {
  public:
   virtual ~ObjectFactory() = default;
   /// A new object, never null. An identifier that nothing is registered under, or an object that cannot be

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/object_factory.h"
 #include "ferrowind/platform/values/value.h"
 
@@ -16,7 +17,7 @@ class GridColumn;
 ///
 /// A settings section is a path whose levels a backslash separates; a leading one changes nothing. Any
 /// operation may fail with a `Failure`.
-class SharedServices : public OutsideObject {
+class FERROWIND_EXPORT SharedServices : public OutsideObject {
  public:
   /// The settings path under which the component's sections lie, for example "\Tessaro".
   [[nodiscard]] virtual std::string SettingsRoot() = 0;

@@ -4,10 +4,12 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// The component's own texts in the operator's language.
-class Words {
+class FERROWIND_EXPORT Words {
  public:
   virtual ~Words() = default;
   /// What stands for an English text, with its placeholders in it, or nothing where it is not translated.

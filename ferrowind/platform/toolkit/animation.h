@@ -2,12 +2,13 @@
 
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
 /// Plays an animated image over and over; shows nothing while it does not play.
-class Animation : public Control {
+class FERROWIND_EXPORT Animation : public Control {
  public:
   /// A file that is missing or no animated image is a failure that names it.
   virtual void Open(const std::string& path) = 0;

@@ -3,12 +3,13 @@
 #include <functional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
-class Button : public Control {
+class FERROWIND_EXPORT Button : public Control {
  public:
   /// Without the mark of its mnemonic.
   [[nodiscard]] virtual std::string Caption() const = 0;

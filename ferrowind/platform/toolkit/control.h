@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// What the toolkit can lock against repainting: a form or a control.
-class Element {
+class FERROWIND_EXPORT Element {
  public:
   virtual ~Element() = default;
   /// The name given in the form's design, for example "gexCalendar".
@@ -17,7 +19,7 @@ class Element {
 /// What holds for every kind: a property set by the program raises the same change events as the operator's
 /// own change would, unless the kind says otherwise. Event handlers must not throw. Methods may fail with a
 /// `Failure` only where they say so.
-class Control : public Element {
+class FERROWIND_EXPORT Control : public Element {
  public:
   [[nodiscard]] virtual bool Enabled() const = 0;
   /// A control in a disabled frame cannot be used either, but keeps its own `Enabled`.

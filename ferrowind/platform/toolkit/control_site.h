@@ -2,12 +2,13 @@
 
 #include <functional>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 
 namespace ferrowind::platform {
 
 /// The place that a host gives to an embedded control on one of its windows.
-class ControlSite {
+class FERROWIND_EXPORT ControlSite {
  public:
   virtual ~ControlSite() = default;
   /// Outer size in twips. Setting the size that it already has raises no `OnResize`.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/control.h"
 #include "ferrowind/platform/values/date.h"
 
@@ -12,7 +13,7 @@ namespace ferrowind::platform {
 ///
 /// The operator may leave a text in it that is no day. The picker then keeps that text and tells the operator
 /// why it is none; it is never made into a day.
-class DatePicker : public Control {
+class FERROWIND_EXPORT DatePicker : public Control {
  public:
   /// The day that the picker holds; while it holds a text that is none, the last day that it showed.
   [[nodiscard]] virtual platform::Date Date() const = 0;

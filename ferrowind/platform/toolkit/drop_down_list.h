@@ -4,13 +4,14 @@
 #include <functional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
 /// A list of texts to choose one of, each with a number for the program. Nothing is chosen at first.
-class DropDownList : public Control {
+class FERROWIND_EXPORT DropDownList : public Control {
  public:
   virtual void AddItem(const std::string& text, std::int32_t item_data) = 0;
   [[nodiscard]] virtual std::int32_t Count() const = 0;

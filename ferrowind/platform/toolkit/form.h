@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 #include "ferrowind/platform/toolkit/form_design.h"
@@ -15,7 +16,7 @@ namespace ferrowind::platform {
 /// Positions and sizes are single-precision numbers in twips (1440 an inch); a form's size is its outer size.
 /// The form and its controls live until the last reference to the form is dropped, also after it was
 /// unloaded; dropping it before that unloads nothing and raises nothing, but hides what belongs to it.
-class Form : public Element {
+class FERROWIND_EXPORT Form : public Element {
  public:
   [[nodiscard]] virtual std::string Caption() const = 0;
   virtual void SetCaption(const std::string& caption) = 0;
@@ -68,7 +69,7 @@ class Form : public Element {
 };
 
 /// The failure of a control that is not there, or not of the kind asked for.
-[[nodiscard]] Failure NoSuchControl(const Form& form, const std::string& name);
+[[nodiscard]] FERROWIND_EXPORT Failure NoSuchControl(const Form& form, const std::string& name);
 
 /// The control of that name as a `Kind`; another kind is the same failure as none.
 template <typename Kind>

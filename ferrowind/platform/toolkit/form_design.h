@@ -1,11 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
-enum class ControlKind {
+enum class FERROWIND_EXPORT ControlKind {
   kLabel,
   kButton,
   kTextBox,
@@ -26,7 +29,7 @@ enum class ControlKind {
 };
 
 /// A control as a view needs it. Where it stands is the adapter's layout.
-struct ControlDesign {
+struct FERROWIND_EXPORT ControlDesign {
   ControlKind kind;
   std::string name;
   /// The caption or first text; "" for none.
@@ -39,6 +42,10 @@ struct ControlDesign {
   /// For a text box, one of a form at most: it takes what the operator types while the focus is on a control
   /// that takes no text, and its text is selected whenever it gets the focus, so that typing replaces it.
   bool takes_typing = false;
+  /// Of a text box: how many characters (code points) of it can be stored; 0 for no limit. A longer text is
+  /// not cut: the box tells, while it is that long, how long it is and how long it may be. Outer blanks do
+  /// not count.
+  std::size_t longest_text = 0;
   /// Of a grid: the operator can mark a range of rows to copy, see `Grid::MarkedRows`.
   bool marks_row_ranges = false;
   /// Of a table: a single cell is current, not a whole row.
@@ -50,7 +57,7 @@ struct ControlDesign {
   bool sorts = false;
 };
 
-enum class FormBorder {
+enum class FERROWIND_EXPORT FormBorder {
   /// A window with a frame to resize it by, with minimise and maximise boxes and a window menu.
   kSizable,
   /// A dialog of fixed size without those boxes and without a window menu, so that only its buttons close it.
@@ -61,10 +68,10 @@ enum class FormBorder {
   kNone,
 };
 
-enum class FormStart { kAsPlaced, kCenterOwner, kCenterScreen };
+enum class FERROWIND_EXPORT FormStart { kAsPlaced, kCenterOwner, kCenterScreen };
 
 /// A form as a view needs it: the toolkit makes the form of this name and gives it these texts.
-struct FormDesign {
+struct FERROWIND_EXPORT FormDesign {
   std::string name;
   std::string caption = {};
   FormBorder border = FormBorder::kSizable;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 #include "ferrowind/platform/toolkit/grid_column.h"
@@ -24,7 +25,7 @@ inline constexpr std::int32_t kRightButton = 2;
 ///
 /// Row numbers are 1-based positions among the rows on show, group rows included; column numbers are column
 /// indices. 0 stands for none in both.
-class Grid : public Control {
+class FERROWIND_EXPORT Grid : public Control {
  public:
   // Columns
   // ---------------------------------------------------------------------------------------------------

@@ -3,13 +3,14 @@
 #include <cstdint>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/grid_keys.h"
 #include "ferrowind/platform/values/value.h"
 
 namespace ferrowind::platform {
 
 /// The pairs of a stored value and the text that a column shows for it.
-class GridValueList {
+class FERROWIND_EXPORT GridValueList {
  public:
   virtual ~GridValueList() = default;
   /// Appends a pair; of two pairs with equal values the first one counts.
@@ -21,11 +22,13 @@ class GridValueList {
 };
 
 /// A column of a grid. Owned by the grid and alive as long as that.
-class GridColumn {
+class FERROWIND_EXPORT GridColumn {
  public:
   virtual ~GridColumn() = default;
   [[nodiscard]] virtual const std::string& Key() const = 0;
   [[nodiscard]] virtual std::string Caption() const = 0;
+  /// Shows at once, wherever the grid names the column.
+  virtual void SetCaption(const std::string& caption) = 0;
   /// 1-based, in the order of adding; reordering by the operator does not change it.
   [[nodiscard]] virtual std::int16_t Index() const = 0;
 

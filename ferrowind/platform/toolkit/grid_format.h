@@ -4,11 +4,12 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/value.h"
 
 namespace ferrowind::platform {
 
-struct Color {
+struct FERROWIND_EXPORT Color {
   std::uint8_t red = 0;
   std::uint8_t green = 0;
   std::uint8_t blue = 0;
@@ -22,7 +23,7 @@ inline constexpr std::int32_t kFormatEqual = 0;
 ///
 /// The cell is compared as it is shown where the column has a value list, and by its value otherwise. Of
 /// several formats that apply, the one added first decides each attribute that it sets.
-struct GridFormat {
+struct FERROWIND_EXPORT GridFormat {
   std::string key;
   std::string column_key;
   std::int32_t comparison = kFormatEqual;

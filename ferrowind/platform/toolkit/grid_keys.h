@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <memory>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 inline constexpr std::int32_t kSortAscending = 1;
@@ -11,7 +13,7 @@ inline constexpr std::int32_t kSortNone = 0;
 
 /// One sort key or grouping key of a grid. The grid keeps `Index` in step while the key is in its list; a key
 /// that the grid has dropped keeps its last values, so that it can be added again.
-struct GridKey {
+struct FERROWIND_EXPORT GridKey {
   /// The 1-based index of the column.
   std::int16_t ColIndex = 0;
   /// `kSortAscending`, `kSortDescending` or `kSortNone`.
@@ -22,7 +24,7 @@ struct GridKey {
 
 /// The sort keys or the grouping keys of a grid, the most significant first. Changes show after
 /// `Grid::Refresh`.
-class GridKeyList {
+class FERROWIND_EXPORT GridKeyList {
  public:
   virtual ~GridKeyList() = default;
   [[nodiscard]] virtual std::int32_t Count() const = 0;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
-class StatusBar : public Control {
+class FERROWIND_EXPORT StatusBar : public Control {
  public:
   /// Panels count from 1; a panel that the form does not have is the failure Subscript out of range.
   [[nodiscard]] virtual std::string PanelText(std::int32_t panel) const = 0;

@@ -2,6 +2,7 @@
 
 namespace ferrowind::platform {
 
+//: said
 const char* WordOf(CellMark mark) {
   switch (mark) {
     case CellMark::kNone:

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
@@ -14,7 +15,7 @@ namespace ferrowind::platform {
 
 /// A shape before a cell's text, which says by its form, not by its colour, what the cell means. Assistive
 /// tools, the tooltip of a cell without a text and copies say it by a word.
-enum class CellMark {
+enum class FERROWIND_EXPORT CellMark {
   kNone,
   /// A full circle with a check in it.
   kPrepared,
@@ -45,10 +46,10 @@ enum class CellMark {
 };
 
 /// The English word for a mark; "" for none.
-[[nodiscard]] const char* WordOf(CellMark mark);
+[[nodiscard]] FERROWIND_EXPORT const char* WordOf(CellMark mark);
 
 /// How much a cell asks for attention.
-enum class CellTone {
+enum class FERROWIND_EXPORT CellTone {
   kNormal,
   /// Fainter than the others, yet readable.
   kQuiet,
@@ -56,7 +57,7 @@ enum class CellTone {
   kLoud,
 };
 
-struct TableCell {
+struct FERROWIND_EXPORT TableCell {
   std::string text = {};
   CellMark mark = CellMark::kNone;
   CellTone tone = CellTone::kNormal;
@@ -67,7 +68,7 @@ struct TableCell {
   std::optional<std::int64_t> order = {};
 };
 
-struct TableRow {
+struct FERROWIND_EXPORT TableRow {
   /// Unique in the table, letter case counts: what the program knows the row by.
   std::string key;
   /// In the order of the columns; those that are missing are empty.
@@ -77,9 +78,9 @@ struct TableRow {
 };
 
 /// Where texts stand in their column; leading is left where one reads from left to right.
-enum class CellAlignment { kLeading, kCentre, kTrailing };
+enum class FERROWIND_EXPORT CellAlignment { kLeading, kCentre, kTrailing };
 
-struct TableColumn {
+struct FERROWIND_EXPORT TableColumn {
   /// Unique in the table, letter case counts.
   std::string key;
   std::string caption;
@@ -93,7 +94,7 @@ struct TableColumn {
 ///
 /// A method that takes the key of a row or a column fails with Element not found (35601) and names the key
 /// when there is no such one.
-class Table : public Control {
+class FERROWIND_EXPORT Table : public Control {
  public:
   /// Replaces the columns and removes all rows. A key that is there twice is the failure Key not unique
   /// (35602), which names it and changes nothing. The first column is the current one where cells are

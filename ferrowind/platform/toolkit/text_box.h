@@ -4,12 +4,13 @@
 #include <functional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
-class TextBox : public Control {
+class FERROWIND_EXPORT TextBox : public Control {
  public:
   [[nodiscard]] virtual std::string Text() const = 0;
   virtual void SetText(const std::string& text) = 0;

@@ -2,13 +2,14 @@
 
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
 /// Shows a text of any number of lines, which wraps and scrolls and which the operator can select and copy
 /// but not change. Empty at first, or the design's text.
-class TextView : public Control {
+class FERROWIND_EXPORT TextView : public Control {
  public:
   [[nodiscard]] virtual std::string Text() const = 0;
   /// Letter by letter as it is, with "\n" between lines, from its beginning. The same text again leaves the

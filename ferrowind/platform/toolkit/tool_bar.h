@@ -4,15 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
-enum class ToolKind { kButton, kTwoStateButton };
+enum class FERROWIND_EXPORT ToolKind { kButton, kTwoStateButton };
 
 /// A tool, known by its id, that stands on the bar, in a popup menu or both.
-struct ToolDesign {
+struct FERROWIND_EXPORT ToolDesign {
   std::string id;
   std::string caption = {};
   std::string category = {};
@@ -29,7 +30,7 @@ inline constexpr const char* kToolSeparator = "-";
 
 /// Tools identified by strings: a bar of them and popup menus of them. A method that takes the id of no tool
 /// fails with Element not found (35601) and names the id.
-class ToolBar : public Control {
+class FERROWIND_EXPORT ToolBar : public Control {
  public:
   /// Adds a tool, enabled and not pressed; it is not shown until it is put on the bar or into a menu. An id
   /// in use is the failure Key not unique (35602). Its shortcut works wherever the tool stands,

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/animation.h"
 #include "ferrowind/platform/toolkit/button.h"
@@ -30,13 +31,13 @@
 namespace ferrowind::platform {
 
 /// A size on the screen, in twips.
-struct ScreenSize {
+struct FERROWIND_EXPORT ScreenSize {
   float width = 0;
   float height = 0;
 };
 
 /// A kind of file that the operator can choose.
-struct FileKind {
+struct FERROWIND_EXPORT FileKind {
   /// "PDF document".
   std::string caption;
   /// Without a dot: "pdf".
@@ -44,7 +45,7 @@ struct FileKind {
 };
 
 /// The user-interface toolkit of the host's thread.
-class Toolkit {
+class FERROWIND_EXPORT Toolkit {
  public:
   virtual ~Toolkit() = default;
 
@@ -82,6 +83,12 @@ class Toolkit {
   [[nodiscard]] virtual std::optional<std::string> ChooseFileToSave(const std::string& title,
                                                                     const std::string& suggested_name,
                                                                     const std::vector<FileKind>& kinds) = 0;
+  /// Asks the operator for a file to read and returns its path in UTF-8, or nothing when they chose none.
+  /// `title` says what for. At first the files with one of `suffixes` (without dots, at least one) are on
+  /// show, which `caption` names ("Lists of days"); the operator can have all shown. The file was there when
+  /// it was chosen. The question belongs to a window as `ChooseFileToSave` does.
+  [[nodiscard]] virtual std::optional<std::string> ChooseFileToOpen(
+      const std::string& title, const std::string& caption, const std::vector<std::string>& suffixes) = 0;
   /// Puts a text where the operator can paste it from.
   virtual void SetClipboardText(const std::string& text) = 0;
 

@@ -5,13 +5,14 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
 /// A node to be added to a tree.
-struct TreeNode {
+struct FERROWIND_EXPORT TreeNode {
   /// Unique in the tree; the node's only name.
   std::string key;
   std::string text;
@@ -26,7 +27,7 @@ struct TreeNode {
 ///
 /// A method that takes a key fails with Element not found (35601) and names the key when there is no such
 /// node.
-class Tree : public Control {
+class FERROWIND_EXPORT Tree : public Control {
  public:
   /// Removes all nodes; nothing is selected afterwards and no event is raised.
   virtual void Clear() = 0;

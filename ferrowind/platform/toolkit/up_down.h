@@ -3,13 +3,14 @@
 #include <cstdint>
 #include <functional>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
 /// A pair of arrows that step a number of their own up and down; shows no text.
-class UpDown : public Control {
+class FERROWIND_EXPORT UpDown : public Control {
  public:
   /// Sets the lowest and highest value and the step; the value is moved into the range.
   virtual void SetRange(std::int32_t lowest, std::int32_t highest, std::int32_t step) = 0;

@@ -7,19 +7,20 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/control.h"
 
 namespace ferrowind::platform {
 
 /// The colour of a day's ground; what it is exactly follows the theme.
-enum class DayTint : std::uint8_t { kNone, kGrey, kRed, kViolet, kGreen, kAmber };
+enum class FERROWIND_EXPORT DayTint : std::uint8_t { kNone, kGrey, kRed, kViolet, kGreen, kAmber };
 
 /// The mark on a day, apart from the others without any colour.
-enum class DayShape : std::uint8_t { kNone, kBar, kSquare, kDiamond, kTriangle, kHatching };
+enum class FERROWIND_EXPORT DayShape : std::uint8_t { kNone, kBar, kSquare, kDiamond, kTriangle, kHatching };
 
 /// How a day looks. Every meaning should have a shape or a letter of its own.
-struct DayLook {
+struct FERROWIND_EXPORT DayLook {
   DayTint tint = DayTint::kNone;
   DayShape shape = DayShape::kNone;
   /// At most two characters, which stand beside the day's number.
@@ -28,7 +29,7 @@ struct DayLook {
   friend bool operator==(const DayLook&, const DayLook&) = default;
 };
 
-struct YearDay {
+struct FERROWIND_EXPORT YearDay {
   /// 1 to 366.
   std::int16_t day_of_year = 0;
   DayLook look;
@@ -37,7 +38,7 @@ struct YearDay {
 };
 
 /// What is noted of a month of a calendar.
-struct MonthNote {
+struct FERROWIND_EXPORT MonthNote {
   /// A few characters: "20".
   std::string text;
   /// The same in full: "20 working days, 8 weekend days, 2 holidays".
@@ -45,7 +46,7 @@ struct MonthNote {
 };
 
 /// One calendar of the year on show.
-struct YearCalendar {
+struct FERROWIND_EXPORT YearCalendar {
   /// Not empty, and no other calendar's.
   std::string key;
   /// A few characters, such as "EUR".
@@ -60,19 +61,19 @@ struct YearCalendar {
   std::array<MonthNote, 12> months;
 };
 
-struct YearLegendEntry {
+struct FERROWIND_EXPORT YearLegendEntry {
   DayLook look;
   std::string text;
 };
 
 /// A line of the list that printed pages have below the months.
-struct YearNote {
+struct FERROWIND_EXPORT YearNote {
   std::int16_t day_of_year = 0;
   std::string text;
 };
 
 /// What a year view shows.
-struct YearContent {
+struct FERROWIND_EXPORT YearContent {
   /// 1 to 9999.
   int year = 2000;
   /// The day that is today, when it is in the year.
@@ -87,7 +88,7 @@ struct YearContent {
 };
 
 /// A day of a calendar on show.
-struct YearCell {
+struct FERROWIND_EXPORT YearCell {
   /// The calendar's key.
   std::string calendar;
   std::int16_t day_of_year = 0;
@@ -95,7 +96,7 @@ struct YearCell {
   friend bool operator==(const YearCell&, const YearCell&) = default;
 };
 
-enum class PageFile : std::uint8_t { kPdf, kPng };
+enum class FERROWIND_EXPORT PageFile : std::uint8_t { kPdf, kPng };
 
 /// A year at a glance: all days of one calendar or of several, of which the operator selects some.
 ///
@@ -103,7 +104,7 @@ enum class PageFile : std::uint8_t { kPdf, kPng };
 /// week, or to the neighbouring calendar), to the ends of the month with Home and End, of the year with Ctrl,
 /// and from month to month with the page keys; Shift, Ctrl and drags select several days. Of one calendar a
 /// range is all days from one end to the other, of several the days of all calendars between both ends.
-class YearView : public Control {
+class FERROWIND_EXPORT YearView : public Control {
  public:
   /// Replaces what is shown. The current and the selected days stay where their calendars still are: in
   /// another year the current day goes to the same date (29 February to 28 February) and is the only selected

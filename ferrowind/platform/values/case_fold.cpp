@@ -75,6 +75,11 @@ int SmallLetter(int code_point) {
   return (code_point - range->first) % range->step == 0 ? code_point + range->distance : code_point;
 }
 
+bool IsAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+char SmallAscii(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
+}
+
 /// The bytes of a folded text one after the other, made while they are read.
 class FoldedBytes {
  public:
@@ -112,17 +117,29 @@ class FoldedBytes {
 
 }  // namespace
 
+// Most texts are ASCII, and folding them is much of the work on names: that part goes without more ado.
+
 std::string FoldCase(std::string_view text) {
-  std::string folded;
-  folded.reserve(text.size());
-  FoldedBytes bytes(text);
+  std::string folded(text);
+  std::size_t ascii = 0;
+  for (; ascii < folded.size() && IsAscii(folded[ascii]); ++ascii) folded[ascii] = SmallAscii(folded[ascii]);
+  if (ascii == folded.size()) return folded;
+  folded.resize(ascii);
+  FoldedBytes bytes(text.substr(ascii));
   for (int byte = bytes.Next(); byte >= 0; byte = bytes.Next()) folded.push_back(static_cast<char>(byte));
   return folded;
 }
 
 std::strong_ordering CompareIgnoringCase(std::string_view left, std::string_view right) {
-  FoldedBytes left_bytes(left);
-  FoldedBytes right_bytes(right);
+  const std::size_t shorter = std::min(left.size(), right.size());
+  std::size_t ascii = 0;
+  for (; ascii < shorter && IsAscii(left[ascii]) && IsAscii(right[ascii]); ++ascii) {
+    const auto order = SmallAscii(left[ascii]) <=> SmallAscii(right[ascii]);
+    if (std::is_neq(order)) return order;
+  }
+  if (ascii == shorter) return left.size() <=> right.size();
+  FoldedBytes left_bytes(left.substr(ascii));
+  FoldedBytes right_bytes(right.substr(ascii));
   for (;;) {
     const int left_byte = left_bytes.Next();
     const int right_byte = right_bytes.Next();

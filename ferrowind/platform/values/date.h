@@ -7,10 +7,12 @@
 #include <string>
 #include <string_view>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// A day of the proleptic Gregorian calendar, years 1 to 9999, without a time of day or a time zone.
-class Date {
+class FERROWIND_EXPORT Date {
  public:
   /// Precondition: `IsValid(year, month, day)`.
   Date(int year, int month, int day);
@@ -47,8 +49,8 @@ class Date {
   std::chrono::year_month_day ymd_;
 };
 
-[[nodiscard]] bool IsLeapYear(int year);
+[[nodiscard]] FERROWIND_EXPORT bool IsLeapYear(int year);
 /// 365 or 366.
-[[nodiscard]] int DaysInYear(int year);
+[[nodiscard]] FERROWIND_EXPORT int DaysInYear(int year);
 
 }  // namespace ferrowind::platform

@@ -4,12 +4,14 @@
 #include <exception>
 #include <string>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// The one exception type that crosses a port: a number and a description for the operator.
 ///
 /// Adapters map the errors of their libraries to it and keep the native code and text in the description.
-class Failure : public std::exception {
+class FERROWIND_EXPORT Failure : public std::exception {
  public:
   Failure(std::int32_t number, std::string description);
 
@@ -28,7 +30,7 @@ class Failure : public std::exception {
 /// closed, or the application is ending. Its number is `failure_number::kInterrupted`.
 ///
 /// Whoever waited for the answer has nothing left to do, and nothing to tell the operator.
-class Interruption : public Failure {
+class FERROWIND_EXPORT Interruption : public Failure {
  public:
   explicit Interruption(std::string description);
 };
@@ -52,11 +54,11 @@ inline constexpr std::int32_t kKeyNotUnique = 35602;
 }  // namespace failure_number
 
 /// The failures of the platform's collections and conversions, with the platform's own texts.
-[[nodiscard]] Failure DuplicateKey();
-[[nodiscard]] Failure InvalidArgument();
-[[nodiscard]] Failure SubscriptOutOfRange();
-[[nodiscard]] Failure TypeMismatch();
-[[nodiscard]] Failure Overflow();
-[[nodiscard]] Failure InvalidUseOfNull();
+[[nodiscard]] FERROWIND_EXPORT Failure DuplicateKey();
+[[nodiscard]] FERROWIND_EXPORT Failure InvalidArgument();
+[[nodiscard]] FERROWIND_EXPORT Failure SubscriptOutOfRange();
+[[nodiscard]] FERROWIND_EXPORT Failure TypeMismatch();
+[[nodiscard]] FERROWIND_EXPORT Failure Overflow();
+[[nodiscard]] FERROWIND_EXPORT Failure InvalidUseOfNull();
 
 }  // namespace ferrowind::platform

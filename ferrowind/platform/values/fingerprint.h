@@ -4,11 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// What tells one sequence of texts from another: their FNV-1a hash of 128 bits. Not for texts that somebody
 /// makes up in order to be mistaken for others.
-class Fingerprint {
+class FERROWIND_EXPORT Fingerprint {
  public:
   /// "ab" and "c" are others than "a" and "bc".
   void Add(std::string_view text);

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
+
+#include "ferrowind/platform/values/utf8_text.h"
 
 namespace ferrowind::platform {
 namespace {
@@ -10,25 +13,6 @@ constexpr int kDeepest = 100;
 
 /// Thrown where the text is no JSON, and caught where its reading began.
 struct NoJson {};
-
-void AppendUtf8(std::uint32_t code, std::string& text) {
-  const auto add = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
-  if (code < 0x80) {
-    add(code);
-  } else if (code < 0x800) {
-    add(0xC0 | (code >> 6));
-    add(0x80 | (code & 0x3F));
-  } else if (code < 0x10000) {
-    add(0xE0 | (code >> 12));
-    add(0x80 | ((code >> 6) & 0x3F));
-    add(0x80 | (code & 0x3F));
-  } else {
-    add(0xF0 | (code >> 18));
-    add(0x80 | ((code >> 12) & 0x3F));
-    add(0x80 | ((code >> 6) & 0x3F));
-    add(0x80 | (code & 0x3F));
-  }
-}
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
@@ -43,11 +27,14 @@ class Reader {
     return value;
   }
 
+  [[nodiscard]] std::size_t Place() const { return place_; }
+
  private:
   JsonValue ReadValue(int depth) {
     if (depth > kDeepest) throw NoJson();
     SkipBlanks();
     JsonValue value;
+    value.place = place_;
     switch (Next()) {
       case '{':
         ReadMembers(value, depth);
@@ -192,11 +179,15 @@ class Reader {
 
 }  // namespace
 
-std::optional<JsonValue> ReadJson(std::string_view text) {
+std::optional<JsonValue> ReadJson(std::string_view text) { return ReadJsonAndPlace(text).value; }
+
+JsonReading ReadJsonAndPlace(std::string_view text) {
+  Reader reader(text);
   try {
-    return Reader(text).ReadAll();
+    JsonValue value = reader.ReadAll();
+    return {std::move(value), reader.Place()};
   } catch (const NoJson&) {
-    return std::nullopt;
+    return {std::nullopt, reader.Place()};
   }
 }
 

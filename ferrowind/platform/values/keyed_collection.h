@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
@@ -22,7 +23,7 @@ namespace ferrowind::platform {
 /// for a position that is none, Type mismatch (13) for an index that is neither text nor number. A failed
 /// operation changes nothing.
 template <typename T>
-class KeyedCollection {
+class FERROWIND_EXPORT KeyedCollection {
  public:
   void Append(const std::string& key, T element) {
     std::string folded = FoldCase(key);

@@ -7,11 +7,13 @@
 #include <utility>
 #include <vector>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::platform {
 
 /// What the component says to people, kept apart from the language in which it is said: an English text with
 /// places for names, dates and other phrases. Whoever knows the reader words it.
-class Phrase {
+class FERROWIND_EXPORT Phrase {
  public:
   /// What stands for an English text in another language, and for that number, as
   /// `Words::Translate` answers; nothing where it is not translated.

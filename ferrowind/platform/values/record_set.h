@@ -8,12 +8,13 @@
 #include <string_view>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/value.h"
 
 namespace ferrowind::platform {
 
 /// The immutable rows of a record set: named fields, and the cells row by row.
-struct RecordRows {
+struct FERROWIND_EXPORT RecordRows {
   std::vector<std::string> fields;
   /// Row-major, `fields.size()` cells a row.
   std::vector<Value> cells;
@@ -30,7 +31,7 @@ struct RecordRows {
 /// All clones share the same rows; each has its own cursor, filter and bookmark. The cursor stands before the
 /// first row (`Bof`), on a row, or behind the last one (`Eof`); without visible rows it stands at both. Only
 /// the rows that pass the filter are visible to the cursor. Field names are found without regard to case.
-class RecordSet {
+class FERROWIND_EXPORT RecordSet {
  public:
   /// Names a row for as long as any clone lives: its 1-based position among all rows, whatever the filter.
   using Bookmark = std::int32_t;

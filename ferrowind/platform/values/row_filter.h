@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/record_set.h"
 #include "ferrowind/platform/values/row_filter_step.h"
 
@@ -25,7 +26,7 @@ namespace ferrowind::platform {
 /// with NULL is false. Texts compare without regard to case, numbers by their exact values, a boolean as -1
 /// or 0; a field that cannot be compared with the literal's type makes the comparison false, whatever the
 /// operator. Parentheses nest at most 100 deep.
-class RowFilter {
+class FERROWIND_EXPORT RowFilter {
  public:
   /// Compiles `text` for records with those fields. Text that does not parse or names an unknown field is the
   /// failure 3001; its description quotes the text and names the 1-based place in it.

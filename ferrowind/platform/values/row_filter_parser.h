@@ -6,13 +6,14 @@
 #include <string_view>
 #include <vector>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/platform/values/row_filter_step.h"
 
 namespace ferrowind::platform {
 
 /// Reads a row filter, written as row_filter.h says, into the steps that decide it; used once.
-class RowFilterParser {
+class FERROWIND_EXPORT RowFilterParser {
  public:
   /// `text` and `fields` must outlive the parser.
   RowFilterParser(std::string_view text, const std::vector<std::string>& fields)

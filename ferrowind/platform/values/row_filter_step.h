@@ -5,6 +5,7 @@
 #include <string>
 #include <variant>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/date.h"
 #include "ferrowind/platform/values/value.h"
 
@@ -20,7 +21,7 @@ inline constexpr std::uint8_t kGreater = 4;
 }  // namespace comparison_outcome
 
 /// One comparison of a compiled row filter, and where to go on from it.
-struct RowFilterStep {
+struct FERROWIND_EXPORT RowFilterStep {
   /// NULL, a whole number, another number, text, or a date.
   using Literal = std::variant<std::monostate, std::int64_t, double, std::string, Date>;
 

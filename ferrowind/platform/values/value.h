@@ -6,6 +6,7 @@
 #include <utility>
 #include <variant>
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::platform {
@@ -17,7 +18,7 @@ class RecordSet;
 /// A database's NULL and a value that was never given are the same thing here: empty. Plain values are copied
 /// with the `Value`; a record set is a reference, shared by all copies. Text is UTF-8 and may hold any
 /// character, NUL included.
-class Value {
+class FERROWIND_EXPORT Value {
  public:
   using Object = std::shared_ptr<RecordSet>;
   using Storage = std::variant<std::monostate, bool, std::int16_t, std::int32_t, std::int64_t, float, double,

@@ -1,6 +1,5 @@
 #include "ferrowind/views/calendars/currency_tree.h"
 
-#include <exception>
 #include <utility>
 
 #include "ferrowind/data/action_scope.h"
@@ -10,6 +9,7 @@
 #include "ferrowind/data/record_set_in.h"
 #include "ferrowind/data/runtime_failure.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/calendars/node_key.h"
 #include "ferrowind/views/common/update_lock.h"
 
@@ -18,6 +18,15 @@ namespace {
 
 constexpr const char* kCurrencyImage = "Currency";
 constexpr const char* kCalendarImage = "Calendar";
+
+std::shared_ptr<platform::RecordSet> Currencies() {
+  auto currencies = DictionaryObject().dic_GetDicRecByFilter("Ccy", "CcyType = 0");
+  if (!currencies) {
+    throw platform::Failure(platform::failure_number::kObjectNotSet,
+                            "The dictionary object gave no record set of currencies");
+  }
+  return currencies;
+}
 
 /// The name of the current row's currency. A host's dictionary may lack it, which is no failure: the tree
 /// then has one explanation less.
@@ -38,7 +47,7 @@ CurrencyTree::CurrencyTree(platform::Toolkit& toolkit, platform::Form& form, pla
 
 bool CurrencyTree::LoadCurrencies() {
   try {
-    const auto currencies = DictionaryObject().dic_GetDicRecByFilter("Ccy", "CcyType = 0");
+    const auto currencies = Currencies();
     tree_.Clear();
     for (; !currencies->Eof(); currencies->MoveNext()) {
       tree_.AddRoot({node_key::OfCurrency(platform::ToText((*currencies)["CcyID"])),
@@ -46,7 +55,7 @@ bool CurrencyTree::LoadCurrencies() {
     }
     on_reload_();
     return true;
-  } catch (const std::exception&) {
+  } catch (...) {
     TraceFailureBeingHandled();
     TellFailedRead(observer_);
     return false;
@@ -76,7 +85,7 @@ bool CurrencyTree::LoadCalendars() {
                      {node_key::OfCalendar(currency, year), year, kCalendarImage});
     }
     return true;
-  } catch (const std::exception&) {
+  } catch (...) {
     TraceFailureBeingHandled();
     TellFailedRead(observer_);
     return false;

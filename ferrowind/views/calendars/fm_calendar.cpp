@@ -1,6 +1,5 @@
 #include "ferrowind/views/calendars/fm_calendar.h"
 
-#include <exception>
 #include <utility>
 
 #include "ferrowind/data/action_scope.h"
@@ -80,6 +79,7 @@ fmCalendar::fmCalendar(const platform::Platform& platform, const platform::Windo
       currencies_(
           platform.toolkit, *form_, tvCalendar_, [this] { RefreshTools(); }, platform.action_observer),
       day_grid_(platform, {*form_, tvCalendar_, gexCalendar_, sssp_, [this] { RefreshTools(); }}),
+      host_columns_(platform, gexCalendar_),
       extension_({*form_, tvCalendar_, gexCalendar_, ssatb_, sbCalendar_, day_grid_,
                   [this](std::int32_t currency_id, std::int32_t year) { Choose(currency_id, year); },
                   [this] { Refresh(); }, [this] { ShowDayMenu(); }}),
@@ -120,6 +120,7 @@ void fmCalendar::Connect() {
       [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver) {
         // No message while the grid paints: a cell that cannot be computed stays empty.
         IgnoringFailure([&] { day_grid_.ComputeCell(bookmark, column, receiver); });
+        IgnoringFailure([&] { host_columns_.ComputeCell(bookmark, column, receiver); });
       }));
   subscribe(gexCalendar_.OnUnboundOrder(
       [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver) {
@@ -147,7 +148,7 @@ bool fmCalendar::Init(std::shared_ptr<GridFields> headers, std::shared_ptr<GridF
     const auto error_index = Start(std::move(headers), std::move(holiday_headers));
     if (!error_index) return true;
     FailStart(*error_index);
-  } catch (const std::exception&) {
+  } catch (...) {
     const RuntimeFailureScope caught;
     FailStart(error_index::kCannotLoadHolidayTypes);
   }
@@ -169,6 +170,7 @@ std::optional<std::int32_t> fmCalendar::Start(std::shared_ptr<GridFields> header
   day_commands_.SetHolidayHeaders(std::move(holiday_headers));
   extension_.AddColumns();
   SharedServicesObject().LoadGridLayout(gexCalendar_, kLayoutSection);
+  host_columns_.Follow(*headers);
   extension_.Started();
   return std::nullopt;
 }
@@ -215,7 +217,7 @@ void fmCalendar::Form_QueryUnload() {
   has_closed_ = true;
   closing_.Emit();
   extension_.Closing();
-  SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection);
+  host_columns_.SaveLayout([this] { SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection); });
   placement_.Save(*form_);
   platform_.toolkit.ProcessPendingEvents();
 }

@@ -14,6 +14,7 @@
 #include "ferrowind/views/calendars/day_commands.h"
 #include "ferrowind/views/calendars/day_grid.h"
 #include "ferrowind/views/common/group_by_box_tool.h"
+#include "ferrowind/views/common/host_columns.h"
 #include "ferrowind/views/common/window_placement.h"
 
 namespace ferrowind {
@@ -93,6 +94,7 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   GroupByBoxTool group_by_box_tool_;
   CurrencyTree currencies_;
   DayGrid day_grid_;
+  HostColumns host_columns_;
   CalendarsExtension extension_;
   DayCommands day_commands_;
   bool is_closing_after_failed_start_ = false;

@@ -1,7 +1,5 @@
 #include "ferrowind/views/common/grid_setup.h"
 
-#include <exception>
-
 namespace ferrowind {
 namespace {
 
@@ -24,7 +22,7 @@ bool SetupGridColumns(platform::Grid& grid, const GridFields& map) {
       column.SetVisible(entry->Visible());
     }
     return true;
-  } catch (const std::exception&) {
+  } catch (...) {
     return false;
   }
 }

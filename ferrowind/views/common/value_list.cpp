@@ -1,7 +1,5 @@
 #include "ferrowind/views/common/value_list.h"
 
-#include <exception>
-
 #include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/runtime_failure.h"
@@ -22,7 +20,7 @@ bool FillColumnValueList(platform::Grid& grid, const std::string& column_key, pl
       column.ValueList()->Add(records[value_field], platform::ToText(records[text_field]));
     }
     return true;
-  } catch (const std::exception&) {
+  } catch (...) {
     const platform::Failure failure = FailureBeingHandled();
     TellFailedRead(observer);
     SharedServicesObject().ReportError(failure.Number(), failure.Description());

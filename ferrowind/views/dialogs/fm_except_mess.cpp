@@ -2,6 +2,7 @@
 
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/text_limits.h"
 #include "ferrowind/views/common/close_dialog.h"
 
 namespace ferrowind {
@@ -20,7 +21,7 @@ platform::FormDesign Design() {
       .client_width = 3660,
       .client_height = 1425,
       .controls = {
-          {ControlKind::kTextBox, "txtMessage"},
+          {.kind = ControlKind::kTextBox, .name = "txtMessage", .longest_text = platform::kLongestComment},
           {.kind = ControlKind::kButton, .name = "cmdExcept", .text = "Except", .is_default_button = true},
           {.kind = ControlKind::kButton, .name = "cmdCancel", .text = "Cancel", .is_cancel_button = true},
           {ControlKind::kLabel, "lblMessage", "Description"}}};

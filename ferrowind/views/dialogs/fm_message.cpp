@@ -10,21 +10,25 @@ using platform::ControlKind;
 using platform::ControlOf;
 using platform::Label;
 
-platform::FormDesign Design() {
-  return {.name = "fmMessage",
-          .caption = "Caption",
-          .border = platform::FormBorder::kFixedDialog,
-          .start = platform::FormStart::kCenterOwner,
-          .client_width = 3945,
-          .client_height = 1320,
-          .controls = {{ControlKind::kButton, "cmdOk", "Ok"},
-                       {ControlKind::kButton, "cmdCancel", "Cancel"},
-                       {ControlKind::kLabel, "lblMessage", "Message"}}};
+platform::FormDesign Design(const MessageButtons& buttons) {
+  platform::FormDesign design = {.name = "fmMessage",
+                                 .caption = "Caption",
+                                 .border = platform::FormBorder::kFixedDialog,
+                                 .start = platform::FormStart::kCenterOwner,
+                                 .client_width = 3945,
+                                 .client_height = 1320,
+                                 .controls = {{ControlKind::kButton, "cmdOk", buttons.ok},
+                                              {ControlKind::kButton, "cmdCancel", buttons.cancel},
+                                              {ControlKind::kLabel, "lblMessage", "Message"}}};
+  for (platform::ControlDesign& control : design.controls)
+    control.is_cancel_button = control.name == buttons.escape_presses;
+  return design;
 }
 
 }  // namespace
 
-fmMessage::fmMessage(platform::Toolkit& toolkit) : toolkit_(toolkit), form_(toolkit.CreateForm(Design())) {
+fmMessage::fmMessage(platform::Toolkit& toolkit, const MessageButtons& buttons)
+    : toolkit_(toolkit), form_(toolkit.CreateForm(Design(buttons))) {
   ok_clicked_ = ControlOf<Button>(*form_, "cmdOk").OnClick([this] { RunHandler([this] { Answer(0); }); });
   cancel_clicked_ =
       ControlOf<Button>(*form_, "cmdCancel").OnClick([this] { RunHandler([this] { Answer(1); }); });

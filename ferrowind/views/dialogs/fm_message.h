@@ -3,18 +3,27 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "ferrowind/platform/events/subscription.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 
 namespace ferrowind {
 
+/// What the buttons of the dialog say, and which of the two, "cmdOk" or "cmdCancel", Esc presses: by itself
+/// none.
+struct MessageButtons {
+  std::string ok = "Ok";
+  std::string cancel = "Cancel";
+  std::string_view escape_presses = {};
+};
+
 /// The confirmation dialog: a line of text over the buttons "Ok" and "Cancel".
 ///
 /// A fresh one for each question. Its buttons only hide it; unloading it is the task of whoever asked.
 class fmMessage {
  public:
-  explicit fmMessage(platform::Toolkit& toolkit);
+  explicit fmMessage(platform::Toolkit& toolkit, const MessageButtons& buttons = {});
   fmMessage(const fmMessage&) = delete;
   fmMessage& operator=(const fmMessage&) = delete;
 

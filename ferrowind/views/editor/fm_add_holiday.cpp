@@ -1,6 +1,5 @@
 #include "ferrowind/views/editor/fm_add_holiday.h"
 
-#include <exception>
 #include <utility>
 
 #include "ferrowind/data/error_reporting.h"
@@ -8,8 +7,12 @@
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/module_state.h"
+#include "ferrowind/data/pending_failure.h"
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/text_limits.h"
 #include "ferrowind/views/common/close_dialog.h"
 #include "ferrowind/views/common/grid_setup.h"
 #include "ferrowind/views/common/holiday_types.h"
@@ -44,14 +47,14 @@ platform::FormDesign Design() {
           {ControlKind::kDropDownList, "cmbHolidayType"},
           {ControlKind::kFrame, "frmFields"},
           {ControlKind::kLabel, "lblName", "Name"},
-          {ControlKind::kTextBox, "txtName"},
+          {.kind = ControlKind::kTextBox, .name = "txtName", .longest_text = platform::kLongestName},
           {ControlKind::kLabel, "lblDayOfWeek", "Day of week"},
           {ControlKind::kDropDownList, "cmbDayOfWeek"},
           {ControlKind::kLabel, "lblFullDate", "Full date"},
           {ControlKind::kDatePicker, "dtpFullDate"},
           {ControlKind::kDatePicker, "dtpHolidayPoint"},
           {ControlKind::kLabel, "lblComment", "Comment"},
-          {ControlKind::kTextBox, "txtComment"},
+          {.kind = ControlKind::kTextBox, .name = "txtComment", .longest_text = platform::kLongestComment},
           {ControlKind::kButton, "cmdOk", "Ok"},
           {.kind = ControlKind::kButton, .name = "cmdCancel", .text = "Cancel", .is_cancel_button = true}}};
 }
@@ -136,7 +139,7 @@ bool fmAddHoliday::LoadHolidayTypes(platform::RecordSet& types) {
         cmbHolidayType_.AddItem(platform::ToText(types["Description1"]), type);
     }
     return true;
-  } catch (const std::exception&) {
+  } catch (...) {
     return false;
   }
 }
@@ -309,6 +312,10 @@ void fmAddHoliday::Save() {
       RunStep([] { ShowErrorMessage(error_index::kDuplicateHolidayName); });
       break;
     default:
+      // Of a text that is too long the operator is told which, and how long it may be, before the message.
+      if (const auto& too_long = Module().too_long_text) {
+        SetPendingFailure(platform::failure_number::kInvalidArgument, Said(platform_, *too_long));
+      }
       RunStep([] { ShowErrorMessage(error_index::kCannotAddHoliday); });
   }
 }

@@ -1,6 +1,5 @@
 #include "ferrowind/views/holidays/fm_enter_holidays.h"
 
-#include <exception>
 #include <utility>
 
 #include "ferrowind/data/confirm.h"
@@ -88,6 +87,10 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, const platf
   subscribe(ssatb_.OnToolClick(
       [this](const std::string& id) { RunHandler(platform_, [&] { ssatb_ToolClick(id); }); }));
   subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler(platform_, [this] { RefreshButtons(); }); }));
+  subscribe(gexHolidays_.OnUnboundValue(
+      [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, platform::Value& receiver) {
+        IgnoringFailure([&] { list_.ComputeCell(bookmark, column, receiver); });
+      }));
   subscribe(gexHolidays_.OnCellText(
       [this](platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text) {
         // No message while the grid paints: a text that cannot be made stays as the grid has it.
@@ -177,7 +180,7 @@ void fmEnterHolidays::StoreAssignmentOf(const HolidayRule& rule) {
   try {
     const auto answer = AssignRule(rule, target_);
     if (answer) TellWrite(platform_.action_observer, rule.name, *answer);
-  } catch (const std::exception&) {
+  } catch (...) {
     TellFailedWrite(platform_.action_observer, rule.name);
     throw;
   }

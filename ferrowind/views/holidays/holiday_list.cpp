@@ -1,6 +1,5 @@
 #include "ferrowind/views/holidays/holiday_list.h"
 
-#include <exception>
 #include <utility>
 
 #include "ferrowind/data/action_scope.h"
@@ -48,11 +47,13 @@ HolidayList::HolidayList(const platform::Platform& platform, platform::Grid& gri
     : platform_(platform),
       grid_(grid),
       on_filter_(std::move(on_filter)),
-      reload_(platform.toolkit, grid, grid, PutBack) {}
+      reload_(platform.toolkit, grid, grid, PutBack),
+      host_columns_(platform, grid) {}
 
 void HolidayList::SetHeaders(std::shared_ptr<GridFields> headers) {
   headers_ = std::move(headers);
   SetupGridColumns(grid_, *headers_);
+  host_columns_.Follow(*headers_);
   for (const char* column : {kDelColumn, kTypeColumn}) {
     grid_.SortKeys().Add(grid_.ColumnByKey(column).Index(), platform::kSortAscending, 0);
   }
@@ -108,7 +109,7 @@ bool HolidayList::Load() {
 std::optional<std::int32_t> HolidayList::LoadFirstWeekday(const RecordSet& setting) const {
   try {
     return platform::ToInt32(setting["FirstDay"]);
-  } catch (const std::exception&) {
+  } catch (...) {
     const RuntimeFailureScope caught;
     TellFailedRead(platform_.action_observer);
     ShowErrorMessage(error_index::kCannotLoadFirstWeekday);

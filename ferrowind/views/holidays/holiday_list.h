@@ -12,6 +12,7 @@
 #include "ferrowind/platform/additions/holidays_scene.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/grid_reload.h"
+#include "ferrowind/views/common/host_columns.h"
 #include "ferrowind/views/holidays/holiday_filter.h"
 #include "ferrowind/views/holidays/holiday_rule.h"
 
@@ -56,6 +57,11 @@ class HolidayList {
   /// The answer to the grid's question for a text: a weekday rule shows its weekday in the column of the
   /// date, every other rule its day and month.
   void ComputeText(platform::RecordSet::Bookmark bookmark, std::int16_t column, std::string& text);
+  /// The answer to the grid's question for a cell that the host computes.
+  void ComputeCell(platform::RecordSet::Bookmark bookmark, std::int16_t column,
+                   platform::Value& receiver) const {
+    host_columns_.ComputeCell(bookmark, column, receiver);
+  }
 
  private:
   /// Nothing when it cannot be read, which has been reported.
@@ -77,6 +83,7 @@ class HolidayList {
   std::optional<HolidayFilter> filter_;
   Choice choice_;
   GridReload reload_;
+  HostColumns host_columns_;
 };
 
 }  // namespace ferrowind

@@ -74,15 +74,17 @@ DayFinder::DayFinder(const PlanningContext& context, platform::CalendarsScene& s
     : platform_(context.platform), scene_(scene), bar_(platform_, scene.Window(), scene.Days(), Subject()) {}
 
 FindBar::Subject DayFinder::Subject() {
-  return {.count = "%1 of %2 days",
-          .kinds = {{"All days"},
-                    {"Holidays", Holidays},
-                    {"Exceptions", Exceptions},
-                    {"Changes of mine", [this] { return OwnChanges(scene_); }}},
-          .names = {.of_date = [this](const Date& date) {
-            return platform_.locale.DateText(date) + " " + DayText(platform_.locale, date) + " " +
-                   date.ToIso();
-          }}};
+  return {
+      //: said
+      .count = "%1 of %2 days",
+      //: said
+      .kinds = {{"All days"},
+                {"Holidays", Holidays},
+                {"Exceptions", Exceptions},
+                {"Changes of mine", [this] { return OwnChanges(scene_); }}},
+      .names = {.of_date = [this](const Date& date) {
+        return platform_.locale.DateText(date) + " " + DayText(platform_.locale, date) + " " + date.ToIso();
+      }}};
 }
 
 bool DayFinder::RunTool(const std::string& id) {

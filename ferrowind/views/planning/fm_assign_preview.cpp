@@ -28,7 +28,7 @@ platform::FormDesign Design() {
       .client_width = 11400,
       .client_height = 6600,
       .controls = {
-          // The buttons first, so that Enter goes on for who has nothing to look at.
+          // The buttons first, so that Enter presses one of them.
           {ControlKind::kLabel, "lblSummary"},
           {.kind = ControlKind::kButton, .name = "cmdAssign", .text = "Assign", .is_default_button = true},
           {.kind = ControlKind::kButton, .name = "cmdCancel", .text = "Cancel", .is_cancel_button = true},
@@ -108,7 +108,11 @@ void fmAssignPreview::Fill(const std::string& calendar) {
                               {.text = Joined(line.warnings)}}});
   }
   table_.SetRows(rows);
-  if (!first_warned.empty()) table_.SetCurrentRow(first_warned);
+  if (!first_warned.empty()) {
+    table_.SetCurrentRow(first_warned);
+    // Enter alone goes on only for who has nothing to look at.
+    ControlOf<Button>(*form_, "cmdCancel").SetFocus();
+  }
   TellOfCurrentLine();
 }
 

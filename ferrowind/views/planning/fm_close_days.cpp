@@ -5,6 +5,7 @@
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/plan_words.h"
+#include "ferrowind/platform/values/text_limits.h"
 #include "ferrowind/views/common/close_dialog.h"
 #include "ferrowind/views/planning/day_text.h"
 
@@ -27,7 +28,7 @@ platform::FormDesign Design() {
       .client_height = 6300,
       .controls = {
           {ControlKind::kLabel, "lblName", "Holiday"},
-          {ControlKind::kTextBox, "txtName"},
+          {.kind = ControlKind::kTextBox, .name = "txtName", .longest_text = platform::kLongestName},
           {ControlKind::kLabel, "lblKnown", "Known ones"},
           {ControlKind::kDropDownList, "cmbKnown"},
           {ControlKind::kLabel, "lblMeaning"},

@@ -1,6 +1,5 @@
 #include "ferrowind/views/planning/fm_history.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
@@ -8,7 +7,6 @@
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/moment_text.h"
 #include "ferrowind/platform/database/history_moment.h"
-#include "ferrowind/views/planning/day_text.h"
 #include "ferrowind/views/planning/fm_as_of.h"
 #include "ferrowind/views/planning/fm_calendar_then.h"
 
@@ -26,8 +24,6 @@ constexpr const char* kUndo = "ID_UndoChange";
 constexpr const char* kRedo = "ID_RedoChange";
 constexpr const char* kAsOf = "ID_CalendarAsOf";
 constexpr const char* kClose = "ID_CloseHistory";
-constexpr std::int32_t kEverybody = 0;
-constexpr std::int32_t kMine = 1;
 
 platform::FormDesign Design() {
   return {.name = "fmHistory",
@@ -55,9 +51,9 @@ platform::FormDesign Design() {
               {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
 }
 
-/// What a button has room for.
+/// What a button has room for, its own caption in any language included.
 std::string Shortened(const std::string& text) {
-  constexpr std::size_t kMost = 48;
+  constexpr std::size_t kMost = 54;
   if (text.size() <= kMost) return text;
   std::size_t end = kMost;
   // Not within a character.
@@ -86,8 +82,9 @@ fmHistory::fmHistory(const PlanningContext& context)
       windows_(context.windows),
       form_(platform_.toolkit.CreateForm(Said(platform_, Design()))),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbHistory")),
-      calendars_(ControlOf<platform::DropDownList>(*form_, "cmbCalendar")),
-      persons_(ControlOf<platform::DropDownList>(*form_, "cmbPerson")),
+      choice_(platform_, list_.Currencies(),
+              {ControlOf<platform::DropDownList>(*form_, "cmbCalendar"),
+               ControlOf<platform::DropDownList>(*form_, "cmbPerson")}),
       entries_(ControlOf<platform::Table>(*form_, "tblEntries")),
       older_(ControlOf<platform::Button>(*form_, "cmdOlder")),
       told_(ControlOf<platform::Label>(*form_, "lblTold")),
@@ -117,39 +114,6 @@ fmHistory::fmHistory(const PlanningContext& context)
   changes_.SetColumns({{.key = "What", .caption = Said(platform_, "What"), .stretches = true},
                        {.key = "Before", .caption = Said(platform_, "Before"), .stretches = true},
                        {.key = "After", .caption = Said(platform_, "After"), .stretches = true}});
-  persons_.AddItem(Said(platform_, "Everybody"), kEverybody);
-  persons_.AddItem(Said(platform_, "Me"), kMine);
-  persons_.Choose(0);
-  FillCalendarList();
-}
-
-void fmHistory::FillCalendarList() {
-  AddChoice({});
-  auto calendars = planning::LoadRules().calendars;
-  std::stable_sort(calendars.begin(), calendars.end(), [&](const auto& left, const auto& right) {
-    const auto code_of = [&](std::int32_t id) {
-      const auto* const currency = list_.Currencies().Find(id);
-      return currency != nullptr ? currency->code : std::string();
-    };
-    return code_of(left.first) < code_of(right.first);
-  });
-  for (const auto& [currency, year] : calendars) AddChoice({currency, year});
-  calendars_.Choose(0);
-}
-
-void fmHistory::AddChoice(const HistoryFilter& filter) {
-  std::string text = Said(platform_, "All");
-  if (filter.currency && filter.year) {
-    const auto* const currency = list_.Currencies().Find(*filter.currency);
-    const std::string code = currency != nullptr ? currency->code : std::to_string(*filter.currency);
-    text = code + " " + std::to_string(*filter.year);
-    if (filter.day_of_year) {
-      const auto day = platform::Date(*filter.year, 1, 1).AddDays(*filter.day_of_year - 1);
-      text = code + ", " + DayText(platform_.locale, day);
-    }
-  }
-  calendars_.AddItem(text, static_cast<std::int32_t>(choices_.size()));
-  choices_.push_back(filter);
 }
 
 void fmHistory::Connect() {
@@ -167,8 +131,7 @@ void fmHistory::Connect() {
   const auto query_unload = handler(&fmHistory::Form_QueryUnload);
   subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
   subscribe(tools_.OnToolClick(handler(&fmHistory::RunTool)));
-  subscribe(calendars_.OnChoice(handler(&fmHistory::ShowChosen)));
-  subscribe(persons_.OnChoice(handler(&fmHistory::ShowChosen)));
+  choice_.OnChoice(handler(&fmHistory::ShowChosen));
   subscribe(entries_.OnCurrentChange(handler(&fmHistory::ShowCurrent)));
   subscribe(entries_.OnActivate(handler(&fmHistory::OpenCalendarThen)));
   const auto on_click = [&](const char* name, void (fmHistory::*command)()) {
@@ -206,16 +169,8 @@ void fmHistory::Form_QueryUnload() {
 // ------------------------------------------------------------------------------------------------
 
 void fmHistory::ShowChangesOf(const HistoryFilter& filter) {
-  const auto is_same = [&](const HistoryFilter& choice) {
-    return choice.currency == filter.currency && choice.year == filter.year &&
-           choice.day_of_year == filter.day_of_year;
-  };
-  const auto found = std::find_if(choices_.begin(), choices_.end(), is_same);
-  const auto position = found - choices_.begin();
-  if (found == choices_.end()) AddChoice(filter);
-  // Choosing what is chosen already tells nobody.
-  if (calendars_.Chosen() == static_cast<std::int32_t>(position)) return ShowChosen();
-  calendars_.Choose(static_cast<std::int32_t>(position));
+  // Another choice is shown by whoever hears of it.
+  if (!choice_.Choose(filter)) ShowChosen();
 }
 
 void fmHistory::RunTool(const std::string& id) {
@@ -227,24 +182,16 @@ void fmHistory::RunTool(const std::string& id) {
 }
 
 void fmHistory::ShowChosen() {
-  if (is_busy_ || calendars_.Chosen() < 0 || persons_.Chosen() < 0) return;
+  const auto chosen = choice_.Chosen();
+  if (!chosen) return;
   try {
-    list_.Show(choices_[static_cast<std::size_t>(calendars_.ItemData(calendars_.Chosen()))],
-               persons_.ItemData(persons_.Chosen()) == kMine);
+    list_.Show(chosen->filter, chosen->are_mine);
   } catch (const platform::Failure&) {
-    ChooseWhatIsOnShow();
+    choice_.TakeBack();
     throw;
   }
-  calendar_on_show_ = calendars_.Chosen();
-  person_on_show_ = persons_.Chosen();
+  choice_.Keep();
   ShowLines();
-}
-
-void fmHistory::ChooseWhatIsOnShow() {
-  is_busy_ = true;
-  calendars_.Choose(calendar_on_show_);
-  persons_.Choose(person_on_show_);
-  is_busy_ = false;
 }
 
 void fmHistory::ShowOlder() {
@@ -335,7 +282,7 @@ void fmHistory::ShowStep(const HistoryList::Line* line) {
   const auto show = [&](platform::Button& button, const std::string& caption, UndoStep::Kind kind) {
     const bool is_offered = step && step->kind == kind;
     button.SetEnabled(is_offered);
-    button.SetCaption(is_offered ? Said(platform_, "%1: %2", {caption, Shortened(line->told.change)})
+    button.SetCaption(is_offered ? Shortened(Said(platform_, "%1: %2", {caption, line->told.change}))
                                  : caption);
   };
   show(undo_, Said(platform_, "Undo"), UndoStep::Kind::kUndo);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,6 +10,7 @@
 #include "ferrowind/planning/history_list.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/planning/history_choice.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
 
@@ -38,12 +38,9 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
 
  private:
   void Connect();
-  void FillCalendarList();
-  void AddChoice(const planning::HistoryFilter& filter);
   void RunTool(const std::string& id);
   /// Reads what the two lists ask for. On failure they ask for what is on show again.
   void ShowChosen();
-  void ChooseWhatIsOnShow();
   void ShowOlder();
   void Reload();
   void ReloadAfter(const PlanningWindows::Changed& changed);
@@ -70,8 +67,7 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   planning::HistoryList list_;
   std::shared_ptr<platform::Form> form_;
   platform::ToolBar& tools_;
-  platform::DropDownList& calendars_;
-  platform::DropDownList& persons_;
+  HistoryChoice choice_;
   platform::Table& entries_;
   platform::Button& older_;
   platform::Label& told_;
@@ -81,15 +77,10 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   platform::Button& redo_;
   platform::Button& then_;
   platform::Button& as_of_;
-  /// What the items of the list of calendars stand for.
-  std::vector<planning::HistoryFilter> choices_;
   StoredPlacement placement_{"Window History"};
   bool has_closed_ = false;
-  /// While this window fills the lists.
+  /// While this window fills the list of entries.
   bool is_busy_ = false;
-  /// The items of the two lists that the entries are of.
-  std::int32_t calendar_on_show_ = 0;
-  std::int32_t person_on_show_ = 0;
   std::vector<platform::Subscription> subscriptions_;
 };
 

@@ -25,7 +25,7 @@ constexpr const char* kCodeColumn = "code";
 constexpr const char* kNameColumn = "name";
 
 platform::FormDesign Design() {
-  return {
+  platform::FormDesign design = {
       .name = "fmReadiness",
       .caption = "Readiness",
       .client_width = 13500,
@@ -43,6 +43,12 @@ platform::FormDesign Design() {
                    {ControlKind::kButton, "cmdBook", "Rule book..."},
                    {ControlKind::kButton, "cmdPlan", "Year plan..."},
                    {ControlKind::kButton, "cmdPrepareAll", "Prepare all..."}}};
+  // Last, so that the access keys of the others stay what they are.
+  design.controls.push_back({ControlKind::kButton, "cmdImport", "Import..."});
+  design.controls.push_back({ControlKind::kButton, "cmdExport", "Export..."});
+  const auto bar = SilenceBar::Controls();
+  design.controls.insert(design.controls.end(), bar.begin(), bar.end());
+  return design;
 }
 
 bool IsAboutBook(const Finding& finding) {
@@ -58,9 +64,12 @@ std::shared_ptr<fmReadiness> fmReadiness::Create(const PlanningContext& context,
 }
 
 ReadinessDoors fmReadiness::DoorsTo(PlanningWindows& windows) {
-  return {.open_year_plan = [&windows](const auto& calendars) { windows.OpenYearPlan(calendars); },
+  return {.open_year_plan = [&windows](const auto& calendars,
+                                       const auto& known) { windows.OpenYearPlan(calendars, known); },
           .open_rule_book = [&windows](std::int32_t currency) { windows.OpenRuleBook(currency); },
-          .open_history = [&windows] { windows.OpenHistory({}); }};
+          .open_history = [&windows] { windows.OpenHistory({}); },
+          .open_import = [&windows](const auto& currency, auto year) { windows.OpenImport(currency, year); },
+          .open_export = [&windows](const auto& currency, auto year) { windows.OpenExport(currency, year); }};
 }
 
 fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
@@ -77,7 +86,10 @@ fmReadiness::fmReadiness(const PlanningContext& context, ReadinessDoors doors)
       cmdHistory_(ControlOf<platform::Button>(*form_, "cmdHistory")),
       cmdBook_(ControlOf<platform::Button>(*form_, "cmdBook")),
       cmdPlan_(ControlOf<platform::Button>(*form_, "cmdPlan")),
-      cmdPrepareAll_(ControlOf<platform::Button>(*form_, "cmdPrepareAll")) {}
+      cmdPrepareAll_(ControlOf<platform::Button>(*form_, "cmdPrepareAll")),
+      cmdImport_(ControlOf<platform::Button>(*form_, "cmdImport")),
+      cmdExport_(ControlOf<platform::Button>(*form_, "cmdExport")),
+      silence_bar_(context.platform, *form_) {}
 
 std::function<void()> fmReadiness::Running(void (fmReadiness::*command)()) {
   return [window = weak_from_this(), command] {
@@ -99,6 +111,8 @@ void fmReadiness::Subscribe() {
   subscriptions_.push_back(cmdHistory_.OnClick(Running(&fmReadiness::OpenHistory)));
   subscriptions_.push_back(cmdBook_.OnClick(Running(&fmReadiness::OpenBook)));
   subscriptions_.push_back(cmdPlan_.OnClick(Running(&fmReadiness::OpenPlanOfCell)));
+  subscriptions_.push_back(cmdImport_.OnClick(Running(&fmReadiness::OpenImport)));
+  subscriptions_.push_back(cmdExport_.OnClick(Running(&fmReadiness::OpenExport)));
   subscriptions_.push_back(cmdPrepareAll_.OnClick(Running(&fmReadiness::PrepareAll)));
   subscriptions_.push_back(
       context_.windows.OnChanged([changed](const PlanningWindows::Changed&) { changed(); }));
@@ -132,10 +146,12 @@ void fmReadiness::Load() {
                            {"finding", Say("Finding"), platform::CellAlignment::kLeading, true}});
   EnableButtons();
   Read();
+  silence_bar_.Start(Running(&fmReadiness::ReadWhatIsMissing));
 }
 
 void fmReadiness::Closing() {
   has_closed_ = true;
+  silence_bar_.Stop();
   placement_.Save(*form_);
 }
 
@@ -146,13 +162,17 @@ void fmReadiness::Read() {
   if (has_closed_) return;
   const ActionScope reading(context_.platform.action_observer, platform::ActionKind::kRefresh);
   try {
-    report_ = planning::ReadReadiness(context_.tables, context_.platform.clock.Today());
+    report_ = context_.windows.Readiness().Read(context_.platform.clock.Today());
   } catch (const platform::Interruption&) {
     throw;
   } catch (const platform::Failure& failure) {
     return ShowProblem(failure.Description());
   }
   ShowReport();
+}
+
+void fmReadiness::ReadWhatIsMissing() {
+  if (lblProblem_.Visible()) Read();
 }
 
 void fmReadiness::ShowProblem(const std::string& problem) {
@@ -230,6 +250,8 @@ void fmReadiness::EnableButtons() {
   cmdPlan_.SetEnabled(has_way && is_chosen);
   cmdPrepareAll_.SetEnabled(has_way && report_ && !report_->ToPrepare(YearToPrepare()).empty());
   cmdHistory_.SetEnabled(doors_.open_history != nullptr);
+  cmdImport_.SetEnabled(doors_.open_import != nullptr);
+  cmdExport_.SetEnabled(doors_.open_export != nullptr);
 }
 
 int fmReadiness::YearToPrepare() const {
@@ -272,6 +294,17 @@ void fmReadiness::OpenHistory() {
   if (doors_.open_history) doors_.open_history();
 }
 
+void fmReadiness::OpenImport() { OpenExchange(doors_.open_import); }
+
+void fmReadiness::OpenExport() { OpenExchange(doors_.open_export); }
+
+void fmReadiness::OpenExchange(const ReadinessDoors::Exchange& open) {
+  if (!open) return;
+  const auto calendar = ChosenCalendar();
+  if (!calendar) return open("", std::nullopt);
+  open(tblBoard_.CurrentRow().value_or(""), calendar->second);
+}
+
 void fmReadiness::OpenFinding() {
   const std::optional<std::string> row = tblFindings_.CurrentRow();
   if (!row || !report_) return;
@@ -293,7 +326,10 @@ void fmReadiness::PrepareAll() {
 }
 
 void fmReadiness::OpenPlan(const std::vector<CalendarKey>& calendars) {
-  if (doors_.open_year_plan) doors_.open_year_plan(calendars);
+  if (!doors_.open_year_plan) return;
+  std::vector<planning::Currency> known;
+  for (const auto& row : report_->currencies) known.push_back(row.currency);
+  doors_.open_year_plan(calendars, planning::CurrencyList(std::move(known)));
 }
 
 }  // namespace ferrowind

@@ -14,6 +14,7 @@
 #include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
+#include "ferrowind/views/planning/silence_bar.h"
 
 namespace ferrowind {
 
@@ -21,11 +22,18 @@ class ReadinessWords;
 
 /// What the board leaves to other windows. One that is empty is not offered.
 struct ReadinessDoors {
-  std::function<void(const std::vector<planning::CalendarKey>& calendars)> open_year_plan = {};
+  /// `known` has their currencies.
+  std::function<void(const std::vector<planning::CalendarKey>& calendars,
+                     const planning::CurrencyList& known)>
+      open_year_plan = {};
   /// Of the currency of that number.
   std::function<void(std::int32_t currency)> open_rule_book = {};
   /// Of all calendars.
   std::function<void()> open_history = {};
+  /// With the code of the currency and the year that are chosen; "" and nothing when none is.
+  using Exchange = std::function<void(const std::string& currency, std::optional<int> year)>;
+  Exchange open_import = {};
+  Exchange open_export = {};
 };
 
 /// The readiness board: how far each currency is prepared for the years around today, what a review of all
@@ -69,6 +77,8 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   void Load();
   void Closing();
   void Read();
+  /// What could not be read while the server was silent is read now.
+  void ReadWhatIsMissing();
   void ShowProblem(const std::string& problem);
   void ShowReport();
   void ShowBoard();
@@ -80,6 +90,9 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   void OpenBook();
   void OpenHistory();
   void OpenFinding();
+  void OpenImport();
+  void OpenExport();
+  void OpenExchange(const ReadinessDoors::Exchange& open);
   void PrepareAll();
   /// The next year, or the one after it once nothing of the next one is left to prepare. Only with a report.
   [[nodiscard]] int YearToPrepare() const;
@@ -102,6 +115,8 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   platform::Button& cmdBook_;
   platform::Button& cmdPlan_;
   platform::Button& cmdPrepareAll_;
+  platform::Button& cmdImport_;
+  platform::Button& cmdExport_;
   /// Nothing until the database was read.
   std::optional<planning::ReadinessReport> report_;
   /// Of the columns on show.
@@ -109,6 +124,7 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   /// By the key of the row.
   std::map<std::string, FindingPlace> findings_;
   bool has_closed_ = false;
+  SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Readiness"};
   std::vector<platform::Subscription> subscriptions_;
 };

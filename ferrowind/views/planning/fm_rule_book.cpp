@@ -7,6 +7,7 @@
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/currency_list.h"
+#include "ferrowind/platform/values/text_limits.h"
 #include "ferrowind/views/planning/day_text.h"
 #include "ferrowind/views/planning/filled_box.h"
 
@@ -32,19 +33,20 @@ constexpr int kComparedYears = 5;
 constexpr std::size_t kNamedChanges = 3;
 
 platform::FormDesign Design() {
-  std::vector<ControlDesign> controls{{ControlKind::kLabel, "lblCurrency", "Currency"},
-                                      {ControlKind::kDropDownList, "cmbCurrency"},
-                                      {ControlKind::kLabel, "lblSince", "Holds since"},
-                                      {ControlKind::kTextBox, "txtSince"},
-                                      {ControlKind::kLabel, "lblPublisher", "Publisher"},
-                                      {ControlKind::kTextBox, "txtPublisher"},
-                                      {ControlKind::kLabel, "lblDocument", "Document"},
-                                      {ControlKind::kTextBox, "txtDocument"},
-                                      {ControlKind::kTable, "tblRules"},
-                                      {ControlKind::kButton, "cmdAdd", "Add"},
-                                      {ControlKind::kButton, "cmdRemove", "Remove"},
-                                      {ControlKind::kButton, "cmdUp", "Move up"},
-                                      {ControlKind::kButton, "cmdDown", "Move down"}};
+  std::vector<ControlDesign> controls{
+      {ControlKind::kLabel, "lblCurrency", "Currency"},
+      {ControlKind::kDropDownList, "cmbCurrency"},
+      {ControlKind::kLabel, "lblSince", "Holds since"},
+      {ControlKind::kTextBox, "txtSince"},
+      {ControlKind::kLabel, "lblPublisher", "Publisher"},
+      {.kind = ControlKind::kTextBox, .name = "txtPublisher", .longest_text = platform::kLongestName},
+      {ControlKind::kLabel, "lblDocument", "Document"},
+      {.kind = ControlKind::kTextBox, .name = "txtDocument", .longest_text = platform::kLongestComment},
+      {ControlKind::kTable, "tblRules"},
+      {ControlKind::kButton, "cmdAdd", "Add"},
+      {ControlKind::kButton, "cmdRemove", "Remove"},
+      {ControlKind::kButton, "cmdUp", "Move up"},
+      {ControlKind::kButton, "cmdDown", "Move down"}};
   for (ControlDesign& control : RuleFields::Controls()) controls.push_back(std::move(control));
   const std::vector<ControlDesign> others{
       {ControlKind::kTable, "tblYears"},
@@ -167,9 +169,13 @@ bool fmRuleBook::Close() {
 
 bool fmRuleBook::MayLeave() const {
   if (!draft_ || !draft_->IsChanged()) return true;
-  return ConfirmLoss(platform_.toolkit, Said(platform_, "Rule book"),
-                     Said(platform_, "The rule book of %1 has changes that are not saved. Lose them?",
-                          {draft_->Owner().code}));
+  return Ask(platform_.toolkit,
+             {.caption = Said(platform_, "Rule book"),
+              .message = Said(platform_, "The rule book of %1 has changes that are not saved. Lose them?",
+                              {draft_->Owner().code}),
+              .verb = Said(platform_, "Lose them"),
+              .cancel = Said(platform_, "Cancel"),
+              .prefers_cancel = true});
 }
 
 void fmRuleBook::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
@@ -286,6 +292,7 @@ std::string fmRuleBook::ChangesText() const {
 
 std::string fmRuleBook::YearsText(int first_year) const {
   std::string text;
+  //: says 1
   const auto tell = [&](const char* sentence, const std::vector<int>& years) {
     std::string list;
     for (const int year : years) list += (list.empty() ? "" : ", ") + std::to_string(year);

@@ -74,13 +74,24 @@ bool IsBad(const PlanOutcome& outcome) { return outcome.kind != PlanOutcome::Kin
 // Starting and closing
 // ------------------------------------------------------------------------------------------------
 
+struct fmYearPlan::Creatable : fmYearPlan {
+  Creatable(const PlanningContext& context, planning::PlanBatch batch, std::string list = {})
+      : fmYearPlan(context, std::move(batch), std::move(list)) {}
+};
+
 std::shared_ptr<fmYearPlan> fmYearPlan::Create(const PlanningContext& context,
-                                               const std::vector<planning::CalendarKey>& calendars) {
-  struct Creatable : fmYearPlan {
-    Creatable(const PlanningContext& surroundings, const std::vector<planning::CalendarKey>& keys)
-        : fmYearPlan(surroundings, keys) {}
-  };
-  auto window = std::make_shared<Creatable>(context, calendars);
+                                               const std::vector<planning::CalendarKey>& calendars,
+                                               const planning::CurrencyList& known) {
+  auto window = std::make_shared<Creatable>(context, planning::PlanBatch(context.tables, calendars, known));
+  window->Connect();
+  return window;
+}
+
+std::shared_ptr<fmYearPlan> fmYearPlan::CreateOfList(const PlanningContext& context,
+                                                     const planning::ListImport& import) {
+  auto window = std::make_shared<Creatable>(
+      context, planning::PlanBatch(context.tables, import.calendar, planning::ByList(import)), import.source);
+  window->TellRemarks(import.remarks);
   window->Connect();
   return window;
 }
@@ -93,11 +104,16 @@ std::string fmYearPlan::NameFor(const std::vector<planning::CalendarKey>& calend
   return name;
 }
 
-fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<planning::CalendarKey>& calendars)
+std::string fmYearPlan::NameFor(const planning::ListImport& import) {
+  return NameFor(std::vector{import.calendar}) + " as listed";
+}
+
+fmYearPlan::fmYearPlan(const PlanningContext& context, planning::PlanBatch batch, std::string list)
     : platform_(context.platform),
       windows_(context.windows),
-      batch_(context.tables, calendars),
-      form_(platform_.toolkit.CreateForm(Said(platform_, Design(calendars.size())))),
+      batch_(std::move(batch)),
+      list_(std::move(list)),
+      form_(platform_.toolkit.CreateForm(Said(platform_, Design(batch_.Calendars().size())))),
       tools_(ControlOf<platform::ToolBar>(*form_, "tbPlan")),
       summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
       lines_(ControlOf<platform::Table>(*form_, "tblPlan")),
@@ -107,9 +123,11 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, const std::vector<plannin
       apply_(ControlOf<platform::Button>(*form_, "cmdApply")),
       table_(platform_, lines_, batch_, [this] { RefreshSummary(); }) {
   AddTools();
-  outcome_.SetColumns({{.key = "Outcome", .caption = Said(platform_, "What was done"), .stretches = true}});
+  outcome_.SetColumns({{.key = "Outcome",
+                        .caption = Said(platform_, list_.empty() ? "What was done" : "What is to be known"),
+                        .stretches = true}});
   outcome_.SetVisible(false);
-  if (calendars.size() > 1) FillCalendarList();
+  if (batch_.Calendars().size() > 1) FillCalendarList();
   ShowLines();
 }
 
@@ -126,7 +144,7 @@ void fmYearPlan::AddTools() {
 
 void fmYearPlan::FillCalendarList() {
   filter_ = &ControlOf<platform::DropDownList>(*form_, "cmbCalendar");
-  filter_->AddItem(Said(platform_, "All"), kAllCalendars);
+  filter_->AddItem(Said(platform_, "All calendars"), kAllCalendars);
   std::int32_t position = 0;
   for (const planning::PlannedCalendar& calendar : batch_.Calendars()) {
     filter_->AddItem(calendar.Name(), position++);
@@ -178,6 +196,9 @@ void fmYearPlan::Form_QueryUnload() {
 
 void fmYearPlan::ShowCaption() {
   const auto& calendars = batch_.Calendars();
+  if (!list_.empty()) {
+    return form_->SetCaption(Said(platform_, "Import of %1: %2", {calendars.front().Name(), list_}));
+  }
   form_->SetCaption(calendars.size() == 1
                         ? Said(platform_, "Plan of %1", {calendars.front().Name()})
                         : SaidOfNumber(platform_, static_cast<std::int64_t>(calendars.size()),
@@ -206,9 +227,10 @@ void fmYearPlan::RefreshSummary() {
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);
   undo_.SetVisible(batch_.CanUndo());
   tools_.SetToolEnabled(kUndo, batch_.CanUndo());
-  lines_.SetEmptyText(Said(platform_, batch_.Totals().taken == 0
-                                          ? "Every day is as planned."
-                                          : "Nothing but weekends is added; \"All days\" shows them."));
+  lines_.SetEmptyText(
+      Said(platform_, batch_.Totals().taken == 0
+                          ? list_.empty() ? "Every day is as planned." : "Every day is as listed."
+                          : "Nothing but weekends is added; \"All days\" shows them."));
   ShowCurrentLine();
 }
 
@@ -223,8 +245,13 @@ void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes, const std::strin
   for (const bool is_bad : {true, false}) {
     for (const PlanOutcome& outcome : outcomes) {
       if (IsBad(outcome) != is_bad) continue;
+      std::string told = outcome.sentence;
+      if (outcome.changed_days != 0) {
+        told += " " + SaidOfNumber(platform_, static_cast<std::int64_t>(outcome.changed_days),
+                                   "%n day was changed.", "%n days were changed.");
+      }
       rows.push_back({.key = std::to_string(outcome.calendar),
-                      .cells = {{.text = outcome.sentence, .mark = MarkOf(outcome.kind)}}});
+                      .cells = {{.text = std::move(told), .mark = MarkOf(outcome.kind)}}});
     }
   }
   outcome_.SetRows(rows);
@@ -232,6 +259,16 @@ void fmYearPlan::Tell(const std::vector<PlanOutcome>& outcomes, const std::strin
   // There it is read, also by assistive tools, and there no key does anything by mistake.
   if (!rows.empty()) outcome_.SetFocus();
   if (std::any_of(outcomes.begin(), outcomes.end(), IsBad)) platform_.toolkit.Beep();
+}
+
+void fmYearPlan::TellRemarks(const std::vector<std::string>& remarks) {
+  std::vector<platform::TableRow> rows;
+  for (const std::string& remark : remarks) {
+    rows.push_back({.key = "remark " + std::to_string(rows.size()),
+                    .cells = {{.text = remark, .mark = platform::CellMark::kWarning}}});
+  }
+  outcome_.SetRows(rows);
+  outcome_.SetVisible(!rows.empty());
 }
 
 // Doing
@@ -259,8 +296,14 @@ void fmYearPlan::Do(PlanRun::Kind kind) {
   if (run.All() < kLeastWithProgress) {
     while (run.Next()) run.Step();
   } else {
-    // What is done by then is told, even when the progress cannot be.
-    RunStep([&] { ShowProgress(run, kind); });
+    try {
+      // What is done by then is told, even when the progress cannot be.
+      RunStep([&] { ShowProgress(run, kind); });
+    } catch (const platform::Interruption&) {
+      // This window is gone; the others learn of what is done all the same.
+      TellOthers(run.Outcomes());
+      throw;
+    }
   }
   std::string stopped;
   if (run.Next()) {
@@ -288,6 +331,10 @@ void fmYearPlan::ShowProgress(PlanRun& run, PlanRun::Kind kind) {
 void fmYearPlan::ShowDone(const std::vector<PlanOutcome>& outcomes, const std::string& stopped) {
   Tell(outcomes, stopped);
   ShowLines();
+  TellOthers(outcomes);
+}
+
+void fmYearPlan::TellOthers(const std::vector<PlanOutcome>& outcomes) {
   PlanningWindows::Changed changed;
   for (const PlanOutcome& outcome : outcomes) {
     // A call that failed may have come to its end all the same.

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/planning/list_import.h"
 #include "ferrowind/planning/plan_batch.h"
 #include "ferrowind/planning/plan_run.h"
 #include "ferrowind/platform/platform.h"
@@ -19,21 +20,30 @@ namespace ferrowind {
 /// The window that shows where calendars differ from what they should be, and makes them so.
 class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fmYearPlan> {
  public:
-  /// Of `calendars`, none twice, at least one. What `context` refers to must outlive the window. Failure when
-  /// the toolkit cannot make the form; what cannot be planned is told in the window.
-  [[nodiscard]] static std::shared_ptr<fmYearPlan> Create(
-      const PlanningContext& context, const std::vector<planning::CalendarKey>& calendars);
+  /// Of `calendars`, none twice, at least one, called as `PlanBatch` says. What `context` refers to must
+  /// outlive the window. Failure when the toolkit cannot make the form; what cannot be planned is told in the
+  /// window.
+  [[nodiscard]] static std::shared_ptr<fmYearPlan> Create(const PlanningContext& context,
+                                                          const std::vector<planning::CalendarKey>& calendars,
+                                                          const planning::CurrencyList& known);
+  /// The same of what a list says of one calendar. What the list leaves open is told in the window.
+  [[nodiscard]] static std::shared_ptr<fmYearPlan> CreateOfList(const PlanningContext& context,
+                                                                const planning::ListImport& import);
   /// Under which `PlanningWindows` keeps it.
   [[nodiscard]] static std::string NameFor(const std::vector<planning::CalendarKey>& calendars);
+  [[nodiscard]] static std::string NameFor(const planning::ListImport& import);
 
   void ShowInFront() override;
   [[nodiscard]] bool IsOpen() const override { return !has_closed_; }
   bool Close() override;
 
  protected:
-  fmYearPlan(const PlanningContext& context, const std::vector<planning::CalendarKey>& calendars);
+  /// `list` is what it is called; empty for plans by rule books.
+  fmYearPlan(const PlanningContext& context, planning::PlanBatch batch, std::string list);
 
  private:
+  struct Creatable;
+
   void Connect();
   void AddTools();
   void FillCalendarList();
@@ -54,6 +64,9 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   void ShowCurrentLine();
   /// Shows and tells the others what `outcomes` have changed.
   void ShowDone(const std::vector<planning::PlanOutcome>& outcomes, const std::string& stopped);
+  /// Tells the other windows what `outcomes` have changed.
+  void TellOthers(const std::vector<planning::PlanOutcome>& outcomes);
+  void TellRemarks(const std::vector<std::string>& remarks);
   void Form_Load();
   void Form_QueryUnload();
   void CloseByButton();
@@ -61,6 +74,7 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   const platform::Platform& platform_;
   PlanningWindows& windows_;
   planning::PlanBatch batch_;
+  std::string list_;
   std::shared_ptr<platform::Form> form_;
   platform::ToolBar& tools_;
   /// Null when there is only one calendar.

@@ -24,7 +24,9 @@ constexpr const char* kRefresh = "ID_RefreshYear";
 constexpr const char* kYearBefore = "ID_YearBefore";
 constexpr const char* kYearAfter = "ID_YearAfter";
 constexpr const char* kExcept = "ID_ExceptDays";
+constexpr const char* kExceptPlain = "ID_ExceptDaysPlain";
 constexpr const char* kCloseDays = "ID_CloseDays";
+constexpr const char* kDayHistory = "ID_DayHistory";
 constexpr const char* kPrint = "ID_PrintYear";
 constexpr const char* kSavePdf = "ID_SaveYearPdf";
 constexpr const char* kSavePicture = "ID_SaveYearPicture";
@@ -52,6 +54,7 @@ platform::FormDesign Design() {
 }
 
 void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
+  //: says 2 3
   const auto add = [&](const char* id, const char* caption, const char* description, const char* shortcut) {
     tools.AddTool(Said(platform, platform::ToolDesign{.id = id,
                                                       .caption = caption,
@@ -62,17 +65,21 @@ void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
   add(kRefresh, "Refresh", "Reads the calendars anew", "F5");
   add(kYearBefore, "Previous year", "Shows the year before", "Alt+PgUp");
   add(kYearAfter, "Next year", "Shows the year after", "Alt+PgDown");
+  add(kExceptPlain, "Except days", "Makes the selected days working days by exception, without a reason",
+      "Ctrl+Shift+E");
   add(kExcept, "Except days with message ...",
       "Makes the selected days working days by exception, with one reason", "Ctrl+E");
   add(kCloseDays, "Close selected days as ...",
       "Closes the selected days that are open, as a holiday that was announced for once", "Ctrl+L");
+  add(kDayHistory, "History of the day...", "Shows who changed the day and when", "Ctrl+H");
   add(kPrint, "Print...", "Prints the year", "Ctrl+P");
   add(kSavePdf, "Save as PDF...", "Writes the year into a file for reading and printing", "Ctrl+S");
   add(kSavePicture, "Save as picture...", "Writes the year into a PNG file", "Ctrl+Shift+S");
   add(kClose, "Close", "", "Ctrl+W");
   tools.SetBar(Said(platform, "Year"), {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept,
                                         kCloseDays, kToolSeparator, kPrint, kSavePdf, kSavePicture});
-  tools.AddPopupMenu(kDayMenu, Said(platform, "Day"), {kExcept, kCloseDays});
+  tools.AddPopupMenu(kDayMenu, Said(platform, "Day"),
+                     {kExceptPlain, kExcept, kCloseDays, kToolSeparator, kDayHistory});
 }
 
 }  // namespace
@@ -207,8 +214,11 @@ void fmYearPlanner::ReadAnewAfter(const PlanningWindows::Changed& changed) {
 
 void fmYearPlanner::RefreshSelection() {
   const auto selected = SelectedDaysOf(*overview_, view_.Selected());
-  tools_.SetToolEnabled(kExcept, !DaysToExcept(*overview_, selected).empty());
+  const bool can_except = !DaysToExcept(*overview_, selected).empty();
+  for (const char* tool : {kExceptPlain, kExcept}) tools_.SetToolEnabled(tool, can_except);
   tools_.SetToolEnabled(kCloseDays, HasDayToClose(*overview_, selected));
+  const auto* const calendar = CurrentCalendar();
+  tools_.SetToolEnabled(kDayHistory, calendar != nullptr && calendar->exists);
   bar_.SetPanelText(kTextPanel, SelectionInWords(*overview_, selected));
 }
 
@@ -228,8 +238,10 @@ void fmYearPlanner::RunTool(const std::string& id) {
       {kRefresh, [](fmYearPlanner& w) { w.ReadAnew(); }},
       {kYearBefore, [](fmYearPlanner& w) { w.ShowYear(-1); }},
       {kYearAfter, [](fmYearPlanner& w) { w.ShowYear(1); }},
-      {kExcept, [](fmYearPlanner& w) { w.ExceptDays(); }},
+      {kExceptPlain, [](fmYearPlanner& w) { w.ExceptDays(); }},
+      {kExcept, [](fmYearPlanner& w) { w.ExceptDaysWithReason(); }},
       {kCloseDays, [](fmYearPlanner& w) { w.CloseDays(); }},
+      {kDayHistory, [](fmYearPlanner& w) { w.OpenDayHistory(); }},
       {kPrint, [](fmYearPlanner& w) { (void)w.view_.PrintPages(HeadingOf(*w.overview_)); }},
       {kSavePdf, [](fmYearPlanner& w) { w.Save(PageFile::kPdf); }},
       {kSavePicture, [](fmYearPlanner& w) { w.Save(PageFile::kPng); }},
@@ -243,6 +255,12 @@ void fmYearPlanner::RunTool(const std::string& id) {
 void fmYearPlanner::ShowDayMenu() { tools_.ShowPopupMenu(kDayMenu); }
 
 void fmYearPlanner::ExceptDays() {
+  // A copy: whoever learns of the change may have this window read its calendars anew.
+  const YearOverview seen = *overview_;
+  Tell(ExceptDaysWith("", seen, DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()))));
+}
+
+void fmYearPlanner::ExceptDaysWithReason() {
   // A copy: other windows may have this one read its calendars anew while the operator thinks of the reason.
   const YearOverview seen = *overview_;
   Tell(ExceptSelectedDays(platform_.toolkit, seen,
@@ -252,6 +270,20 @@ void fmYearPlanner::ExceptDays() {
 void fmYearPlanner::CloseDays() {
   const YearOverview seen = *overview_;
   Tell(CloseSelectedDays(context_, seen, SelectedDaysOf(seen, view_.Selected())));
+}
+
+const YearOverview::Calendar* fmYearPlanner::CurrentCalendar() const {
+  const auto current = view_.Current();
+  const auto position = current ? CalendarOfKey(*overview_, current->calendar) : std::nullopt;
+  return position ? &overview_->Calendars()[*position] : nullptr;
+}
+
+void fmYearPlanner::OpenDayHistory() {
+  const auto* const calendar = CurrentCalendar();
+  if (calendar == nullptr) return;
+  windows_.OpenHistory({.currency = calendar->currency.id,
+                        .year = overview_->Year(),
+                        .day_of_year = view_.Current()->day_of_year});
 }
 
 void fmYearPlanner::Tell(const DaysOutcome& outcome) {

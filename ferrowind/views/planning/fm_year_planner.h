@@ -43,7 +43,11 @@ class fmYearPlanner : public PlanningWindow, public std::enable_shared_from_this
   void RunTool(const std::string& id);
   void ShowDayMenu();
   void ExceptDays();
+  void ExceptDaysWithReason();
   void CloseDays();
+  void OpenDayHistory();
+  /// The calendar of the current day; null in the row of all of them.
+  [[nodiscard]] const planning::YearOverview::Calendar* CurrentCalendar() const;
   void Tell(const DaysOutcome& outcome);
   void Save(platform::PageFile kind);
   void RefreshSelection();

@@ -1,7 +1,6 @@
 #include "ferrowind/views/planning/follow_bar.h"
 
 #include <chrono>
-#include <exception>
 
 #include "ferrowind/data/kept_pending_failures.h"
 #include "ferrowind/data/module_state.h"
@@ -54,7 +53,7 @@ void FollowBar::Started() {
   if (platform_.change_watches == nullptr) return;
   try {
     watch_ = platform_.change_watches->Watch(DictionaryObject().dic_ConnectionString());
-  } catch (const std::exception&) {
+  } catch (...) {
     TraceFailureBeingHandled();
   }
   if (watch_) LookLater();
@@ -80,7 +79,7 @@ void FollowBar::Look() {
   try {
     if (watch_->Look()) is_due_ = true;
     if (is_due_) Compare();
-  } catch (const std::exception&) {
+  } catch (...) {
     TraceFailureBeingHandled();
   }
   LookLater();
@@ -102,8 +101,11 @@ void FollowBar::Tell(const CalendarNews& news) {
     panel_.SetVisible(false);
     return;
   }
-  text_.SetText(SentenceOf(news));
+  const std::string sentence = SentenceOf(news);
+  if (panel_.Visible() && text_.Text() == sentence) return;
+  text_.SetText(sentence);
   panel_.SetVisible(true);
+  text_.Announce();
 }
 
 std::string FollowBar::SentenceOf(const CalendarNews& news) const {

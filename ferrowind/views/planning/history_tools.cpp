@@ -19,6 +19,7 @@ using platform::CalendarOnShow;
 constexpr const char* kHistory = "ID_History";
 constexpr const char* kDayHistory = "ID_DayHistory";
 constexpr const char* kUndo = "ID_Undo";
+//: said
 constexpr const char* kUndoes = "Undoes your last change of this calendar";
 
 /// What tells the changes of a calendar in words.
@@ -126,11 +127,16 @@ void HistoryTools::Undo() {
   }
   const platform::Platform& platform = context_.platform;
   const std::string question = Said(platform, "Undo in %1: %2?", {name, own->told.change});
-  if (Confirm(platform.toolkit, Said(platform, "Undo"), question, 1) != 0) return;
+  if (!Ask(platform.toolkit, {.caption = Said(platform, "Undo"),
+                              .message = question,
+                              .verb = Said(platform, "Undo"),
+                              .cancel = Said(platform, "Cancel")})) {
+    return;
+  }
   const PlanningWindows::Changed changed{{calendar->currency_id, calendar->year}};
   planning::UndoOutcome outcome;
   try {
-    outcome = planning::UndoEntry(own->entry);
+    outcome = planning::UndoEntry(own->entry, Said(platform, "Undoing in %1: %2", {name, own->told.change}));
   } catch (const platform::Failure&) {
     // With its answer lost it may be done all the same.
     context_.windows.TellChanged(changed);
@@ -143,7 +149,7 @@ void HistoryTools::Undo() {
 }
 
 void HistoryTools::Tell(const std::string& text) const {
-  (void)Confirm(context_.platform.toolkit, Said(context_.platform, "Undo"), text, 0);
+  Inform(context_.platform.toolkit, Said(context_.platform, "Undo"), text);
 }
 
 }  // namespace ferrowind

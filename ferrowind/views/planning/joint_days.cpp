@@ -13,6 +13,7 @@ namespace ferrowind {
 namespace {
 
 using almanac::MarkedDay;
+using almanac::Readiness;
 using almanac::RuleKind;
 using planning::InWords;
 using planning::YearOverview;
@@ -44,13 +45,38 @@ void AppendTo(std::string& list, const std::string& item, const char* separator 
   list += item;
 }
 
-std::string MissingCodes(const YearOverview& overview) {
-  std::string codes;
+/// The codes of the calendars that tell less than they should.
+struct Gaps {
+  std::string missing;
+  std::string not_prepared;
+  std::string weekends_only;
+
+  [[nodiscard]] bool IsAnyUnknown() const { return !missing.empty() || !not_prepared.empty(); }
+};
+
+Gaps GapsIn(const YearOverview& overview) {
+  Gaps gaps;
   for (const auto& calendar : overview.Calendars()) {
-    if (!calendar.exists) AppendTo(codes, calendar.currency.code);
+    if (!calendar.exists) {
+      AppendTo(gaps.missing, calendar.currency.code);
+    } else if (calendar.readiness == Readiness::kNotPrepared) {
+      AppendTo(gaps.not_prepared, calendar.currency.code);
+    } else if (calendar.readiness == Readiness::kWeekendsOnly) {
+      AppendTo(gaps.weekends_only, calendar.currency.code);
+    }
   }
-  return codes;
+  return gaps;
 }
+
+/// "no calendar of JPY; not prepared: EUR".
+std::string UnknownInWords(const Gaps& gaps) {
+  std::string words;
+  if (!gaps.missing.empty()) AppendTo(words, InWords("no calendar of %1", {gaps.missing}));
+  if (!gaps.not_prepared.empty()) AppendTo(words, InWords("not prepared: %1", {gaps.not_prepared}), "; ");
+  return words;
+}
+
+bool IsKnown(const YearOverview::Calendar& calendar) { return calendar.readiness != Readiness::kNotPrepared; }
 
 /// Names and the codes of the calendars whose days are called so, in the order of the calendars.
 using Named = std::vector<std::pair<std::string, std::string>>;
@@ -81,11 +107,10 @@ struct JointDay {
   std::string description;
 };
 
-JointDay JointDayOf(const YearOverview& overview, const std::vector<Mark>& marks,
-                    const std::string& missing) {
-  const std::size_t existing =
-      static_cast<std::size_t>(std::count_if(overview.Calendars().begin(), overview.Calendars().end(),
-                                             [](const auto& calendar) { return calendar.exists; }));
+JointDay JointDayOf(const YearOverview& overview, const std::vector<Mark>& marks, const Gaps& gaps) {
+  const bool is_any_unknown = gaps.IsAnyUnknown();
+  const std::size_t known = static_cast<std::size_t>(
+      std::count_if(overview.Calendars().begin(), overview.Calendars().end(), IsKnown));
   Named closing;
   std::size_t closed = 0;
   bool is_weekend = true;
@@ -96,29 +121,29 @@ JointDay JointDayOf(const YearOverview& overview, const std::vector<Mark>& marks
     Add(closing, NameOfClosing(overview, *day), calendar->currency.code);
   }
   JointDay joint;
-  if (closed == existing && closed != 0) {
+  if (closed == known && closed != 0) {
     joint.look = is_weekend ? DayLook{DayTint::kGrey, DayShape::kBar, ""}
                             : DayLook{DayTint::kRed, DayShape::kSquare, std::to_string(closed)};
   } else if (closed != 0) {
     joint.look = SomeAreClosedLook(closed);
-  } else if (!missing.empty()) {
+  } else if (is_any_unknown) {
     joint.look = {DayTint::kNone, DayShape::kNone, "?"};
   }
   if (closed == 0) {
-    joint.description = InWords(missing.empty() ? "all open" : "open as far as known");
-  } else if (closed == existing && closing.size() == 1) {
+    joint.description = InWords(is_any_unknown ? "open as far as known" : "all open");
+  } else if (closed == known && closing.size() == 1) {
     joint.description = InWords("all closed: %1", {closing.front().first});
   } else {
-    joint.description = InWords(closed == existing ? "all closed: %1" : "closed: %1", {ListOf(closing)});
+    joint.description = InWords(closed == known ? "all closed: %1" : "closed: %1", {ListOf(closing)});
   }
-  if (!missing.empty()) joint.description = InWords("%1; no calendar: %2", {joint.description, missing});
+  if (is_any_unknown) AppendTo(joint.description, UnknownInWords(gaps), "; ");
   return joint;
 }
 
 std::array<int, 12> CommonOpenDays(const YearOverview& overview) {
   std::vector<const almanac::CalendarContent*> contents;
   for (const auto& calendar : overview.Calendars()) {
-    if (calendar.exists) contents.push_back(&calendar.content);
+    if (IsKnown(calendar)) contents.push_back(&calendar.content);
   }
   return almanac::CountCommonOpenDays(contents);
 }
@@ -134,34 +159,39 @@ platform::YearCalendar JointRow(const YearOverview& overview) {
   row.key = kJointCalendar;
   row.caption = InWords("All");
   row.description = InWords("All calendars together");
-  const std::string missing = MissingCodes(overview);
+  const Gaps gaps = GapsIn(overview);
+  const bool is_any_unknown = gaps.IsAnyUnknown();
   row.ordinary = InWords("all open");
   const auto marks = MarksByDay(overview);
   for (int day = 1; day <= platform::DaysInYear(overview.Year()); ++day) {
     const auto& of_day = marks[static_cast<std::size_t>(day)];
-    if (of_day.empty() && missing.empty()) continue;
-    JointDay joint = JointDayOf(overview, of_day, missing);
+    if (of_day.empty() && !is_any_unknown) continue;
+    JointDay joint = JointDayOf(overview, of_day, gaps);
     row.days.push_back({static_cast<std::int16_t>(day), std::move(joint.look), std::move(joint.description)});
   }
   const std::array<int, 12> open = CommonOpenDays(overview);
   for (std::size_t month = 0; month < open.size(); ++month) {
     // What nobody knows of one calendar nobody knows of all of them.
-    row.months[month].text = missing.empty() ? std::to_string(open[month]) : "-";
-    row.months[month].description = missing.empty()
-                                        ? InWords(static_cast<std::size_t>(open[month]),
-                                                  "open together on %n day", "open together on %n days")
-                                        : InWords("no calendar of %1", {missing});
+    row.months[month].text = is_any_unknown ? "-" : std::to_string(open[month]);
+    row.months[month].description = is_any_unknown
+                                        ? UnknownInWords(gaps)
+                                        : InWords(static_cast<std::size_t>(open[month]),
+                                                  "open together on %n day", "open together on %n days");
   }
   return row;
 }
 
 std::string JointSummary(const YearOverview& overview) {
+  const Gaps gaps = GapsIn(overview);
+  if (std::none_of(overview.Calendars().begin(), overview.Calendars().end(), IsKnown))
+    return InWords("Nothing is known: %1", {UnknownInWords(gaps)});
   const std::array<int, 12> months = CommonOpenDays(overview);
   const int days = std::accumulate(months.begin(), months.end(), 0);
-  const std::string missing = MissingCodes(overview);
-  const std::string open =
+  std::string words =
       InWords(static_cast<std::size_t>(days), "Open together on %n day", "Open together on %n days");
-  return missing.empty() ? open : InWords("%1 as far as known; no calendar of %2", {open, missing});
+  if (gaps.IsAnyUnknown()) words = InWords("%1 as far as known; %2", {words, UnknownInWords(gaps)});
+  if (!gaps.weekends_only.empty()) words = InWords("%1; weekends only: %2", {words, gaps.weekends_only});
+  return words;
 }
 
 std::vector<platform::YearNote> NotesOf(const YearOverview& overview) {

@@ -45,6 +45,7 @@ CellMark MarkOf(const PlanLine& line) {
 }
 
 /// In English.
+//: said
 std::string ActionOf(const PlanLine& line) {
   switch (line.kind) {
     case PlanLine::Kind::kNotPlanned:
@@ -71,11 +72,13 @@ CellTone ToneOf(const PlanLine& line) {
 PlanTable::PlanTable(const platform::Platform& platform, platform::Table& table, planning::PlanBatch& batch,
                      std::function<void()> on_decision)
     : platform_(platform), table_(table), batch_(batch), on_decision_(std::move(on_decision)) {
+  //: says 2
   const auto column = [&](const char* key, const char* caption) {
     return platform::TableColumn{.key = key, .caption = Said(platform_, caption)};
   };
   std::vector<platform::TableColumn> columns;
   if (batch.Calendars().size() > 1) columns.push_back(column("Calendar", "Calendar"));
+  //: said 2
   for (const auto& [key, caption] :
        {std::pair("Date", "Date"), std::pair("Weekday", "Weekday"), std::pair("Now", "Now"),
         std::pair("Should", "Should be"), std::pair("Action", "Action"), std::pair("Why", "Why")}) {

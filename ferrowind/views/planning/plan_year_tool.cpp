@@ -1,8 +1,11 @@
 #include "ferrowind/views/planning/plan_year_tool.h"
 
+#include <utility>
+
 #include "ferrowind/data/confirm.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/book_store.h"
+#include "ferrowind/planning/currency_list.h"
 
 namespace ferrowind {
 namespace {
@@ -33,13 +36,20 @@ void PlanYearTool::CalendarCreated(const platform::CalendarOnShow& calendar) {
   const platform::Platform& platform = context_.platform;
   const std::string question = Said(platform, "Nothing is closed in %1 %2 yet. Prepare it now?",
                                     {calendar.currency, std::to_string(calendar.year)});
-  const bool is_wanted = Confirm(platform.toolkit, Said(platform, "New calendar"), question, 1) == 0;
+  const bool is_wanted = Ask(platform.toolkit, {.caption = Said(platform, "New calendar"),
+                                                .message = question,
+                                                .verb = Said(platform, "Prepare"),
+                                                .cancel = Said(platform, "Not now")});
   // It may have closed while the question was just being answered.
   if (is_wanted && !has_closed_) Open(calendar);
 }
 
 void PlanYearTool::Open(const platform::CalendarOnShow& calendar) {
-  context_.windows.OpenYearPlan({{calendar.currency_id, calendar.year}});
+  planning::Currency currency;
+  currency.id = calendar.currency_id;
+  currency.code = calendar.currency;
+  context_.windows.OpenYearPlan({{calendar.currency_id, calendar.year}},
+                                planning::CurrencyList({std::move(currency)}));
 }
 
 }  // namespace ferrowind

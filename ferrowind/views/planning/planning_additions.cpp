@@ -6,8 +6,10 @@
 #include "ferrowind/data/said.h"
 #include "ferrowind/views/planning/assignment_check.h"
 #include "ferrowind/views/planning/calendars_addition_list.h"
+#include "ferrowind/views/planning/calendars_silence.h"
 #include "ferrowind/views/planning/day_dates.h"
 #include "ferrowind/views/planning/day_finder.h"
+#include "ferrowind/views/planning/exchange_tools.h"
 #include "ferrowind/views/planning/follow_bar.h"
 #include "ferrowind/views/planning/history_tools.h"
 #include "ferrowind/views/planning/holidays_addition_list.h"
@@ -47,9 +49,10 @@ constexpr auto Holidays = EntryOf<Addition, platform::HolidaysAdditions, platfor
 
 // The order of their controls and tools.
 constexpr std::array kCalendarsAdditions{
-    Calendars<RefreshedCalendars>, Calendars<DayDates>,     Calendars<FollowBar>,    Calendars<DayFinder>,
-    Calendars<PlanYearTool>,       Calendars<RuleBookTool>, Calendars<HistoryTools>, Calendars<WhyPane>,
-    Calendars<YearBesideDays>,     Calendars<StoredView>,
+    Calendars<RefreshedCalendars>, Calendars<DayDates>,      Calendars<FollowBar>,
+    Calendars<DayFinder>,          Calendars<PlanYearTool>,  Calendars<RuleBookTool>,
+    Calendars<HistoryTools>,       Calendars<ExchangeTools>, Calendars<WhyPane>,
+    Calendars<YearBesideDays>,     Calendars<StoredView>,    Calendars<CalendarsSilence>,
 };
 constexpr std::array kHolidaysAdditions{
     Holidays<HolidaysCaption>,
@@ -70,6 +73,7 @@ WindowParts PartsOf(const Entries& entries, const platform::Platform& platform) 
     append(all.menu, parts.menu);
   }
   for (auto& tool : all.tools) tool = Said(platform, tool);
+  for (auto& control : all.controls) control.text = Said(platform, control.text);
   return all;
 }
 

@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "ferrowind/views/planning/fm_calendar_then.h"
+#include "ferrowind/views/planning/fm_export.h"
 #include "ferrowind/views/planning/fm_history.h"
+#include "ferrowind/views/planning/fm_import.h"
 #include "ferrowind/views/planning/fm_readiness.h"
 #include "ferrowind/views/planning/fm_rule_book.h"
 #include "ferrowind/views/planning/fm_year_plan.h"
@@ -12,8 +14,18 @@
 
 namespace ferrowind {
 
-PlanningWindows::PlanningWindows(const platform::Platform& platform, const almanac::DateTables& tables)
-    : platform_(platform), tables_(tables) {}
+namespace {
+
+const exchange::NoICalendar kNoCalendarFiles{};
+
+}  // namespace
+
+PlanningWindows::PlanningWindows(const platform::Platform& platform, const almanac::DateTables& tables,
+                                 const exchange::ICalendarFormat* calendar_files)
+    : platform_(platform),
+      tables_(tables),
+      calendar_files_(calendar_files != nullptr ? *calendar_files : kNoCalendarFiles),
+      readiness_(tables) {}
 
 PlanningWindows::~PlanningWindows() = default;
 
@@ -43,9 +55,10 @@ void PlanningWindows::OpenCalendarAsOf(const planning::CalendarKey& calendar, co
        [&](const PlanningContext& context) { return fmCalendarThen::CreateAsOf(context, calendar, moment); });
 }
 
-void PlanningWindows::OpenYearPlan(const std::vector<planning::CalendarKey>& calendars) {
+void PlanningWindows::OpenYearPlan(const std::vector<planning::CalendarKey>& calendars,
+                                   const planning::CurrencyList& known) {
   Open(fmYearPlan::NameFor(calendars),
-       [&](const PlanningContext& context) { return fmYearPlan::Create(context, calendars); });
+       [&](const PlanningContext& context) { return fmYearPlan::Create(context, calendars, known); });
 }
 
 void PlanningWindows::OpenReadiness() {
@@ -62,6 +75,28 @@ void PlanningWindows::OpenYearPlanner(const std::vector<std::int32_t>& currencie
 void PlanningWindows::OpenRuleBook(std::int32_t currency_id) {
   Open("rule book " + std::to_string(currency_id),
        [currency_id](const PlanningContext& context) { return fmRuleBook::Create(context, currency_id); });
+}
+
+void PlanningWindows::OpenImport(const std::string& currency, std::optional<int> year) {
+  const auto window =
+      Open(fmImport::Name(), [](const PlanningContext& context) { return fmImport::Create(context); });
+  if (window->IsOpen()) static_cast<fmImport&>(*window).Propose(currency, year);
+}
+
+void PlanningWindows::OpenExport(const std::string& currency, std::optional<int> year) {
+  const auto window =
+      Open(fmExport::Name(), [](const PlanningContext& context) { return fmExport::Create(context); });
+  if (window->IsOpen()) static_cast<fmExport&>(*window).Propose(currency, year);
+}
+
+void PlanningWindows::OpenListPlan(const planning::ListImport& import) {
+  const std::string name = fmYearPlan::NameFor(import);
+  if (const auto earlier = windows_.find(name); earlier != windows_.end() && earlier->second->IsOpen()) {
+    // Held here, because it goes while it closes.
+    const auto window = earlier->second;
+    if (!window->Close()) return window->ShowInFront();
+  }
+  Open(name, [&](const PlanningContext& context) { return fmYearPlan::CreateOfList(context, import); });
 }
 
 bool PlanningWindows::CloseAll() {

@@ -4,12 +4,17 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
+#include "ferrowind/exchange/icalendar_format.h"
 #include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
+#include "ferrowind/planning/list_import.h"
+#include "ferrowind/planning/readiness_report.h"
 #include "ferrowind/platform/events/signal.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/views/planning/planning_window.h"
@@ -29,15 +34,18 @@ class PlanningWindows {
 
   using Maker = std::function<std::shared_ptr<PlanningWindow>(const PlanningContext& context)>;
 
-  /// Both must outlive this object.
-  PlanningWindows(const platform::Platform& platform, const almanac::DateTables& tables);
+  /// All must outlive this object. `calendar_files` is null for a host whose windows need no such files.
+  PlanningWindows(const platform::Platform& platform, const almanac::DateTables& tables,
+                  const exchange::ICalendarFormat* calendar_files = nullptr);
   /// Drops the windows without asking them.
   ~PlanningWindows();
   PlanningWindows(const PlanningWindows&) = delete;
   PlanningWindows& operator=(const PlanningWindows&) = delete;
 
-  /// The plans of those calendars, at least one and none twice.
-  void OpenYearPlan(const std::vector<planning::CalendarKey>& calendars);
+  /// The plans of those calendars, at least one and none twice. Whoever knows their currencies says so, and
+  /// the window knows what to call them also when the database cannot be read.
+  void OpenYearPlan(const std::vector<planning::CalendarKey>& calendars,
+                    const planning::CurrencyList& known = planning::CurrencyList({}));
   /// The history of what `filter` asks for. The window that is open already shows that then.
   void OpenHistory(const planning::HistoryFilter& filter);
   /// The calendar of that entry of the history as its call left it.
@@ -53,8 +61,20 @@ class PlanningWindows {
   /// A year of currencies, by their numbers, at least one.
   void OpenYearPlanner(const std::vector<std::int32_t>& currencies, int year);
 
+  /// The window that makes a calendar as a list, and the one that writes calendars to a file. Both propose
+  /// the currency of that code and the year; "" and nothing propose none.
+  void OpenImport(const std::string& currency, std::optional<int> year);
+  void OpenExport(const std::string& currency, std::optional<int> year);
+  /// The plan of that list. It takes the place of an earlier one of the same calendar.
+  void OpenListPlan(const planning::ListImport& import);
+
   /// Closes all windows; false, with the others closed, when one of them refuses.
   bool CloseAll();
+
+  [[nodiscard]] const exchange::ICalendarFormat& CalendarFiles() const { return calendar_files_; }
+
+  /// For whoever reports on the readiness of the database.
+  [[nodiscard]] planning::ReadinessReader& Readiness() { return readiness_; }
 
   /// To be called by whoever has changed something in the database, once it is done.
   void TellChanged(const Changed& calendars);
@@ -68,6 +88,8 @@ class PlanningWindows {
  private:
   const platform::Platform& platform_;
   const almanac::DateTables& tables_;
+  const exchange::ICalendarFormat& calendar_files_;
+  planning::ReadinessReader readiness_;
   std::map<std::string, std::shared_ptr<PlanningWindow>> windows_;
   platform::Signal<const Changed&> changed_;
 };

@@ -200,6 +200,7 @@ std::string ReadinessWords::FindingsTitle() const {
   std::array<int, 3> counts{};
   for (const SaidFinding& said : findings) ++counts[static_cast<std::size_t>(said.finding.level)];
   std::string list;
+  //: says 2 3
   const auto add = [&](FindingLevel level, const char* one, const char* many) {
     const int count = counts[static_cast<std::size_t>(level)];
     if (count != 0) list += (list.empty() ? "" : ", ") + SaidOfNumber(platform_, count, one, many);

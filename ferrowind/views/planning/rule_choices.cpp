@@ -46,6 +46,7 @@ struct ChoiceText {
   const char* text;
 };
 
+//: said
 constexpr std::array kForms{ChoiceText<DateForm>{DateForm::kSameDate, "The same date each year"},
                             ChoiceText<DateForm>{DateForm::kNthWeekday, "A weekday of a month"},
                             ChoiceText<DateForm>{DateForm::kWeekdayByDate, "A weekday near a date"},
@@ -55,6 +56,7 @@ constexpr std::array kForms{ChoiceText<DateForm>{DateForm::kSameDate, "The same 
                             ChoiceText<DateForm>{DateForm::kOnce, "Once"},
                             ChoiceText<DateForm>{DateForm::kEveryWeekday, "Every week"}};
 
+//: said
 constexpr std::array kClosedDays{
     ChoiceText<ClosedDayChoice>{ClosedDayChoice::kStays, "It stays there"},
     ChoiceText<ClosedDayChoice>{ClosedDayChoice::kNextFreeDay, "It moves to the next free day"},
@@ -64,11 +66,13 @@ constexpr std::array kClosedDays{
     ChoiceText<ClosedDayChoice>{ClosedDayChoice::kMondayAfterSunday, "From Sunday to Monday"},
     ChoiceText<ClosedDayChoice>{ClosedDayChoice::kNotObserved, "It is not observed"}};
 
+//: said
 constexpr std::array kOrdinals{
     ChoiceText<int>{1, "First"}, ChoiceText<int>{2, "Second"},
     ChoiceText<int>{3, "Third"}, ChoiceText<int>{4, "Fourth"},
     ChoiceText<int>{5, "Fifth"}, ChoiceText<int>{almanac::NthWeekday::kLast, "Last"}};
 
+//: said
 constexpr std::array kRelations{ChoiceText<Relation>{Relation::kOnOrAfter, "on or after"},
                                 ChoiceText<Relation>{Relation::kAfter, "after"},
                                 ChoiceText<Relation>{Relation::kOnOrBefore, "on or before"},
@@ -192,16 +196,34 @@ bool RuleChoices::ShowChoices(const ExpressionChoices& choices) {
          Choose(kTo, choices.to.value_or(kNoYear));
 }
 
-void RuleChoices::Show(const std::optional<almanac::DateExpression>& expression) {
+bool RuleChoices::ChooseFor(const std::optional<almanac::DateExpression>& expression) {
   is_showing_ = true;
   const auto choices = expression ? ExpressionChoices::Of(*expression) : std::nullopt;
-  if (!choices || !ShowChoices(*choices)) Choose(kForm, kByHand);
+  const bool is_said = choices && ShowChoices(*choices);
+  if (!is_said) Choose(kForm, kByHand);
   is_showing_ = false;
+  return is_said;
+}
+
+void RuleChoices::Show(const std::optional<almanac::DateExpression>& expression) {
+  ChooseFor(expression);
   ShowListsOfForm();
+}
+
+void RuleChoices::ShowWhileWriting(const std::optional<almanac::DateExpression>& expression) {
+  if (ChooseFor(expression)) return ShowListsOfForm();
+  EnableLists(false);
+}
+
+void RuleChoices::EnableLists(bool is_enabled) {
+  for (const char* list : kLists) {
+    if (list != kForm) List(list).SetEnabled(is_enabled);
+  }
 }
 
 void RuleChoices::ShowListsOfForm() {
   const std::int32_t form = Chosen(kForm);
+  EnableLists(true);
   for (const char* list : kLists) List(list).SetVisible(IsAskedFor(list, form));
   form_.ControlNamed("lblClosedDay").SetVisible(IsAskedFor(kClosedDay, form));
   form_.ControlNamed("lblFrom").SetVisible(IsAskedFor(kFrom, form));

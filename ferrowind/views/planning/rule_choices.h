@@ -26,6 +26,9 @@ class RuleChoices {
   /// Shows the choices that say the expression; that it is written by hand where they cannot, or without one.
   /// Does not call `on_choice`.
   void Show(const std::optional<almanac::DateExpression>& expression);
+  /// The same while the operator writes it: lists that cannot say it stay where they are until some can, or a
+  /// form is chosen, but cannot be used, so that nothing moves under the hands of who writes.
+  void ShowWhileWriting(const std::optional<almanac::DateExpression>& expression);
   /// What is chosen, as an expression in its normal form. Choices that are no date, such as 30 February, give
   /// the text of one that says so when it is read; nothing while it is written by hand.
   [[nodiscard]] std::optional<std::string> Expression() const;
@@ -39,7 +42,11 @@ class RuleChoices {
   bool Choose(const char* list, std::int32_t data);
   bool ChooseTable(const std::string& name);
   [[nodiscard]] bool ShowChoices(const almanac::ExpressionChoices& choices);
+  /// Chooses what says the expression; false, with "by hand" chosen, where nothing does.
+  bool ChooseFor(const std::optional<almanac::DateExpression>& expression);
   void ShowListsOfForm();
+  /// All but the list of forms.
+  void EnableLists(bool is_enabled);
   void Chose();
 
   const platform::Platform& platform_;

@@ -7,6 +7,7 @@
 
 #include "ferrowind/almanac/date_expression.h"
 #include "ferrowind/data/said.h"
+#include "ferrowind/platform/values/text_limits.h"
 #include "ferrowind/views/planning/filled_box.h"
 
 namespace ferrowind {
@@ -25,6 +26,7 @@ struct KindText {
   RuleKind kind;
   const char* text;
 };
+//: said
 constexpr std::array kKinds{
     KindText{RuleKind::kWeekday, "Weekday"}, KindText{RuleKind::kCelebration, "Celebration"},
     KindText{RuleKind::kPoint, "Holiday point"}, KindText{RuleKind::kWorkingDay, "Working day"}};
@@ -38,19 +40,21 @@ std::string RuleKindText(const platform::Platform& platform, RuleKind kind) {
 }
 
 std::vector<ControlDesign> RuleFields::Controls() {
-  std::vector<ControlDesign> controls{{ControlKind::kFrame, "frmRule", "Rule"},
-                                      {ControlKind::kLabel, "lblName", "Name"},
-                                      {ControlKind::kTextBox, "txtName"},
-                                      {ControlKind::kLabel, "lblKind", "Type"},
-                                      {ControlKind::kDropDownList, "cmbKind"}};
+  std::vector<ControlDesign> controls{
+      {ControlKind::kFrame, "frmRule", "Rule"},
+      {ControlKind::kLabel, "lblName", "Name"},
+      {.kind = ControlKind::kTextBox, .name = "txtName", .longest_text = platform::kLongestName},
+      {ControlKind::kLabel, "lblKind", "Type"},
+      {ControlKind::kDropDownList, "cmbKind"}};
   for (ControlDesign& control : RuleChoices::Controls()) controls.push_back(std::move(control));
-  const std::vector<ControlDesign> others{{ControlKind::kLabel, "lblExpression", "Expression"},
-                                          {ControlKind::kTextBox, "txtExpression"},
-                                          {ControlKind::kLabel, "lblFault"},
-                                          {ControlKind::kLabel, "lblComment", "Comment"},
-                                          {ControlKind::kTextBox, "txtComment"},
-                                          {ControlKind::kLabel, "lblMovedName", "When moved"},
-                                          {ControlKind::kTextBox, "txtMovedName"}};
+  const std::vector<ControlDesign> others{
+      {ControlKind::kLabel, "lblExpression", "Expression"},
+      {.kind = ControlKind::kTextBox, .name = "txtExpression", .longest_text = platform::kLongestComment},
+      {ControlKind::kLabel, "lblFault"},
+      {ControlKind::kLabel, "lblComment", "Comment"},
+      {.kind = ControlKind::kTextBox, .name = "txtComment", .longest_text = platform::kLongestComment},
+      {ControlKind::kLabel, "lblMovedName", "When moved"},
+      {.kind = ControlKind::kTextBox, .name = "txtMovedName", .longest_text = platform::kLongestName}};
   controls.insert(controls.end(), others.begin(), others.end());
   return controls;
 }
@@ -80,6 +84,7 @@ void RuleFields::Connect(const std::function<void()>& on_change) {
 
 void RuleFields::Show(const std::optional<RuleDraft>& rule) {
   const RuleDraft shown = rule.value_or(RuleDraft{});
+  is_other_rule_ = true;
   is_filling_ = true;
   FillBox(txtName_, shown.name);
   FillBox(txtExpression_, shown.expression);
@@ -93,12 +98,18 @@ void RuleFields::Show(const std::optional<RuleDraft>& rule) {
 }
 
 void RuleFields::ShowFault(const std::optional<std::string>& fault) {
+  const bool is_other_rule = std::exchange(is_other_rule_, false);
   lblFault_.SetText(fault.value_or(""));
   const std::string expression = txtExpression_.Text();
   // Choices that are no date, such as 30 February, stay on show, so that they can be mended.
   if (choices_.Expression() == expression) return;
   const bool is_read = !fault && !expression.empty();
-  choices_.Show(is_read ? std::optional(almanac::DateExpression::Parse(expression)) : std::nullopt);
+  const auto read = is_read ? std::optional(almanac::DateExpression::Parse(expression)) : std::nullopt;
+  if (is_other_rule) {
+    choices_.Show(read);
+  } else {
+    choices_.ShowWhileWriting(read);
+  }
 }
 
 RuleDraft RuleFields::Rule() const {

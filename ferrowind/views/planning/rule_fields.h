@@ -32,7 +32,7 @@ class RuleFields {
   /// Shows the rule; empty fields that take nothing without one. Does not call `on_change`.
   void Show(const std::optional<planning::RuleDraft>& rule);
   /// Says why the expression is none, and brings the lists in line with it; without a fault it is one, or
-  /// there is none.
+  /// there is none. Once after each `Show`, and then whenever the operator has changed it.
   void ShowFault(const std::optional<std::string>& fault);
   /// The rule as it stands in the fields.
   [[nodiscard]] planning::RuleDraft Rule() const;
@@ -51,6 +51,8 @@ class RuleFields {
   RuleChoices choices_;
   /// While the program fills them.
   bool is_filling_ = false;
+  /// Until the fault of another rule is shown.
+  bool is_other_rule_ = true;
   std::vector<platform::Subscription> subscriptions_;
 };
 

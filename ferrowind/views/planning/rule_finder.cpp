@@ -34,7 +34,9 @@ RuleFinder::RuleFinder(const PlanningContext& context, platform::HolidaysScene& 
 
 FindBar::Subject RuleFinder::Subject() {
   return {
+      //: said
       .count = "%1 of %2 rules",
+      //: said
       .kinds = {{"All rules"},
                 OfType("Weekdays", holiday_type::kWeekday),
                 OfType("Celebrations", holiday_type::kFullDate),

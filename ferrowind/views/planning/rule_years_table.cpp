@@ -65,6 +65,7 @@ TableRow RuleYearsTable::CountOf(const RuleYear& year) const {
                 {Said(platform_, "The first is %1", {DayText(platform_.locale, year.dates.front().date)})}}};
 }
 
+//: says 2
 TableRow RuleYearsTable::RowWithoutDate(int year, const char* text, CellMark mark) const {
   return {.key = std::to_string(year) + "-none",
           .cells = {{.text = std::to_string(year), .tone = CellTone::kQuiet},

@@ -86,17 +86,22 @@ std::string SelectionInWords(const YearOverview& overview, const std::vector<Sel
 
 DaysOutcome ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& overview,
                                const std::vector<SelectedDays>& days) {
-  DaysOutcome excepted;
-  if (days.empty()) return excepted;
+  if (days.empty()) return {};
   fmExceptMess dialog(toolkit);
   dialog.ShowModal();
-  if (dialog.Result() != 0) return excepted;
+  if (dialog.Result() != 0) return {};
+  return ExceptDaysWith(dialog.Message(), overview, days);
+}
+
+DaysOutcome ExceptDaysWith(const std::string& reason, const YearOverview& overview,
+                           const std::vector<SelectedDays>& days) {
+  DaysOutcome excepted;
   std::vector<SelectedDays> done;
   PlanningWindows::Changed changed;
   for (const auto& of_calendar : days) {
     const YearOverview::Calendar& calendar = overview.Calendars()[of_calendar.calendar];
     try {
-      if (planning::ExceptDays(calendar.currency, calendar.content, of_calendar.days, dialog.Message())) {
+      if (planning::ExceptDays(calendar.currency, calendar.content, of_calendar.days, reason)) {
         done.push_back(of_calendar);
         changed.emplace_back(calendar.currency.id, overview.Year());
       } else {

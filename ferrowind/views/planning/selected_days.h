@@ -35,8 +35,11 @@ struct DaysOutcome {
   std::string done;
 };
 
-/// Asks the operator for the reason and makes the days working days by exception, one call a calendar.
-/// Nothing is asked without days, and nothing done when the operator cancels.
+/// Makes the days working days by exception with that reason, which may be empty, one call a calendar.
+[[nodiscard]] DaysOutcome ExceptDaysWith(const std::string& reason, const planning::YearOverview& overview,
+                                         const std::vector<SelectedDays>& days);
+/// The same with a reason that it asks the operator for. Nothing is asked without days, and nothing done when
+/// the operator cancels.
 [[nodiscard]] DaysOutcome ExceptSelectedDays(platform::Toolkit& toolkit,
                                              const planning::YearOverview& overview,
                                              const std::vector<SelectedDays>& days);

@@ -32,10 +32,6 @@ std::string CommentLine(const Platform& platform, const DayStory& story) {
   return Said(platform, is_exception ? "Reason: %1" : "Text: %1", {story.comment});
 }
 
-std::string DayAndMonth(const platform::Locale& locale, const Date& day) {
-  return std::to_string(day.Day()) + " " + locale.MonthName(day.Month());
-}
-
 platform::TableCell DateCell(const Platform& platform, const SameDay& year) {
   if (!year.is_prepared) return {.text = Said(platform, "not prepared"), .mark = CellMark::kMissing};
   const std::string what = year.rule.empty() ? Said(platform, planning::kOrdinaryDay) : year.rule;
@@ -47,11 +43,9 @@ platform::TableCell DateCell(const Platform& platform, const SameDay& year) {
 
 platform::TableCell RuleCell(const Platform& platform, const SameDay& year) {
   if (!year.is_prepared) return {};
-  const platform::Locale& locale = platform.locale;
   std::string days;
-  for (const Date& day : year.days_of_rule) {
-    days += (days.empty() ? "" : ", ") + locale.WeekdayName(day.Weekday()) + " " + DayAndMonth(locale, day);
-  }
+  for (const Date& day : year.days_of_rule)
+    days += (days.empty() ? "" : ", ") + DayText(platform.locale, day);
   return {.text = days.empty() ? Said(platform, "no day") : days};
 }
 
@@ -63,6 +57,7 @@ std::string WhyText(const Platform& platform, const std::string& code, const Day
   const auto add = [&](const std::string& line) {
     if (!line.empty()) text += "\n" + line;
   };
+  //: says 1
   const auto add_named = [&](const char* line, const std::string& what) {
     if (!what.empty()) add(Said(platform, line, {what}));
   };
@@ -76,10 +71,9 @@ std::string WhyText(const Platform& platform, const std::string& code, const Day
 
 std::vector<platform::TableColumn> YearColumns(const Platform& platform, const DayStory& story) {
   // The last column has what room is left.
-  std::vector<platform::TableColumn> columns{{.key = "Year", .caption = Said(platform, "Year")},
-                                             {.key = "Date",
-                                              .caption = DayAndMonth(platform.locale, story.day),
-                                              .stretches = !story.has_dated_rule}};
+  std::vector<platform::TableColumn> columns{
+      {.key = "Year", .caption = Said(platform, "Year")},
+      {.key = "Date", .caption = Said(platform, "Same day"), .stretches = !story.has_dated_rule}};
   if (story.has_dated_rule) columns.push_back({.key = "Rule", .caption = story.rule, .stretches = true});
   return columns;
 }

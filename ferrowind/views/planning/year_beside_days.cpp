@@ -5,7 +5,10 @@
 #include "ferrowind/data/ignoring_failure.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/data/run_handler.h"
+#include "ferrowind/data/said.h"
+#include "ferrowind/planning/in_words.h"
 #include "ferrowind/platform/values/conversion.h"
+#include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/common/window_placement.h"
 #include "ferrowind/views/planning/day_row.h"
 #include "ferrowind/views/planning/year_content.h"
@@ -18,6 +21,8 @@ using platform::Date;
 using platform::YearCell;
 
 constexpr const char* kShowTool = "ID_YearPlanner";
+//: said
+constexpr const char* kShowDescription = "Show or hide the year at a glance beside the days";
 constexpr const char* kWindowTool = "ID_YearWindow";
 constexpr const char* kExceptTool = "ID_ExceptDays";
 constexpr const char* kSection = "Window Calendars";
@@ -45,6 +50,19 @@ class Following {
   bool& flag_;
 };
 
+bool IsOf(const std::optional<planning::YearOverview>& overview, const platform::CalendarOnShow& calendar) {
+  return overview && overview->Year() == calendar.year &&
+         overview->Calendars().front().currency.id == calendar.currency_id;
+}
+
+/// Says that the days on show are those of before, or that there are none.
+void MarkUnread(platform::YearContent& content) {
+  const platform::DayLook look{platform::DayTint::kAmber, platform::DayShape::kNone, "!"};
+  const bool is_of_before = !content.calendars.empty();
+  content.legend.insert(content.legend.begin(),
+                        {look, planning::InWords(is_of_before ? "As it was before" : "Cannot be read")});
+}
+
 YearCell CellOf(const std::string& calendar, const Date& day) {
   return {calendar, static_cast<std::int16_t>(day.DayOfYear())};
 }
@@ -57,7 +75,7 @@ platform::WindowParts YearBesideDays::Parts() {
           .tools = {{.id = kShowTool,
                      .caption = "Year",
                      .category = kCategory,
-                     .description = "Show or hide the year at a glance beside the days",
+                     .description = kShowDescription,
                      .kind = platform::ToolKind::kTwoStateButton,
                      .shortcut = "Ctrl+Shift+Y"},
                     {.id = kWindowTool,
@@ -121,7 +139,7 @@ void YearBesideDays::SetVisible(bool is_visible) {
 }
 
 void YearBesideDays::DaysShown() {
-  overview_.reset();
+  is_read_ = false;
   scene_.Tools().SetToolEnabled(kWindowTool, scene_.OnShow().has_value());
   Fill();
 }
@@ -130,25 +148,32 @@ void YearBesideDays::Fill() {
   if (!is_visible_) return;
   {
     const Following following(is_following_);
+    std::string failure;
     try {
       ReadCalendar();
-      view_.SetContent(overview_ ? YearContentOf(*overview_, context_.platform.clock.Today())
-                                 : platform::YearContent());
-    } catch (...) {
-      // What was shown before is of another calendar, or out of date.
-      view_.SetContent({});
-      throw;
+    } catch (const platform::Failure& failed) {
+      // The days themselves have told it, or the operator can go on with them.
+      failure = failed.Description();
     }
+    platform::YearContent content =
+        overview_ ? YearContentOf(*overview_, context_.platform.clock.Today()) : platform::YearContent();
+    if (!failure.empty()) MarkUnread(content);
+    view_.SetContent(std::move(content));
+    scene_.Tools().SetToolDescription(
+        kShowTool, failure.empty() ? Said(context_.platform, kShowDescription)
+                                   : Said(context_.platform, "The year cannot be read: %1", {failure}));
   }
   CurrentDayChanged();
 }
 
 void YearBesideDays::ReadCalendar() {
   const auto calendar = scene_.OnShow();
-  if (overview_ || !calendar) return;
+  if (!calendar || !IsOf(overview_, *calendar)) overview_.reset();
+  if (!calendar || (overview_ && is_read_)) return;
   const planning::Currency currency = {
       calendar->currency_id, calendar->currency, calendar->currency, true, {}};
   overview_ = planning::YearOverview::Load({&currency, 1}, calendar->year);
+  is_read_ = true;
 }
 
 void YearBesideDays::CurrentDayChanged() {

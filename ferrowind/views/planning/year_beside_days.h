@@ -37,6 +37,8 @@ class YearBesideDays : public CalendarsAddition {
   void ExceptDays();
   /// Those of the year, or those of the rows that are marked in the grid.
   [[nodiscard]] std::vector<platform::YearCell> ChosenCells(const std::string& calendar) const;
+  /// Reads the calendar on show unless that was done since its days came on show. What was read before stays
+  /// when that fails, unless it is of another calendar.
   void ReadCalendar();
 
   PlanningContext context_;
@@ -47,6 +49,7 @@ class YearBesideDays : public CalendarsAddition {
   bool is_following_ = false;
   /// Of the calendar on show; nothing until it is needed.
   std::optional<planning::YearOverview> overview_;
+  bool is_read_ = false;
   std::vector<platform::Subscription> subscriptions_;
 };
 

@@ -13,6 +13,7 @@ namespace {
 
 using almanac::DayCounts;
 using almanac::MarkedDay;
+using almanac::Readiness;
 using almanac::RuleKind;
 using planning::InWords;
 using planning::YearOverview;
@@ -26,7 +27,7 @@ const DayLook kWeekendLook = {DayTint::kGrey, DayShape::kBar, ""};
 const DayLook kCelebrationLook = {DayTint::kRed, DayShape::kSquare, "C"};
 const DayLook kPointLook = {DayTint::kViolet, DayShape::kDiamond, "P"};
 const DayLook kExceptionLook = {DayTint::kGreen, DayShape::kTriangle, "E"};
-const DayLook kMissingLook = {DayTint::kAmber, DayShape::kHatching, ""};
+const DayLook kUnknownLook = {DayTint::kAmber, DayShape::kHatching, ""};
 
 const DayLook& LookOf(const MarkedDay& day) {
   switch (day.kind) {
@@ -51,6 +52,7 @@ std::string Description(const YearOverview& overview, const MarkedDay& day) {
 }
 
 std::string Words(const DayCounts& counts) {
+  //: says 2 3
   const auto count = [](int number, const char* one, const char* many) {
     return InWords(static_cast<std::size_t>(number), one, many);
   };
@@ -69,19 +71,30 @@ YearCalendar RowOf(const planning::Currency& currency) {
   return row;
 }
 
-YearCalendar MissingRow(const planning::Currency& currency, int year) {
-  YearCalendar row = RowOf(currency);
-  row.ordinary = InWords("no calendar");
-  for (int day = 1; day <= platform::DaysInYear(year); ++day) {
-    row.days.push_back({static_cast<std::int16_t>(day), kMissingLook, row.ordinary});
+/// Of a calendar that closes no day, be it that there is none: no day of it looks open, except where somebody
+/// has said so.
+YearCalendar UnknownRow(const YearOverview& overview, const YearOverview::Calendar& calendar) {
+  YearCalendar row = RowOf(calendar.currency);
+  row.ordinary = InWords(calendar.exists ? "not prepared" : "no calendar");
+  auto marked = calendar.content.days.begin();
+  for (int day = 1; day <= platform::DaysInYear(overview.Year()); ++day) {
+    const auto number = static_cast<std::int16_t>(day);
+    if (marked != calendar.content.days.end() && marked->day_of_year == number) {
+      row.days.push_back({number, LookOf(*marked), Description(overview, *marked)});
+      ++marked;
+    } else {
+      row.days.push_back({number, kUnknownLook, row.ordinary});
+    }
   }
   row.months.fill({"-", row.ordinary});
   return row;
 }
 
 YearCalendar RowOf(const YearOverview& overview, const YearOverview::Calendar& calendar, bool is_only_one) {
-  if (!calendar.exists) return MissingRow(calendar.currency, overview.Year());
+  if (calendar.readiness == Readiness::kNotPrepared) return UnknownRow(overview, calendar);
   YearCalendar row = RowOf(calendar.currency);
+  if (calendar.readiness == Readiness::kWeekendsOnly)
+    row.description = InWords("%1: weekends only", {row.description});
   row.ordinary = InWords("working day");
   for (const MarkedDay& day : calendar.content.days) {
     row.days.push_back({day.day_of_year, LookOf(day), Description(overview, day)});
@@ -97,28 +110,49 @@ YearCalendar RowOf(const YearOverview& overview, const YearOverview::Calendar& c
   return row;
 }
 
+/// What hatched days mean; "" when there are none.
+std::string MeaningOfUnknown(const YearOverview& overview) {
+  bool is_any_missing = false;
+  bool is_any_empty = false;
+  for (const auto& calendar : overview.Calendars()) {
+    if (calendar.readiness != Readiness::kNotPrepared) continue;
+    (calendar.exists ? is_any_empty : is_any_missing) = true;
+  }
+  if (is_any_missing && is_any_empty) return InWords("No calendar, or not prepared");
+  if (is_any_missing) return InWords("No calendar");
+  return is_any_empty ? InWords("Not prepared") : "";
+}
+
+bool HasNothingButWeekends(const YearOverview& overview) {
+  const auto& calendars = overview.Calendars();
+  return calendars.size() == 1 && calendars.front().readiness == Readiness::kWeekendsOnly;
+}
+
 std::vector<platform::YearLegendEntry> LegendOf(const YearOverview& overview) {
-  std::vector<platform::YearLegendEntry> legend = {{kWeekendLook, InWords("Weekend")},
+  //: said
+  const char* const weekend = HasNothingButWeekends(overview) ? "Weekends only" : "Weekend";
+  std::vector<platform::YearLegendEntry> legend = {{kWeekendLook, InWords(weekend)},
                                                    {kCelebrationLook, InWords("Celebration")},
                                                    {kPointLook, InWords("Holiday point")},
                                                    {kExceptionLook, InWords(almanac::kExceptionName)}};
   const auto& calendars = overview.Calendars();
   if (calendars.size() > 1) legend.push_back({SomeAreClosedLook(2), InWords("How many are closed")});
-  const bool is_any_missing =
-      std::any_of(calendars.begin(), calendars.end(), [](const auto& calendar) { return !calendar.exists; });
-  if (is_any_missing) legend.push_back({kMissingLook, InWords("No calendar")});
+  const std::string unknown = MeaningOfUnknown(overview);
+  if (!unknown.empty()) legend.push_back({kUnknownLook, unknown});
   return legend;
+}
+
+std::string SummaryOf(const YearOverview::Calendar& only) {
+  if (!only.exists) return InWords("There is no such calendar");
+  if (only.readiness == Readiness::kNotPrepared) return InWords("Not prepared: none of its days is closed");
+  const std::string counts = Words(almanac::Total(almanac::CountDays(only.content)));
+  return only.readiness == Readiness::kWeekendsOnly ? InWords("Weekends only: %1", {counts}) : counts;
 }
 
 std::string SummaryOf(const YearOverview& overview) {
   const auto& calendars = overview.Calendars();
-  if (calendars.size() == 1) {
-    const auto& only = calendars.front();
-    return only.exists ? Words(almanac::Total(almanac::CountDays(only.content)))
-                       : InWords("There is no such calendar");
-  }
   if (calendars.empty()) return {};
-  return JointSummary(overview);
+  return calendars.size() == 1 ? SummaryOf(calendars.front()) : JointSummary(overview);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace ferrowind {
 inline constexpr const char* kJointCalendar = "joint";
 
 /// What a year view shows of the calendars: weekends, holidays and exceptions, each with a shape or a letter
-/// of its own; no day of a calendar that does not exist looks open.
+/// of its own; no day of a calendar that closes none, or does not exist, looks open.
 [[nodiscard]] platform::YearContent YearContentOf(const planning::YearOverview& overview,
                                                   const platform::Date& today);
 

@@ -10,6 +10,7 @@
 #include "ferrowind/adapters/qt/look/glyphs.h"
 #include "ferrowind/adapters/qt/look/line_icon.h"
 #include "ferrowind/adapters/qt/look/refusal_color.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -46,8 +47,8 @@ QDate SteppedBy(const QKeyEvent& event, const QDate& date) {
 DateField::DateField(QWidget* parent) : QLineEdit(parent), reader_(std::make_unique<DateReader>(locale())) {
   new SelectOnFocus(*this);
   QAction* open = addAction(LineIcon(CalendarGlyph), QLineEdit::TrailingPosition);
-  open->setText(tr("Choose a day"));
-  open->setToolTip(tr("Choose a day (Alt+Down)"));
+  open->setText(Translated("Choose a day"));
+  open->setToolTip(Translated("Choose a day (Alt+Down)"));
   connect(open, &QAction::triggered, this, &DateField::OpenCalendar);
   connect(this, &QLineEdit::textEdited, this, &DateField::NoticeTyping);
   ShowDate(date_);

@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/qt/controls/qt_label.h"
 
+#include <QAccessible>
+
 #include "ferrowind/adapters/qt/controls/caption_text.h"
 
 namespace ferrowind::qt {
@@ -13,6 +15,11 @@ std::string QtLabel::Text() const { return FromQt(text_); }
 void QtLabel::SetText(const std::string& text) {
   text_ = ToQt(text);
   ShowText();
+}
+
+void QtLabel::Announce() {
+  QAccessibleEvent alert(&label_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 void QtLabel::SetMnemonic(QChar mnemonic) {

@@ -15,6 +15,7 @@ class QtLabel : public QtControl<platform::Label>, public Captioned {
 
   [[nodiscard]] std::string Text() const override;
   void SetText(const std::string& text) override;
+  void Announce() override;
 
   [[nodiscard]] bool TakesMnemonic() const override { return label_.buddy() != nullptr; }
   [[nodiscard]] QString PlainCaption() const override { return text_; }

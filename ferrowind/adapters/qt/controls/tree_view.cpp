@@ -151,8 +151,12 @@ void TreeView::mousePressEvent(QMouseEvent* event) {
   const Work work(*this);
   has_moved_ = false;
   was_clicked_ = false;
-  is_mouse_down_ = true;
   QTreeView::mousePressEvent(event);
+}
+
+void TreeView::mouseMoveEvent(QMouseEvent* event) {
+  const Work work(*this);
+  QTreeView::mouseMoveEvent(event);
 }
 
 void TreeView::mouseReleaseEvent(QMouseEvent* event) {
@@ -160,7 +164,6 @@ void TreeView::mouseReleaseEvent(QMouseEvent* event) {
     const Work work(*this);
     QTreeView::mouseReleaseEvent(event);
   }
-  is_mouse_down_ = event->buttons() != Qt::NoButton;
   if (has_moved_ || was_clicked_) RaiseChosen();
 }
 
@@ -173,7 +176,7 @@ void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelec
   QTreeView::selectionChanged(selected, deselected);
   if (is_selected_by_program_) return;
   has_moved_ = true;
-  if (works_under_way_ == 0 && !is_mouse_down_ && !selected.isEmpty()) FollowAssistiveTool();
+  if (works_under_way_ == 0 && !selected.isEmpty()) FollowAssistiveTool();
 }
 
 void TreeView::FollowAssistiveTool() {

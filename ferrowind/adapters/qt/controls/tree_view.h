@@ -34,6 +34,7 @@ class TreeView : public QTreeView {
   bool viewportEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -61,7 +62,6 @@ class TreeView : public QTreeView {
   /// Since the last press of a key or mouse button.
   bool has_moved_ = false;
   bool was_clicked_ = false;
-  bool is_mouse_down_ = false;
 };
 
 }  // namespace ferrowind::qt

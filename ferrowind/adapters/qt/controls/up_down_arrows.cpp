@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "ferrowind/adapters/qt/values/translated.h"
+
 namespace ferrowind::qt {
 namespace {
 
@@ -22,8 +24,8 @@ UpDownArrows::UpDownArrows(QWidget* parent) : QWidget(parent) {
   // Room for the frame that tells the focus.
   layout->setContentsMargins(kFocusLine, kFocusLine, kFocusLine, kFocusLine);
   layout->setSpacing(0);
-  layout->addWidget(AddArrow(Qt::UpArrow, tr("Up"), 1));
-  layout->addWidget(AddArrow(Qt::DownArrow, tr("Down"), -1));
+  layout->addWidget(AddArrow(Qt::UpArrow, Translated("Up"), 1));
+  layout->addWidget(AddArrow(Qt::DownArrow, Translated("Down"), -1));
 }
 
 QSize UpDownArrows::sizeHint() const { return {kArrowWidth, fontMetrics().height() + 10}; }

@@ -1,10 +1,10 @@
 #include "ferrowind/adapters/qt/dates/date_reader.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include "ferrowind/adapters/qt/dates/date_pattern.h"
 #include "ferrowind/adapters/qt/dates/typed_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -122,28 +122,22 @@ DateReading DateReader::InYear(const DayAndMonth& read, int year) const {
   const QDate date(year, read.month, read.day);
   if (date.isValid()) return {.date = date};
   if (IsDay(read.day, read.month))
-    return {.refusal =
-                QCoreApplication::translate("ferrowind", "There is no %1 in %2.").arg(Named(read)).arg(year)};
+    return {.refusal = Translated("There is no %1 in %2.").arg(Named(read)).arg(year)};
   const int days = QDate(year, read.month, 1).daysInMonth();
-  return {.refusal = QCoreApplication::translate("ferrowind", "There is no %1: the month has %2 days.")
-                         .arg(Named(read))
-                         .arg(days)};
+  return {.refusal = Translated("There is no %1: the month has %2 days.").arg(Named(read)).arg(days)};
 }
 
 DateReading DateReader::NoDate() const {
   constexpr DayAndMonth kExample{31, 12};
-  return {.refusal =
-              QCoreApplication::translate(
-                  "ferrowind", "This is no date. Write a day and a month without a year, such as %1 or %2.")
-                  .arg(Named(kExample), numbers_.Written(kExample.day, kExample.month)),
+  return {.refusal = Translated("This is no date. Write a day and a month without a year, such as %1 or %2.")
+                         .arg(Named(kExample), numbers_.Written(kExample.day, kExample.month)),
           .is_another_text = true};
 }
 
 DateReading DateReader::TwoDays(const QString& typed, const DayAndMonth& one,
                                 const DayAndMonth& other) const {
-  return {.refusal =
-              QCoreApplication::translate("ferrowind", "%1 can be %2 or %3. Write the name of the month.")
-                  .arg(typed, Named(one), Named(other))};
+  return {.refusal = Translated("%1 can be %2 or %3. Write the name of the month.")
+                         .arg(typed, Named(one), Named(other))};
 }
 
 QString DateReader::Named(const DayAndMonth& read) const {

@@ -1,10 +1,10 @@
 #include "ferrowind/adapters/qt/dates/full_date_reader.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/dates/typed_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 namespace {
@@ -32,7 +32,7 @@ DateReading FullDateReader::Read(const QString& text, int year) const {
   if (typed.weekday == 0 || !reading.date.isValid() || reading.date.dayOfWeek() == typed.weekday) {
     return reading;
   }
-  return {.refusal = QCoreApplication::translate("ferrowind", "%1 is a %2.")
+  return {.refusal = Translated("%1 is a %2.")
                          .arg(ShortDate(reading.date, locale_),
                               locale_.standaloneDayName(reading.date.dayOfWeek(), QLocale::LongFormat))};
 }
@@ -70,11 +70,10 @@ DateReading FullDateReader::ReadPlain(const QString& plain, int year) const {
 
 DateReading FullDateReader::NoDate(int year) const {
   const QDate example(year, 12, 31);
-  return {
-      .refusal = QCoreApplication::translate("ferrowind", "This is no date. Write one such as %1 or %2 %3.")
-                     .arg(ShortDate(example, locale_), QString::number(example.day()),
-                          locale_.monthName(example.month(), QLocale::LongFormat)),
-      .is_another_text = true};
+  return {.refusal = Translated("This is no date. Write one such as %1 or %2 %3.")
+                         .arg(ShortDate(example, locale_), QString::number(example.day()),
+                              locale_.monthName(example.month(), QLocale::LongFormat)),
+          .is_another_text = true};
 }
 
 std::optional<DateReading> FullDateReader::ReadFromYear(const QString& plain) const {
@@ -82,7 +81,7 @@ std::optional<DateReading> FullDateReader::ReadFromYear(const QString& plain) co
   if (!match.hasMatch()) return std::nullopt;
   const QDate date(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt());
   if (date.isValid()) return DateReading{.date = date};
-  return DateReading{.refusal = QCoreApplication::translate("ferrowind", "There is no day %1.").arg(plain)};
+  return DateReading{.refusal = Translated("There is no day %1.").arg(plain)};
 }
 
 std::optional<DateReading> FullDateReader::ReadUpToYear(const QString& plain) const {

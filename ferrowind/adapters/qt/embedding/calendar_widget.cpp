@@ -7,12 +7,15 @@
 
 #include "ferrowind/adapters/qt/controls/element.h"
 #include "ferrowind/adapters/qt/look/tree_images.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 #include "ferrowind/adapters/qt/values/twips.h"
+#include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
 namespace {
 
 constexpr int kSide = 16;
+constexpr const char* kNoPlatform = "The calendar widget was given no platform";
 
 /// The window of the form of that name that is none of those; null without one.
 QWidget* WindowOfForm(const QString& form_name, const QWidgetList& but_none_of) {
@@ -43,19 +46,34 @@ class CalendarWidget::WidgetsCalendar : public Calendar {
   QPointer<QWidget> window_;
 };
 
-CalendarWidget::CalendarWidget(const platform::Platform& platform, QWidget* parent) : QWidget(parent) {
-  setAccessibleName(QStringLiteral("Ferrowind calendar"));
-  setAccessibleDescription(QStringLiteral("Holiday calendars of currencies"));
+CalendarWidget::CalendarWidget(QWidget* parent) : QWidget(parent) {
+  setAccessibleName(Translated("Ferrowind calendar"));
+  setAccessibleDescription(Translated("Holiday calendars of currencies"));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   resize(kSide, kSide);
-  calendar_ = std::make_unique<WidgetsCalendar>(platform, static_cast<platform::ControlSite*>(this));
+}
+
+CalendarWidget::CalendarWidget(const platform::Platform& platform, QWidget* parent) : CalendarWidget(parent) {
+  SetPlatform(platform);
 }
 
 CalendarWidget::~CalendarWidget() = default;
 
-Calendar& CalendarWidget::Control() const { return *calendar_; }
+void CalendarWidget::SetPlatform(const platform::Platform& platform) {
+  if (calendar_) throw platform::InvalidArgument();
+  calendar_ = std::make_unique<WidgetsCalendar>(platform, static_cast<platform::ControlSite*>(this));
+}
+
+Calendar& CalendarWidget::Control() const {
+  if (!calendar_) throw platform::Failure(platform::failure_number::kObjectNotSet, kNoPlatform);
+  return *calendar_;
+}
 
 void CalendarWidget::ShowInFront() {
+  if (!calendar_) {
+    qWarning("%s", kNoPlatform);
+    return;
+  }
   calendar_->Show();
   QWidget* window = calendar_->Window();
   if (window == nullptr || !window->isVisible()) return;

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "ferrowind/adapters/qt/controls/captioned.h"
+#include "ferrowind/adapters/qt/controls/length_note.h"
 #include "ferrowind/adapters/qt/controls/select_on_focus.h"
 #include "ferrowind/adapters/qt/forms/dialog_keys.h"
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
@@ -55,6 +56,12 @@ void ApplyTyping(FormWindow& window, const platform::ControlDesign& design) {
   window.SetTypingTarget(*line);
 }
 
+void ApplyLongestText(const FormWindow& window, const platform::ControlDesign& design) {
+  auto* line = window.findChild<QLineEdit*>(ToQt(design.name));
+  if (line != nullptr && design.longest_text > 0)
+    new LengthNote(*line, static_cast<qsizetype>(design.longest_text));
+}
+
 void ApplyMnemonics(const FormControls& controls) {
   QSet<QChar> taken;
   for (const auto& made : controls) {
@@ -88,6 +95,7 @@ void ApplyDesign(FormWindow& window, const platform::FormDesign& design, const F
     ApplyText(window, design.controls[i].text, *controls[i]);
     ApplyButtonRole(window, design.controls[i], has_default);
     ApplyTyping(window, design.controls[i]);
+    ApplyLongestText(window, design.controls[i]);
     if (auto* grid = dynamic_cast<QtGrid*>(controls[i].get()))
       grid->SetMarksRowRanges(design.controls[i].marks_row_ranges);
     if (auto* table = dynamic_cast<QtTable*>(controls[i].get())) table->ApplyDesign(design.controls[i]);

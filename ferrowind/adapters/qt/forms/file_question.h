@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "ferrowind/platform/toolkit/toolkit.h"
@@ -12,6 +13,11 @@ namespace ferrowind::qt {
 /// empty.
 [[nodiscard]] std::optional<QString> AskForFileToSave(const QString& title, const QString& suggested_name,
                                                       const std::vector<platform::FileKind>& kinds,
+                                                      const QString& folder);
+
+/// The question of `Toolkit::ChooseFileToOpen`, which begins there, too.
+[[nodiscard]] std::optional<QString> AskForFileToOpen(const QString& title, const QString& caption,
+                                                      const std::vector<std::string>& suffixes,
                                                       const QString& folder);
 
 }  // namespace ferrowind::qt

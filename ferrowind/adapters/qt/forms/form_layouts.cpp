@@ -8,8 +8,10 @@
 #include "ui_fmCloseDays.h"
 #include "ui_fmEnterHolidays.h"
 #include "ui_fmExceptMess.h"
+#include "ui_fmExport.h"
 #include "ui_fmGoToDate.h"
 #include "ui_fmHistory.h"
+#include "ui_fmImport.h"
 #include "ui_fmMessage.h"
 #include "ui_fmProgress.h"
 #include "ui_fmReadiness.h"
@@ -38,8 +40,10 @@ FormLayouts ComponentLayouts() {
   layouts.AddGenerated<Ui::fmCloseDays>("fmCloseDays");
   layouts.AddGenerated<Ui::fmEnterHolidays>("fmEnterHolidays");
   layouts.AddGenerated<Ui::fmExceptMess>("fmExceptMess");
+  layouts.AddGenerated<Ui::fmExport>("fmExport");
   layouts.AddGenerated<Ui::fmGoToDate>("fmGoToDate");
   layouts.AddGenerated<Ui::fmHistory>("fmHistory");
+  layouts.AddGenerated<Ui::fmImport>("fmImport");
   layouts.AddGenerated<Ui::fmMessage>("fmMessage");
   layouts.AddGenerated<Ui::fmProgress>("fmProgress");
   layouts.AddGenerated<Ui::fmReadiness>("fmReadiness");

@@ -5,13 +5,15 @@
 #include <map>
 #include <string>
 
+#include "ferrowind/export.h"
+
 namespace ferrowind::qt {
 
 /// The layouts that a toolkit makes its forms from, by form name.
 ///
 /// A layout fills a window with widgets that bear the form's control names as object names and fit the
 /// controls' kinds; its texts are only there for the designer.
-class FormLayouts {
+class FERROWIND_EXPORT FormLayouts {
  public:
   using Builder = std::function<void(QDialog& window)>;
 
@@ -31,6 +33,6 @@ class FormLayouts {
 };
 
 /// The layouts of the component's own forms.
-[[nodiscard]] FormLayouts ComponentLayouts();
+[[nodiscard]] FERROWIND_EXPORT FormLayouts ComponentLayouts();
 
 }  // namespace ferrowind::qt

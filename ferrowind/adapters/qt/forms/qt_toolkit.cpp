@@ -112,9 +112,18 @@ std::optional<std::string> QtToolkit::ChooseFileToSave(const std::string& title,
                                                        const std::string& suggested_name,
                                                        const std::vector<platform::FileKind>& kinds) {
   const auto path = AskForFileToSave(ToQt(title), ToQt(suggested_name), kinds, last_folder_);
-  if (!path) return std::nullopt;
-  last_folder_ = QFileInfo(*path).absolutePath();
-  return FromQt(*path);
+  return Kept(path);
+}
+
+std::optional<std::string> QtToolkit::ChooseFileToOpen(const std::string& title, const std::string& caption,
+                                                       const std::vector<std::string>& suffixes) {
+  return Kept(AskForFileToOpen(ToQt(title), ToQt(caption), suffixes, last_folder_));
+}
+
+std::optional<std::string> QtToolkit::Kept(const std::optional<QString>& chosen) {
+  if (!chosen) return std::nullopt;
+  last_folder_ = QFileInfo(*chosen).absolutePath();
+  return FromQt(*chosen);
 }
 
 void QtToolkit::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ferrowind/adapters/qt/forms/form_layouts.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 
 namespace ferrowind::qt {
@@ -21,7 +22,7 @@ class UpdateHold;
 /// When the application is asked to quit, the modal forms and messages on show are interrupted, also where
 /// another window then refuses to close. At the end of the desktop's session its forms on show are closed by
 /// `CloseForms`; one that stays open holds the end back where the desktop allows that.
-class QtToolkit : public platform::Toolkit {
+class FERROWIND_EXPORT QtToolkit : public platform::Toolkit {
  public:
   /// `layouts` may have more forms than the component's own.
   explicit QtToolkit(FormLayouts layouts = ComponentLayouts());
@@ -39,6 +40,9 @@ class QtToolkit : public platform::Toolkit {
   [[nodiscard]] std::optional<std::string> ChooseFileToSave(
       const std::string& title, const std::string& suggested_name,
       const std::vector<platform::FileKind>& kinds) override;
+  [[nodiscard]] std::optional<std::string> ChooseFileToOpen(
+      const std::string& title, const std::string& caption,
+      const std::vector<std::string>& suffixes) override;
   void SetClipboardText(const std::string& text) override;
   void ProcessPendingEvents() override;
   void Beep() override;
@@ -54,13 +58,16 @@ class QtToolkit : public platform::Toolkit {
   [[nodiscard]] bool CloseForms();
 
  private:
+  /// The answer to a question for a file, whose folder is where the next question begins.
+  [[nodiscard]] std::optional<std::string> Kept(const std::optional<QString>& chosen);
+
   FormLayouts layouts_;
   std::map<std::string, QPointer<QWidget>> places_;
   std::vector<std::weak_ptr<QtForm>> forms_;
   QPointer<QWidget> locked_;
   std::unique_ptr<UpdateHold> hold_;
   std::unique_ptr<QObject> quit_watch_;
-  /// Where the operator saved last; empty before that.
+  /// Where the operator chose a file last; empty before that.
   QString last_folder_;
   QObject context_;
 };

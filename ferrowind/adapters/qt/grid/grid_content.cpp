@@ -19,6 +19,7 @@ GridContent::GridContent(const std::string& grid_name, Listener listener)
                   listener_.cells_changed();
                 },
                 [this](QtGridColumn& column) { listener_.column_visibility_changed(column); },
+                [this] { listener_.captions_changed(); },
                 [this](const QtGridColumn& column) { return sort_keys_.OrderOf(column.Index()); }}),
       cells_(grid_name, columns_),
       sort_keys_([this] { return columns_.Count(); }, [this] { listener_.keys_changed(); }),

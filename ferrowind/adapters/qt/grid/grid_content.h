@@ -32,6 +32,7 @@ class GridContent {
     std::function<void(QtGridColumn& column)> column_visibility_changed;
     std::function<void()> cells_changed;
     std::function<void()> keys_changed;
+    std::function<void()> captions_changed;
   };
 
   GridContent(const std::string& grid_name, Listener listener);

@@ -8,6 +8,7 @@
 #include <QStyle>
 
 #include "ferrowind/adapters/qt/grid/grid_view.h"
+#include "ferrowind/adapters/qt/look/text_line.h"
 #include "ferrowind/adapters/qt/look/text_tip.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 
@@ -150,29 +151,35 @@ void GridHeader::paintSection(QPainter* painter, const QRect& area, int column) 
   painter->setClipRect(area);
   painter->fillRect(area, column == pressed_column_ ? colors.header_pressed : colors.header);
   painter->fillRect(QRect(area.left(), area.bottom(), area.width(), 1), colors.header_line);
-  painter->fillRect(QRect(area.right(), area.top() + 4, 1, area.height() - 8), colors.header_line);
+  const bool is_mirrored = isRightToLeft();
+  const int line = is_mirrored ? area.left() : area.right();
+  painter->fillRect(QRect(line, area.top() + 4, 1, area.height() - 8), colors.header_line);
   QRect text_area = area.adjusted(kPadding, 0, -kPadding, -1);
 
   const GridContent& content = grid->Content();
   const auto index = static_cast<std::int16_t>(column + 1);
   const std::int32_t order = content.SortKeys().OrderOf(index);
   if (order != platform::kSortNone) {
-    const QRectF mark(text_area.right() - kSortMarkSize, text_area.center().y() - kSortMarkSize / 2.0 + 0.5,
-                      kSortMarkSize, kSortMarkSize);
+    const int mark_left = is_mirrored ? text_area.left() : text_area.right() - kSortMarkSize;
+    const QRectF mark(mark_left, text_area.center().y() - kSortMarkSize / 2.0 + 0.5, kSortMarkSize,
+                      kSortMarkSize);
     PaintTriangle(*painter, mark, order > 0 ? Pointing::kUp : Pointing::kDown, colors.accent);
     if (const auto [place, count] = PlaceInSort(content, index); count > 1) {
       painter->setFont(SmallFont(font()));
       painter->setPen(colors.muted);
-      painter->drawText(text_area.adjusted(0, 0, -kSortMarkSpace, 0), Qt::AlignRight | Qt::AlignVCenter,
-                        QString::number(place));
+      const QRect beside = is_mirrored ? text_area.adjusted(kSortMarkSpace, 0, 0, 0)
+                                       : text_area.adjusted(0, 0, -kSortMarkSpace, 0);
+      DrawTextLine(*painter, beside, Qt::AlignTrailing | Qt::AlignVCenter, QString::number(place));
     }
-    text_area.setRight(text_area.right() - SortMarkWidth(column));
+    const int width = SortMarkWidth(column);
+    text_area.adjust(is_mirrored ? width : 0, 0, is_mirrored ? 0 : -width, 0);
   }
   painter->setFont(font());
   painter->setPen(isEnabled() ? palette().color(QPalette::ButtonText) : colors.muted);
   const QString caption = ToQt(content.Columns()[column + 1].Caption());
-  painter->drawText(text_area, grid->headerData(column, orientation(), Qt::TextAlignmentRole).toInt(),
-                    fontMetrics().elidedText(caption, Qt::ElideRight, text_area.width()));
+  DrawTextLine(*painter, text_area,
+               Qt::Alignment(grid->headerData(column, orientation(), Qt::TextAlignmentRole).toInt()),
+               fontMetrics().elidedText(caption, Qt::ElideRight, text_area.width()));
   painter->restore();
 }
 

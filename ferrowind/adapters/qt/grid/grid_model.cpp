@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/qt/grid/grid_model.h"
 
 #include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 
@@ -52,8 +53,9 @@ QVariant GridModel::GroupData(GroupId group, const QModelIndex& index, int role)
     case Qt::AccessibleTextRole:
       return GroupText(group);
     case Qt::AccessibleDescriptionRole: {
-      const QString state = content_.Rows().Groups().IsExpanded(group) ? tr("expanded") : tr("collapsed");
-      return tr("Group, level %1, %2").arg(group.level + 1).arg(state);
+      const QString state =
+          content_.Rows().Groups().IsExpanded(group) ? Translated("expanded") : Translated("collapsed");
+      return Translated("Group, level %1, %2").arg(group.level + 1).arg(state);
     }
     default:
       return {};
@@ -77,8 +79,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
       return AlignmentOf(content_.Cells().IsNumberColumn(static_cast<std::int16_t>(section + 1)));
     case Qt::AccessibleDescriptionRole: {
       const std::int32_t order = column.SortOrder();
-      if (order == platform::kSortAscending) return tr("sorted ascending");
-      if (order == platform::kSortDescending) return tr("sorted descending");
+      if (order == platform::kSortAscending) return Translated("sorted ascending");
+      if (order == platform::kSortDescending) return Translated("sorted descending");
       return {};
     }
     default:

@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
 #include "ferrowind/adapters/qt/grid/group_chip.h"
 #include "ferrowind/adapters/qt/look/blend.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 
@@ -21,8 +22,8 @@ constexpr int kGap = 6;
 GroupByBox::GroupByBox(QWidget* parent)
     : QFrame(parent), layout_(new QHBoxLayout(this)), hint_(new QLabel(this)) {
   setObjectName(QStringLiteral("groupByBox"));
-  setAccessibleName(tr("Group by"));
-  hint_->setText(tr("Drag a column header here to group by that column"));
+  setAccessibleName(Translated("Group by"));
+  hint_->setText(Translated("Drag a column header here to group by that column"));
   hint_->setForegroundRole(QPalette::PlaceholderText);
   layout_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   layout_->setSpacing(kGap);

@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
 #include "ferrowind/adapters/qt/grid/row_painter.h"
 #include "ferrowind/adapters/qt/look/blend.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 
@@ -33,9 +34,9 @@ void GroupChip::Show(const GroupChipText& text, int position) {
   position_ = position;
   setText(text.caption);
   setObjectName(QStringLiteral("groupChip%1").arg(position));
-  setAccessibleName(tr("Grouped by %1").arg(text.caption));
-  setAccessibleDescription(text.is_descending ? tr("descending") : tr("ascending"));
-  setToolTip(tr("Click to turn the order, drag to move, Delete to remove"));
+  setAccessibleName(Translated("Grouped by %1").arg(text.caption));
+  setAccessibleDescription(text.is_descending ? Translated("descending") : Translated("ascending"));
+  setToolTip(Translated("Click to turn the order, drag to move, Delete to remove"));
   updateGeometry();
   update();
 }

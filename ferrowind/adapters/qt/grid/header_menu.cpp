@@ -1,19 +1,13 @@
 #include "ferrowind/adapters/qt/grid/header_menu.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QMenu>
 
 #include "ferrowind/adapters/qt/grid/grid_content.h"
 #include "ferrowind/adapters/qt/grid/grid_operations.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
-
-namespace {
-
-QString Text(const char* text) { return QCoreApplication::translate("HeaderMenu", text); }
-
-}  // namespace
 
 QMenu* MakeHeaderMenu(QWidget* parent, const QObject* context, const GridContent& content,
                       GridOperations& operations, int column, const HeaderMenuActions& actions) {
@@ -36,22 +30,23 @@ QMenu* MakeHeaderMenu(QWidget* parent, const QObject* context, const GridContent
     action->setCheckable(true);
     action->setChecked(has_column && content.SortKeys().OrderOf(index) == order);
   };
-  add_order("sortAscending", Text("Sort &Ascending"), platform::kSortAscending);
-  add_order("sortDescending", Text("Sort &Descending"), platform::kSortDescending);
-  add("clearSorting", Text("&Clear Sorting"),
+  add_order("sortAscending", Translated("Sort &Ascending"), platform::kSortAscending);
+  add_order("sortDescending", Translated("Sort &Descending"), platform::kSortDescending);
+  add("clearSorting", Translated("&Clear Sorting"),
       has_column && content.SortKeys().OrderOf(index) != platform::kSortNone,
       [&operations, index] { operations.Sort(index, platform::kSortNone); });
   menu->addSeparator();
   const std::int32_t position = has_column ? content.GroupKeys().PositionOf(index) : 0;
-  add("groupByColumn", Text("&Group by This Column"), operations.CanGroupBy(index) && position == 0,
+  add("groupByColumn", Translated("&Group by This Column"), operations.CanGroupBy(index) && position == 0,
       [&operations, index] { operations.GroupBy(index, 0); });
-  add("ungroup", Text("&Ungroup"), position > 0, [&operations, position] { operations.Ungroup(position); });
+  add("ungroup", Translated("&Ungroup"), position > 0,
+      [&operations, position] { operations.Ungroup(position); });
   menu->addSeparator();
-  add("expandAll", Text("&Expand All"), has_groups, actions.expand_all);
-  add("collapseAll", Text("C&ollapse All"), has_groups, actions.collapse_all);
+  add("expandAll", Translated("&Expand All"), has_groups, actions.expand_all);
+  add("collapseAll", Translated("C&ollapse All"), has_groups, actions.collapse_all);
   menu->addSeparator();
   const bool is_visible = actions.is_group_panel_visible;
-  QAction* panel = add("showGroupPanel", Text("Show Group &Panel"), true,
+  QAction* panel = add("showGroupPanel", Translated("Show Group &Panel"), true,
                        [show = actions.show_group_panel, is_visible] { show(!is_visible); });
   panel->setCheckable(true);
   panel->setChecked(is_visible);

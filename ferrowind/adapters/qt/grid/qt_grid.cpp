@@ -38,7 +38,7 @@ QtGrid::QtGrid(GridWidget& widget)
                           widths_are_due_ = true;
                           model_->CellsChanged();
                         },
-                        [this] { is_stale_ = true; }}),
+                        [this] { is_stale_ = true; }, [this] { ShowCaptions(); }}),
       operations_(content_, {[this] { Refresh(false); }, [this] { Raise(before_group_change_); },
                              [this] { RefreshAfterGroupChange(); }}),
       context_(std::make_unique<QObject>()),
@@ -78,6 +78,15 @@ platform::GridColumn& QtGrid::ColumnAt(std::int32_t index) { return content_.Col
 void QtGrid::ShowColumnVisibility(const QtGridColumn& column) {
   header_.setSectionHidden(column.Index() - 1, !column.Visible());
   widths_are_due_ = true;
+  if (column.Visible()) FitColumns();
+}
+
+void QtGrid::ShowCaptions() {
+  ShowKeys();
+  // Group rows name their column.
+  model_->CellsChanged();
+  widths_are_due_ = true;
+  FitColumns();
 }
 
 void QtGrid::FitColumns() {

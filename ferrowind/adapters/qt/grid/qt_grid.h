@@ -103,6 +103,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   void RearrangeRows(const std::function<void()>& change);
   void ShowKeys();
   void ShowColumnVisibility(const QtGridColumn& column);
+  void ShowCaptions();
   void FitColumns();
   void NoteCurrentRow();
   void RefreshAfterGroupChange();

@@ -40,6 +40,12 @@ std::vector<std::string> QtGridValueList::Texts() const {
   return texts;
 }
 
+void QtGridColumn::SetCaption(const std::string& caption) {
+  if (caption == caption_) return;
+  caption_ = caption;
+  listener_.caption_changed();
+}
+
 void QtGridColumn::SetBoundField(const std::string& field) {
   if (field == bound_field_) return;
   bound_field_ = field;

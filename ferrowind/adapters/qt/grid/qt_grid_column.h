@@ -38,6 +38,7 @@ class QtGridColumn final : public platform::GridColumn {
   struct Listener {
     std::function<void(QtGridColumn& column)> cells_changed;
     std::function<void(QtGridColumn& column)> visibility_changed;
+    std::function<void()> caption_changed;
     std::function<std::int32_t(const QtGridColumn& column)> sort_order;
   };
 
@@ -46,6 +47,7 @@ class QtGridColumn final : public platform::GridColumn {
 
   [[nodiscard]] const std::string& Key() const override { return key_; }
   [[nodiscard]] std::string Caption() const override { return caption_; }
+  void SetCaption(const std::string& caption) override;
   [[nodiscard]] std::int16_t Index() const override { return index_; }
   [[nodiscard]] std::string BoundField() const override { return bound_field_; }
   void SetBoundField(const std::string& field) override;

@@ -181,7 +181,7 @@ QModelIndex UniformTableView::moveCursor(CursorAction action, Qt::KeyboardModifi
   const QModelIndex current = currentIndex();
   if (!current.isValid()) return model()->index(0, first_column);
 
-  const bool is_to_end_of_rows = modifiers.testFlag(Qt::ControlModifier);
+  const bool is_to_end_of_rows = ChoosesRows() || modifiers.testFlag(Qt::ControlModifier);
   const int step = isRightToLeft() ? -1 : 1;
   int row = current.row();
   int column = current.column();
@@ -212,11 +212,11 @@ QModelIndex UniformTableView::moveCursor(CursorAction action, Qt::KeyboardModifi
       break;
     case MoveHome:
       if (is_to_end_of_rows) row = 0;
-      column = first_column;
+      if (!ChoosesRows()) column = first_column;
       break;
     case MoveEnd:
       if (is_to_end_of_rows) row = rows - 1;
-      column = last_column;
+      if (!ChoosesRows()) column = last_column;
       break;
   }
   return model()->index(std::clamp(row, 0, rows - 1), column);

@@ -9,7 +9,8 @@ namespace ferrowind::qt {
 ///
 /// A move by key selects the row that it goes to, with Shift all rows on the way. With multiple selection
 /// Ctrl and an arrow or page key move the current row alone; Ctrl+Home and Ctrl+End go to the first and the
-/// last row and select it. A click beside the rows changes nothing.
+/// last row and select it; so do Home and End where rows are chosen and not cells. A click beside the rows
+/// changes nothing.
 ///
 /// `QTableView` keeps an entry for each row in its vertical header, so that inserting rows and finding their
 /// places takes time and memory for all of them. Here a row's place is a multiplication: expanding a group
@@ -47,6 +48,8 @@ class UniformTableView : public QTableView {
   void scrollContentsBy(int dx, int dy) override;
   void rowsInserted(const QModelIndex& parent, int first, int last) override;
   [[nodiscard]] int verticalOffset() const override;
+  /// Whether Home and End go to the first and the last row without Ctrl, too: no cell of a row is chosen.
+  [[nodiscard]] virtual bool ChoosesRows() const { return false; }
   [[nodiscard]] bool isIndexHidden(const QModelIndex& index) const override;
   [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,

@@ -27,6 +27,9 @@ void AddSaveArrow(QPainterPath& path) {
   AddLine(path, {{14, 21.5}, {21, 21.5}});
 }
 
+/// Open above, for what is put in or taken out.
+void AddTray(QPainterPath& path) { AddLine(path, {{4, 14.5}, {4, 20}, {20, 20}, {20, 14.5}}); }
+
 /// A small tree of a parent and two children, leaving room at the lower right.
 void AddBranches(QPainterPath& path) {
   path.addRoundedRect(3, 3, 8, 5, 1.2, 1.2);
@@ -273,6 +276,22 @@ Glyph UndoGlyph() {
   glyph.lines.lineTo(14, 9);
   glyph.lines.cubicTo(21.8, 9, 21.8, 19.5, 14, 19.5);
   glyph.lines.lineTo(8, 19.5);
+  return glyph;
+}
+
+Glyph ImportGlyph() {
+  Glyph glyph;
+  AddTray(glyph.lines);
+  AddLine(glyph.accent_lines, {{12, 3.5}, {12, 15}});
+  AddLine(glyph.accent_lines, {{7.5, 10.5}, {12, 15}, {16.5, 10.5}});
+  return glyph;
+}
+
+Glyph ExportGlyph() {
+  Glyph glyph;
+  AddTray(glyph.lines);
+  AddLine(glyph.accent_lines, {{12, 15}, {12, 3.5}});
+  AddLine(glyph.accent_lines, {{7.5, 8}, {12, 3.5}, {16.5, 8}});
   return glyph;
 }
 

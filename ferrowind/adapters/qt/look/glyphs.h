@@ -29,6 +29,8 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph SavePictureGlyph();
 [[nodiscard]] Glyph HistoryGlyph();
 [[nodiscard]] Glyph UndoGlyph();
+[[nodiscard]] Glyph ImportGlyph();
+[[nodiscard]] Glyph ExportGlyph();
 [[nodiscard]] Glyph FindGlyph();
 [[nodiscard]] Glyph GoToDateGlyph();
 [[nodiscard]] Glyph CurrencyGlyph();

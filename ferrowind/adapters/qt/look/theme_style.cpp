@@ -96,6 +96,17 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   }
 }
 
+void ThemeStyle::drawItemText(QPainter* painter, const QRect& area, int flags, const QPalette& palette,
+                              bool enabled, const QString& text, QPalette::ColorRole role) const {
+  const Qt::LayoutDirection direction = painter->layoutDirection();
+  const auto sides = QStyle::visualAlignment(direction, Qt::Alignment(flags & Qt::AlignHorizontal_Mask));
+  const int others = flags & ~static_cast<int>(Qt::AlignHorizontal_Mask);
+  painter->setLayoutDirection(Qt::LayoutDirectionAuto);
+  QProxyStyle::drawItemText(painter, area, others | static_cast<int>(sides | Qt::AlignAbsolute), palette,
+                            enabled, text, role);
+  painter->setLayoutDirection(direction);
+}
+
 void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
   if (element != CE_ShapedFrame || !IsTextToRead(widget))

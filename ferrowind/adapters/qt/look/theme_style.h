@@ -14,6 +14,9 @@ class ThemeStyle : public QProxyStyle {
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget = nullptr) const override;
+  /// In the direction of the text itself, as `DrawTextLine`.
+  void drawItemText(QPainter* painter, const QRect& area, int flags, const QPalette& palette, bool enabled,
+                    const QString& text, QPalette::ColorRole role) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
   [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,

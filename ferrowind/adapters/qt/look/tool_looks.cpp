@@ -46,6 +46,8 @@ constexpr std::array kLooks = {
     Entry{"ID_History", HistoryGlyph, ""},
     Entry{"ID_DayHistory", HistoryGlyph, ""},
     Entry{"ID_Undo", UndoGlyph, ""},
+    Entry{"ID_Import", ImportGlyph, ""},
+    Entry{"ID_Export", ExportGlyph, ""},
     Entry{"ID_Find", FindGlyph, ""},
     Entry{"ID_GoToDate", GoToDateGlyph, ""},
     Entry{"ID_Why", QuestionGlyph, ""},

@@ -10,6 +10,7 @@
 #include "ferrowind/adapters/qt/controls/modal_show.h"
 #include "ferrowind/adapters/qt/services/application_end.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
@@ -28,7 +29,7 @@ void SetTexts(QMessageBox& box, const Message& message) {
 
 void AddCopyButton(QMessageBox& box, const QString& text) {
   const auto copy_text = [text] { QApplication::clipboard()->setText(text); };
-  QPushButton* copy = box.addButton(QMessageBox::tr("&Copy"), QMessageBox::ActionRole);
+  QPushButton* copy = box.addButton(Translated("&Copy"), QMessageBox::ActionRole);
   copy->setObjectName(QStringLiteral("cmdCopy"));
   copy->setAutoDefault(false);
   // The box's own connection would answer the message.

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <QDate>
-
-#include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/clock.h"
 
 namespace ferrowind::qt {
 
-class QtClock : public platform::Clock {
+/// The clock of the machine, in its time zone.
+class FERROWIND_EXPORT QtClock : public platform::Clock {
  public:
-  [[nodiscard]] platform::Date Today() const override { return FromQt(QDate::currentDate()); }
+  [[nodiscard]] platform::Date Today() const override;
 };
 
 }  // namespace ferrowind::qt

@@ -1,11 +1,17 @@
 #include "ferrowind/adapters/qt/services/qt_locale.h"
 
+#include <utility>
+
+#include "ferrowind/adapters/qt/dates/full_date_reader.h"
 #include "ferrowind/adapters/qt/dates/long_date.h"
 #include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
+
+QtLocale::QtLocale(QLocale locale)
+    : locale_(std::move(locale)), dates_(std::make_shared<FullDateReader>(locale_)) {}
 
 std::string QtLocale::MonthName(int month) const {
   if (month < 1 || month > 12) throw platform::InvalidArgument();
@@ -33,7 +39,7 @@ std::string QtLocale::LongDayText(const platform::Date& date) const {
 }
 
 platform::DateReading QtLocale::ReadDate(const std::string& text, int year) const {
-  const DateReading read = dates_.Read(ToQt(text), year);
+  const DateReading read = dates_->Read(ToQt(text), year);
   if (!read.date.isValid()) return {.refusal = FromQt(read.refusal)};
   return {.date = FromQt(read.date)};
 }

@@ -1,16 +1,20 @@
 #pragma once
 
 #include <QLocale>
+#include <memory>
+#include <string>
 
-#include "ferrowind/adapters/qt/dates/full_date_reader.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/locale.h"
 
 namespace ferrowind::qt {
 
+class FullDateReader;
+
 /// Names and dates in the language of the system, or of any other Qt locale.
-class QtLocale : public platform::Locale {
+class FERROWIND_EXPORT QtLocale : public platform::Locale {
  public:
-  explicit QtLocale(QLocale locale = QLocale::system()) : locale_(std::move(locale)), dates_(locale_) {}
+  explicit QtLocale(QLocale locale = QLocale::system());
 
   [[nodiscard]] std::string MonthName(int month) const override;
   [[nodiscard]] std::string WeekdayName(int weekday) const override;
@@ -21,7 +25,8 @@ class QtLocale : public platform::Locale {
 
  private:
   QLocale locale_;
-  FullDateReader dates_;
+  /// Never null; copies share it.
+  std::shared_ptr<const FullDateReader> dates_;
 };
 
 }  // namespace ferrowind::qt

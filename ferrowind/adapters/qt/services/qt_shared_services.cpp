@@ -103,27 +103,31 @@ void QtSharedServices::SortGridByColumn(std::int32_t sort_order, platform::Grid&
   grid.Refresh(false);
 }
 
+Value QtSharedServices::StoredLayout(const std::string& section) {
+  return ReadSetting(section, kLayoutName, Value(), Value());
+}
+
 void QtSharedServices::SaveGridLayout(platform::Grid& grid, const std::string& section) {
   auto* qt_grid = dynamic_cast<QtGrid*>(&grid);
   if (qt_grid == nullptr) return;
   const std::string layout = qt_grid->SaveLayout();
   if (layout.empty()) return;
   const bool is_known = qt_grid->LayoutSections().contains(PathOf(section));
-  if (!is_known && settings_.Read(section, kLayoutName)) {
+  if (!is_known && !StoredLayout(section).IsEmpty()) {
     TraceMessage("The layout of the grid " + grid.Name() + " in the settings was not loaded; kept");
     return;
   }
-  settings_.Write(section, kLayoutName, layout);
+  WriteSetting(section, kLayoutName, layout);
   qt_grid->LayoutSections().insert(PathOf(section));
 }
 
 void QtSharedServices::LoadGridLayout(platform::Grid& grid, const std::string& section) {
   auto* qt_grid = dynamic_cast<QtGrid*>(&grid);
-  const auto stored = settings_.Read(section, kLayoutName);
   if (qt_grid == nullptr) return;
+  const Value stored = StoredLayout(section);
   qt_grid->LayoutSections().insert(PathOf(section));
-  if (!stored) return;
-  const auto* layout = stored->If<std::string>();
+  if (stored.IsEmpty()) return;
+  const auto* layout = stored.If<std::string>();
   if (layout == nullptr || !qt_grid->RestoreLayout(*layout)) {
     TraceMessage("The layout of the grid " + grid.Name() +
                  " in the settings is damaged or not the grid's; ignored");

@@ -5,6 +5,7 @@
 
 #include "ferrowind/adapters/qt/services/settings_store.h"
 #include "ferrowind/adapters/services/trace_sink.h"
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/shared_services.h"
 
 namespace ferrowind::qt {
@@ -14,11 +15,12 @@ namespace ferrowind::qt {
 /// Trace goes to the logging category "ferrowind.trace", which is off by default, and to the host's sink, if
 /// any; messages and error reports are traced there too. No password of a connection string gets into either,
 /// nor on the screen. Grid layouts and copying need the grids of this toolkit; for another grid they do
-/// nothing.
-class QtSharedServices : public platform::SharedServices {
+/// nothing. Layouts are settings like others: a class that overrides `ReadSetting` and `WriteSetting` keeps
+/// them, too.
+class FERROWIND_EXPORT QtSharedServices : public platform::SharedServices {
  public:
   /// `trace` may be null.
-  explicit QtSharedServices(SettingsStore settings = SettingsStore(),
+  explicit QtSharedServices(SettingsStore settings = SettingsStore::OfProgram(),
                             std::shared_ptr<TraceSink> trace = nullptr);
 
   [[nodiscard]] std::string SettingsRoot() override;
@@ -38,6 +40,9 @@ class QtSharedServices : public platform::SharedServices {
   void CopyGridRows(platform::Grid& grid, bool with_headers) override;
 
  private:
+  /// Empty when there is none.
+  [[nodiscard]] platform::Value StoredLayout(const std::string& section);
+
   SettingsStore settings_;
   std::shared_ptr<TraceSink> trace_;
 };

@@ -4,13 +4,9 @@
 #include <limits>
 
 #include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
-namespace {
-
-constexpr const char* kContext = "ferrowind";
-
-}  // namespace
 
 std::optional<std::string> QtWords::Translate(const std::string& text,
                                               std::optional<std::int64_t> number) const {
@@ -18,7 +14,7 @@ std::optional<std::string> QtWords::Translate(const std::string& text,
   // Qt takes a number below 0 for none, and no greater one than an int holds.
   if (number && (*number < 0 || *number > std::numeric_limits<int>::max())) return std::nullopt;
   const int plural = number ? static_cast<int>(*number) : kNoNumber;
-  const QString translated = QCoreApplication::translate(kContext, text.c_str(), nullptr, plural);
+  const QString translated = QCoreApplication::translate(kTextContext, text.c_str(), nullptr, plural);
   // Without a translation the text comes back, with the number in it.
   QString unchanged = ToQt(text);
   if (number) unchanged.replace(QLatin1String("%n"), QString::number(plural));

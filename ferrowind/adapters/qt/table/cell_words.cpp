@@ -1,14 +1,11 @@
 #include "ferrowind/adapters/qt/table/cell_words.h"
 
-#include <QCoreApplication>
-
 #include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 
-QString MarkWord(platform::CellMark mark) {
-  return QCoreApplication::translate("ferrowind", platform::WordOf(mark));
-}
+QString MarkWord(platform::CellMark mark) { return Translated(platform::WordOf(mark)); }
 
 QString SpokenText(const platform::TableCell& cell) {
   const QString text = ToQt(cell.text);

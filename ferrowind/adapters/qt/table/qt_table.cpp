@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QItemSelection>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -13,14 +12,13 @@
 #include "ferrowind/adapters/qt/table/cell_words.h"
 #include "ferrowind/adapters/qt/table/table_header.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
+#include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 
 namespace {
 
-QString SortText(const QString& caption) {
-  return MarkedCaption(QCoreApplication::translate("ferrowind", "Sort by %1").arg(caption));
-}
+QString SortText(const QString& caption) { return MarkedCaption(Translated("Sort by %1").arg(caption)); }
 
 std::string WordOfMark(platform::CellMark mark) { return FromQt(MarkWord(mark)); }
 
@@ -66,6 +64,7 @@ void QtTable::SetColumns(const std::vector<platform::TableColumn>& columns) {
 void QtTable::SetRows(const std::vector<platform::TableRow>& rows) {
   const bool was_empty = content_.RowCount() == 0;
   Change([&] { content_.SetRows(rows); });
+  view_.TellWhetherEmpty();
   if (was_empty) {
     view_.FitColumns();
   } else {

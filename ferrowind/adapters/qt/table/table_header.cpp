@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "ferrowind/adapters/qt/grid/row_painter.h"
+#include "ferrowind/adapters/qt/look/text_line.h"
 #include "ferrowind/adapters/qt/look/text_tip.h"
 #include "ferrowind/adapters/qt/table/table_view.h"
 
@@ -116,9 +117,8 @@ void TableHeader::paintSection(QPainter* painter, const QRect& area, int column)
   }
   painter->setPen(colors.text);
   const auto alignment = view_.Model()->Content().Columns()[static_cast<std::size_t>(column)].alignment;
-  const auto sides = QStyle::visualAlignment(layoutDirection(), AlignmentOf(alignment));
-  painter->drawText(room, static_cast<int>(sides | Qt::AlignVCenter) | Qt::TextSingleLine,
-                    fontMetrics().elidedText(CaptionOf(column), Qt::ElideRight, room.width()));
+  DrawTextLine(*painter, room, AlignmentOf(alignment) | Qt::AlignVCenter,
+               fontMetrics().elidedText(CaptionOf(column), Qt::ElideRight, room.width()));
 }
 
 }  // namespace ferrowind::qt

@@ -6,8 +6,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "ferrowind/adapters/qt/look/flat_scroll_bar.h"
@@ -21,11 +23,6 @@ namespace ferrowind::qt {
 namespace {
 
 constexpr int kWidestFit = 320;
-/// Beside columns that stretch, which hold what there is most to say about: theirs is the room that is left.
-/// A date with its weekday and month in full is no wider.
-constexpr int kWidestBesideStretched = 240;
-/// What a column that stretches keeps at least, where its cells are that wide.
-constexpr int kLeastStretched = 140;
 /// Rows that a fitting column width takes into account.
 constexpr int kRowsMeasured = 500;
 
@@ -69,10 +66,8 @@ TableView::TableView(QWidget* parent)
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   // Each paint covers all of its area.
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  connect(header_, &TableHeader::ResizedByOperator, this, [this](int column) {
-    settled_columns_.insert(column);
-    Stretch();
-  });
+  connect(header_, &TableHeader::ResizedByOperator, this, &TableView::Settle);
+  connect(header_, &QHeaderView::sectionHandleDoubleClicked, this, &TableView::Settle);
   header_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(header_, &QWidget::customContextMenuRequested, this, &TableView::AskForSortMenu);
   UpdateFont();
@@ -99,9 +94,11 @@ void TableView::SetSorts(bool sorts) {
 
 void TableView::SetEmptyText(const QString& text) {
   empty_text_ = text;
-  setAccessibleDescription(text);
+  TellWhetherEmpty();
   viewport()->update();
 }
+
+void TableView::TellWhetherEmpty() { setAccessibleDescription(RowCount() == 0 ? empty_text_ : QString()); }
 
 // Looks
 
@@ -173,6 +170,13 @@ void TableView::ShowTip(const QHelpEvent& event) {
 
 // Widths
 
+void TableView::Settle(int column) {
+  // The others follow while the operator still holds the edge of one.
+  if (shares_out_) return;
+  settled_columns_.insert(column);
+  ShareOutRoom();
+}
+
 int TableView::FittingWidth(int column) const {
   int width = header_->FittingWidth(column);
   const int rows = std::min(RowCount(), kRowsMeasured);
@@ -185,61 +189,45 @@ int TableView::FittingWidth(int column) const {
 
 int TableView::sizeHintForColumn(int column) const { return model_ == nullptr ? 0 : FittingWidth(column); }
 
-int TableView::GivenWidth(int column) const {
-  const auto& columns = model_->Content().Columns();
-  const bool is_beside_stretched =
-      !columns[Place(column)].stretches &&
-      std::any_of(columns.begin(), columns.end(), [](const auto& each) { return each.stretches; });
-  const int width = FittingWidth(column);
-  return is_beside_stretched
-             ? std::min(width, std::max(kWidestBesideStretched, header_->FittingWidth(column)))
-             : width;
-}
-
 void TableView::FitColumns() {
   if (model_ == nullptr) return;
-  for (int column = 0; column < model_->columnCount(); ++column) {
-    if (!settled_columns_.contains(column)) header_->resizeSection(column, GivenWidth(column));
-  }
-  Stretch();
+  wishes_.assign(model_->Content().Columns().size(), {});
+  MeasureColumns();
 }
 
 void TableView::WidenColumns() {
-  bool has_widened = false;
-  for (int column = 0; column < model_->columnCount(); ++column) {
-    if (settled_columns_.contains(column) || model_->Content().Columns()[Place(column)].stretches) continue;
-    const int width = GivenWidth(column);
-    if (width <= columnWidth(column)) continue;
-    header_->resizeSection(column, width);
-    has_widened = true;
-  }
-  if (has_widened) Stretch();
+  if (model_ != nullptr) MeasureColumns();
 }
 
-void TableView::Stretch() {
-  if (model_ == nullptr) return;
+void TableView::MeasureColumns() {
   const auto& columns = model_->Content().Columns();
-  std::vector<int> stretched;
-  int room = viewport()->width();
+  wishes_.resize(columns.size());
   for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
-    if (columns[Place(column)].stretches && !settled_columns_.contains(column)) {
-      stretched.push_back(column);
-    } else {
-      room -= columnWidth(column);
-    }
+    table_engine::ColumnWish& wish = wishes_[Place(column)];
+    wish.stretches = columns[Place(column)].stretches;
+    const int fitting = FittingWidth(column);
+    wish.fitting = wish.stretches ? fitting : std::max(wish.fitting, fitting);
+    wish.caption = header_->FittingWidth(column);
   }
-  int left = static_cast<int>(stretched.size());
-  for (const int column : stretched) {
-    const int width = std::max(room / left, std::min(FittingWidth(column), kLeastStretched));
-    header_->resizeSection(column, width);
-    room -= width;
-    --left;
+  ShareOutRoom();
+}
+
+void TableView::ShareOutRoom() {
+  // Between new columns and their measure.
+  if (model_ == nullptr || static_cast<int>(wishes_.size()) != model_->columnCount()) return;
+  for (int column = 0; column < static_cast<int>(wishes_.size()); ++column) {
+    const bool is_settled = settled_columns_.contains(column);
+    wishes_[Place(column)].settled = is_settled ? std::optional(columnWidth(column)) : std::nullopt;
   }
+  const std::vector<int> widths = table_engine::WidthsWithin(viewport()->width(), wishes_);
+  const QScopedValueRollback<bool> sharing(shares_out_, true);
+  for (int column = 0; column < static_cast<int>(widths.size()); ++column)
+    header_->resizeSection(column, widths[Place(column)]);
 }
 
 void TableView::resizeEvent(QResizeEvent* event) {
   UniformTableView::resizeEvent(event);
-  Stretch();
+  ShareOutRoom();
   // More rows may have come on show than were: the current one stays among them.
   if (event->size().height() < event->oldSize().height()) scrollTo(currentIndex());
 }
@@ -378,6 +366,7 @@ void TableView::PaintCurrentMark(QPainter& painter) const {
 void TableView::PaintEmpty(QPainter& painter) const {
   constexpr int kMargin = 12;
   painter.setPen(colors_.muted);
+  painter.setLayoutDirection(Qt::LayoutDirectionAuto);
   painter.drawText(viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
   if (hasFocus()) PaintFrame(painter, viewport()->rect(), 2, colors_.current_frame);

@@ -3,11 +3,13 @@
 #include <QElapsedTimer>
 #include <QString>
 #include <set>
+#include <vector>
 
 #include "ferrowind/adapters/qt/grid/grid_colors.h"
 #include "ferrowind/adapters/qt/grid/uniform_table_view.h"
 #include "ferrowind/adapters/qt/table/cell_painter.h"
 #include "ferrowind/adapters/qt/table/table_model.h"
+#include "ferrowind/adapters/table_engine/column_widths.h"
 
 namespace ferrowind::qt {
 
@@ -33,11 +35,13 @@ class TableView final : public UniformTableView {
   [[nodiscard]] bool Sorts() const { return sorts_; }
   /// What it says while it has no rows.
   void SetEmptyText(const QString& text);
+  /// To be called when the rows are others: assistive tools are told that text only while there are none.
+  void TellWhetherEmpty();
 
   /// Gives each column that the operator has not resized the width at which its cells are read in full,
-  /// within reason, and those that stretch what is left.
+  /// within reason, and those that stretch what is left (`table_engine::WidthsWithin`).
   void FitColumns();
-  /// Gives more width to those columns whose cells are wider by now; none gets narrower, but for those that
+  /// Gives more width to those columns whose cells are wider by now; none asks for less, but for those that
   /// stretch.
   void WidenColumns();
   /// The operator's widths are forgotten: other columns have come.
@@ -66,6 +70,7 @@ class TableView final : public UniformTableView {
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  [[nodiscard]] bool ChoosesRows() const override { return !selects_cells_; }
   [[nodiscard]] int sizeHintForColumn(int column) const override;
 
  private:
@@ -74,13 +79,14 @@ class TableView final : public UniformTableView {
   void AskForSortMenu(const QPoint& in_header);
   void UpdateFont();
   void UpdateColors();
-  void Stretch();
+  /// The width of the column is the operator's from now on.
+  void Settle(int column);
+  void MeasureColumns();
+  void ShareOutRoom();
   void ShowTip(const QHelpEvent& event);
   [[nodiscard]] bool HasBox(const QModelIndex& index) const;
   [[nodiscard]] bool IsOnBox(const QPoint& point) const;
   [[nodiscard]] int FittingWidth(int column) const;
-  /// What the column gets of that before the operator gives it a width.
-  [[nodiscard]] int GivenWidth(int column) const;
   [[nodiscard]] QColor GroundOf(int row, int column) const;
   void PaintRow(QPainter& painter, int row);
   void PaintCurrentMark(QPainter& painter) const;
@@ -96,6 +102,9 @@ class TableView final : public UniformTableView {
   bool sorts_ = false;
   /// Columns whose width is the operator's.
   std::set<int> settled_columns_;
+  /// What the columns ask for, as measured last.
+  std::vector<table_engine::ColumnWish> wishes_;
+  bool shares_out_ = false;
   bool has_moved_ = false;
   int works_under_way_ = 0;
   QElapsedTimer since_typed_;

@@ -14,6 +14,8 @@ namespace {
 
 constexpr qreal kSmallShare = 0.8;
 constexpr qreal kLetterShare = 0.72;
+/// The share of a number's height that a mark beside it has.
+constexpr qreal kMarkShare = 0.36;
 constexpr int kMonths = 12;
 /// The numbers of columns that leave no month alone.
 constexpr std::array<int, 5> kColumnCounts = {6, 4, 3, 2, 1};
@@ -28,6 +30,14 @@ QFont Scaled(const QFont& font, qreal share) {
   return scaled;
 }
 
+QSizeF LargestLetter(const YearDays& days, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  qreal width = 0;
+  for (const auto& entry : days.Content().legend)
+    width = std::max(width, metrics.horizontalAdvance(ToQt(entry.look.letter)));
+  return {width, metrics.capHeight()};
+}
+
 }  // namespace
 
 YearMetrics::YearMetrics(const YearDays& days, const QFont& base, const QLocale& locale)
@@ -39,19 +49,24 @@ YearMetrics::YearMetrics(const YearDays& days, const QFont& base, const QLocale&
   const QFontMetricsF number(number_font);
   const QFontMetricsF title(title_font);
   const QFontMetricsF small(small_font);
-  const qreal digits = number.horizontalAdvance(QStringLiteral("30"));
+  line = number.height() / 16;
+  frame = 2 * line;
+  number_width = number.horizontalAdvance(QStringLiteral("30"));
+  number_ascent = number.ascent();
+  mark_size = number_ascent * kMarkShare;
+  letter_size = LargestLetter(days, letter_font);
   gap = number.height() * 0.6;
   header_height = small.height() * 1.1;
   if (days.CalendarCount() <= 1) {
-    // The number in the middle, with room for the mark on its left and the letter on its right.
-    const qreal side = small.horizontalAdvance(QStringLiteral("C")) * 0.78;
-    least_cell = {digits + 2 * side, number.height() * 1.08};
-    widest_cell = {digits * 3.4, number.height() * 2};
+    const qreal beside = std::max(letter_size.width(), mark_size);
+    least_cell = {number_width + beside + 2 * frame,
+                  std::max(number.height() * 1.08, letter_size.height() + mark_size + 2 * frame)};
+    widest_cell = {number_width * 3.4, number.height() * 2};
     title_height = title.height() * 1.2;
     return;
   }
   least_cell = {small.horizontalAdvance(QStringLiteral("30")) * 1.25, small.height() * 1.15};
-  widest_cell = {digits * 2, number.height() * 1.7};
+  widest_cell = {number_width * 2, number.height() * 1.7};
   title_height = title.height() * 1.2;
   qreal caption = 0;
   for (int month = 1; month <= kMonths; ++month) {
@@ -134,7 +149,8 @@ void YearLayout::Settle(int columns, const QSizeF& room) {
   const qreal free_width = (room.width() - (columns + 1) * gap_) / columns - beside;
   const qreal free_height = (room.height() - (rows + 1) * gap_) / rows - above;
   // Where the height has to be scrolled anyway, days are not squeezed to the least of it.
-  const qreal least_height = fits_height_ ? least_cell_.height() : least_cell_.height() * 1.15;
+  const bool is_scrolled = !fits_height_ && reading_.scrolls;
+  const qreal least_height = is_scrolled ? least_cell_.height() * 1.15 : least_cell_.height();
   cell_ = {
       std::clamp(free_width / ColumnsOfDays(), least_cell_.width(), widest_cell_.width()),
       std::clamp(free_height / RowsOfDays(), least_height, std::max(least_height, widest_cell_.height()))};

@@ -23,6 +23,17 @@ struct YearMetrics {
   QFont small_font;
   /// Of the letters beside the numbers of days.
   QFont letter_font;
+  /// The width of a line that is as thick as a pixel of an ordinary screen.
+  qreal line = 0;
+  /// How thick the frame of the current day is.
+  qreal frame = 0;
+  /// Of the numbers of days; the widest of them.
+  qreal number_width = 0;
+  qreal number_ascent = 0;
+  /// Of the letters beside the numbers of days, without what letters have above and below; the largest.
+  QSizeF letter_size;
+  /// Of the marks of days, which are as high as wide.
+  qreal mark_size = 0;
   QSizeF least_cell;
   QSizeF widest_cell;
   qreal title_height = 0;
@@ -40,6 +51,8 @@ class YearLayout {
     /// 1 Sunday to 7 Saturday.
     int first_weekday = 2;
     bool is_right_to_left = false;
+    /// Whether what is higher than its room is scrolled, and not put on further pages.
+    bool scrolls = true;
   };
 
   YearLayout() = default;

@@ -4,8 +4,10 @@
 #include <QSet>
 #include <algorithm>
 
+#include "ferrowind/adapters/qt/look/text_line.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/adapters/qt/year/day_marks.h"
+#include "ferrowind/adapters/qt/year/day_places.h"
 
 namespace ferrowind::qt {
 
@@ -17,8 +19,8 @@ using year_engine::YearPlace;
 
 namespace {
 
-/// The share of a number's height that a mark beside it has.
-constexpr qreal kMarkShare = 0.36;
+/// What is higher than its room stands out of it above and below alike.
+constexpr int kCentered = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip;
 
 int QtWeekday(int weekday) { return weekday == 1 ? 7 : weekday - 1; }
 
@@ -55,20 +57,20 @@ void YearPainter::PaintMonth(QPainter& painter, int month, const QRectF& exposed
   for_days([&](const YearPlace& place) {
     PaintGround(painter, place, cursor.days != nullptr && cursor.days->IsSelected(place));
   });
+  // Below the texts, which it would cut otherwise.
+  const auto& today = days_.Content().today;
+  if (cursor.days != nullptr && today) {
+    for_days([&](const YearPlace& place) {
+      if (place.day == *today) PaintToday(painter, place);
+    });
+  }
   if (layout_.HasRows()) {
     painter.setFont(metrics_.small_font);
     for_days([&](const YearPlace& place) { PaintInRow(painter, place); });
   } else {
     for_days([&](const YearPlace& place) { PaintDay(painter, place); });
   }
-  // Rings and frames last, since they reach over the neighbours.
-  const auto& today = days_.Content().today;
   if (cursor.days == nullptr) return;
-  if (today) {
-    for_days([&](const YearPlace& place) {
-      if (place.day == *today) PaintToday(painter, place);
-    });
-  }
   const auto current = cursor.days->Current();
   if (!current || current->day < FirstDayOf(month) || current->day > LastDayOf(month)) return;
   PaintCurrent(painter, *current, cursor.has_focus);
@@ -82,7 +84,7 @@ void YearPainter::PaintTitle(QPainter& painter, int month) const {
   const QString name = locale_.standaloneMonthName(month, QLocale::LongFormat);
   painter.setFont(metrics_.title_font);
   painter.setPen(colors_.text);
-  painter.drawText(area, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine, name);
+  DrawTextLine(painter, area, Qt::AlignLeading | Qt::AlignVCenter, name);
   if (layout_.HasRows() || days_.CalendarCount() == 0) return;
   const auto& note = Calendar(0).months[static_cast<std::size_t>(month) - 1];
   const QFontMetricsF metrics(metrics_.small_font);
@@ -90,8 +92,8 @@ void YearPainter::PaintTitle(QPainter& painter, int month) const {
       area.width() - QFontMetricsF(metrics_.title_font).horizontalAdvance(name) - metrics_.gap / 2;
   painter.setFont(metrics_.small_font);
   painter.setPen(colors_.muted);
-  painter.drawText(area, Qt::AlignTrailing | Qt::AlignVCenter | Qt::TextSingleLine,
-                   metrics.elidedText(ToQt(note.text), Qt::ElideRight, free));
+  DrawTextLine(painter, area, Qt::AlignTrailing | Qt::AlignVCenter,
+               metrics.elidedText(ToQt(note.text), Qt::ElideRight, free));
 }
 
 void YearPainter::PaintWeekdays(QPainter& painter, int month) const {
@@ -99,7 +101,10 @@ void YearPainter::PaintWeekdays(QPainter& painter, int month) const {
   painter.setPen(colors_.muted);
   const QStringList names = WeekdayNames();
   for (int column = 0; column < 7; ++column) {
-    painter.drawText(layout_.HeaderRect(month, column), Qt::AlignCenter | Qt::TextSingleLine, names[column]);
+    // Above the numbers, which need not stand in the middle of their cells.
+    QRectF area = layout_.HeaderRect(month, column);
+    area.moveCenter({DayPlaces(metrics_, area).number.center().x(), area.center().y()});
+    painter.drawText(area, kCentered, names[column]);
   }
 }
 
@@ -144,13 +149,11 @@ void YearPainter::PaintRowTexts(QPainter& painter, int month) const {
   painter.setFont(metrics_.small_font);
   for (int calendar = 0; calendar < days_.CalendarCount(); ++calendar) {
     painter.setPen(colors_.text);
-    painter.drawText(layout_.CaptionRect(month, calendar),
-                     Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
-                     ToQt(Calendar(calendar).caption));
+    DrawTextLine(painter, layout_.CaptionRect(month, calendar), Qt::AlignLeading | Qt::AlignVCenter,
+                 ToQt(Calendar(calendar).caption));
     painter.setPen(colors_.muted);
-    painter.drawText(layout_.NoteRect(month, calendar),
-                     Qt::AlignTrailing | Qt::AlignVCenter | Qt::TextSingleLine,
-                     ToQt(Calendar(calendar).months[static_cast<std::size_t>(month) - 1].text));
+    DrawTextLine(painter, layout_.NoteRect(month, calendar), Qt::AlignTrailing | Qt::AlignVCenter,
+                 ToQt(Calendar(calendar).months[static_cast<std::size_t>(month) - 1].text));
   }
 }
 
@@ -164,19 +167,19 @@ void YearPainter::PaintGround(QPainter& painter, const YearPlace& place, bool is
   if (layout_.HasRows()) {
     // Days of a row touch, so that a row is one line to the eye.
     painter.fillRect(cell, is_selected ? tint.selected_ground : tint.ground);
-    painter.setPen(QPen(colors_.line, Line()));
+    painter.setPen(QPen(colors_.line, metrics_.line));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(cell);
   } else if (look.tint != DayTint::kNone || is_selected) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(is_selected ? tint.selected_ground : tint.ground);
-    const qreal inset = is_selected ? 0 : Line() / 2;
+    const qreal inset = is_selected ? 0 : metrics_.line / 2;
     painter.drawRect(cell.adjusted(inset, inset, -inset, -inset));
   }
   if (look.shape == DayShape::kHatching) DrawHatching(painter, cell, tint.mark);
   if (!is_selected) return;
-  const qreal inset = Line() / 2;
-  painter.setPen(QPen(colors_.accent, Line()));
+  const qreal inset = metrics_.line / 2;
+  painter.setPen(QPen(colors_.accent, metrics_.line));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(cell.adjusted(inset, inset, -inset, -inset));
 }
@@ -185,27 +188,19 @@ void YearPainter::PaintDay(QPainter& painter, const YearPlace& place) const {
   const DayLook& look = days_.LookOf(place.calendar, place.day);
   const QRectF cell = layout_.CellRect(place);
   const QColor& mark = colors_.Of(look.tint).mark;
-  const QFontMetricsF number(metrics_.number_font);
+  const DayPlaces places(metrics_, cell);
   painter.setFont(metrics_.number_font);
   painter.setPen(colors_.text);
-  painter.drawText(cell, Qt::AlignCenter | Qt::TextSingleLine,
-                   locale_.toString(days_.DateOf(place.day).Day()));
-  const qreal size = number.ascent() * kMarkShare;
-  const qreal side = (cell.width() - number.horizontalAdvance(QStringLiteral("30"))) / 2;
+  painter.drawText(places.number, kCentered, locale_.toString(days_.DateOf(place.day).Day()));
   if (look.shape == DayShape::kBar) {
-    // Below the number, as far as there is room.
-    const qreal bottom = std::min(cell.center().y() + number.ascent() * 0.72, cell.bottom() - Line() / 2);
-    DrawDayMark(painter, {cell.center().x() - size / 2, bottom - size, size, size}, look.shape, mark);
+    DrawDayMark(painter, places.bar, look.shape, mark);
   } else {
-    DrawDayMark(painter,
-                {cell.left() + (side - size) / 2, cell.top() + cell.height() * 0.5 - size / 2, size, size},
-                look.shape, mark);
+    DrawDayMark(painter, places.mark, look.shape, mark);
   }
   if (look.letter.empty()) return;
   painter.setFont(metrics_.letter_font);
   painter.setPen(mark);
-  painter.drawText(QRectF(cell.right() - side, cell.top(), side, cell.height()),
-                   Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, ToQt(look.letter));
+  painter.drawText(places.letter, kCentered, ToQt(look.letter));
 }
 
 void YearPainter::PaintInRow(QPainter& painter, const YearPlace& place) const {
@@ -225,16 +220,25 @@ void YearPainter::PaintInRow(QPainter& painter, const YearPlace& place) const {
 void YearPainter::PaintToday(QPainter& painter, const YearPlace& place) const {
   const QRectF cell = layout_.CellRect(place);
   const qreal size = std::min(cell.width(), cell.height());
-  QRectF ring(0, 0, std::min(cell.width(), size * 1.35), size);
-  ring.moveCenter(cell.center());
-  const qreal inset = Line();
-  painter.setPen(QPen(colors_.accent, 1.6 * Line()));
+  QPointF center = cell.center();
+  qreal width = std::min(cell.width(), size * 1.35);
+  if (!layout_.HasRows()) {
+    // Around the number, up to where the letter begins.
+    const DayPlaces places(metrics_, cell);
+    const qreal letter_left = places.letter.center().x() - metrics_.letter_size.width() / 2;
+    center.setX(places.number.center().x());
+    width = std::min(width, 2 * (letter_left - center.x() + metrics_.line));
+  }
+  QRectF ring(0, 0, width, size);
+  ring.moveCenter(center);
+  const qreal inset = metrics_.line;
+  painter.setPen(QPen(colors_.accent, 1.6 * metrics_.line));
   painter.setBrush(Qt::NoBrush);
   painter.drawEllipse(ring.adjusted(inset, inset, -inset, -inset));
 }
 
 void YearPainter::PaintCurrent(QPainter& painter, const YearPlace& place, bool has_focus) const {
-  const qreal width = (has_focus ? 2 : 1) * Line();
+  const qreal width = has_focus ? metrics_.frame : metrics_.line;
   const qreal inset = width / 2;
   painter.setPen(QPen(has_focus ? colors_.text : colors_.accent, width));
   painter.setBrush(Qt::NoBrush);
@@ -243,8 +247,6 @@ void YearPainter::PaintCurrent(QPainter& painter, const YearPlace& place, bool h
 
 // Parts
 // ------------------------------------------------------------------------------------------------
-
-qreal YearPainter::Line() const { return QFontMetricsF(metrics_.number_font).height() / 16; }
 
 const platform::YearCalendar& YearPainter::Calendar(int position) const {
   return days_.Content().calendars[static_cast<std::size_t>(position)];

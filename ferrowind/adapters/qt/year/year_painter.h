@@ -40,8 +40,6 @@ class YearPainter {
   void PaintToday(QPainter& painter, const year_engine::YearPlace& place) const;
   void PaintCurrent(QPainter& painter, const year_engine::YearPlace& place, bool has_focus) const;
 
-  /// The width of a line that is as thick as a pixel of an ordinary screen.
-  [[nodiscard]] qreal Line() const;
   [[nodiscard]] const platform::YearCalendar& Calendar(int position) const;
   [[nodiscard]] int FirstDayOf(int month) const;
   [[nodiscard]] int LastDayOf(int month) const;

@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
@@ -114,6 +115,7 @@ QVariant YearPane::inputMethodQuery(Qt::InputMethodQuery query) const {
 void YearPane::Arrange() {
   if (is_arranged_) return;
   is_arranged_ = true;
+  const QScopedValueRollback<bool> placing(is_placing_, true);
   const YearMetrics metrics(days_, font(), locale());
   const YearLayout::Reading reading{static_cast<int>(locale().firstDayOfWeek()) % 7 + 1,
                                     layoutDirection() == Qt::RightToLeft};
@@ -166,6 +168,13 @@ void YearPane::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
   is_arranged_ = false;
   Arrange();
+  // The day may have become the current one before the pane had any size to show it in.
+  if (follows_current_) ScrollToCurrent();
+}
+
+void YearPane::scrollContentsBy(int dx, int dy) {
+  if (!is_placing_) follows_current_ = false;
+  QAbstractScrollArea::scrollContentsBy(dx, dy);
 }
 
 void YearPane::changeEvent(QEvent* event) {
@@ -226,11 +235,17 @@ void YearPane::TellChanges(const YearCursor& before) {
 
 void YearPane::ScrollToCurrent() {
   if (!cursor_.Current()) return;
+  follows_current_ = true;
+  const QScopedValueRollback<bool> placing(is_placing_, true);
   const QRectF cell = Layout().CellRect(*cursor_.Current());
   const QSize room = viewport()->size();
   const auto into_sight = [](QScrollBar& bar, qreal before, qreal from, qreal to, int length) {
-    if (from < before) bar.setValue(bar.value() - static_cast<int>(std::ceil(before - from)));
-    if (to > before + length) bar.setValue(bar.value() + static_cast<int>(std::ceil(to - before - length)));
+    // What does not fit as a whole begins where the sight begins.
+    if (from < before || to - from > length) {
+      bar.setValue(bar.value() + static_cast<int>(std::floor(from - before)));
+    } else if (to > before + length) {
+      bar.setValue(bar.value() + static_cast<int>(std::ceil(to - before - length)));
+    }
   };
   const QPointF scrolled = Scrolled();
   // With some of what stands around it, such as the names of the weekdays.

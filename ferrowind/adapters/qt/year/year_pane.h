@@ -48,6 +48,7 @@ class YearPane final : public QAbstractScrollArea {
   void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -75,6 +76,10 @@ class YearPane final : public QAbstractScrollArea {
   year_engine::YearCursor cursor_;
   YearLayout layout_;
   bool is_arranged_ = false;
+  /// The current day stays in sight when the pane gets another size, until the operator scrolls.
+  bool follows_current_ = true;
+  /// While this itself moves the scroll bars.
+  bool is_placing_ = false;
   bool is_dragging_ = false;
 };
 

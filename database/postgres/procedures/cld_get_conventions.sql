@@ -1,0 +1,20 @@
+-- What the database says of the market's conventions beside those that come with the program: of a pair of currencies the days
+-- from trade to spot; of one currency, without OtherID and OtherCcy, whether a holiday of the dollar stops the count (1 or 0).
+-- Readers may call it, too.
+CREATE PROCEDURE CldGetConventions(
+  INOUT "RETURN_VALUE" integer DEFAULT NULL,
+  INOUT "Conventions" refcursor DEFAULT 'Conventions'
+)
+LANGUAGE plpgsql SECURITY DEFINER SET search_path = ferrowind, pg_temp
+AS $$
+BEGIN
+  OPEN "Conventions" FOR
+    SELECT v.ID1 AS "ID1", o.CcyID AS "OtherID", c.Ccy AS "Ccy", o.Ccy AS "OtherCcy", v.SpotDays AS "SpotDays",
+      v.DollarStops AS "DollarStops"
+    FROM CldConvention v
+      JOIN DicCcy c ON c.CcyID = v.ID1
+      LEFT JOIN DicCcy o ON o.CcyID = v.OtherID AND v.OtherID <> v.ID1
+    ORDER BY v.ID1, v.OtherID;
+  "RETURN_VALUE" := 0;
+END
+$$;

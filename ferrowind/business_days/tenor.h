@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ferrowind/export.h"
+
+namespace ferrowind::business_days {
+
+/// How far from its trade date, or from its spot date, a trade settles.
+struct FERROWIND_EXPORT Tenor {
+  enum class Unit : std::uint8_t {
+    /// The next day on which the pair can be settled.
+    kOvernight,
+    /// One such day later; for pairs that settle in two days, the spot date.
+    kTomorrowNext,
+    kSpot,
+    /// The next day on which the pair can be settled after spot.
+    kSpotNext,
+    /// `count` of them after spot.
+    kDays,
+    kWeeks,
+    kMonths,
+    kYears,
+    /// The `count`th third Wednesday of March, June, September and December after spot.
+    kImm,
+  };
+
+  Unit unit = Unit::kSpot;
+  /// 1 with the units that have none.
+  int count = 1;
+
+  /// "ON", "SPOT", "1W", "3M", "IMM2".
+  [[nodiscard]] std::string Text() const;
+
+  friend bool operator==(const Tenor&, const Tenor&) = default;
+};
+
+/// Reads "ON", "TN", "SN", "SW" (a week), also with a stroke between their letters, "SPOT" or "SP", a number
+/// from 1 on with D, W, M or Y up to a hundred years, and "IMM1" to "IMM4", in letters of any case. Anything
+/// else is the failure InvalidArgument, which says what is expected.
+[[nodiscard]] FERROWIND_EXPORT Tenor ReadTenor(std::string_view text);
+
+}  // namespace ferrowind::business_days

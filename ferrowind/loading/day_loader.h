@@ -1,0 +1,59 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "ferrowind/business_days/prepared_year.h"
+#include "ferrowind/export.h"
+#include "ferrowind/loading/loaded_days.h"
+#include "ferrowind/platform/database/engine_registry.h"
+
+namespace ferrowind::loading {
+
+/// The business days of a database, in the memory of a program that asks for them, and again when they have
+/// changed.
+///
+///     loading::DayLoader days(engines, "sqlite:calendars.db");
+///     const auto now = days.Current();
+///     now->calendars.Of("EUR").IsBusinessDay(2028y / 4 / 14);
+///
+/// Any number of threads may ask for `Current` and for what it gives, while one of them reloads: whoever has
+/// the old days keeps them as long as he likes.
+class FERROWIND_EXPORT DayLoader {
+ public:
+  /// Reads all calendars and conventions of the database that `url` names. `engines` must outlive the loader.
+  /// The failures are those of the engine (a reader's rights are enough), and InvalidArgument for days that
+  /// are no year's, which names currency and year.
+  DayLoader(const platform::EngineRegistry& engines, std::string url);
+
+  /// Never null.
+  [[nodiscard]] std::shared_ptr<const LoadedDays> Current() const;
+
+  /// Reads the database again, and says what is another than before. After a failure, which is as that of the
+  /// constructor, everything is as it was. Calendars that have not changed share their days with the old
+  /// ones.
+  DayChanges Reload();
+
+ private:
+  /// By the currencies' codes; the years of each ascend.
+  using Years = std::map<std::string, std::vector<business_days::PreparedYear>, std::less<>>;
+  struct Content;
+
+  static Content Read(const platform::EngineRegistry& engines, const std::string& url);
+  void Take(Content content, const DayChanges& changes);
+
+  const platform::EngineRegistry& engines_;
+  const std::string url_;
+  /// Held while one reloads.
+  std::mutex reloading_;
+  /// What `current_` was made of; guarded by `reloading_`.
+  Years years_;
+  /// Guards the pointer below alone.
+  mutable std::mutex taking_;
+  std::shared_ptr<const LoadedDays> current_;
+};
+
+}  // namespace ferrowind::loading
