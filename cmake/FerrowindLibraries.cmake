@@ -37,6 +37,7 @@ function(ferrowind_add_host_library name)
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${FERROWIND_EXPORTED_SYMBOLS})
   add_library(Ferrowind::${name} ALIAS ${target})
   set_property(GLOBAL APPEND PROPERTY FERROWIND_HOST_LIBRARIES ${name})
+  set_property(GLOBAL APPEND PROPERTY FERROWIND_PUBLIC_HEADERS ${headers})
 endfunction()
 
 # ferrowind_add_components(LIBRARY name ...): what hosts ask find_package for, as targets Ferrowind::NAME; all of LIBRARY.
@@ -54,10 +55,11 @@ endfunction()
 ferrowind_add_host_library(ferrowind
   LEAVES platform_events platform_values platform_database platform_toolkit platform_services platform_additions platform
     business_days database_conventions loading data data_confirm control_maps control
-    views_common views_dialogs views_editor views_holidays views_calendars adapters_services)
+    views_common views_dialogs views_editor views_holidays views_calendars adapters_services adapters_windowless)
 target_sources(ferrowind_host_library_ferrowind PUBLIC FILE_SET HEADERS FILES ${PROJECT_SOURCE_DIR}/ferrowind/export.h)
+set_property(GLOBAL APPEND PROPERTY FERROWIND_PUBLIC_HEADERS ${PROJECT_SOURCE_DIR}/ferrowind/export.h)
 target_include_directories(ferrowind_host_library_ferrowind PUBLIC $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>)
-ferrowind_add_components(ferrowind platform control business_days loading adapters_services)
+ferrowind_add_components(ferrowind platform control business_days loading adapters_services windowless)
 
 if("qt" IN_LIST FERROWIND_ADAPTERS)
   ferrowind_add_host_library(ferrowind-qt

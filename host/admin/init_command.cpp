@@ -4,9 +4,10 @@
 
 #include <unistd.h>
 
+#include "ferrowind/adapters/services/system_clock.h"
+
 #include "host/admin/interruption.h"
 #include "host/admin/progress_line.h"
-#include "host/session/system_clock.h"
 
 namespace ferrowind::host {
 namespace {

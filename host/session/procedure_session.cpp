@@ -3,10 +3,9 @@
 #include <exception>
 #include <thread>
 
+#include "ferrowind/adapters/windowless/windowless_platform.h"
 #include "ferrowind/data/exec_proc.h"
 #include "ferrowind/data/module_state.h"
-
-#include "host/session/windowless_platform.h"
 
 namespace ferrowind::host {
 

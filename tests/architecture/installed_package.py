@@ -17,15 +17,23 @@ import subprocess
 import sys
 import tempfile
 
-EXAMPLE = "docs/examples/minimal_host"
-USAGE = "usage: minimal_host sqlite:PATH"
+EXAMPLES = "docs/examples"
+# Hosts with windows end here at once, since they are not told a database.
+WINDOWED = ("minimal_host/minimal_host", "hosts/own_office", "hosts/designer_host")
 USAGE_STATUS = 2
+# What the hosts without windows are asked: as many days are closed at least as there are Saturdays and Sundays.
+EURO = "978"
+YEAR = 2026
+FEWEST_CLOSED = 104
+DATE = re.compile(r"2026-05-\d\d\n")
+WINDOW_LIBRARIES = re.compile(r"libQt|libX11|libxcb|libwayland")
+HEADINGS = "Date\tDay type\tClosed for\tDescription\tComment"
 HOSTS = pathlib.Path(__file__).parent
 
 # What each component asks for from outside, where the libraries are static, and where they are shared.
 COMPONENTS = {
     "platform": ((), ()), "control": ((), ()), "business_days": ((), ()), "loading": ((), ()),
-    "adapters_services": ((), ()), "business_days_c": ((), ()), "adapters_qt": (("Qt6",), ("Qt6",)),
+    "adapters_services": ((), ()), "windowless": ((), ()), "business_days_c": ((), ()), "adapters_qt": (("Qt6",), ("Qt6",)),
     "adapters_sqlite": (("SQLite3", "OpenSSL"), ()), "adapters_postgres": (("PostgreSQL", "OpenSSL"), ()),
 }
 OUTSIDE = ("Qt6", "SQLite3", "PostgreSQL", "OpenSSL", "LibIcal", "GTest")
@@ -141,13 +149,34 @@ def check_components(package: Package, work: pathlib.Path) -> None:
         raise RuntimeError(f"a component that there is not is not named:\n{refused.stdout}")
 
 
-def check_example(package: Package, root: pathlib.Path, work: pathlib.Path) -> None:
-    build = work / "example"
-    passed("configuring the example", package.cmake(root / EXAMPLE, build))
-    passed("building the example", run(["cmake", "--build", str(build)]))
-    started = run([str(build / "minimal_host")], {**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-    if started.returncode != USAGE_STATUS or USAGE not in started.stdout:
-        raise RuntimeError(f"the example ended with {started.returncode}:\n{started.stdout}")
+def check_examples(package: Package, root: pathlib.Path, work: pathlib.Path) -> None:
+    """Every example that is a project is built; those with windows start, and those without do their work on a database."""
+    build = work / "examples"
+    for project in sorted(path.parent for path in (root / EXAMPLES).glob("*/CMakeLists.txt")):
+        passed(f"configuring {project.name}", package.cmake(project, build / project.name))
+        passed(f"building {project.name}", run(["cmake", "--build", str(build / project.name)]))
+    for host in WINDOWED:
+        started = run([str(build / host)], {**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+        if started.returncode != USAGE_STATUS or f"usage: {pathlib.Path(host).name} sqlite:PATH" not in started.stdout:
+            raise RuntimeError(f"{host} ended with {started.returncode}:\n{started.stdout}")
+    check_windowless(package, build / "hosts", f"sqlite:{work}/calendars.db")
+
+
+def check_windowless(package: Package, hosts: pathlib.Path, database: str) -> None:
+    """Without a display, and so that any use of one fails."""
+    environment = {name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
+    passed("making a database", run([str(package.prefix / "bin/ferrowindctl"), "init", database, "--year", str(YEAR)], environment))
+    asked = [database, EURO, str(YEAR)]
+    counted = passed("console_host", run([str(hosts / "console_host"), *asked], environment))
+    listed = passed("day_list", run([str(hosts / "day_list"), *asked], environment)).splitlines()
+    if listed[0] != HEADINGS or counted != f"{len(listed) - 1} days are closed\n" or len(listed) - 1 < FEWEST_CLOSED:
+        raise RuntimeError(f"day_list lists {len(listed) - 1} days below {listed[0]!r}; console_host says: {counted}")
+    spot = passed("spot_date", run([str(hosts.parent / "spot_date/spot_date"), database], environment))
+    if not DATE.fullmatch(spot):
+        raise RuntimeError(f"spot_date says: {spot}")
+    needs = passed("what day_list needs", run(["ldd", str(hosts / "day_list")], environment))
+    if WINDOW_LIBRARIES.search(needs):
+        raise RuntimeError(f"day_list, which has no windows, needs:\n{needs}")
 
 
 def check_plug_in(package: Package, work: pathlib.Path) -> None:
@@ -177,7 +206,7 @@ def check(root: pathlib.Path, build: pathlib.Path, compiler: str, flags: list[st
     check_components(package, work)
     check_plug_in(package, work)
     check_pkg_config(package, work)
-    check_example(package, root, work)
+    check_examples(package, root, work)
     return package
 
 

@@ -13,6 +13,8 @@ namespace ferrowind {
 /// Creates outside objects by makers that the host has registered.
 class FERROWIND_EXPORT ObjectMakers : public platform::ObjectFactory {
  public:
+  /// Makes an object for each call. Null is the failure that the object cannot be created (429); the number
+  /// of a `Failure` that it throws is kept.
   using Maker = std::function<std::shared_ptr<platform::OutsideObject>()>;
 
   /// Identifiers are told apart without regard to letter case; a later maker takes an identifier over. A

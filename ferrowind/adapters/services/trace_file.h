@@ -27,7 +27,7 @@ class FERROWIND_EXPORT TraceFile : public TraceSink {
   int file_;
 };
 
-/// The text on one line: a backslash becomes two, line breaks \r and \n, other control characters \xHH.
+/// The text on one line: a backslash becomes two, line breaks `\r` and `\n`, other control characters `\xHH`.
 [[nodiscard]] FERROWIND_EXPORT std::string OnOneLine(const std::string& text);
 
 }  // namespace ferrowind

@@ -5,7 +5,6 @@
 #include "ferrowind/data/pending_failure.h"
 
 #include "host/session/procedure_session.h"
-#include "host/session/windowless_platform.h"
 #include "tests/unit/host/recording_engine.h"
 
 namespace ferrowind::host {
@@ -23,9 +22,6 @@ class Session : public ::testing::Test {
          {std::make_shared<RecordSet>(std::vector<std::string>{"A"}, std::vector<std::vector<Value>>{{1}}),
           std::make_shared<RecordSet>(std::vector<std::string>{"B"}, std::vector<std::vector<Value>>{})}}};
     engine_->procedures["ReturnSix"] = {RecordingEngine::Inputs({}), {6, {}}};
-    engine_->dictionary = std::make_shared<RecordSet>(
-        std::vector<std::string>{"CcyID", "Ccy", "CcyType", "Name"},
-        std::vector<std::vector<Value>>{{978, "EUR", 0, "Euro"}, {959, "XAU", 1, "Gold"}});
     engines_.Register("recording", engine_);
   }
 
@@ -74,21 +70,6 @@ TEST_F(Session, LeavesTheCallingThreadsStateAsItIs) {
 TEST_F(Session, PassesOnWhatTheWorkThrows) {
   EXPECT_THROW(RunWithDatabase(engines_, "recording:x", [] { throw platform::Failure(5, "x"); }),
                platform::Failure);
-}
-
-TEST_F(Session, HasADictionaryOfTheDatabase) {
-  const WindowlessPlatform surroundings(engines_, "recording:x");
-  const auto dictionary = std::dynamic_pointer_cast<platform::Dictionary>(
-      surroundings.Get().objects.CreateObject(platform::kDictionaryIdentifier));
-  ASSERT_NE(dictionary, nullptr);
-  EXPECT_EQ(dictionary->dic_ConnectionString(), "recording:x");
-  EXPECT_EQ(dictionary->dic_GetDicRecByFilter("Ccy", "CcyType = 0")->RowCount(), 1U);
-}
-
-TEST_F(Session, RefusesWindowsWithAFailure) {
-  const WindowlessPlatform surroundings(engines_, "recording:x");
-  EXPECT_THROW((void)surroundings.Get().toolkit.CreateForm({"fmCalendar", ""}), platform::Failure);
-  EXPECT_THROW((void)surroundings.Get().objects.CreateObject("Unknown.Class"), platform::Failure);
 }
 
 }  // namespace

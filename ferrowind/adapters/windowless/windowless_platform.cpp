@@ -1,12 +1,14 @@
-#include "host/session/windowless_platform.h"
+#include "ferrowind/adapters/windowless/windowless_platform.h"
+
+#include <utility>
 
 #include "ferrowind/adapters/services/desktop_dictionary.h"
+#include "ferrowind/adapters/services/object_makers.h"
+#include "ferrowind/adapters/services/system_clock.h"
 #include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/platform/values/failure.h"
 
-#include "host/session/system_clock.h"
-
-namespace ferrowind::host {
+namespace ferrowind {
 namespace {
 
 namespace failure_number = platform::failure_number;
@@ -18,6 +20,8 @@ namespace failure_number = platform::failure_number;
 /// Keeps no settings and shows nothing. Trace lines are dropped: they would hold the values of parameters.
 class SilentServices : public platform::SharedServices {
  public:
+  explicit SilentServices(WindowlessPlatform::Listener listener) : listener_(std::move(listener)) {}
+
   std::string SettingsRoot() override { return {}; }
   platform::Value ReadSetting(const std::string&, const std::string&, const platform::Value&,
                               const platform::Value& default_value) override {
@@ -25,15 +29,26 @@ class SilentServices : public platform::SharedServices {
   }
   void WriteSetting(const std::string&, const std::string&, const platform::Value&) override {}
   void TraceMessage(const std::string&) override {}
-  std::int32_t ShowMessage(const std::string&, std::int32_t, std::int32_t, std::int32_t, platform::Form*,
-                           const std::string&, bool, bool) override {
-    RefuseWindow();
+  std::int32_t ShowMessage(const std::string& text, std::int32_t, std::int32_t, std::int32_t default_button,
+                           platform::Form*, const std::string&, bool, bool) override {
+    Tell(0, text);
+    return default_button;
   }
-  void ReportError(std::int32_t, const std::string&) override { RefuseWindow(); }
+  void ReportError(std::int32_t number, const std::string& description) override {
+    Tell(number, description);
+  }
   void SortGridByColumn(std::int32_t, platform::Grid&, platform::GridColumn&) override { RefuseWindow(); }
   void SaveGridLayout(platform::Grid&, const std::string&) override { RefuseWindow(); }
   void LoadGridLayout(platform::Grid&, const std::string&) override { RefuseWindow(); }
   void CopyGridRows(platform::Grid&, bool) override { RefuseWindow(); }
+
+ private:
+  void Tell(std::int32_t number, const std::string& text) {
+    if (!listener_) RefuseWindow();
+    listener_(number, text);
+  }
+
+  WindowlessPlatform::Listener listener_;
 };
 
 class NoToolkit : public platform::Toolkit {
@@ -68,32 +83,19 @@ class NoLocale : public platform::Locale {
   [[nodiscard]] platform::DateReading ReadDate(const std::string&, int) const override { RefuseWindow(); }
 };
 
-class DatabaseObjects : public platform::ObjectFactory {
- public:
-  DatabaseObjects(const platform::EngineRegistry& engines, const std::string& connection_string)
-      : engines_(engines), connection_string_(connection_string) {}
-
-  std::shared_ptr<platform::OutsideObject> CreateObject(const std::string& identifier) override {
-    if (identifier == platform::kDictionaryIdentifier) {
-      return std::make_shared<DesktopDictionary>(engines_, connection_string_);
-    }
-    if (identifier == platform::kSharedServicesIdentifier) return std::make_shared<SilentServices>();
-    throw platform::Failure(failure_number::kCannotCreateObject,
-                            "No object is registered under " + identifier);
-  }
-
- private:
-  const platform::EngineRegistry& engines_;
-  std::string connection_string_;
-};
-
 }  // namespace
 
 struct WindowlessPlatform::Parts {
-  Parts(const platform::EngineRegistry& engines, const std::string& connection_string)
-      : objects(engines, connection_string), commands(engines) {}
+  Parts(const platform::EngineRegistry& engines, const std::string& connection_string, Listener listener)
+      : commands(engines) {
+    objects.Register(platform::kDictionaryIdentifier, [&engines, connection_string] {
+      return std::make_shared<DesktopDictionary>(engines, connection_string);
+    });
+    objects.Register(platform::kSharedServicesIdentifier,
+                     [listener = std::move(listener)] { return std::make_shared<SilentServices>(listener); });
+  }
 
-  DatabaseObjects objects;
+  ObjectMakers objects;
   platform::EngineCommandFactory commands;
   NoToolkit toolkit;
   NoLocale locale;
@@ -102,11 +104,11 @@ struct WindowlessPlatform::Parts {
 };
 
 WindowlessPlatform::WindowlessPlatform(const platform::EngineRegistry& engines,
-                                       const std::string& connection_string)
-    : parts_(std::make_unique<Parts>(engines, connection_string)) {}
+                                       const std::string& connection_string, Listener listener)
+    : parts_(std::make_unique<Parts>(engines, connection_string, std::move(listener))) {}
 
 WindowlessPlatform::~WindowlessPlatform() = default;
 
 const platform::Platform& WindowlessPlatform::Get() const { return parts_->platform; }
 
-}  // namespace ferrowind::host
+}  // namespace ferrowind

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "ferrowind/export.h"
 #include "ferrowind/platform/services/clock.h"
 
-namespace ferrowind::host {
+namespace ferrowind {
 
 /// The clock of the machine, in the time zone that the environment names.
-class SystemClock : public platform::Clock {
+class FERROWIND_EXPORT SystemClock : public platform::Clock {
  public:
   [[nodiscard]] platform::Date Today() const override;
 };
 
-}  // namespace ferrowind::host
+}  // namespace ferrowind

@@ -1,8 +1,8 @@
-#include "host/session/system_clock.h"
+#include "ferrowind/adapters/services/system_clock.h"
 
 #include <ctime>
 
-namespace ferrowind::host {
+namespace ferrowind {
 
 platform::Date SystemClock::Today() const {
   const std::time_t now = std::time(nullptr);
@@ -12,4 +12,4 @@ platform::Date SystemClock::Today() const {
   return {local.tm_year + kFirstYearOfTm, local.tm_mon + 1, local.tm_mday};
 }
 
-}  // namespace ferrowind::host
+}  // namespace ferrowind
