@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// What the component shows of itself.
+
 /// Marks what programs outside of the component may use. Everything else is compiled with hidden visibility,
 /// and cannot be seen from outside of the shared library that it is part of.
 ///

@@ -17,6 +17,7 @@ class FERROWIND_EXPORT BusinessCalendar : public BusinessDays {
   /// is there twice, is the failure InvalidArgument, which names calendar and year.
   BusinessCalendar(std::string code, std::vector<PreparedYear> years);
 
+  /// The currency's code, as it was given.
   [[nodiscard]] const std::string& Code() const { return Name(); }
 
  private:

@@ -11,6 +11,7 @@
 #include "ferrowind/business_days/day_table.h"
 #include "ferrowind/export.h"
 
+/// What holiday calendars are for: business days and value dates. Uses no database and no windows.
 namespace ferrowind::business_days {
 
 /// The questions that a calendar answers, whether it is that of one currency or joint.
@@ -21,12 +22,15 @@ namespace ferrowind::business_days {
 /// nothing here locks or allocates, failures and lists apart.
 class FERROWIND_EXPORT BusinessDays {
  public:
+  /// A day of the civil calendar, without a time zone.
   using Day = std::chrono::sys_days;
 
   /// The code of the currency; those of all members, joined by "+", of a joint calendar.
   [[nodiscard]] const std::string& Name() const { return content_->name; }
 
+  /// What is known of the day; never throws.
   [[nodiscard]] DayState State(Day day) const { return table_->At(day); }
+  /// Whether the calendar is open on the day.
   [[nodiscard]] bool IsBusinessDay(Day day) const {
     const DayState state = table_->At(day);
     if (state == DayState::kNotPrepared) FailNotPrepared(day);
@@ -62,6 +66,7 @@ class FERROWIND_EXPORT BusinessDays {
 
   /// Of the month that `day` is in. `NoBusinessDay` when all its days are closed.
   [[nodiscard]] Day LastBusinessDayOfMonth(Day day) const;
+  /// Whether `day` is a business day that no other one of its month follows.
   [[nodiscard]] bool IsLastBusinessDayOfMonth(Day day) const;
 
   /// The closed days from `first` to `last`, ascending.
@@ -70,19 +75,25 @@ class FERROWIND_EXPORT BusinessDays {
   /// The first and the last prepared day; there may be years between them that are not prepared. Empty when
   /// no day is prepared.
   [[nodiscard]] std::optional<DayTable::Span> Horizon() const { return table_->Prepared(); }
+  /// Whether all days of the year are known.
   [[nodiscard]] bool IsPrepared(std::chrono::year year) const;
 
  protected:
+  /// What all copies of a calendar share. For the kinds of calendar that there are.
   struct Content {
+    /// See `Name`.
     std::string name;
+    /// Of a joint calendar those that all members know.
     DayTable days;
     /// Of a joint calendar, to tell which of them a day is missing in.
     std::vector<std::shared_ptr<const Content>> members;
   };
 
+  /// `content` is not null.
   explicit BusinessDays(std::shared_ptr<const Content> content)
       : table_(&content->days), content_(std::move(content)) {}
 
+  /// For joining with others; never null.
   [[nodiscard]] const std::shared_ptr<const Content>& Shared() const { return content_; }
 
  private:

@@ -24,6 +24,7 @@ enum class FERROWIND_EXPORT DayState : std::uint8_t {
 /// each. Immutable; whatever it is asked neither locks nor allocates.
 class FERROWIND_EXPORT DayTable {
  public:
+  /// A day of the civil calendar, without a time zone.
   using Day = std::chrono::sys_days;
 
   /// `years` in any order, with holes as they are. A year twice, a year outside 1900 to 3000, and days that
@@ -34,6 +35,7 @@ class FERROWIND_EXPORT DayTable {
   /// prepared, also where the other is closed, since years are prepared whole.
   [[nodiscard]] static DayTable Joined(const DayTable& left, const DayTable& right);
 
+  /// What is known of the day; any day may be asked for.
   [[nodiscard]] DayState At(Day day) const {
     const auto position = static_cast<std::uint64_t>((day - origin_).count());
     if (position >= size_) return DayState::kNotPrepared;
@@ -72,13 +74,18 @@ class FERROWIND_EXPORT DayTable {
 
   /// The first day after `day` that is not prepared; there always is one.
   [[nodiscard]] Day FirstUnknownAfter(Day day) const;
+  /// The last day before `day` that is not prepared; there always is one.
   [[nodiscard]] Day LastUnknownBefore(Day day) const;
 
-  /// The first and the last prepared day; empty when there is none.
+  /// Two days, and those between them.
   struct Span {
+    ///@{
+    /// Both belong to it.
     Day first;
     Day last;
+    ///@}
   };
+  /// The first and the last prepared day; empty when there is none.
   [[nodiscard]] std::optional<Span> Prepared() const;
   /// The most closed days in a row.
   [[nodiscard]] std::int32_t LongestClosure() const { return longest_closure_; }

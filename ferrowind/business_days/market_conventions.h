@@ -24,6 +24,7 @@ class FERROWIND_EXPORT MarketConventions {
 
   /// Days other than 0, 1 and 2 are the failure InvalidArgument.
   void SetDaysToSpot(const CurrencyPair& pair, int days);
+  /// Whether a holiday of the dollar counts against the currency `code`; said twice, the last one counts.
   void SetDollarHolidayStops(const std::string& code, bool stops) { dollar_stops_[code] = stops; }
   /// Takes over all that `others` say; of the rest they leave what is here.
   void Amend(const MarketConventions& others);
@@ -33,6 +34,7 @@ class FERROWIND_EXPORT MarketConventions {
   /// What is said, by code.
   [[nodiscard]] const std::map<std::string, bool, std::less<>>& DollarStops() const { return dollar_stops_; }
 
+  /// Whether the same is said of the same pairs and currencies.
   friend bool operator==(const MarketConventions&, const MarketConventions&) = default;
 
  private:

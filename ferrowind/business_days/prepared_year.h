@@ -14,6 +14,7 @@ struct FERROWIND_EXPORT PreparedYear {
   /// A character a day, 365 or 366 of them from 1 January on: '1' closed, '0' open.
   std::string days;
 
+  /// The same year with the same days.
   friend bool operator==(const PreparedYear&, const PreparedYear&) = default;
 };
 

@@ -10,6 +10,7 @@ namespace ferrowind::business_days {
 
 /// How far from its trade date, or from its spot date, a trade settles.
 struct FERROWIND_EXPORT Tenor {
+  /// What is counted, and from which day on.
   enum class Unit : std::uint8_t {
     /// The next day on which the pair can be settled.
     kOvernight,
@@ -27,6 +28,7 @@ struct FERROWIND_EXPORT Tenor {
     kImm,
   };
 
+  /// `SPOT` unless said.
   Unit unit = Unit::kSpot;
   /// 1 with the units that have none.
   int count = 1;
@@ -34,6 +36,7 @@ struct FERROWIND_EXPORT Tenor {
   /// "ON", "SPOT", "1W", "3M", "IMM2".
   [[nodiscard]] std::string Text() const;
 
+  /// Same unit and count: 12 months and a year are two tenors.
   friend bool operator==(const Tenor&, const Tenor&) = default;
 };
 

@@ -33,16 +33,20 @@ enum class FERROWIND_EXPORT ClosedTradeDate : std::uint8_t {
 /// All questions throw `NotPrepared` and `NoBusinessDay` as `BusinessDays` does.
 class FERROWIND_EXPORT ValueDates {
  public:
+  /// A day of the civil calendar, without a time zone.
   using Day = std::chrono::sys_days;
 
   /// `calendars` must have the two currencies and USD; the failure is that of `CalendarSet::Of`.
   ValueDates(CurrencyPair pair, const CalendarSet& calendars, const MarketConventions& conventions);
 
+  /// The pair that the dates are of.
   [[nodiscard]] const CurrencyPair& Pair() const { return pair_; }
+  /// 0, 1 or 2 business days, as the conventions said.
   [[nodiscard]] int DaysToSpot() const { return days_to_spot_; }
   /// The days on which the pair settles: open for both currencies and for the dollar.
   [[nodiscard]] const JointCalendar& Settlement() const { return settlement_; }
 
+  /// The day on which a spot trade of that day settles.
   [[nodiscard]] Day SpotDate(Day trade_date, ClosedTradeDate closed = ClosedTradeDate::kCountsAsNext) const;
 
   /// The day on which a trade of that tenor settles.

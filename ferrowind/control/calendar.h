@@ -10,6 +10,7 @@
 #include "ferrowind/platform/toolkit/control_site.h"
 #include "ferrowind/platform/values/value.h"
 
+/// The control that hosts embed, its column maps, and what adapters share.
 namespace ferrowind {
 
 class CalendarsWindow;

@@ -28,12 +28,21 @@ class FERROWIND_EXPORT GridField {
   /// `TmpIndex`.
   using GetIndexHandler = std::function<void(std::string& TmpLocalName, std::int32_t& TmpIndex)>;
 
+  ///@{
+  /// The field of the record set that fills the column; one that it does not have leaves the cells empty.
   [[nodiscard]] const std::string& FieldName() const { return field_name_; }
   void SetFieldName(const std::string& field_name) { field_name_ = field_name; }
+  ///@}
+  ///@{
+  /// Whether the column is shown; what is false here no stored layout shows.
   [[nodiscard]] bool Visible() const { return visible_; }
   void SetVisible(bool visible);
+  ///@}
+  ///@{
+  /// The column's title.
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   void SetCaption(const std::string& caption);
+  ///@}
 
   /// The component's own name of the column, by which the windows find it.
   [[nodiscard]] const std::string& LocalName() const { return local_name_; }
@@ -56,6 +65,7 @@ class FERROWIND_EXPORT GridField {
   /// True for a column that the component relies on.
   [[nodiscard]] bool IsConst() const { return is_const_; }
 
+  /// Has `handler` asked by `Index`, until the subscription is dropped.
   [[nodiscard]] platform::Subscription OnGetIndex(GetIndexHandler handler);
   /// Caption, visibility or function have been set.
   [[nodiscard]] platform::Subscription OnChange(std::function<void()> handler);

@@ -8,22 +8,32 @@ namespace ferrowind::type_library {
 
 /// The name of the library and the prefix of the programmatic identifiers.
 inline constexpr const char* kName = "Ferrowind";
+/// What hosts that create objects by name ask for.
 inline constexpr const char* kCalendarProgrammaticIdentifier = "Ferrowind.Calendar";
+/// As the version resource of the component's file says it: four parts.
 inline constexpr const char* kFileVersion = "1.2.0.10";
 
+/// A class of the library.
 struct Class {
+  /// Without the library's name.
   const char* name;
+  /// In registry form, with braces.
   const char* class_id;
+  /// The default interface.
   const char* interface_name;
+  /// Of the default interface, in registry form.
   const char* interface_id;
+  ///@{
   /// Null for a class without events.
   const char* events_name;
   const char* events_id;
+  ///@}
   /// Whether the class is marked as a control. No class carries a creation flag: hosts obtain the maps from
   /// the control.
   bool is_control;
 };
 
+/// All classes, the control first.
 inline constexpr Class kClasses[] = {
     {"Calendar", "{DED80419-449B-11D6-8AE6-0050228F1EE8}", "_Calendar",
      "{03C0325A-44B4-11D6-8AE6-0050228F1EE8}", "__Calendar", "{03C0325B-44B4-11D6-8AE6-0050228F1EE8}", true},
@@ -34,15 +44,22 @@ inline constexpr Class kClasses[] = {
      false},
 };
 
+/// How a member is asked for: called, read, read and written, or raised by the component.
 enum class MemberKind { kMethod, kPropertyGet, kPropertyGetPut, kEvent };
 
+/// A member of an interface, or of a class's events.
 struct Member {
+  /// One that `kClasses` names.
   const char* interface_name;
+  /// Unique in its interface.
   const char* name;
+  /// A property that is read and written is one member.
   MemberKind kind;
+  /// As late-bound hosts call the member.
   std::uint32_t dispatch_id;
 };
 
+/// All members, interface by interface, in the order of their slots.
 inline constexpr Member kMembers[] = {
     {"_Calendar", "ForceClosing", MemberKind::kMethod, 0x60030002},
     {"_Calendar", "Show", MemberKind::kMethod, 0x60030003},

@@ -11,6 +11,7 @@
 #include "ferrowind/loading/loaded_days.h"
 #include "ferrowind/platform/database/engine_registry.h"
 
+/// Business days of a database, read once and again when they have changed.
 namespace ferrowind::loading {
 
 /// The business days of a database, in the memory of a program that asks for them, and again when they have

@@ -11,6 +11,7 @@ namespace ferrowind::loading {
 
 /// What a database says of business days at a moment. It never changes, and any number of threads may ask.
 struct FERROWIND_EXPORT LoadedDays {
+  /// Those of all currencies that have prepared years.
   business_days::CalendarSet calendars;
   /// Those that come with the program, amended by those of the database.
   business_days::MarketConventions conventions;
@@ -18,12 +19,16 @@ struct FERROWIND_EXPORT LoadedDays {
 
 /// What is another than it was, the codes of currencies ascending.
 struct FERROWIND_EXPORT DayChanges {
+  /// Currencies that had no prepared year before.
   std::vector<std::string> added;
   /// Days of theirs are others, or more or fewer years are prepared.
   std::vector<std::string> changed;
+  /// Currencies that have no prepared year any more.
   std::vector<std::string> removed;
+  /// Whether days to spot, or what dollar holidays mean, are others than before.
   bool has_other_conventions = false;
 
+  /// False when the databases said the same both times.
   [[nodiscard]] bool Any() const {
     return has_other_conventions || !added.empty() || !changed.empty() || !removed.empty();
   }

@@ -15,16 +15,23 @@
 #include "ferrowind/platform/services/words.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 
+/// What the component asks of its surroundings: ports, which hosts may implement, and the values that cross
+/// them.
 namespace ferrowind::platform {
 
 /// The component's surroundings, put together by the host's composition root.
 ///
 /// References only: everything must outlive the component's use on the thread that it was attached on.
 struct FERROWIND_EXPORT Platform {
+  /// Creates the dictionary and the shared services, by name.
   ObjectFactory& objects;
+  /// Calls the procedures of the calendar database.
   CommandFactory& commands;
+  /// Makes the windows, on whose thread the component is used.
   Toolkit& toolkit;
+  /// Names and reads days for the operator.
   const Locale& locale;
+  /// Says which day is today.
   const Clock& clock;
   /// The folder that the component's own files lie in, such as the animation; UTF-8, without a trailing
   /// separator.

@@ -8,6 +8,7 @@
 #include "ferrowind/platform/database/engine.h"
 #include "ferrowind/platform/values/failure.h"
 
+/// Calendar databases on PostgreSQL servers.
 namespace ferrowind::postgres {
 
 class KeptSessions;
@@ -36,9 +37,11 @@ class FERROWIND_EXPORT Engine : public platform::Engine {
   Engine& operator=(const Engine&) = delete;
   ~Engine() override;
 
+  ///@{
   /// The schemes of its connection strings.
   static constexpr const char* kScheme = "postgresql";
   static constexpr const char* kShortScheme = "postgres";
+  ///@}
 
   [[nodiscard]] std::unique_ptr<platform::Connection> Connect(const std::string& connection_string) override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadDictionary(const std::string& connection_string,

@@ -10,6 +10,7 @@
 #include "ferrowind/export.h"
 #include "ferrowind/platform/database/engine.h"
 
+/// Calendar databases in SQLite files.
 namespace ferrowind::sqlite {
 
 class DatabaseHandle;

@@ -15,6 +15,7 @@ class FERROWIND_EXPORT WaitBudget {
 
   /// Another undertaking begins.
   void Renew() { left_ = most_; }
+  /// What may still be waited until the next `Renew`; never negative.
   [[nodiscard]] std::chrono::milliseconds Left() const;
   /// Sleeps a moment, the longer the more `attempts` there were before, and takes it off. False, at once,
   /// when nothing is left.

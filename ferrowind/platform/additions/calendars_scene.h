@@ -16,10 +16,14 @@ namespace ferrowind::platform {
 
 /// A calendar that a window works on.
 struct FERROWIND_EXPORT CalendarOnShow {
+  ///@{
   /// The number of its currency, and its code as the window shows it.
   std::int32_t currency_id = 0;
   std::string currency;
+  ///@}
+  /// The year of its days.
   std::int32_t year = 0;
+  /// The same calendar.
   friend bool operator==(const CalendarOnShow&, const CalendarOnShow&) = default;
 };
 
@@ -29,12 +33,15 @@ class FERROWIND_EXPORT CalendarsScene {
  public:
   virtual ~CalendarsScene() = default;
 
+  /// The window itself, shown or not yet.
   [[nodiscard]] virtual Form& Window() = 0;
   /// The tree of the currencies and their calendars.
   [[nodiscard]] virtual Tree& Currencies() = 0;
   /// The grid of the days. Its given columns are found by their keys, such as "FullDate".
   [[nodiscard]] virtual Grid& Days() = 0;
+  /// The window's tool bar, where its own tools and those of the additions stand.
   [[nodiscard]] virtual ToolBar& Tools() = 0;
+  /// The panels at the window's foot.
   [[nodiscard]] virtual StatusBar& Bar() = 0;
 
   /// The calendar whose days the grid shows; nothing while it shows none.

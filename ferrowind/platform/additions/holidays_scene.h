@@ -16,8 +16,11 @@ namespace ferrowind::platform {
 
 /// A rule that the operator has chosen, as the window's list holds it; each value possibly empty.
 struct FERROWIND_EXPORT ChosenRule {
+  /// The rule's number.
   Value id;
+  /// The number of its holiday type: 2 holiday, 3 celebration, 4 holiday point.
   Value type;
+  /// The rule's name as the list shows it.
   Value name;
   /// The date that the rule is kept with, of whatever year; a weekday rule has none.
   Value date;
@@ -30,9 +33,11 @@ class FERROWIND_EXPORT HolidaysScene {
  public:
   virtual ~HolidaysScene() = default;
 
+  /// The window itself, shown or not yet.
   [[nodiscard]] virtual Form& Window() = 0;
   /// The list of the rules. Its given columns are found by their keys, such as "ID_Holiday".
   [[nodiscard]] virtual Grid& Rules() = 0;
+  /// The window's tool bar, where its own tools and those of the additions stand.
   [[nodiscard]] virtual ToolBar& Tools() = 0;
 
   /// The calendar that rules are assigned to.

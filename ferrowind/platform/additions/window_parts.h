@@ -16,10 +16,12 @@ struct FERROWIND_EXPORT WindowParts {
   std::vector<ControlDesign> controls = {};
   /// Those that `bar` and `menu` name.
   std::vector<ToolDesign> tools = {};
+  ///@{
   /// The ids on the window's bar, and those in its popup menu where it has one; `kToolSeparator` between
   /// them.
   std::vector<std::string> bar = {};
   std::vector<std::string> menu = {};
+  ///@}
 };
 
 }  // namespace ferrowind::platform

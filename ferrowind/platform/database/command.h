@@ -16,9 +16,11 @@ inline constexpr std::int32_t kStoredProcedureCommand = 4;
 inline constexpr std::int32_t kClientSideCursor = 3;
 /// "No particular option" of `Command::Execute`, and "no particular lock" of `ResultCursor::Clone`.
 inline constexpr std::int32_t kUnspecified = -1;
+///@{
 /// The states of a `ResultCursor`.
 inline constexpr std::int32_t kStateClosed = 0;
 inline constexpr std::int32_t kStateOpen = 1;
+///@}
 
 /// One of the record sets that an executed command produced, still held by the command's connection.
 class FERROWIND_EXPORT ResultCursor {
@@ -44,6 +46,7 @@ class FERROWIND_EXPORT Command {
 
   /// Only `kStoredProcedureCommand` is supported; anything else is the failure Invalid argument.
   virtual void SetType(std::int32_t type) = 0;
+  /// The name of the procedure.
   virtual void SetText(const std::string& text) = 0;
   /// Chooses the engine and opens the command's own new connection, or takes the one that is shared.
   virtual void SetConnection(const std::string& connection_string) = 0;
@@ -68,6 +71,7 @@ class FERROWIND_EXPORT SharedConnections {
   virtual ~SharedConnections() = default;
 };
 
+/// Makes the commands by which the component calls the procedures of its database.
 class FERROWIND_EXPORT CommandFactory {
  public:
   virtual ~CommandFactory() = default;

@@ -15,6 +15,7 @@ namespace ferrowind::platform {
 
 /// What a procedure call gave.
 struct FERROWIND_EXPORT CallOutcome {
+  /// What the procedure returned; 0 is done, and anything else has changed nothing.
   std::int32_t return_value = 0;
   /// In the order in which the procedure produced them, none of them null. Empty when the return value is
   /// not 0.

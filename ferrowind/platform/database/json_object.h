@@ -16,6 +16,7 @@ class FERROWIND_EXPORT JsonObject {
   /// type than a parameter can have is the failure Type mismatch.
   void Add(std::string_view name, const Value& value);
 
+  /// The object with the members that were added, "{}" before the first one.
   [[nodiscard]] std::string Text() const { return members_.empty() ? "{}" : members_ + "}"; }
 
  private:

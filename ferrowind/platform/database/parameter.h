@@ -11,6 +11,7 @@ namespace ferrowind::platform {
 /// The types that procedures declare for their parameters.
 enum class FERROWIND_EXPORT ParameterType { kInt16, kInt32, kText, kDate };
 
+/// Whether a parameter is given to the procedure or is what it returns.
 enum class FERROWIND_EXPORT ParameterDirection { kInput, kReturnValue };
 
 /// A parameter as the database declares it.
@@ -19,7 +20,9 @@ struct FERROWIND_EXPORT ParameterDescription {
   std::string name;
   /// 0 for the return value; the inputs count from 1.
   std::int32_t position = 0;
+  /// What its value is converted to before the call.
   ParameterType type = ParameterType::kInt32;
+  /// One of a procedure's parameters is its return value.
   ParameterDirection direction = ParameterDirection::kInput;
 };
 

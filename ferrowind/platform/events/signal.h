@@ -21,12 +21,15 @@ namespace ferrowind::platform {
 template <typename... Arguments>
 class FERROWIND_EXPORT Signal {
  public:
+  /// What is called with the arguments of `Emit`.
   using Handler = std::function<void(Arguments...)>;
 
   Signal() = default;
   Signal(const Signal&) = delete;
   Signal& operator=(const Signal&) = delete;
 
+  /// Has the handler, which must not be empty, called until the subscription is dropped; that may outlive the
+  /// signal.
   [[nodiscard]] Subscription Subscribe(Handler handler) {
     auto slot = std::make_shared<Slot>(Slot{std::move(handler)});
     state_->subscribed.push_back(slot);
@@ -38,6 +41,7 @@ class FERROWIND_EXPORT Signal {
     });
   }
 
+  /// Calls the handlers that are subscribed now, in the order in which they were.
   void Emit(Arguments... arguments) const {
     // Both are held here, since a handler may destroy the signal or drop its own subscription.
     const std::shared_ptr<State> state = state_;

@@ -20,7 +20,9 @@ class FERROWIND_EXPORT Subscription {
 
   Subscription(const Subscription&) = delete;
   Subscription& operator=(const Subscription&) = delete;
+  /// `other` holds no subscription afterwards.
   Subscription(Subscription&& other) noexcept : unsubscribe_(std::exchange(other.unsubscribe_, nullptr)) {}
+  /// Drops what was held, and takes over what `other` holds.
   Subscription& operator=(Subscription&& other) noexcept {
     if (this != &other) {
       Reset();

@@ -39,10 +39,13 @@ enum class FERROWIND_EXPORT ActionKind {
 
 /// An action, and what it is about. What does not belong to the kind, or could not be told, is empty.
 struct FERROWIND_EXPORT OperatorAction {
+  /// Which of the members below count.
   ActionKind kind = ActionKind::kRefresh;
   /// As the tree shows it, such as "EUR".
   std::string currency;
+  /// Of the calendar; 0 for none.
   std::int32_t year = 0;
+  /// The day that the action is about, where it is about one.
   std::optional<Date> day;
   /// The names of all rules that the action is meant for, in their order. One that has none is "".
   std::vector<std::string> rules;
@@ -70,6 +73,7 @@ class FERROWIND_EXPORT ActionObserver {
  public:
   virtual ~ActionObserver() = default;
 
+  /// The operator has asked for something, and nothing was done of it yet.
   virtual void ActionBegan(const OperatorAction& action) = 0;
   /// A change of the database was asked for: it is made when the return value is 0, else nothing was
   /// changed.
@@ -78,6 +82,7 @@ class FERROWIND_EXPORT ActionObserver {
   virtual void ReadEnded(const ActionStep& step) = 0;
   /// The days of a calendar on show were read again, and that many differ from what was shown before.
   virtual void DaysReread(std::int32_t changed) = 0;
+  /// All is done, or has failed, that the action began; comes for every `ActionBegan`.
   virtual void ActionEnded() = 0;
 
   /// A question to the operator is about to open; `action` is what will be done when the answer is yes. No

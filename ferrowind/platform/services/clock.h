@@ -5,6 +5,7 @@
 
 namespace ferrowind::platform {
 
+/// Tells which day it is.
 class FERROWIND_EXPORT Clock {
  public:
   virtual ~Clock() = default;

@@ -10,6 +10,7 @@ namespace ferrowind::platform {
 
 /// What a typed text means as a date.
 struct FERROWIND_EXPORT DateReading {
+  /// Nothing when the text is no date.
   std::optional<Date> date = {};
   /// Why the text is none, for the operator; empty when there is a date.
   std::string refusal = {};

@@ -25,6 +25,8 @@ class FERROWIND_EXPORT SharedServices : public OutsideObject {
   /// at its default, which means the settings of the current user.
   [[nodiscard]] virtual Value ReadSetting(const std::string& section, const std::string& name,
                                           const Value& user, const Value& default_value) = 0;
+  /// Stores the value under the name in the section, in place of one that is there, for `ReadSetting` to
+  /// give.
   virtual void WriteSetting(const std::string& section, const std::string& name, const Value& value) = 0;
 
   /// Writes one line of trace; `text` may hold any character.

@@ -14,6 +14,7 @@ class FERROWIND_EXPORT Animation : public Control {
   virtual void Open(const std::string& path) = 0;
   /// Failure when no animation is open.
   virtual void Play() = 0;
+  /// Shows nothing any more; does nothing when it does not play.
   virtual void Stop() = 0;
 };
 

@@ -21,11 +21,15 @@ class FERROWIND_EXPORT Element {
 /// `Failure` only where they say so.
 class FERROWIND_EXPORT Control : public Element {
  public:
+  /// Whether the operator may use the control, as far as it is up to the control itself.
   [[nodiscard]] virtual bool Enabled() const = 0;
   /// A control in a disabled frame cannot be used either, but keeps its own `Enabled`.
   virtual void SetEnabled(bool enabled) = 0;
+  ///@{
+  /// Whether the control is shown while its form is.
   [[nodiscard]] virtual bool Visible() const = 0;
   virtual void SetVisible(bool visible) = 0;
+  ///@}
   /// Outer height in twips.
   [[nodiscard]] virtual float Height() const = 0;
   /// A negative height is the failure Invalid argument. A layout may stretch the control afterwards.

@@ -17,6 +17,7 @@ class FERROWIND_EXPORT DatePicker : public Control {
  public:
   /// The day that the picker holds; while it holds a text that is none, the last day that it showed.
   [[nodiscard]] virtual platform::Date Date() const = 0;
+  /// Shows the day, in place of a text that is none; the operator stays in its year from then on.
   virtual void SetDate(const platform::Date& date) = 0;
   /// How the day is shown: "d" day, "MMMM" full month name in the operator's language, "yyyy" year; all other
   /// characters stand for themselves.

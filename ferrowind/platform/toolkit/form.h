@@ -18,17 +18,25 @@ namespace ferrowind::platform {
 /// unloaded; dropping it before that unloads nothing and raises nothing, but hides what belongs to it.
 class FERROWIND_EXPORT Form : public Element {
  public:
+  ///@{
+  /// The title of the window.
   [[nodiscard]] virtual std::string Caption() const = 0;
   virtual void SetCaption(const std::string& caption) = 0;
+  ///@}
+  ///@{
+  /// Where the outer frame's left upper corner is on the screen.
   [[nodiscard]] virtual float Left() const = 0;
   virtual void SetLeft(float left) = 0;
   [[nodiscard]] virtual float Top() const = 0;
   virtual void SetTop(float top) = 0;
+  ///@}
+  ///@{
+  /// The outer size. A negative width or height, or one that is not finite, is the failure Invalid argument.
   [[nodiscard]] virtual float Width() const = 0;
-  /// A negative width or height, or one that is not finite, is the failure Invalid argument.
   virtual void SetWidth(float width) = 0;
   [[nodiscard]] virtual float Height() const = 0;
   virtual void SetHeight(float height) = 0;
+  ///@}
   /// The height of the area inside the frame.
   [[nodiscard]] virtual float InnerHeight() const = 0;
 
@@ -52,7 +60,9 @@ class FERROWIND_EXPORT Form : public Element {
   /// Brings a form on show to the front, out of being minimised too, and gives it the focus; does nothing to
   /// one that is hidden.
   virtual void Raise() = 0;
+  /// Takes the form from the screen; it stays loaded and can be shown again. Ends its `ShowModal`.
   virtual void Hide() = 0;
+  /// Between being shown and being hidden or unloaded; also while it is minimised.
   [[nodiscard]] virtual bool IsShown() const = 0;
   /// Closes the form: raises `OnCloseQuery` when it was loaded and not yet unloaded, then hides it for good,
   /// and with it the modal forms and messages that belong to it, which are not asked. True when it is closed,
@@ -60,6 +70,7 @@ class FERROWIND_EXPORT Form : public Element {
   /// nothing.
   virtual bool Unload() = 0;
 
+  /// The form is loaded: once, before it is shown for the first time.
   [[nodiscard]] virtual Subscription OnLoad(std::function<void()> handler) = 0;
   /// The form got another size, or is shown for the first time.
   [[nodiscard]] virtual Subscription OnResize(std::function<void()> handler) = 0;

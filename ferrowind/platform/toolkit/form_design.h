@@ -8,6 +8,7 @@
 
 namespace ferrowind::platform {
 
+/// The kinds of control, each with the port of its name; frames, panels and splitters are plain `Control`s.
 enum class FERROWIND_EXPORT ControlKind {
   kLabel,
   kButton,
@@ -30,7 +31,9 @@ enum class FERROWIND_EXPORT ControlKind {
 
 /// A control as a view needs it. Where it stands is the adapter's layout.
 struct FERROWIND_EXPORT ControlDesign {
+  /// What the view finds the control as, with `ControlOf`.
   ControlKind kind;
+  /// Unique in the form: `Element::Name`.
   std::string name;
   /// The caption or first text; "" for none.
   std::string text = {};
@@ -38,6 +41,7 @@ struct FERROWIND_EXPORT ControlDesign {
   /// it is the first button; in a sizable window without one, Enter presses the button that has the focus
   /// alone.
   bool is_default_button = false;
+  /// The button that Esc presses while the focused control does not take the key.
   bool is_cancel_button = false;
   /// For a text box, one of a form at most: it takes what the operator types while the focus is on a control
   /// that takes no text, and its text is selected whenever it gets the focus, so that typing replaces it.
@@ -57,6 +61,7 @@ struct FERROWIND_EXPORT ControlDesign {
   bool sorts = false;
 };
 
+/// The frame around a form.
 enum class FERROWIND_EXPORT FormBorder {
   /// A window with a frame to resize it by, with minimise and maximise boxes and a window menu.
   kSizable,
@@ -68,17 +73,25 @@ enum class FERROWIND_EXPORT FormBorder {
   kNone,
 };
 
+/// Where a form opens: where the program has placed it, in the middle of the window that it belongs to, or of
+/// the screen.
 enum class FERROWIND_EXPORT FormStart { kAsPlaced, kCenterOwner, kCenterScreen };
 
 /// A form as a view needs it: the toolkit makes the form of this name and gives it these texts.
 struct FERROWIND_EXPORT FormDesign {
+  /// By which the toolkit knows the layout.
   std::string name;
+  /// The title; `Form::SetCaption` gives another.
   std::string caption = {};
+  /// For as long as the form lives.
   FormBorder border = FormBorder::kSizable;
+  /// Counts until the form has been placed.
   FormStart start = FormStart::kAsPlaced;
+  ///@{
   /// The designed client area, in twips. Dialogs grow where their texts need it.
   float client_width = 0;
   float client_height = 0;
+  ///@}
   /// Whether Esc closes the form as its close box does, when neither the focused control nor a cancel button
   /// on show takes the key.
   bool closes_by_escape = false;

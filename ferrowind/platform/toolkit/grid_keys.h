@@ -7,9 +7,12 @@
 
 namespace ferrowind::platform {
 
+///@{
+/// How a column is sorted.
 inline constexpr std::int32_t kSortAscending = 1;
 inline constexpr std::int32_t kSortDescending = -1;
 inline constexpr std::int32_t kSortNone = 0;
+///@}
 
 /// One sort key or grouping key of a grid. The grid keeps `Index` in step while the key is in its list; a key
 /// that the grid has dropped keeps its last values, so that it can be added again.
@@ -27,6 +30,7 @@ struct FERROWIND_EXPORT GridKey {
 class FERROWIND_EXPORT GridKeyList {
  public:
   virtual ~GridKeyList() = default;
+  /// How many keys there are, which is the last position.
   [[nodiscard]] virtual std::int32_t Count() const = 0;
   /// The key itself, shared with the grid. Positions count from 1; one outside the list is the failure
   /// Subscript out of range.
@@ -37,6 +41,7 @@ class FERROWIND_EXPORT GridKeyList {
   /// negative position, is the failure Subscript out of range; a sort order that is none is the failure
   /// Invalid argument.
   virtual void Add(std::int16_t column_index, std::int32_t sort_order, std::int16_t position) = 0;
+  /// Drops all keys.
   virtual void Clear() = 0;
 };
 

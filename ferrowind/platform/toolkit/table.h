@@ -57,9 +57,13 @@ enum class FERROWIND_EXPORT CellTone {
   kLoud,
 };
 
+/// A cell of a table: its text, behind its mark.
 struct FERROWIND_EXPORT TableCell {
+  /// Plain text on one line.
   std::string text = {};
+  /// Stands before the text.
   CellMark mark = CellMark::kNone;
+  /// Of the text and the mark.
   CellTone tone = CellTone::kNormal;
   /// What the cell means in a sentence: its tooltip, and what assistive tools add to its text. "" for nothing
   /// to add.
@@ -68,6 +72,7 @@ struct FERROWIND_EXPORT TableCell {
   std::optional<std::int64_t> order = {};
 };
 
+/// A row of a table.
 struct FERROWIND_EXPORT TableRow {
   /// Unique in the table, letter case counts: what the program knows the row by.
   std::string key;
@@ -80,10 +85,13 @@ struct FERROWIND_EXPORT TableRow {
 /// Where texts stand in their column; leading is left where one reads from left to right.
 enum class FERROWIND_EXPORT CellAlignment { kLeading, kCentre, kTrailing };
 
+/// A column of a table.
 struct FERROWIND_EXPORT TableColumn {
   /// Unique in the table, letter case counts.
   std::string key;
+  /// The title; "" for none.
   std::string caption;
+  /// Of the title as of the texts below it.
   CellAlignment alignment = CellAlignment::kLeading;
   /// Whether the column takes a share of the room that the others leave.
   bool stretches = false;
@@ -111,6 +119,7 @@ class FERROWIND_EXPORT Table : public Control {
   virtual void SetRows(const std::vector<TableRow>& rows) = 0;
   /// What the table says while it has no rows; nothing at first.
   virtual void SetEmptyText(const std::string& text) = 0;
+  /// All rows; the operator hides none.
   [[nodiscard]] virtual std::size_t RowCount() const = 0;
   /// The keys of all rows in the order on show.
   [[nodiscard]] virtual std::vector<std::string> RowKeys() const = 0;

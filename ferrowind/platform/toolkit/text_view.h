@@ -11,6 +11,7 @@ namespace ferrowind::platform {
 /// but not change. Empty at first, or the design's text.
 class FERROWIND_EXPORT TextView : public Control {
  public:
+  /// The whole text, with "\n" between lines.
   [[nodiscard]] virtual std::string Text() const = 0;
   /// Letter by letter as it is, with "\n" between lines, from its beginning. The same text again leaves the
   /// place and the selection as they are.

@@ -32,8 +32,11 @@ namespace ferrowind::platform {
 
 /// A size on the screen, in twips.
 struct FERROWIND_EXPORT ScreenSize {
+  ///@{
+  /// Greater than 0.
   float width = 0;
   float height = 0;
+  ///@}
 };
 
 /// A kind of file that the operator can choose.
@@ -94,6 +97,7 @@ class FERROWIND_EXPORT Toolkit {
 
   /// Handles the user-interface messages that wait, and returns.
   virtual void ProcessPendingEvents() = 0;
+  /// Sounds the desktop's signal, where it has one.
   virtual void Beep() = 0;
 };
 

@@ -14,6 +14,7 @@ class FERROWIND_EXPORT UpDown : public Control {
  public:
   /// Sets the lowest and highest value and the step; the value is moved into the range.
   virtual void SetRange(std::int32_t lowest, std::int32_t highest, std::int32_t step) = 0;
+  /// The number that the arrows have stepped to, within the range.
   [[nodiscard]] virtual std::int32_t Value() const = 0;
   /// A value outside the range is the failure Invalid argument.
   virtual void SetValue(std::int32_t value) = 0;

@@ -21,17 +21,22 @@ enum class FERROWIND_EXPORT DayShape : std::uint8_t { kNone, kBar, kSquare, kDia
 
 /// How a day looks. Every meaning should have a shape or a letter of its own.
 struct FERROWIND_EXPORT DayLook {
+  /// What it means must be told without the colour as well.
   DayTint tint = DayTint::kNone;
+  /// Beside the letter, what tells the meaning to those who see no colours.
   DayShape shape = DayShape::kNone;
   /// At most two characters, which stand beside the day's number.
   std::string letter;
 
+  /// Same tint, shape and letter.
   friend bool operator==(const DayLook&, const DayLook&) = default;
 };
 
+/// A day that is not an ordinary one.
 struct FERROWIND_EXPORT YearDay {
   /// 1 to 366.
   std::int16_t day_of_year = 0;
+  /// In place of the plain look of ordinary days.
   DayLook look;
   /// What tooltips and assistive tools say of the day behind its date: "Good Friday, closed".
   std::string description;
@@ -51,6 +56,7 @@ struct FERROWIND_EXPORT YearCalendar {
   std::string key;
   /// A few characters, such as "EUR".
   std::string caption;
+  /// The calendar in full, for assistive tools.
   std::string description;
   /// The days that look otherwise than an ordinary one or are described otherwise; ascending, each once, all
   /// in the year.
@@ -61,14 +67,19 @@ struct FERROWIND_EXPORT YearCalendar {
   std::array<MonthNote, 12> months;
 };
 
+/// A line of the legend.
 struct FERROWIND_EXPORT YearLegendEntry {
+  /// Shown as a day of that look.
   DayLook look;
+  /// What the look means.
   std::string text;
 };
 
 /// A line of the list that printed pages have below the months.
 struct FERROWIND_EXPORT YearNote {
+  /// 1 to 366.
   std::int16_t day_of_year = 0;
+  /// What is noted of the day, behind its date; a long one wraps.
   std::string text;
 };
 
@@ -80,6 +91,7 @@ struct FERROWIND_EXPORT YearContent {
   std::optional<std::int16_t> today;
   /// One is shown as twelve months of weeks, several as twelve months with a row for each calendar.
   std::vector<YearCalendar> calendars;
+  /// Of the looks that the days have, in the order in which they are listed.
   std::vector<YearLegendEntry> legend;
   /// Ascending by day.
   std::vector<YearNote> notes;
@@ -91,11 +103,14 @@ struct FERROWIND_EXPORT YearContent {
 struct FERROWIND_EXPORT YearCell {
   /// The calendar's key.
   std::string calendar;
+  /// 1 to 366.
   std::int16_t day_of_year = 0;
 
+  /// The same day of the same calendar.
   friend bool operator==(const YearCell&, const YearCell&) = default;
 };
 
+/// The kinds of file that pages are written as.
 enum class FERROWIND_EXPORT PageFile : std::uint8_t { kPdf, kPng };
 
 /// A year at a glance: all days of one calendar or of several, of which the operator selects some.

@@ -9,6 +9,7 @@
 
 namespace ferrowind::platform {
 
+///@{
 /// Conversions between the types of a `Value`, by the platform's rules.
 ///
 /// Each fails with Invalid use of Null for an empty value, Type mismatch for one that has no such meaning
@@ -19,6 +20,7 @@ namespace ferrowind::platform {
 [[nodiscard]] FERROWIND_EXPORT std::int32_t ToInt32(const Value& value);
 [[nodiscard]] FERROWIND_EXPORT float ToSingle(const Value& value);
 [[nodiscard]] FERROWIND_EXPORT double ToDouble(const Value& value);
+///@}
 /// Takes a date, ISO 8601 text "YYYY-MM-DD", or a number as a date serial.
 [[nodiscard]] FERROWIND_EXPORT Date ToDate(const Value& value);
 /// Numbers in decimal without an exponent, dates as "YYYY-MM-DD", booleans as "True" and "False". Fails for

@@ -25,6 +25,7 @@ namespace ferrowind::platform {
 template <typename T>
 class FERROWIND_EXPORT KeyedCollection {
  public:
+  /// Adds the element behind the others.
   void Append(const std::string& key, T element) {
     std::string folded = FoldCase(key);
     if (positions_.contains(folded)) throw DuplicateKey();
@@ -37,8 +38,10 @@ class FERROWIND_EXPORT KeyedCollection {
     }
   }
 
+  /// The element of that key or position; valid until one is added or removed.
   [[nodiscard]] const T& At(const Value& index) const { return entries_[PositionOf(index)].element; }
 
+  /// Takes the element of that key or position out; those behind it move up.
   void Remove(const Value& index) {
     const std::size_t position = PositionOf(index);
     positions_.erase(entries_[position].folded_key);
@@ -46,6 +49,7 @@ class FERROWIND_EXPORT KeyedCollection {
     for (std::size_t i = position; i < entries_.size(); ++i) positions_[entries_[i].folded_key] = i;
   }
 
+  /// How many elements there are, which is the last position.
   [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
 
  private:

@@ -32,8 +32,11 @@ class FERROWIND_EXPORT Phrase {
   [[nodiscard]] static Phrase OfNumber(std::int64_t number, const std::string& one, std::string many,
                                        std::vector<Phrase> arguments = {});
 
+  /// True when the phrase says nothing.
   [[nodiscard]] bool IsEmpty() const { return text_.empty(); }
+  /// In the words that it was made of.
   [[nodiscard]] std::string InEnglish() const;
+  /// With each part in the language of `translation`, in English where that has none.
   [[nodiscard]] std::string In(const Translation& translation) const;
 
  private:

@@ -15,12 +15,14 @@ namespace ferrowind::platform {
 
 /// The immutable rows of a record set: named fields, and the cells row by row.
 struct FERROWIND_EXPORT RecordRows {
+  /// The names, in the order of the cells of a row.
   std::vector<std::string> fields;
   /// Row-major, `fields.size()` cells a row.
   std::vector<Value> cells;
   /// Counted apart, so that a result without fields can still have no rows.
   std::size_t row_count = 0;
 
+  /// Precondition: `row < row_count` and `field < fields.size()`, both from 0 on.
   [[nodiscard]] const Value& Cell(std::size_t row, std::size_t field) const {
     return cells[row * fields.size() + field];
   }
@@ -45,6 +47,7 @@ class FERROWIND_EXPORT RecordSet {
   /// A record set of the same rows in constant time, without a filter, its cursor on the first row.
   [[nodiscard]] std::shared_ptr<RecordSet> Clone() const;
 
+  /// Fields count from 0 where they are told by position.
   [[nodiscard]] std::size_t FieldCount() const { return rows_->fields.size(); }
   /// Precondition: `field < FieldCount()`.
   [[nodiscard]] const std::string& FieldName(std::size_t field) const { return rows_->fields[field]; }
@@ -53,8 +56,11 @@ class FERROWIND_EXPORT RecordSet {
   /// As `FindField`; an unknown name is the failure 3265, which names it.
   [[nodiscard]] std::size_t FieldNamed(std::string_view name) const;
 
+  ///@{
+  /// Whether the cursor stands before the first visible row, and behind the last one.
   [[nodiscard]] bool Bof() const;
   [[nodiscard]] bool Eof() const;
+  ///@}
   /// Moves to the first visible row; without one, stays at `Bof` and `Eof`.
   void MoveFirst();
   /// Moves to the next visible row or behind the last one; behind the last one it is the failure 3021.
@@ -71,6 +77,7 @@ class FERROWIND_EXPORT RecordSet {
   /// them; an empty filter shows all rows. A filter that does not parse or names an unknown field is the
   /// failure 3001, which names the place; the old filter then stays on and the cursor where it is.
   void SetFilter(const std::string& filter);
+  /// The filter that is on, as it was set; "" for none.
   [[nodiscard]] const std::string& Filter() const { return filter_; }
 
   /// The number of visible rows.

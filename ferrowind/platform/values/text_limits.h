@@ -8,8 +8,9 @@
 #include "ferrowind/export.h"
 #include "ferrowind/platform/values/phrase.h"
 
-/// How long the texts may be that a calendar database takes. What it holds from before there were limits may
-/// be longer.
+// How long the texts may be that a calendar database takes. What it holds from before there were limits may
+// be longer.
+
 namespace ferrowind::platform {
 
 /// Of names, in characters.
@@ -23,6 +24,7 @@ inline constexpr std::size_t kLongestList = 1048576;
 /// character counts as one.
 [[nodiscard]] FERROWIND_EXPORT std::size_t CharacterCount(std::string_view text);
 
+/// What a text is, which says how long it may be.
 enum class FERROWIND_EXPORT LimitedText : std::uint8_t {
   /// These as long as names may be: of a rule or a currency, of the day that a holiday moves to, of who
   /// publishes a book.

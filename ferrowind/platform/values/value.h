@@ -20,11 +20,17 @@ class RecordSet;
 /// character, NUL included.
 class FERROWIND_EXPORT Value {
  public:
+  /// A record set that all copies of the value share; null is an object that is none.
   using Object = std::shared_ptr<RecordSet>;
+  /// What a value can hold; `std::monostate` is empty.
   using Storage = std::variant<std::monostate, bool, std::int16_t, std::int32_t, std::int64_t, float, double,
                                std::string, Date, Object>;
 
+  /// Empty.
   Value() = default;
+  ///@{
+  /// Holds the value as it is, of that very type. Not explicit, so that lists of parameters can be written
+  /// down. A text is copied and must not be null.
   Value(bool value) : storage_(value) {}
   Value(std::int16_t value) : storage_(value) {}
   Value(std::int32_t value) : storage_(value) {}
@@ -35,11 +41,14 @@ class FERROWIND_EXPORT Value {
   Value(const char* value) : storage_(std::string(value)) {}
   Value(Date value) : storage_(value) {}
   Value(Object value) : storage_(std::move(value)) {}
+  ///@}
 
+  /// True for NULL, and for what was never given.
   [[nodiscard]] bool IsEmpty() const { return std::holds_alternative<std::monostate>(storage_); }
   /// True when the value refers to an object (a record set), even to none.
   [[nodiscard]] bool IsObject() const { return Is<Object>(); }
 
+  /// True when the value is of the type `T` of `Storage`. Never converts.
   template <typename T>
   [[nodiscard]] bool Is() const {
     return std::holds_alternative<T>(storage_);
@@ -49,6 +58,7 @@ class FERROWIND_EXPORT Value {
   [[nodiscard]] const T* If() const {
     return std::get_if<T>(&storage_);
   }
+  /// For visitors of every type; alive as long as the value is not assigned to.
   [[nodiscard]] const Storage& Get() const { return storage_; }
 
   /// Same type and same value; objects are equal when they are the same object.

@@ -9,6 +9,7 @@
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/platform/toolkit/control_site.h"
 
+/// The surroundings of the control in Qt, and the control as a widget.
 namespace ferrowind::qt {
 
 /// The control as a widget that a host places on one of its windows, where it shows a small calendar of 16 by
@@ -33,6 +34,7 @@ class FERROWIND_EXPORT CalendarWidget : public QWidget, private platform::Contro
   /// The component's public interface; without a control the failure 91.
   [[nodiscard]] Calendar& Control() const;
 
+  /// The size of the mark that stands for the control on the host's window.
   [[nodiscard]] QSize sizeHint() const override;
 
  public Q_SLOTS:
@@ -40,13 +42,11 @@ class FERROWIND_EXPORT CalendarWidget : public QWidget, private platform::Contro
   /// front, with the keyboard. Without a control nothing is opened, and Qt's log says so.
   void ShowInFront();
 
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
-
  private:
   class WidgetsCalendar;
 
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void SetSize(float width, float height) override;
   [[nodiscard]] platform::Subscription OnResize(std::function<void()> handler) override;
 

@@ -15,6 +15,7 @@ namespace ferrowind::qt {
 /// controls' kinds; its texts are only there for the designer.
 class FERROWIND_EXPORT FormLayouts {
  public:
+  /// Fills an empty window.
   using Builder = std::function<void(QDialog& window)>;
 
   /// A layout of the same name is replaced.

@@ -14,6 +14,7 @@ class FullDateReader;
 /// Names and dates in the language of the system, or of any other Qt locale.
 class FERROWIND_EXPORT QtLocale : public platform::Locale {
  public:
+  /// `locale` says the language, the order of a typed date and the first day of the week.
   explicit QtLocale(QLocale locale = QLocale::system());
 
   [[nodiscard]] std::string MonthName(int month) const override;
