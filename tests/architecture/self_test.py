@@ -1,9 +1,12 @@
 #!/usr/bin/env python3
 """Proves that each architecture check refuses what it is there to refuse, on small examples of its own."""
 
+import contextlib
+import io
 import json
 import pathlib
 import shutil
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -11,11 +14,13 @@ import unittest
 import brought_programs
 import build_types
 import core_only
+import exported_symbols
 import failure_texts
 import format as format_check
 import headers_alone
 import include_graph
 import installed_package
+import reference
 import shell_programs
 import workflow
 
@@ -611,6 +616,84 @@ class Translations(TemporaryTree):
         self.write("ferrowind/data/said.cpp", "int a; //: said\n")
         with self.assertRaises(ValueError):
             said_texts.texts_of_tree(self.root)
+
+
+class Reference(TemporaryTree):
+    def check(self, header):
+        path = self.write("include/thing.h", header)
+        settings = self.write("Doxyfile", f'INPUT = "{path}"\nQUIET = YES\nGENERATE_LATEX = NO\n'
+                                          "MACRO_EXPANSION = YES\nEXPAND_ONLY_PREDEF = YES\nPREDEFINED = FERROWIND_EXPORT=\n")
+        said = io.StringIO()
+        with contextlib.redirect_stdout(said):
+            status = reference.main([str(settings)])
+        return status, said.getvalue()
+
+    def test_takes_what_is_documented(self):
+        status, said = self.check("/// Of things.\nnamespace things {\n/// A thing.\nstruct FERROWIND_EXPORT Thing {\n"
+                                  "  /// In metres.\n  int size;\n};\n}\n")
+        self.assertEqual(status, 0, said)
+
+    def test_names_a_member_without_a_comment(self):
+        status, said = self.check("/// Of things.\nnamespace things {\n/// A thing.\nstruct FERROWIND_EXPORT Thing {\n"
+                                  "  int size;\n};\n}\n")
+        self.assertEqual(status, 1)
+        self.assertIn("Member size", said)
+
+    def test_names_a_namespace_that_hides_its_members(self):
+        status, said = self.check("namespace things {\nint Size(int thing);\n/// A thing.\nstruct FERROWIND_EXPORT Thing {};\n}\n")
+        self.assertEqual(status, 1)
+        self.assertIn("things", said)
+
+    def test_names_a_type_that_is_not_found(self):
+        status, said = self.check("/// Of things.\nnamespace things {\n/// A thing.\nstruct Thing {};\n#if 0\n"
+                                  "struct FERROWIND_EXPORT Other {};\n#endif\n}\n")
+        self.assertEqual(status, 1)
+        self.assertIn("Other", said)
+
+
+class ExportedSymbols(TemporaryTree):
+    SOURCE = ("#define EXPORT __attribute__((visibility(\"default\")))\n"
+              "namespace ferrowind {\nstruct EXPORT Port { virtual int Ask() { return 1; } };\n"
+              "EXPORT int Size(int thing) { return thing + Port().Ask(); }\nint Hidden() { return 2; }\n}\n")
+
+    def library(self, source):
+        library = self.root / "libferrowind.o"
+        path = self.write("source.cpp", source)
+        subprocess.run(["clang++", "-std=c++20", "-fvisibility=hidden", "-fPIC", "-c", str(path), "-o", str(library)], check=True)
+        return library
+
+    def check(self, source, *options):
+        (self.root / "lists").mkdir(exist_ok=True)
+        said = io.StringIO()
+        with contextlib.redirect_stdout(said):
+            status = exported_symbols.main([*options, str(self.root / "lists"), str(self.library(source))])
+        return status, said.getvalue()
+
+    def test_sees_what_is_shown_and_no_more(self):
+        shown = exported_symbols.exported(self.library(self.SOURCE))
+        self.assertIn("ferrowind::Size(int)", shown)
+        self.assertNotIn("ferrowind::Hidden()", shown)
+        self.assertIn("vtable for ferrowind::Port (24 bytes)", shown)
+
+    def test_takes_what_it_was_updated_with(self):
+        self.assertEqual(self.check(self.SOURCE, "--update")[0], 0)
+        self.assertEqual(self.check(self.SOURCE)[0], 0)
+
+    def test_refuses_another_signature_and_another_virtual_function(self):
+        self.check(self.SOURCE, "--update")
+        status, said = self.check(self.SOURCE.replace("int Size(int", "int Size(long"))
+        self.assertEqual(status, 1)
+        self.assertIn("no more: ferrowind::Size(int)", said)
+        self.assertIn("list has not: ferrowind::Size(long)", said)
+        status, said = self.check(self.SOURCE.replace("return 1; }", "return 1; } virtual void Tell() {}"))
+        self.assertEqual(status, 1)
+        self.assertIn("no more: vtable for ferrowind::Port (24 bytes)", said)
+
+    def test_refuses_a_library_that_shows_nothing(self):
+        self.check(self.SOURCE, "--update")
+        status, said = self.check("namespace ferrowind {}\n")
+        self.assertEqual(status, 1)
+        self.assertIn("nothing at all", said)
 
 
 if __name__ == "__main__":
