@@ -4,7 +4,11 @@
 
 namespace ferrowind::postgres {
 
-AnswerParts::AnswerParts(PGconn* connection) : connection_(connection) {}
+AnswerParts::Form AnswerParts::FormOver(const PGconn* /*connection*/) { return Form::kWhole; }
+
+AnswerParts::AnswerParts(PGconn* connection, Form form) : connection_(connection), form_(form) {}
+
+bool AnswerParts::Read() { return PQconsumeInput(connection_) == 1; }
 
 bool AnswerParts::Add(QueryResult part) {
   end_ = std::move(part);

@@ -41,7 +41,8 @@ FAMILIES = (
     ("<cli11>", re.compile(r"CLI/.+")),
     ("<json>", re.compile(r"nlohmann/.+")),
     # The C headers are here for what POSIX adds to them; the standard C++ ones have all the rest.
-    ("<posix>", re.compile(r"(unistd|fcntl|signal|pwd|poll|dlfcn|pthread|stdio|stdlib|time|wchar)\.h|sys/\w+\.h")),
+    ("<posix>", re.compile(r"(unistd|fcntl|signal|pwd|poll|dlfcn|pthread|stdio|stdlib|time|wchar)\.h|(sys|netinet)/\w+\.h")),
+    ("<linux>", re.compile(r"linux/\w+\.h")),
 )
 
 # Written by the build from files of the including folder itself: forms, meta objects, embedded SQL.

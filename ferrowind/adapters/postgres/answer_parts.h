@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include <libpq-fe.h>
@@ -13,18 +15,31 @@ struct ResultClear {
 };
 using QueryResult = std::unique_ptr<PGresult, ResultClear>;
 
-/// The answer to one statement, put together of the parts that libpq gives when it is asked for single rows.
-/// Otherwise it keeps whatever comes, and what answers in the place of a server may never end.
+/// The answer to one statement. libpq keeps whatever comes, and what answers in the place of a server may
+/// never end: an answer of more bytes than any calendar database gives is a failure, after which the
+/// connection is of no more use.
 class AnswerParts {
  public:
-  /// Asks for single rows of the statement whose answer is the next one of `connection`, which must outlive
-  /// the object. Does nothing behind the last answer.
-  explicit AnswerParts(PGconn* connection);
+  enum class Form {
+    /// libpq gives it whole; what comes meanwhile is counted.
+    kWhole,
+    /// Row by row, each of which is counted; that takes several times as long.
+    kRows,
+  };
+  /// How answers over `connection`, which is logged in, can be limited: its system counts what comes over it,
+  /// or does not.
+  [[nodiscard]] static Form FormOver(const PGconn* connection);
 
-  /// Adds the next part, which may be null. True when it was the last one.
+  /// Takes the answer that is the next one of `connection`, which must outlive the object.
+  AnswerParts(PGconn* connection, Form form);
+
+  /// Lets libpq read what has come. False when it cannot, of which its next result tells.
+  [[nodiscard]] bool Read();
+
+  /// Adds the next result of libpq, which may be null. True when it was the last one of the answer.
   ///
-  /// An answer that holds more than any calendar database gives, or another number of rows than it says, or
-  /// that is none to a statement, is a failure, after which the connection is of no more use.
+  /// Another number of rows than it says that there are is a failure, and so is what is no answer to a
+  /// statement.
   [[nodiscard]] bool Add(QueryResult part);
 
   /// The whole: rows, a success or an error; null when there was no answer.
@@ -32,9 +47,14 @@ class AnswerParts {
 
  private:
   void AddRow(const PGresult* row);
-  void RequireSaidRows(PGresult* end) const;
+  void RequireSaidRows(PGresult* end, std::size_t count) const;
 
-  const PGconn* connection_;
+  PGconn* connection_;
+  Form form_;
+  bool is_first_reading_ = true;
+  /// What had come in front of the second reading.
+  std::optional<std::uint64_t> bytes_before_;
+  /// Of single rows.
   QueryResult rows_;
   /// Counted here, since rows without columns leave no trace in `rows_`.
   std::size_t row_count_ = 0;

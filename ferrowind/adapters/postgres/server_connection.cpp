@@ -71,11 +71,14 @@ using LibraryText = std::unique_ptr<char, MemoryFree>;
 }  // namespace
 
 ServerConnection::ServerConnection(const std::string& uri, std::function<bool()> is_stopped)
-    : connection_(Connected(uri, is_stopped)), is_stopped_(std::move(is_stopped)) {
+    : connection_(Connected(uri, is_stopped)),
+      form_of_answers_(AnswerParts::FormOver(Get())),
+      is_stopped_(std::move(is_stopped)) {
   PQsetNoticeReceiver(Get(), TakeNotice, this);
 }
 
-ServerConnection::ServerConnection(ConnectionHandle connection) : connection_(std::move(connection)) {
+ServerConnection::ServerConnection(ConnectionHandle connection)
+    : connection_(std::move(connection)), form_of_answers_(AnswerParts::FormOver(Get())) {
   PQsetNoticeReceiver(Get(), TakeNotice, this);
   if (PQsetnonblocking(Get(), 1) != 0) throw LinkFailure(Get());
 }
@@ -150,10 +153,10 @@ QueryResult ServerConnection::TakeLastAnswer() {
 }
 
 QueryResult ServerConnection::TakeAnswer() {
-  AnswerParts parts(Get());
+  AnswerParts parts(Get(), form_of_answers_);
   try {
     do {
-      AwaitAnswer();
+      AwaitAnswer(parts);
     } while (!parts.Add(QueryResult(PQgetResult(Get()))));
   } catch (...) {
     GiveUp();
@@ -162,12 +165,12 @@ QueryResult ServerConnection::TakeAnswer() {
   return parts.Take();
 }
 
-void ServerConnection::AwaitAnswer() {
+void ServerConnection::AwaitAnswer(AnswerParts& answer) {
   // Of what goes wrong, PQgetResult tells.
   while (PQflush(Get()) >= 0 && PQisBusy(Get()) == 1) {
     const bool is_unsent = PQflush(Get()) == 1;
     AwaitServer(static_cast<short>(is_unsent ? POLLIN | POLLOUT : POLLIN));
-    if (PQconsumeInput(Get()) != 1) return;
+    if (!answer.Read()) return;
   }
 }
 

@@ -89,7 +89,7 @@ class ServerConnection {
  private:
   static void TakeNotice(void* connection, const PGresult* notice);
 
-  void AwaitAnswer();
+  void AwaitAnswer(AnswerParts& answer);
   /// Returns when there is something to read or, where `events` has it, room to write; or for a look at what
   /// an encrypted connection may have kept back.
   void AwaitServer(short events);
@@ -100,6 +100,7 @@ class ServerConnection {
   [[nodiscard]] QueryResult TakeLastAnswer();
 
   ConnectionHandle connection_;
+  AnswerParts::Form form_of_answers_;
   std::chrono::milliseconds time_ = std::chrono::milliseconds::max();
   Clock::time_point stops_at_ = Clock::time_point::max();
   Clock::time_point gives_up_at_ = Clock::time_point::max();

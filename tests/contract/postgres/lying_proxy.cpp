@@ -1,7 +1,9 @@
 #include "tests/contract/postgres/lying_proxy.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 #include <string_view>
@@ -13,6 +15,7 @@
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/time.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace ferrowind::contract {
@@ -91,10 +94,19 @@ std::string ServerMessage::Bytes() const {
   return bytes + body;
 }
 
-LyingProxy::LyingProxy(const std::string& server_port, Teller teller)
+LyingProxy::LyingProxy(const std::string& server_port, Teller teller, Place place)
     : teller_(std::move(teller)),
       server_port_(std::stoi(server_port)),
-      listener_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+      listener_(socket(place == Place::kLoopback ? AF_INET : AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+  if (place == Place::kLoopback) {
+    ListenOnLoopback();
+  } else {
+    ListenAtLocalSocket();
+  }
+  acceptor_ = std::thread([this] { Accept(); });
+}
+
+void LyingProxy::ListenOnLoopback() {
   sockaddr_in address = Loopback(0);
   socklen_t size = sizeof address;
   auto* const any = reinterpret_cast<sockaddr*>(&address);
@@ -102,8 +114,23 @@ LyingProxy::LyingProxy(const std::string& server_port, Teller teller)
       getsockname(listener_, any, &size) != 0) {
     throw std::runtime_error("the proxy cannot listen");
   }
+  host_ = "127.0.0.1";
   port_ = std::to_string(ntohs(address.sin_port));
-  acceptor_ = std::thread([this] { Accept(); });
+}
+
+/// At a name without a file: NUL stands in front of it, for which clients write an @.
+void LyingProxy::ListenAtLocalSocket() {
+  const std::string name = "ferrowind-lies-" + std::to_string(getpid());
+  host_ = "%40" + name;
+  port_ = "5432";
+  const std::string path = '\0' + name + "/.s.PGSQL." + port_;
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  path.copy(std::data(address.sun_path), std::size(address.sun_path));
+  const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + path.size());
+  if (bind(listener_, reinterpret_cast<const sockaddr*>(&address), size) != 0 || listen(listener_, 5) != 0) {
+    throw std::runtime_error("the proxy cannot listen");
+  }
 }
 
 LyingProxy::~LyingProxy() {

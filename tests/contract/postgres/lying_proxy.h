@@ -42,15 +42,23 @@ using Teller = std::function<Told(std::size_t number, const ServerMessage& messa
 /// them what the teller makes of the server's messages. Clients must not use TLS.
 class LyingProxy {
  public:
-  LyingProxy(const std::string& server_port, Teller teller);
+  /// Where it is found: on the loopback interface, or at a socket of the local machine, as `Host` and `Port`
+  /// tell a client.
+  enum class Place { kLoopback, kLocalSocket };
+
+  LyingProxy(const std::string& server_port, Teller teller, Place place = Place::kLoopback);
   LyingProxy(const LyingProxy&) = delete;
   LyingProxy& operator=(const LyingProxy&) = delete;
   /// Cuts what is still connected.
   ~LyingProxy();
 
+  /// As a connection string writes it.
+  [[nodiscard]] std::string Host() const { return host_; }
   [[nodiscard]] std::string Port() const { return port_; }
 
  private:
+  void ListenOnLoopback();
+  void ListenAtLocalSocket();
   void Accept();
   void Serve(int client);
   [[nodiscard]] Told Ask(const ServerMessage& message);
@@ -61,6 +69,7 @@ class LyingProxy {
   std::atomic<bool> is_ending_ = false;
   int server_port_;
   int listener_;
+  std::string host_;
   std::string port_;
   std::vector<std::thread> connections_;
   std::thread acceptor_;

@@ -134,16 +134,16 @@ class LyingServer : public ::testing::Test {
     uri.replace(uri.find(":" + postgres_server::Port() + "/"), postgres_server::Port().size() + 1,
                 ":" + proxy.Port());
     // Long enough for the limit of an answer to be what ends one without an end.
-    return uri + "?sslmode=disable&gssencmode=disable&call_timeout=120";
+    return uri + "?sslmode=disable&gssencmode=disable&call_timeout=120&host=" + proxy.Host();
   }
 
   /// What the call gives over the proxy, or its failure.
   static std::string Make(const ProcedureCall& call, const Teller& teller, std::string& failure,
-                          const std::string& parameters = "") {
+                          LyingProxy::Place place = LyingProxy::Place::kLoopback) {
     std::string given;
-    const LyingProxy proxy(postgres_server::Port(), teller);
+    const LyingProxy proxy(postgres_server::Port(), teller, place);
     failure = FailureTextOf([&] {
-      const auto connection = database_->Engine().Connect(Uri(proxy, call.procedure) + parameters);
+      const auto connection = database_->Engine().Connect(Uri(proxy, call.procedure));
       given = TextOf(CallOver(*connection, call.procedure, call.arguments));
     });
     return given;
@@ -233,12 +233,41 @@ Teller EndlessRows(const std::string& cell) {
 }
 
 TEST_F(LyingServer, RowsWithoutAnEndEndAtTheLimitOfAnAnswer) {
-  std::string failure;
   constexpr std::size_t kTextBytes = 300000;
-  // The usual time of a call may end before so much has come.
-  Make({"CldGetMain", {{"ID1", 978}, {"Year1", 2026}}}, EndlessRows(std::string(kTextBytes, 'x')), failure,
-       "&call_timeout=120");
-  EXPECT_THAT(failure, AllOf(HasSubstr("CldGetMain"), HasSubstr("gives more than 512 MB at once")));
+  for (const auto place : {LyingProxy::Place::kLoopback, LyingProxy::Place::kLocalSocket}) {
+    SCOPED_TRACE(place == LyingProxy::Place::kLoopback ? "loopback" : "local socket");
+    std::string failure;
+    Make({"CldGetMain", {{"ID1", 978}, {"Year1", 2026}}}, EndlessRows(std::string(kTextBytes, 'x')), failure,
+         place);
+    EXPECT_THAT(failure, AllOf(HasSubstr("CldGetMain"), HasSubstr("gives more than 512 MB at once")));
+  }
+}
+
+TEST_F(LyingServer, ARowTooFewOrTooManyIsToldWhereverItIsFound) {
+  for (const auto place : {LyingProxy::Place::kLoopback, LyingProxy::Place::kLocalSocket}) {
+    SCOPED_TRACE(place == LyingProxy::Place::kLoopback ? "loopback" : "local socket");
+    for (const int times : {0, 1, 2}) {
+      std::string failure;
+      const std::string given = Make(
+          {"CldGetMain", {{"ID1", 978}, {"Year1", 2026}}},
+          [=, days = std::make_shared<int>(0)](std::size_t, const ServerMessage& message) {
+            // The 100th row of the answer: those of a day have seven cells.
+            const bool is_day = message.type == 'D' && message.body.starts_with("\0\7"s);
+            if (!is_day || ++*days != 100) return Told{message.Bytes()};
+            std::string bytes;
+            for (int i = 0; i < times; ++i) bytes += message.Bytes();
+            return Told{bytes, Told::Then::kGoOn, times != 1};
+          },
+          failure, place);
+      if (times == 1) {
+        EXPECT_THAT(failure, "");
+        EXPECT_THAT(given, HasSubstr("Christmas"));
+      } else {
+        EXPECT_THAT(failure, AllOf(HasSubstr("CldGetMain"), HasSubstr(std::to_string(364 + times) + " rows"),
+                                   HasSubstr("of which it says that they are 365")));
+      }
+    }
+  }
 }
 
 TEST_F(LyingServer, MessagesWithoutAnEndEndWithTheConnection) {
