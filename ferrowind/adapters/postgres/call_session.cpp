@@ -31,6 +31,18 @@ CallSession::~CallSession() {
   }
 }
 
+void CallSession::BeginReset() {
+  if (kept_->IsFit(*session_, uri_.Keeping())) {
+    session_->is_being_reset = postgres::BeginReset(session_->connection);
+  }
+}
+
+void CallSession::EndReset() {
+  if (!std::exchange(session_->is_being_reset, false)) return;
+  const CallTime::Step step(time_);
+  if (!postgres::EndReset(session_->connection, time_.Left() / kPartForTrying)) ConnectAnew();
+}
+
 void CallSession::ConnectAnew() {
   // Where one is of no more use, others that were made at the same time are hardly.
   if (std::exchange(session_, nullptr)) kept_->Close(login_);

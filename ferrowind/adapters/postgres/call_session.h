@@ -33,6 +33,7 @@ class CallSession {
   /// time.
   template <typename Work>
   std::invoke_result_t<const Work&> Within(ServerConnection::LateWork late, const Work& work) {
+    EndReset();
     const CallTime::Step step(time_);
     Connection().LimitWaits(time_.Left(), late);
     try {
@@ -50,6 +51,7 @@ class CallSession {
   /// since, it is the look whether it is still of use. If not, the work is done on a new one.
   template <typename Work>
   std::invoke_result_t<const Work&> Read(const Work& work) {
+    EndReset();
     if (!session_->was_kept || has_answered_) return Within(ServerConnection::LateWork::kLeft, work);
     try {
       const CallTime::Step step(time_);
@@ -68,6 +70,10 @@ class CallSession {
   /// Leaves the session, which is closed, for a new one.
   void ConnectAnew();
 
+  /// The server is done with a call: where the session is one to be kept, it begins to forget what the call
+  /// has left, while the caller still reads what it has answered.
+  void BeginReset();
+
   /// The next call over the session begins.
   void Renew() { time_.Renew(); }
 
@@ -76,6 +82,9 @@ class CallSession {
   /// one.
   static constexpr int kPartForTrying = 2;
 
+  /// Waits for the server where it was asked to forget. A session on which it does not is left for a new one:
+  /// nothing of the step that follows was sent.
+  void EndReset();
   [[nodiscard]] bool IsOfWantedKind() const;
 
   std::shared_ptr<SilentServers> servers_;

@@ -68,9 +68,15 @@ platform::CallOutcome EngineConnection::Call(const std::string& procedure,
 }
 
 platform::CallOutcome EngineConnection::CallDescribed(const std::vector<platform::Value>& inputs) {
-  if (!session_) return CallProcedure(*connection_, *signature_, asked_name_, inputs, CallTransaction::kOpen);
+  if (!session_) {
+    return ReadOutcome(RunProcedure(*connection_, *signature_, asked_name_, inputs, CallTransaction::kOpen),
+                       asked_name_);
+  }
   return session_->Within(ServerConnection::LateWork::kStopped, [&] {
-    return CallProcedure(session_->Connection(), *signature_, asked_name_, inputs, CallTransaction::kOwn);
+    const ProcedureAnswer answer =
+        RunProcedure(session_->Connection(), *signature_, asked_name_, inputs, CallTransaction::kOwn);
+    session_->BeginReset();
+    return ReadOutcome(answer, asked_name_);
   });
 }
 

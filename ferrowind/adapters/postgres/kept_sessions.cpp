@@ -141,6 +141,7 @@ std::unique_ptr<Session> KeptSessions::Take(const std::string& login, millisecon
   while (std::unique_ptr<Session> session = store_->Remove(login)) {
     if (!store_->IsYoung(*session)) continue;
     ServerConnection& connection = session->connection;
+    session->is_being_reset = false;
     if (EndReset(connection, time) && SeemsAlive(connection)) return session;
     if (!connection.IsSilent()) continue;
     // The others are its too, and would be waited for one after the other.
@@ -152,7 +153,9 @@ std::unique_ptr<Session> KeptSessions::Take(const std::string& login, millisecon
 void KeptSessions::Keep(const std::string& login, SessionKeeping keeping,
                         std::unique_ptr<Session> session) noexcept {
   try {
-    if (!IsFit(*session, keeping) || !BeginReset(session->connection)) return;
+    if (!IsFit(*session, keeping)) return;
+    if (!session->is_being_reset) session->is_being_reset = BeginReset(session->connection);
+    if (!session->is_being_reset) return;
     session->was_kept = true;
     store_->Add({login, std::move(session)});
   } catch (const std::exception&) {

@@ -32,6 +32,9 @@ class KeptSessions {
   /// null when there is none. Waits at most `time`, and only for a server that is still at the resetting.
   [[nodiscard]] std::unique_ptr<Session> Take(const std::string& login, std::chrono::milliseconds time);
 
+  /// Whether later calls may have `session`, as far as is known of it now.
+  [[nodiscard]] bool IsFit(const Session& session, SessionKeeping keeping) const;
+
   /// Takes a session back, or closes it when it is not fit to be kept.
   void Keep(const std::string& login, SessionKeeping keeping, std::unique_ptr<Session> session) noexcept;
 
@@ -40,8 +43,6 @@ class KeptSessions {
 
  private:
   class Store;
-
-  [[nodiscard]] bool IsFit(const Session& session, SessionKeeping keeping) const;
 
   std::unique_ptr<Store> store_;
 };

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 #include <string>
+#include <utility>
 
 #include "ferrowind/adapters/postgres/call_script.h"
 #include "ferrowind/adapters/postgres/pipeline.h"
@@ -102,9 +103,9 @@ void UndoFailedTransaction(ServerConnection& connection) {
 
 }  // namespace
 
-CallOutcome CallProcedure(ServerConnection& connection, const ProcedureSignature& signature,
-                          const std::string& asked_name, const std::vector<Value>& inputs,
-                          CallTransaction transaction) {
+ProcedureAnswer RunProcedure(ServerConnection& connection, const ProcedureSignature& signature,
+                             const std::string& asked_name, const std::vector<Value>& inputs,
+                             CallTransaction transaction) {
   RefuseWrongInputs(signature, asked_name, inputs);
   const CallScript script(connection, signature, inputs, LockTimeout(connection));
   const bool is_own = transaction == CallTransaction::kOwn;
@@ -139,13 +140,21 @@ CallOutcome CallProcedure(ServerConnection& connection, const ProcedureSignature
   }
   RequireConfirmation(connection, asked_name);
 
+  ProcedureAnswer answer;
+  answer.return_value = std::move(answers[return_value_at]);
+  for (std::size_t i = 0; i < record_sets; ++i) {
+    answer.record_sets.push_back(std::move(answers[return_value_at + 1 + i]));
+  }
+  return answer;
+}
+
+CallOutcome ReadOutcome(const ProcedureAnswer& answer, const std::string& asked_name) {
   CallOutcome outcome;
-  outcome.return_value = ReturnValueIn(answers[return_value_at].get(), asked_name);
+  outcome.return_value = ReturnValueIn(answer.return_value.get(), asked_name);
   if (outcome.return_value != 0) return outcome;
   try {
-    for (std::size_t i = 0; i < record_sets; ++i) {
-      const PGresult* const rows = answers[return_value_at + 1 + i].get();
-      if (PQnfields(rows) > 0) outcome.record_sets.push_back(ReadRecordSet(rows));
+    for (const QueryResult& rows : answer.record_sets) {
+      if (PQnfields(rows.get()) > 0) outcome.record_sets.push_back(ReadRecordSet(rows.get()));
     }
   } catch (const Failure& failure) {
     throw Introduced("The procedure " + asked_name + " has run, but what it gave cannot be read: ", failure);

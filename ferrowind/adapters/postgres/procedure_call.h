@@ -16,12 +16,20 @@ enum class CallTransaction {
   kOpen,
 };
 
-/// Calls the procedure in one round trip, by the contract of `platform::Connection::Call`. Failures name the
-/// procedure as `asked_name`.
-[[nodiscard]] platform::CallOutcome CallProcedure(ServerConnection& connection,
-                                                  const ProcedureSignature& signature,
-                                                  const std::string& asked_name,
-                                                  const std::vector<platform::Value>& inputs,
-                                                  CallTransaction transaction);
+/// What the server has answered to a call that it is done with.
+struct ProcedureAnswer {
+  QueryResult return_value;
+  std::vector<QueryResult> record_sets;
+};
+
+/// Calls the procedure in one round trip, by the contract of `platform::Connection::Call`; `ReadOutcome`
+/// tells the rest. Failures of both name the procedure as `asked_name`.
+[[nodiscard]] ProcedureAnswer RunProcedure(ServerConnection& connection, const ProcedureSignature& signature,
+                                           const std::string& asked_name,
+                                           const std::vector<platform::Value>& inputs,
+                                           CallTransaction transaction);
+
+/// What the call gave; needs no connection any more.
+[[nodiscard]] platform::CallOutcome ReadOutcome(const ProcedureAnswer& answer, const std::string& asked_name);
 
 }  // namespace ferrowind::postgres

@@ -23,6 +23,8 @@ struct Session {
   bool was_kept = false;
   /// A call on it has failed, so that nobody knows in which state it is.
   bool has_failed = false;
+  /// The server was asked to forget what calls have left on it, and its answer is still to come.
+  bool is_being_reset = false;
   /// Whether the server itself is at the other end, and no pool; nothing as long as nobody has asked.
   std::optional<bool> is_direct;
 };

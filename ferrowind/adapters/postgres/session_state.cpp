@@ -28,8 +28,10 @@ bool BeginReset(ServerConnection& connection) {
   // A request to stop that is under way might meet the next call.
   if (!connection.IsAlive() || connection.WasToldToStop()) return false;
   if (PQpipelineStatus(link) != PQ_PIPELINE_OFF || PQtransactionStatus(link) != PQTRANS_IDLE) return false;
+  if (PQsendQuery(link, kForgetAll) == 1 && PQflush(link) == 0) return true;
   // A server that does not take even this will take no call either.
-  return PQsendQuery(link, kForgetAll) == 1 && PQflush(link) == 0;
+  connection.GiveUp();
+  return false;
 }
 
 bool EndReset(ServerConnection& connection, std::chrono::milliseconds time) {

@@ -8,7 +8,7 @@
 namespace ferrowind::postgres {
 
 /// Asks the server to forget all that calls may have left on the connection, without waiting for its answer.
-/// False when the connection is of no more use.
+/// False when it cannot be asked: a call is not over, or the connection is of no more use.
 [[nodiscard]] bool BeginReset(ServerConnection& connection);
 
 /// Waits at most `time` for the answer to that. False when it did not come, or the server has not forgotten
