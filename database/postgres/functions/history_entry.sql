@@ -1,9 +1,11 @@
 -- A value as it goes into a hash, so that no two lists of values give the same text: its length in bytes, a colon and itself,
--- or a dash for null. The server puts it in place of its calls, which it can as long as nothing in it is less than immutable.
-CREATE OR REPLACE FUNCTION HashField(value text) RETURNS text
-LANGUAGE sql IMMUTABLE
+-- or a dash for null. The server puts it in place of its calls, which it can as long as nothing in it is more volatile than it
+-- says. What a call costs is then looking up the functions that are left in the statement: it takes values as they are, since a
+-- conversion in front of it would stand in each place of the value.
+CREATE OR REPLACE FUNCTION HashField(value anyelement) RETURNS text
+LANGUAGE sql STABLE
 AS $$
-  SELECT coalesce(octet_length(value)::text || ':' || value, '-')
+  SELECT concat(CASE WHEN value IS NULL THEN '-' END, octet_length(value::text), CASE WHEN value IS NOT NULL THEN ':' END, value)
 $$;
 
 -- The entry of the call that is at work. A call that changes something begins it when it has its locks, so that entries which
@@ -39,15 +41,15 @@ LANGUAGE plpgsql
 AS $$
 BEGIN
   UPDATE CldHistory ended SET RowsChanged = rows_changed, Hash = encode(sha256(convert_to(
-    HashField(EntryID::text) || HashField(to_char(Moment AT TIME ZONE 'UTC', 'YYYY-MM-DD"T"HH24:MI:SS.MS"Z"'))
-    || HashField(UserName) || HashField(ProcedureName) || HashField(ID1::text) || HashField(Year1::text)
-    || HashField(Parameters::text) || HashField(ReturnValue::text) || HashField(rows_changed::text)
-    || HashField(ChainPosition::text) || HashField(Previous)
+    HashField(EntryID) || HashField(to_char(Moment AT TIME ZONE 'UTC', 'YYYY-MM-DD"T"HH24:MI:SS.MS"Z"'))
+    || HashField(UserName) || HashField(ProcedureName) || HashField(ID1) || HashField(Year1)
+    || HashField(Parameters) || HashField(ReturnValue) || HashField(rows_changed)
+    || HashField(ChainPosition) || HashField(Previous)
     || coalesce((
       SELECT string_agg(
-        HashField(RowNumber::text) || HashField(TableName) || HashField(ID1::text) || HashField(Year1::text)
-        || HashField(Day1::text) || HashField(ID2::text) || HashField(Position::text) || HashField(OldRow::text)
-        || HashField(NewRow::text), '' ORDER BY RowNumber)
+        HashField(RowNumber) || HashField(TableName) || HashField(ID1) || HashField(Year1)
+        || HashField(Day1) || HashField(ID2) || HashField(Position) || HashField(OldRow)
+        || HashField(NewRow), '' ORDER BY RowNumber)
       FROM CldHistoryRow WHERE CldHistoryRow.EntryID = ended.EntryID), ''), 'UTF8')), 'hex')
   WHERE EntryID = entry;
   NOTIFY ferrowind_change;

@@ -22,5 +22,5 @@ ALTER TABLE CldHistoryRow
       WHEN 'DicCcy' THEN 4 WHEN 'CldConvention' THEN 3 ELSE -1 END),
   ADD CONSTRAINT cldhistoryrow_check3 CHECK ((Position IS NOT NULL) = (TableName IN ('CldRecurrence', 'CldConvention')));
 
--- The statement that ends an entry computes its hash itself.
-DROP FUNCTION IF EXISTS EntryHash(CldHistory, bigint);
+-- The statement that ends an entry computes its hash itself, of values of any type.
+DROP FUNCTION IF EXISTS EntryHash(CldHistory, bigint), HashField(text);

@@ -441,12 +441,12 @@ TEST_F(HistoryChainOnAServer, RefusesACallThatDoesNotSeeTheEndOfItsChain) {
 }
 
 TEST_F(HistoryChainOnAServer, StoresNothingOfACallWhoseHashFails) {
-  database_.Execute("ALTER FUNCTION HashField(text) RENAME TO Gone");
+  database_.Execute("ALTER FUNCTION HashField(anyelement) RENAME TO Gone");
   EXPECT_NE(FailureTextOf([&] {
               (void)ProcedureCaller(database_).Return("CldIUMain", {{"ID1", 840}, {"Year1", 2026}});
             }),
             "");
-  database_.Execute("ALTER FUNCTION Gone(text) RENAME TO HashField");
+  database_.Execute("ALTER FUNCTION Gone(anyelement) RENAME TO HashField");
   EXPECT_THAT(Problems(database_, SealOf(database_)), IsEmpty());
   EXPECT_EQ(SealOf(database_).entry, 1);
 }
