@@ -40,7 +40,9 @@ void CallSession::BeginReset() {
 void CallSession::EndReset() {
   if (!std::exchange(session_->is_being_reset, false)) return;
   const CallTime::Step step(time_);
-  if (!postgres::EndReset(session_->connection, time_.Left() / kPartForTrying)) ConnectAnew();
+  ServerConnection& connection = session_->connection;
+  const bool is_reset = postgres::EndReset(connection, time_.Left() / kPartForTrying);
+  if (!is_reset || !SeemsAlive(connection)) ConnectAnew();
 }
 
 void CallSession::ConnectAnew() {

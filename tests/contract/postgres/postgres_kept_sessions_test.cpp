@@ -179,6 +179,23 @@ TEST_F(PostgresKeptSessions, AreResetBetweenCalls) {
   EXPECT_EQ(Processes(), process);
 }
 
+TEST_F(PostgresKeptSessions, AreResetBetweenTheCallsOfOneConnection) {
+  const auto connection = engine_.Connect(Uri());
+  ASSERT_EQ(CallOver(*connection, "LeaveThings", {}).return_value, 0);
+  EXPECT_TRUE(Comes([] {
+    return postgres_server::Ask("postgres",
+                                "SELECT count(*)::text FROM pg_locks WHERE locktype = 'advisory'") == "0";
+  })) << "the reset does not wait for the end of the connection";
+  EXPECT_EQ(CallOver(*connection, "LeaveThings", {}).return_value, 0);
+}
+
+TEST_F(PostgresKeptSessions, OneThatTheServerEndsBetweenTheCallsOfOneConnectionCostsNone) {
+  const auto connection = engine_.Connect(Uri());
+  EXPECT_EQ(CallOver(*connection, "CldIUMain", {{"ID1", 978}, {"Year1", NextYear()}}).return_value, 0);
+  EndSessions();
+  EXPECT_EQ(CallOver(*connection, "CldIUMain", {{"ID1", 978}, {"Year1", NextYear()}}).return_value, 0);
+}
+
 TEST_F(PostgresKeptSessions, OneOnWhichACallHasFailedIsClosed) {
   EXPECT_THAT(FailureTextOf([&] { static_cast<void>(Return(engine_, Uri(), "CldNothing")); }),
               HasSubstr("CldNothing"));
