@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/headless/headless_grid.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "ferrowind/adapters/grid_engine/value_order.h"
 #include "ferrowind/platform/values/case_fold.h"
@@ -38,6 +39,7 @@ platform::GridColumn& HeadlessGrid::AddColumn(const std::string& caption, std::i
                                             [this] { computed_.clear(); }};
   const auto index = static_cast<std::int16_t>(ColumnCount() + 1);
   columns_.push_back(std::make_unique<HeadlessGridColumn>(context, index, key, caption));
+  column_order_.push_back(key);
   return *columns_.back();
 }
 
@@ -57,6 +59,15 @@ platform::GridColumn& HeadlessGrid::ColumnAt(std::int32_t index) {
   return *columns_[static_cast<std::size_t>(index) - 1];
 }
 
+void HeadlessGrid::MoveColumnBehind(const std::string& key, const std::string& other) {
+  core_.Record("MoveColumnBehind", {key, other});
+  const std::string& moved = ColumnOf(key).Key();
+  const std::string& before = ColumnOf(other).Key();
+  if (moved == before) return;
+  std::erase(column_order_, moved);
+  column_order_.insert(std::next(std::find(column_order_.begin(), column_order_.end(), before)), moved);
+}
+
 // Records
 // -------------------------------------------------------------------------------------------------------
 
@@ -64,6 +75,8 @@ void HeadlessGrid::AttachRecords(std::shared_ptr<RecordSet> records) {
   core_.Record("AttachRecords", {records});
   const auto keep = core_.Keep();
   const auto first_dropped = columns_.begin() + static_cast<std::ptrdiff_t>(held_columns_);
+  std::for_each(first_dropped, columns_.end(),
+                [this](const auto& column) { std::erase(column_order_, column->Key()); });
   std::move(first_dropped, columns_.end(), std::back_inserter(dropped_columns_));
   columns_.erase(first_dropped, columns_.end());
   held_columns_ = 0;

@@ -36,6 +36,8 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   }
   [[nodiscard]] platform::GridColumn& ColumnByKey(const std::string& key) override { return ColumnOf(key); }
   [[nodiscard]] platform::GridColumn& ColumnAt(std::int32_t index) override;
+  [[nodiscard]] std::vector<std::string> ColumnOrder() const override { return column_order_; }
+  void MoveColumnBehind(const std::string& key, const std::string& other) override;
 
   [[nodiscard]] std::shared_ptr<platform::RecordSet> Records() const override { return records_; }
   void AttachRecords(std::shared_ptr<platform::RecordSet> records) override;
@@ -150,6 +152,8 @@ class HeadlessGrid : public HeadlessControl<platform::Grid> {
   [[nodiscard]] std::vector<std::int32_t> RecordRowsOf(const std::vector<GridRowIdentity>& rows) const;
 
   std::vector<std::unique_ptr<HeadlessGridColumn>> columns_;
+  /// Their keys, as they stand side by side.
+  std::vector<std::string> column_order_;
   /// Kept, since a column lives as long as the grid.
   std::vector<std::unique_ptr<HeadlessGridColumn>> dropped_columns_;
   std::size_t held_columns_ = 0;

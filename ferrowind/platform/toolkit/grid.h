@@ -44,6 +44,12 @@ class FERROWIND_EXPORT Grid : public Control {
   [[nodiscard]] virtual GridColumn& ColumnByKey(const std::string& key) = 0;
   /// The column of that 1-based index; none is the failure Subscript out of range.
   [[nodiscard]] virtual GridColumn& ColumnAt(std::int32_t index) = 0;
+  /// The keys of the columns as they stand side by side, hidden ones too: in the order of adding, until the
+  /// operator or `MoveColumnBehind` moves one.
+  [[nodiscard]] virtual std::vector<std::string> ColumnOrder() const = 0;
+  /// Has a column stand right behind another one; indices stay what they are. Both are named by keys, letter
+  /// case ignored; a key of none is the failure Element not found (35601), which names it.
+  virtual void MoveColumnBehind(const std::string& key, const std::string& other) = 0;
 
   // Records
   // ---------------------------------------------------------------------------------------------------

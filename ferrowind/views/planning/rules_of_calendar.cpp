@@ -48,6 +48,8 @@ void RulesOfCalendar::Opening() {
       Said(context_.platform, "In %1", {target.currency + " " + std::to_string(target.year)}), kTextColumn,
       kNotEdited, kDays);
   column.SetBoundField(kDays);
+  // Behind the last one it would be out of sight, and it is what the operator opens the list for.
+  scene_.Rules().MoveColumnBehind(kDays, "Name");
   text_asked_ =
       scene_.Rules().OnCellText([this](RecordSet::Bookmark row, std::int16_t index, std::string& text) {
         // No message while the grid paints.

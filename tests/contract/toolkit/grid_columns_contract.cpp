@@ -57,6 +57,38 @@ TEST_F(GridColumnsContract, CountFromOne) {
   }
 }
 
+TEST_F(GridColumnsContract, StandInTheOrderOfAddingUntilOneIsMoved) {
+  using ::testing::ElementsAre;
+  AddColumn("Comment", "Comment");
+  EXPECT_THAT(grid.ColumnOrder(), ElementsAre("Type", "Date", "Name", "Comment"));
+  grid.MoveColumnBehind("COMMENT", "type");
+  EXPECT_THAT(grid.ColumnOrder(), ElementsAre("Type", "Comment", "Date", "Name"));
+  grid.MoveColumnBehind("Type", "Date");
+  EXPECT_THAT(grid.ColumnOrder(), ElementsAre("Comment", "Date", "Type", "Name"));
+  grid.MoveColumnBehind("Type", "Date");
+  grid.MoveColumnBehind("Type", "Type");
+  EXPECT_THAT(grid.ColumnOrder(), ElementsAre("Comment", "Date", "Type", "Name"));
+  EXPECT_EQ(grid.ColumnByKey("Comment").Index(), 4);
+  EXPECT_EQ(grid.ColumnAt(1).Key(), "Type");
+  ShowSample();
+  EXPECT_THAT(grid.ColumnOrder(), ElementsAre("Comment", "Date", "Type", "Name"));
+}
+
+TEST_F(GridColumnsContract, LeaveTheOrderWhenTheyGo) {
+  AddColumn("Comment", "Comment");
+  grid.MoveColumnBehind("Comment", "Type");
+  grid.AttachRecords(nullptr);
+  EXPECT_THAT(grid.ColumnOrder(), ::testing::IsEmpty());
+}
+
+TEST_F(GridColumnsContract, AreMovedByKeysThatAreThere) {
+  ExpectFailure(failure_number::kElementNotFound, "Nowhere",
+                [&] { grid.MoveColumnBehind("Nowhere", "Type"); });
+  ExpectFailure(failure_number::kElementNotFound, "Nowhere",
+                [&] { grid.MoveColumnBehind("Type", "Nowhere"); });
+  EXPECT_THAT(grid.ColumnOrder(), ::testing::ElementsAre("Type", "Date", "Name"));
+}
+
 TEST_F(GridColumnsContract, KeepTheirFieldWhileHidden) {
   GridColumn& column = grid.ColumnByKey("Name");
   column.SetVisible(false);

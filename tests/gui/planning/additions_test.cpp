@@ -1,5 +1,6 @@
 // What planning adds to the given windows, as an operator has it: real windows over a real database with the
 // delivered books.
+#include <QHeaderView>
 #include <QLabel>
 #include <QPixmap>
 #include <QPlainTextEdit>
@@ -123,7 +124,16 @@ TEST_F(AdditionsTest, TheRulesOfTheCurrencyAreListedWithTheirDaysAndAssignedAfte
     const int row = RowOf(grid, "Name", "Good Friday");
     EXPECT_EQ(CellText(grid, row, "In EUR 2028"), "Friday 14 April 2028");
     const int euro_rules = RowsOf(grid);
+    const auto* const header = grid.horizontalHeader();
+    const int days = header->logicalIndex(1);
+    EXPECT_EQ(grid.model()->headerData(days, Qt::Horizontal).toString(), QStringLiteral("In EUR 2028"));
+    EXPECT_LE(header->sectionViewportPosition(days) + header->sectionSize(days), grid.viewport()->width())
+        << "as wide as the window opens, which an 800 x 600 screen has room for";
+    EXPECT_LE(holidays.frameGeometry().width(), 800);
     Picture(holidays, "rules-own");
+    qt::ApplyTheme(*qApp, qt::Theme::kDark);
+    Picture(holidays, "rules-own-dark");
+    qt::ApplyTheme(*qApp, qt::Theme::kLight);
     ClickTool(holidays, "ID_OwnRules");
     EXPECT_GT(RowsOf(grid), euro_rules);
     WalkToRow(grid, RowOf(grid, "Name", "Thanksgiving Day"));

@@ -75,6 +75,23 @@ std::int32_t QtGrid::ColumnCount() const { return content_.Columns().Count(); }
 platform::GridColumn& QtGrid::ColumnByKey(const std::string& key) { return content_.Columns().ByKey(key); }
 platform::GridColumn& QtGrid::ColumnAt(std::int32_t index) { return content_.Columns().At(index); }
 
+std::vector<std::string> QtGrid::ColumnOrder() const {
+  std::vector<std::string> keys;
+  for (int visual = 0; visual < header_.count(); ++visual)
+    keys.push_back(content_.Columns()[header_.logicalIndex(visual) + 1].Key());
+  return keys;
+}
+
+void QtGrid::MoveColumnBehind(const std::string& key, const std::string& other) {
+  const int moved = content_.Columns().ByKey(key).Index() - 1;
+  const int before = content_.Columns().ByKey(other).Index() - 1;
+  if (moved == before) return;
+  const int from = header_.visualIndex(moved);
+  const int to = header_.visualIndex(before);
+  // The one that leaves its place makes those behind it move up.
+  header_.moveSection(from, from < to ? to : to + 1);
+}
+
 void QtGrid::ShowColumnVisibility(const QtGridColumn& column) {
   header_.setSectionHidden(column.Index() - 1, !column.Visible());
   widths_are_due_ = true;

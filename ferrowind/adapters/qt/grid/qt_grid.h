@@ -40,6 +40,8 @@ class QtGrid final : public QtControl<platform::Grid> {
   [[nodiscard]] std::int32_t ColumnCount() const override;
   [[nodiscard]] platform::GridColumn& ColumnByKey(const std::string& key) override;
   [[nodiscard]] platform::GridColumn& ColumnAt(std::int32_t index) override;
+  [[nodiscard]] std::vector<std::string> ColumnOrder() const override;
+  void MoveColumnBehind(const std::string& key, const std::string& other) override;
   [[nodiscard]] std::shared_ptr<platform::RecordSet> Records() const override;
   void AttachRecords(std::shared_ptr<platform::RecordSet> records) override;
   void Narrow(RowChoice choose) override;

@@ -11,6 +11,7 @@ namespace {
 
 using platform::Date;
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::Not;
 using testing::PlannedHolidays;
 using testing::RunInFreshThread;
@@ -47,6 +48,17 @@ TEST(RulesOfCalendar, TellOnWhichDaysTheCalendarHasThem) {
     EXPECT_EQ(days_of("Street fair"), "Monday 3 July 2028, Tuesday 4 July 2028");
     EXPECT_EQ(days_of("Saturday"), "53 days");
     EXPECT_EQ(days_of("New Year's Day"), "");
+  });
+}
+
+TEST(RulesOfCalendar, HaveTheirDaysBesideTheirNamesAndTheGivenColumnsAsTheyWere) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    ASSERT_TRUE(holidays.Init(kWholeCalendarMode));
+    EXPECT_THAT(holidays.Grid().ColumnOrder(),
+                ElementsAre("Name", "CalendarDays", "FullDate", "HolidayType", "Comment", "DayOfMonth",
+                            "MonthOfYear", "ID_Holiday", "DayOfWeek", "Del"));
+    EXPECT_EQ(holidays.Grid().ColumnByKey("CalendarDays").Index(), 10);
   });
 }
 
