@@ -35,6 +35,24 @@ TEST(QtLocale, RefusesAnyOtherNumber) {
     EXPECT_THROW(static_cast<void>(locale.WeekdayName(day)), platform::Failure);
 }
 
+TEST(QtLocale, WritesDatesInTheDigitsOfAllOtherNumbersAndReadsThem) {
+  EXPECT_EQ(QtLocale(QLocale(QStringLiteral("ar_EG"))).LongDateText({2028, 4, 14}), "14 أبريل 2028");
+  EXPECT_EQ(QtLocale(QLocale(QStringLiteral("ar_EG"))).DateText({2028, 4, 14}), "14/4/2028 الجمعة")
+      << "without marks that would part its numbers within an English sentence";
+  const platform::Date date(2028, 12, 31);
+  for (const QLocale& each :
+       QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+    const QtLocale locale(each);
+    for (const std::string& text :
+         {locale.DateText(date), locale.LongDateText(date), locale.LongDayText(date)}) {
+      for (const char32_t character : ToQt(text).toUcs4()) {
+        EXPECT_TRUE(QChar::digitValue(character) < 0 || character <= U'9') << text;
+      }
+    }
+    EXPECT_EQ(locale.ReadDate(locale.DateText(date), 2028).date, date) << each.name().toStdString();
+  }
+}
+
 TEST(QtClock, TellsTheDayOfTheOperatorsTimeZone) {
   const QDate before = QDate::currentDate();
   const platform::Date today = QtClock().Today();

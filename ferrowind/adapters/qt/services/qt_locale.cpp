@@ -1,5 +1,7 @@
 #include "ferrowind/adapters/qt/services/qt_locale.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "ferrowind/adapters/qt/dates/full_date_reader.h"
@@ -9,6 +11,22 @@
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::qt {
+namespace {
+
+/// Digits as times, years of calendars and counts have them, beside which dates stand. Such digits keep their
+/// order by themselves; marks of direction between them would tear a date apart within other text.
+std::string AsNumbersAre(const QString& text) {
+  constexpr char32_t kMarks[] = {U'\u200E', U'\u200F', U'\u061C'};
+  QString written;
+  for (const char32_t character : text.toUcs4()) {
+    if (std::find(std::begin(kMarks), std::end(kMarks), character) != std::end(kMarks)) continue;
+    const int digit = QChar::digitValue(character);
+    written += digit >= 0 ? QString::number(digit) : QString::fromUcs4(&character, 1);
+  }
+  return FromQt(written);
+}
+
+}  // namespace
 
 QtLocale::QtLocale(QLocale locale)
     : locale_(std::move(locale)), dates_(std::make_shared<FullDateReader>(locale_)) {}
@@ -26,16 +44,16 @@ std::string QtLocale::WeekdayName(int weekday) const {
 
 std::string QtLocale::DateText(const platform::Date& date) const {
   const QDate day = ToQt(date);
-  return FromQt(ShortDate(day, locale_) + QLatin1Char(' ') +
-                locale_.dayName(day.dayOfWeek(), QLocale::ShortFormat));
+  return AsNumbersAre(ShortDate(day, locale_) + QLatin1Char(' ') +
+                      locale_.dayName(day.dayOfWeek(), QLocale::ShortFormat));
 }
 
 std::string QtLocale::LongDateText(const platform::Date& date) const {
-  return FromQt(LongDate(ToQt(date), locale_));
+  return AsNumbersAre(LongDate(ToQt(date), locale_));
 }
 
 std::string QtLocale::LongDayText(const platform::Date& date) const {
-  return FromQt(LongDay(ToQt(date), locale_));
+  return AsNumbersAre(LongDay(ToQt(date), locale_));
 }
 
 platform::DateReading QtLocale::ReadDate(const std::string& text, int year) const {
