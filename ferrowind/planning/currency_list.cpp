@@ -29,6 +29,18 @@ bool MeansAllCurrencies(std::string_view text) {
   return std::is_eq(platform::CompareIgnoringCase(text, "ALL"));
 }
 
+std::string WrittenFor(const Currency& currency) {
+  if (!MeansAllCurrencies(currency.code)) return currency.code;
+  constexpr std::size_t kDigits = 3;
+  const std::string number = std::to_string(currency.id);
+  return std::string(kDigits - std::min(kDigits, number.size()), '0') + number;
+}
+
+std::string UnmistakableCode(const Currency& currency) {
+  if (!MeansAllCurrencies(currency.code)) return currency.code;
+  return currency.code + " (" + (currency.name.empty() ? WrittenFor(currency) : currency.name) + ")";
+}
+
 platform::Phrase EndOfMoney(const Currency& currency) {
   if (!currency.is_money || !currency.last_day)
     return platform::Phrase::Of("%1 is no money", {currency.code});

@@ -35,6 +35,12 @@ struct Currency {
 /// Whether a person who writes `text` for a currency means all of them: "ALL", in any letter case.
 [[nodiscard]] bool MeansAllCurrencies(std::string_view text);
 
+/// What a person writes for that one currency: its code, or its number where the code means all of them.
+[[nodiscard]] std::string WrittenFor(const Currency& currency);
+
+/// What the currency is called where nothing beside its code says that it is one: "EUR", and "ALL (Lek)".
+[[nodiscard]] std::string UnmistakableCode(const Currency& currency);
+
 class CurrencyList {
  public:
   /// Reads those of the calling thread's database. Fails as database_call.h says.

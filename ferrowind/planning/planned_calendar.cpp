@@ -28,7 +28,9 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
       throw platform::Failure(platform::failure_number::kInvalidArgument,
                               InWords("There is no currency %1", {std::to_string(key_.first)}));
     }
-    name_ = currency->code + " " + std::to_string(key_.second);
+    const std::string year = " " + std::to_string(key_.second);
+    name_ = currency->code + year;
+    title_ = UnmistakableCode(*currency) + year;
     preparation_ = prepare_(*planner, *currency, key_.second);
     planner_ = planner;
     why_not_.clear();

@@ -29,11 +29,13 @@ class PlannedCalendar {
  public:
   /// Not planned yet.
   PlannedCalendar(const CalendarKey& key, std::string name, Preparer prepare = ByRuleBook())
-      : key_(key), name_(std::move(name)), prepare_(std::move(prepare)) {}
+      : key_(key), name_(std::move(name)), title_(name_), prepare_(std::move(prepare)) {}
 
   [[nodiscard]] const CalendarKey& Key() const { return key_; }
   /// "EUR 2028"; what it was made with until its currency is known.
   [[nodiscard]] const std::string& Name() const { return name_; }
+  /// The same where it could be taken for the name of all calendars, as in a caption: "ALL (Lek) 2028".
+  [[nodiscard]] const std::string& Title() const { return title_; }
 
   /// Reads and compares it by `planner`, which it keeps. Whatever makes that fail becomes `WhyNot`. When it
   /// was planned before, days that were left out stay so, and so does a calendar all of whose days were,
@@ -81,6 +83,7 @@ class PlannedCalendar {
 
   CalendarKey key_;
   std::string name_;
+  std::string title_;
   Preparer prepare_;
   std::string why_not_;
   /// Outlives the preparation, which points into it.

@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include "ferrowind/planning/currency_list.h"
+
 namespace ferrowind {
 namespace {
 
@@ -27,7 +29,8 @@ platform::WindowParts ExchangeTools::Parts() {
 bool ExchangeTools::RunTool(const std::string& id) {
   if (id != kImport && id != kExport) return false;
   const auto calendar = scene_.OnShow();
-  const std::string currency = calendar ? calendar->currency : "";
+  const std::string currency =
+      calendar ? planning::WrittenFor({.id = calendar->currency_id, .code = calendar->currency}) : "";
   const std::optional<int> year = calendar ? std::optional<int>(calendar->year) : std::nullopt;
   if (id == kImport) {
     context_.windows.OpenImport(currency, year);

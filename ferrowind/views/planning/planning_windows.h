@@ -62,7 +62,7 @@ class PlanningWindows {
   void OpenYearPlanner(const std::vector<std::int32_t>& currencies, int year);
 
   /// The window that makes a calendar as a list, and the one that writes calendars to a file. Both propose
-  /// the currency of that code and the year; "" and nothing propose none.
+  /// the currency that is written so and the year; "" and nothing propose none.
   void OpenImport(const std::string& currency, std::optional<int> year);
   void OpenExport(const std::string& currency, std::optional<int> year);
   /// The plan of that list. It takes the place of an earlier one of the same calendar.

@@ -186,7 +186,7 @@ std::optional<std::size_t> CalendarOfKey(const YearOverview& overview, const std
 std::string HeadingOf(const YearOverview& overview) {
   std::string heading;
   for (const auto& calendar : overview.Calendars()) {
-    heading += (heading.empty() ? "" : ", ") + calendar.currency.code;
+    heading += (heading.empty() ? "" : ", ") + planning::UnmistakableCode(calendar.currency);
   }
   return heading + " " + std::to_string(overview.Year());
 }

@@ -23,7 +23,7 @@ inline constexpr const char* kJointCalendar = "joint";
 [[nodiscard]] std::optional<std::size_t> CalendarOfKey(const planning::YearOverview& overview,
                                                        const std::string& key);
 
-/// "EUR 2028", "EUR, USD 2028".
+/// "EUR 2028", "EUR, USD 2028", "ALL (Lek) 2028".
 [[nodiscard]] std::string HeadingOf(const planning::YearOverview& overview);
 
 }  // namespace ferrowind

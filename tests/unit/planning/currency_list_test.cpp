@@ -45,6 +45,18 @@ TEST(CurrencyList, TakesAllForEveryCurrencyAndNotForTheOneOfThatCode) {
   EXPECT_FALSE(MeansAllCurrencies("8"));
 }
 
+TEST(CurrencyList, NamesAndWritesTheCurrencyWhoseCodeMeansAllSoThatItIsTheOne) {
+  const Currency lek{8, "ALL", "Lek", true, {}};
+  const Currency euro{978, "EUR", "Euro", true, {}};
+  const CurrencyList list({lek, euro});
+  EXPECT_EQ(WrittenFor(lek), "008");
+  EXPECT_EQ(list.Named(WrittenFor(lek)).id, 8);
+  EXPECT_EQ(WrittenFor(euro), "EUR");
+  EXPECT_EQ(UnmistakableCode(lek), "ALL (Lek)");
+  EXPECT_EQ(UnmistakableCode({8, "all", "", true, {}}), "all (008)");
+  EXPECT_EQ(UnmistakableCode(euro), "EUR");
+}
+
 TEST(CurrencyList, KnowsWhichCurrenciesAreMoneyInAYear) {
   RunInFreshThread([] {
     PlanningWorld component;
