@@ -72,26 +72,33 @@ CellTone ToneOf(const PlanLine& line) {
 PlanTable::PlanTable(const platform::Platform& platform, platform::Table& table, planning::PlanBatch& batch,
                      std::function<void()> on_decision)
     : platform_(platform), table_(table), batch_(batch), on_decision_(std::move(on_decision)) {
-  //: says 2
-  const auto column = [&](const char* key, const char* caption) {
-    return platform::TableColumn{.key = key, .caption = Said(platform_, caption)};
-  };
-  std::vector<platform::TableColumn> columns;
-  if (batch.Calendars().size() > 1) columns.push_back(column("Calendar", "Calendar"));
-  //: said 2
-  for (const auto& [key, caption] :
-       {std::pair("Date", "Date"), std::pair("Weekday", "Weekday"), std::pair("Now", "Now"),
-        std::pair("Should", "Should be"), std::pair("Action", "Action"), std::pair("Why", "Why")}) {
-    columns.push_back(column(key, caption));
-  }
-  columns.back().stretches = true;
-  table_.SetColumns(columns);
   decided_ = table_.OnCheckChange(
       [this](const std::string&, bool) { RunHandler(platform_, [this] { TakeDecisions(); }); });
 }
 
+void PlanTable::SetColumns() {
+  if (std::exchange(has_calendar_column_, NamesCalendars()) == NamesCalendars()) return;
+  std::vector<platform::TableColumn> columns;
+  //: says 2
+  const auto add = [&](const char* key, const char* caption) {
+    columns.push_back({.key = key, .caption = Said(platform_, caption)});
+  };
+  if (NamesCalendars()) add("Calendar", "Calendar");
+  add("Date", "Date");
+  // Of many calendars, weekdays stand beside the dates and actions before what should be: the reason, by
+  // which the operator decides, needs the room.
+  if (!IsOfMany()) add("Weekday", "Weekday");
+  add("Now", "Now");
+  add("Should", "Should be");
+  if (!IsOfMany()) add("Action", "Action");
+  add("Why", "Why");
+  columns.back().stretches = true;
+  table_.SetColumns(columns);
+}
+
 void PlanTable::Show(const planning::PlanLineFilter& filter) {
   filter_ = filter;
+  SetColumns();
   ShowAnew();
 }
 
@@ -109,25 +116,46 @@ void PlanTable::ShowAnew() {
   }
 }
 
-platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
-  const bool is_day = line.kind == PlanLine::Kind::kDay;
-  const CellTone tone = ToneOf(line);
-  const auto cell = [&](std::string text) { return TableCell{.text = std::move(text), .tone = tone}; };
-  const auto name_of = [&](const std::optional<std::string>& rule) {
-    return rule ? *rule : Said(platform_, planning::kOrdinaryDay);
+void PlanTable::AddPlace(const PlanLine& line, CellTone tone, platform::TableRow& row) const {
+  const auto add = [&](std::string text) -> TableCell& {
+    return row.cells.emplace_back(TableCell{.text = std::move(text), .tone = tone});
   };
+  const platform::Locale& locale = platform_.locale;
+  const std::string& calendar = batch_.Calendars()[line.calendar].Name();
+  if (NamesCalendars()) add(calendar);
+  if (!line.date) {
+    add(line.kind == PlanLine::Kind::kCalendar && !NamesCalendars() ? calendar : "");
+  } else {
+    add(IsOfMany() ? locale.DateText(*line.date) : DateText(locale, *line.date)).order = line.date->Serial();
+  }
+  if (!IsOfMany()) add(line.date ? locale.WeekdayName(line.date->Weekday()) : "");
+}
+
+void PlanTable::AddAction(const PlanLine& line, CellTone tone, platform::TableRow& row) const {
+  const bool is_day = line.kind == PlanLine::Kind::kDay;
+  const std::string action = Said(platform_, ActionOf(line));
+  const std::string should = is_day ? NameOf(line.should) : "";
+  if (IsOfMany()) {
+    row.cells.push_back({.text = is_day ? should : action, .tone = tone});
+    if (is_day) row.cells.back().description = action;
+  } else {
+    row.cells.push_back({.text = should, .tone = tone});
+    row.cells.push_back({.text = action, .tone = tone});
+  }
+  row.cells.back().mark = MarkOf(line);
+}
+
+std::string PlanTable::NameOf(const std::optional<std::string>& rule) const {
+  return rule ? *rule : Said(platform_, planning::kOrdinaryDay);
+}
+
+platform::TableRow PlanTable::RowOf(const PlanLine& line) const {
+  const CellTone tone = ToneOf(line);
   platform::TableRow row{.key = line.key, .checked = line.is_taken};
-  if (batch_.Calendars().size() > 1) row.cells.push_back(cell(batch_.Calendars()[line.calendar].Name()));
-  TableCell date = cell(line.date ? DateText(platform_.locale, *line.date) : "");
-  if (line.date) date.order = line.date->Serial();
-  row.cells.push_back(std::move(date));
-  row.cells.push_back(cell(line.date ? platform_.locale.WeekdayName(line.date->Weekday()) : ""));
-  row.cells.push_back(cell(is_day ? name_of(line.now) : ""));
-  row.cells.push_back(cell(is_day ? name_of(line.should) : ""));
-  TableCell action = cell(Said(platform_, ActionOf(line)));
-  action.mark = MarkOf(line);
-  row.cells.push_back(std::move(action));
-  row.cells.push_back(cell(line.why));
+  AddPlace(line, tone, row);
+  row.cells.push_back({.text = line.kind == PlanLine::Kind::kDay ? NameOf(line.now) : "", .tone = tone});
+  AddAction(line, tone, row);
+  row.cells.push_back({.text = line.why, .tone = tone});
   return row;
 }
 

@@ -50,6 +50,8 @@ class YearPlanTest : public WindowsTest {
     return *window;
   }
   static qt::TableView& Lines(QWidget& window) { return Find<qt::TableView>(window, "tblPlan"); }
+  /// The reasons stand last.
+  static int WhyColumn(const qt::TableView& lines) { return lines.Model()->columnCount() - 1; }
   static qt::TableView& Outcome(QWidget& window) { return Find<qt::TableView>(window, "tblOutcome"); }
   static std::string Summary(QWidget& window) {
     return Find<QLabel>(window, "lblSummary").text().toStdString();
@@ -100,7 +102,7 @@ TEST_F(YearPlanTest, IsLookedAtAppliedAndUndoneByKeyboard) {
 TEST_F(YearPlanTest, PreparesManyCalendarsAfterOneLook) {
   desk_.Call("CldIUMain", {kDollar, 2028, 1, 1, 360, {}, "Stock-taking"});
   QWidget& window = OpenPlan({{kEuro, 2028}, {kPound, 2028}, {kDollar, 2028}});
-  EXPECT_THAT(RowText(Lines(window), 0), AllOf(HasSubstr("USD 2028 | 25 December 2028"),
+  EXPECT_THAT(RowText(Lines(window), 0), AllOf(HasSubstr("USD 2028 | 25 Dec 2028 Mon"),
                                                HasSubstr("now open by exception: Stock-taking")));
   EXPECT_EQ(Summary(window),
             "3 calendars: 339 days, 314 of them weekends; unchanged: 1 working day by exception.");
@@ -139,8 +141,17 @@ TEST_F(YearPlanTest, IsReadOnASmallScreenAndInTheDark) {
   }
   const auto& summary = Find<QLabel>(window, "lblSummary");
   EXPECT_GE(summary.height(), summary.heightForWidth(summary.width()));
-  EXPECT_FALSE(Lines(window).horizontalScrollBar()->isVisible());
+  const qt::TableView& lines = Lines(window);
+  EXPECT_FALSE(lines.horizontalScrollBar()->isVisible());
+  EXPECT_GE(lines.columnWidth(WhyColumn(lines)), lines.viewport()->width() / 4);
   Picture(window, "year-plan-dark-small");
+  ChooseItem(window, "cmbCalendar", "GBP 2028");
+  EXPECT_FALSE(lines.horizontalScrollBar()->isVisible());
+  EXPECT_GE(lines.columnWidth(WhyColumn(lines)), lines.viewport()->width() / 4);
+  Picture(window, "year-plan-dark-small-one");
+  qt::ApplyTheme(*qApp, qt::Theme::kLight);
+  ChooseItem(window, "cmbCalendar", "All calendars");
+  Picture(window, "year-plan-light-small");
 }
 
 TEST_F(YearPlanTest, GoesNoFurtherWhenTheHostClosesItWhileItWorks) {

@@ -117,10 +117,10 @@ TEST(YearPlanWindow, TellsWithoutABoxWhatCannotBeDone) {
     const HeadlessTable& lines = world.Lines();
     EXPECT_THAT(lines.RowKeys(), ElementsAre("826/2028/not-planned", kChristmas, "978/2028", kGoodFriday));
     EXPECT_THAT(lines.Texts("826/2028/not-planned").back(), HasSubstr("GBP has no book"));
-    EXPECT_EQ(lines.Cell("826/2028/not-planned", "Action").mark, platform::CellMark::kError);
+    EXPECT_EQ(lines.Cell("826/2028/not-planned", "Should").mark, platform::CellMark::kError);
     EXPECT_EQ(lines.Row(kChristmas).checked, std::nullopt);
     EXPECT_THAT(lines.Cell(kChristmas, "Why").text, HasSubstr("\"Christmas Day\" is a holiday point"));
-    EXPECT_EQ(lines.Cell(kChristmas, "Action").mark, platform::CellMark::kError);
+    EXPECT_EQ(lines.Cell(kChristmas, "Should").mark, platform::CellMark::kError);
   });
 }
 
@@ -182,6 +182,35 @@ TEST(YearPlanWindow, TakesSeveralSelectedDaysOutTogether) {
   });
 }
 
+TEST(YearPlanWindow, OfTheCurrencyWhoseCodeMeansAllNamesItInItsCaption) {
+  RunInFreshThread([] {
+    PlanWorld world;
+    world.world.database->Tables().currencies.push_back({8, "ALL", 0, "Lek"});
+    world.Open({{8, 2028}});
+    EXPECT_EQ(world.Form().Caption(), "Plan of ALL (Lek) 2028");
+  });
+}
+
+TEST(YearPlanWindow, OfSeveralCalendarsHasShortDatesWithTheirWeekdaysAndRoomForTheReason) {
+  RunInFreshThread([] {
+    PlanWorld world;
+    world.Open({{kEuro, 2028}, {kDollar, 2028}});
+    EXPECT_THAT(world.Lines().Texts(kGoodFriday),
+                ElementsAre("EUR 2028", "2028-04-14 Fri", "working day", "Good Friday",
+                            "Easter Sunday 16 April 2028, two days before"));
+    EXPECT_EQ(world.Lines().Cell(kGoodFriday, "Should").mark, platform::CellMark::kAdded);
+    EXPECT_EQ(world.Lines().Cell(kGoodFriday, "Should").description, "add");
+    auto& filter = world.Form().Part<headless::HeadlessDropDownList>("cmbCalendar");
+    filter.Choose(1);
+    EXPECT_THAT(world.Lines().Texts(kGoodFriday),
+                ElementsAre("2028-04-14 Fri", "working day", "Good Friday",
+                            "Easter Sunday 16 April 2028, two days before"));
+    EXPECT_THAT(world.Lines().Texts("978/2028"), ElementsAre("EUR 2028", "", "", "2 days"));
+    filter.Choose(0);
+    EXPECT_EQ(world.Lines().Texts(kGoodFriday).front(), "EUR 2028");
+  });
+}
+
 TEST(YearPlanWindow, TakesAWholeCalendarOutByItsLine) {
   RunInFreshThread([] {
     PlanWorld world;
@@ -190,7 +219,7 @@ TEST(YearPlanWindow, TakesAWholeCalendarOutByItsLine) {
     EXPECT_THAT(world.Lines().RowKeys(),
                 ElementsAre("978/2028", kGoodFriday, kChristmas, "840/2028", "840/2028/105", "840/2028/360"));
     EXPECT_THAT(world.Lines().Texts("840/2028"),
-                ElementsAre("USD 2028", "", "", "", "", "", "a new calendar, 2 days"));
+                ElementsAre("USD 2028", "", "", "", "a new calendar, 2 days"));
     world.Lines().ClickBox("840/2028");
     EXPECT_FALSE(world.Lines().Checked("840/2028/105"));
     EXPECT_EQ(world.Lines().Texts("840/2028").back(), "no calendar is made");
@@ -299,7 +328,7 @@ TEST(YearPlanWindow, SaysAllInTheOperatorsLanguage) {
                    world.Form().Part<headless::HeadlessDropDownList>("cmbCalendar").ItemText(0),
                    world.Lines().Cell("978/2028", "Why").text,
                    world.Lines().Cell(kGoodFriday, "Now").text,
-                   world.Lines().Cell(kGoodFriday, "Action").text,
+                   world.Lines().Cell(kGoodFriday, "Should").description,
                    world.Lines().Cell(kChristmas, "Why").text};
     for (const char* button : {"cmdUndo", "cmdApply", "cmdClose"})
       texts.push_back(world.Button(button).Caption());
