@@ -26,29 +26,32 @@ constexpr const char* kAsOf = "ID_CalendarAsOf";
 constexpr const char* kClose = "ID_CloseHistory";
 
 platform::FormDesign Design() {
-  return {.name = "fmHistory",
-          .caption = "History",
-          .border = platform::FormBorder::kSizable,
-          .start = platform::FormStart::kAsPlaced,
-          .client_width = 14400,
-          .client_height = 9000,
-          .closes_by_escape = true,
-          .controls = {
-              {ControlKind::kToolBar, "tbHistory"},
-              {ControlKind::kLabel, "lblCalendar", "Calendar"},
-              {ControlKind::kDropDownList, "cmbCalendar"},
-              {ControlKind::kLabel, "lblPerson", "By"},
-              {ControlKind::kDropDownList, "cmbPerson"},
-              {.kind = ControlKind::kTable, .name = "tblEntries", .selects_many = true, .sorts = true},
-              {ControlKind::kButton, "cmdOlder", "Show older"},
-              {ControlKind::kLabel, "lblTold"},
-              {.kind = ControlKind::kTable, .name = "tblChanges", .selects_many = true, .sorts = true},
-              {ControlKind::kLabel, "lblRemark"},
-              {ControlKind::kButton, "cmdUndo", "Undo"},
-              {ControlKind::kButton, "cmdRedo", "Redo"},
-              {ControlKind::kButton, "cmdThen", "Calendar then"},
-              {ControlKind::kButton, "cmdAsOf", "Calendar at..."},
-              {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
+  platform::FormDesign design = {
+      .name = "fmHistory",
+      .caption = "History",
+      .border = platform::FormBorder::kSizable,
+      .start = platform::FormStart::kAsPlaced,
+      .client_width = 14400,
+      .client_height = 9000,
+      .closes_by_escape = true,
+      .controls = {
+          {ControlKind::kToolBar, "tbHistory"},
+          {ControlKind::kLabel, "lblCalendar", "Calendar"},
+          {ControlKind::kDropDownList, "cmbCalendar"},
+          {ControlKind::kLabel, "lblPerson", "By"},
+          {ControlKind::kDropDownList, "cmbPerson"},
+          {.kind = ControlKind::kTable, .name = "tblEntries", .selects_many = true, .sorts = true},
+          {ControlKind::kButton, "cmdOlder", "Show older"},
+          {ControlKind::kLabel, "lblTold"},
+          {.kind = ControlKind::kTable, .name = "tblChanges", .selects_many = true, .sorts = true},
+          {ControlKind::kLabel, "lblRemark"},
+          {ControlKind::kButton, "cmdUndo", "Undo"},
+          {ControlKind::kButton, "cmdRedo", "Redo"},
+          {ControlKind::kButton, "cmdThen", "Calendar then"},
+          {ControlKind::kButton, "cmdAsOf", "Calendar at..."},
+          {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close", .is_cancel_button = true}}};
+  SilenceBar::AddTo(design);
+  return design;
 }
 
 /// What a button has room for, its own caption in any language included.
@@ -93,7 +96,8 @@ fmHistory::fmHistory(const PlanningContext& context)
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       redo_(ControlOf<platform::Button>(*form_, "cmdRedo")),
       then_(ControlOf<platform::Button>(*form_, "cmdThen")),
-      as_of_(ControlOf<platform::Button>(*form_, "cmdAsOf")) {
+      as_of_(ControlOf<platform::Button>(*form_, "cmdAsOf")),
+      silence_bar_(platform_, *form_) {
   tools_.AddTool(
       Said(platform_, platform::ToolDesign{kRefresh, "Refresh", "History", "Reads the history anew"}));
   tools_.AddTool(
@@ -158,10 +162,12 @@ void fmHistory::CloseByButton() { (void)Close(); }
 void fmHistory::Form_Load() {
   placement_.Restore(platform_.toolkit, *form_);
   entries_.SetFocus();
+  silence_bar_.Start();
 }
 
 void fmHistory::Form_QueryUnload() {
   has_closed_ = true;
+  silence_bar_.Stop();
   placement_.Save(*form_);
 }
 

@@ -13,6 +13,7 @@
 #include "ferrowind/views/planning/history_choice.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
+#include "ferrowind/views/planning/silence_bar.h"
 
 namespace ferrowind {
 
@@ -77,6 +78,7 @@ class fmHistory : public PlanningWindow, public std::enable_shared_from_this<fmH
   platform::Button& redo_;
   platform::Button& then_;
   platform::Button& as_of_;
+  SilenceBar silence_bar_;
   StoredPlacement placement_{"Window History"};
   bool has_closed_ = false;
   /// While this window fills the list of entries.

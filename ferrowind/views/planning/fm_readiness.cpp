@@ -46,8 +46,7 @@ platform::FormDesign Design() {
   // Last, so that the access keys of the others stay what they are.
   design.controls.push_back({ControlKind::kButton, "cmdImport", "Import..."});
   design.controls.push_back({ControlKind::kButton, "cmdExport", "Export..."});
-  const auto bar = SilenceBar::Controls();
-  design.controls.insert(design.controls.end(), bar.begin(), bar.end());
+  SilenceBar::AddTo(design);
   return design;
 }
 
@@ -302,7 +301,7 @@ void fmReadiness::OpenExchange(const ReadinessDoors::Exchange& open) {
   if (!open) return;
   const auto calendar = ChosenCalendar();
   if (!calendar) return open("", std::nullopt);
-  open(tblBoard_.CurrentRow().value_or(""), calendar->second);
+  open(planning::WrittenFor(CurrencyOfCode(*tblBoard_.CurrentRow())->currency), calendar->second);
 }
 
 void fmReadiness::OpenFinding() {

@@ -30,7 +30,7 @@ struct ReadinessDoors {
   std::function<void(std::int32_t currency)> open_rule_book = {};
   /// Of all calendars.
   std::function<void()> open_history = {};
-  /// With the code of the currency and the year that are chosen; "" and nothing when none is.
+  /// With what is written for the currency, and the year, that are chosen; "" and nothing when none is.
   using Exchange = std::function<void(const std::string& currency, std::optional<int> year)>;
   Exchange open_import = {};
   Exchange open_export = {};

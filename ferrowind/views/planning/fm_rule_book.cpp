@@ -54,14 +54,16 @@ platform::FormDesign Design() {
       {.kind = ControlKind::kButton, .name = "cmdSave", .text = "Save"},
       {.kind = ControlKind::kButton, .name = "cmdClose", .text = "Close"}};
   controls.insert(controls.end(), others.begin(), others.end());
-  return {.name = "fmRuleBook",
-          .caption = "Rule book",
-          .border = platform::FormBorder::kSizable,
-          .start = platform::FormStart::kAsPlaced,
-          .client_width = 15600,
-          .client_height = 9900,
-          .closes_by_escape = true,
-          .controls = std::move(controls)};
+  platform::FormDesign design = {.name = "fmRuleBook",
+                                 .caption = "Rule book",
+                                 .border = platform::FormBorder::kSizable,
+                                 .start = platform::FormStart::kAsPlaced,
+                                 .client_width = 15600,
+                                 .client_height = 9900,
+                                 .closes_by_escape = true,
+                                 .controls = std::move(controls)};
+  SilenceBar::AddTo(design);
+  return design;
 }
 
 std::string KeyOf(std::size_t position) { return std::to_string(position); }
@@ -90,7 +92,8 @@ fmRuleBook::fmRuleBook(const PlanningContext& context)
       tblRules_(ControlOf<Table>(*form_, "tblRules")),
       lblOutcome_(ControlOf<Label>(*form_, "lblOutcome")),
       fields_(platform_, *form_, context.tables),
-      years_(platform_, ControlOf<Table>(*form_, "tblYears")) {}
+      years_(platform_, ControlOf<Table>(*form_, "tblYears")),
+      silence_bar_(platform_, *form_) {}
 
 void fmRuleBook::Connect() {
   // A handler keeps the window alive while it runs: whoever holds it may drop it meanwhile.
@@ -178,7 +181,10 @@ bool fmRuleBook::MayLeave() const {
               .prefers_cancel = true});
 }
 
-void fmRuleBook::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+void fmRuleBook::Form_Load() {
+  placement_.Restore(platform_.toolkit, *form_);
+  silence_bar_.Start();
+}
 
 void fmRuleBook::Form_QueryUnload(bool& cancel) {
   // Nothing is lost where the question cannot be asked.
@@ -186,6 +192,7 @@ void fmRuleBook::Form_QueryUnload(bool& cancel) {
   if (!MayLeave()) return;
   cancel = false;
   has_closed_ = true;
+  silence_bar_.Stop();
   placement_.Save(*form_);
 }
 

@@ -13,6 +13,7 @@
 #include "ferrowind/views/planning/planning_window.h"
 #include "ferrowind/views/planning/rule_fields.h"
 #include "ferrowind/views/planning/rule_years_table.h"
+#include "ferrowind/views/planning/silence_bar.h"
 
 namespace ferrowind {
 
@@ -87,6 +88,7 @@ class fmRuleBook : public PlanningWindow, public std::enable_shared_from_this<fm
   /// While the program fills the controls.
   bool is_filling_ = false;
   bool has_closed_ = false;
+  SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Rule Book"};
   std::vector<platform::Subscription> subscriptions_;
 };

@@ -51,6 +51,7 @@ platform::FormDesign Design(std::size_t calendars) {
     design.controls.push_back({ControlKind::kLabel, "lblCalendar", "Calendar"});
     design.controls.push_back({ControlKind::kDropDownList, "cmbCalendar"});
   }
+  SilenceBar::AddTo(design);
   return design;
 }
 
@@ -121,7 +122,8 @@ fmYearPlan::fmYearPlan(const PlanningContext& context, planning::PlanBatch batch
       outcome_(ControlOf<platform::Table>(*form_, "tblOutcome")),
       undo_(ControlOf<platform::Button>(*form_, "cmdUndo")),
       apply_(ControlOf<platform::Button>(*form_, "cmdApply")),
-      table_(platform_, lines_, batch_, [this] { RefreshSummary(); }) {
+      table_(platform_, lines_, batch_, [this] { RefreshSummary(); }),
+      silence_bar_(platform_, *form_) {
   AddTools();
   outcome_.SetColumns({{.key = "Outcome",
                         .caption = Said(platform_, list_.empty() ? "What was done" : "What is to be known"),
@@ -147,7 +149,7 @@ void fmYearPlan::FillCalendarList() {
   filter_->AddItem(Said(platform_, "All calendars"), kAllCalendars);
   std::int32_t position = 0;
   for (const planning::PlannedCalendar& calendar : batch_.Calendars()) {
-    filter_->AddItem(calendar.Name(), position++);
+    filter_->AddItem(calendar.Title(), position++);
   }
   filter_->Choose(0);
 }
@@ -184,10 +186,16 @@ bool fmYearPlan::Close() { return form_->Unload(); }
 
 void fmYearPlan::CloseByButton() { (void)Close(); }
 
-void fmYearPlan::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+void fmYearPlan::Form_Load() {
+  placement_.Restore(platform_.toolkit, *form_);
+  silence_bar_.Start([weak = weak_from_this()] {
+    if (const auto self = weak.lock()) self->PlanWhatIsMissing();
+  });
+}
 
 void fmYearPlan::Form_QueryUnload() {
   has_closed_ = true;
+  silence_bar_.Stop();
   placement_.Save(*form_);
 }
 
@@ -197,10 +205,10 @@ void fmYearPlan::Form_QueryUnload() {
 void fmYearPlan::ShowCaption() {
   const auto& calendars = batch_.Calendars();
   if (!list_.empty()) {
-    return form_->SetCaption(Said(platform_, "Import of %1: %2", {calendars.front().Name(), list_}));
+    return form_->SetCaption(Said(platform_, "Import of %1: %2", {calendars.front().Title(), list_}));
   }
   form_->SetCaption(calendars.size() == 1
-                        ? Said(platform_, "Plan of %1", {calendars.front().Name()})
+                        ? Said(platform_, "Plan of %1", {calendars.front().Title()})
                         : SaidOfNumber(platform_, static_cast<std::int64_t>(calendars.size()),
                                        "Plan of %n calendar", "Plans of %n calendars"));
 }
@@ -221,7 +229,7 @@ void fmYearPlan::RefreshSummary() {
   std::string summary = planning::SummaryOf(batch_);
   if (const auto shown = table_.Filter().calendar) {
     // What is applied is all of it.
-    summary += " " + Said(platform_, "Only %1 is on show.", {batch_.Calendars()[*shown].Name()});
+    summary += " " + Said(platform_, "Only %1 is on show.", {batch_.Calendars()[*shown].Title()});
   }
   summary_.SetText(summary);
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);
@@ -284,6 +292,17 @@ void fmYearPlan::RunTool(const std::string& id) {
 void fmYearPlan::PlanAnew() {
   batch_.PlanAnew();
   Tell({}, {});
+  ShowLines();
+}
+
+void fmYearPlan::PlanWhatIsMissing() {
+  const auto& calendars = batch_.Calendars();
+  std::vector<std::size_t> missing;
+  for (std::size_t i = 0; i < calendars.size(); ++i) {
+    if (calendars[i].Preparation() == nullptr) missing.push_back(i);
+  }
+  if (missing.empty()) return;
+  batch_.PlanAnew(missing);
   ShowLines();
 }
 

@@ -14,6 +14,7 @@
 #include "ferrowind/views/planning/plan_table.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
+#include "ferrowind/views/planning/silence_bar.h"
 
 namespace ferrowind {
 
@@ -53,6 +54,8 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   void Apply();
   void Undo();
   void PlanAnew();
+  /// What could not be planned while the server was silent is planned now.
+  void PlanWhatIsMissing();
   /// Applies or undoes all, or until the operator stops it.
   void Do(planning::PlanRun::Kind kind);
   void ShowProgress(planning::PlanRun& run, planning::PlanRun::Kind kind);
@@ -87,6 +90,7 @@ class fmYearPlan : public PlanningWindow, public std::enable_shared_from_this<fm
   platform::Button& undo_;
   platform::Button& apply_;
   PlanTable table_;
+  SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Year Plan"};
   bool has_closed_ = false;
   /// While it tells the other windows of its own changes.

@@ -34,23 +34,26 @@ constexpr const char* kClose = "ID_CloseYear";
 constexpr std::int32_t kTextPanel = 1;
 
 platform::FormDesign Design() {
-  return {.name = "fmYearPlanner",
-          .caption = "Year planner",
-          .border = platform::FormBorder::kSizable,
-          .start = platform::FormStart::kAsPlaced,
-          .client_width = 14400,
-          .client_height = 9900,
-          .closes_by_escape = true,
-          .controls = {
-              {ControlKind::kYearView, "yvYear"},
-              {ControlKind::kToolBar, "tbYear"},
-              {ControlKind::kLabel, "lblCurrencies", "Currencies"},
-              {ControlKind::kTextBox, "txtCurrencies"},
-              {ControlKind::kLabel, "lblYear", "Year"},
-              {ControlKind::kTextBox, "txtYear"},
-              {.kind = ControlKind::kButton, .name = "cmdShow", .text = "Show", .is_default_button = true},
-              {ControlKind::kLabel, "lblSummary"},
-              {ControlKind::kStatusBar, "sbYear"}}};
+  platform::FormDesign design = {
+      .name = "fmYearPlanner",
+      .caption = "Year planner",
+      .border = platform::FormBorder::kSizable,
+      .start = platform::FormStart::kAsPlaced,
+      .client_width = 14400,
+      .client_height = 9900,
+      .closes_by_escape = true,
+      .controls = {
+          {ControlKind::kYearView, "yvYear"},
+          {ControlKind::kToolBar, "tbYear"},
+          {ControlKind::kLabel, "lblCurrencies", "Currencies"},
+          {ControlKind::kTextBox, "txtCurrencies"},
+          {ControlKind::kLabel, "lblYear", "Year"},
+          {ControlKind::kTextBox, "txtYear"},
+          {.kind = ControlKind::kButton, .name = "cmdShow", .text = "Show", .is_default_button = true},
+          {ControlKind::kLabel, "lblSummary"},
+          {ControlKind::kStatusBar, "sbYear"}}};
+  SilenceBar::AddTo(design);
+  return design;
 }
 
 void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
@@ -116,7 +119,8 @@ fmYearPlanner::fmYearPlanner(const PlanningContext& context)
       currencies_box_(ControlOf<platform::TextBox>(*form_, "txtCurrencies")),
       year_box_(ControlOf<platform::TextBox>(*form_, "txtYear")),
       summary_(ControlOf<platform::Label>(*form_, "lblSummary")),
-      bar_(ControlOf<platform::StatusBar>(*form_, "sbYear")) {
+      bar_(ControlOf<platform::StatusBar>(*form_, "sbYear")),
+      silence_bar_(platform_, *form_) {
   SetupTools(platform_, tools_);
 }
 
@@ -152,10 +156,14 @@ void fmYearPlanner::ShowInFront() {
 
 bool fmYearPlanner::Close() { return form_->Unload(); }
 
-void fmYearPlanner::Form_Load() { placement_.Restore(platform_.toolkit, *form_); }
+void fmYearPlanner::Form_Load() {
+  placement_.Restore(platform_.toolkit, *form_);
+  silence_bar_.Start();
+}
 
 void fmYearPlanner::Form_QueryUnload() {
   has_closed_ = true;
+  silence_bar_.Stop();
   placement_.Save(*form_);
 }
 
@@ -167,9 +175,10 @@ void fmYearPlanner::Show(const std::vector<Currency>& currencies, int year) {
   platform::YearContent content = YearContentOf(*overview_, platform_.clock.Today());
   summary_.SetText(content.summary);
   view_.SetContent(std::move(content));
-  std::string codes;
-  for (const Currency& currency : currencies) codes += (codes.empty() ? "" : " ") + currency.code;
-  currencies_box_.SetText(codes);
+  std::string written;
+  for (const Currency& currency : currencies)
+    written += (written.empty() ? "" : " ") + planning::WrittenFor(currency);
+  currencies_box_.SetText(written);
   year_box_.SetText(std::to_string(year));
   form_->SetCaption(Said(platform_, "Year planner - %1", {HeadingOf(*overview_)}));
   tools_.SetToolEnabled(kYearBefore, year > planning::kFirstCalendarYear);

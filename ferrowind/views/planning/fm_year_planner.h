@@ -10,6 +10,7 @@
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
 #include "ferrowind/views/planning/selected_days.h"
+#include "ferrowind/views/planning/silence_bar.h"
 
 namespace ferrowind {
 
@@ -67,6 +68,7 @@ class fmYearPlanner : public PlanningWindow, public std::enable_shared_from_this
   platform::StatusBar& bar_;
   /// Nothing until the first calendars are read.
   std::optional<planning::YearOverview> overview_;
+  SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Year Planner"};
   bool has_closed_ = false;
   std::vector<platform::Subscription> subscriptions_;

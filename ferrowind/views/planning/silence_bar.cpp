@@ -29,6 +29,10 @@ std::vector<platform::ControlDesign> SilenceBar::Controls() {
           {ControlKind::kButton, "cmdTryNow", "Try now"}};
 }
 
+void SilenceBar::AddTo(platform::FormDesign& design) {
+  for (platform::ControlDesign& control : Controls()) design.controls.push_back(std::move(control));
+}
+
 SilenceBar::SilenceBar(const platform::Platform& platform, platform::Form& form)
     : platform_(platform),
       panel_(form.ControlNamed("pnlSilence")),

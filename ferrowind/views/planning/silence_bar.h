@@ -20,6 +20,8 @@ class SilenceBar {
  public:
   /// The controls of the bar, in tab order; at most one bar stands on a form.
   [[nodiscard]] static std::vector<platform::ControlDesign> Controls();
+  /// Puts them behind those that `design` has, whose access keys stay what they are.
+  static void AddTo(platform::FormDesign& design);
 
   /// `form` has the controls; both must outlive the bar.
   SilenceBar(const platform::Platform& platform, platform::Form& form);

@@ -3,7 +3,9 @@
 #include <QPixmap>
 #include <QTranslator>
 #include <chrono>
+#include <functional>
 #include <tuple>
+#include <utility>
 
 #include "ferrowind/adapters/qt/look/theme.h"
 #include "ferrowind/adapters/qt/services/languages.h"
@@ -91,6 +93,10 @@ class WindowLooksTest : public ::testing::TestWithParam<Setup> {
       if (!is_resizable) break;
     }
   }
+  void ExamineInSilence(QWidget& window) {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Find<QFrame>(window, "pnlSilence").isVisible(); }, 5000));
+    Examine(window);
+  }
   /// For a look by a person.
   static void Picture(QWidget& window, const std::string& name) {
     const QString folder = qEnvironmentVariable("FERROWIND_PICTURES");
@@ -158,13 +164,23 @@ TEST_P(WindowLooksTest, CanBeReadAndUsedWhileTheServerDoesNotAnswer) {
   silence.until_next_try = std::chrono::milliseconds(4500);
   platform_.change_watches = &silence;
   QWidget& calendars = OpenCalendars();
-  RunHandler(platform_, [&] { windows_.OpenReadiness(); });
-  QWidget& board = *WindowOnShow("fmReadiness");
-  for (QWidget* window : {&calendars, &board}) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Find<QFrame>(*window, "pnlSilence").isVisible(); }, 5000));
-    Examine(*window);
+  ExamineInSilence(calendars);
+  const std::pair<const char*, std::function<void()>> windows[] = {
+      {"fmReadiness", [this] { windows_.OpenReadiness(); }},
+      {"fmYearPlan",
+       [this] {
+         windows_.OpenYearPlan({{kDollar, 2028}, {kEuro, 2026}});
+       }},
+      {"fmHistory", [this] { windows_.OpenHistory({}); }},
+      {"fmRuleBook", [this] { windows_.OpenRuleBook(kPound); }},
+      {"fmYearPlanner", [this] {
+         windows_.OpenYearPlanner({kDollar, kEuro}, 2028);
+       }}};
+  for (const auto& [name, open] : windows) {
+    RunHandler(platform_, open);
+    ExamineInSilence(*WindowOnShow(name));
+    EXPECT_TRUE(windows_.CloseAll());
   }
-  EXPECT_TRUE(windows_.CloseAll());
   EXPECT_TRUE(control_.ForceClosing());
 }
 

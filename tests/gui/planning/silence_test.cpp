@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <functional>
 
 #include "ferrowind/data/run_handler.h"
 #include "ferrowind/views/planning/planning_additions.h"
@@ -17,6 +18,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
+constexpr std::int32_t kEuro = 978;
+
 class SilenceTest : public WindowsTest {
  protected:
   SilenceTest() {
@@ -28,9 +31,9 @@ class SilenceTest : public WindowsTest {
     EXPECT_TRUE(windows_.CloseAll());
   }
 
-  QWidget& OpenBoard() {
-    RunHandler(desk_.Platform(), [&] { windows_.OpenReadiness(); });
-    QWidget& window = *WindowOnShow("fmReadiness");
+  QWidget& OpenWindow(const char* form, const std::function<void()>& open) {
+    RunHandler(desk_.Platform(), open);
+    QWidget& window = *WindowOnShow(form);
     Activate(window);
     return window;
   }
@@ -58,7 +61,9 @@ class SilenceTest : public WindowsTest {
     TabTo(button);
     Press(button, Qt::Key_Space);
     EXPECT_EQ(silence_.tries_asked_for, 1);
-    Press(window, Qt::Key_T, Qt::AltModifier);
+    ASSERT_FALSE(button.shortcut().isEmpty());
+    const QKeyCombination access = button.shortcut()[0];
+    Press(window, access.key(), access.keyboardModifiers());
     EXPECT_TRUE(QTest::qWaitFor([this] { return silence_.tries_asked_for == 2; }, 5000));
     Fall(window, std::nullopt);
   }
@@ -73,7 +78,25 @@ TEST_F(SilenceTest, IsToldInTheCalendarsAndTriedByKeyboard) {
   ExpectTheBarOf(Window());
 }
 
-TEST_F(SilenceTest, IsToldOnTheBoardAndTriedByKeyboard) { ExpectTheBarOf(OpenBoard()); }
+TEST_F(SilenceTest, IsToldOnTheBoardAndTriedByKeyboard) {
+  ExpectTheBarOf(OpenWindow("fmReadiness", [this] { windows_.OpenReadiness(); }));
+}
+
+TEST_F(SilenceTest, IsToldInAPlanAndTriedByKeyboard) {
+  ExpectTheBarOf(OpenWindow("fmYearPlan", [this] { windows_.OpenYearPlan({{kEuro, 2028}}); }));
+}
+
+TEST_F(SilenceTest, IsToldInTheHistoryAndTriedByKeyboard) {
+  ExpectTheBarOf(OpenWindow("fmHistory", [this] { windows_.OpenHistory({}); }));
+}
+
+TEST_F(SilenceTest, IsToldInARuleBookAndTriedByKeyboard) {
+  ExpectTheBarOf(OpenWindow("fmRuleBook", [this] { windows_.OpenRuleBook(kEuro); }));
+}
+
+TEST_F(SilenceTest, IsToldInAYearPlannerAndTriedByKeyboard) {
+  ExpectTheBarOf(OpenWindow("fmYearPlanner", [this] { windows_.OpenYearPlanner({kEuro}, 2028); }));
+}
 
 TEST_F(SilenceTest, HasNoBarInAWindowWithoutAdditions) {
   desk_.SetAdditions(nullptr);

@@ -434,6 +434,21 @@ TEST(YearPlannerWindow, ShowsTheCurrenciesAndTheYearThatAreTyped) {
   });
 }
 
+TEST(YearPlannerWindow, TakesTheCurrencyWhoseCodeMeansAllForNothingElse) {
+  RunInFreshThread([] {
+    PlannerWorld planner;
+    planner.world.database->Tables().currencies.push_back({8, "ALL", 0, "Lek"});
+    planner.Open({8});
+    EXPECT_EQ(planner.Form().Caption(), "Year planner - ALL (Lek) 2028");
+    EXPECT_EQ(planner.Form().Part<headless::HeadlessTextBox>("txtCurrencies").Text(), "008");
+    planner.ClickShow();
+    EXPECT_EQ(planner.Form().Caption(), "Year planner - ALL (Lek) 2028");
+    planner.Type("txtCurrencies", "all");
+    planner.ClickShow();
+    EXPECT_EQ(planner.Form().Caption(), "Year planner - USD, EUR 2028");
+  });
+}
+
 TEST(YearPlannerWindow, FollowsChangesOfItsCalendarsByOtherWindows) {
   RunInFreshThread([] {
     PlannerWorld world;

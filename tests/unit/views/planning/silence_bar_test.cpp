@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/data/run_handler.h"
 
 #include "tests/support/failure_of.h"
@@ -18,6 +19,7 @@ using headless::HeadlessLabel;
 using platform::Date;
 using std::chrono::milliseconds;
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -28,6 +30,7 @@ using ::testing::SizeIs;
 using ::testing::StartsWith;
 
 constexpr std::int32_t kSecond = 1000;
+constexpr std::int32_t kEuro = 978;
 constexpr const char* kSentence = "The server does not answer. Nothing can be read or changed until it does.";
 
 /// Windows over a database of which a test says when it is silent.
@@ -164,6 +167,60 @@ TEST(SilenceBar, OfTheBoardComesAndGoesAndTheBoardReadsWhatItCouldNotRead) {
     EXPECT_FALSE(board.ControlNamed("lblProblem").Visible());
     EXPECT_TRUE(calendars.windows.CloseAll());
     EXPECT_EQ(calendars.world.toolkit.WaitingTimers(), 0U);
+  });
+}
+
+struct OpenedWindow {
+  const char* form;
+  void (*open)(PlanningWindows& windows);
+};
+
+class SilenceBarOfWindow : public ::testing::TestWithParam<OpenedWindow> {};
+
+TEST_P(SilenceBarOfWindow, ComesAndGoesAndLeavesNothingBehind) {
+  RunInFreshThread([] {
+    SilentWorld calendars;
+    GetParam().open(calendars.windows);
+    auto& form = calendars.world.toolkit.FormNamed(GetParam().form);
+    EXPECT_FALSE(form.ControlNamed("pnlSilence").Visible());
+    calendars.TrySoon(milliseconds(4100));
+    EXPECT_TRUE(form.ControlNamed("pnlSilence").Visible());
+    EXPECT_EQ(form.Part<HeadlessLabel>("lblSilence").Text(), kSentence);
+    EXPECT_EQ(form.Part<HeadlessLabel>("lblNextTry").Text(), "Next try in 5 seconds");
+    form.Part<HeadlessButton>("cmdTryNow").Click();
+    EXPECT_EQ(calendars.world.database->Silence().tries_asked_for, 1);
+    calendars.TrySoon(std::nullopt);
+    EXPECT_FALSE(form.ControlNamed("pnlSilence").Visible());
+    EXPECT_TRUE(calendars.windows.CloseAll());
+    EXPECT_EQ(calendars.world.toolkit.WaitingTimers(), 0U);
+  });
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Planning, SilenceBarOfWindow,
+    ::testing::Values(OpenedWindow{"fmReadiness", [](auto& windows) { windows.OpenReadiness(); }},
+                      OpenedWindow{"fmYearPlan",
+                                   [](auto& windows) {
+                                     windows.OpenYearPlan({{kEuro, 2028}});
+                                   }},
+                      OpenedWindow{"fmHistory", [](auto& windows) { windows.OpenHistory({}); }},
+                      OpenedWindow{"fmRuleBook", [](auto& windows) { windows.OpenRuleBook(kEuro); }},
+                      OpenedWindow{"fmYearPlanner",
+                                   [](auto& windows) { windows.OpenYearPlanner({kEuro}, 2028); }}),
+    [](const auto& window) { return std::string(window.param.form); });
+
+TEST(SilenceBar, OfAPlanGoesAndThePlanIsMadeThatCouldNotBeMade) {
+  RunInFreshThread([] {
+    SilentWorld calendars;
+    calendars.windows.OpenYearPlan({{kEuro, 2028}});
+    auto& plan = calendars.world.toolkit.FormNamed("fmYearPlan");
+    const auto& lines = plan.Part<headless::HeadlessTable>("tblPlan");
+    const auto planned = lines.RowKeys();
+    calendars.TrySoon(milliseconds(5000));
+    plan.Part<headless::HeadlessToolBar>("tbPlan").ClickTool("ID_Refresh");
+    ASSERT_THAT(lines.RowKeys(), ElementsAre("978/2028/not-planned"));
+    calendars.TrySoon(std::nullopt);
+    EXPECT_EQ(lines.RowKeys(), planned);
   });
 }
 
