@@ -520,6 +520,10 @@
         <translation><numerusform>%n ändert nichts</numerusform><numerusform>%n ändern nichts</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n changes are undone</source>
+        <translation><numerusform>%n Änderung ist rückgängig gemacht</numerusform><numerusform>%n Änderungen sind rückgängig gemacht</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n geschlossener Tag behält seinen Namen; die Liste nennt ihn anders.</numerusform><numerusform>%n geschlossene Tage behalten ihre Namen; die Liste nennt sie anders.</numerusform></translation>
     </message>
@@ -2518,6 +2522,10 @@
     <message>
         <source>Undo in %1: %2?</source>
         <translation>In %1 rückgängig machen: %2?</translation>
+    </message>
+    <message>
+        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
+        <translation>Macht die letzte Änderung, die hier gemacht wurde, in allen ihren Kalendern und Regelwerken rückgängig</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

@@ -520,6 +520,10 @@
         <translation><numerusform>%n no cambia nada</numerusform><numerusform>%n no cambian nada</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n changes are undone</source>
+        <translation><numerusform>%n cambio se ha deshecho</numerusform><numerusform>%n cambios se han deshecho</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n día cerrado conserva su nombre; la lista lo llama de otro modo.</numerusform><numerusform>%n días cerrados conservan sus nombres; la lista los llama de otro modo.</numerusform></translation>
     </message>
@@ -2518,6 +2522,10 @@
     <message>
         <source>Undo in %1: %2?</source>
         <translation>¿Deshacer en %1: %2?</translation>
+    </message>
+    <message>
+        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
+        <translation>Deshace el último cambio hecho aquí, en todos sus calendarios y reglamentos</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

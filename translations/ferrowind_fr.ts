@@ -520,6 +520,10 @@
         <translation><numerusform>%n ne change rien</numerusform><numerusform>%n ne changent rien</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n changes are undone</source>
+        <translation><numerusform>%n modification est annulée</numerusform><numerusform>%n modifications sont annulées</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n jour fermé garde son nom ; la liste l'appelle autrement.</numerusform><numerusform>%n jours fermés gardent leurs noms ; la liste les appelle autrement.</numerusform></translation>
     </message>
@@ -2518,6 +2522,10 @@
     <message>
         <source>Undo in %1: %2?</source>
         <translation>Annuler dans %1 : %2 ?</translation>
+    </message>
+    <message>
+        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
+        <translation>Annule la dernière modification faite ici, dans tous ses calendriers et recueils de règles</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

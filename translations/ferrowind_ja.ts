@@ -520,6 +520,10 @@
         <translation><numerusform>%n件は変化なし</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n changes are undone</source>
+        <translation><numerusform>%n件の変更を元に戻しました</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n日の休業日は名称を保ちます。一覧では別の名称です。</numerusform></translation>
     </message>
@@ -2518,6 +2522,10 @@
     <message>
         <source>Undo in %1: %2?</source>
         <translation>%1で取り消しますか：%2？</translation>
+    </message>
+    <message>
+        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
+        <translation>ここで最後に行った変更を、関係するすべてのカレンダーと規則集で元に戻します</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

@@ -26,6 +26,7 @@ constexpr const char* kYearAfter = "ID_YearAfter";
 constexpr const char* kExcept = "ID_ExceptDays";
 constexpr const char* kExceptPlain = "ID_ExceptDaysPlain";
 constexpr const char* kCloseDays = "ID_CloseDays";
+constexpr const char* kUndo = "ID_Undo";
 constexpr const char* kDayHistory = "ID_DayHistory";
 constexpr const char* kPrint = "ID_PrintYear";
 constexpr const char* kSavePdf = "ID_SaveYearPdf";
@@ -74,13 +75,15 @@ void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
       "Makes the selected days working days by exception, with one reason", "Ctrl+E");
   add(kCloseDays, "Close selected days as ...",
       "Closes the selected days that are open, as a holiday that was announced for once", "Ctrl+L");
+  add(kUndo, "Undo", "Undoes the last change that was made here, in all its calendars and rule books",
+      "Ctrl+Z");
   add(kDayHistory, "History of the day...", "Shows who changed the day and when", "Ctrl+H");
   add(kPrint, "Print...", "Prints the year", "Ctrl+P");
   add(kSavePdf, "Save as PDF...", "Writes the year into a file for reading and printing", "Ctrl+S");
   add(kSavePicture, "Save as picture...", "Writes the year into a PNG file", "Ctrl+Shift+S");
   add(kClose, "Close", "", "Ctrl+W");
   tools.SetBar(Said(platform, "Year"), {kRefresh, kYearBefore, kYearAfter, kToolSeparator, kExcept,
-                                        kCloseDays, kToolSeparator, kPrint, kSavePdf, kSavePicture});
+                                        kCloseDays, kUndo, kToolSeparator, kPrint, kSavePdf, kSavePicture});
   tools.AddPopupMenu(kDayMenu, Said(platform, "Day"),
                      {kExceptPlain, kExcept, kCloseDays, kToolSeparator, kDayHistory});
 }
@@ -122,6 +125,7 @@ fmYearPlanner::fmYearPlanner(const PlanningContext& context)
       bar_(ControlOf<platform::StatusBar>(*form_, "sbYear")),
       silence_bar_(platform_, *form_) {
   SetupTools(platform_, tools_);
+  RefreshUndo();
 }
 
 void fmYearPlanner::Connect() {
@@ -250,6 +254,7 @@ void fmYearPlanner::RunTool(const std::string& id) {
       {kExceptPlain, [](fmYearPlanner& w) { w.ExceptDays(); }},
       {kExcept, [](fmYearPlanner& w) { w.ExceptDaysWithReason(); }},
       {kCloseDays, [](fmYearPlanner& w) { w.CloseDays(); }},
+      {kUndo, [](fmYearPlanner& w) { w.Undo(); }},
       {kDayHistory, [](fmYearPlanner& w) { w.OpenDayHistory(); }},
       {kPrint, [](fmYearPlanner& w) { (void)w.view_.PrintPages(HeadingOf(*w.overview_)); }},
       {kSavePdf, [](fmYearPlanner& w) { w.Save(PageFile::kPdf); }},
@@ -266,20 +271,25 @@ void fmYearPlanner::ShowDayMenu() { tools_.ShowPopupMenu(kDayMenu); }
 void fmYearPlanner::ExceptDays() {
   // A copy: whoever learns of the change may have this window read its calendars anew.
   const YearOverview seen = *overview_;
-  Tell(ExceptDaysWith("", seen, DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()))));
+  const auto days = DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()));
+  Tell(WithCalls(seen, days, [&] { return ExceptDaysWith("", seen, days); }));
 }
 
 void fmYearPlanner::ExceptDaysWithReason() {
   // A copy: other windows may have this one read its calendars anew while the operator thinks of the reason.
   const YearOverview seen = *overview_;
-  Tell(ExceptSelectedDays(platform_.toolkit, seen,
-                          DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()))));
+  const auto days = DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()));
+  Tell(WithCalls(seen, days, [&] { return ExceptSelectedDays(platform_.toolkit, seen, days); }));
 }
 
 void fmYearPlanner::CloseDays() {
   const YearOverview seen = *overview_;
   Tell(CloseSelectedDays(context_, seen, SelectedDaysOf(seen, view_.Selected())));
 }
+
+void fmYearPlanner::Undo() { Tell(UndoAction(last_action_)); }
+
+void fmYearPlanner::RefreshUndo() { tools_.SetToolEnabled(kUndo, !last_action_.IsEmpty()); }
 
 const YearOverview::Calendar* fmYearPlanner::CurrentCalendar() const {
   const auto current = view_.Current();
@@ -297,6 +307,8 @@ void fmYearPlanner::OpenDayHistory() {
 
 void fmYearPlanner::Tell(const DaysOutcome& outcome) {
   if (has_closed_) return;
+  if (!outcome.calls.IsEmpty()) last_action_ = outcome.calls;
+  RefreshUndo();
   if (outcome.changed) windows_.TellChanged(*outcome.changed);
   if (!outcome.problems.empty()) {
     ReadAnew();

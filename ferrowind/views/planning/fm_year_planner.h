@@ -46,10 +46,12 @@ class fmYearPlanner : public PlanningWindow, public std::enable_shared_from_this
   void ExceptDays();
   void ExceptDaysWithReason();
   void CloseDays();
+  void Undo();
   void OpenDayHistory();
   /// The calendar of the current day; null in the row of all of them.
   [[nodiscard]] const planning::YearOverview::Calendar* CurrentCalendar() const;
   void Tell(const DaysOutcome& outcome);
+  void RefreshUndo();
   void Save(platform::PageFile kind);
   void RefreshSelection();
   void ShowToolDescription(const std::string& id);
@@ -68,6 +70,8 @@ class fmYearPlanner : public PlanningWindow, public std::enable_shared_from_this
   platform::StatusBar& bar_;
   /// Nothing until the first calendars are read.
   std::optional<planning::YearOverview> overview_;
+  /// The last that was made here and is not undone.
+  planning::ActionCalls last_action_;
   SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Year Planner"};
   bool has_closed_ = false;

@@ -36,6 +36,15 @@ std::string NameOf(const YearOverview& overview, const YearOverview::Calendar& c
   return calendar.currency.code + " " + std::to_string(overview.Year());
 }
 
+std::vector<planning::CalendarKey> KeysOf(const YearOverview& overview,
+                                          const std::vector<SelectedDays>& selected) {
+  std::vector<planning::CalendarKey> keys;
+  for (const auto& of_calendar : selected) {
+    keys.emplace_back(overview.Calendars()[of_calendar.calendar].currency.id, overview.Year());
+  }
+  return keys;
+}
+
 void AppendSentence(std::string& text, const std::string& sentence) {
   if (!text.empty()) text += "\n";
   text += sentence;
@@ -125,7 +134,8 @@ DaysOutcome CloseSelectedDays(const PlanningContext& context, const YearOverview
   fmCloseDays dialog(context.platform, closing);
   dialog.ShowModal();
   if (!dialog.IsConfirmed()) return closed;
-  const planning::ClosingOutcome outcome = closing.Close();
+  planning::ClosingOutcome outcome;
+  closed.calls = planning::ActionCalls::Of(KeysOf(overview, days), [&] { outcome = closing.Close(); });
   for (const std::string& problem : outcome.problems) AppendSentence(closed.problems, problem);
   // Rules and books may be others as well as the calendars.
   if (outcome.may_have_changed) closed.changed.emplace();
@@ -136,6 +146,25 @@ DaysOutcome CloseSelectedDays(const PlanningContext& context, const YearOverview
                           {closed.done});
   }
   return closed;
+}
+
+DaysOutcome WithCalls(const YearOverview& overview, const std::vector<SelectedDays>& days,
+                      const std::function<DaysOutcome()>& act) {
+  DaysOutcome outcome;
+  auto calls = planning::ActionCalls::Of(KeysOf(overview, days), [&] { outcome = act(); });
+  outcome.calls = std::move(calls);
+  return outcome;
+}
+
+DaysOutcome UndoAction(planning::ActionCalls& calls) {
+  DaysOutcome told;
+  const planning::ActionCalls::Outcome outcome = calls.Undo();
+  for (const std::string& problem : outcome.problems) AppendSentence(told.problems, problem);
+  // Rules and books may be others as well as the calendars.
+  if (outcome.may_have_changed) told.changed.emplace();
+  if (outcome.undone != 0)
+    told.done = InWords(outcome.undone, "%n change is undone", "%n changes are undone");
+  return told;
 }
 
 void ShowProblems(const DaysOutcome& outcome, platform::Form& window) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "ferrowind/planning/action_calls.h"
 #include "ferrowind/planning/year_overview.h"
 #include "ferrowind/platform/toolkit/year_view.h"
 #include "ferrowind/views/planning/planning_context.h"
@@ -33,6 +35,8 @@ struct DaysOutcome {
   std::string problems;
   /// What was done, a sentence; empty when nothing was.
   std::string done;
+  /// What undoes all of it in one step, where that was asked for.
+  planning::ActionCalls calls = {};
 };
 
 /// Makes the days working days by exception with that reason, which may be empty, one call a calendar.
@@ -49,6 +53,13 @@ struct DaysOutcome {
 [[nodiscard]] DaysOutcome CloseSelectedDays(const PlanningContext& context,
                                             const planning::YearOverview& overview,
                                             const std::vector<SelectedDays>& days);
+
+/// What `act` does with those days, and what undoes it.
+[[nodiscard]] DaysOutcome WithCalls(const planning::YearOverview& overview,
+                                    const std::vector<SelectedDays>& days,
+                                    const std::function<DaysOutcome()>& act);
+/// Undoes what an action has changed; what failed stays in `calls` to be undone another time.
+[[nodiscard]] DaysOutcome UndoAction(planning::ActionCalls& calls);
 
 /// Shows the problems to the operator, if there are any.
 void ShowProblems(const DaysOutcome& outcome, platform::Form& window);

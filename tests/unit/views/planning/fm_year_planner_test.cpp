@@ -337,6 +337,64 @@ TEST(YearPlannerWindow, TellsThatAnnouncedHolidaysAreInTheRuleBooks) {
   });
 }
 
+/// Closes 5 May 2028 in the calendars of both currencies, and in their books.
+void CloseTheFifthOfMay(PlannerWorld& world) {
+  PlannerWorld::GiveBook(kEuro, "EUR", "");
+  PlannerWorld::GiveBook(kDollar, "USD", "");
+  world.Open({kEuro, kDollar});
+  world.View().ClickDay({"joint", 126});
+  world.CloseDaysAs([](headless::HeadlessForm& dialog) {
+    dialog.Part<headless::HeadlessTextBox>("txtName").TypeText("Mourning");
+    dialog.Part<headless::HeadlessButton>("cmdCloseDays").Click();
+  });
+}
+
+std::size_t RulesInBook(std::int32_t currency, const std::string& code) {
+  return planning::LoadBook(currency, code, {})->book->rules.size();
+}
+
+TEST(YearPlannerWindow, UndoesWhatWasClosedInAllCalendarsAndBooksInOneStep) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    CloseTheFifthOfMay(world);
+    ASSERT_EQ(RulesInBook(kEuro, "EUR"), 2U);
+    EXPECT_TRUE(world.Tools().ToolEnabled("ID_Undo"));
+    world.Form().PressShortcut("Ctrl+Z");
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), SizeIs(2));
+    EXPECT_THAT(PlannerWorld::DaysOf("USD", kDollar, 2028), SizeIs(2));
+    EXPECT_EQ(RulesInBook(kEuro, "EUR"), 1U);
+    EXPECT_EQ(RulesInBook(kDollar, "USD"), 1U);
+    EXPECT_EQ(world.Status(), "4 changes are undone");
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+    EXPECT_THAT(world.Reports(), IsEmpty());
+  });
+}
+
+TEST(YearPlannerWindow, UndoesTheRestWhereSomebodyElseHasChangedTheDaySince) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    CloseTheFifthOfMay(world);
+    world.world.database->SetUser("anna");
+    PlannerWorld::Except(kDollar, "2028-05-05", "Open after all");
+    world.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), SizeIs(2));
+    EXPECT_THAT(PlannerWorld::ExceptionsOf("USD", kDollar), ElementsAre("2028-05-05"));
+    EXPECT_EQ(world.Status(), "3 changes are undone");
+    EXPECT_THAT(world.Reports(), ElementsAre(HasSubstr("anna")));
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+  });
+}
+
+TEST(YearPlannerWindow, UndoesNothingBeforeAnythingWasChangedHere) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+    world.Form().PressShortcut("Ctrl+Z");
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), SizeIs(2));
+  });
+}
+
 TEST(YearPlannerWindow, ClosesNothingWhenTheQuestionIsCancelled) {
   RunInFreshThread([] {
     PlannerWorld world;
@@ -563,6 +621,11 @@ TEST(YearPlannerFaults, AtAnyCallOfClosingDaysLeaveTheWindowUsable) {
         PlannerWorld::GiveBook(kEuro, "EUR", "");
         world.View().ClickDay({kEuroKey, 126});
       });
+}
+
+TEST(YearPlannerFaults, AtAnyCallOfUndoingLeaveTheWindowUsable) {
+  FailEachCallOf([](PlannerWorld& world) { world.Tools().ClickTool("ID_Undo"); }, 20,
+                 [](PlannerWorld& world) { CloseTheFifthOfMay(world); });
 }
 
 TEST(YearPlannerFaults, AtAnyCallOfShowingAnotherYearLeaveTheWindowUsable) {

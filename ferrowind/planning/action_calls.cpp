@@ -1,0 +1,92 @@
+#include "ferrowind/planning/action_calls.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/data/action_scope.h"
+#include "ferrowind/data/module_state.h"
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/database_call.h"
+#include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/in_words.h"
+#include "ferrowind/planning/told_write.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::planning {
+namespace {
+
+/// More calls than any action makes: one for each calendar, and one for each book.
+constexpr std::int32_t kMostCalls = 1000;
+
+/// Of one of the calendars, or of the book of its currency, which has no year.
+bool IsOf(const HistoryEntry& entry, std::span<const CalendarKey> calendars) {
+  return std::any_of(calendars.begin(), calendars.end(), [&](const CalendarKey& calendar) {
+    return entry.currency == calendar.first && (!entry.year || entry.year == calendar.second);
+  });
+}
+
+std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
+  auto found = LoadEntry(id);
+  if (!found) return std::nullopt;
+  return std::move(found->entry);
+}
+
+UndoOutcome UndoOne(const HistoryEntry& call, const CurrencyList& currencies) {
+  UndoOutcome outcome;
+  WriteTold(platform::ActionKind::kUndo,
+            {currencies.FindOrNumber(*call.currency).code, call.year.value_or(0)}, [&] {
+              outcome = UndoEntry(call);
+              return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone
+                                                              : return_value::kChangedSince;
+            });
+  return outcome;
+}
+
+}  // namespace
+
+std::optional<ActionCalls::Mark> ActionCalls::Newest() {
+  try {
+    const HistoryPage page = LoadHistory({}, std::nullopt, 1);
+    return Mark{page.entries.empty() ? 0 : page.entries.front().id, page.asker};
+  } catch (const platform::Failure&) {
+    return std::nullopt;
+  }
+}
+
+ActionCalls::ActionCalls(std::span<const CalendarKey> calendars, const Mark& before) {
+  try {
+    HistoryPage page = LoadHistory({.user = before.asker}, std::nullopt, kMostCalls);
+    std::reverse(page.entries.begin(), page.entries.end());
+    for (HistoryEntry& entry : page.entries) {
+      if (entry.id > before.entry && IsOf(entry, calendars)) calls_.push_back(std::move(entry));
+    }
+  } catch (const platform::Failure&) {
+    calls_.clear();
+  }
+}
+
+ActionCalls::Outcome ActionCalls::Undo() {
+  Outcome outcome;
+  try {
+    const ActionScope together(AttachedPlatform().action_observer, platform::ActionKind::kUndo);
+    const auto currencies = CurrencyList::Load();
+    const HistoryWords words(currencies, EntryOfNumber);
+    for (; !calls_.empty(); calls_.pop_back()) {
+      outcome.may_have_changed = true;
+      const UndoOutcome undone = UndoOne(calls_.back(), currencies);
+      if (undone.kind == UndoOutcome::Kind::kDone) {
+        ++outcome.undone;
+      } else {
+        outcome.problems.push_back(InWords(
+            "%1: %2", {words.Tell(calls_.back()).Sentence(), words.WhyNotUndone(calls_.back(), undone)}));
+      }
+    }
+  } catch (const platform::Interruption&) {
+    throw;
+  } catch (const platform::Failure& failure) {
+    outcome.problems.push_back(failure.Description() + ".");
+  }
+  return outcome;
+}
+
+}  // namespace ferrowind::planning

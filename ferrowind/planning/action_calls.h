@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "ferrowind/planning/calendar_store.h"
+#include "ferrowind/planning/history_store.h"
+
+namespace ferrowind::planning {
+
+/// What an action of several calls has changed, so that all of it can be undone in one step.
+class ActionCalls {
+ public:
+  /// Of nothing.
+  ActionCalls() = default;
+
+  /// Makes the calls of an action, and finds them in the history afterwards: what the user of this program
+  /// has changed meanwhile in `calendars` and in the rule books of their currencies. Empty when the history
+  /// cannot be read, which keeps no action from being done. What `act` throws reaches the caller.
+  template <typename Act>
+  [[nodiscard]] static ActionCalls Of(std::span<const CalendarKey> calendars, Act act) {
+    const auto before = Newest();
+    act();
+    return before ? ActionCalls(calendars, *before) : ActionCalls();
+  }
+
+  [[nodiscard]] bool IsEmpty() const { return calls_.empty(); }
+
+  struct Outcome {
+    /// How many of the calls are undone.
+    std::size_t undone = 0;
+    /// Whether anything may have been changed: a call that failed may have come to its end all the same.
+    bool may_have_changed = false;
+    /// What is not undone and why: sentences for operators.
+    std::vector<std::string> problems = {};
+  };
+  /// Undoes the calls, the newest first. One that the database refuses to undo, because a later one has
+  /// changed the same, is given up; from one that fails on, all stay to be undone another time.
+  Outcome Undo();
+
+ private:
+  /// The number of an entry of the history, and who asks.
+  struct Mark {
+    std::int32_t entry = 0;
+    std::string asker;
+  };
+
+  ActionCalls(std::span<const CalendarKey> calendars, const Mark& before);
+  /// Nothing when it cannot be read.
+  [[nodiscard]] static std::optional<Mark> Newest();
+
+  /// The oldest first.
+  std::vector<HistoryEntry> calls_;
+};
+
+}  // namespace ferrowind::planning
