@@ -111,14 +111,17 @@ SELECT format('The extension %s does not belong to a calendar database; install 
               extname)
 FROM pg_extension WHERE extname <> 'plpgsql'
 UNION ALL
-SELECT DISTINCT format('The %s %s uses %s of the schema; drop it, or let it use CalendarList and CalendarDay only',
+SELECT DISTINCT format('The %s %s uses %s of the schema; drop it, or let it use only what readers may',
                        coalesce(v.type, o.type), coalesce(v.identity, o.identity), r.identity)
 FROM user_of_ours u
   CROSS JOIN LATERAL pg_identify_object(u.classid, u.objid, 0) AS o
   CROSS JOIN LATERAL pg_identify_object(u.refclassid, u.refobjid, 0) AS r
   LEFT JOIN pg_rewrite w ON u.classid = 'pg_rewrite'::regclass AND w.oid = u.objid AND w.rulename = '_RETURN'
   LEFT JOIN LATERAL pg_identify_object('pg_class'::regclass, w.ev_class, 0) AS v ON w.oid IS NOT NULL
+-- What readers may use is there to be used: it only answers.
 WHERE NOT (w.oid IS NOT NULL AND r.identity IN ('ferrowind.calendarlist', 'ferrowind.calendarday'))
+  AND split_part(r.identity, '(', 1) NOT IN ('ferrowind.isbusinessday', 'ferrowind.addbusinessdays', 'ferrowind.adjustdate',
+                                             'ferrowind.spotdate', 'ferrowind.valuedate')
 
 UNION ALL
 SELECT format('The %s %s belongs to ferrowind_owner outside its schema; drop it', o.type, o.identity)

@@ -271,6 +271,15 @@ TEST_F(PostgresCheckOfChanges, OfWhatSurroundsTheSchemaAreNamed) {
        "The extension citext does not belong"},
       {"CREATE VIEW public.peek AS SELECT * FROM ferrowind.CldHistory", "DROP VIEW public.peek",
        "The view public.peek uses ferrowind.cldhistory of the schema"},
+      // What a view of theirs may use does not hide what it may not.
+      {"CREATE VIEW public.peek AS SELECT ID1 FROM ferrowind.CldDay WHERE ferrowind.IsBusinessDay('EUR', "
+       "ODate)",
+       "DROP VIEW public.peek", "The view public.peek uses ferrowind.cldday of the schema"},
+      {"CREATE VIEW public.peek AS SELECT ferrowind.LastDayOfMonth('2026-05-01')", "DROP VIEW public.peek",
+       "The view public.peek uses ferrowind.lastdayofmonth(pg_catalog.date) of the schema; drop it, or let "
+       "it use only what readers may"},
+      {"CREATE CAST (text AS date) WITH INOUT AS ASSIGNMENT", "DROP CAST (text AS date)",
+       "The cast (pg_catalog.text AS pg_catalog.date) does not belong to a calendar database"},
       {"CREATE TABLE public.follower (ID1 integer REFERENCES ferrowind.DicCcy)", "DROP TABLE public.follower",
        "The table constraint follower_id1_fkey on public.follower uses ferrowind.dicccy of the schema"},
       {"CREATE FUNCTION public.first(ferrowind.CldDay) RETURNS integer LANGUAGE sql AS 'SELECT 1'",
@@ -582,7 +591,14 @@ TEST_F(PostgresCheckOfChanges, ThatAdministratorsMayMakeAreNoFaults) {
   postgres_server::Execute(
       name,
       "CREATE SCHEMA office AUTHORIZATION otto; SET ROLE otto; CREATE TABLE office.note (a text);"
-      "CREATE VIEW office.days AS SELECT d.*, n.a FROM ferrowind.CalendarDay d, office.note n");
+      "CREATE VIEW office.days AS SELECT d.*, n.a FROM ferrowind.CalendarDay d, office.note n;"
+      "CREATE TABLE office.trade (pair text, traded date, settled date CHECK (ferrowind.IsBusinessDay('EUR', "
+      "settled)) DEFAULT ferrowind.AddBusinessDays('EUR', current_date, 2));"
+      "CREATE VIEW office.settlement AS SELECT *, ferrowind.SpotDate(pair, traded) AS spot,"
+      " ferrowind.ValueDate(pair, traded, '3M') AS far, ferrowind.AdjustDate('EUR', traded, 'F') AS day"
+      " FROM office.trade WHERE ferrowind.IsBusinessDay(ARRAY['EUR'], traded);"
+      "CREATE FUNCTION office.spot(pair text) RETURNS date LANGUAGE sql"
+      " BEGIN ATOMIC SELECT ferrowind.SpotDate(pair, current_date); END");
   EXPECT_THAT(postgres::CheckDatabase(uri), IsEmpty());
   EXPECT_THAT(postgres::CheckDatabase(postgres_server::Uri("otto", "own", name)), IsEmpty());
   // He administers every calendar database of the server.
