@@ -248,6 +248,10 @@
         <translation>%1 ist eine Regel, die Tage öffnet. Nehmen Sie einen anderen Namen.</translation>
     </message>
     <message>
+        <source>%1 is as in the list now%2.</source>
+        <translation>%1 ist jetzt wie in der Liste%2.</translation>
+    </message>
+    <message>
         <source>%1 is as it was before.</source>
         <translation>%1 ist wieder, wie es vorher war.</translation>
     </message>
@@ -1140,7 +1144,7 @@
         <translation>Jeder %1</translation>
     </message>
     <message>
-        <source>Every day is as listed.</source>
+        <source>Every day is as in the list.</source>
         <translation>Jeder Tag ist wie in der Liste.</translation>
     </message>
     <message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>another holiday</source>
         <translation>einen anderen Feiertag</translation>
+    </message>
+    <message>
+        <source>as in the list%1</source>
+        <translation>wie in der Liste%1</translation>
     </message>
     <message>
         <source>as planned%1</source>

@@ -248,6 +248,10 @@
         <translation>%1 es una regla que abre días. Use otro nombre.</translation>
     </message>
     <message>
+        <source>%1 is as in the list now%2.</source>
+        <translation>%1 ya está como en la lista%2.</translation>
+    </message>
+    <message>
         <source>%1 is as it was before.</source>
         <translation>%1 está como antes.</translation>
     </message>
@@ -1140,7 +1144,7 @@
         <translation>Cada %1</translation>
     </message>
     <message>
-        <source>Every day is as listed.</source>
+        <source>Every day is as in the list.</source>
         <translation>Cada día está como en la lista.</translation>
     </message>
     <message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>another holiday</source>
         <translation>otro festivo</translation>
+    </message>
+    <message>
+        <source>as in the list%1</source>
+        <translation>como en la lista%1</translation>
     </message>
     <message>
         <source>as planned%1</source>

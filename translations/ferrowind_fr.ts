@@ -248,6 +248,10 @@
         <translation>%1 est une règle qui ouvre des jours. Prenez un autre nom.</translation>
     </message>
     <message>
+        <source>%1 is as in the list now%2.</source>
+        <translation>%1 est maintenant comme dans la liste%2.</translation>
+    </message>
+    <message>
         <source>%1 is as it was before.</source>
         <translation>%1 est tel qu’avant.</translation>
     </message>
@@ -1140,7 +1144,7 @@
         <translation>Chaque %1</translation>
     </message>
     <message>
-        <source>Every day is as listed.</source>
+        <source>Every day is as in the list.</source>
         <translation>Chaque jour est comme dans la liste.</translation>
     </message>
     <message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>another holiday</source>
         <translation>un autre férié</translation>
+    </message>
+    <message>
+        <source>as in the list%1</source>
+        <translation>comme dans la liste%1</translation>
     </message>
     <message>
         <source>as planned%1</source>

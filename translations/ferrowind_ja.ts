@@ -248,6 +248,10 @@
         <translation>%1は日を営業とする規則です。別の名前にしてください。</translation>
     </message>
     <message>
+        <source>%1 is as in the list now%2.</source>
+        <translation>%1は一覧のとおりになりました%2。</translation>
+    </message>
+    <message>
         <source>%1 is as it was before.</source>
         <translation>%1は元のとおりです。</translation>
     </message>
@@ -1140,7 +1144,7 @@
         <translation>毎週%1</translation>
     </message>
     <message>
-        <source>Every day is as listed.</source>
+        <source>Every day is as in the list.</source>
         <translation>すべての日が一覧のとおりです。</translation>
     </message>
     <message>
@@ -2830,6 +2834,10 @@
     <message>
         <source>another holiday</source>
         <translation>別の休日</translation>
+    </message>
+    <message>
+        <source>as in the list%1</source>
+        <translation>一覧のとおり%1</translation>
     </message>
     <message>
         <source>as planned%1</source>

@@ -39,6 +39,15 @@ std::string NameOf(const CalendarKey& key, const CurrencyList& known) {
   return known.FindOrNumber(key.first).code + " " + std::to_string(key.second);
 }
 
+/// What an applied plan has made of the calendar.
+std::string DoneSentence(const PlannedCalendar& calendar, bool existed) {
+  const bool is_listed = calendar.Source() == PlanSource::kList;
+  return InWords(!existed    ? "%1 is made%2."
+                 : is_listed ? "%1 is as in the list now%2."
+                             : "%1 is as planned now%2.",
+                 {calendar.Name(), ButFor(calendar.Totals())});
+}
+
 std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
   auto found = LoadEntry(id);
   if (!found) return std::nullopt;
@@ -56,7 +65,8 @@ PlanBatch::PlanBatch(const almanac::DateTables& tables, const std::vector<Calend
 
 PlanBatch::PlanBatch(const almanac::DateTables& tables, const CalendarKey& calendar, Preparer prepare)
     : tables_(tables) {
-  calendars_.emplace_back(calendar, NameOf(calendar, CurrencyList({})), std::move(prepare));
+  calendars_.emplace_back(calendar, NameOf(calendar, CurrencyList({})), PlanSource::kList,
+                          std::move(prepare));
   PlanAnew();
 }
 
@@ -113,10 +123,7 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
     return {position, Kind::kFailed, failure.Description() + "."};
   }
   if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, currency, std::move(*entry)});
-  return {position, Kind::kDone,
-          InWords(existed ? "%1 is as planned now%2." : "%1 is made%2.",
-                  {calendar.Name(), ButFor(calendar.Totals())}),
-          changed_days};
+  return {position, Kind::kDone, DoneSentence(calendar, existed), changed_days};
 }
 
 std::vector<PlanOutcome> PlanBatch::Undo() {

@@ -44,7 +44,7 @@ class PlanBatch {
   /// theirs.
   PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars,
             const CurrencyList& known = CurrencyList({}));
-  /// Plans the one calendar by `prepare`.
+  /// Plans the one calendar by a list, which `prepare` matches it with.
   PlanBatch(const almanac::DateTables& tables, const CalendarKey& calendar, Preparer prepare);
 
   [[nodiscard]] const std::vector<PlannedCalendar>& Calendars() const { return calendars_; }

@@ -141,7 +141,9 @@ std::string CountOf(const PlannedCalendar& calendar) {
   const DayTotals totals = calendar.Totals();
   const bool is_new = !calendar.Preparation()->CalendarExists();
   if (totals.taken == 0) {
-    return is_new ? InWords("no calendar is made") : InWords("as planned%1", {ButFor(totals)});
+    if (is_new) return InWords("no calendar is made");
+    const bool is_listed = calendar.Source() == PlanSource::kList;
+    return InWords(is_listed ? "as in the list%1" : "as planned%1", {ButFor(totals)});
   }
   return is_new ? InWords("a new calendar, %1", {CountedChanges(totals)}) : CountedChanges(totals);
 }

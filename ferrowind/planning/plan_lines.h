@@ -62,7 +62,7 @@ struct PlanLineFilter {
                                             const PlanLineFilter& filter);
 
 /// What happens to the calendar: "a new calendar, 112 days, 104 of them weekends", "2 days, but not 1 day
-/// that is left out", "as planned". Precondition: it is planned.
+/// that is left out", "as planned", "as in the list". Precondition: it is planned.
 [[nodiscard]] std::string CountOf(const PlannedCalendar& calendar);
 
 }  // namespace ferrowind::planning

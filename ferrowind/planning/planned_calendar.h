@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -20,6 +21,9 @@ using Preparer = std::function<std::unique_ptr<const YearPreparation>(const Year
                                                                       const Currency& currency, int year)>;
 [[nodiscard]] Preparer ByRuleBook();
 
+/// What says how a calendar should be.
+enum class PlanSource : std::uint8_t { kRuleBook, kList };
+
 /// A calendar beside its plan, and which of the days that differ are to become others.
 ///
 /// Working days by exception stay as they are until somebody takes them: they were made by a person against
@@ -28,14 +32,18 @@ using Preparer = std::function<std::unique_ptr<const YearPreparation>(const Year
 class PlannedCalendar {
  public:
   /// Not planned yet.
-  PlannedCalendar(const CalendarKey& key, std::string name, Preparer prepare = ByRuleBook())
-      : key_(key), name_(std::move(name)), title_(name_), prepare_(std::move(prepare)) {}
+  PlannedCalendar(const CalendarKey& key, std::string name)
+      : PlannedCalendar(key, std::move(name), PlanSource::kRuleBook, ByRuleBook()) {}
+  /// `prepare` matches it with what `source` says.
+  PlannedCalendar(const CalendarKey& key, std::string name, PlanSource source, Preparer prepare)
+      : key_(key), name_(std::move(name)), title_(name_), source_(source), prepare_(std::move(prepare)) {}
 
   [[nodiscard]] const CalendarKey& Key() const { return key_; }
   /// "EUR 2028"; what it was made with until its currency is known.
   [[nodiscard]] const std::string& Name() const { return name_; }
   /// The same where it could be taken for the name of all calendars, as in a caption: "ALL (Lek) 2028".
   [[nodiscard]] const std::string& Title() const { return title_; }
+  [[nodiscard]] PlanSource Source() const { return source_; }
 
   /// Reads and compares it by `planner`, which it keeps. Whatever makes that fail becomes `WhyNot`. When it
   /// was planned before, days that were left out stay so, and so does a calendar all of whose days were,
@@ -84,6 +92,7 @@ class PlannedCalendar {
   CalendarKey key_;
   std::string name_;
   std::string title_;
+  PlanSource source_;
   Preparer prepare_;
   std::string why_not_;
   /// Outlives the preparation, which points into it.

@@ -33,7 +33,7 @@ class Import {
         out_(out),
         errors_(errors),
         exceptions_(command.keeps_exceptions ? ExceptionHandling::kKeep : ExceptionHandling::kOverwrite),
-        application_(exceptions_, command.is_confirmed, "listed", confirm, out, errors),
+        application_(exceptions_, command.is_confirmed, "in the list", confirm, out, errors),
         planner_(DeliveredDateTables()) {}
 
   ExitStatus Run() {
@@ -47,7 +47,7 @@ class Import {
       return ExitStatus::kNotDone;
     }
     if (changing_.empty()) {
-      out_ << Counted(list.sorted.years.size(), "calendar is", "calendars are") << " as listed"
+      out_ << Counted(list.sorted.years.size(), "calendar is", "calendars are") << " as in the list"
            << planning::ButForExceptions(kept_) << ".\n";
       return ExitStatus::kDone;
     }

@@ -237,7 +237,7 @@ void fmYearPlan::RefreshSummary() {
   tools_.SetToolEnabled(kUndo, batch_.CanUndo());
   lines_.SetEmptyText(
       Said(platform_, batch_.Totals().taken == 0
-                          ? list_.empty() ? "Every day is as planned." : "Every day is as listed."
+                          ? list_.empty() ? "Every day is as planned." : "Every day is as in the list."
                           : "Nothing but weekends is added; \"All days\" shows them."));
   ShowCurrentLine();
 }

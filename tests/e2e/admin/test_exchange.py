@@ -156,7 +156,7 @@ class Exchange(small_book.WithSmallBooks):
         self.assertIn("EUR 2028, 2 days:\n", output)
         self.assertRegex(output, r"2028-05-01 +Monday +working day +Labour Day +add ")
         self.assertRegex(output, r"2028-12-25 +Monday +Christmas Day +working day +remove ")
-        self.assertRegex(output, r"\nEUR 2028 is as listed now; \"undo\" takes back the entry \d+\.\n\Z")
+        self.assertRegex(output, r"\nEUR 2028 is as in the list now; \"undo\" takes back the entry \d+\.\n\Z")
         self.assertEqual(errors, "")
         self.assertEqual(self.holidays(EURO, 2028), {"2028-04-14": "Good Friday", "2028-05-01": "Labour Day"})
         [entry, *others] = self.entries()
@@ -174,7 +174,7 @@ class Exchange(small_book.WithSmallBooks):
     def test_says_that_nothing_is_left_to_do(self):
         before = self.entries()
         output, errors = self.import_(DONE, "2028-04-14 Karfreitag\n2028-12-25 Christmas Day\n")
-        self.assertEqual(output, "1 calendar is as listed.\n")
+        self.assertEqual(output, "1 calendar is as in the list.\n")
         self.assertEqual(errors, "1 closed day keeps its name, which the list calls otherwise; --names takes the list's.\n")
         self.assertEqual(self.entries(), before)
         self.import_(DONE, "2028-04-14 Karfreitag\n2028-12-25\n", "--names")
@@ -183,7 +183,7 @@ class Exchange(small_book.WithSmallBooks):
     def test_a_list_from_standard_input(self):
         output, _ = self.ctl(DONE, "import", self.url(), "EUR", "-", "--yes", "--list-format", "csv",
                              input=b"2028-04-14,a\n2028-12-25,b\n")
-        self.assertIn("as listed", output)
+        self.assertIn("as in the list", output)
 
     def test_a_new_calendar_gets_the_weekends_of_the_book(self):
         output, _ = self.import_(DONE, "2029-03-30\n2029-12-25 Christmas\n")
@@ -197,7 +197,7 @@ class Exchange(small_book.WithSmallBooks):
         self.apply("EUR", 2027)
         self.assertEqual(self.holidays(EURO, 2027)["2027-12-25"], "Christmas Day")  # A Saturday.
         output, _ = self.import_(DONE, "2027-03-26 Good Friday\n")
-        self.assertEqual(output, "1 calendar is as listed.\n")
+        self.assertEqual(output, "1 calendar is as in the list.\n")
         self.reconcile(DONE, "2027-03-26 Good Friday\n")
 
     def test_what_the_database_would_refuse_stops_all(self):
@@ -213,7 +213,7 @@ class Exchange(small_book.WithSmallBooks):
         self.except_day(EURO, "2028-12-25", "Stock-taking")
         text = "2028-04-14\n2028-12-25\n"
         output, _ = self.import_(DONE, text, "--keep-exceptions")
-        self.assertEqual(output, "1 calendar is as listed but for 1 working day by exception.\n")
+        self.assertEqual(output, "1 calendar is as in the list but for 1 working day by exception.\n")
         output, _ = self.import_(DONE, text)
         self.assertIn("1 working day by exception that has a reason will be closed", output)
         self.assertEqual(self.holidays(EURO, 2028), HOLIDAYS)
@@ -228,7 +228,7 @@ class Exchange(small_book.WithSmallBooks):
         text = "2028-04-14 Gründonnerstag\n2028-12-25\n"
         for encoding in ("utf-8", "utf-8-sig", "utf-16"):
             output, _ = self.import_(DONE, text.encode(encoding))
-            self.assertEqual(output, "1 calendar is as listed.\n", encoding)
+            self.assertEqual(output, "1 calendar is as in the list.\n", encoding)
         self.assert_refused(text.encode("latin-1"), "list.txt: line 1: this is not UTF-8, but perhaps Latin-1 or Windows-1252")
         self.assert_refused(text.encode("utf-16-le"), "there is a NUL character", "UTF-16 without a byte order mark")
 
@@ -236,7 +236,7 @@ class Exchange(small_book.WithSmallBooks):
         text = "2028-04-14\n2028-12-25\n2029-01-01\n"
         self.assert_refused(text, "The list has days of several years: 2028, 2029; say with --year which of them are whole")
         output, errors = self.import_(DONE, text, "--year", 2028)
-        self.assertEqual(output, "1 calendar is as listed.\n")
+        self.assertEqual(output, "1 calendar is as in the list.\n")
         self.assertIn("1 day of other years is left out: 2029.\n", errors)
         before = self.entries()
         output, _ = self.import_(DONE, text, "--year", "2028-2029")
@@ -273,7 +273,7 @@ class Exchange(small_book.WithSmallBooks):
 
     def test_duplicates_and_half_days_are_told(self):
         output, errors = self.import_(DONE, "2028-04-14 Good Friday\n2028-12-25\n2028-04-14 Karfreitag\n2028-12-22 Noon, early close\n")
-        self.assertEqual(output, "1 calendar is as listed.\n")
+        self.assertEqual(output, "1 calendar is as in the list.\n")
         self.assertIn("Line 3: 2028-04-14 stands in line 1 already; the name \"Karfreitag\" is left out.\n", errors)
         self.assertIn("Line 4: 2028-12-22 \"Noon, early close\" is a half day and stays open as it is.\n", errors)
         self.assert_refused("2028-12-22\n2028-12-22 half day\n", "line 2: 2028-12-22 stands in line 1 already, as a holiday, and here as a half day")

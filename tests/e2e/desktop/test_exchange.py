@@ -79,7 +79,7 @@ class Exchange(unittest.TestCase):
         self.walk.wait_active(plan)
         self.assertEqual(self.calls(), calls, 'a look changes nothing')
         self.session.keys('alt+a')
-        self.walk.wait_said(plan, 'is as planned')
+        self.walk.wait_said(plan, 'is as in the list')
         self.assertEqual(self.holidays(), LISTED)
         self.assertEqual(self.calls(), [*calls, 'CldApplyPlan'])
         self.session.keys('ctrl+z')

@@ -96,8 +96,9 @@ TEST(ImportWindow, ChangesTheDaysThatAreTakenInOneCallThatCanBeUndone) {
     EXPECT_EQ(world.Entries(), entries + 1);
     EXPECT_THAT(ImportWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-05-01 Labour Day"));
     EXPECT_THAT(ImportWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-12-25 Christmas Day"));
-    EXPECT_THAT(world.Told(),
-                ElementsAre("EUR 2028 is as planned now but for 1 day that is left out. 1 day was changed."));
+    EXPECT_THAT(
+        world.Told(),
+        ElementsAre("EUR 2028 is as in the list now but for 1 day that is left out. 1 day was changed."));
     world.Click("fmYearPlan", "cmdUndo");
     EXPECT_EQ(ImportWorld::DaysOf("EUR", kEuro, 2028), before);
     EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kLabourDay));
@@ -118,7 +119,7 @@ TEST(ImportWindow, TellsInThePlanWhatIsLeftOutOfTheList) {
     EXPECT_THAT(world.Told(), Contains(HasSubstr("other currenc")));
     EXPECT_THAT(world.Told(), Contains("1 closed day keeps its name, which the list calls otherwise."));
     EXPECT_THAT(world.Lines().RowKeys(), IsEmpty());
-    EXPECT_EQ(world.Lines().EmptyText(), "Every day is as listed.");
+    EXPECT_EQ(world.Lines().EmptyText(), "Every day is as in the list.");
   });
 }
 
