@@ -12,7 +12,7 @@ namespace ferrowind::host {
 
 /// Calendars that a sound database can lack: those that must be there by now (`almanac::ReviewHorizon`) of
 /// each currency that has a rule book or any calendar, and those in which no weekday rule closes a weekend.
-/// `review` finds these and more.
+/// `review` finds these and more. Besides, the rule books that an upgrade has not come to.
 class CalendarWarnings {
  public:
   /// Looks into the database of `url`; nothing is changed. A database that cannot be read, and one of an
@@ -21,13 +21,15 @@ class CalendarWarnings {
   /// Of a database that cannot be looked into, for the reason `why`.
   explicit CalendarWarnings(const std::string& why) : why_not_(why) {}
 
-  /// For people: one for all currencies of a year.
+  /// For people: one for the rule books, and one for all currencies of a year.
   [[nodiscard]] std::vector<std::string> Sentences() const;
-  /// For programs: year, currency and what is wrong, a row for each calendar.
+  /// For programs: year, currency and what is wrong, a row for each calendar; without a year for each book.
   [[nodiscard]] std::shared_ptr<platform::RecordSet> Rows() const;
 
  private:
   std::vector<almanac::Finding> findings_;
+  /// The codes of their currencies.
+  std::vector<std::string> books_left_by_upgrade_;
   std::string why_not_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/currency_list.h"
@@ -48,25 +49,50 @@ bool WasStoredSince(std::int32_t currency) {
   }
 }
 
-}  // namespace
+/// A book that is as delivered but for the year.
+struct YearlessBook {
+  planning::Currency currency;
+  std::string fingerprint;
+  const almanac::RuleBook* with_year;
+};
 
-FirstYears GiveFirstYears() {
-  const std::vector<almanac::NamedBook> delivered = DeliveredBooks();
+struct BooksBesideDelivered {
+  std::vector<YearlessBook> yearless;
+  std::vector<std::string> others;
+};
+
+BooksBesideDelivered Sort(const std::vector<almanac::NamedBook>& delivered) {
   const auto currencies = planning::CurrencyList::Load();
-  FirstYears years;
+  BooksBesideDelivered sorted;
   for (const planning::StoredBook& stored : planning::LoadBooks(DeliveredDateTables())) {
     const planning::Currency* const currency = currencies.Find(stored.currency);
     if (currency == nullptr || (stored.book && stored.book->since)) continue;
     const auto* const book = stored.book ? DeliveredAs(*stored.book, currency->code, delivered) : nullptr;
     if (book == nullptr) {
-      years.others.push_back(currency->code);
-      continue;
+      sorted.others.push_back(currency->code);
+    } else if (!WasStoredSince(currency->id)) {
+      sorted.yearless.push_back({*currency, stored.fingerprint, book});
     }
-    if (WasStoredSince(currency->id)) continue;
-    planning::StoreBook(currency->id, currency->code, stored.fingerprint, *book);
-    ++years.given;
   }
-  return years;
+  return sorted;
+}
+
+}  // namespace
+
+std::vector<std::string> BooksWithoutFirstYear() {
+  const std::vector<almanac::NamedBook> delivered = DeliveredBooks();
+  std::vector<std::string> codes;
+  for (const YearlessBook& book : Sort(delivered).yearless) codes.push_back(book.currency.code);
+  return codes;
+}
+
+FirstYears GiveFirstYears() {
+  const std::vector<almanac::NamedBook> delivered = DeliveredBooks();
+  BooksBesideDelivered sorted = Sort(delivered);
+  for (const YearlessBook& book : sorted.yearless) {
+    planning::StoreBook(book.currency.id, book.currency.code, book.fingerprint, *book.with_year);
+  }
+  return {sorted.yearless.size(), std::move(sorted.others)};
 }
 
 }  // namespace ferrowind::host

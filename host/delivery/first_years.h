@@ -17,6 +17,10 @@ struct FirstYears {
   std::vector<std::string> others;
 };
 
+/// The codes of the currencies whose books `GiveFirstYears` would change now: none, unless an upgrade was
+/// cut off behind its transaction. Fails as ferrowind/planning/database_call.h says.
+[[nodiscard]] std::vector<std::string> BooksWithoutFirstYear();
+
 /// Lets each book of the calling thread's database that is as delivered say since when it holds, too, unless
 /// somebody has stored it without a year since books can say one. So it can be done again, and does what is
 /// left where it was cut off. Fails as ferrowind/planning/database_call.h says; books that were changed
