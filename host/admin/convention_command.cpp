@@ -99,7 +99,7 @@ ExitStatus ConventionSetCommand::Run(const platform::EngineRegistry& engines, st
   const auto wanted_lines = LinesOf(wanted);
   if (wanted_lines.empty())
     throw Failure(platform::failure_number::kInvalidArgument, "No line says anything");
-  RunWithCalendars(engines, url, [&] {
+  ChangeCalendars(engines, url, [&] {
     const CurrencyList currencies = CurrencyList::Load();
     std::vector<std::pair<Subject, std::int32_t>> changes;
     for (const auto& [pair, days] : wanted.DaysOfPairs()) {
@@ -116,7 +116,8 @@ ExitStatus ConventionSetCommand::Run(const platform::EngineRegistry& engines, st
 
 ExitStatus ConventionRemoveCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   const auto delivered = LinesOf(loading::DeliveredConventions());
-  RunWithCalendars(engines, url, [&] {
+  std::string told;
+  ChangeCalendars(engines, url, [&] {
     const CurrencyList currencies = CurrencyList::Load();
     for (const std::string& text : subjects) {
       const Subject subject =
@@ -129,11 +130,11 @@ ExitStatus ConventionRemoveCommand::Run(const platform::EngineRegistry& engines,
                       "The database says nothing of " + subject.text + " that could be removed");
       }
       const auto again = delivered.find(subject.text);
-      out << subject.text
-          << " is as the program brings it again: " << (again != delivered.end() ? again->second : "as usual")
-          << '\n';
+      told += subject.text + " is as the program brings it again: " +
+              (again != delivered.end() ? again->second : "as usual") + '\n';
     }
   });
+  out << told;
   return ExitStatus::kDone;
 }
 

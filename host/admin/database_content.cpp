@@ -43,15 +43,39 @@ void FillDatabase(const platform::EngineRegistry& engines, const std::string& ur
   sqlite::FillDatabase(sqlite::PathIn(url), fill, is_stopped);
 }
 
-void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,
-                      const std::function<void()>& work) {
+namespace {
+
+/// Runs `run`, and tells of a wrong version where it fails because of that.
+void WithVersionTold(const platform::EngineRegistry& engines, const std::string& url,
+                     const std::function<void()>& run) {
   try {
-    RunWithDatabase(engines, url, work);
+    run();
   } catch (const platform::Failure& failure) {
     const bool is_reached = !IsOnServer(engines, url) || !postgres::IsOfConnection(failure);
     if (is_reached) RequireThisVersion(engines, url);
     throw;
   }
+}
+
+}  // namespace
+
+void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,
+                      const std::function<void()>& work) {
+  WithVersionTold(engines, url, [&] { RunWithDatabase(engines, url, work); });
+}
+
+void ChangeCalendars(const platform::EngineRegistry& engines, const std::string& url,
+                     const std::function<void()>& work) {
+  WithVersionTold(engines, url, [&] {
+    const bool is_on_server = IsOnServer(engines, url);
+    const auto change = [&](const std::shared_ptr<platform::Engine>& engine) {
+      platform::EngineRegistry joined;
+      joined.Register(is_on_server ? postgres::Engine::kScheme : sqlite::Engine::kScheme, engine);
+      RunWithDatabase(joined, is_on_server ? std::string(postgres::Engine::kScheme) + ":" : url, work);
+    };
+    if (is_on_server) return postgres::ChangeInOneTransaction(url, change);
+    sqlite::ChangeInOneTransaction(sqlite::PathIn(url), change);
+  });
 }
 
 content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines, const std::string& url) {

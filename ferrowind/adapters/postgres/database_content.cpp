@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/postgres/schema_version.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/adapters/postgres/table_locks.h"
+#include "ferrowind/adapters/postgres/transaction_engine.h"
 #include "ferrowind/adapters/postgres/work_commit.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -83,6 +84,16 @@ void FillDatabase(const std::string& connection_string,
     FillUncommitted(connection, fill);
     connection.StopNoMore();
     CommitWork(connection);
+  });
+}
+
+void ChangeInOneTransaction(const std::string& connection_string,
+                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& work) {
+  platform::WithFailuresOnly([&] {
+    const auto connection = std::make_shared<ServerConnection>(connection_string);
+    connection->RunScript("BEGIN");
+    work(std::make_shared<TransactionEngine>(connection));
+    CommitWork(*connection);
   });
 }
 

@@ -6,6 +6,7 @@
 
 #include "ferrowind/adapters/content/content_source.h"
 #include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::postgres {
 
@@ -28,6 +29,13 @@ namespace ferrowind::postgres {
 void FillDatabase(const std::string& connection_string,
                   const std::function<void(content::Target& target)>& fill,
                   const std::function<bool()>& is_stopped = {});
+
+/// Calls `work` with an engine through which it may call procedures of the calendar database, whatever
+/// connection string that engine is given, and only until `work` returns. All of it is one transaction: when
+/// `work` throws, nothing is done. Only when the connection is lost while it is committed, that is not known,
+/// and the failure a `content::DoubtfulOutcome`. A server that cannot be reached is a `platform::Failure`.
+void ChangeInOneTransaction(const std::string& connection_string,
+                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& work);
 
 /// What the calendar database is and holds, whatever the version of its schema. The login must be one that
 /// could create it. A database that cannot be read or is no calendar database is a `platform::Failure`.

@@ -16,6 +16,7 @@
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
+#include "ferrowind/adapters/sqlite/transaction_engine.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
 namespace ferrowind::sqlite {
@@ -103,6 +104,13 @@ void FillDatabase(const std::string& path, const std::function<void(content::Tar
       FillExisting(PathIn(unfinished), Target::kNew, fill, is_stopped);
     });
   });
+}
+
+void ChangeInOneTransaction(const std::string& path,
+                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& work) {
+  const auto engine = std::make_shared<TransactionEngine>(std::string(Engine::kScheme) + ":" + path);
+  work(engine);
+  engine->Commit();
 }
 
 content::DatabaseStatus ReadStatus(const std::string& path) {

@@ -6,6 +6,7 @@
 
 #include "ferrowind/adapters/content/content_source.h"
 #include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::sqlite {
 
@@ -22,6 +23,13 @@ namespace ferrowind::sqlite {
 /// `is_stopped` as `OpenContent` takes it.
 void FillDatabase(const std::string& path, const std::function<void(content::Target& target)>& fill,
                   const std::function<bool()>& is_stopped = {});
+
+/// Calls `work` with an engine through which it may call procedures of the calendar database at `path`,
+/// whatever connection string that engine is given, and only until `work` returns. All of it is one
+/// transaction, which keeps other writers out: when `work` throws, nothing is done. A file that cannot be
+/// read or is no calendar database is a `platform::Failure`.
+void ChangeInOneTransaction(const std::string& path,
+                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& work);
 
 /// What the calendar database at `path` is and holds, whatever the version of its schema. A file that cannot
 /// be read or is no calendar database is a `platform::Failure`.

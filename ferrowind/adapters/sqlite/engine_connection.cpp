@@ -8,7 +8,6 @@
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
 #include "ferrowind/adapters/sqlite/row_recorder.h"
 #include "ferrowind/adapters/sqlite/statement_limit.h"
-#include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/call_inputs.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
@@ -41,15 +40,35 @@ platform::CallOutcome EngineConnection::Call(const std::string& procedure, const
       LoadProcedure(procedure);
     }
     platform::RefuseWrongInputs(procedure_->name, procedure_->parameters, inputs);
+    if (joined_) return CallJoined(inputs);
     Transaction transaction(database_,
                             procedure_->writes ? Transaction::Kind::kWriting : Transaction::Kind::kReading);
-    // From here on, since other programs may have kept this one waiting.
-    const StatementLimit limit(database_, longest_call_);
-    schema_.Look();
-    platform::CallOutcome outcome = procedure_->writes ? Change(inputs) : Read(inputs);
+    platform::CallOutcome outcome = Run(inputs);
     if (outcome.return_value == 0) transaction.Commit();
     return outcome;
   });
+}
+
+platform::CallOutcome EngineConnection::CallJoined(const std::vector<Value>& inputs) {
+  database_.Execute("SAVEPOINT JoinedCall");
+  platform::CallOutcome outcome = Run(inputs);
+  if (outcome.return_value != 0) database_.Execute("ROLLBACK TO JoinedCall");
+  database_.Execute("RELEASE JoinedCall");
+  return outcome;
+}
+
+void EngineConnection::JoinCalls() { joined_.emplace(database_, Transaction::Kind::kWriting); }
+
+void EngineConnection::CommitJoined() {
+  joined_->Commit();
+  joined_.reset();
+}
+
+platform::CallOutcome EngineConnection::Run(const std::vector<Value>& inputs) {
+  // From here on, since other programs may have kept this one waiting.
+  const StatementLimit limit(database_, longest_call_);
+  schema_.Look();
+  return procedure_->writes ? Change(inputs) : Read(inputs);
 }
 
 platform::CallOutcome EngineConnection::Read(const std::vector<Value>& inputs) {

@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/schema_guard.h"
+#include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::sqlite {
@@ -22,16 +23,27 @@ class EngineConnection : public platform::Connection {
 
   [[nodiscard]] std::vector<platform::ParameterDescription> DescribeProcedure(
       const std::string& procedure) override;
+  /// One that returns another value than 0 among joined calls does nothing either.
   [[nodiscard]] platform::CallOutcome Call(const std::string& procedure,
                                            const std::vector<platform::Value>& inputs) override;
 
+  /// Makes all calls from now on one transaction, which keeps other writers out. Precondition: they are not
+  /// joined yet. Unless `CommitJoined` is called nothing is done.
+  void JoinCalls();
+  void CommitJoined();
+
  private:
+  [[nodiscard]] platform::CallOutcome CallJoined(const std::vector<platform::Value>& inputs);
+  /// In the transaction that is open.
+  [[nodiscard]] platform::CallOutcome Run(const std::vector<platform::Value>& inputs);
   [[nodiscard]] platform::CallOutcome Read(const std::vector<platform::Value>& inputs);
   /// Adds the call to the history.
   [[nodiscard]] platform::CallOutcome Change(const std::vector<platform::Value>& inputs);
   void LoadProcedure(const std::string& name);
 
   DatabaseHandle database_;
+  /// That of joined calls.
+  std::optional<Transaction> joined_;
   std::chrono::milliseconds longest_call_;
   SchemaGuard schema_;
   /// Always there; made behind the first look at the schema.

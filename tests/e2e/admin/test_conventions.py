@@ -62,6 +62,14 @@ class ConventionTests:
         self.assertIn("No line says anything", self.refuse("set", "# nothing"))
         self.assertIn("is no currency pair", self.refuse("remove", "EURO"))
 
+    def test_removes_nothing_when_one_of_them_is_not_there(self):
+        self.change("set", "spot EUR/USD 1", "dollar-holiday-stops MXN no")
+        self.assertIn("The database says nothing of GBP/USD that could be removed", self.refuse("remove", "EURUSD", "GBPUSD"))
+        self.assert_run(DONE, "check", self.database)
+        self.change("remove", "EURUSD", "MXN")
+        self.assertEqual({source for source, _ in self.conventions().values()}, {"program"})
+        self.assert_run(DONE, "check", self.database)
+
     def test_a_change_is_undone_and_copied(self):
         self.change("set", "spot EUR/USD 1")
         copy = self.url("copy.db")
