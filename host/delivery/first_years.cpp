@@ -83,6 +83,7 @@ std::vector<std::string> BooksWithoutFirstYear() {
   const std::vector<almanac::NamedBook> delivered = DeliveredBooks();
   std::vector<std::string> codes;
   for (const YearlessBook& book : Sort(delivered).yearless) codes.push_back(book.currency.code);
+  std::sort(codes.begin(), codes.end());
   return codes;
 }
 

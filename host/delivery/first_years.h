@@ -17,8 +17,8 @@ struct FirstYears {
   std::vector<std::string> others;
 };
 
-/// The codes of the currencies whose books `GiveFirstYears` would change now: none, unless an upgrade was
-/// cut off behind its transaction. Fails as ferrowind/planning/database_call.h says.
+/// The codes, ascending, of the currencies whose books `GiveFirstYears` would change now: none, unless an
+/// upgrade was cut off behind its transaction. Fails as ferrowind/planning/database_call.h says.
 [[nodiscard]] std::vector<std::string> BooksWithoutFirstYear();
 
 /// Lets each book of the calling thread's database that is as delivered say since when it holds, too, unless

@@ -67,7 +67,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         old.close()
         for command in ("status", "check"):
             self.assertRegex(self.assert_run(DONE, command, url)[0],
-                             r"\nWarning: An upgrade was cut off at its end: the tables are of this version, but the rule books of "
+                             r"(?:^|\n)Warning: An upgrade was cut off at its end: the tables are of this version, but the rule books of "
                              r"AUD, .*ZAR do not say since when they hold; \"ferrowindctl upgrade\" lets them say it\.\n")
         warnings = json.loads(self.assert_run(DONE, "status", url, "--format", "json")[0])["results"][2]["rows"]
         self.assertIn([None, "EUR", "upgrade cut off"], warnings)
