@@ -20,14 +20,15 @@ using platform::Value;
 constexpr std::int32_t kFirstYear = 1900;
 constexpr std::int32_t kLastYear = 3000;
 
-std::shared_ptr<RecordSet> Rows(platform::Connection& connection, const std::string& procedure,
-                                const std::vector<Value>& inputs) {
+std::vector<std::shared_ptr<RecordSet>> RecordSets(platform::Connection& connection,
+                                                   const std::string& procedure,
+                                                   const std::vector<Value>& inputs, std::size_t least) {
   platform::CallOutcome outcome = connection.Call(procedure, inputs);
-  if (outcome.return_value != 0 || outcome.record_sets.empty()) {
+  if (outcome.return_value != 0 || outcome.record_sets.size() < least) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
                             procedure + " gave no rows: it returned " + std::to_string(outcome.return_value));
   }
-  return std::move(outcome.record_sets.front());
+  return std::move(outcome.record_sets);
 }
 
 }  // namespace
@@ -35,11 +36,12 @@ std::shared_ptr<RecordSet> Rows(platform::Connection& connection, const std::str
 struct DayLoader::Content {
   Years years;
   business_days::MarketConventions conventions;
+  DayNames names;
 };
 
-DayLoader::DayLoader(const platform::EngineRegistry& engines, std::string url)
-    : engines_(engines), url_(std::move(url)) {
-  Content content = Read(engines_, url_);
+DayLoader::DayLoader(const platform::EngineRegistry& engines, std::string url, Names names)
+    : engines_(engines), url_(std::move(url)), names_(names) {
+  Content content = Read();
   DayChanges changes;
   for (const auto& [code, years] : content.years) changes.added.push_back(code);
   Take(std::move(content), changes);
@@ -52,7 +54,7 @@ std::shared_ptr<const LoadedDays> DayLoader::Current() const {
 
 DayChanges DayLoader::Reload() {
   const std::lock_guard lock(reloading_);
-  Content content = Read(engines_, url_);
+  Content content = Read();
   DayChanges changes;
   for (const auto& [code, years] : content.years) {
     const auto before = years_.find(code);
@@ -65,18 +67,21 @@ DayChanges DayLoader::Reload() {
   for (const auto& [code, years] : years_) {
     if (!content.years.contains(code)) changes.removed.push_back(code);
   }
-  changes.has_other_conventions = content.conventions != Current()->conventions;
-  if (changes.Any()) Take(std::move(content), changes);
+  const auto before = Current();
+  changes.has_other_conventions = content.conventions != before->conventions;
+  if (changes.Any() || content.names != before->names) Take(std::move(content), changes);
   return changes;
 }
 
-DayLoader::Content DayLoader::Read(const platform::EngineRegistry& engines, const std::string& url) {
-  const auto connection = engines.EngineFor(url).Connect(url);
+DayLoader::Content DayLoader::Read() const {
+  const auto connection = engines_.EngineFor(url_).Connect(url_);
   Content content;
-  const auto rows = Rows(*connection, "CldGetClosedDays", {kFirstYear, kLastYear});
+  const auto closed = RecordSets(*connection, "CldGetClosedDays", {kFirstYear, kLastYear}, 2);
+  const auto& rows = closed[0];
   const std::size_t year = rows->FieldNamed("Year1");
   const std::size_t days = rows->FieldNamed("Days");
   const std::size_t code = rows->FieldNamed("Ccy");
+  const std::size_t rules = rows->FieldNamed("Rules");
   const std::size_t is_prepared = rows->FieldNamed("IsPrepared");
   for (std::size_t i = 0; i < rows->RowCount(); ++i) {
     const RecordSet::Bookmark row = rows->BookmarkAt(i);
@@ -84,9 +89,18 @@ DayLoader::Content DayLoader::Read(const platform::EngineRegistry& engines, cons
     if (platform::ToInt32(rows->Cell(row, is_prepared)) == 0) continue;
     years.push_back({std::chrono::year(platform::ToInt32(rows->Cell(row, year))),
                      platform::ToText(rows->Cell(row, days))});
+    if (names_ == Names::kLeftOut) continue;
+    content.names.AddYear(platform::ToText(rows->Cell(row, code)), static_cast<int>(years.back().year),
+                          years.back().days, platform::ToText(rows->Cell(row, rules)));
+  }
+  if (names_ == Names::kLoaded) {
+    RecordSet& named = *closed[1];
+    for (named.MoveFirst(); !named.Eof(); named.MoveNext()) {
+      content.names.AddRule(platform::ToInt32(named["ID2"]), platform::ToText(named["Name1"]));
+    }
   }
   content.conventions = DeliveredConventions();
-  content.conventions.Amend(ConventionsIn(*Rows(*connection, "CldGetConventions", {})));
+  content.conventions.Amend(ConventionsIn(*RecordSets(*connection, "CldGetConventions", {}, 1)[0]));
   return content;
 }
 
@@ -105,8 +119,8 @@ void DayLoader::Take(Content content, const DayChanges& changes) {
     const auto found = made.find(code);
     calendars.push_back(found != made.end() ? found->second : before->calendars.Of(code));
   }
-  auto loaded = std::make_shared<const LoadedDays>(
-      LoadedDays{business_days::CalendarSet(calendars), std::move(content.conventions)});
+  auto loaded = std::make_shared<const LoadedDays>(LoadedDays{
+      business_days::CalendarSet(calendars), std::move(content.conventions), std::move(content.names)});
   years_ = std::move(content.years);
   const std::lock_guard lock(taking_);
   current_ = std::move(loaded);

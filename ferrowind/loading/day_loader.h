@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -25,15 +26,19 @@ namespace ferrowind::loading {
 /// the old days keeps them as long as he likes.
 class FERROWIND_EXPORT DayLoader {
  public:
-  /// Reads all calendars and conventions of the database that `url` names. `engines` must outlive the loader.
+  enum class Names : std::uint8_t { kLeftOut, kLoaded };
+
+  /// Reads all calendars and conventions of the database that `url` names, in the same calls with the names
+  /// of closed days when they are wanted. `engines` must outlive the loader.
   /// The failures are those of the engine (a reader's rights are enough), and InvalidArgument for days that
   /// are no year's, which names currency and year.
-  DayLoader(const platform::EngineRegistry& engines, std::string url);
+  DayLoader(const platform::EngineRegistry& engines, std::string url, Names names = Names::kLeftOut);
 
   /// Never null.
   [[nodiscard]] std::shared_ptr<const LoadedDays> Current() const;
 
-  /// Reads the database again, and says what is another than before. After a failure, which is as that of the
+  /// Reads the database again, and says what is another than before; names of days count for nothing in that,
+  /// but are taken too. After a failure, which is as that of the
   /// constructor, everything is as it was. Calendars that have not changed share their days with the old
   /// ones.
   DayChanges Reload();
@@ -43,11 +48,12 @@ class FERROWIND_EXPORT DayLoader {
   using Years = std::map<std::string, std::vector<business_days::PreparedYear>, std::less<>>;
   struct Content;
 
-  static Content Read(const platform::EngineRegistry& engines, const std::string& url);
+  [[nodiscard]] Content Read() const;
   void Take(Content content, const DayChanges& changes);
 
   const platform::EngineRegistry& engines_;
   const std::string url_;
+  const Names names_;
   /// Held while one reloads.
   std::mutex reloading_;
   /// What `current_` was made of; guarded by `reloading_`.

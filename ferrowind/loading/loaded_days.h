@@ -6,6 +6,7 @@
 #include "ferrowind/business_days/calendar_set.h"
 #include "ferrowind/business_days/market_conventions.h"
 #include "ferrowind/export.h"
+#include "ferrowind/loading/day_names.h"
 
 namespace ferrowind::loading {
 
@@ -15,6 +16,8 @@ struct FERROWIND_EXPORT LoadedDays {
   business_days::CalendarSet calendars;
   /// Those that come with the program, amended by those of the database.
   business_days::MarketConventions conventions;
+  /// Nothing unless the loader was asked for them.
+  DayNames names = {};
 };
 
 /// What is another than it was, the codes of currencies ascending.

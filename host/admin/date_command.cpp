@@ -16,9 +16,12 @@
 namespace ferrowind::host {
 namespace {
 
-std::unique_ptr<loading::DayLoader> Load(const platform::EngineRegistry& engines, const std::string& url) {
+std::unique_ptr<loading::DayLoader> Load(const platform::EngineRegistry& engines, const std::string& url,
+                                         const DateAnswering& answering) {
+  using Names = loading::DayLoader::Names;
+  const Names names = answering.tells_why ? Names::kLoaded : Names::kLeftOut;
   std::unique_ptr<loading::DayLoader> loader;
-  RunWithCalendars(engines, url, [&] { loader = std::make_unique<loading::DayLoader>(engines, url); });
+  RunWithCalendars(engines, url, [&] { loader = std::make_unique<loading::DayLoader>(engines, url, names); });
   return loader;
 }
 
@@ -30,7 +33,7 @@ ExitStatus DateCommand::Run(const platform::EngineRegistry& engines, std::ostrea
     errors << "ferrowindctl: " << OneLine(error.what()) << '\n';
   };
   try {
-    const DateAnswer answer = AnswerDateQuestion(words, *Load(engines, url)->Current(), answering);
+    const DateAnswer answer = AnswerDateQuestion(words, *Load(engines, url, answering)->Current(), answering);
     if (format == AnswerFormat::kJson) {
       out << JsonLineOf(words, answer, answering) << '\n';
     } else {
@@ -50,7 +53,7 @@ ExitStatus DateCommand::Run(const platform::EngineRegistry& engines, std::ostrea
 
 ExitStatus DateServeCommand::Run(const platform::EngineRegistry& engines, std::istream& in, std::ostream& out,
                                  std::ostream& errors) const {
-  const auto loader = Load(engines, url);
+  const auto loader = Load(engines, url, answering);
   const DayReloader reloader(engines, url, *loader, errors);
   while (const auto line = NextDateLine(in)) {
     out << AnswerDateLine(*line, *loader->Current(), answering, format) << '\n' << std::flush;

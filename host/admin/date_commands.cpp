@@ -34,9 +34,11 @@ EUR,USD, are asked together: a day is open when it is open for all of them.
              and why. Changes of the database are seen within seconds
 
 The answer stands alone on the last line. --why tells before it which closed days
-were passed over, and for whom they are closed. --format json gives an object on
-one line: {"question": "next EUR 2026-12-25", "answer": "2026-12-28"}, with --why a
-list "passed" of objects {"date", "closed"}.
+were passed over, what closes them and for whom: "2026-04-03 Good Friday: EUR, USD".
+--format json gives an object on one line:
+{"question": "next EUR 2026-12-25", "answer": "2026-12-28"}, with --why a list
+"passed" of objects {"date", "closed", "names"}: the currencies for which the day
+is closed, and by currency what closes it.
 
 EXIT STATUS
   0  answered; of "is": the day is open
@@ -59,7 +61,8 @@ struct Part {
 };
 
 void AddOptions(CLI::App& command, DateAnswering& answering, AnswerFormat& format) {
-  command.add_flag("--why", answering.tells_why, "Tell the closed days that were passed over");
+  command.add_flag("--why", answering.tells_why,
+                   "Tell the closed days that were passed over, and what closes them");
   command
       .add_option_function<std::string>(
           "--format", [&format](const std::string& name) { format = kFormats.at(name); },

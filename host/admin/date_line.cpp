@@ -6,6 +6,7 @@
 #include <istream>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
+#include <utility>
 
 #include "host/admin/text_escapes.h"
 
@@ -41,7 +42,7 @@ std::vector<std::string> WordsIn(const std::string& line) {
 std::string TextLine(const DateAnswer& answer) {
   std::string line = answer.text;
   for (std::size_t i = 0; i < answer.passed.size(); ++i) {
-    line.append(i == 0 ? " (" : "; ").append(answer.passed[i].Text());
+    line.append(i == 0 ? " (" : "; ").append(OneLine(answer.passed[i].Text()));
   }
   return answer.passed.empty() ? line : line + ')';
 }
@@ -65,8 +66,12 @@ std::string JsonLineOf(const std::vector<std::string>& words, const DateAnswer& 
   if (answering.tells_why) {
     object["passed"] = ordered_json::array();
     for (const PassedDay& passed : answer.passed) {
-      object["passed"].push_back(
-          {{"date", passed.Text().substr(0, passed.Text().find(' '))}, {"closed", passed.closed_for}});
+      ordered_json day = {{"date", passed.Date()}, {"closed", ordered_json::array()}};
+      for (const PassedDay::Closure& closure : passed.closures) {
+        day["closed"].push_back(closure.currency);
+        if (!closure.name.empty()) day["names"][closure.currency] = closure.name;
+      }
+      object["passed"].push_back(std::move(day));
     }
   }
   return JsonLine(object);

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <iterator>
 #include <system_error>
+#include <utility>
 
 #include "ferrowind/business_days/convention.h"
 #include "ferrowind/business_days/currency_codes.h"
@@ -73,8 +74,8 @@ struct Asked {
 /// The closed days of several calendars.
 class PassedDays {
  public:
-  PassedDays(std::vector<BusinessCalendar> members, const DateAnswering& answering)
-      : members_(std::move(members)), is_wanted_(answering.tells_why) {}
+  PassedDays(std::vector<BusinessCalendar> members, const Asked& asked)
+      : members_(std::move(members)), names_(asked.days.names), is_wanted_(asked.answering.tells_why) {}
 
   /// Those from `first` to `last`, behind all that were added before.
   void AddBetween(sys_days first, sys_days last) {
@@ -82,15 +83,18 @@ class PassedDays {
     for (sys_days day = first; day <= last; day += days(1)) {
       PassedDay passed{day, {}};
       for (const BusinessCalendar& member : members_) {
-        if (member.State(day) == DayState::kClosed) passed.closed_for.push_back(member.Code());
+        if (member.State(day) == DayState::kClosed) {
+          passed.closures.push_back({member.Code(), names_.Of(member.Code(), day)});
+        }
       }
-      if (!passed.closed_for.empty()) passed_.push_back(std::move(passed));
+      if (!passed.closures.empty()) passed_.push_back(std::move(passed));
     }
   }
   [[nodiscard]] std::vector<PassedDay> Take() { return std::move(passed_); }
 
  private:
   std::vector<BusinessCalendar> members_;
+  const loading::DayNames& names_;
   bool is_wanted_;
   std::vector<PassedDay> passed_;
 };
@@ -120,7 +124,7 @@ std::string WhoLacks(const JointCalendar& calendars, sys_days day) {
 DateAnswer Is(const Words& words, const Asked& asked) {
   const JointCalendar calendars = CalendarsIn(words[1], asked);
   const sys_days day = ReadSysDay(words[2]);
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   passed.AddBetween(day, day);
   switch (calendars.State(day)) {
     case DayState::kOpen:
@@ -136,7 +140,7 @@ DateAnswer Next(const Words& words, const Asked& asked) {
   const JointCalendar calendars = CalendarsIn(words[1], asked);
   const sys_days day = ReadSysDay(words[2]);
   const sys_days next = calendars.Next(day);
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   AddInside(passed, day, next);
   return DateAnswerOf(next, passed);
 }
@@ -145,7 +149,7 @@ DateAnswer Previous(const Words& words, const Asked& asked) {
   const JointCalendar calendars = CalendarsIn(words[1], asked);
   const sys_days day = ReadSysDay(words[2]);
   const sys_days previous = calendars.Previous(day);
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   AddInside(passed, day, previous);
   return DateAnswerOf(previous, passed);
 }
@@ -154,7 +158,7 @@ DateAnswer Adjust(const Words& words, const Asked& asked) {
   const JointCalendar calendars = CalendarsIn(words[1], asked);
   const sys_days day = ReadSysDay(words[2]);
   const sys_days adjusted = calendars.Adjust(day, ReadConvention(words[3]));
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   if (adjusted != day) passed.AddBetween(std::min(day, adjusted), std::max(day, adjusted));
   return DateAnswerOf(adjusted, passed);
 }
@@ -163,7 +167,7 @@ DateAnswer Add(const Words& words, const Asked& asked) {
   const JointCalendar calendars = CalendarsIn(words[1], asked);
   const sys_days day = ReadSysDay(words[2]);
   const sys_days added = calendars.AddBusinessDays(day, ReadCount(words[3]));
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   AddInside(passed, day, added);
   return DateAnswerOf(added, passed);
 }
@@ -173,7 +177,7 @@ DateAnswer Between(const Words& words, const Asked& asked) {
   const sys_days from = ReadSysDay(words[2]);
   const sys_days to = ReadSysDay(words[3]);
   const std::int32_t count = calendars.BusinessDaysBetween(from, to);
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   if (from < to) passed.AddBetween(from + days(1), to);
   if (to < from) passed.AddBetween(to, from - days(1));
   return {std::to_string(count), true, ExitStatus::kDone, passed.Take()};
@@ -184,7 +188,7 @@ DateAnswer MonthEnd(const Words& words, const Asked& asked) {
   const sys_days day = ReadSysDay(words[2]);
   const sys_days last = calendars.LastBusinessDayOfMonth(day);
   const std::chrono::year_month_day date(last);
-  PassedDays passed(calendars.Members(), asked.answering);
+  PassedDays passed(calendars.Members(), asked);
   passed.AddBetween(last + days(1), date.year() / date.month() / std::chrono::last);
   return DateAnswerOf(last, passed);
 }
@@ -195,7 +199,7 @@ class AskedPair {
   AskedPair(const std::string& pair, const Asked& asked)
       : dates_(business_days::ReadCurrencyPair(pair), asked.days.calendars, asked.days.conventions),
         closed_(asked.answering.closed_trade_date),
-        passed_(dates_.Settlement().Members(), asked.answering) {}
+        passed_(dates_.Settlement().Members(), asked) {}
 
   [[nodiscard]] DateAnswer Spot(sys_days trade_date) {
     const sys_days spot = dates_.SpotDate(trade_date, closed_);
@@ -277,12 +281,28 @@ std::string NamesOfQuestions() {
 
 }  // namespace
 
+std::string PassedDay::Date() const { return DateOf(day).ToIso(); }
+
 std::string PassedDay::Text() const {
   static constexpr const char* kWeekdays[] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                               "Thursday", "Friday", "Saturday"};
-  std::string text =
-      DateOf(day).ToIso() + ' ' + kWeekdays[std::chrono::weekday(day).c_encoding()] + ": closed for ";
-  for (std::size_t i = 0; i < closed_for.size(); ++i) text.append(i == 0 ? "" : ", ").append(closed_for[i]);
+  std::vector<std::pair<std::string, std::string>> currencies_by_name;
+  for (const Closure& closure : closures) {
+    const std::string name =
+        closure.name.empty() ? kWeekdays[std::chrono::weekday(day).c_encoding()] : closure.name;
+    const auto found =
+        std::ranges::find(currencies_by_name, name, &std::pair<std::string, std::string>::first);
+    if (found == currencies_by_name.end()) {
+      currencies_by_name.emplace_back(name, closure.currency);
+    } else {
+      found->second += ", " + closure.currency;
+    }
+  }
+  std::string text = Date();
+  for (std::size_t i = 0; i < currencies_by_name.size(); ++i) {
+    const auto& [name, currencies] = currencies_by_name[i];
+    text.append(i == 0 ? " " : "; ").append(name).append(": ").append(currencies);
+  }
   return text;
 }
 

@@ -16,11 +16,20 @@ namespace ferrowind::host {
 
 /// A closed day between what was asked for and the answer.
 struct PassedDay {
-  std::chrono::sys_days day;
-  /// The codes of the currencies for which it is closed, in the order of the question.
-  std::vector<std::string> closed_for;
+  /// For whom it is closed.
+  struct Closure {
+    std::string currency;
+    /// The holiday or weekend that it is; empty when that is not known.
+    std::string name;
+  };
 
-  /// "2026-12-25 Friday: closed for EUR, USD".
+  std::chrono::sys_days day;
+  /// In the order of the question.
+  std::vector<Closure> closures;
+
+  /// "2026-04-03".
+  [[nodiscard]] std::string Date() const;
+  /// "2026-12-26 Boxing Day: GBP; St. Stephen's Day: EUR, CHF"; where no name is known the weekday stands.
   [[nodiscard]] std::string Text() const;
 };
 

@@ -1,8 +1,9 @@
 -- On which days trades in a currency pair settle, as ValueDates of ferrowind/business_days tells.
 
 -- What a pair, "EURUSD" or "EUR/USD", is counted by: the days to spot, the currencies whose business days count, those that are
--- open on a trade date, and those that are open where a trade settles.
-CREATE OR REPLACE FUNCTION PairTerms(pair text, trade_date date, OUT name text, OUT spot_days integer, OUT counting integer[],
+-- open on a trade date, and those that are open where a trade settles. Whether they have calendars is not looked at; a currency
+-- that there is not is null.
+CREATE OR REPLACE FUNCTION PairTerms(pair text, OUT name text, OUT codes text[], OUT spot_days integer, OUT counting integer[],
                                      OUT trading integer[], OUT settlement integer[])
 LANGUAGE plpgsql STABLE PARALLEL SAFE
 AS $$
@@ -10,8 +11,11 @@ DECLARE
   letters constant text := upper(pair COLLATE "C");
   base constant text := left(letters, 3);
   quote constant text := right(letters, 3);
-  dollar integer;
-  dollar_stops boolean;
+  base_id integer;
+  quote_id integer;
+  dollar_id integer;
+  base_stops integer;
+  quote_stops integer;
 BEGIN
   IF letters !~ '^[A-Z]{3}/?[A-Z]{3}$' THEN
     RAISE EXCEPTION USING ERRCODE = 'WD004', MESSAGE = format('"%s" is no currency pair, which is written EURUSD or EUR/USD', pair);
@@ -19,25 +23,76 @@ BEGIN
     RAISE EXCEPTION USING ERRCODE = 'WD004', MESSAGE = format('"%s" has the same currency twice', pair);
   END IF;
   name := base || '/' || quote;
-  settlement := AskedCalendars(ARRAY[base, quote, 'USD'], trade_date);
-  trading := settlement[1:2];
-  dollar := settlement[CASE 'USD' WHEN base THEN 1 WHEN quote THEN 2 ELSE 3 END];
+  codes := ARRAY[base, quote, 'USD'];
 
-  spot_days := coalesce(
-    (SELECT c.SpotDays FROM CldConvention c
-     WHERE c.ID1 = least(trading[1], trading[2]) AND c.OtherID = greatest(trading[1], trading[2])),
-    (SELECT d.SpotDays FROM DeliveredConventions() d
-     WHERE d.Ccy = base AND d.OtherCcy = quote OR d.Ccy = quote AND d.OtherCcy = base),
-    2);
-  SELECT bool_or(coalesce(
-    (SELECT c.DollarStops FROM CldConvention c WHERE c.ID1 = one.id AND c.OtherID = one.id),
-    (SELECT d.DollarStops FROM DeliveredConventions() d WHERE d.Ccy = one.code AND d.OtherCcy IS NULL),
-    0) = 1)
-  INTO dollar_stops FROM unnest(trading, ARRAY[base, quote]) AS one (id, code);
-  counting := array_remove(trading, dollar);
-  IF dollar_stops THEN
-    counting := counting || dollar;
+  SELECT max(CcyID) FILTER (WHERE Ccy = base), max(CcyID) FILTER (WHERE Ccy = quote), max(CcyID) FILTER (WHERE Ccy = 'USD')
+  INTO base_id, quote_id, dollar_id FROM DicCcy WHERE Ccy = ANY (codes);
+  SELECT max(SpotDays), max(DollarStops) FILTER (WHERE ID1 = base_id), max(DollarStops) FILTER (WHERE ID1 = quote_id)
+  INTO spot_days, base_stops, quote_stops
+  FROM CldConvention
+  WHERE ID1 IN (base_id, quote_id) AND OtherID IN (base_id, quote_id);
+  spot_days := coalesce(spot_days, DeliveredSpotDays(base, quote), 2);
+  trading := ARRAY[base_id, quote_id];
+  settlement := CASE WHEN 'USD' IN (base, quote) THEN trading ELSE trading || dollar_id END;
+  counting := array_remove(trading, dollar_id);
+  IF 1 IN (coalesce(base_stops, DeliveredDollarStops(base)), coalesce(quote_stops, DeliveredDollarStops(quote))) THEN
+    counting := counting || dollar_id;
   END IF;
+END
+$$;
+
+-- The spot date when it, and all that it depends on, lies within a week of the trade date and in the same year, and all of its
+-- days are known: nearly always, by a single look at the days. Null when it does not, or anything is missing. Of each currency
+-- a number has a bit for each of these days, the trade date's first, which is set when the day is closed. A day behind them
+-- passes for open: a search that reaches one ends there, and is given up.
+CREATE OR REPLACE FUNCTION NearSpot(trade_date date, trade_date_stays boolean, spot_days integer, counting integer[],
+                                    trading integer[], settlement integer[]) RETURNS date
+LANGUAGE plpgsql STABLE PARALLEL SAFE
+AS $$
+DECLARE
+  last_seen constant integer := 7;
+  of_year constant integer := extract(year FROM trade_date);
+  first constant integer := extract(doy FROM trade_date);
+  closed integer[];
+  is_known boolean;
+  day_count bigint;
+  started integer := 0;
+  id integer;
+  days_left integer;
+  reached integer;
+  spot integer;
+BEGIN
+  SELECT count(*), ARRAY[coalesce(bit_or(1 << (Day1 - first)) FILTER (WHERE ID1 = settlement[1] AND TID1 <> 1), 0),
+                         coalesce(bit_or(1 << (Day1 - first)) FILTER (WHERE ID1 = settlement[2] AND TID1 <> 1), 0),
+                         coalesce(bit_or(1 << (Day1 - first)) FILTER (WHERE ID1 = settlement[3] AND TID1 <> 1), 0)],
+    NOT EXISTS (
+      SELECT FROM unnest(settlement) AS one (id)
+      WHERE (SELECT entered.TID1 FROM CldDay AS entered WHERE entered.ID1 = one.id AND entered.Year1 = of_year AND entered.TID1 > 2
+             ORDER BY entered.Day1 LIMIT 1) IS NULL)
+  INTO day_count, closed, is_known
+  FROM CldDay
+  WHERE ID1 = ANY (settlement) AND Year1 = of_year AND Day1 BETWEEN first AND first + last_seen;
+  IF NOT is_known OR day_count <> cardinality(settlement) * (last_seen + 1) THEN
+    RETURN NULL;
+  END IF;
+
+  WHILE NOT trade_date_stays AND (closed[1] | closed[2]) >> started & 1 = 1 LOOP
+    started := started + 1;
+  END LOOP;
+  spot := started;
+  FOREACH id IN ARRAY counting LOOP
+    reached := started;
+    days_left := spot_days;
+    WHILE days_left > 0 LOOP
+      reached := reached + 1;
+      days_left := days_left - 1 + (closed[array_position(settlement, id)] >> reached & 1);
+    END LOOP;
+    spot := greatest(spot, reached);
+  END LOOP;
+  WHILE (closed[1] | closed[2] | closed[3]) >> spot & 1 = 1 LOOP
+    spot := spot + 1;
+  END LOOP;
+  RETURN CASE WHEN spot <= last_seen THEN trade_date + spot END;
 END
 $$;
 
@@ -89,9 +144,8 @@ $$;
 
 -- On which day a trade of that tenor settles. A trade date on which a currency of the pair is closed counts as the next day on
 -- which both are open, unless it stays.
-CREATE OR REPLACE FUNCTION ValueDate(pair text, trade_date date, tenor text, trade_date_stays boolean DEFAULT false) RETURNS date
-LANGUAGE plpgsql STABLE STRICT PARALLEL SAFE SECURITY DEFINER
-SET search_path = ferrowind, pg_temp SET plan_cache_mode = force_generic_plan
+CREATE OR REPLACE FUNCTION PairValueDate(pair text, trade_date date, tenor text, trade_date_stays boolean) RETURNS date
+LANGUAGE plpgsql STABLE PARALLEL SAFE
 AS $$
 DECLARE
   letters constant text := upper(tenor COLLATE "C");
@@ -118,20 +172,25 @@ BEGIN
     RAISE EXCEPTION USING ERRCODE = 'WD004', MESSAGE = format('"%s" is no tenor: ON, TN, SPOT, SN, SW, IMM1 to IMM4, or a number of '
       'days, weeks, months or years up to 100 years, as 10D, 2W, 3M, 1Y', tenor);
   END IF;
-  terms := PairTerms(pair, trade_date);
-  IF NOT trade_date_stays THEN
-    started := AdjustedDay(terms.trading, trade_date, 'Following');
+  terms := PairTerms(pair);
+  IF unit NOT IN ('ON', 'TN') AND trade_date BETWEEN '1900-01-01' AND '3000-12-31' THEN
+    spot := NearSpot(trade_date, trade_date_stays, terms.spot_days, terms.counting, terms.trading, terms.settlement);
   END IF;
-  IF unit IN ('ON', 'TN') THEN
-    overnight := CountedBusinessDay(terms.settlement, started, 1);
-    IF unit = 'ON' THEN
-      RETURN overnight;
-    ELSIF terms.spot_days < 2 THEN
-      RETURN CountedBusinessDay(terms.settlement, overnight, 1);
+  IF spot IS NULL THEN
+    PERFORM AskedCalendars(terms.codes, trade_date);
+    IF NOT trade_date_stays THEN
+      started := AdjustedDay(terms.trading, trade_date, 'Following');
     END IF;
+    IF unit IN ('ON', 'TN') THEN
+      overnight := CountedBusinessDay(terms.settlement, started, 1);
+      IF unit = 'ON' THEN
+        RETURN overnight;
+      ELSIF terms.spot_days < 2 THEN
+        RETURN CountedBusinessDay(terms.settlement, overnight, 1);
+      END IF;
+    END IF;
+    spot := SpotFrom(started, terms.spot_days, terms.counting, terms.settlement);
   END IF;
-
-  spot := SpotFrom(started, terms.spot_days, terms.counting, terms.settlement);
   IF unit = 'TN' AND overnight >= spot THEN
     RAISE EXCEPTION USING ERRCODE = 'WD004',
       MESSAGE = format('%s has no TN on that day: its ON settles on the spot date already', terms.name);
@@ -147,11 +206,20 @@ BEGIN
 END
 $$;
 
+CREATE OR REPLACE FUNCTION ValueDate(pair text, trade_date date, tenor text, trade_date_stays boolean DEFAULT false) RETURNS date
+LANGUAGE plpgsql STABLE STRICT PARALLEL SAFE SECURITY DEFINER
+SET search_path = ferrowind, pg_temp SET plan_cache_mode = force_generic_plan
+AS $$
+BEGIN
+  RETURN PairValueDate(pair, trade_date, tenor, trade_date_stays);
+END
+$$;
+
 CREATE OR REPLACE FUNCTION SpotDate(pair text, trade_date date, trade_date_stays boolean DEFAULT false) RETURNS date
 LANGUAGE plpgsql STABLE STRICT PARALLEL SAFE SECURITY DEFINER
 SET search_path = ferrowind, pg_temp SET plan_cache_mode = force_generic_plan
 AS $$
 BEGIN
-  RETURN ValueDate(pair, trade_date, 'SPOT', trade_date_stays);
+  RETURN PairValueDate(pair, trade_date, 'SPOT', trade_date_stays);
 END
 $$;

@@ -1,3 +1,4 @@
+#include <string>
 #include <utility>
 
 #include "ferrowind/adapters/headless/memory_database.h"
@@ -27,16 +28,24 @@ CallOutcome GetClosedDays(MemoryTables& tables, const std::vector<Value>& inputs
   for (const auto& [key, days] : tables.calendars) {
     if (!IsIn(key, inputs)) continue;
     std::string closed;
+    std::string rules;
     bool is_prepared = false;
     for (const MemoryDay& day : days) {
       closed += day.type == kWorkingDay ? '0' : '1';
+      if (day.type != kWorkingDay && day.rule) {
+        rules += (rules.empty() ? "" : ",") + std::to_string(*day.rule);
+      }
       is_prepared = is_prepared || day.type > kWeekdayType;
     }
     const MemoryCurrency* const currency = CurrencyOf(tables, key.first);
     rows.push_back({key.first, key.second, std::move(closed), currency != nullptr ? currency->code : "",
-                    is_prepared ? 1 : 0});
+                    is_prepared ? 1 : 0, std::move(rules)});
   }
-  return {kDone, {Records({"ID1", "Year1", "Days", "Ccy", "IsPrepared"}, std::move(rows))}};
+  Rows names;
+  for (const auto& [id, rule] : tables.rules) names.push_back({id, rule.name});
+  return {kDone,
+          {Records({"ID1", "Year1", "Days", "Ccy", "IsPrepared", "Rules"}, std::move(rows)),
+           Records({"ID2", "Name1"}, std::move(names))}};
 }
 
 CallOutcome GetMarkedDays(MemoryTables& tables, const std::vector<Value>& inputs) {

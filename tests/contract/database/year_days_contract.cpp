@@ -27,9 +27,11 @@ TEST_P(ProceduresContract, ClosedDaysAreATextOfEveryCalendar) {
   const auto closed = caller().Call("CldGetClosedDays", {{"FromYear", 2027}, {"ToYear", 2028}});
   EXPECT_EQ(closed.return_value, 0);
   EXPECT_THAT(RowsOf(*closed.record_sets.at(0)),
-              ElementsAre(Row{kDollar, 2027, std::string(365, '0'), "USD", 0},
-                          Row{kDollar, 2028, "1" + std::string(365, '0'), "USD", 0},
-                          Row{kEuro, 2028, "11" + std::string(363, '0') + "1", "EUR", 1}));
+              ElementsAre(Row{kDollar, 2027, std::string(365, '0'), "USD", 0, ""},
+                          Row{kDollar, 2028, "1" + std::string(365, '0'), "USD", 0, "2"},
+                          Row{kEuro, 2028, "11" + std::string(363, '0') + "1", "EUR", 1, "2,4,3"}));
+  EXPECT_THAT(RowsOf(*closed.record_sets.at(1)),
+              ElementsAre(Row{1, "Working day by exception"}, Row{2, "Saturday"}, Row{3, "A"}, Row{4, "B"}));
 }
 
 TEST_P(ProceduresContract, MarkedDaysAreThoseThatHaveARule) {

@@ -132,13 +132,16 @@ class DatesOfAFile(DateTest):
     def test_tells_why(self):
         output, _ = self.ask("spot EURJPY 2026-04-30", "--why")
         self.assertEqual(output.splitlines(), [
-            "2026-05-01 Friday: closed for EUR", "2026-05-02 Saturday: closed for EUR, JPY, USD",
-            "2026-05-03 Sunday: closed for EUR, JPY, USD", "2026-05-04 Monday: closed for JPY",
-            "2026-05-05 Tuesday: closed for JPY", "2026-05-06 Wednesday: closed for JPY", "2026-05-07"])
+            "2026-05-01 Labour Day (1 May): EUR", "2026-05-02 Saturday: EUR, JPY, USD",
+            "2026-05-03 Sunday: EUR, USD; Constitution Memorial Day: JPY", "2026-05-04 Greenery Day: JPY",
+            "2026-05-05 Children's Day: JPY", "2026-05-06 Substitute Holiday: JPY", "2026-05-07"])
+        self.assertEqual(self.answer(self.serve(self.database, "--why"), "next EUR 2026-12-24"),
+                         "2026-12-28 (2026-12-25 Christmas Day: EUR; 2026-12-26 St Stephen's Day: EUR; 2026-12-27 Sunday: EUR)")
         served = self.serve(self.database, "--format", "json", "--why")
         self.assertEqual(json.loads(self.answer(served, "add EUR 2026-12-23 2")), {
             "question": "add EUR 2026-12-23 2", "answer": "2026-12-28",
-            "passed": [{"date": f"2026-12-{day}", "closed": ["EUR"]} for day in (25, 26, 27)]})
+            "passed": [{"date": f"2026-12-{day}", "closed": ["EUR"], "names": {"EUR": name}}
+                       for day, name in ((25, "Christmas Day"), (26, "St Stephen's Day"), (27, "Sunday"))]})
         self.assertEqual(json.loads(self.answer(served, "between EUR 2026-12-23 2026-12-28"))["answer"], 2)
         self.assertEqual(json.loads(self.answer(served, "is EUR 2099-01-01"))["remark"], "EUR 2099 is not prepared")
         self.assertIn("no question", json.loads(self.answer(served, "what?"))["error"])

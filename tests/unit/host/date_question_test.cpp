@@ -65,32 +65,45 @@ TEST_F(DateQuestionTest, ADayIsOpenClosedOrNotPrepared) {
 
 TEST_F(DateQuestionTest, WhyNamesForWhomEachPassedDayIsClosed) {
   EXPECT_EQ(Ask({"next", "EUR,USD", "2026-01-02"}).text, "2026-01-07");
-  EXPECT_THAT(
-      Passed({"next", "EUR,USD", "2026-01-02"}),
-      ElementsAre("2026-01-03 Saturday: closed for EUR, USD", "2026-01-04 Sunday: closed for EUR, USD",
-                  "2026-01-05 Monday: closed for EUR", "2026-01-06 Tuesday: closed for USD"));
+  EXPECT_THAT(Passed({"next", "EUR,USD", "2026-01-02"}),
+              ElementsAre("2026-01-03 Saturday: EUR, USD", "2026-01-04 Sunday: EUR, USD",
+                          "2026-01-05 Monday: EUR", "2026-01-06 Tuesday: USD"));
   EXPECT_EQ(Passed({"previous", "EUR,USD", "2026-01-07"}), Passed({"next", "EUR,USD", "2026-01-02"}));
   EXPECT_EQ(Passed({"add", "EUR,USD", "2026-01-07", "-1"}), Passed({"next", "EUR,USD", "2026-01-02"}));
   EXPECT_EQ(Passed({"between", "EUR,USD", "2026-01-02", "2026-01-07"}),
             Passed({"next", "EUR,USD", "2026-01-02"}));
   EXPECT_THAT(Passed({"adjust", "EUR", "2026-01-06", "Following"}), IsEmpty());
   EXPECT_THAT(Passed({"adjust", "EUR", "2026-01-05", "P"}),
-              ElementsAre("2026-01-03 Saturday: closed for EUR", "2026-01-04 Sunday: closed for EUR",
-                          "2026-01-05 Monday: closed for EUR"));
+              ElementsAre("2026-01-03 Saturday: EUR", "2026-01-04 Sunday: EUR", "2026-01-05 Monday: EUR"));
+}
+
+TEST_F(DateQuestionTest, WhyNamesWhatClosesADay) {
+  days_.names.AddRule(7, "Epiphany");
+  days_.names.AddRule(8, "Three Kings");
+  days_.names.AddRule(9, "Weekend");
+  // 3 to 6 January, of which the euro is open on the last one.
+  days_.names.AddYear("EUR", 2026, "00111", "9,9,7");
+  days_.names.AddYear("USD", 2026, "001101", "9,9,8");
+  EXPECT_THAT(Passed({"next", "EUR,USD", "2026-01-02"}),
+              ElementsAre("2026-01-03 Weekend: EUR, USD", "2026-01-04 Weekend: EUR, USD",
+                          "2026-01-05 Epiphany: EUR", "2026-01-06 Three Kings: USD"));
+  EXPECT_EQ(PassedDay({std::chrono::sys_days(2026y / 1 / 5),
+                       {{"EUR", "Epiphany"}, {"USD", "Three Kings"}, {"CHF", "Epiphany"}, {"JPY", ""}}})
+                .Text(),
+            "2026-01-05 Epiphany: EUR, CHF; Three Kings: USD; Monday: JPY");
 }
 
 TEST_F(DateQuestionTest, WhyOfAMonthThatEndsEarlyNamesTheDaysToItsEnd) {
   EXPECT_EQ(Ask({"month-end", "JPY", "2026-01-05"}).text, "2026-01-28");
-  const auto closed_for_yen = {"2026-01-29 Thursday: closed for JPY", "2026-01-30 Friday: closed for JPY"};
-  EXPECT_THAT(Passed({"month-end", "JPY", "2026-01-05"}),
-              ElementsAre(*closed_for_yen.begin(), *(closed_for_yen.begin() + 1),
-                          "2026-01-31 Saturday: closed for JPY"));
+  const auto closed_for_yen = {"2026-01-29 Thursday: JPY", "2026-01-30 Friday: JPY"};
+  EXPECT_THAT(
+      Passed({"month-end", "JPY", "2026-01-05"}),
+      ElementsAre(*closed_for_yen.begin(), *(closed_for_yen.begin() + 1), "2026-01-31 Saturday: JPY"));
 }
 
 TEST_F(DateQuestionTest, ASpotDatePassesTheDaysOfBothAndOfTheDollar) {
   EXPECT_EQ(Ask({"spot", "EUR/JPY", "2026-01-02"}).text, "2026-01-07");
-  EXPECT_THAT(Passed({"spot", "EURJPY", "2026-01-02"}).back(),
-              HasSubstr("2026-01-06 Tuesday: closed for USD"));
+  EXPECT_THAT(Passed({"spot", "EURJPY", "2026-01-02"}).back(), HasSubstr("2026-01-06 Tuesday: USD"));
   EXPECT_EQ(Ask({"value", "EURUSD", "2026-01-02", "SN"}).text, "2026-01-08");
 }
 

@@ -125,6 +125,34 @@ TEST_F(DayLoaderTest, AYearMoreAndAConventionAreChanges) {
   EXPECT_EQ(loader.Current()->conventions.DaysToSpot({"EUR", "USD"}), 1);
 }
 
+TEST_F(DayLoaderTest, NamesOfClosedDaysComeInTheSameCallWhenTheyAreWanted) {
+  CloseSaturdays(kEuro, 2028);
+  DayLoader loader(engines_, "memory:days", DayLoader::Names::kLoaded);
+  const auto before = loader.Current();
+  EXPECT_EQ(before->names.Of("EUR", 2028y / 1 / 1), "Saturday");
+  EXPECT_EQ(before->names.Of("EUR", 2028y / 1 / 2), "Holiday");
+  EXPECT_EQ(before->names.Of("EUR", 2028y / 12 / 30), "Saturday");
+  EXPECT_EQ(before->names.Of("EUR", 2028y / 1 / 3), "") << "an open day";
+  EXPECT_EQ(before->names.Of("EUR", 2030y / 1 / 1), "") << "no calendar";
+  EXPECT_EQ(before->names.Of("MXN", 2028y / 1 / 1), "") << "no currency";
+  EXPECT_EQ(Loader().Current()->names, DayNames());
+  Call("CldIUCelebrate",
+       {"Feast", {}, 3, {}, platform::Date(2028, 1, 2), std::int16_t{1}, std::int16_t{2}, 3, {}});
+  EXPECT_FALSE(loader.Reload().Any()) << "the days are the same";
+  EXPECT_EQ(loader.Current()->names.Of("EUR", 2028y / 1 / 2), "Feast");
+  EXPECT_EQ(before->names.Of("EUR", 2028y / 1 / 2), "Holiday") << "the old names stay";
+}
+
+TEST_F(DayLoaderTest, NamesThatTheDatabaseDoesNotTellAreNone) {
+  DayNames names;
+  names.AddRule(3, "Holiday");
+  names.AddYear("EUR", 2028, "1101", "3,x");
+  EXPECT_EQ(names.Of("EUR", 2028y / 1 / 1), "Holiday");
+  EXPECT_EQ(names.Of("EUR", 2028y / 1 / 2), "") << "no number";
+  EXPECT_EQ(names.Of("EUR", 2028y / 1 / 4), "") << "no more numbers";
+  EXPECT_EQ(names.Of("EUR", 2028y / 1 / 5), "") << "no more days";
+}
+
 TEST_F(DayLoaderTest, AFailedReloadLeavesEverythingAsItWas) {
   DayLoader loader = Loader();
   const auto before = loader.Current();
