@@ -65,10 +65,9 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         old.executescript("INSERT INTO main.CldBook SELECT ID1, Publisher, Document, NULL FROM New.CldBook; "
                           "INSERT INTO main.CldRecurrence SELECT * FROM New.CldRecurrence")
         old.close()
-        for command in ("status", "check"):
-            self.assertRegex(self.assert_run(DONE, command, url)[0],
-                             r"(?:^|\n)Warning: An upgrade was cut off at its end: the tables are of this version, but the rule books of "
-                             r"AUD, .*ZAR do not say since when they hold; \"ferrowindctl upgrade\" lets them say it\.\n")
+        self.assertRegex(self.assert_run(DONE, "status", url)[0],
+                         r"\nWarning: An upgrade was cut off at its end: the tables are of this version, but the rule books of "
+                         r"AUD, .*ZAR do not say since when they hold; \"ferrowindctl upgrade\" lets them say it\.\n")
         warnings = json.loads(self.assert_run(DONE, "status", url, "--format", "json")[0])["results"][2]["rows"]
         self.assertIn([None, "EUR", "upgrade cut off"], warnings)
         output, _ = self.assert_run(DONE, "upgrade", url)
