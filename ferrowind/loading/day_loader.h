@@ -26,6 +26,7 @@ namespace ferrowind::loading {
 /// the old days keeps them as long as he likes.
 class FERROWIND_EXPORT DayLoader {
  public:
+  /// Whether the loader also knows which rule closes a day, which `LoadedDays` tells then.
   enum class Names : std::uint8_t { kLeftOut, kLoaded };
 
   /// Reads all calendars and conventions of the database that `url` names, in the same calls with the names
@@ -38,9 +39,8 @@ class FERROWIND_EXPORT DayLoader {
   [[nodiscard]] std::shared_ptr<const LoadedDays> Current() const;
 
   /// Reads the database again, and says what is another than before; names of days count for nothing in that,
-  /// but are taken too. After a failure, which is as that of the
-  /// constructor, everything is as it was. Calendars that have not changed share their days with the old
-  /// ones.
+  /// but are taken too. After a failure, which is as that of the constructor, everything is as it was.
+  /// Calendars that have not changed share their days with the old ones.
   DayChanges Reload();
 
  private:
