@@ -236,7 +236,7 @@ class Photographer:
         if theme == 'dark':
             # The story takes the light one.
             self.studio.take('guide-prepare-it-dark', self.session, 'New calendar')
-        self.session.keys('alt+o')
+        self.session.keys('alt+p')
         self.story.wait_active('Plan of USD 2028')
         self.session.keys('Down', 'Down', 'space')
         self.studio.take(f'guide-year-plan-{theme}', self.session, 'Plan of USD 2028')
