@@ -17,12 +17,12 @@ struct Currency {
   /// ISO 4217 number.
   std::int32_t id = 0;
   /// ISO 4217 code.
-  std::string code;
-  std::string name;
+  std::string code = {};
+  std::string name = {};
   /// Only money has calendars; not metals, funds and testing codes.
   bool is_money = true;
   /// The last day as legal money; nothing while it is live.
-  std::optional<platform::Date> last_day;
+  std::optional<platform::Date> last_day = {};
 
   /// Whether it is money on any day of `year`.
   [[nodiscard]] bool IsLiveIn(int year) const { return is_money && (!last_day || last_day->Year() >= year); }
