@@ -2,7 +2,7 @@
 # are never among them: a change of one would compile everything anew.
 #
 # Only a help for those who build often, so off unless a preset asks for it. Every source includes what it uses: the
-# check architecture_build_types compiles without them.
+# check architecture_release_build compiles without them.
 
 option(FERROWIND_PRECOMPILE "Compile the headers of other projects once" OFF)
 

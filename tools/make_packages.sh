@@ -27,6 +27,10 @@ if ! (cd -- "$source" && dpkg-buildpackage --build=binary --unsigned-changes --u
   printf 'Building the packages failed.\n' >&2
   exit 1
 fi
+if grep -E -A 5 '^[^ ]+:[0-9]+:[0-9]+: warning:' -- "$log" >&2; then
+  printf 'The packages do not compile clean.\n' >&2
+  exit 1
+fi
 rm -rf -- "$source"
 # It must not become another user where it is root already, as in a container.
 lintian --allow-root --fail-on error,warning --tag-display-limit 0 -- "$packages"/*.changes

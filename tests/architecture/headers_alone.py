@@ -3,7 +3,7 @@
 
 usage: headers_alone.py ROOT BUILD_FOLDER
 
-A header with a source of its own is compiled by that one, which has to include it first; build_types.py compiles all
+A header with a source of its own is compiled by that one, which has to include it first; release_build.py compiles all
 sources without precompiled headers. The others are compiled here, with the flags of a source in their folder, as the
 build recorded them in compile_commands.json; a folder without sources needs none but the repository's root and the
 language standard. Nothing is written.
