@@ -98,12 +98,12 @@ std::vector<QModelIndex> CellsOnShow(const QAbstractItemView& view) {
   return cells;
 }
 
-/// How many pixels of the area differ between the pictures by as much as a mark must.
-int ChangedPixels(const QImage& before, const QImage& after, const QRect& area) {
+/// How many pixels differ between two pictures of one size by as much as a mark must.
+int ChangedPixels(const QImage& before, const QImage& after) {
   int changed = 0;
   QHash<quint64, bool> known;
-  for (int y = area.top(); y <= area.bottom(); ++y) {
-    for (int x = area.left(); x <= area.right(); ++x) {
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
       const QRgb one = before.pixel(x, y);
       const QRgb other = after.pixel(x, y);
       if (one == other) continue;
@@ -136,11 +136,11 @@ bool HasEdge(const QWidget& widget) {
 
 }  // namespace
 
-ExaminedWindow::ExaminedWindow(QWidget& window) : window_(window), picture_(Grab()) {}
+ExaminedWindow::ExaminedWindow(QWidget& window) : window_(window), picture_(Grab(window.rect())) {}
 
-QImage ExaminedWindow::Grab() const {
+QImage ExaminedWindow::Grab(const QRect& part) const {
   QCoreApplication::processEvents();
-  return window_.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  return window_.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 QRect ExaminedWindow::InPicture(const QWidget& widget, const QRect& part) const {
@@ -247,18 +247,19 @@ std::vector<std::string> ExaminedWindow::FaultsOfFocus() const {
   }
   if (takers.size() < 2) return faults;
   takers.front()->setFocus(Qt::TabFocusReason);
-  QImage before = Grab();
   for (std::size_t i = 1; i <= takers.size(); ++i) {
-    // Each by the picture before it, when the one before had the focus.
     QWidget* widget = takers[i % takers.size()];
+    const auto grab = [&] { return Grab({widget->mapTo(&window_, QPoint()), widget->size()}); };
+    // While the one before it has the focus.
+    const QImage before = grab();
     widget->setFocus(Qt::TabFocusReason);
-    const QImage now = Grab();
+    const QImage now = grab();
     // About a line along two sides of a small button.
     constexpr int kSeen = 30;
-    const int changed = ChangedPixels(before, now, InPicture(*widget, widget->rect()));
-    if (now.size() == before.size() && changed < kSeen)
+    if (now.size() != before.size()) continue;
+    const int changed = ChangedPixels(before, now);
+    if (changed < kSeen)
       faults.push_back(NameOf(*widget) + " shows the focus by " + std::to_string(changed) + " pixels");
-    before = now;
   }
   return faults;
 }

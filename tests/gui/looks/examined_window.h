@@ -24,7 +24,7 @@ class ExaminedWindow {
   [[nodiscard]] std::vector<std::string> FaultsOfFocus() const;
 
  private:
-  [[nodiscard]] QImage Grab() const;
+  [[nodiscard]] QImage Grab(const QRect& part) const;
   /// The widget's area, or a part of it, in the pixels of a picture of the window.
   [[nodiscard]] QRect InPicture(const QWidget& widget, const QRect& part) const;
 
