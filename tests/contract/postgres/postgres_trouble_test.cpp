@@ -187,8 +187,10 @@ void CutEverywhere(CuttingProxy::Direction direction) {
   EXPECT_EQ(CreateCalendar(database.ConnectionString(), NthCalendar(calendars++)).return_value, 0);
   // Only the last message of either side can be lost without the call failing: the client's farewell.
   EXPECT_THAT(done, AllOf(Gt(0U), Lt(10U)));
-  // The server's last answers, whose loss leaves the work done.
-  EXPECT_THAT(done_though_failed, AllOf(Gt(0U), Lt(whole / 4)));
+  // The server's last answers, whose loss leaves the work done. A cut on the way there may take with it what
+  // the server has received and not yet read, so nothing need be done then.
+  EXPECT_THAT(done_though_failed, Lt(whole / 4));
+  if (direction == CuttingProxy::Direction::kToClient) EXPECT_THAT(done_though_failed, Gt(0U));
   EXPECT_EQ(postgres_server::Ask(database.Name(), "SELECT count(*)::int8 FROM ferrowind.CldCalendar"),
             std::to_string(calendars))
       << "the next call always did what the cut one had not done";
