@@ -10,9 +10,12 @@
 
 #include "ferrowind/exchange/list_text.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::exchange {
 namespace {
+
+using platform::FilePath;
 
 [[noreturn]] void Refuse(const std::string& file, const char* what, const std::string& why) {
   throw platform::Failure(platform::failure_number::kInvalidArgument, file + what + why);
@@ -26,7 +29,7 @@ namespace {
   Refuse(file, " cannot be written: ", why);
 }
 
-void WriteInto(const std::string& file, const std::string& name, const std::string& text) {
+void WriteInto(const std::string& file, const std::filesystem::path& name, const std::string& text) {
   errno = 0;
   std::ofstream out(name, std::ios::binary);
   out << text;
@@ -38,11 +41,11 @@ void WriteInto(const std::string& file, const std::string& name, const std::stri
 
 std::string ReadListFile(const std::string& file) {
   std::error_code error;
-  const auto there = std::filesystem::status(file, error);
+  const auto there = std::filesystem::status(FilePath(file), error);
   if (std::filesystem::exists(there) && !std::filesystem::is_regular_file(there))
     RefuseToRead(file, "it is no file");
   errno = 0;
-  std::ifstream in(file, std::ios::binary);
+  std::ifstream in(FilePath(file), std::ios::binary);
   if (!in) RefuseToRead(file, std::strerror(errno));
   std::string bytes(kLongestList + 1, '\0');
   in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -53,13 +56,13 @@ std::string ReadListFile(const std::string& file) {
 
 void WriteListFile(const std::string& file, const std::string& text) {
   std::error_code error;
-  const auto there = std::filesystem::status(file, error);
+  const auto there = std::filesystem::status(FilePath(file), error);
   if (std::filesystem::exists(there) && !std::filesystem::is_regular_file(there))
-    return WriteInto(file, file, text);
-  const std::string part = file + ".part";
+    return WriteInto(file, FilePath(file), text);
+  const std::filesystem::path part = FilePath(file + ".part");
   try {
     WriteInto(file, part, text);
-    std::filesystem::rename(part, file, error);
+    std::filesystem::rename(part, FilePath(file), error);
     if (error) RefuseToWrite(file, error.message());
   } catch (const platform::Failure&) {
     std::error_code ignored;

@@ -200,9 +200,9 @@ EntryChanges LoadChanges(const HistoryEntry& entry, const CurrencyList& currenci
   if (entry.currency && entry.year) {
     const Currency* const currency = currencies.Find(*entry.currency);
     const std::string code = currency != nullptr ? currency->code : std::to_string(*entry.currency);
-    AddDays(LoadCalendarBehind(*entry.currency, *entry.year, entry.id - 1),
-            LoadCalendarBehind(*entry.currency, *entry.year, entry.id),
-            code + " " + std::to_string(*entry.year), changes);
+    const PastCalendar before = LoadCalendarBehind(*entry.currency, *entry.year, entry.id - 1);
+    const PastCalendar behind = LoadCalendarBehind(*entry.currency, *entry.year, entry.id);
+    AddDays(before, behind, code + " " + std::to_string(*entry.year), changes);
   }
   return changes;
 }

@@ -1,6 +1,5 @@
 #include "ferrowind/planning/list_import.h"
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -13,6 +12,7 @@
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/listed_year.h"
 #include "ferrowind/planning/year_planner.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -29,7 +29,7 @@ ListImport PrepareImport(const almanac::DateTables& tables, const ListFile& file
       exchange::SortByYear(exchange::ReadList(text, exchange::FormatOf(file.path, text), icalendar, wanted),
                            file.currency.code, wanted);
   ListImport import{.calendar = {file.currency.id, file.year},
-                    .source = std::filesystem::path(file.path).filename().string(),
+                    .source = platform::FileName(platform::FilePath(file.path).filename()),
                     .list = std::move(sorted.years.front()),
                     .takes_names = file.takes_names,
                     .remarks = {}};

@@ -18,7 +18,8 @@ constexpr const char* kApplyPlan = "CldApplyPlan";
 
 YearPreparation::YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                                  const almanac::RuleDirectory& rules)
-    : YearPreparation(currency, planner.Plan(year), LoadCalendar(currency, year), rules) {}
+    // In braces, whose order is kept: a year that has no plan is told of before the database is asked.
+    : YearPreparation{currency, planner.Plan(year), LoadCalendar(currency, year), rules} {}
 
 YearPreparation::YearPreparation(const Currency& currency, almanac::YearPlan plan, StoredCalendar calendar,
                                  const almanac::RuleDirectory& rules)

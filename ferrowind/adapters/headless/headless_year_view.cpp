@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::headless {
 
@@ -56,7 +57,7 @@ std::vector<YearCell> HeadlessYearView::Selected() const {
 void HeadlessYearView::SavePages(platform::PageFile kind, const std::string& path,
                                  const std::string& heading) {
   core_.Record("SavePages", {kind == platform::PageFile::kPdf ? "pdf" : "png", path, heading});
-  std::ofstream file(path, std::ios::binary);
+  std::ofstream file(platform::FilePath(path), std::ios::binary);
   file << heading << '\n';
   for (const auto& note : Content().notes) {
     file << days_.DateOf(note.day_of_year).ToIso() << ' ' << note.text << '\n';

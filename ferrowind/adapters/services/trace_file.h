@@ -1,11 +1,14 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "ferrowind/adapters/services/trace_sink.h"
 #include "ferrowind/export.h"
 
 namespace ferrowind {
+
+class PrivateFile;
 
 /// Appends trace to a file, one line a text: the time in UTC, a blank, and the text without passwords
 /// (password_free.h), its control characters written as escapes. Each line is in the file when `Write`
@@ -24,7 +27,7 @@ class FERROWIND_EXPORT TraceFile : public TraceSink {
   void Write(const std::string& text) noexcept override;
 
  private:
-  int file_;
+  std::unique_ptr<PrivateFile> file_;
 };
 
 /// The text on one line: a backslash becomes two, line breaks `\r` and `\n`, other control characters `\xHH`.

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <utility>
 
 #include "ferrowind/data/run_handler.h"
@@ -13,6 +12,7 @@
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/listed_year.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/file_path.h"
 #include "ferrowind/views/planning/typed_currencies.h"
 
 namespace ferrowind {
@@ -59,7 +59,7 @@ std::vector<platform::FileKind> KindsFor(const platform::Platform& platform, std
 }
 
 std::string SuffixOf(const std::string& path) {
-  const std::string suffix = std::filesystem::path(path).extension().string();
+  const std::string suffix = platform::FileName(platform::FilePath(path).extension());
   return suffix.empty() ? suffix : suffix.substr(1);
 }
 

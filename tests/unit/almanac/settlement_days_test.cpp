@@ -110,7 +110,7 @@ std::vector<std::string> Currencies() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Delivered, DeliveredBookOf, ::testing::ValuesIn(Currencies()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& each) { return each.param; });
 
 }  // namespace
 }  // namespace ferrowind::almanac

@@ -183,9 +183,8 @@ TEST(DayStory, TellsWhoChangedTheDayLast) {
     world.Call("CldIUMain", {978, 2028, 4, 5, 105, Date(2028, 4, 14), {}});
     world.world.database->SetUser("otto");
     world.Call("CldIUMain", {978, 2028, 4, 6, 106, Date(2028, 4, 15), {}});
-    EXPECT_THAT(
-        story.LoadLastChange(Date(2028, 4, 14)),
-        MatchesRegex("anna, ....-..-.. [A-Z][a-z][a-z] ..:..: Assigned Good Friday to 14 April 2028"));
+    EXPECT_THAT(story.LoadLastChange(Date(2028, 4, 14)),
+                MatchesRegex("anna, ....-..-.. ... ..:..: Assigned Good Friday to 14 April 2028"));
   });
 }
 

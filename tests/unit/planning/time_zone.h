@@ -20,11 +20,16 @@ class TimeZone {
 
  private:
   static void Set(const char* zone) {
+#ifdef _WIN32
+    // An empty value takes the variable away.
+    _putenv_s("TZ", zone != nullptr ? zone : "");
+#else
     if (zone != nullptr) {
       setenv("TZ", zone, 1);
     } else {
       unsetenv("TZ");
     }
+#endif
     tzset();
   }
 

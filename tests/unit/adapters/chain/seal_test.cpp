@@ -19,7 +19,7 @@ using ::testing::MatchesRegex;
 const Seal kSeal = {4211, "0123456789ABCDEFGHJKMNPQRSTVWXYZ"};
 
 TEST(SealText, IsTheNumberOfTheEntryAndGroupsOfFourLetters) {
-  EXPECT_THAT(kSeal.Text(), MatchesRegex("4211-0123-4567-89AB-CDEF-GHJK-MNPQ-RSTV-WXYZ-[0-9A-Z]{4}"));
+  EXPECT_THAT(kSeal.Text(), MatchesRegex("4211-0123-4567-89AB-CDEF-GHJK-MNPQ-RSTV-WXYZ-...."));
   EXPECT_EQ(Seal::Of(kSeal.Text()), kSeal);
 }
 

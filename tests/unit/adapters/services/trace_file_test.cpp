@@ -1,37 +1,18 @@
 #include "ferrowind/adapters/services/trace_file.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <regex>
-#include <sstream>
 #include <string>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "ferrowind/platform/values/failure.h"
+
+#include "tests/unit/adapters/services/trace_file_fixture.h"
 
 namespace ferrowind {
 namespace {
 
-class TraceFileTest : public ::testing::Test {
- protected:
-  TraceFileTest() { std::filesystem::remove(path_); }
-  ~TraceFileTest() override { std::filesystem::remove(path_); }
-
-  [[nodiscard]] std::string Content() const {
-    std::ifstream file(path_, std::ios::binary);
-    std::stringstream content;
-    content << file.rdbuf();
-    return content.str();
-  }
-
-  std::string path_ =
-      ::testing::TempDir() + ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".trace";
-};
+using testing::TraceFileTest;
 
 TEST_F(TraceFileTest, WritesALineWithTheTimeForEachText) {
   TraceFile trace(path_);
@@ -60,52 +41,6 @@ TEST_F(TraceFileTest, HoldsNoPassword) {
   trace.Write("connecting to postgresql://anna:secret@db/x");
   EXPECT_EQ(Content().find("secret"), std::string::npos) << Content();
   EXPECT_NE(Content().find("anna:***"), std::string::npos) << Content();
-}
-
-TEST_F(TraceFileTest, IsReadableByItsOwnerOnly) {
-  const TraceFile trace(path_);
-  struct stat status {};
-  ASSERT_EQ(::stat(path_.c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777U, 0600U);
-}
-
-TEST_F(TraceFileTest, IsReadableByItsOwnerOnlyWhereThereWasOneForAll) {
-  std::ofstream(path_) << "older\n";
-  ASSERT_EQ(::chmod(path_.c_str(), 0644), 0);
-  TraceFile(path_).Write("newer");
-  struct stat status {};
-  ASSERT_EQ(::stat(path_.c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777U, 0600U);
-  EXPECT_TRUE(Content().starts_with("older\n")) << Content();
-  EXPECT_NE(Content().find("newer"), std::string::npos) << Content();
-}
-
-TEST_F(TraceFileTest, DoesNotWriteToWhatOthersMayHavePutThere) {
-  const std::string victim = path_ + ".victim";
-  std::ofstream(victim) << "precious";
-  const auto refusal = [&] {
-    try {
-      TraceFile(path_).Write("traced");
-    } catch (const platform::Failure& failure) {
-      return failure.Description();
-    }
-    return std::string("none");
-  };
-  std::filesystem::create_symlink(victim, path_);
-  EXPECT_EQ(refusal(), "Cannot write the trace file " + path_ + ": it is a link");
-  std::filesystem::remove(path_);
-  std::filesystem::create_hard_link(victim, path_);
-  EXPECT_EQ(refusal(), "Cannot write the trace file " + path_ + ": it has another name as well");
-  std::filesystem::remove(path_);
-  ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
-  const int reader = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK);
-  EXPECT_EQ(refusal(), "Cannot write the trace file " + path_ + ": it is no file");
-  ::close(reader);
-  std::filesystem::remove(path_);
-  std::ifstream file(victim);
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "precious");
-  file.close();
-  std::filesystem::remove(victim);
 }
 
 TEST_F(TraceFileTest, NamesAFileThatCannotBeWritten) {

@@ -16,6 +16,7 @@
 #include "ferrowind/adapters/headless/headless_table.h"
 #include "ferrowind/adapters/headless/headless_text_box.h"
 #include "ferrowind/adapters/icalendar/icalendar_list.h"
+#include "ferrowind/platform/values/file_path.h"
 #include "ferrowind/views/planning/planning_windows.h"
 
 #include "tests/unit/planning/memory_planning_world.h"
@@ -34,7 +35,9 @@ class ListFolder {
   ListFolder(const ListFolder&) = delete;
   ListFolder& operator=(const ListFolder&) = delete;
 
-  [[nodiscard]] std::string Path(const std::string& name) const { return folder_ / name; }
+  [[nodiscard]] std::string Path(const std::string& name) const {
+    return platform::FileName(folder_ / platform::FilePath(name));
+  }
   std::string Write(const std::string& name, std::string_view text) const {
     std::ofstream(Path(name), std::ios::binary) << text;
     return Path(name);

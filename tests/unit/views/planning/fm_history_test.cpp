@@ -31,7 +31,7 @@ TEST(HistoryWindow, TellsWhoChangedWhatTheNewestFirst) {
     EXPECT_THAT(history.Sentences(),
                 ElementsAre(kAssigned, kCreated, "Added the rule Good Friday", "Added the rule Sunday"));
     const auto newest = history.Entries().Texts("4");
-    EXPECT_THAT(newest[0], ::testing::MatchesRegex("....-..-.. [A-Z][a-z][a-z] ..:..:.."));
+    EXPECT_THAT(newest[0], ::testing::MatchesRegex("....-..-.. ... ..:..:.."));
     EXPECT_EQ(history.Entries().Cell("4", "When").order, 4) << "a locale's dates are in no order as texts";
     EXPECT_EQ(newest[1], "anna");
     EXPECT_EQ(newest[2], "EUR 2028");

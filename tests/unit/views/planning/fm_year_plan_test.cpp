@@ -567,7 +567,9 @@ TEST(YearPlanFaults, AtAnyCallOfOpeningGiveAWindowOrAFailure) {
       has_fired = world.world.faults.HasFired();
       SCOPED_TRACE("call " + std::to_string(call) + ", " + world.world.faults.FailedCall());
       world.world.faults.Disarm();
-      if (is_open) EXPECT_TRUE(world.Form().IsShown());
+      if (is_open) {
+        EXPECT_TRUE(world.Form().IsShown());
+      }
       EXPECT_TRUE(world.windows.CloseAll());
     });
   }

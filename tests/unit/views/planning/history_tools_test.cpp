@@ -176,7 +176,7 @@ TEST(HistoryTools, SayWhyNothingWasUndone) {
     ASSERT_EQ(calendars.asked.size(), 2U);
     EXPECT_THAT(calendars.asked[1], ::testing::ContainsRegex(
                                         "The newest change of EUR 2028 is \"Assigned Good Friday to 14 April "
-                                        "2028\" .anna, ....-..-.. [A-Z][a-z][a-z] ..:..:..."));
+                                        "2028\" .anna, ....-..-.. ... ..:..:..."));
     EXPECT_EQ(calendars.EntryCount(), 6U);
   });
 }

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Runs a Windows program by Wine, in a prefix that is made when it is not there.
+# usage: tools/wine.sh PREFIX PROGRAM [ARGUMENT...]
+set -euo pipefail
+
+if [ $# -lt 2 ]; then
+  sed -n '2,3s/^# //p' -- "${BASH_SOURCE[0]}" >&2
+  exit 2
+fi
+prefix=$1
+shift
+mkdir -p -- "$prefix"
+WINEPREFIX=$(cd -- "$prefix" && pwd)
+export WINEPREFIX
+# Without those two libraries a prefix asks whether to download them, and without the program menus stay as they are.
+export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d' WINEARCH=win64
+export WINEDEBUG=${WINEDEBUG:--all}
+
+if [ ! -e "$WINEPREFIX/made" ]; then
+  # Programs that start at the same time wait for the first to make it.
+  exec {lock}>"$WINEPREFIX/lock"
+  flock "$lock"
+  if [ ! -e "$WINEPREFIX/made" ]; then
+    # Wine's own programs outlive this one, and must not keep what waits for its output waiting.
+    wineboot --init </dev/null >"$WINEPREFIX/wineboot.log" 2>&1 {lock}>&-
+    wineserver --wait {lock}>&-
+    touch -- "$WINEPREFIX/made"
+  fi
+  exec {lock}>&-
+fi
+exec wine "$@"
