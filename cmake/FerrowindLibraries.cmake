@@ -52,10 +52,13 @@ function(ferrowind_add_components library)
   endforeach()
 endfunction()
 
+if(WIN32)
+  set(system_leaves adapters_windows)
+endif()
 ferrowind_add_host_library(ferrowind
   LEAVES platform_events platform_values platform_database platform_toolkit platform_services platform_additions platform
     business_days database_conventions loading data data_confirm control_maps control
-    views_common views_dialogs views_editor views_holidays views_calendars adapters_services adapters_windowless)
+    views_common views_dialogs views_editor views_holidays views_calendars ${system_leaves} adapters_services adapters_windowless)
 target_sources(ferrowind_host_library_ferrowind PUBLIC FILE_SET HEADERS FILES ${PROJECT_SOURCE_DIR}/ferrowind/export.h)
 set_property(GLOBAL APPEND PROPERTY FERROWIND_PUBLIC_HEADERS ${PROJECT_SOURCE_DIR}/ferrowind/export.h)
 target_include_directories(ferrowind_host_library_ferrowind PUBLIC $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>)
@@ -76,7 +79,7 @@ if(TARGET ferrowind_adapters_chain)
   ferrowind_add_host_library(ferrowind-engines STATIC
     LEAVES adapters_content adapters_chain database_seed_sql
     DEPENDS ferrowind_host_library_ferrowind
-    PRIVATE_DEPENDS OpenSSL::Crypto)
+    PRIVATE_DEPENDS ${FERROWIND_DIGESTS})
 endif()
 if("sqlite" IN_LIST FERROWIND_ADAPTERS)
   ferrowind_add_host_library(ferrowind-sqlite

@@ -24,7 +24,7 @@ import shell_programs
 LIST = "tools/packages.txt"
 INSTALLER = "install_packages.sh"
 # Those that people start, and folders whose texts name further scripts that they run.
-ENTRIES = {"run": (), "test": ("tests",), "bench.sh": ("bench",), "tools/fuzz.sh": (), "tools/tidy.sh": (),
+ENTRIES = {"run": (), "test": ("tests",), "bench.sh": ("bench",), "tools/fuzz.sh": (), "tools/tidy.sh": (), "tools/test_windows.sh": (),
            "tools/make_packages.sh": (), "tools/check_packages.sh": (),
            "tools/compare_with_quantlib.sh": (), "tools/write_server_catalogue.sh": ()}
 # What is started by people who have everything that ./test installs.

@@ -1,19 +1,17 @@
 #include <stdexcept>
-#include <system_error>
 #include <vector>
 
-#include <aclapi.h>
 #include <windows.h>
+#include <aclapi.h>
 
 #include "ferrowind/adapters/services/private_file.h"
+#include "ferrowind/adapters/windows/system_message.h"
 #include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind {
 namespace {
 
-[[noreturn]] void Refuse(DWORD error) {
-  throw std::runtime_error(std::system_category().message(static_cast<int>(error)));
-}
+[[noreturn]] void Refuse(DWORD error) { throw std::runtime_error(windows::SystemMessage(error)); }
 
 /// What the process's token says of this class.
 std::vector<unsigned char> TokenInformation(TOKEN_INFORMATION_CLASS of) {

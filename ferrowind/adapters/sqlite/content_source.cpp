@@ -1,11 +1,9 @@
 #include "ferrowind/adapters/sqlite/content_source.h"
 
-#include <cerrno>
 #include <system_error>
 
-#include <sys/stat.h>
-
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
+#include "ferrowind/adapters/sqlite/file_status.h"
 #include "ferrowind/adapters/sqlite/result_reader.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/platform/database/failure_boundary.h"
@@ -75,12 +73,10 @@ std::unique_ptr<content::RowWriter> RowWriterOf(const DatabaseHandle& database, 
 std::string FileSource::Name() { return "The database " + database_.Path(); }
 
 std::string FileSource::Identity() {
-  struct stat status {};
-  if (stat(database_.Path().c_str(), &status) != 0) {
-    throw platform::Failure(errno,
-                            Name() + " is not there any more: " + std::generic_category().message(errno));
-  }
-  return "file " + std::to_string(status.st_dev) + " " + std::to_string(status.st_ino);
+  std::error_code error;
+  const auto status = StatusBehindLinks(database_.Path(), error);
+  if (!status) throw platform::Failure(error.value(), Name() + " is not there any more: " + error.message());
+  return "file " + std::to_string(status->device) + " " + std::to_string(status->number);
 }
 
 std::int64_t FileSource::CountRows(const content::Table& table) {

@@ -18,6 +18,7 @@
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/adapters/sqlite/transaction_engine.h"
 #include "ferrowind/platform/database/failure_boundary.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::sqlite {
 namespace {
@@ -76,9 +77,10 @@ void FillExisting(const std::string& path, Target kind,
 
 bool IsMissingOrEmpty(const std::string& path) {
   std::error_code error;
-  if (std::filesystem::symlink_status(path, error).type() == std::filesystem::file_type::not_found)
+  const auto file = platform::FilePath(path);
+  if (std::filesystem::symlink_status(file, error).type() == std::filesystem::file_type::not_found)
     return true;
-  return std::filesystem::is_regular_file(path, error) && std::filesystem::file_size(path, error) == 0 &&
+  return std::filesystem::is_regular_file(file, error) && std::filesystem::file_size(file, error) == 0 &&
          !error;
 }
 

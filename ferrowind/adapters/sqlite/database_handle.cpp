@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/name_collation.h"
 #include "ferrowind/adapters/sqlite/sql_functions.h"
 #include "ferrowind/adapters/sqlite/sqlite_failure.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::sqlite {
 namespace {
@@ -43,10 +44,10 @@ std::string AbsolutePath(const std::string& path) {
                                          : "The path of the database holds the character NUL");
   }
   std::error_code error;
-  const auto absolute = std::filesystem::absolute(path, error);
+  const auto absolute = std::filesystem::absolute(platform::FilePath(path), error);
   if (error)
     throw platform::Failure(error.value(), "The path " + path + " is not usable: " + error.message());
-  return absolute.string();
+  return platform::FileName(absolute);
 }
 
 DatabaseHandle::DatabaseHandle(const std::string& path, std::chrono::milliseconds busy_timeout)

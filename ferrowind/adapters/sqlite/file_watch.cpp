@@ -4,16 +4,17 @@
 #include <system_error>
 
 #include <sqlite3.h>
-#include <sys/stat.h>
 
 #include "ferrowind/adapters/sqlite/busy_timeout.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
+#include "ferrowind/adapters/sqlite/file_status.h"
 #include "ferrowind/adapters/sqlite/schema_guard.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::sqlite {
 namespace {
@@ -57,16 +58,16 @@ bool FileWatch::Traces::AreOld() const {
 }
 
 std::optional<FileWatch::Trace> FileWatch::TraceOf(const std::string& path) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return std::nullopt;
-  const auto written = nanoseconds(seconds(status.st_mtim.tv_sec)) + nanoseconds(status.st_mtim.tv_nsec);
-  return Trace{status.st_dev, status.st_ino, status.st_size, written.count()};
+  std::error_code error;
+  const auto status = StatusBehindLinks(path, error);
+  if (!status) return std::nullopt;
+  return Trace{status->device, status->number, status->size, status->written};
 }
 
 std::optional<FileWatch::Traces> FileWatch::TracesNow() const {
   // The log stands beside the file itself, not beside a link to it, which may lead elsewhere by now.
   std::error_code error;
-  const std::string path = std::filesystem::canonical(path_, error).string();
+  const std::string path = platform::FileName(std::filesystem::canonical(platform::FilePath(path_), error));
   const auto file = TraceOf(path);
   if (error || !file) return std::nullopt;
   Traces traces{*file, TraceOf(path + "-wal")};

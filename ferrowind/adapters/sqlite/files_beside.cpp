@@ -1,31 +1,19 @@
 #include "ferrowind/adapters/sqlite/files_beside.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <utility>
 
-#include <unistd.h>
-
-#include "ferrowind/adapters/sqlite/system_user.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::sqlite {
 namespace {
 
-constexpr uid_t kSuperuser = 0;
-
-std::optional<struct stat> StatusOf(const std::string& path) {
-  struct stat status {};
-  if (lstat(path.c_str(), &status) != 0) return std::nullopt;
-  return status;
-}
-
-std::optional<std::string> DangerIn(const struct stat& file, const struct stat& database,
-                                    const struct stat& folder) {
-  if (S_ISLNK(file.st_mode)) return "is a link; move it away";
-  if (!S_ISREG(file.st_mode)) return "is no file; move it away";
-  if (file.st_nlink > 1) return "is another name of some other file; move it away";
+std::optional<std::string> DangerIn(const FileStatus& file, const FileStatus& database,
+                                    const FileStatus& folder) {
+  if (file.kind == FileStatus::Kind::kLink) return "is a link; move it away";
+  if (file.kind != FileStatus::Kind::kFile) return "is no file; move it away";
+  if (file.names > 1) return "is another name of some other file; move it away";
   if (!IsOfAWriter(file, database, folder)) {
-    return "belongs to " + UserName(file.st_uid) +
+    return "belongs to " + OwnerName(file) +
            ", who may not write the database; find out who put it there, and move it away";
   }
   return std::nullopt;
@@ -35,18 +23,17 @@ std::optional<std::string> DangerIn(const struct stat& file, const struct stat& 
 
 bool IsAnythingAt(const std::string& path) { return StatusOf(path).has_value(); }
 
-bool IsOfAWriter(const struct stat& file, const struct stat& database, const struct stat& folder) {
-  if (file.st_uid == database.st_uid || file.st_uid == geteuid() || file.st_uid == kSuperuser) return true;
-  if ((database.st_mode & S_IWOTH) != 0) return true;
+bool IsOfAWriter(const FileStatus& file, const FileStatus& database, const FileStatus& folder) {
+  if (file.owner == database.owner || IsOwnOrSuperusers(file) || database.others_may_write) return true;
   // Only a member makes a file of a group, except where the folder gives everybody's files its own.
-  const bool folder_gives_group_to_all = (folder.st_mode & S_IWOTH) != 0 && (folder.st_mode & S_ISGID) != 0;
-  return (database.st_mode & S_IWGRP) != 0 && file.st_gid == database.st_gid && !folder_gives_group_to_all;
+  const bool folder_gives_group_to_all = folder.others_may_write && folder.gives_group;
+  return database.group_may_write && file.group == database.group && !folder_gives_group_to_all;
 }
 
 FilesBeside::FilesBeside(std::string path)
     : path_(std::move(path)),
       database_(StatusOf(path_)),
-      folder_(StatusOf(path_.substr(0, std::max<std::size_t>(path_.rfind('/'), 1)))) {}
+      folder_(StatusOf(platform::FileName(platform::FilePath(path_).parent_path()))) {}
 
 std::optional<std::string> FilesBeside::Danger() const {
   // Without them SQLite says what is missing.
@@ -74,7 +61,7 @@ bool FilesBeside::HasHarmless(std::string_view suffix) const {
   return file && !DangerOf(*file, suffix);
 }
 
-std::optional<std::string> FilesBeside::DangerOf(const struct stat& file, std::string_view suffix) const {
+std::optional<std::string> FilesBeside::DangerOf(const FileStatus& file, std::string_view suffix) const {
   if (!database_ || !folder_) return std::nullopt;
   const auto danger = DangerIn(file, *database_, *folder_);
   if (!danger) return std::nullopt;

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include <sys/stat.h>
+#include "ferrowind/adapters/sqlite/file_status.h"
 
 namespace ferrowind::sqlite {
 
@@ -36,12 +36,12 @@ class FilesBeside {
   [[nodiscard]] bool HasHarmless(std::string_view suffix) const;
 
  private:
-  [[nodiscard]] std::optional<std::string> DangerOf(const struct stat& file, std::string_view suffix) const;
+  [[nodiscard]] std::optional<std::string> DangerOf(const FileStatus& file, std::string_view suffix) const;
 
   std::string path_;
   /// Nothing when there is none.
-  std::optional<struct stat> database_;
-  std::optional<struct stat> folder_;
+  std::optional<FileStatus> database_;
+  std::optional<FileStatus> folder_;
 };
 
 /// `FilesBeside::Danger` of the database at `path`.
@@ -52,7 +52,6 @@ class FilesBeside {
 
 /// Whether whoever owns `file` may write `database`, as far as the two and their `folder` tell: its owner,
 /// this process' user, the superuser, or a member of a group that may.
-[[nodiscard]] bool IsOfAWriter(const struct stat& file, const struct stat& database,
-                               const struct stat& folder);
+[[nodiscard]] bool IsOfAWriter(const FileStatus& file, const FileStatus& database, const FileStatus& folder);
 
 }  // namespace ferrowind::sqlite

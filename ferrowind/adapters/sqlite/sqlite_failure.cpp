@@ -4,9 +4,9 @@
 #include <optional>
 #include <system_error>
 
-#include <unistd.h>
-
+#include "ferrowind/adapters/sqlite/file_status.h"
 #include "ferrowind/adapters/sqlite/files_beside.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::sqlite {
 namespace {
@@ -19,7 +19,7 @@ std::optional<std::string> DangerBesideOpen(sqlite3* database) {
 
 std::string WhyItCannotBeOpened(sqlite3* database, const std::string& path) {
   std::error_code error;
-  const auto status = std::filesystem::status(path, error);
+  const auto status = std::filesystem::status(platform::FilePath(path), error);
   switch (status.type()) {
     case std::filesystem::file_type::not_found:
       return "there is no such file";
@@ -30,7 +30,7 @@ std::string WhyItCannotBeOpened(sqlite3* database, const std::string& path) {
     default:
       break;
   }
-  if (access(path.c_str(), R_OK) != 0) return std::error_code(errno, std::generic_category()).message();
+  if (const auto why = WhyNotReadable(path)) return why.message();
   if (const auto danger = DangerBesideOpen(database)) return *danger;
   return "the files that belong beside it cannot be opened or created";
 }

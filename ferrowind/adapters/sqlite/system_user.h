@@ -2,12 +2,7 @@
 
 #include <string>
 
-#include <sys/types.h>
-
 namespace ferrowind::sqlite {
-
-/// The name of a user of the operating system, or the user's number when it has no name.
-[[nodiscard]] std::string UserName(uid_t user);
 
 /// The name of the user who started this program.
 [[nodiscard]] const std::string& SystemUserName();

@@ -1,10 +1,10 @@
 #include "ferrowind/adapters/sqlite/text_functions.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 #include "ferrowind/adapters/sqlite/function_arguments.h"
+#include "ferrowind/adapters/sqlite/text_search.h"
 #include "ferrowind/platform/values/text_limits.h"
 
 namespace ferrowind::sqlite {
@@ -16,15 +16,6 @@ std::string_view BytesOf(sqlite3_value* value) {
   if (sqlite3_value_type(value) != SQLITE_BLOB) return TextOf(value);
   const auto* const bytes = static_cast<const char*>(sqlite3_value_blob(value));
   return {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))};
-}
-
-/// Where `wanted` begins in `text`, by an algorithm whose steps do not multiply.
-std::size_t Find(std::string_view text, std::string_view wanted) {
-  if (wanted.empty()) return 0;
-  if (text.size() < wanted.size()) return std::string_view::npos;
-  const void* const found = memmem(text.data(), text.size(), wanted.data(), wanted.size());
-  return found == nullptr ? std::string_view::npos
-                          : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
 bool HasNothing(sqlite3_value** arguments, int count) {

@@ -1,27 +1,41 @@
 #include "tests/contract/database/sqlite_database.h"
 
+#include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
+#include <random>
 
 #include <gtest/gtest.h>
+
+#ifndef _WIN32
 #include <pwd.h>
-#include <stdlib.h>
 #include <unistd.h>
+#endif
 
 #include "ferrowind/adapters/sql_script/procedure_source.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
+#include "ferrowind/platform/values/file_path.h"
 
 namespace ferrowind::contract {
 
-TemporaryFolder::TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "ferrowind-XXXXXX") {
-  if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder " + path_);
+TemporaryFolder::TemporaryFolder() {
+  std::random_device random;
+  std::filesystem::path path;
+  do {
+    path = std::filesystem::temp_directory_path() / ("ferrowind-" + std::to_string(random()));
+  } while (!std::filesystem::create_directory(path));
+  std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+  path_ = platform::FileName(path);
 }
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+  std::filesystem::remove_all(platform::FilePath(path_), ignored);
+}
+
+std::string TemporaryFolder::File(const std::string& name) const {
+  return platform::FileName(platform::FilePath(path_) / platform::FilePath(name));
 }
 
 SqliteDatabase::SqliteDatabase() { sqlite::CreateDatabase(Path()); }
@@ -44,7 +58,13 @@ bool SqliteDatabase::IsSound() {
   return problems.empty();
 }
 
-std::string SqliteDatabase::UserName() { return getpwuid(getuid())->pw_name; }
+std::string SqliteDatabase::UserName() {
+#ifdef _WIN32
+  return std::getenv("USERNAME");
+#else
+  return getpwuid(getuid())->pw_name;
+#endif
+}
 
 void SqliteDatabase::Execute(const std::string& sql) { sqlite::DatabaseHandle(Path()).Execute(sql.c_str()); }
 

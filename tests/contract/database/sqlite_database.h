@@ -19,6 +19,8 @@ class TemporaryFolder {
   ~TemporaryFolder();
 
   [[nodiscard]] const std::string& Path() const { return path_; }
+  /// The path of a file in it, as the system writes it.
+  [[nodiscard]] std::string File(const std::string& name) const;
 
  private:
   std::string path_;
@@ -36,7 +38,7 @@ class SqliteDatabase : public DatabaseWithHistoryUnderTest {
   [[nodiscard]] bool IsSound() override;
   [[nodiscard]] std::string UserName() override;
 
-  [[nodiscard]] std::string Path() const { return folder_.Path() + "/calendars.db"; }
+  [[nodiscard]] std::string Path() const { return folder_.File("calendars.db"); }
   /// Runs SQL as a program does that opens the file by itself.
   void Execute(const std::string& sql);
   /// Adds a procedure from its source, which makes the database no less sound.

@@ -200,21 +200,21 @@ TEST_F(SqliteFilesBeside, AFileThatAnotherToolTookOffTheLogGetsItBackWithTheNext
 
 class FilesBesideOwners : public ::testing::Test {
  protected:
-  static struct stat Status(uid_t owner, gid_t group, mode_t mode) {
-    struct stat status {};
-    status.st_uid = owner;
-    status.st_gid = group;
-    status.st_mode = mode;
-    return status;
+  static sqlite::FileStatus Status(uid_t owner, gid_t group, mode_t mode) {
+    return {.owner = owner,
+            .group = group,
+            .group_may_write = (mode & S_IWGRP) != 0,
+            .others_may_write = (mode & S_IWOTH) != 0,
+            .gives_group = (mode & S_ISGID) != 0};
   }
 
   static constexpr uid_t kOwner = 61001;
   static constexpr uid_t kOther = 61002;
   static constexpr gid_t kGroup = 62001;
   static constexpr gid_t kOtherGroup = 62002;
-  const struct stat owners_only_ = Status(kOwner, kGroup, 0600);
-  const struct stat groups_ = Status(kOwner, kGroup, 0660);
-  const struct stat folder_ = Status(kOwner, kGroup, 02770);
+  const sqlite::FileStatus owners_only_ = Status(kOwner, kGroup, 0600);
+  const sqlite::FileStatus groups_ = Status(kOwner, kGroup, 0660);
+  const sqlite::FileStatus folder_ = Status(kOwner, kGroup, 02770);
 };
 
 TEST_F(FilesBesideOwners, TheDatabasesOwnerTheUserAndTheSuperuserAreTrusted) {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include <windows.h>
 #include <aclapi.h>
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/platform/values/failure.h"

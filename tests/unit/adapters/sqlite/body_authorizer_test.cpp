@@ -35,7 +35,7 @@ class BodyAuthorizerTest : public ::testing::Test {
 
 TEST_F(BodyAuthorizerTest, RefusesInABodyWhatReachesBeyondItsTables) {
   const std::string other_file = database_.Path() + ".other";
-  const std::string folder = std::filesystem::path(database_.Path()).parent_path();
+  const std::string folder = std::filesystem::path(database_.Path()).parent_path().string();
   for (const std::string& statement :
        {"ATTACH '" + other_file + "' AS other",
         std::string("DETACH main"),

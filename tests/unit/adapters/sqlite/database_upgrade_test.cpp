@@ -61,7 +61,7 @@ class OldDatabase : public contract::DatabaseUnderTest {
 
   [[nodiscard]] platform::Engine& Engine() override { return engine_; }
   [[nodiscard]] std::string ConnectionString() override { return "sqlite:" + Path(); }
-  [[nodiscard]] std::string Path() const { return folder_.Path() + "/old.db"; }
+  [[nodiscard]] std::string Path() const { return folder_.File("old.db"); }
   void Execute(const std::string& sql) { DatabaseHandle(Path()).Execute(sql.c_str()); }
 
  private:
@@ -299,7 +299,7 @@ TEST(DatabaseUpgrade, OfTwoUpgradesAtTheSameTimeOneDoesTheWork) {
 
 TEST(DatabaseUpgrade, WhatIsNoCalendarDatabaseIsRefused) {
   const contract::TemporaryFolder folder;
-  const std::string path = folder.Path() + "/other.db";
+  const std::string path = folder.File("other.db");
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(path); }), HasSubstr("there is no such file"));
   std::ofstream(path).close();
   DatabaseHandle(path).Execute("CREATE TABLE Orders (N)");

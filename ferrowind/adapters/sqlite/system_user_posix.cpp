@@ -1,9 +1,10 @@
-#include "ferrowind/adapters/sqlite/system_user.h"
-
 #include <vector>
 
 #include <pwd.h>
 #include <unistd.h>
+
+#include "ferrowind/adapters/sqlite/posix_user.h"
+#include "ferrowind/adapters/sqlite/system_user.h"
 
 namespace ferrowind::sqlite {
 
