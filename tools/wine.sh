@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs a Windows program by Wine, in a prefix that is made when it is not there.
+# Runs a Windows program by Wine, in a prefix that is made when it is not there; shows its output when it has ended.
 # usage: tools/wine.sh PREFIX PROGRAM [ARGUMENT...]
 set -euo pipefail
 
@@ -28,4 +28,12 @@ if [ ! -e "$WINEPREFIX/made" ]; then
   fi
   exec {lock}>&-
 fi
-exec wine "$@"
+
+# What Wine starts beside the program lives on and holds on to where the program's output goes. A pipe that somebody
+# reads to its end would not end with the program, so this is a file.
+output=$(mktemp)
+trap 'rm -f -- "$output"' EXIT
+status=0
+wine "$@" >"$output" 2>&1 || status=$?
+cat -- "$output"
+exit "$status"

@@ -46,6 +46,13 @@ class PrivateFileTest : public testing::TraceFileTest {
     LocalFree(descriptor);
     return rights;
   }
+  /// Gives everybody all rights to the file.
+  void AddEverybody() const {
+    SECURITY_DESCRIPTOR rights{};
+    ASSERT_NE(InitializeSecurityDescriptor(&rights, SECURITY_DESCRIPTOR_REVISION), 0);
+    ASSERT_NE(SetSecurityDescriptorDacl(&rights, TRUE, nullptr, FALSE), 0);
+    ASSERT_NE(SetFileSecurityW(std::filesystem::path(path_).c_str(), DACL_SECURITY_INFORMATION, &rights), 0);
+  }
   [[nodiscard]] std::string Refusal() const {
     try {
       TraceFile(path_).Write("traced");
@@ -64,6 +71,7 @@ TEST_F(PrivateFileTest, IsReadableByItsOwnerOnly) {
 
 TEST_F(PrivateFileTest, IsReadableByItsOwnerOnlyWhereThereWasOneForAll) {
   std::ofstream(path_, std::ios::binary) << "older\n";
+  AddEverybody();
   EXPECT_GT(RightsOf().of_others, 0);
   TraceFile(path_).Write("newer");
   EXPECT_EQ(RightsOf().of_others, 0);
