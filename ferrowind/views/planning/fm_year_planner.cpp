@@ -279,7 +279,9 @@ void fmYearPlanner::ExceptDaysWithReason() {
   // A copy: other windows may have this one read its calendars anew while the operator thinks of the reason.
   const YearOverview seen = *overview_;
   const auto days = DaysToExcept(seen, SelectedDaysOf(seen, view_.Selected()));
-  Tell(WithCalls(seen, days, [&] { return ExceptSelectedDays(platform_.toolkit, seen, days); }));
+  if (days.empty()) return;
+  const auto reason = AskForReason(platform_.toolkit);
+  if (reason) Tell(WithCalls(seen, days, [&] { return ExceptDaysWith(*reason, seen, days); }));
 }
 
 void fmYearPlanner::CloseDays() {

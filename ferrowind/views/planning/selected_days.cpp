@@ -93,13 +93,11 @@ std::string SelectionInWords(const YearOverview& overview, const std::vector<Sel
                  "%n days selected, %1 of them closed", {std::to_string(closed)});
 }
 
-DaysOutcome ExceptSelectedDays(platform::Toolkit& toolkit, const YearOverview& overview,
-                               const std::vector<SelectedDays>& days) {
-  if (days.empty()) return {};
+std::optional<std::string> AskForReason(platform::Toolkit& toolkit) {
   fmExceptMess dialog(toolkit);
   dialog.ShowModal();
-  if (dialog.Result() != 0) return {};
-  return ExceptDaysWith(dialog.Message(), overview, days);
+  if (dialog.Result() != 0) return std::nullopt;
+  return dialog.Message();
 }
 
 DaysOutcome ExceptDaysWith(const std::string& reason, const YearOverview& overview,

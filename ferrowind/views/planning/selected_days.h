@@ -42,11 +42,8 @@ struct DaysOutcome {
 /// Makes the days working days by exception with that reason, which may be empty, one call a calendar.
 [[nodiscard]] DaysOutcome ExceptDaysWith(const std::string& reason, const planning::YearOverview& overview,
                                          const std::vector<SelectedDays>& days);
-/// The same with a reason that it asks the operator for. Nothing is asked without days, and nothing done when
-/// the operator cancels.
-[[nodiscard]] DaysOutcome ExceptSelectedDays(platform::Toolkit& toolkit,
-                                             const planning::YearOverview& overview,
-                                             const std::vector<SelectedDays>& days);
+/// Asks the operator for the reason of exceptions, which may be empty; nothing when the operator cancels.
+[[nodiscard]] std::optional<std::string> AskForReason(platform::Toolkit& toolkit);
 
 /// Asks the operator what the holiday is called, shows what will happen, and closes those of the days that
 /// are open, one call a calendar. Nothing is done when the operator cancels.
@@ -54,7 +51,8 @@ struct DaysOutcome {
                                             const planning::YearOverview& overview,
                                             const std::vector<SelectedDays>& days);
 
-/// What `act` does with those days, and what undoes it.
+/// What `act` does with those days, and what undoes it. `act` asks the operator nothing: what the user
+/// changes in other programs meanwhile would be undone, too.
 [[nodiscard]] DaysOutcome WithCalls(const planning::YearOverview& overview,
                                     const std::vector<SelectedDays>& days,
                                     const std::function<DaysOutcome()>& act);

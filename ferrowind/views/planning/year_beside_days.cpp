@@ -235,9 +235,12 @@ void YearBesideDays::ExceptDays() {
   if (!calendar) return;
   ReadCalendar();
   const planning::YearOverview seen = *overview_;
-  const auto chosen = SelectedDaysOf(seen, ChosenCells(std::to_string(calendar->currency_id)));
-  const DaysOutcome excepted =
-      ExceptSelectedDays(context_.platform.toolkit, seen, DaysToExcept(seen, chosen));
+  const auto days =
+      DaysToExcept(seen, SelectedDaysOf(seen, ChosenCells(std::to_string(calendar->currency_id))));
+  if (days.empty()) return;
+  const auto reason = AskForReason(context_.platform.toolkit);
+  if (!reason) return;
+  const DaysOutcome excepted = ExceptDaysWith(*reason, seen, days);
   if (excepted.changed) context_.windows.TellChanged(*excepted.changed);
   if (excepted.problems.empty()) return;
   scene_.Refresh();

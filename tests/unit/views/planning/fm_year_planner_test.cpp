@@ -385,6 +385,26 @@ TEST(YearPlannerWindow, UndoesTheRestWhereSomebodyElseHasChangedTheDaySince) {
   });
 }
 
+TEST(YearPlannerWindow, UndoesNothingThatTheUserHasChangedElsewhereWhileTheReasonWasAskedFor) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    world.Open();
+    world.View().ClickDay({kEuroKey, 105});
+    world.world.toolkit.ScriptModal("fmExceptMess", [](headless::HeadlessForm& dialog) {
+      PlannerWorld::GiveBook(kEuro, "EUR", "");
+      dialog.Part<headless::HeadlessTextBox>("txtMessage").TypeText("ready early");
+      dialog.Part<headless::HeadlessButton>("cmdExcept").Click();
+    });
+    world.Tools().ClickTool("ID_ExceptDays");
+    ASSERT_THAT(PlannerWorld::ExceptionsOf("EUR", kEuro), ElementsAre("2028-04-14"));
+    world.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(PlannerWorld::ExceptionsOf("EUR", kEuro), IsEmpty());
+    EXPECT_EQ(world.Status(), "1 change is undone");
+    const auto stored = planning::LoadBook(kEuro, "EUR", {});
+    EXPECT_TRUE(stored && stored->book) << "entered by another program of the same user";
+  });
+}
+
 TEST(YearPlannerWindow, UndoesNothingBeforeAnythingWasChangedHere) {
   RunInFreshThread([] {
     PlannerWorld world;
