@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -28,6 +29,50 @@ ListedKind KindOf(const MarkedDay& day) {
   return day.kind == RuleKind::kWeekday ? ListedKind::kWeekend : ListedKind::kHoliday;
 }
 
+/// `there` is ordered.
+void RequireAll(const std::vector<Currency>& currencies, const exchange::WantedYears& years,
+                const std::vector<CalendarKey>& there) {
+  for (const Currency& currency : currencies) {
+    for (int year = years.first; year <= years.last; ++year) {
+      if (std::binary_search(there.begin(), there.end(), CalendarKey(currency.id, year))) continue;
+      Refuse(InWords("There is no calendar %1 %2, so nothing is known of its days",
+                     {currency.code, std::to_string(year)}));
+    }
+  }
+}
+
+using ContentByCalendar = std::map<CalendarKey, almanac::CalendarContent>;
+
+/// Of those that have marked days. Many years at once, since a call for each calendar would wait as often for
+/// a server that is far away; and not all, since an answer is in memory as a whole.
+ContentByCalendar LoadContents(const std::vector<Currency>& currencies, const exchange::WantedYears& years) {
+  constexpr int kYearsAtOnce = 10;
+  ContentByCalendar contents;
+  for (int first = years.first; first <= years.last; first += kYearsAtOnce) {
+    for (auto& [key, content] : LoadMarkedDays(first, std::min(first + kYearsAtOnce - 1, years.last))) {
+      const bool is_wanted =
+          std::any_of(currencies.begin(), currencies.end(),
+                      [id = key.first](const Currency& currency) { return currency.id == id; });
+      if (is_wanted) contents.emplace(key, std::move(content));
+    }
+  }
+  return contents;
+}
+
+void AppendDays(exchange::DayList& list, const Currency& currency, const almanac::CalendarContent& content,
+                const almanac::RuleDirectory& rules, bool with_all) {
+  const platform::Date new_year(content.year, 1, 1);
+  for (const MarkedDay& day : content.days) {
+    const ListedKind kind = KindOf(day);
+    if (kind != ListedKind::kHoliday && !with_all) continue;
+    const almanac::KnownRule* const rule = rules.Find(day.rule);
+    std::string name = rule != nullptr ? rule->name : "Rule " + std::to_string(day.rule);
+    // The reason of an exception is its name.
+    if (kind == ListedKind::kWorkingDay && !day.comment.empty()) name = day.comment;
+    list.days.push_back({new_year.AddDays(day.day_of_year - 1), std::move(name), kind, currency.code});
+  }
+}
+
 }  // namespace
 
 ListedYear PrepareListed(const YearPlanner& planner, const Currency& currency, const exchange::YearList& list,
@@ -47,36 +92,18 @@ ListedYear PrepareListed(const YearPlanner& planner, const Currency& currency, c
           listed.other_names, std::move(listed.remarks)};
 }
 
-exchange::DayList ListCalendar(const Currency& currency, int year, const almanac::RuleDirectory& rules,
-                               bool with_all) {
-  const auto content = LoadDays(currency, year);
-  if (!content) {
-    Refuse(InWords("There is no calendar %1 %2, so nothing is known of its days",
-                   {currency.code, std::to_string(year)}));
-  }
-  const platform::Date new_year(year, 1, 1);
-  exchange::DayList list;
-  for (const MarkedDay& day : content->days) {
-    const ListedKind kind = KindOf(day);
-    if (kind != ListedKind::kHoliday && !with_all) continue;
-    const almanac::KnownRule* const rule = rules.Find(day.rule);
-    std::string name = rule != nullptr ? rule->name : "Rule " + std::to_string(day.rule);
-    // The reason of an exception is its name.
-    if (kind == ListedKind::kWorkingDay && !day.comment.empty()) name = day.comment;
-    list.days.push_back({new_year.AddDays(day.day_of_year - 1), std::move(name), kind, currency.code});
-  }
-  return list;
-}
-
 exchange::DayList ListCalendars(const std::vector<Currency>& currencies, const exchange::WantedYears& years,
                                 bool with_all) {
-  const almanac::RuleDirectory rules(LoadRules().rules);
+  const StoredRules stored = LoadRules();
+  RequireAll(currencies, years, stored.calendars);
+  const almanac::RuleDirectory rules(stored.rules);
+  const ContentByCalendar contents = LoadContents(currencies, years);
   exchange::DayList list;
   for (const Currency& currency : currencies) {
     for (int year = years.first; year <= years.last; ++year) {
-      exchange::DayList days = ListCalendar(currency, year, rules, with_all);
-      list.days.insert(list.days.end(), std::make_move_iterator(days.days.begin()),
-                       std::make_move_iterator(days.days.end()));
+      const auto content = contents.find({currency.id, year});
+      // Of a calendar without a marked day there is none.
+      if (content != contents.end()) AppendDays(list, currency, content->second, rules, with_all);
     }
   }
   return list;

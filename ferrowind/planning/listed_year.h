@@ -32,12 +32,9 @@ struct ListedYear {
                                        const exchange::YearList& list, const std::string& source,
                                        bool takes_names);
 
-/// The closed days of a calendar but those of weekends, or `with_all` its weekends and its working days by
-/// exception, too. One that does not exist is a `platform::Failure`: no day of it is known to be open.
-[[nodiscard]] exchange::DayList ListCalendar(const Currency& currency, int year,
-                                             const almanac::RuleDirectory& rules, bool with_all);
-
-/// The same of several calendars, by currencies and then by years.
+/// The closed days of calendars but those of weekends, or `with_all` their weekends and their working days by
+/// exception, too; by currencies and then by years. One that does not exist is a `platform::Failure`: no day
+/// of it is known to be open.
 [[nodiscard]] exchange::DayList ListCalendars(const std::vector<Currency>& currencies,
                                               const exchange::WantedYears& years, bool with_all);
 
