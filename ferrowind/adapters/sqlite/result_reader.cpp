@@ -100,11 +100,16 @@ Value ResultReader::Cell(int column) const {
 }
 
 void ResultReader::AppendCell(int column, std::vector<Value>& cells) const {
-  const bool is_as_stored = columns_[static_cast<std::size_t>(column)] == ColumnKind::kAsStored;
-  if (is_as_stored && sqlite3_column_type(statement_.Get(), column) == SQLITE_INTEGER) {
-    const std::int64_t number = statement_.Integer(column);
-    if (Fits<std::int32_t>(number)) {
-      cells.emplace_back(static_cast<std::int32_t>(number));
+  if (columns_[static_cast<std::size_t>(column)] == ColumnKind::kAsStored) {
+    // Looked up once for its type and its number: most cells are small numbers or empty.
+    sqlite3_value* const stored = sqlite3_column_value(statement_.Get(), column);
+    const int type = sqlite3_value_type(stored);
+    if (type == SQLITE_NULL) {
+      cells.emplace_back();
+      return;
+    }
+    if (type == SQLITE_INTEGER && Fits<std::int32_t>(sqlite3_value_int64(stored))) {
+      cells.emplace_back(static_cast<std::int32_t>(sqlite3_value_int64(stored)));
       return;
     }
   }

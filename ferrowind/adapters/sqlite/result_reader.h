@@ -28,7 +28,8 @@ class ResultReader {
   [[nodiscard]] std::string_view Name(int column) const;
   /// A cell of the row that the statement stands on.
   [[nodiscard]] platform::Value Cell(int column) const;
-  /// The same behind `cells`. Quicker for what most cells are, numbers of 32 bits, which are made in place.
+  /// The same behind `cells`. Quicker for what most cells are, numbers of 32 bits and empty ones, which are
+  /// made in place.
   void AppendCell(int column, std::vector<platform::Value>& cells) const;
 
  private:
