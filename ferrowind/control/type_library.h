@@ -28,8 +28,8 @@ struct Class {
   const char* events_name;
   const char* events_id;
   ///@}
-  /// Whether the class is marked as a control. No class carries a creation flag: hosts obtain the maps from
-  /// the control.
+  /// Whether the class is marked as a control, which hosts create. The others carry no flag: hosts obtain the
+  /// maps from the control.
   bool is_control;
 };
 

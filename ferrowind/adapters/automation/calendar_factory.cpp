@@ -1,0 +1,42 @@
+#include "ferrowind/adapters/automation/calendar_factory.h"
+
+#include <memory>
+
+#include <wrl/client.h>
+
+#include "ferrowind/adapters/automation/calendar_object.h"
+#include "ferrowind/adapters/automation/call_guard.h"
+#include "ferrowind/adapters/automation/native_failure.h"
+
+namespace ferrowind::automation {
+namespace {
+
+const platform::Platform& PlatformOfThread(MakeSurroundings make) {
+  static thread_local std::unique_ptr<Surroundings> surroundings;
+  if (!surroundings) surroundings = make();
+  return surroundings->Get();
+}
+
+}  // namespace
+
+HRESULT CalendarFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) {
+  if (object == nullptr) return E_POINTER;
+  *object = nullptr;
+  if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+  return Guarded(this, __uuidof(IClassFactory), [&] {
+    Microsoft::WRL::ComPtr<CalendarObject> made;
+    made.Attach(new CalendarObject(PlatformOfThread(make_surroundings_)));
+    RequireSuccess(made->QueryInterface(iid, object));
+  });
+}
+
+HRESULT CalendarFactory::LockServer(BOOL lock) {
+  if (lock) {
+    Module::Get().Hold();
+  } else {
+    Module::Get().LetGo();
+  }
+  return S_OK;
+}
+
+}  // namespace ferrowind::automation

@@ -1,0 +1,69 @@
+#include "ferrowind/adapters/automation/calendar_object.h"
+
+#include <memory>
+#include <new>
+#include <span>
+#include <utility>
+
+#include "ferrowind/adapters/automation/native_failure.h"
+#include "ferrowind/adapters/automation/owned_variant.h"
+#include "ferrowind/adapters/automation/variant_value.h"
+
+namespace ferrowind::automation {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+
+void GiveMap(std::shared_ptr<GridFields> map, ComPtr<GridFieldsObject>& object, _GridFields** to) {
+  if (!object) object.Attach(new GridFieldsObject(std::move(map)));
+  RequireSuccess(object.CopyTo(to));
+}
+
+OwnedVariant ArrayOf(std::span<const platform::Value> values) {
+  OwnedVariant result;
+  V_ARRAY(result.Address()) = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(values.size()));
+  if (V_ARRAY(result.Address()) == nullptr) throw std::bad_alloc();
+  V_VT(result.Address()) = VT_ARRAY | VT_VARIANT;
+  LONG position = 0;
+  for (const auto& value : values) {
+    OwnedVariant element = VariantOf(value);
+    RequireSuccess(SafeArrayPutElement(V_ARRAY(result.Address()), &position, element.Address()));
+    ++position;
+  }
+  return result;
+}
+
+}  // namespace
+
+CalendarObject::CalendarObject(const platform::Platform& platform)
+    : EventSource({__uuidof(::Calendar), __uuidof(_Calendar), __uuidof(__Calendar)}), calendar_(platform) {}
+
+HRESULT CalendarObject::ForceClosing(VARIANT_BOOL* closed) {
+  if (closed == nullptr) return E_POINTER;
+  *closed = VARIANT_FALSE;
+  return Guard([&] { *closed = calendar_.ForceClosing() ? VARIANT_TRUE : VARIANT_FALSE; });
+}
+
+HRESULT CalendarObject::Show() {
+  return Guard([&] { calendar_.Show(); });
+}
+
+HRESULT CalendarObject::get_Headers(_GridFields** map) {
+  if (map == nullptr) return E_POINTER;
+  *map = nullptr;
+  return Guard([&] { GiveMap(calendar_.Headers(), headers_, map); });
+}
+
+HRESULT CalendarObject::get_HolidayHeaders(_GridFields** map) {
+  if (map == nullptr) return E_POINTER;
+  *map = nullptr;
+  return Guard([&] { GiveMap(calendar_.HolidayHeaders(), holiday_headers_, map); });
+}
+
+HRESULT CalendarObject::get_Version(VARIANT* parts) {
+  if (parts == nullptr) return E_POINTER;
+  VariantInit(parts);
+  return Guard([&] { *parts = ArrayOf(Calendar::Version()).Release(); });
+}
+
+}  // namespace ferrowind::automation

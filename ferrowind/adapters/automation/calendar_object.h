@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include <wrl/client.h>
+
+#include "ferrowind/adapters/automation/event_source.h"
+#include "ferrowind/adapters/automation/grid_fields_object.h"
+#include "ferrowind/adapters/automation/surroundings.h"
+#include "ferrowind/control/calendar.h"
+
+#include "generated/ferrowind.h"
+
+namespace ferrowind::automation {
+
+/// The control, as hosts see it.
+class CalendarObject : public EventSource<_Calendar> {
+ public:
+  /// `platform` must outlive the object.
+  explicit CalendarObject(const platform::Platform& platform);
+
+  HRESULT STDMETHODCALLTYPE ForceClosing(VARIANT_BOOL* closed) override;
+  HRESULT STDMETHODCALLTYPE Show() override;
+  HRESULT STDMETHODCALLTYPE get_Headers(_GridFields** map) override;
+  HRESULT STDMETHODCALLTYPE get_HolidayHeaders(_GridFields** map) override;
+  HRESULT STDMETHODCALLTYPE get_Version(VARIANT* parts) override;
+
+ private:
+  using MapObject = Microsoft::WRL::ComPtr<GridFieldsObject>;
+
+  Calendar calendar_;
+  ///@{
+  /// Made when a host first asks for the map, and then always the same.
+  MapObject headers_;
+  MapObject holiday_headers_;
+  ///@}
+};
+
+}  // namespace ferrowind::automation

@@ -1,0 +1,119 @@
+#include "ferrowind/adapters/automation/call_arguments.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ferrowind/adapters/automation/variant_value.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::automation {
+namespace {
+
+/// A function of a type library; null where it has no such one.
+class DescribedFunction {
+ public:
+  DescribedFunction(ITypeInfo& info, DISPID member, WORD kind) : info_(info) {
+    FUNCDESC* candidate = nullptr;
+    for (UINT i = 0; function_ == nullptr && SUCCEEDED(info_.GetFuncDesc(i, &candidate)); ++i) {
+      if (candidate->memid == member && (candidate->invkind & kind) != 0) {
+        function_ = candidate;
+      } else {
+        info_.ReleaseFuncDesc(candidate);
+      }
+    }
+  }
+  ~DescribedFunction() {
+    if (function_ != nullptr) info_.ReleaseFuncDesc(function_);
+  }
+  DescribedFunction(const DescribedFunction&) = delete;
+  DescribedFunction& operator=(const DescribedFunction&) = delete;
+
+  [[nodiscard]] const FUNCDESC* Get() const { return function_; }
+
+ private:
+  ITypeInfo& info_;
+  FUNCDESC* function_ = nullptr;
+};
+
+std::size_t CountOfParameters(const FUNCDESC& function) {
+  const auto* first = function.lprgelemdescParam;
+  return static_cast<std::size_t>(std::count_if(
+      first, first + function.cParams,
+      [](const ELEMDESC& parameter) { return (parameter.paramdesc.wParamFlags & PARAMFLAG_FRETVAL) == 0; }));
+}
+
+bool IsLeftOut(const VARIANT& variant) {
+  return V_VT(&variant) == VT_ERROR && V_ERROR(&variant) == DISP_E_PARAMNOTFOUND;
+}
+
+}  // namespace
+
+CallArguments::CallArguments(ITypeInfo& described, DISPID member, WORD kind, const DISPPARAMS& given)
+    : is_put_((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) {
+  const DescribedFunction function(described, member, kind);
+  if (function.Get() == nullptr) {
+    outcome_ = DISP_E_MEMBERNOTFOUND;
+    return;
+  }
+  arguments_.resize(CountOfParameters(*function.Get()));
+  if (given.cArgs > arguments_.size()) {
+    outcome_ = DISP_E_BADPARAMCOUNT;
+    return;
+  }
+  Read(given);
+  if (SUCCEEDED(outcome_)) FillIn(*function.Get());
+}
+
+void CallArguments::Read(const DISPPARAMS& given) {
+  const bool names_are_places = !is_put_;
+  const UINT named = names_are_places ? given.cNamedArgs : 0;
+  for (UINT i = 0; i < given.cArgs; ++i) {
+    const bool is_named = i < named;
+    const std::size_t place =
+        is_named ? static_cast<std::size_t>(given.rgdispidNamedArgs[i]) : given.cArgs - 1 - i;
+    if (!Take(given, i, place)) return;
+  }
+}
+
+bool CallArguments::Take(const DISPPARAMS& given, UINT given_place, std::size_t place) {
+  wrong_place_ = given_place;
+  if (place >= arguments_.size() || arguments_[place]) {
+    outcome_ = DISP_E_PARAMNOTFOUND;
+    return false;
+  }
+  try {
+    OwnedVariant value = WithoutReferences(given.rgvarg[given_place]);
+    if (!IsLeftOut(value.Get())) arguments_[place] = Argument{std::move(value), given_place};
+    return true;
+  } catch (const platform::Failure&) {
+    outcome_ = DISP_E_TYPEMISMATCH;
+    return false;
+  }
+}
+
+void CallArguments::FillIn(const FUNCDESC& function) {
+  for (std::size_t i = 0; i < arguments_.size(); ++i) {
+    const PARAMDESC& parameter = function.lprgelemdescParam[i].paramdesc;
+    if (arguments_[i] || (parameter.wParamFlags & PARAMFLAG_FHASDEFAULT) == 0) continue;
+    arguments_[i] = Argument{WithoutReferences(parameter.pparamdescex->varDefaultValue), 0};
+  }
+  const auto is_missing = [](const auto& argument) { return !argument.has_value(); };
+  if (std::any_of(arguments_.begin(), arguments_.end(), is_missing)) outcome_ = DISP_E_BADPARAMCOUNT;
+}
+
+DISPPARAMS CallArguments::Get() {
+  passed_.clear();
+  for (auto argument = arguments_.rbegin(); argument != arguments_.rend(); ++argument) {
+    passed_.push_back((*argument)->value.Get());
+  }
+  const auto count = static_cast<UINT>(passed_.size());
+  return {passed_.data(), is_put_ ? &put_name_ : nullptr, count, is_put_ ? 1U : 0U};
+}
+
+UINT CallArguments::GivenPlace(UINT place) const {
+  if (place >= arguments_.size()) return 0;
+  const auto& argument = arguments_[arguments_.size() - 1 - place];
+  return argument ? argument->given_place : 0;
+}
+
+}  // namespace ferrowind::automation
