@@ -4,6 +4,23 @@
 
 #include "ferrowind/platform/values/failure.h"
 
+#if defined(__MINGW32__) && !defined(__clang__)
+extern "C" int __cxa_thread_atexit(void (*end)(void*), void* object, void* file);
+
+namespace {
+
+// GCC has no thread-local storage there but its own, which one handler of a thread's end frees, while another
+// handler ends the objects in it; handlers run in the order in which they are first asked for. So the
+// objects' is asked for before any thread-local object is used.
+[[gnu::init_priority(101)]] const struct ObjectsEndBeforeTheirStorage {
+  ObjectsEndBeforeTheirStorage() {
+    __cxa_thread_atexit([](void*) {}, nullptr, nullptr);
+  }
+} objects_end_before_their_storage;
+
+}  // namespace
+#endif
+
 namespace ferrowind {
 namespace {
 
