@@ -5,10 +5,10 @@
 
 #include <olectl.h>
 #include <windows.h>
-#include <wrl/client.h>
 
 #include "ferrowind/adapters/automation/calendar_factory.h"
 #include "ferrowind/adapters/automation/call_guard.h"
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/module.h"
 #include "ferrowind/adapters/automation/native_failure.h"
 #include "ferrowind/adapters/automation/registration.h"
@@ -32,7 +32,7 @@ STDAPI DllGetClassObject(REFCLSID class_id, REFIID iid, void** object) {
   *object = nullptr;
   if (!IsEqualCLSID(class_id, __uuidof(::Calendar))) return CLASS_E_CLASSNOTAVAILABLE;
   return Tried([&] {
-    Microsoft::WRL::ComPtr<CalendarFactory> factory;
+    ferrowind::automation::ComPointer<CalendarFactory> factory;
     factory.Attach(new CalendarFactory(&ferrowind::host::MakeComponentSurroundings));
     ferrowind::automation::RequireSuccess(factory->QueryInterface(iid, object));
   });

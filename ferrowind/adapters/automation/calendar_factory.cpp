@@ -2,10 +2,9 @@
 
 #include <memory>
 
-#include <wrl/client.h>
-
 #include "ferrowind/adapters/automation/calendar_object.h"
 #include "ferrowind/adapters/automation/call_guard.h"
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/native_failure.h"
 
 namespace ferrowind::automation {
@@ -24,7 +23,7 @@ HRESULT CalendarFactory::CreateInstance(IUnknown* outer, REFIID iid, void** obje
   *object = nullptr;
   if (outer != nullptr) return CLASS_E_NOAGGREGATION;
   return Guarded(this, __uuidof(IClassFactory), [&] {
-    Microsoft::WRL::ComPtr<CalendarObject> made;
+    ComPointer<CalendarObject> made;
     made.Attach(new CalendarObject(PlatformOfThread(make_surroundings_)));
     RequireSuccess(made->QueryInterface(iid, object));
   });

@@ -12,9 +12,7 @@
 namespace ferrowind::automation {
 namespace {
 
-using Microsoft::WRL::ComPtr;
-
-void GiveMap(std::shared_ptr<GridFields> map, ComPtr<GridFieldsObject>& object, _GridFields** to) {
+void GiveMap(std::shared_ptr<GridFields> map, ComPointer<GridFieldsObject>& object, _GridFields** to) {
   if (!object) object.Attach(new GridFieldsObject(std::move(map)));
   RequireSuccess(object.CopyTo(to));
 }

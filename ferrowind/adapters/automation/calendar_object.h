@@ -2,8 +2,7 @@
 
 #include <memory>
 
-#include <wrl/client.h>
-
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/event_source.h"
 #include "ferrowind/adapters/automation/grid_fields_object.h"
 #include "ferrowind/adapters/automation/surroundings.h"
@@ -26,7 +25,7 @@ class CalendarObject : public EventSource<_Calendar> {
   HRESULT STDMETHODCALLTYPE get_Version(VARIANT* parts) override;
 
  private:
-  using MapObject = Microsoft::WRL::ComPtr<GridFieldsObject>;
+  using MapObject = ComPointer<GridFieldsObject>;
 
   Calendar calendar_;
   ///@{

@@ -1,7 +1,6 @@
 #include "ferrowind/adapters/automation/call_arguments.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "ferrowind/adapters/automation/variant_value.h"
 #include "ferrowind/platform/values/failure.h"
@@ -82,8 +81,7 @@ bool CallArguments::Take(const DISPPARAMS& given, UINT given_place, std::size_t 
     return false;
   }
   try {
-    OwnedVariant value = WithoutReferences(given.rgvarg[given_place]);
-    if (!IsLeftOut(value.Get())) arguments_[place] = Argument{std::move(value), given_place};
+    arguments_[place] = Argument{WithoutReferences(given.rgvarg[given_place]), given_place};
     return true;
   } catch (const platform::Failure&) {
     outcome_ = DISP_E_TYPEMISMATCH;
@@ -94,7 +92,8 @@ bool CallArguments::Take(const DISPPARAMS& given, UINT given_place, std::size_t 
 void CallArguments::FillIn(const FUNCDESC& function) {
   for (std::size_t i = 0; i < arguments_.size(); ++i) {
     const PARAMDESC& parameter = function.lprgelemdescParam[i].paramdesc;
-    if (arguments_[i] || (parameter.wParamFlags & PARAMFLAG_FHASDEFAULT) == 0) continue;
+    const bool is_given = arguments_[i] && !IsLeftOut(arguments_[i]->value.Get());
+    if (is_given || (parameter.wParamFlags & PARAMFLAG_FHASDEFAULT) == 0) continue;
     arguments_[i] = Argument{WithoutReferences(parameter.pparamdescex->varDefaultValue), 0};
   }
   const auto is_missing = [](const auto& argument) { return !argument.has_value(); };

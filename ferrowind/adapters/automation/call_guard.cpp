@@ -14,8 +14,6 @@
 namespace ferrowind::automation {
 namespace {
 
-using Microsoft::WRL::ComPtr;
-
 HRESULT ResultOf(std::int32_t number) {
   constexpr std::int32_t kLastOfPlatform = 0xFFFF;
   if (number < 0) return number;
@@ -25,9 +23,9 @@ HRESULT ResultOf(std::int32_t number) {
 
 void TellDescription(REFIID interface_id, const std::string& description) {
   const OwnedBstr text(description);
-  ComPtr<ICreateErrorInfo> created;
-  ComPtr<IErrorInfo> information;
-  if (FAILED(CreateErrorInfo(&created)) || FAILED(created.As(&information))) return;
+  ComPointer<ICreateErrorInfo> created;
+  ComPointer<IErrorInfo> information;
+  if (FAILED(CreateErrorInfo(created.Receive())) || FAILED(created.As(information))) return;
   created->SetGUID(interface_id);
   created->SetDescription(text.Get());
   SetErrorInfo(0, information.Get());

@@ -3,7 +3,8 @@
 #include <utility>
 
 #include <unknwn.h>
-#include <wrl/client.h>
+
+#include "ferrowind/adapters/automation/com_pointer.h"
 
 namespace ferrowind::automation {
 
@@ -16,7 +17,7 @@ namespace ferrowind::automation {
 /// meanwhile.
 template <typename Body>
 [[nodiscard]] HRESULT Guarded(IUnknown* object, REFIID interface_id, Body&& body) noexcept {
-  const Microsoft::WRL::ComPtr<IUnknown> kept(object);
+  const ComPointer<IUnknown> kept(object);
   try {
     std::forward<Body>(body)();
     return S_OK;

@@ -12,17 +12,15 @@
 namespace ferrowind::automation {
 namespace {
 
-using Microsoft::WRL::ComPtr;
-
 struct KeptConnection {
   DWORD cookie;
-  ComPtr<IDispatch> listener;
+  ComPointer<IDispatch> listener;
 
   HRESULT GiveTo(CONNECTDATA& connection) const {
     connection.dwCookie = cookie;
     connection.pUnk = nullptr;
-    ComPtr<IUnknown> identity;
-    const HRESULT outcome = listener.As(&identity);
+    ComPointer<IUnknown> identity;
+    const HRESULT outcome = listener.As(identity);
     connection.pUnk = identity.Detach();
     return outcome;
   }
@@ -32,8 +30,8 @@ using ConnectionEnumerator = SnapshotEnumerator<IEnumConnections, CONNECTDATA, K
 
 }  // namespace
 
-std::vector<ComPtr<IDispatch>> ConnectionPoint::Listeners() const {
-  std::vector<ComPtr<IDispatch>> listeners;
+std::vector<ComPointer<IDispatch>> ConnectionPoint::Listeners() const {
+  std::vector<ComPointer<IDispatch>> listeners;
   for (const auto& [cookie, listener] : listeners_) listeners.push_back(listener);
   return listeners;
 }
@@ -66,10 +64,10 @@ HRESULT ConnectionPoint::Advise(IUnknown* listener, DWORD* cookie) {
   if (listener == nullptr || cookie == nullptr) return E_POINTER;
   *cookie = 0;
   return Guarded(this, events_id_, [&] {
-    ComPtr<IDispatch> events;
+    ComPointer<IDispatch> events;
     // A listener in another apartment has a stand-in that knows the events by their own identifier only.
-    if (FAILED(listener->QueryInterface(events_id_, reinterpret_cast<void**>(events.GetAddressOf()))) &&
-        FAILED(listener->QueryInterface(IID_PPV_ARGS(&events)))) {
+    if (FAILED(listener->QueryInterface(events_id_, events.ReceiveAny())) &&
+        FAILED(listener->QueryInterface(__uuidof(*events.Get()), events.ReceiveAny()))) {
       throw NativeFailure(CONNECT_E_CANNOTCONNECT);
     }
     listeners_.emplace(last_cookie_ + 1, events);

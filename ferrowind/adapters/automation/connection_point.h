@@ -4,7 +4,8 @@
 #include <vector>
 
 #include <ocidl.h>
-#include <wrl/client.h>
+
+#include "ferrowind/adapters/automation/com_pointer.h"
 
 namespace ferrowind::automation {
 
@@ -24,7 +25,7 @@ class ConnectionPoint : public IConnectionPoint {
   virtual ~ConnectionPoint() = default;
 
   /// Who listens now, in the order in which they began to.
-  [[nodiscard]] std::vector<Microsoft::WRL::ComPtr<IDispatch>> Listeners() const;
+  [[nodiscard]] std::vector<ComPointer<IDispatch>> Listeners() const;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
   ULONG STDMETHODCALLTYPE AddRef() override { return owner_.AddRef(); }
@@ -40,7 +41,7 @@ class ConnectionPoint : public IConnectionPoint {
   IConnectionPointContainer& owner_;
   const GUID& events_id_;
   DWORD last_cookie_ = 0;
-  std::map<DWORD, Microsoft::WRL::ComPtr<IDispatch>> listeners_;
+  std::map<DWORD, ComPointer<IDispatch>> listeners_;
 };
 
 #pragma GCC diagnostic pop

@@ -4,10 +4,10 @@
 
 #include <oaidl.h>
 #include <ocidl.h>
-#include <wrl/client.h>
 
 #include "ferrowind/adapters/automation/call_guard.h"
 #include "ferrowind/adapters/automation/com_object.h"
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/described_class.h"
 #include "ferrowind/adapters/automation/dispatch_call.h"
 #include "ferrowind/adapters/automation/module.h"
@@ -72,7 +72,7 @@ class DispatchObject : public ComObject<Dual, ISupportErrorInfo, IProvideClassIn
 
  private:
   DescribedClass described_;
-  Microsoft::WRL::ComPtr<ITypeInfo> interface_info_;
+  ComPointer<ITypeInfo> interface_info_;
 };
 
 }  // namespace ferrowind::automation

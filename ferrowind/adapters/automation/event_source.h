@@ -6,8 +6,8 @@
 
 #include <ocidl.h>
 #include <olectl.h>
-#include <wrl/client.h>
 
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/connection_point.h"
 #include "ferrowind/adapters/automation/dispatch_object.h"
 #include "ferrowind/adapters/automation/snapshot_enumerator.h"
@@ -16,7 +16,7 @@ namespace ferrowind::automation {
 
 /// A connection point that an enumerator keeps.
 struct KeptConnectionPoint {
-  Microsoft::WRL::ComPtr<IConnectionPoint> point;
+  ComPointer<IConnectionPoint> point;
   HRESULT GiveTo(IConnectionPoint*& to) const { return point.CopyTo(&to); }
 };
 

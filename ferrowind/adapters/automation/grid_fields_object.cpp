@@ -14,10 +14,8 @@
 namespace ferrowind::automation {
 namespace {
 
-using Microsoft::WRL::ComPtr;
-
 struct KeptColumn {
-  ComPtr<IDispatch> object;
+  ComPointer<IDispatch> object;
 
   HRESULT GiveTo(VARIANT& to) const {
     V_VT(&to) = VT_DISPATCH;
@@ -100,14 +98,14 @@ HRESULT GridFieldsObject::get_Count(LONG* value) {
   return S_OK;
 }
 
-const ComPtr<GridFieldObject>& GridFieldsObject::ObjectOf(const std::shared_ptr<GridField>& field) {
-  ComPtr<GridFieldObject>& object = objects_[field.get()];
+const ComPointer<GridFieldObject>& GridFieldsObject::ObjectOf(const std::shared_ptr<GridField>& field) {
+  ComPointer<GridFieldObject>& object = objects_[field.get()];
   if (!object) object.Attach(new GridFieldObject(field));
   return object;
 }
 
 void GridFieldsObject::ForgetRemoved() {
-  std::vector<ComPtr<GridFieldObject>> removed;
+  std::vector<ComPointer<GridFieldObject>> removed;
   for (auto entry = objects_.begin(); entry != objects_.end();) {
     // An object without a column is one that could not be made.
     const bool is_held_by_map = entry->second && entry->second->Field().use_count() > 1;

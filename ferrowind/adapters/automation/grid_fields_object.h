@@ -3,8 +3,7 @@
 #include <map>
 #include <memory>
 
-#include <wrl/client.h>
-
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/dispatch_object.h"
 #include "ferrowind/adapters/automation/grid_field_object.h"
 #include "ferrowind/control/grid_fields.h"
@@ -36,14 +35,13 @@ class GridFieldsObject : public DispatchObject<_GridFields> {
   HRESULT STDMETHODCALLTYPE get_Count(LONG* value) override;
 
  private:
-  [[nodiscard]] const Microsoft::WRL::ComPtr<GridFieldObject>& ObjectOf(
-      const std::shared_ptr<GridField>& field);
+  [[nodiscard]] const ComPointer<GridFieldObject>& ObjectOf(const std::shared_ptr<GridField>& field);
   /// The objects of columns that are in neither list any more are left to the hosts that hold them.
   void ForgetRemoved();
   [[nodiscard]] VARIANT NewEnumerator();
 
   std::shared_ptr<GridFields> map_;
-  std::map<GridField*, Microsoft::WRL::ComPtr<GridFieldObject>> objects_;
+  std::map<GridField*, ComPointer<GridFieldObject>> objects_;
 };
 
 }  // namespace ferrowind::automation

@@ -7,8 +7,6 @@
 namespace ferrowind::automation {
 namespace {
 
-using Microsoft::WRL::ComPtr;
-
 // Its address is in the file that is asked for, whatever program or library that is.
 constexpr char kOfThisFile = 0;
 
@@ -25,7 +23,7 @@ void Module::Hold() {
 }
 
 void Module::LetGo() {
-  ComPtr<ITypeLib> dropped;
+  ComPointer<ITypeLib> dropped;
   const std::lock_guard lock(mutex_);
   if (--held_ == 0) dropped.Swap(library_);
 }
@@ -54,18 +52,18 @@ std::wstring Module::Path() {
   }
 }
 
-ComPtr<ITypeLib> Module::TypeLibrary() {
+ComPointer<ITypeLib> Module::TypeLibrary() {
   const std::lock_guard lock(mutex_);
   if (library_) return library_;
-  ComPtr<ITypeLib> loaded;
-  RequireSuccess(LoadTypeLibEx(Path().c_str(), REGKIND_NONE, &loaded));
+  ComPointer<ITypeLib> loaded;
+  RequireSuccess(LoadTypeLibEx(Path().c_str(), REGKIND_NONE, loaded.Receive()));
   if (held_ > 0) library_ = loaded;
   return loaded;
 }
 
-ComPtr<ITypeInfo> Module::TypeInfo(REFGUID identifier) {
-  ComPtr<ITypeInfo> info;
-  RequireSuccess(TypeLibrary()->GetTypeInfoOfGuid(identifier, &info));
+ComPointer<ITypeInfo> Module::TypeInfo(REFGUID identifier) {
+  ComPointer<ITypeInfo> info;
+  RequireSuccess(TypeLibrary()->GetTypeInfoOfGuid(identifier, info.Receive()));
   return info;
 }
 

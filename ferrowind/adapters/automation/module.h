@@ -4,7 +4,8 @@
 #include <string>
 
 #include <oaidl.h>
-#include <wrl/client.h>
+
+#include "ferrowind/adapters/automation/com_pointer.h"
 
 namespace ferrowind::automation {
 
@@ -28,14 +29,14 @@ class Module {
   /// The full path of the file.
   [[nodiscard]] static std::wstring Path();
   /// The type library of the file; a failure when the file has none.
-  [[nodiscard]] Microsoft::WRL::ComPtr<ITypeLib> TypeLibrary();
+  [[nodiscard]] ComPointer<ITypeLib> TypeLibrary();
   /// What the type library has under that identifier; a failure when there is nothing.
-  [[nodiscard]] Microsoft::WRL::ComPtr<ITypeInfo> TypeInfo(REFGUID identifier);
+  [[nodiscard]] ComPointer<ITypeInfo> TypeInfo(REFGUID identifier);
 
  private:
   std::mutex mutex_;
   long held_ = 0;
-  Microsoft::WRL::ComPtr<ITypeLib> library_;
+  ComPointer<ITypeLib> library_;
 };
 
 /// Keeps the file loaded as long as it lives; a part of every object that hosts hold.

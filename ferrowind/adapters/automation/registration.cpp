@@ -7,8 +7,8 @@
 
 #include <oaidl.h>
 #include <oleauto.h>
-#include <wrl/client.h>
 
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/miscellaneous_status.h"
 #include "ferrowind/adapters/automation/module.h"
 #include "ferrowind/adapters/automation/native_failure.h"
@@ -18,8 +18,6 @@
 
 namespace ferrowind::automation {
 namespace {
-
-using Microsoft::WRL::ComPtr;
 
 // The platform's own marshallers, which need nothing but the type library.
 constexpr const wchar_t* kDualMarshaller = L"{00020424-0000-0000-C000-000000000046}";
@@ -91,7 +89,7 @@ void AddLibrary(Registered& to, const std::wstring& library, const std::wstring&
 }
 
 Registered WhatToRegister() {
-  const ComPtr<ITypeLib> loaded = Module::Get().TypeLibrary();
+  const ComPointer<ITypeLib> loaded = Module::Get().TypeLibrary();
   TLIBATTR* attributes = nullptr;
   RequireSuccess(loaded->GetLibAttr(&attributes));
   const std::wstring library = RegistryForm(attributes->guid);

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 #include <oaidl.h>
 #include <oleauto.h>
-#include <wrl/client.h>
 
+#include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/module.h"
 #include "ferrowind/adapters/automation/owned_bstr.h"
 #include "ferrowind/adapters/automation/text.h"
@@ -19,7 +19,6 @@
 namespace ferrowind::automation {
 namespace {
 
-using Microsoft::WRL::ComPtr;
 using platform::Value;
 using type_library::kClasses;
 using type_library::kMembers;
@@ -48,18 +47,18 @@ std::string NameOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL) {
 }
 
 /// How a host that is bound early sees a dual interface: with its slots.
-ComPtr<ITypeInfo> WithSlots(ComPtr<ITypeInfo> info) {
+ComPointer<ITypeInfo> WithSlots(ComPointer<ITypeInfo> info) {
   HREFTYPE partner = 0;
   if (FAILED(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &partner))) return info;
-  ComPtr<ITypeInfo> result;
-  EXPECT_EQ(info->GetRefTypeInfo(partner, &result), S_OK);
+  ComPointer<ITypeInfo> result;
+  EXPECT_EQ(info->GetRefTypeInfo(partner, result.Receive()), S_OK);
   return result;
 }
 
 /// A function of the library, owned.
 class Function {
  public:
-  Function(ComPtr<ITypeInfo> info, UINT index) : info_(std::move(info)) {
+  Function(ComPointer<ITypeInfo> info, UINT index) : info_(std::move(info)) {
     EXPECT_EQ(info_->GetFuncDesc(index, &description_), S_OK);
   }
   ~Function() { info_->ReleaseFuncDesc(description_); }
@@ -69,7 +68,7 @@ class Function {
   [[nodiscard]] std::string Name() const { return NameOf(*info_.Get(), description_->memid); }
 
  private:
-  ComPtr<ITypeInfo> info_;
+  ComPointer<ITypeInfo> info_;
   FUNCDESC* description_ = nullptr;
 };
 
@@ -116,10 +115,10 @@ TEST(TypeLibraryOfTheFile, HasEachClassWithItsInterfaceEventsAndFlags) {
     for (UINT i = 0; i < attributes.cImplTypes; ++i) {
       INT flags = 0;
       HREFTYPE reference = 0;
-      ComPtr<ITypeInfo> implemented;
+      ComPointer<ITypeInfo> implemented;
       ASSERT_EQ(info->GetImplTypeFlags(i, &flags), S_OK);
       ASSERT_EQ(info->GetRefTypeOfImplType(i, &reference), S_OK);
-      ASSERT_EQ(info->GetRefTypeInfo(reference, &implemented), S_OK);
+      ASSERT_EQ(info->GetRefTypeInfo(reference, implemented.Receive()), S_OK);
       const bool is_event = i == 1;
       EXPECT_EQ(flags, IMPLTYPEFLAG_FDEFAULT | (is_event ? IMPLTYPEFLAG_FSOURCE : 0)) << said.name;
       EXPECT_EQ(NameOf(*implemented.Get()), is_event ? said.events_name : said.interface_name);
