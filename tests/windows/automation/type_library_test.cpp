@@ -173,7 +173,7 @@ void ExpectArguments(const Function& function, const std::vector<SaidArgument>& 
   ASSERT_EQ(static_cast<std::size_t>(function->cParams), said.size()) << function.Name();
   for (std::size_t i = 0; i < said.size(); ++i) {
     const ELEMDESC& argument = function->lprgelemdescParam[i];
-    EXPECT_EQ(argument.tdesc.vt, VT_PTR) << function.Name() << ' ' << i;
+    ASSERT_EQ(argument.tdesc.vt, VT_PTR) << function.Name() << ' ' << i;
     EXPECT_EQ(argument.tdesc.lptdesc->vt, said[i].refers_to) << function.Name() << ' ' << i;
     EXPECT_EQ(argument.paramdesc.wParamFlags, said[i].flags) << function.Name() << ' ' << i;
     if ((said[i].flags & PARAMFLAG_FHASDEFAULT) == 0) continue;
