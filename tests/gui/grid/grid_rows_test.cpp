@@ -182,11 +182,12 @@ TEST_F(GridRowsTest, TakeTheLookOfTheFormatsThatApply) {
       {"byCode", "Type", platform::kFormatEqual, Value(std::int32_t{1}), platform::Color{0, 255, 0}});
   EXPECT_EQ(grid_->FormatCount(), 3);
   const GridContent& content = Model().Content();
-  const RowLook first = content.LookOf(0);
+  const grid_content::RowLook first = content.LookOf(0);
   EXPECT_EQ(first.fore_color, (platform::Color{255, 0, 0})) << "the format added first decides";
   EXPECT_TRUE(first.is_bold);
   EXPECT_TRUE(first.is_struck_through);
-  EXPECT_EQ(content.LookOf(1), RowLook()) << "a value list is compared by its text, not by the code";
+  EXPECT_EQ(content.LookOf(1), grid_content::RowLook())
+      << "a value list is compared by its text, not by the code";
   grid_->AddFormat({"byText", "Type", platform::kFormatEqual, Value("Nothing")});
   EXPECT_EQ(grid_->FormatCount(), 3);
   EXPECT_FALSE(content.LookOf(0).is_bold);

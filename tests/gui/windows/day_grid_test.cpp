@@ -83,20 +83,20 @@ TEST_F(DayGridTest, ComputesDayMonthAndMonthNameOfEveryDay) {
 }
 
 TEST_F(DayGridTest, ColoursTheDaysByTheirType) {
-  const qt::RowLook holiday = LookOfRow(Days(), 14);
+  const grid_content::RowLook holiday = LookOfRow(Days(), 14);
   ASSERT_TRUE(holiday.fore_color);
   EXPECT_EQ(*holiday.fore_color, (platform::Color{255, 0, 0}));
   EXPECT_TRUE(holiday.is_bold);
-  const qt::RowLook celebration = LookOfRow(Days(), 0);
+  const grid_content::RowLook celebration = LookOfRow(Days(), 0);
   ASSERT_TRUE(celebration.fore_color);
   EXPECT_EQ(*celebration.fore_color, (platform::Color{255, 0, 255}));
   EXPECT_TRUE(celebration.is_bold);
-  const qt::RowLook point = LookOfRow(Days(), 104);
+  const grid_content::RowLook point = LookOfRow(Days(), 104);
   ASSERT_TRUE(point.fore_color);
   EXPECT_EQ(*point.fore_color, (platform::Color{255, 0, 255}));
   EXPECT_FALSE(point.is_bold);
-  EXPECT_EQ(LookOfRow(Days(), 1), qt::RowLook{});
-  EXPECT_EQ(LookOfRow(Days(), 7), qt::RowLook{});
+  EXPECT_EQ(LookOfRow(Days(), 1), grid_content::RowLook{});
+  EXPECT_EQ(LookOfRow(Days(), 7), grid_content::RowLook{});
 }
 
 TEST_F(DayGridTest, PaintsAHolidayInRed) {

@@ -197,10 +197,10 @@ int RowOf(const qt::GridView& grid, const std::string& caption, const std::strin
   return found == texts.end() ? -1 : static_cast<int>(found - texts.begin());
 }
 
-qt::RowLook LookOfRow(const qt::GridView& grid, int row) {
+grid_content::RowLook LookOfRow(const qt::GridView& grid, int row) {
   const qt::GridContent& content = grid.Model()->Content();
   const auto record = content.RecordInRow(static_cast<std::uint32_t>(row));
-  return record ? content.LookOf(*record) : qt::RowLook{};
+  return record ? content.LookOf(*record) : grid_content::RowLook{};
 }
 
 void WalkToRow(qt::GridView& grid, int row) {

@@ -69,7 +69,7 @@ void ClickNode(QTreeView& tree, const std::vector<std::string>& path);
 /// The 0-based row of the record whose cell has that text; -1 without one.
 [[nodiscard]] int RowOf(const qt::GridView& grid, const std::string& caption, const std::string& text);
 [[nodiscard]] int ColumnOf(const qt::GridView& grid, const std::string& caption);
-[[nodiscard]] qt::RowLook LookOfRow(const qt::GridView& grid, int row);
+[[nodiscard]] grid_content::RowLook LookOfRow(const qt::GridView& grid, int row);
 /// Makes the row current with the arrow keys; it is then on show.
 void WalkToRow(qt::GridView& grid, int row);
 void ClickRow(qt::GridView& grid, int row, Qt::MouseButton button = Qt::LeftButton,

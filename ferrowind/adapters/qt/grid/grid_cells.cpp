@@ -1,9 +1,7 @@
 #include "ferrowind/adapters/qt/grid/grid_cells.h"
 
 #include <QLocale>
-#include <algorithm>
 
-#include "ferrowind/adapters/grid_engine/value_order.h"
 #include "ferrowind/adapters/qt/controls/element.h"
 #include "ferrowind/adapters/qt/dates/short_date.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
@@ -13,15 +11,6 @@ namespace ferrowind::qt {
 
 using grid_engine::Record;
 using platform::Value;
-
-namespace {
-
-const Value& NoValue() {
-  static const Value none;
-  return none;
-}
-
-}  // namespace
 
 QString LocalizedText(const Value& value) {
   if (const auto* text = value.If<std::string>()) return ToQt(*text);
@@ -33,98 +22,22 @@ QString LocalizedText(const Value& value) {
   return ToQt(platform::ToText(value));
 }
 
-GridCells::GridCells(std::string grid_name, const GridColumns& columns)
-    : grid_name_(std::move(grid_name)),
-      columns_(columns),
-      computed_([this](Record record, std::int16_t column, Value& receiver) {
-        if (is_muted_) return;
-        RunGuarded(grid_name_, [&] { unbound_value_.Emit(BookmarkOf(record), column, receiver); });
-      }),
-      orders_([this](Record record, std::int16_t column, Value& receiver) {
-        receiver = CellValue(column, record);
-        if (is_muted_) return;
-        RunGuarded(grid_name_, [&] { unbound_order_.Emit(BookmarkOf(record), column, receiver); });
-      }) {}
-
-void GridCells::Attach(std::shared_ptr<platform::RecordSet> records) {
-  ForgetComputed();
-  records_ = std::move(records);
-  bookmarks_.clear();
-  record_count_ = records_ == nullptr ? 0 : static_cast<std::uint32_t>(records_->RowCount());
-  if (record_count_ > 0 && !records_->Filter().empty()) {
-    bookmarks_.reserve(record_count_);
-    for (std::uint32_t i = 0; i < record_count_; ++i) bookmarks_.push_back(records_->BookmarkAt(i));
-  }
-  BindFields();
-}
-
-void GridCells::BindFields() {
-  fields_.assign(static_cast<std::size_t>(columns_.Count()), std::nullopt);
-  if (records_ == nullptr) return;
-  for (std::int32_t index = 1; index <= columns_.Count(); ++index) {
-    fields_[static_cast<std::size_t>(index) - 1] = records_->FindField(columns_[index].BoundField());
-  }
-}
-
-const Value& GridCells::KeyValue(std::int16_t column, Record record) const {
-  if (has_order_handlers_ && columns_[column].Unbound()) return orders_.ValueOf(record, column);
-  return CellValue(column, record);
-}
-
-const Value& GridCells::CellValue(std::int16_t column, Record record) const {
-  if (columns_[column].Unbound()) return computed_.ValueOf(record, column);
-  const auto place = static_cast<std::size_t>(column) - 1;
-  if (place >= fields_.size() || !fields_[place]) return NoValue();
-  return records_->Cell(BookmarkOf(record), *fields_[place]);
-}
+GridCells::GridCells(const std::string& grid_name, const grid_content::StoredColumns& columns)
+    : RecordCells(columns, [grid_name](const auto& handler) { RunGuarded(grid_name, handler); }) {}
 
 QString GridCells::TextOfValue(std::int16_t column, const Value& value) const {
-  if (const QtGridValueList* values = columns_[column].Values()) {
+  if (const grid_content::StoredValueList* values = Columns()[column].Values()) {
     if (const std::string* text = values->Find(value)) return ToQt(*text);
   }
   return LocalizedText(value);
 }
 
-bool GridCells::ShowsNumber(std::int16_t column, Record record) const {
-  return !columns_[column].HasValueList() &&
-         grid_engine::KindOf(CellValue(column, record)) == grid_engine::ValueKind::kNumber;
-}
-
-bool GridCells::IsNumberColumn(std::int16_t column) const {
-  // Enough to pass the rows that leave the column empty, and few enough to ask at each paint.
-  constexpr std::uint32_t kRecordsAsked = 50;
-  for (Record record = 0; record < std::min(record_count_, kRecordsAsked); ++record) {
-    if (!CellValue(column, record).IsEmpty()) return ShowsNumber(column, record);
-  }
-  return false;
-}
-
 QString GridCells::ShownText(std::int16_t column, Record record) const {
   QString shown = TextOfValue(column, CellValue(column, record));
-  if (!has_cell_text_handlers_ || is_muted_) return shown;
+  if (!AsksForTexts()) return shown;
   std::string text = FromQt(shown);
-  RunGuarded(grid_name_, [&] { cell_text_.Emit(BookmarkOf(record), column, text); });
+  AskForText(column, record, text);
   return ToQt(text);
-}
-
-platform::Subscription GridCells::OnUnboundValue(
-    std::function<void(Bookmark, std::int16_t, Value&)> handler) {
-  // What nobody answered before may have an answer now.
-  ForgetComputed();
-  return unbound_value_.Subscribe(std::move(handler));
-}
-
-platform::Subscription GridCells::OnUnboundOrder(
-    std::function<void(Bookmark, std::int16_t, Value&)> handler) {
-  ForgetComputed();
-  has_order_handlers_ = true;
-  return unbound_order_.Subscribe(std::move(handler));
-}
-
-platform::Subscription GridCells::OnCellText(
-    std::function<void(Bookmark, std::int16_t, std::string&)> handler) {
-  has_cell_text_handlers_ = true;
-  return cell_text_.Subscribe(std::move(handler));
 }
 
 }  // namespace ferrowind::qt

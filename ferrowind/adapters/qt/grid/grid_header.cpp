@@ -229,7 +229,7 @@ void GridHeader::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   if ((event->pos() - pressed_at_).manhattanLength() < QApplication::startDragDistance()) return;
-  const QtGridColumn& column = grid->Content().Columns()[pressed_column_ + 1];
+  const grid_content::StoredColumn& column = grid->Content().Columns()[pressed_column_ + 1];
   drag_->Begin({pressed_column_, 0, column.IsGroupable(), ToQt(column.Caption())});
   drag_->MoveTo(event->globalPosition().toPoint());
 }

@@ -70,7 +70,7 @@ QString GridModel::GroupText(GroupId group) const {
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
-  const QtGridColumn& column = content_.Columns()[section + 1];
+  const grid_content::StoredColumn& column = content_.Columns()[section + 1];
   switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:

@@ -246,7 +246,7 @@ int GridView::FittingWidth(int column) const {
     if (texts_.FitsByLetters(text, width - kCellMargins, style)) return;
     width = std::max(width, texts_.WidthOf(text, style) + kCellMargins);
   };
-  if (const QtGridValueList* values = content.Columns()[index].Values()) {
+  if (const grid_content::StoredValueList* values = content.Columns()[index].Values()) {
     for (const std::string& text : values->Texts()) make_room(ToQt(text));
   }
   const int rows = std::min(model_->rowCount(), kRowsMeasured);

@@ -3,14 +3,15 @@
 #include <QAction>
 #include <QMenu>
 
+#include "ferrowind/adapters/grid_content/grid_operations.h"
 #include "ferrowind/adapters/qt/grid/grid_content.h"
-#include "ferrowind/adapters/qt/grid/grid_operations.h"
 #include "ferrowind/adapters/qt/values/translated.h"
 
 namespace ferrowind::qt {
 
 QMenu* MakeHeaderMenu(QWidget* parent, const QObject* context, const GridContent& content,
-                      GridOperations& operations, int column, const HeaderMenuActions& actions) {
+                      grid_content::GridOperations& operations, int column,
+                      const HeaderMenuActions& actions) {
   auto* menu = new QMenu(parent);
   menu->setObjectName(QStringLiteral("headerMenu"));
   menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -2,6 +2,8 @@
 
 #include <functional>
 
+#include "ferrowind/adapters/grid_content/grid_operations.h"
+
 class QMenu;
 class QObject;
 class QWidget;
@@ -9,7 +11,6 @@ class QWidget;
 namespace ferrowind::qt {
 
 class GridContent;
-class GridOperations;
 
 /// What the header menu does besides sorting and grouping.
 struct HeaderMenuActions {
@@ -22,6 +23,7 @@ struct HeaderMenuActions {
 /// The menu of a column's header; `column` is its 1-based index, 0 for the header beside the columns. The
 /// menu deletes itself when it closes.
 [[nodiscard]] QMenu* MakeHeaderMenu(QWidget* parent, const QObject* context, const GridContent& content,
-                                    GridOperations& operations, int column, const HeaderMenuActions& actions);
+                                    grid_content::GridOperations& operations, int column,
+                                    const HeaderMenuActions& actions);
 
 }  // namespace ferrowind::qt

@@ -32,15 +32,16 @@ QtGrid::QtGrid(GridWidget& widget)
       widget_(widget),
       view_(widget.View()),
       header_(widget.View().Header()),
-      content_(Name(), {[this](QtGridColumn& column) { ShowColumnVisibility(column); },
+      content_(Name(), {[this](grid_content::StoredColumn& column) { ShowColumnVisibility(column); },
                         [this] {
                           is_stale_ = true;
                           widths_are_due_ = true;
                           model_->CellsChanged();
                         },
                         [this] { is_stale_ = true; }, [this] { ShowCaptions(); }}),
-      operations_(content_, {[this] { Refresh(false); }, [this] { Raise(before_group_change_); },
-                             [this] { RefreshAfterGroupChange(); }}),
+      operations_(content_.Columns(), content_.SortKeys(), content_.GroupKeys(),
+                  {[this] { Refresh(false); }, [this] { Raise(before_group_change_); },
+                   [this] { RefreshAfterGroupChange(); }}),
       context_(std::make_unique<QObject>()),
       model_(new GridModel(content_, context_.get())) {
   view_.setModel(model_);
@@ -63,7 +64,7 @@ void QtGrid::Mute() {
 platform::GridColumn& QtGrid::AddColumn(const std::string& caption, std::int32_t type, std::int32_t edit_type,
                                         const std::string& key) {
   // Refused before the model announces anything.
-  QtGridColumn* added = nullptr;
+  grid_content::StoredColumn* added = nullptr;
   content_.Columns().RequireAddable(type, edit_type, key);
   model_->AppendColumn([&] { added = &content_.Columns().Add(caption, key); });
   content_.Cells().BindFields();
@@ -92,7 +93,7 @@ void QtGrid::MoveColumnBehind(const std::string& key, const std::string& other) 
   header_.moveSection(from, from < to ? to : to + 1);
 }
 
-void QtGrid::ShowColumnVisibility(const QtGridColumn& column) {
+void QtGrid::ShowColumnVisibility(const grid_content::StoredColumn& column) {
   header_.setSectionHidden(column.Index() - 1, !column.Visible());
   widths_are_due_ = true;
   if (column.Visible()) FitColumns();
@@ -223,7 +224,7 @@ RecordSet::Bookmark QtGrid::RowBookmark(std::int32_t row) const {
 
 Value QtGrid::CellValue(std::int32_t row, const std::string& column_key) const {
   RequireRow(row);
-  const QtGridColumn& column = content_.Columns().ByKey(column_key);
+  const grid_content::StoredColumn& column = content_.Columns().ByKey(column_key);
   if (row == 0) return {};
   const auto record = content_.RecordInRow(static_cast<std::uint32_t>(row - 1));
   return record ? content_.Cells().CellValue(column.Index(), *record) : Value();
@@ -271,7 +272,7 @@ std::vector<std::int32_t> QtGrid::MarkedRows() const {
 void QtGrid::NoteCurrentRow() {
   if (keeps_rows_) return;
   const int row = view_.currentIndex().row();
-  RowIdentity identity;
+  grid_content::RowIdentity identity;
   if (row >= 0 && row < model_->rowCount()) identity = content_.IdentityOf(static_cast<std::uint32_t>(row));
   if (identity == current_) return;
   current_ = std::move(identity);

@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/grid_content/grid_operations.h"
+#include "ferrowind/adapters/grid_content/row_identity.h"
 #include "ferrowind/adapters/qt/controls/qt_control.h"
 #include "ferrowind/adapters/qt/grid/grid_content.h"
-#include "ferrowind/adapters/qt/grid/grid_operations.h"
 #include "ferrowind/adapters/qt/grid/grid_widget.h"
-#include "ferrowind/adapters/qt/grid/row_identity.h"
 #include "ferrowind/platform/events/signal.h"
 #include "ferrowind/platform/toolkit/grid.h"
 
@@ -104,7 +104,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   void KeepRowsDuring(const std::function<void()>& change);
   void RearrangeRows(const std::function<void()>& change);
   void ShowKeys();
-  void ShowColumnVisibility(const QtGridColumn& column);
+  void ShowColumnVisibility(const grid_content::StoredColumn& column);
   void ShowCaptions();
   void FitColumns();
   void NoteCurrentRow();
@@ -120,7 +120,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   GridView& view_;
   GridHeader& header_;
   GridContent content_;
-  GridOperations operations_;
+  grid_content::GridOperations operations_;
   /// The receiver of all connections, so that they end with the grid; owns the model.
   std::unique_ptr<QObject> context_;
   GridModel* model_ = nullptr;
@@ -129,7 +129,7 @@ class QtGrid final : public QtControl<platform::Grid> {
   std::set<std::int32_t> settled_widths_;
   /// What columns show may have changed since they were fitted last.
   bool widths_are_due_ = true;
-  RowIdentity current_;
+  grid_content::RowIdentity current_;
   bool keeps_rows_ = false;
   bool marks_row_ranges_ = false;
   std::set<std::string> layout_sections_;

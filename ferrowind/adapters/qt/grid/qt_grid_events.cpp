@@ -126,10 +126,10 @@ std::string QtGrid::SaveLayout() const {
   GridLayout layout;
   for (int visual = 0; visual < header_.count(); ++visual) {
     const int column = header_.logicalIndex(visual);
-    const QtGridColumn& shown = content_.Columns()[column + 1];
+    const grid_content::StoredColumn& shown = content_.Columns()[column + 1];
     layout.columns.push_back({shown.Key(), header_.KeptWidth(column), shown.Visible()});
   }
-  const auto save = [&](const QtGridKeyList& keys, std::vector<GridLayout::Key>& saved) {
+  const auto save = [&](const grid_content::StoredKeyList& keys, std::vector<GridLayout::Key>& saved) {
     for (std::int32_t position = 1; position <= keys.Count(); ++position) {
       const auto key = keys.Item(position);
       saved.push_back({content_.Columns()[key->ColIndex].Key(), key->SortOrder});
@@ -143,10 +143,10 @@ std::string QtGrid::SaveLayout() const {
 bool QtGrid::RestoreLayout(const std::string& text) {
   const auto layout = DecodeLayout(text);
   if (!layout) return false;
-  const GridColumns& columns = content_.Columns();
+  const grid_content::StoredColumns& columns = content_.Columns();
   int place = 0;
   for (const GridLayout::Column& saved : layout->columns) {
-    QtGridColumn* column = columns.Find(saved.key);
+    grid_content::StoredColumn* column = columns.Find(saved.key);
     if (column == nullptr) continue;
     const int logical = column->Index() - 1;
     header_.moveSection(header_.visualIndex(logical), place++);
@@ -155,10 +155,10 @@ bool QtGrid::RestoreLayout(const std::string& text) {
     settled_widths_.insert(column->Index());
   }
   if (place == 0) return false;
-  const auto restore = [&](const std::vector<GridLayout::Key>& saved, QtGridKeyList& keys) {
+  const auto restore = [&](const std::vector<GridLayout::Key>& saved, grid_content::StoredKeyList& keys) {
     keys.Clear();
     for (const GridLayout::Key& key : saved) {
-      if (const QtGridColumn* column = columns.Find(key.column_key))
+      if (const grid_content::StoredColumn* column = columns.Find(key.column_key))
         keys.Add(column->Index(), key.sort_order, 0);
     }
   };

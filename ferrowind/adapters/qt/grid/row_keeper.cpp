@@ -37,7 +37,7 @@ void RowKeeper::PutBack(GridView& view, SelectionOrder& selection) const {
     view.selectAll();
   } else if (view.selectionMode() != QAbstractItemView::SingleSelection) {
     std::vector<int> rows;
-    for (const RowIdentity& identity : selected_) {
+    for (const grid_content::RowIdentity& identity : selected_) {
       const auto row = content.RowShowing(identity);
       if (row && content.IdentityOf(*row) == identity) rows.push_back(static_cast<int>(*row));
     }

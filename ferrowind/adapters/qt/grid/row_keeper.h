@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "ferrowind/adapters/qt/grid/row_identity.h"
+#include "ferrowind/adapters/grid_content/row_identity.h"
 
 namespace ferrowind::qt {
 
@@ -19,10 +19,10 @@ class RowKeeper {
   void PutBack(GridView& view, SelectionOrder& selection) const;
 
  private:
-  RowIdentity current_;
-  RowIdentity first_visible_;
+  grid_content::RowIdentity current_;
+  grid_content::RowIdentity first_visible_;
   bool first_row_was_on_top_ = true;
-  std::vector<RowIdentity> selected_;
+  std::vector<grid_content::RowIdentity> selected_;
   bool was_all_selected_ = false;
 };
 

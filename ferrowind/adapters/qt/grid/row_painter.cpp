@@ -48,7 +48,7 @@ void PaintTriangle(QPainter& painter, const QRectF& area, Pointing pointing, con
   painter.restore();
 }
 
-unsigned char RowPainter::StyleOf(const RowLook& look) {
+unsigned char RowPainter::StyleOf(const grid_content::RowLook& look) {
   unsigned char style = TextCache::kPlain;
   if (look.is_bold) style |= TextCache::kBold;
   if (look.is_struck_through) style |= TextCache::kStruckThrough;
@@ -64,7 +64,7 @@ void RowPainter::PaintRecord(QPainter& painter, const QRect& row, const std::vec
                              Record record, const RowState& state) const {
   const QColor ground = GroundOf(state);
   painter.fillRect(row, ground);
-  const RowLook look = content_.LookOf(record);
+  const grid_content::RowLook look = content_.LookOf(record);
   const unsigned char style = StyleOf(look);
   QColor text = colors_.text;
   if (look.fore_color) {

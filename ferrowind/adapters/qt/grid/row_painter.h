@@ -60,7 +60,7 @@ class RowPainter {
                                           Qt::LayoutDirection direction);
 
  private:
-  [[nodiscard]] static unsigned char StyleOf(const RowLook& look);
+  [[nodiscard]] static unsigned char StyleOf(const grid_content::RowLook& look);
   [[nodiscard]] QColor GroundOf(const RowState& state) const;
   void PaintFrame(QPainter& painter, const QRect& area, int width) const;
   void PaintCell(QPainter& painter, const QRect& cell, std::int16_t column, grid_engine::Record record,

@@ -7,12 +7,12 @@
 
 #include "ferrowind/platform/toolkit/grid_column.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
-class QtGridValueList final : public platform::GridValueList {
+class StoredValueList final : public platform::GridValueList {
  public:
   /// `changed` is called after each addition.
-  explicit QtGridValueList(std::function<void()> changed) : changed_(std::move(changed)) {}
+  explicit StoredValueList(std::function<void()> changed) : changed_(std::move(changed)) {}
 
   void Add(const platform::Value& value, const std::string& text) override;
   [[nodiscard]] std::int32_t Count() const override { return count_; }
@@ -31,18 +31,18 @@ class QtGridValueList final : public platform::GridValueList {
   std::map<platform::Value, std::string, ValueLess> texts_;
 };
 
-/// A column of `QtGrid`, whoever shows it.
-class QtGridColumn final : public platform::GridColumn {
+/// A column of a grid, whoever shows it.
+class StoredColumn final : public platform::GridColumn {
  public:
   /// Who keeps step with the column. All are called after the change.
   struct Listener {
-    std::function<void(QtGridColumn& column)> cells_changed;
-    std::function<void(QtGridColumn& column)> visibility_changed;
+    std::function<void(StoredColumn& column)> cells_changed;
+    std::function<void(StoredColumn& column)> visibility_changed;
     std::function<void()> caption_changed;
-    std::function<std::int32_t(const QtGridColumn& column)> sort_order;
+    std::function<std::int32_t(const StoredColumn& column)> sort_order;
   };
 
-  QtGridColumn(Listener listener, std::int16_t index, std::string key, std::string caption)
+  StoredColumn(Listener listener, std::int16_t index, std::string key, std::string caption)
       : listener_(std::move(listener)), index_(index), key_(std::move(key)), caption_(std::move(caption)) {}
 
   [[nodiscard]] const std::string& Key() const override { return key_; }
@@ -60,7 +60,7 @@ class QtGridColumn final : public platform::GridColumn {
   [[nodiscard]] bool HasValueList() const override { return value_list_ != nullptr; }
   void SetHasValueList(bool has_value_list) override;
   [[nodiscard]] platform::GridValueList* ValueList() override { return value_list_.get(); }
-  [[nodiscard]] const QtGridValueList* Values() const { return value_list_.get(); }
+  [[nodiscard]] const StoredValueList* Values() const { return value_list_.get(); }
   [[nodiscard]] std::int32_t SortOrder() const override { return listener_.sort_order(*this); }
 
  private:
@@ -72,7 +72,7 @@ class QtGridColumn final : public platform::GridColumn {
   bool is_visible_ = true;
   bool is_groupable_ = true;
   bool is_unbound_ = false;
-  std::unique_ptr<QtGridValueList> value_list_;
+  std::unique_ptr<StoredValueList> value_list_;
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/qt/grid/grid_columns.h"
+#include "ferrowind/adapters/grid_content/stored_columns.h"
 
 #include <algorithm>
 #include <iterator>
@@ -6,7 +6,7 @@
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 using platform::Failure;
 namespace failure_number = platform::failure_number;
@@ -18,7 +18,7 @@ constexpr std::int32_t kNotEdited = 1;
 
 }  // namespace
 
-void GridColumns::RequireAddable(std::int32_t type, std::int32_t edit_type, const std::string& key) const {
+void StoredColumns::RequireAddable(std::int32_t type, std::int32_t edit_type, const std::string& key) const {
   if (type != kTextColumn || edit_type != kNotEdited) throw platform::InvalidArgument();
   if (Find(key) != nullptr) {
     throw Failure(failure_number::kKeyNotUnique,
@@ -26,13 +26,13 @@ void GridColumns::RequireAddable(std::int32_t type, std::int32_t edit_type, cons
   }
 }
 
-QtGridColumn& GridColumns::Add(const std::string& caption, const std::string& key) {
+StoredColumn& StoredColumns::Add(const std::string& caption, const std::string& key) {
   const auto index = static_cast<std::int16_t>(columns_.size() + 1);
-  columns_.push_back(std::make_unique<QtGridColumn>(listener_, index, key, caption));
+  columns_.push_back(std::make_unique<StoredColumn>(listener_, index, key, caption));
   return *columns_.back();
 }
 
-QtGridColumn* GridColumns::Find(const std::string& key) const {
+StoredColumn* StoredColumns::Find(const std::string& key) const {
   const std::string folded = platform::FoldCase(key);
   const auto found = std::find_if(columns_.begin(), columns_.end(), [&](const auto& column) {
     return platform::FoldCase(column->Key()) == folded;
@@ -40,21 +40,21 @@ QtGridColumn* GridColumns::Find(const std::string& key) const {
   return found == columns_.end() ? nullptr : found->get();
 }
 
-QtGridColumn& GridColumns::ByKey(const std::string& key) const {
-  if (QtGridColumn* column = Find(key)) return *column;
+StoredColumn& StoredColumns::ByKey(const std::string& key) const {
+  if (StoredColumn* column = Find(key)) return *column;
   throw Failure(failure_number::kElementNotFound, "The grid " + grid_name_ + " has no column " + key);
 }
 
-QtGridColumn& GridColumns::At(std::int32_t index) const {
+StoredColumn& StoredColumns::At(std::int32_t index) const {
   if (index < 1 || index > Count()) throw platform::SubscriptOutOfRange();
   return *columns_[static_cast<std::size_t>(index) - 1];
 }
 
-void GridColumns::DropUnheld() {
+void StoredColumns::DropUnheld() {
   const auto first_dropped = columns_.begin() + static_cast<std::ptrdiff_t>(held_count_);
   std::move(first_dropped, columns_.end(), std::back_inserter(dropped_));
   columns_.erase(first_dropped, columns_.end());
   held_count_ = 0;
 }
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

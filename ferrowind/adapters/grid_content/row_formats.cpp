@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/qt/grid/row_formats.h"
+#include "ferrowind/adapters/grid_content/row_formats.h"
 
 #include <algorithm>
 
@@ -6,15 +6,15 @@
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 using platform::GridFormat;
 using platform::Value;
 
 namespace {
 
-bool Applies(const GridFormat& format, const QtGridColumn& column, const Value& value) {
-  if (const QtGridValueList* values = column.Values()) {
+bool Applies(const GridFormat& format, const StoredColumn& column, const Value& value) {
+  if (const StoredValueList* values = column.Values()) {
     if (const std::string* shown = values->Find(value))
       return grid_engine::SameValue(*shown, format.compared);
     if (!value.IsObject()) return grid_engine::SameValue(platform::ToTextOrEmpty(value), format.compared);
@@ -40,13 +40,13 @@ bool RowFormats::CanBeBold() const {
                      [](const GridFormat& format) { return format.bold.value_or(false); });
 }
 
-RowLook RowFormats::LookOf(grid_engine::Record record, const GridCells& cells,
-                           const GridColumns& columns) const {
+RowLook RowFormats::LookOf(grid_engine::Record record, const RecordCells& cells,
+                           const StoredColumns& columns) const {
   RowLook look;
   std::optional<bool> bold;
   std::optional<bool> strike_through;
   for (const GridFormat& format : formats_) {
-    const QtGridColumn* column = columns.Find(format.column_key);
+    const StoredColumn* column = columns.Find(format.column_key);
     if (column == nullptr || !Applies(format, *column, cells.CellValue(column->Index(), record))) continue;
     if (!look.fore_color) look.fore_color = format.fore_color;
     if (!bold) bold = format.bold;
@@ -57,4 +57,4 @@ RowLook RowFormats::LookOf(grid_engine::Record record, const GridCells& cells,
   return look;
 }
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

@@ -5,27 +5,27 @@
 #include <string>
 #include <vector>
 
-#include "ferrowind/adapters/qt/grid/qt_grid_column.h"
+#include "ferrowind/adapters/grid_content/stored_column.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 /// The columns of a grid in the order of adding.
-class GridColumns {
+class StoredColumns {
  public:
-  GridColumns(std::string grid_name, QtGridColumn::Listener listener)
+  StoredColumns(std::string grid_name, StoredColumn::Listener listener)
       : grid_name_(std::move(grid_name)), listener_(std::move(listener)) {}
 
   /// Throws the failure of `platform::Grid` that such a column cannot be added for.
   void RequireAddable(std::int32_t type, std::int32_t edit_type, const std::string& key) const;
   /// Precondition: `RequireAddable`.
-  QtGridColumn& Add(const std::string& caption, const std::string& key);
+  StoredColumn& Add(const std::string& caption, const std::string& key);
   [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(columns_.size()); }
-  [[nodiscard]] QtGridColumn& ByKey(const std::string& key) const;
+  [[nodiscard]] StoredColumn& ByKey(const std::string& key) const;
   /// Null when there is none.
-  [[nodiscard]] QtGridColumn* Find(const std::string& key) const;
-  [[nodiscard]] QtGridColumn& At(std::int32_t index) const;
+  [[nodiscard]] StoredColumn* Find(const std::string& key) const;
+  [[nodiscard]] StoredColumn& At(std::int32_t index) const;
   /// Precondition: there is a column of that 1-based index.
-  [[nodiscard]] const QtGridColumn& operator[](std::int32_t index) const {
+  [[nodiscard]] const StoredColumn& operator[](std::int32_t index) const {
     return *columns_[static_cast<std::size_t>(index) - 1];
   }
 
@@ -35,11 +35,11 @@ class GridColumns {
 
  private:
   std::string grid_name_;
-  QtGridColumn::Listener listener_;
-  std::vector<std::unique_ptr<QtGridColumn>> columns_;
+  StoredColumn::Listener listener_;
+  std::vector<std::unique_ptr<StoredColumn>> columns_;
   /// Kept, since a column lives as long as its grid.
-  std::vector<std::unique_ptr<QtGridColumn>> dropped_;
+  std::vector<std::unique_ptr<StoredColumn>> dropped_;
   std::size_t held_count_ = 0;
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

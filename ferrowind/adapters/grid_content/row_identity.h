@@ -5,7 +5,7 @@
 #include "ferrowind/adapters/grid_engine/expansion_memory.h"
 #include "ferrowind/adapters/grid_engine/key_values.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 /// What makes a row the same row after another sort or grouping: its record, or the path of its group.
 struct RowIdentity {
@@ -20,4 +20,4 @@ struct RowIdentity {
   }
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

@@ -1,14 +1,14 @@
-#include "ferrowind/adapters/qt/grid/qt_grid_column.h"
+#include "ferrowind/adapters/grid_content/stored_column.h"
 
 #include "ferrowind/adapters/grid_engine/value_order.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 using platform::Value;
 
-bool QtGridValueList::ValueLess::operator()(const Value& left, const Value& right) const {
+bool StoredValueList::ValueLess::operator()(const Value& left, const Value& right) const {
   const int order = grid_engine::CompareValues(left, right);
   if (order != 0) return order < 0;
   // Texts that differ in letter case alone are different values, though they sort alike.
@@ -17,60 +17,60 @@ bool QtGridValueList::ValueLess::operator()(const Value& left, const Value& righ
   return left_text != nullptr && right_text != nullptr && *left_text < *right_text;
 }
 
-void QtGridValueList::Add(const Value& value, const std::string& text) {
+void StoredValueList::Add(const Value& value, const std::string& text) {
   texts_.emplace(value, text);
   ++count_;
   changed_();
 }
 
-std::string QtGridValueList::TextOf(const Value& value) const {
+std::string StoredValueList::TextOf(const Value& value) const {
   if (const std::string* text = Find(value)) return *text;
   const std::string named = value.IsObject() ? "of an object" : platform::ToTextOrEmpty(value);
   throw platform::Failure(platform::failure_number::kElementNotFound, "The value list has no value " + named);
 }
 
-const std::string* QtGridValueList::Find(const Value& value) const {
+const std::string* StoredValueList::Find(const Value& value) const {
   const auto found = texts_.find(value);
   return found == texts_.end() ? nullptr : &found->second;
 }
 
-std::vector<std::string> QtGridValueList::Texts() const {
+std::vector<std::string> StoredValueList::Texts() const {
   std::vector<std::string> texts;
   for (const auto& [value, text] : texts_) texts.push_back(text);
   return texts;
 }
 
-void QtGridColumn::SetCaption(const std::string& caption) {
+void StoredColumn::SetCaption(const std::string& caption) {
   if (caption == caption_) return;
   caption_ = caption;
   listener_.caption_changed();
 }
 
-void QtGridColumn::SetBoundField(const std::string& field) {
+void StoredColumn::SetBoundField(const std::string& field) {
   if (field == bound_field_) return;
   bound_field_ = field;
   listener_.cells_changed(*this);
 }
 
-void QtGridColumn::SetVisible(bool visible) {
+void StoredColumn::SetVisible(bool visible) {
   if (visible == is_visible_) return;
   is_visible_ = visible;
   listener_.visibility_changed(*this);
 }
 
-void QtGridColumn::SetUnbound(bool unbound) {
+void StoredColumn::SetUnbound(bool unbound) {
   if (unbound == is_unbound_) return;
   is_unbound_ = unbound;
   listener_.cells_changed(*this);
 }
 
-void QtGridColumn::SetHasValueList(bool has_value_list) {
+void StoredColumn::SetHasValueList(bool has_value_list) {
   if (has_value_list == HasValueList()) return;
   value_list_.reset();
   if (has_value_list) {
-    value_list_ = std::make_unique<QtGridValueList>([this] { listener_.cells_changed(*this); });
+    value_list_ = std::make_unique<StoredValueList>([this] { listener_.cells_changed(*this); });
   }
   listener_.cells_changed(*this);
 }
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

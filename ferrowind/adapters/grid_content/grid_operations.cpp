@@ -1,11 +1,11 @@
-#include "ferrowind/adapters/qt/grid/grid_operations.h"
+#include "ferrowind/adapters/grid_content/grid_operations.h"
 
 #include <algorithm>
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 void GridOperations::Sort(std::int16_t column, std::int32_t sort_order) {
-  QtGridKeyList& keys = content_.SortKeys();
+  StoredKeyList& keys = sort_keys_;
   if (sort_order != platform::kSortNone) {
     keys.Clear();
     keys.Add(column, sort_order, 0);
@@ -16,7 +16,7 @@ void GridOperations::Sort(std::int16_t column, std::int32_t sort_order) {
 }
 
 void GridOperations::AddToSort(std::int16_t column) {
-  QtGridKeyList& keys = content_.SortKeys();
+  StoredKeyList& keys = sort_keys_;
   if (const std::int32_t position = keys.PositionOf(column); position > 0) {
     const bool is_ascending = keys.OrderOf(column) == platform::kSortAscending;
     keys.SetSortOrder(position, is_ascending ? platform::kSortDescending : platform::kSortAscending);
@@ -27,16 +27,16 @@ void GridOperations::AddToSort(std::int16_t column) {
 }
 
 bool GridOperations::CanGroupBy(std::int16_t column) const {
-  return column >= 1 && column <= content_.Columns().Count() && content_.Columns()[column].IsGroupable();
+  return column >= 1 && column <= columns_.Count() && columns_[column].IsGroupable();
 }
 
 bool GridOperations::IsGroupPosition(std::int32_t position) const {
-  return position >= 1 && position <= content_.GroupKeys().Count();
+  return position >= 1 && position <= group_keys_.Count();
 }
 
 void GridOperations::GroupBy(std::int16_t column, std::int32_t position) {
   if (!CanGroupBy(column)) return;
-  QtGridKeyList& keys = content_.GroupKeys();
+  StoredKeyList& keys = group_keys_;
   if (const std::int32_t from = keys.PositionOf(column); from > 0) {
     const std::int32_t to = position == 0 ? keys.Count() : position;
     MoveGroup(from, std::min(to > from && position != 0 ? to - 1 : to, keys.Count()));
@@ -47,20 +47,19 @@ void GridOperations::GroupBy(std::int16_t column, std::int32_t position) {
 
 void GridOperations::Ungroup(std::int32_t position) {
   if (!IsGroupPosition(position)) return;
-  ChangeGroups([&] { content_.GroupKeys().Remove(position); });
+  ChangeGroups([&] { group_keys_.Remove(position); });
 }
 
 void GridOperations::MoveGroup(std::int32_t from, std::int32_t to) {
   if (from == to || !IsGroupPosition(from) || !IsGroupPosition(to)) return;
-  ChangeGroups([&] { content_.GroupKeys().Move(from, to); });
+  ChangeGroups([&] { group_keys_.Move(from, to); });
 }
 
 void GridOperations::TurnGroupOrder(std::int32_t position) {
   if (!IsGroupPosition(position)) return;
-  const bool is_ascending = content_.GroupKeys().Item(position)->SortOrder == platform::kSortAscending;
+  const bool is_ascending = group_keys_.Item(position)->SortOrder == platform::kSortAscending;
   ChangeGroups([&] {
-    content_.GroupKeys().SetSortOrder(position,
-                                      is_ascending ? platform::kSortDescending : platform::kSortAscending);
+    group_keys_.SetSortOrder(position, is_ascending ? platform::kSortDescending : platform::kSortAscending);
   });
 }
 
@@ -70,4 +69,4 @@ void GridOperations::ChangeGroups(const std::function<void()>& change) {
   surroundings_.after_group_change();
 }
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

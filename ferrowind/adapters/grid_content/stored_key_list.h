@@ -9,12 +9,12 @@
 #include "ferrowind/adapters/grid_engine/row_arrangement.h"
 #include "ferrowind/platform/toolkit/grid_keys.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
-class QtGridKeyList final : public platform::GridKeyList {
+class StoredKeyList final : public platform::GridKeyList {
  public:
   /// `changed` is called after each change.
-  QtGridKeyList(std::function<std::int32_t()> column_count, std::function<void()> changed)
+  StoredKeyList(std::function<std::int32_t()> column_count, std::function<void()> changed)
       : column_count_(std::move(column_count)), changed_(std::move(changed)) {}
 
   [[nodiscard]] std::int32_t Count() const override { return static_cast<std::int32_t>(keys_.size()); }
@@ -45,4 +45,4 @@ class QtGridKeyList final : public platform::GridKeyList {
   grid_engine::KeyPlaces places_;
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

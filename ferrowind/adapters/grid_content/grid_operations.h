@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 
-#include "ferrowind/adapters/qt/grid/grid_content.h"
+#include "ferrowind/adapters/grid_content/stored_columns.h"
+#include "ferrowind/adapters/grid_content/stored_key_list.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 /// What the operator does to the keys of a grid. Columns are 1-based indices, positions 1-based among the
 /// group keys. What makes no sense now (a position that is none, a column that cannot be grouped by) does
@@ -19,8 +21,13 @@ class GridOperations {
     std::function<void()> after_group_change;
   };
 
-  GridOperations(GridContent& content, Surroundings surroundings)
-      : content_(content), surroundings_(std::move(surroundings)) {}
+  /// All outlive the operations.
+  GridOperations(const StoredColumns& columns, StoredKeyList& sort_keys, StoredKeyList& group_keys,
+                 Surroundings surroundings)
+      : columns_(columns),
+        sort_keys_(sort_keys),
+        group_keys_(group_keys),
+        surroundings_(std::move(surroundings)) {}
 
   /// Makes the column the only sort key, or with `kSortNone` drops its key.
   void Sort(std::int16_t column, std::int32_t sort_order);
@@ -39,8 +46,10 @@ class GridOperations {
   void ChangeGroups(const std::function<void()>& change);
   [[nodiscard]] bool IsGroupPosition(std::int32_t position) const;
 
-  GridContent& content_;
+  const StoredColumns& columns_;
+  StoredKeyList& sort_keys_;
+  StoredKeyList& group_keys_;
   Surroundings surroundings_;
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

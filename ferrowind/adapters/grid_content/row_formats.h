@@ -3,10 +3,10 @@
 #include <optional>
 #include <vector>
 
-#include "ferrowind/adapters/qt/grid/grid_cells.h"
+#include "ferrowind/adapters/grid_content/record_cells.h"
 #include "ferrowind/platform/toolkit/grid_format.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 /// What the conditional formats make of a row.
 struct RowLook {
@@ -24,11 +24,11 @@ class RowFormats {
   [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(formats_.size()); }
   /// Whether a row may be shown bold.
   [[nodiscard]] bool CanBeBold() const;
-  [[nodiscard]] RowLook LookOf(grid_engine::Record record, const GridCells& cells,
-                               const GridColumns& columns) const;
+  [[nodiscard]] RowLook LookOf(grid_engine::Record record, const RecordCells& cells,
+                               const StoredColumns& columns) const;
 
  private:
   std::vector<platform::GridFormat> formats_;
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

@@ -1,6 +1,6 @@
-#include "ferrowind/adapters/qt/grid/computed_cells.h"
+#include "ferrowind/adapters/grid_content/computed_cells.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 const platform::Value& ComputedCells::ValueOf(grid_engine::Record record, std::int16_t column) const {
   std::vector<std::unique_ptr<Page>>& pages = columns_[column];
@@ -16,4 +16,4 @@ const platform::Value& ComputedCells::ValueOf(grid_engine::Record record, std::i
   return page.values[place];
 }
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content

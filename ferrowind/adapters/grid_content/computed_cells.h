@@ -10,7 +10,7 @@
 
 #include "ferrowind/adapters/grid_engine/key_values.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::grid_content {
 
 /// The values of computed cells that were asked for, each computed once.
 ///
@@ -37,4 +37,4 @@ class ComputedCells {
   mutable std::map<std::int16_t, std::vector<std::unique_ptr<Page>>> columns_;
 };
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::grid_content
