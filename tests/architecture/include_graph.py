@@ -38,6 +38,7 @@ FAMILIES = (
     ("<openssl>", re.compile(r"openssl/.+")),
     ("<libpq>", re.compile(r"libpq-fe\.h|postgres_ext\.h|libpq/.+")),
     ("<libical>", re.compile(r"libical/.+")),
+    ("<windows>", re.compile(r"(windows|commctrl|gdiplus|objbase|objidl|shobjidl)\.h")),
     ("<cli11>", re.compile(r"CLI/.+")),
     ("<json>", re.compile(r"nlohmann/.+")),
     # The C headers are here for what POSIX adds to them; the standard C++ ones have all the rest.

@@ -1,0 +1,106 @@
+#include "ferrowind/adapters/win32/base/native_window.h"
+
+#include <string>
+#include <utility>
+
+#include "ferrowind/adapters/win32/base/run_guarded.h"
+#include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::win32 {
+namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
+constexpr const wchar_t* kObjectProperty = L"FerrowindObject";
+
+HINSTANCE ThisModule() {
+  HMODULE module = nullptr;
+  // Of the library that this code is in, which need not be the host's program.
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                     reinterpret_cast<LPCWSTR>(&ThisModule), &module);
+  return module;
+}
+
+ATOM RegisterPaneClass() {
+  WNDCLASSEXW pane{};
+  pane.cbSize = sizeof pane;
+  pane.style = CS_DBLCLKS;
+  pane.lpfnWndProc = DefWindowProcW;
+  pane.hInstance = ThisModule();
+  pane.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
+  pane.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
+  pane.lpszClassName = L"FerrowindPane";
+  return RegisterClassExW(&pane);
+}
+
+platform::Failure NoWindow() {
+  return {platform::failure_number::kInvalidArgument,
+          "The platform made no window; its error is " + std::to_string(GetLastError())};
+}
+
+}  // namespace
+
+const wchar_t* PaneClass() {
+  static const ATOM atom = RegisterPaneClass();
+  return reinterpret_cast<const wchar_t*>(static_cast<ULONG_PTR>(atom));
+}
+
+NativeWindow::NativeWindow(std::shared_ptr<FormSite> site, const Design& design) : site_(std::move(site)) {
+  handle_ = CreateWindowExW(design.extended_style, design.window_class, L"", design.style, 0, 0, 0, 0,
+                            design.parent, nullptr, ThisModule(), nullptr);
+  if (handle_ == nullptr) throw NoWindow();
+  SetPropW(handle_, kObjectProperty, this);
+  SetWindowSubclass(handle_, &NativeWindow::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+NativeWindow::~NativeWindow() {
+  if (handle_ == nullptr) return;
+  RemovePropW(handle_, kObjectProperty);
+  RemoveWindowSubclass(handle_, &NativeWindow::Procedure, kSubclassId);
+  DestroyWindow(handle_);
+}
+
+UINT NativeWindow::DotsPerInch() const { return GetDpiForWindow(handle_); }
+
+NativeWindow* NativeWindow::Of(HWND window) {
+  return window == nullptr ? nullptr : static_cast<NativeWindow*>(GetPropW(window, kObjectProperty));
+}
+
+LRESULT NativeWindow::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
+  return DefSubclassProc(handle_, message, w_param, l_param);
+}
+
+std::optional<LRESULT> NativeWindow::Reflected(UINT message, WPARAM w_param, LPARAM l_param) {
+  if (message == WM_COMMAND) {
+    NativeWindow* child = Of(reinterpret_cast<HWND>(l_param));
+    if (child == nullptr) return std::nullopt;
+    child->OnCommand(HIWORD(w_param), LOWORD(w_param));
+    return 0;
+  }
+  if (message == WM_NOTIFY) {
+    auto& header = *reinterpret_cast<NMHDR*>(l_param);
+    NativeWindow* child = Of(header.hwndFrom);
+    return child == nullptr ? std::nullopt : child->OnNotify(header);
+  }
+  return std::nullopt;
+}
+
+LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT message, WPARAM w_param, LPARAM l_param,
+                                         UINT_PTR /*id*/, DWORD_PTR object) noexcept {
+  auto& self = *reinterpret_cast<NativeWindow*>(object);
+  if (message == WM_NCDESTROY) {
+    self.handle_ = nullptr;
+    RemovePropW(window, kObjectProperty);
+    RemoveWindowSubclass(window, &NativeWindow::Procedure, kSubclassId);
+    return DefSubclassProc(window, message, w_param, l_param);
+  }
+  const AtWork at_work(self.site_);
+  LRESULT result = 0;
+  RunGuarded(self.site_->name, [&] {
+    const auto reflected = Reflected(message, w_param, l_param);
+    result = reflected ? *reflected : self.OnMessage(message, w_param, l_param);
+  });
+  return result;
+}
+
+}  // namespace ferrowind::win32

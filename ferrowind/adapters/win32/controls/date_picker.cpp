@@ -1,0 +1,142 @@
+#include "ferrowind/adapters/win32/controls/date_picker.h"
+
+#include <utility>
+
+#include "ferrowind/adapters/win32/base/twips.h"
+#include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/controls/calendar_popup.h"
+#include "ferrowind/adapters/win32/controls/date_words.h"
+#include "ferrowind/adapters/win32/controls/window_text.h"
+
+namespace ferrowind::win32 {
+namespace {
+
+platform::Date Today() {
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  return {now.wYear, now.wMonth, now.wDay};
+}
+
+}  // namespace
+
+/// Stands at the right end of the line.
+class Win32DatePicker::OpenButton final : public NativeWindow {
+ public:
+  explicit OpenButton(Win32DatePicker& picker)
+      : NativeWindow(picker.Site(), {.window_class = WC_BUTTONW,
+                                     .style = WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON,
+                                     .parent = picker.Handle()}),
+        picker_(picker) {
+    SetWindowTextW(Handle(), L"\u25BE");
+  }
+
+  void OnCommand(WORD notification, WORD /*id*/) override {
+    if (notification == BN_CLICKED) picker_.Open();
+  }
+
+ private:
+  Win32DatePicker& picker_;
+};
+
+Win32DatePicker::Win32DatePicker(ControlHost& host, std::string name, HWND parent)
+    : Win32Control(host, std::move(name),
+                   {.window_class = WC_EDITW,
+                    .style = ES_AUTOHSCROLL | WS_TABSTOP | WS_CLIPCHILDREN,
+                    .extended_style = WS_EX_CLIENTEDGE,
+                    .parent = parent}),
+      date_(Today()),
+      format_(L"d MMMM yyyy"),
+      button_(std::make_unique<OpenButton>(*this)) {
+  ShowDate();
+}
+
+Win32DatePicker::~Win32DatePicker() = default;
+
+void Win32DatePicker::SetDate(const platform::Date& date) {
+  date_ = date;
+  ShowDate();
+}
+
+void Win32DatePicker::SetCustomFormat(const std::string& format) {
+  format_ = ToWide(format);
+  if (holds_date_) ShowDate();
+}
+
+void Win32DatePicker::ShowDate() {
+  holds_date_ = true;
+  is_showing_ = true;
+  SetWindowTextW(Handle(), FormatDate(date_, format_).c_str());
+  is_showing_ = false;
+  HideRefusal();
+}
+
+bool Win32DatePicker::RequireDate() {
+  if (holds_date_) return true;
+  TakeFocus();
+  shows_refusal_ = true;
+  const std::wstring refusal = L"This is no date. Write a day and a month without a year, such as " +
+                               FormatDate(date_, L"d MMMM") + L".";
+  EDITBALLOONTIP balloon{};
+  balloon.cbStruct = sizeof balloon;
+  balloon.pszText = refusal.c_str();
+  balloon.ttiIcon = TTI_ERROR;
+  SendMessageW(Handle(), EM_SHOWBALLOONTIP, 0, reinterpret_cast<LPARAM>(&balloon));
+  NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
+  return false;
+}
+
+void Win32DatePicker::HideRefusal() {
+  if (std::exchange(shows_refusal_, false)) SendMessageW(Handle(), EM_HIDEBALLOONTIP, 0, 0);
+}
+
+void Win32DatePicker::OnCommand(WORD notification, WORD /*id*/) {
+  if (notification != EN_CHANGE || is_showing_) return;
+  const auto typed = ReadDay(WindowText(Handle()), date_.Year());
+  holds_date_ = typed.has_value();
+  if (!typed) return;
+  date_ = *typed;
+  HideRefusal();
+}
+
+void Win32DatePicker::OnFocusLost() {
+  if (holds_date_) ShowDate();
+}
+
+void Win32DatePicker::Open() {
+  popup_ = std::make_unique<CalendarPopup>(
+      Handle(), Site(), date_,
+      [this](const platform::Date& picked) {
+        SetDate(picked);
+        TakeFocus();
+      },
+      [this] { popup_end_ = Host().Thread().After(0, [this] { popup_.reset(); }); });
+}
+
+LRESULT Win32DatePicker::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
+  const bool opens =
+      (message == WM_KEYDOWN && w_param == VK_F4) || (message == WM_SYSKEYDOWN && w_param == VK_DOWN);
+  if (opens) {
+    Open();
+    return 0;
+  }
+  const LRESULT result = ControlWindow::OnMessage(message, w_param, l_param);
+  if (message == WM_SIZE && button_ != nullptr) {
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    constexpr int kButtonWidth = 18;
+    const int width = Scaled(kButtonWidth, DotsPerInch());
+    SetWindowPos(button_->Handle(), nullptr, area.right - width, 0, width, area.bottom, SWP_NOZORDER);
+    SendMessageW(Handle(), EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, width));
+  }
+  return result;
+}
+
+SIZE Win32DatePicker::NeededSize() const {
+  constexpr int kBesideText = 40;
+  constexpr int kAroundText = 8;
+  // The longest name of a month, by and large.
+  return {TextSize("30 September 2026").cx + Scaled(kBesideText, DotsPerInch()),
+          TextSize("X").cy + Scaled(kAroundText, DotsPerInch())};
+}
+
+}  // namespace ferrowind::win32
