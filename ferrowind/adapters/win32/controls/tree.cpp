@@ -15,6 +15,12 @@ using platform::Failure;
 using platform::TreeNode;
 namespace failure_number = platform::failure_number;
 
+namespace {
+
+constexpr UINT kTellClick = WM_APP + 1;
+
+}  // namespace
+
 Win32Tree::Win32Tree(ControlHost& host, std::string name, HWND parent)
     : Win32Control(host, std::move(name),
                    {.window_class = WC_TREEVIEWW,
@@ -161,12 +167,22 @@ void Win32Tree::TellClickAtMouse() {
   if ((hit.flags & TVHT_ONITEM) == 0) return;
   const Node* node = NodeOfItem(hit.hItem);
   if (node == nullptr) return;
-  const std::string key = node->design.key;
+  clicked_key_ = node->design.key;
+  // The control selects the node only after it has told of the click, and a handler may remove it.
+  PostMessageW(Handle(), kTellClick, 0, 0);
+}
+
+LRESULT Win32Tree::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
+  if (message != kTellClick) return ControlWindow::OnMessage(message, w_param, l_param);
+  const std::string key = clicked_key_;
+  const auto clicked = nodes_.find(key);
+  if (clicked == nodes_.end()) return 0;
   if (Selected() != key) {
     const WhileTrue changing(is_changed_by_program_);
-    SendMessageW(Handle(), TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(hit.hItem));
+    SendMessageW(Handle(), TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(clicked->second.item));
   }
   RaiseEvent(node_clicked_, key);
+  return 0;
 }
 
 void Win32Tree::TellTip(NMTVGETINFOTIPW& asked) const {

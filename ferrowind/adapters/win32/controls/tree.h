@@ -54,6 +54,7 @@ class Win32Tree final : public Win32Control<platform::Tree> {
   [[nodiscard]] bool FillsHeight() const override { return true; }
 
  protected:
+  LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;
   [[nodiscard]] SIZE NeededSize() const override;
 
  private:
@@ -75,6 +76,8 @@ class Win32Tree final : public Win32Control<platform::Tree> {
   void TellClickAtMouse();
 
   std::map<std::string, Node> nodes_;
+  /// The node whose click is to be told.
+  std::string clicked_key_;
   /// While the program selects or removes nodes, what the platform tells of that is no news.
   bool is_changed_by_program_ = false;
   platform::Signal<const std::string&> node_clicked_;

@@ -1,0 +1,428 @@
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/controls/control_window.h"
+#include "ferrowind/adapters/win32/controls/date_picker.h"
+#include "ferrowind/adapters/win32/controls/date_words.h"
+#include "ferrowind/adapters/win32/controls/shortcut.h"
+#include "ferrowind/adapters/win32/controls/tool_bar.h"
+#include "ferrowind/adapters/win32/controls/tree.h"
+#include "ferrowind/adapters/win32/controls/window_text.h"
+#include "ferrowind/adapters/win32/forms/win32_form.h"
+#include "ferrowind/adapters/win32/forms/win32_toolkit.h"
+#include "ferrowind/adapters/win32/grid/grid.h"
+#include "ferrowind/adapters/win32/grid/grid_menu.h"
+
+#include "tests/contract/toolkit/toolkit_under_test.h"
+#include "tests/windows/win32/contract_layouts.h"
+#include "tests/windows/win32/input.h"
+
+namespace ferrowind::contract {
+namespace {
+
+constexpr std::int32_t kPollMilliseconds = 10;
+constexpr int kPolls = 1500;
+
+/// The adapter's object behind a port.
+template <typename Kind, typename Port>
+Kind& As(Port& port) {
+  return dynamic_cast<Kind&>(port);
+}
+
+HWND WindowOf(platform::Control& control) { return As<win32::ControlWindow>(control).Handle(); }
+HWND WindowOf(platform::Form& form) { return As<win32::Win32Form>(form).Window().Handle(); }
+
+/// For what the adapter does not show yet; the contracts that need it are not among its tests.
+[[noreturn]] void NotShown() { throw std::logic_error("The adapter does not show this yet"); }
+
+/// Runs `action` out of the message loop as soon as `is_ready`; gives up, with `give_up`, when that takes too
+/// long.
+class WhenReady {
+ public:
+  WhenReady(platform::Toolkit& toolkit, std::function<bool()> is_ready, std::function<void()> action,
+            std::function<void()> give_up)
+      : toolkit_(toolkit),
+        is_ready_(std::move(is_ready)),
+        action_(std::move(action)),
+        give_up_(std::move(give_up)) {
+    Poll();
+  }
+
+ private:
+  void Poll() {
+    poll_ = toolkit_.After(kPollMilliseconds, [this] {
+      if (is_ready_()) {
+        action_();
+      } else if (++polls_ > kPolls) {
+        ADD_FAILURE() << "What the operator waited for did not appear";
+        give_up_();
+      } else {
+        Poll();
+      }
+    });
+  }
+
+  platform::Toolkit& toolkit_;
+  std::function<bool()> is_ready_;
+  std::function<void()> action_;
+  std::function<void()> give_up_;
+  platform::Subscription poll_;
+  int polls_ = 0;
+};
+
+class Win32ToolkitUnderTest : public ToolkitUnderTest {
+ public:
+  Win32ToolkitUnderTest() {
+    // Away from where the windows open, so that nothing of them lies under it at once.
+    MoveMouse({GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1});
+  }
+
+  [[nodiscard]] platform::Toolkit& Toolkit() override { return toolkit_; }
+  [[nodiscard]] std::string AnimatedImage() override { return FERROWIND_ANIMATION; }
+
+  void ShowModal(platform::Form& form, std::function<void()> operator_script) override {
+    const WhenReady ready(
+        toolkit_, [&] { return form.IsShown(); }, std::move(operator_script), [&] { form.Hide(); });
+    form.ShowModal();
+  }
+  void CloseByFrame(platform::Form& form) override {
+    SendMessageW(WindowOf(form), WM_SYSCOMMAND, SC_CLOSE, 0);
+    HandleMessages();
+  }
+  void ResizeByFrame(platform::Form& form, float width, float height) override {
+    const float pixels = 1 / toolkit_.TwipsPerPixelX();
+    SetWindowPos(WindowOf(form), nullptr, 0, 0, static_cast<int>(width * pixels),
+                 static_cast<int>(height * pixels), SWP_NOMOVE | SWP_NOZORDER);
+    HandleMessages();
+  }
+  void Minimise(platform::Form& form) override {
+    SendMessageW(WindowOf(form), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    HandleMessages();
+  }
+  [[nodiscard]] bool IsMinimised(platform::Form& form) override { return IsIconic(WindowOf(form)) != 0; }
+  void PressEnter(platform::Form& form) override {
+    Activate(form);
+    PressKey(VK_RETURN);
+  }
+  void PressEscape(platform::Form& form) override {
+    Activate(form);
+    PressKey(VK_ESCAPE);
+  }
+
+  void Wait(std::int32_t milliseconds) override {
+    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+    for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
+      HandleMessages();
+    }
+  }
+
+  [[nodiscard]] std::optional<std::string> AskForFile(const std::optional<std::string>& name) override {
+    return WithoutFolder(Ask(name, [&] {
+      return toolkit_.ChooseFileToSave("Save the year", "EUR 2027",
+                                       {{"PDF document", "pdf"}, {"PNG picture", "png"}});
+    }));
+  }
+  [[nodiscard]] std::optional<std::string> AskForFileToRead(const std::optional<std::string>& name) override {
+    return WithoutFolder(Ask(name, [&] {
+      return toolkit_.ChooseFileToOpen("Open a list", "Lists of days", {"ics", "csv"});
+    }));
+  }
+
+  void Click(platform::Button& button) override {
+    // Another window may lie above it.
+    if (IsWindowEnabled(WindowOf(button)) != 0) SetForegroundWindow(GetAncestor(WindowOf(button), GA_ROOT));
+    HandleMessages();
+    ClickMouse(MiddleOf(WindowOf(button)));
+  }
+  void TypeText(platform::TextBox& text_box, const std::string& text) override {
+    const HWND box = WindowOf(text_box);
+    if (GetFocus() != box) {
+      text_box.SetFocus();
+      HandleMessages();
+      DWORD first = 0;
+      DWORD end = 0;
+      SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&end));
+      if (first == end) PressKey(VK_END);
+    }
+    DWORD first = 0;
+    DWORD end = 0;
+    SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&end));
+    if (first == end) PressKey(VK_END);
+    TypeKeys(win32::ToWide(text));
+  }
+  void PressTextKeys(platform::Form& form, const std::string& text) override {
+    Activate(form);
+    TypeKeys(win32::ToWide(text));
+  }
+  void Choose(platform::DropDownList& list, const std::string& item) override {
+    list.SetFocus();
+    HandleMessages();
+    TypeKeys(win32::ToWide(item).substr(0, 1));
+  }
+  void PickDate(platform::DatePicker& picker, const platform::Date& date) override {
+    Retype(picker, win32::FormatDate(date, L"d MMMM"));
+  }
+  void TypeNoDate(platform::DatePicker& picker) override { Retype(picker, L"31 Foo"); }
+  [[nodiscard]] bool ShowsRefusal(platform::DatePicker& picker) override {
+    return As<win32::Win32DatePicker>(picker).ShowsRefusal();
+  }
+  void StepUp(platform::UpDown& up_down) override { Step(up_down, 1); }
+  void StepDown(platform::UpDown& up_down) override { Step(up_down, 3); }
+
+  void ClickNode(platform::Tree& tree, const std::string& key) override {
+    ClickMouse(MiddleOf(WindowOf(tree), NodeArea(tree, key)));
+  }
+  void ToggleNode(platform::Tree& tree, const std::string& key) override {
+    RECT text = NodeArea(tree, key);
+    // The mark stands before the text.
+    const LONG mark = (text.bottom - text.top) / 2;
+    ClickMouse(MiddleOf(WindowOf(tree), {text.left - 2 * mark, text.top, text.left, text.bottom}));
+  }
+
+  void ClickTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    ClickMouse(MiddleOf(WindowOf(tool_bar), ToolArea(tool_bar, id)));
+  }
+  void PressShortcut(platform::Form& form, const std::string& shortcut) override {
+    Activate(form);
+    const auto press = win32::ReadShortcut(shortcut);
+    ASSERT_TRUE(press);
+    Held held;
+    if (press->has_control) held.push_back(VK_CONTROL);
+    if (press->has_shift) held.push_back(VK_SHIFT);
+    if (press->has_alt) held.push_back(VK_MENU);
+    PressKey(static_cast<WORD>(press->key), held);
+  }
+  void EnterTool(platform::ToolBar& tool_bar, const std::string& id) override {
+    MoveMouse(MiddleOf(WindowOf(tool_bar), ToolArea(tool_bar, id)));
+  }
+  void LeaveTool(platform::ToolBar& tool_bar, const std::string& /*id*/) override {
+    MoveMouse(MiddleOf(GetAncestor(WindowOf(tool_bar), GA_ROOT)));
+    // The platform tells of it a moment later.
+    Wait(kPollMilliseconds * 80);
+  }
+  void ShowPopupAndChoose(platform::ToolBar& tool_bar, const std::string& menu_id,
+                          const std::string& tool_id) override {
+    const int command = tool_id.empty() ? 0 : As<win32::Win32ToolBar>(tool_bar).CommandOf(tool_id);
+    const WhenReady ready(
+        toolkit_, [] { return OpenMenu() != nullptr; }, [&] { ChooseInMenu(static_cast<UINT>(command)); },
+        [] { EndMenu(); });
+    tool_bar.ShowPopupMenu(menu_id);
+  }
+
+  void ClickCell(platform::Table&, const std::string&, const std::string&) override { NotShown(); }
+  void DoubleClickCell(platform::Table&, const std::string&, const std::string&) override { NotShown(); }
+  void ExtendToTableRow(platform::Table&, const std::string&) override { NotShown(); }
+  void ClickBox(platform::Table&, const std::string&) override { NotShown(); }
+  void ClickTableHeader(platform::Table&, const std::string&) override { NotShown(); }
+  void PressSpace(platform::Table&) override { NotShown(); }
+  void PressCopy(platform::Table&) override { NotShown(); }
+  [[nodiscard]] std::string ClipboardText() override {
+    OpenClipboard(nullptr);
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    std::wstring text;
+    if (memory != nullptr) {
+      text = static_cast<const wchar_t*>(GlobalLock(memory));
+      GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    std::erase(text, L'\r');
+    return win32::FromWide(text);
+  }
+
+  void ClickRow(platform::Grid& grid, std::int32_t row, std::int32_t button) override {
+    ClickMouse(RowPlace(grid, row), button == platform::kRightButton);
+  }
+  void ToggleRow(platform::Grid& grid, std::int32_t row) override {
+    ClickMouse(RowPlace(grid, row), false, {VK_CONTROL});
+  }
+  void ExtendToRow(platform::Grid& grid, std::int32_t row) override {
+    ClickMouse(RowPlace(grid, row), false, {VK_SHIFT});
+  }
+  void ToggleGroup(platform::Grid& grid, std::int32_t row) override { DoubleClickMouse(RowPlace(grid, row)); }
+  void ClickHeader(platform::Grid& grid, const std::string& column_key) override {
+    ClickMouse(HeaderPlace(grid, column_key));
+  }
+  void DragHeaderToGroups(platform::Grid& grid, const std::string& column_key) override {
+    const RECT box = As<win32::Win32Grid>(grid).Geometry().BoxArea();
+    DragMouse(HeaderPlace(grid, column_key),
+              MiddleOf(WindowOf(grid), {box.right - 20, box.top, box.right, box.bottom}));
+  }
+  void DragGroupAway(platform::Grid& grid, std::int32_t position) override {
+    const auto& geometry = As<win32::Win32Grid>(grid).Geometry();
+    DragMouse(MiddleOf(WindowOf(grid), geometry.ChipArea(position)),
+              MiddleOf(WindowOf(grid), geometry.RowsArea()));
+  }
+  void ToggleGroupByBox(platform::Grid& grid) override {
+    grid.SetFocus();
+    Settle();
+    const WhenReady ready(
+        toolkit_, [] { return OpenMenu() != nullptr; },
+        [] { ChooseInMenu(static_cast<UINT>(win32::HeaderCommand::kToggleBox)); }, [] { EndMenu(); });
+    PressKey(VK_DOWN, {VK_MENU});
+  }
+  [[nodiscard]] std::string CellText(platform::Grid& grid, std::int32_t row,
+                                     const std::string& column_key) override {
+    const auto& content = As<win32::Win32Grid>(grid).Content();
+    return win32::FromWide(content.Cells().ShownText(content.Columns().ByKey(column_key).Index(),
+                                                     content.RecordInRow(Place(row)).value()));
+  }
+  [[nodiscard]] std::string GroupText(platform::Grid& grid, std::int32_t row) override {
+    const auto& content = As<win32::Win32Grid>(grid).Content();
+    return win32::FromWide(content.LabelOf(content.Rows().RowAt(Place(row)).group));
+  }
+  [[nodiscard]] RowLook LookOf(platform::Grid& grid, std::int32_t row) override {
+    const auto& content = As<win32::Win32Grid>(grid).Content();
+    const auto look = content.LookOf(content.RecordInRow(Place(row)).value());
+    return {look.fore_color, look.is_bold, look.is_struck_through};
+  }
+
+  void ClickDay(platform::YearView&, const platform::YearCell&, std::int32_t) override { NotShown(); }
+  void ToggleDay(platform::YearView&, const platform::YearCell&) override { NotShown(); }
+  void ExtendToDay(platform::YearView&, const platform::YearCell&) override { NotShown(); }
+  void DragDays(platform::YearView&, const platform::YearCell&, const platform::YearCell&) override {
+    NotShown();
+  }
+  void PressDayKey(platform::YearView&, DayKey, bool) override { NotShown(); }
+  void PressEnterOnDay(platform::YearView&) override { NotShown(); }
+  void PressMenuKeyOnDay(platform::YearView&) override { NotShown(); }
+  [[nodiscard]] std::string DayText(platform::YearView&, const platform::YearCell&) override { NotShown(); }
+
+ private:
+  static void Activate(platform::Form& form) {
+    SetForegroundWindow(WindowOf(form));
+    Settle();
+  }
+  static std::uint32_t Place(std::int32_t row) { return static_cast<std::uint32_t>(row) - 1; }
+  static POINT RowPlace(platform::Grid& grid, std::int32_t row) {
+    HandleMessages();
+    return MiddleOf(WindowOf(grid), As<win32::Win32Grid>(grid).Geometry().RowArea(Place(row)));
+  }
+  static POINT HeaderPlace(platform::Grid& grid, const std::string& column_key) {
+    HandleMessages();
+    return MiddleOf(WindowOf(grid),
+                    As<win32::Win32Grid>(grid).Geometry().HeaderArea(grid.ColumnByKey(column_key).Index()));
+  }
+  static void Retype(platform::DatePicker& picker, const std::wstring& text) {
+    picker.SetFocus();
+    HandleMessages();
+    SendMessageW(WindowOf(picker), EM_SETSEL, 0, -1);
+    TypeKeys(text);
+  }
+  /// Clicks at so many quarters of the height.
+  static void Step(platform::UpDown& up_down, int quarters) {
+    RECT area{};
+    GetClientRect(WindowOf(up_down), &area);
+    const LONG y = area.bottom * quarters / 4;
+    ClickMouse(MiddleOf(WindowOf(up_down), {area.left, y, area.right, y}));
+  }
+  static RECT NodeArea(platform::Tree& tree, const std::string& key) {
+    HandleMessages();
+    RECT area{};
+    *reinterpret_cast<HTREEITEM*>(&area) = As<win32::Win32Tree>(tree).ItemOf(key);
+    SendMessageW(WindowOf(tree), TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&area));
+    return area;
+  }
+  static RECT ToolArea(platform::ToolBar& tool_bar, const std::string& id) {
+    HandleMessages();
+    RECT area{};
+    SendMessageW(WindowOf(tool_bar), TB_GETRECT,
+                 static_cast<WPARAM>(As<win32::Win32ToolBar>(tool_bar).CommandOf(id)),
+                 reinterpret_cast<LPARAM>(&area));
+    return area;
+  }
+  static HWND OpenMenu() {
+    const HWND menu = FindWindowW(L"#32768", nullptr);
+    return menu != nullptr && IsWindowVisible(menu) != 0 ? menu : nullptr;
+  }
+  static void ChooseInMenu(UINT command) {
+    constexpr UINT kAskForMenu = 0x01E1;
+    const auto menu = reinterpret_cast<HMENU>(SendMessageW(OpenMenu(), kAskForMenu, 0, 0));
+    for (int place = 0; command != 0 && place < GetMenuItemCount(menu); ++place) {
+      if (GetMenuItemID(menu, place) != command) continue;
+      RECT item{};
+      GetMenuItemRect(nullptr, menu, static_cast<UINT>(place), &item);
+      SendClickToMenu({(item.left + item.right) / 2, (item.top + item.bottom) / 2});
+      return;
+    }
+    EndMenu();
+  }
+  /// The menu's own message loop is to handle it.
+  static void SendClickToMenu(POINT screen) {
+    SetCursorPos(screen.x, screen.y);
+    INPUT inputs[2]{};
+    for (INPUT& input : inputs) input.type = INPUT_MOUSE;
+    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    SendInput(2, inputs, sizeof(INPUT));
+  }
+
+  /// Answers a question for a file, in a folder where "days.ics" is.
+  std::optional<std::string> Ask(const std::optional<std::string>& name,
+                                 const std::function<std::optional<std::string>()>& ask) {
+    const auto question = [] {
+      HWND found = nullptr;
+      EnumThreadWindows(
+          GetCurrentThreadId(),
+          [](HWND window, LPARAM result) -> BOOL {
+            wchar_t name_of_class[16]{};
+            GetClassNameW(window, name_of_class, 16);
+            if (IsWindowVisible(window) == 0 || std::wstring(name_of_class) != L"#32770") return TRUE;
+            *reinterpret_cast<HWND*>(result) = window;
+            return FALSE;
+          },
+          reinterpret_cast<LPARAM>(&found));
+      return found;
+    };
+    const WhenReady ready(
+        toolkit_, [&] { return question() != nullptr; },
+        [&] {
+          if (!name) {
+            PostMessageW(question(), WM_COMMAND, IDCANCEL, 0);
+            return;
+          }
+          SetFileName(question(), (folder_ / *name).wstring());
+          PostMessageW(question(), WM_COMMAND, IDOK, 0);
+        },
+        [&] { PostMessageW(question(), WM_COMMAND, IDCANCEL, 0); });
+    return ask();
+  }
+  static void SetFileName(HWND question, const std::wstring& text) {
+    EnumChildWindows(
+        question,
+        [](HWND child, LPARAM given) -> BOOL {
+          wchar_t name_of_class[16]{};
+          GetClassNameW(child, name_of_class, 16);
+          if (std::wstring(name_of_class) != L"Edit") return TRUE;
+          SetWindowTextW(child, reinterpret_cast<const wchar_t*>(given));
+          return FALSE;
+        },
+        reinterpret_cast<LPARAM>(text.c_str()));
+  }
+  static std::optional<std::string> WithoutFolder(const std::optional<std::string>& path) {
+    if (!path) return std::nullopt;
+    return win32::FromWide(std::filesystem::path(win32::ToWide(*path)).filename().wstring());
+  }
+
+  /// A folder with the file "days.ics".
+  [[nodiscard]] static std::filesystem::path MakeFolder() {
+    auto folder = std::filesystem::temp_directory_path() / "ferrowind_toolkit_contract";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "days.ics") << "BEGIN:VCALENDAR";
+    return folder;
+  }
+
+  std::filesystem::path folder_ = MakeFolder();
+  win32::Win32Toolkit toolkit_{ContractLayouts()};
+};
+
+}  // namespace
+
+std::unique_ptr<ToolkitUnderTest> MakeToolkitUnderTest() { return std::make_unique<Win32ToolkitUnderTest>(); }
+
+}  // namespace ferrowind::contract
