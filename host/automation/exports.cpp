@@ -3,8 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include <olectl.h>
 #include <windows.h>
+#include <olectl.h>
 
 #include "ferrowind/adapters/automation/calendar_factory.h"
 #include "ferrowind/adapters/automation/call_guard.h"

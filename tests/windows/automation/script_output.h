@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 
 namespace ferrowind::testing {
 

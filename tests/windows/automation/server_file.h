@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include <windows.h>
 #include <gtest/gtest.h>
 #include <objbase.h>
-#include <windows.h>
 
 namespace ferrowind::testing {
 

@@ -8,8 +8,8 @@
 #include <thread>
 #include <vector>
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 #include <winver.h>
 
 #include "ferrowind/adapters/automation/com_pointer.h"
