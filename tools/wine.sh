@@ -23,6 +23,8 @@ if [ ! -e "$WINEPREFIX/made" ]; then
   if [ ! -e "$WINEPREFIX/made" ]; then
     # Wine's own programs outlive this one, and must not keep what waits for its output waiting.
     wineboot --init </dev/null >"$WINEPREFIX/wineboot.log" 2>&1 {lock}>&-
+    # A display without a window manager, which each window that opens would be waited for in vain.
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f </dev/null >>"$WINEPREFIX/wineboot.log" 2>&1 {lock}>&-
     wineserver --wait {lock}>&-
     touch -- "$WINEPREFIX/made"
   fi
