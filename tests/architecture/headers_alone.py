@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """Checks that every header of the house compiles as the only include of a source, and may be included twice.
 
-usage: headers_alone.py ROOT BUILD_FOLDER
+usage: headers_alone.py ROOT BUILD_FOLDER [FOLDER...]    FOLDER: of the house, the only ones that are looked at
 
 A header with a source of its own is compiled by that one, which has to include it first; release_build.py compiles all
 sources without precompiled headers. The others are compiled here, with the flags of a source in their folder, as the
 build recorded them in compile_commands.json; a folder without sources needs none but the repository's root and the
-language standard. Nothing is written.
+language standard. A folder of whose sources the build compiles none is another system's, and checked with the build for
+that one. Nothing is written.
 """
 
 import concurrent.futures
@@ -56,6 +57,12 @@ def recorded_flags(root: pathlib.Path, build: pathlib.Path) -> tuple[str, dict[s
     return compiler, flags
 
 
+def foreign_folders(root: pathlib.Path, flags: dict[str, list[str]]) -> set[str]:
+    """The folders with sources none of which the build compiles."""
+    sources = (path for top in HOUSE for path in (root / top).rglob("*.cpp"))
+    return {path.relative_to(root).parent.as_posix() for path in sources} - flags.keys()
+
+
 def order_complaint(root: pathlib.Path, header: str, source: pathlib.Path) -> str:
     """What is wrong with the first include of the header's own source; nothing when it is the header."""
     first = INCLUDE.search(source.read_text(encoding="utf-8"))
@@ -81,12 +88,14 @@ def compile_alone(root: pathlib.Path, header: str, compiler: str, flags: list[st
     return f"{header} does not compile alone:\n{run.stderr}"
 
 
-def check(root: pathlib.Path, build: pathlib.Path) -> tuple[int, list[str]]:
+def check(root: pathlib.Path, build: pathlib.Path, folders: tuple[str, ...] = HOUSE) -> tuple[int, list[str]]:
     """How many headers there are, and what is wrong with them."""
     compiler, flags = recorded_flags(root, build)
     if not compiler:
         return 0, [f"{build}/compile_commands.json names no compiler"]
-    headers = sorted(path.relative_to(root).as_posix() for top in HOUSE for path in (root / top).rglob("*.h"))
+    foreign = foreign_folders(root, flags)
+    headers = sorted(path.relative_to(root).as_posix() for top in folders for path in (root / top).rglob("*.h"))
+    headers = [header for header in headers if os.path.dirname(header) not in foreign]
     bare = ["-std=c++20", f"-I{root}", *WARNINGS]
 
     def complaint_about(header: str) -> str:
@@ -101,10 +110,11 @@ def check(root: pathlib.Path, build: pathlib.Path) -> tuple[int, list[str]]:
 
 
 def main(arguments: list[str]) -> int:
-    if len(arguments) != 2:
+    if len(arguments) < 2:
         print(__doc__, file=sys.stderr)
         return 2
-    count, errors = check(pathlib.Path(arguments[0]).resolve(), pathlib.Path(arguments[1]).resolve())
+    root, build = (pathlib.Path(argument).resolve() for argument in arguments[:2])
+    count, errors = check(root, build, tuple(arguments[2:]) or HOUSE)
     if count == 0:
         errors.append("no header found: this is not the repository's root")
     print("\n".join(errors) if errors else f"Each of the {count} headers compiles alone.")

@@ -158,6 +158,16 @@ class HeadersAlone(TemporaryTree):
         self.assertEqual(len(errors), 1)
         self.assertIn("ferrowind/data/cell.cpp does not include ferrowind/data/cell.h first", errors[0])
 
+    def test_leaves_a_folder_to_the_build_that_compiles_its_sources(self):
+        self.write("ferrowind/elsewhere/row.cpp", '#include "ferrowind/elsewhere/row.h"\n')
+        self.write("ferrowind/elsewhere/cell.h", "#pragma once\n#include <no_header_of_this_system.h>\n")
+        self.assertEqual(headers_alone.check(self.root, self.root / "build"), (1, []))
+
+    def test_looks_at_the_folders_that_it_is_told(self):
+        self.write("ferrowind/views/row.h", "#pragma once\nstruct Row { std::string name; };\n")
+        self.assertEqual(headers_alone.check(self.root, self.root / "build", ("ferrowind/data",)), (1, []))
+        self.assertEqual(len(headers_alone.check(self.root, self.root / "build", ("ferrowind/views",))[1]), 1)
+
     def test_refuses_a_build_that_recorded_no_compiler(self):
         self.write("build/compile_commands.json", "[]")
         self.assertIn("names no compiler", self.errors()[0])
