@@ -26,10 +26,13 @@ apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Ide
 apt_get() {
   apt-get -qq -o Dir::Etc::SourceList="$work/sources.list" -o Dir::Etc::SourceParts=/dev/null \
     -o Dir::State::Lists="$work/lists" -o Dir::Cache::Archives="$work/archives" -o Dir::Cache::pkgcache= \
-    -o Dir::Cache::srcpkgcache= "$@"
+    -o Dir::Cache::srcpkgcache= -o APT::Sandbox::User="$(id -un)" "$@"
 }
 apt_get update
-(cd -- "$work/source" && apt_get source "sqlite3=$version")
+(cd -- "$work/source" && apt_get source "sqlite3=$version") >"$work/log" 2>&1 || {
+  tail -n 20 -- "$work/log" >&2
+  exit 1
+}
 package=$(find "$work/source" -mindepth 1 -maxdepth 1 -type d)
 
 # The whole library in one file, which the package's own programs put together.
