@@ -32,5 +32,6 @@ extern const std::string_view kSqliteUpgradeToRuleBooks;
 extern const std::string_view kSqliteUpgradeToFirstYears;
 extern const std::string_view kSqliteUpgradeToGuardedRecords;
 extern const std::string_view kSqliteUpgradeToBusinessDays;
+extern const std::string_view kSqliteUpgradeToQuickerClosedDays;
 
 }  // namespace ferrowind::embedded

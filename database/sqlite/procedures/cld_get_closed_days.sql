@@ -10,12 +10,20 @@ SELECT 7 AS "@return" WHERE NOT ifnull(:FromYear <= :ToYear, 0);
 
 SELECT k.ID1, k.Year1, (
   SELECT group_concat(IsClosed, '')
-  FROM (SELECT d.TID1 <> 1 AS IsClosed FROM CldDay d WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 ORDER BY d.Day1)
+  FROM (
+    -- Texts, since joining numbers takes half as long again.
+    SELECT CASE d.TID1 WHEN 1 THEN '0' ELSE '1' END AS IsClosed
+    FROM CldDay d WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 ORDER BY d.Day1
+  )
 ) AS Days, c.Ccy, EXISTS (
   SELECT 1 FROM CldDay d WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 AND d.ID2 IS NOT NULL AND d.TID1 > 2
 ) AS IsPrepared, ifnull((
   SELECT group_concat(ID2, ',')
-  FROM (SELECT d.ID2 FROM CldDay d WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 AND d.TID1 <> 1 ORDER BY d.Day1)
+  FROM (
+    -- Closed days have a rule, which lets the index of those that have one do.
+    SELECT d.ID2 FROM CldDay d
+    WHERE d.ID1 = k.ID1 AND d.Year1 = k.Year1 AND d.ID2 IS NOT NULL AND d.TID1 <> 1 ORDER BY d.Day1
+  )
 ), '') AS Rules
 FROM CldCalendar k JOIN DicCcy c ON c.CcyID = k.ID1
 WHERE k.Year1 BETWEEN :FromYear AND :ToYear

@@ -18,11 +18,10 @@ platform::Value Answer(ServerConnection& connection, const char* question) {
 }  // namespace
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
-  static const std::vector<content::UpgradeScript> scripts = {{2, embedded::kPostgresUpgradeToHistory},
-                                                              {3, embedded::kPostgresUpgradeToPlans},
-                                                              {4, embedded::kPostgresUpgradeToFirstYears},
-                                                              {5, embedded::kPostgresUpgradeToGuardedRecords},
-                                                              {6, embedded::kPostgresUpgradeToBusinessDays}};
+  static const std::vector<content::UpgradeScript> scripts = {
+      {2, embedded::kPostgresUpgradeToHistory},      {3, embedded::kPostgresUpgradeToPlans},
+      {4, embedded::kPostgresUpgradeToFirstYears},   {5, embedded::kPostgresUpgradeToGuardedRecords},
+      {6, embedded::kPostgresUpgradeToBusinessDays}, {7, embedded::kPostgresUpgradeToQuickerClosedDays}};
   return scripts;
 }
 

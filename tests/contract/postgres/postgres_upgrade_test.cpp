@@ -76,7 +76,7 @@ SELECT concat(
   (SELECT string_agg(format('%s %s %s', CcyID, Ccy, Name), ',' ORDER BY CcyID) FROM ferrowind.DicCcy
    WHERE CcyID NOT IN (396, 530, 532, 924))))sql";
 
-constexpr std::int64_t kThisVersion = 6;
+constexpr std::int64_t kThisVersion = 8;
 
 void ExpectUpgradeFrom(int version) {
   const OldDatabase old(version);
@@ -101,6 +101,8 @@ TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion3IsLikeANewOneAndKeepsItsData) 
 TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion4IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(4); }
 
 TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion5IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(5); }
+
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion6IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(6); }
 
 TEST(PostgresUpgrade, BooksFromBeforeTellOfAllYearsAndChangesOfThemCanBeUndone) {
   OldDatabase old(3);
@@ -203,9 +205,9 @@ TEST(PostgresUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
 
 TEST(PostgresUpgrade, ADatabaseOfANewerVersionIsRefused) {
   PostgresDatabase fresh;
-  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 7");
+  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 8");
   EXPECT_THAT(FailureTextOf([&] { postgres::UpgradeDatabase(postgres_server::SuperuserUri(fresh.Name())); }),
-              AllOf(HasSubstr("has the schema version 7; this program's is 6"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 8; this program's is 7"), HasSubstr("newer")));
 }
 
 TEST(PostgresUpgrade, AScriptThatFailsAtTheEndLeavesTheDatabaseAsItWas) {

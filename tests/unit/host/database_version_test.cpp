@@ -75,7 +75,7 @@ TEST_F(DatabaseVersionTest, TheProgramsOwnDatabaseIsUpgraded) {
   UpgradeOwnDatabase(engines_, url_);
   EXPECT_THAT(sqlite::CheckDatabase(path_), IsEmpty());
   UpgradeOwnDatabase(engines_, url_);
-  EXPECT_EQ(sqlite::ReadSchemaVersion(path_), 6);
+  EXPECT_EQ(sqlite::ReadSchemaVersion(path_), 7);
 }
 
 TEST_F(DatabaseVersionTest, TheBooksOfTheProgramsOwnDatabaseLearnSinceWhenTheyHold) {

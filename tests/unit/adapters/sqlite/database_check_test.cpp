@@ -53,8 +53,8 @@ class DatabaseCheckTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 7"),
-              ElementsAre("The database has the schema version 7; this program's is 6"));
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 8"),
+              ElementsAre("The database has the schema version 8; this program's is 7"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {

@@ -1,0 +1,1 @@
+-- From version 6 to version 7: CldGetClosedDays reads less. Every upgrade replaces the procedures, so that is all.
