@@ -6,9 +6,9 @@
 #include <windows.h>
 #include <olectl.h>
 
-#include "ferrowind/adapters/automation/calendar_factory.h"
 #include "ferrowind/adapters/automation/call_guard.h"
 #include "ferrowind/adapters/automation/com_pointer.h"
+#include "ferrowind/adapters/automation/embedding/calendar_factory.h"
 #include "ferrowind/adapters/automation/module.h"
 #include "ferrowind/adapters/automation/native_failure.h"
 #include "ferrowind/adapters/automation/registration.h"

@@ -8,6 +8,7 @@
 #include <oaidl.h>
 #include <oleauto.h>
 
+#include "ferrowind/adapters/automation/class_title.h"
 #include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/miscellaneous_status.h"
 #include "ferrowind/adapters/automation/module.h"
@@ -47,11 +48,10 @@ void AddClass(Registered& to, const std::wstring& library, const std::wstring& v
   const auto& control = type_library::kClasses[0];
   const std::wstring identifier = Utf16(control.class_id);
   const std::wstring name = Utf16(type_library::kCalendarProgrammaticIdentifier);
-  const std::wstring title = L"Ferrowind holiday calendars";
   const std::wstring key = L"CLSID\\" + identifier;
-  to.entries.push_back({name, L"", title});
+  to.entries.push_back({name, L"", kClassTitle});
   to.entries.push_back({name + L"\\CLSID", L"", identifier});
-  to.entries.push_back({key, L"", title});
+  to.entries.push_back({key, L"", kClassTitle});
   to.entries.push_back({key + L"\\InprocServer32", L"", path});
   to.entries.push_back({key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"});
   to.entries.push_back({key + L"\\ProgID", L"", name});
@@ -81,7 +81,7 @@ void AddLibrary(Registered& to, const std::wstring& library, const std::wstring&
   constexpr const wchar_t* kSystem = sizeof(void*) == 8 ? L"win64" : L"win32";
   const std::wstring top = L"TypeLib\\" + library;
   const std::wstring key = top + L"\\" + version;
-  to.entries.push_back({key, L"", L"Ferrowind holiday calendars"});
+  to.entries.push_back({key, L"", kClassTitle});
   to.entries.push_back({key + L"\\0\\" + kSystem, L"", path});
   to.entries.push_back({key + L"\\FLAGS", L"", L"0"});
   to.entries.push_back({key + L"\\HELPDIR", L"", path.substr(0, path.find_last_of(L'\\'))});

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <objbase.h>
 
-#include "ferrowind/adapters/automation/calendar_factory.h"
 #include "ferrowind/adapters/automation/com_pointer.h"
+#include "ferrowind/adapters/automation/embedding/calendar_factory.h"
 #include "ferrowind/adapters/automation/surroundings.h"
 #include "ferrowind/adapters/headless/world.h"
 

@@ -1,10 +1,10 @@
-#include "ferrowind/adapters/automation/calendar_factory.h"
+#include "ferrowind/adapters/automation/embedding/calendar_factory.h"
 
 #include <memory>
 
-#include "ferrowind/adapters/automation/calendar_object.h"
 #include "ferrowind/adapters/automation/call_guard.h"
 #include "ferrowind/adapters/automation/com_pointer.h"
+#include "ferrowind/adapters/automation/embedding/form_control.h"
 #include "ferrowind/adapters/automation/native_failure.h"
 
 namespace ferrowind::automation {
@@ -23,8 +23,8 @@ HRESULT CalendarFactory::CreateInstance(IUnknown* outer, REFIID iid, void** obje
   *object = nullptr;
   if (outer != nullptr) return CLASS_E_NOAGGREGATION;
   return Guarded(this, __uuidof(IClassFactory), [&] {
-    ComPointer<CalendarObject> made;
-    made.Attach(new CalendarObject(PlatformOfThread(make_surroundings_)));
+    ComPointer<FormControl> made;
+    made.Attach(new FormControl(PlatformOfThread(make_surroundings_)));
     RequireSuccess(made->QueryInterface(iid, object));
   });
 }
