@@ -16,8 +16,9 @@
 
 #include "generated/ferrowind.h"
 #include "tests/windows/automation/control_thread.h"
+#include "tests/windows/automation/host_process.h"
 #include "tests/windows/automation/late_call.h"
-#include "tests/windows/automation/script_output.h"
+#include "tests/windows/automation/registered_file.h"
 
 namespace ferrowind::testing {
 namespace {
@@ -80,17 +81,6 @@ class EmptyRegistry {
  private:
   static constexpr const wchar_t* kName = L"Software\\FerrowindTest";
   HKEY key_ = nullptr;
-};
-
-/// The file, registered for all as long as it lives.
-class RegisteredFile {
- public:
-  RegisteredFile() { EXPECT_EQ(file.Register(), S_OK); }
-  ~RegisteredFile() { EXPECT_EQ(file.Unregister(), S_OK); }
-  RegisteredFile(const RegisteredFile&) = delete;
-  RegisteredFile& operator=(const RegisteredFile&) = delete;
-
-  ServerFile file;
 };
 
 ComPointer<_Calendar> CreateByName() {
@@ -252,11 +242,11 @@ TEST(ServerInAnotherApartment, IsCalledThroughThePlatform) {
 TEST(ServerInAScript, ChangesColumnsAndTellsWhatIsRefused) {
   const RegisteredFile registered;
   const std::string folder = FERROWIND_HOSTS;
-  const std::string said = OutputOfScript(automation::Utf16(folder + "/late_bound.vbs"));
+  const HostProcess host(L"cscript.exe //nologo \"" + automation::Utf16(folder + "/late_bound.vbs") + L"\"");
   std::ifstream file(folder + "/late_bound.txt");
   const std::string expected{std::istreambuf_iterator<char>(file), {}};
   ASSERT_FALSE(expected.empty());
-  EXPECT_EQ(said, expected);
+  EXPECT_EQ(host.Output(), expected);
 }
 
 }  // namespace
