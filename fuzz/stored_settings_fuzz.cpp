@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "ferrowind/adapters/qt/grid/grid_layout.h"
-#include "ferrowind/adapters/qt/services/setting_text.h"
+#include "ferrowind/adapters/grid_content/grid_layout.h"
+#include "ferrowind/adapters/operator_services/setting_text.h"
 #include "ferrowind/adapters/qt/services/settings_store.h"
 #include "ferrowind/adapters/qt/values/twips.h"
 #include "ferrowind/platform/values/conversion.h"
@@ -28,14 +28,14 @@ using ferrowind::platform::Value;
 constexpr int kFarthestPixel = 32767;
 
 void TryLayout(const std::string& text) {
-  const auto layout = ferrowind::qt::DecodeLayout(text);
+  const auto layout = ferrowind::grid_content::DecodeLayout(text);
   if (!layout) return;
   for (const auto& column : layout->columns) Expect(column.width > 0, "a column has a width");
-  const std::string written = ferrowind::qt::EncodeLayout(*layout);
-  const auto again = ferrowind::qt::DecodeLayout(written);
+  const std::string written = ferrowind::grid_content::EncodeLayout(*layout);
+  const auto again = ferrowind::grid_content::DecodeLayout(written);
   Expect(again.has_value(), "a layout that is written is read");
   Expect(again->columns.size() == layout->columns.size(), "a layout keeps its columns");
-  Expect(ferrowind::qt::EncodeLayout(*again) == written, "a layout stays the same");
+  Expect(ferrowind::grid_content::EncodeLayout(*again) == written, "a layout stays the same");
 }
 
 /// As windows take it for a place.
@@ -51,10 +51,9 @@ void TryPlace(const Value& value) {
 }
 
 void TryValue(const std::string& text) {
-  const Value value = ferrowind::qt::SettingValue(text);
-  const std::string written = ferrowind::qt::SettingText(value);
-  Expect(ferrowind::qt::SettingText(ferrowind::qt::SettingValue(written)) == written,
-         "a value stays the same");
+  const Value value = ferrowind::SettingValue(text);
+  const std::string written = ferrowind::SettingText(value);
+  Expect(ferrowind::SettingText(ferrowind::SettingValue(written)) == written, "a value stays the same");
   TryPlace(value);
 }
 

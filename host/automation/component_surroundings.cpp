@@ -1,33 +1,52 @@
 #include "host/automation/component_surroundings.h"
 
+#include <string>
+
+#include "ferrowind/adapters/automation/module.h"
 #include "ferrowind/adapters/automation/outside_objects.h"
-#include "ferrowind/adapters/windowless/windowless_platform.h"
+#include "ferrowind/adapters/automation/text.h"
+#include "ferrowind/adapters/services/system_clock.h"
+#include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/adapters/win32/forms/win32_toolkit.h"
+#include "ferrowind/adapters/win32/services/win32_locale.h"
+#include "ferrowind/adapters/win32/services/win32_shared_services.h"
+#include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/platform.h"
-#include "ferrowind/platform/services/object_factory.h"
-#include "ferrowind/platform/services/shared_services.h"
+
+#include "host/automation/component_dictionary.h"
 
 namespace ferrowind::host {
 namespace {
+
+/// Every engine that a connection string can name.
+std::shared_ptr<const platform::EngineRegistry> MakeEngines() {
+  auto engines = std::make_shared<platform::EngineRegistry>();
+  engines->Register(sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>());
+  return engines;
+}
+
+/// Where the component's own files are: beside this one.
+std::string ComponentFolder() {
+  const std::wstring file = automation::Module::Path();
+  return automation::Utf8(file.substr(0, file.find_last_of(L'\\')));
+}
 
 class ComponentSurroundings : public automation::Surroundings {
  public:
   [[nodiscard]] const platform::Platform& Get() const override { return platform_; }
 
  private:
-  platform::EngineRegistry engines_;
-  WindowlessPlatform windowless_{engines_, ""};
-  automation::OutsideObjects objects_{[this] {
-    auto& objects = windowless_.Get().objects;
-    return std::dynamic_pointer_cast<platform::SharedServices>(
-        objects.CreateObject(platform::kSharedServicesIdentifier));
-  }};
-  platform::Platform platform_{objects_,
-                               windowless_.Get().commands,
-                               windowless_.Get().toolkit,
-                               windowless_.Get().locale,
-                               windowless_.Get().clock,
-                               {}};
+  std::shared_ptr<const platform::EngineRegistry> engines_ = MakeEngines();
+  platform::EngineCommandFactory commands_{*engines_};
+  // The objects are kept by the thread, beyond this one.
+  automation::OutsideObjects objects_{
+      [] { return std::make_shared<win32::Win32SharedServices>(); },
+      [engines = engines_] { return std::make_shared<ComponentDictionary>(engines); }};
+  win32::Win32Toolkit toolkit_;
+  win32::Win32Locale locale_;
+  SystemClock clock_;
+  platform::Platform platform_{objects_, commands_, toolkit_, locale_, clock_, ComponentFolder()};
 };
 
 }  // namespace

@@ -33,8 +33,10 @@ OwnedVariant ArrayOf(std::span<const platform::Value> values) {
 
 }  // namespace
 
-CalendarObject::CalendarObject(const platform::Platform& platform)
-    : EventSource({__uuidof(::Calendar), __uuidof(_Calendar), __uuidof(__Calendar)}), calendar_(platform) {}
+CalendarObject::CalendarObject(std::shared_ptr<Surroundings> surroundings)
+    : EventSource({__uuidof(::Calendar), __uuidof(_Calendar), __uuidof(__Calendar)}),
+      surroundings_(std::move(surroundings)),
+      calendar_(surroundings_->Get()) {}
 
 HRESULT CalendarObject::ForceClosing(VARIANT_BOOL* closed) {
   if (closed == nullptr) return E_POINTER;

@@ -15,8 +15,8 @@ namespace ferrowind::automation {
 /// The control, as hosts see it.
 class CalendarObject : public EventSource<_Calendar> {
  public:
-  /// `platform` must outlive the object.
-  explicit CalendarObject(const platform::Platform& platform);
+  /// `surroundings` is not null, and kept.
+  explicit CalendarObject(std::shared_ptr<Surroundings> surroundings);
 
   HRESULT STDMETHODCALLTYPE ForceClosing(VARIANT_BOOL* closed) override;
   HRESULT STDMETHODCALLTYPE Show() override;
@@ -27,6 +27,7 @@ class CalendarObject : public EventSource<_Calendar> {
  private:
   using MapObject = ComPointer<GridFieldsObject>;
 
+  std::shared_ptr<Surroundings> surroundings_;
   Calendar calendar_;
   ///@{
   /// Made when a host first asks for the map, and then always the same.

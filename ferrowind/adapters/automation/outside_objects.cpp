@@ -10,11 +10,13 @@ namespace ferrowind::automation {
 std::shared_ptr<platform::OutsideObject> OutsideObjects::CreateObject(
     const std::string& programmatic_identifier) {
   if (programmatic_identifier == platform::kDictionaryIdentifier) {
+    if (!OutsideCall::IsRegistered(programmatic_identifier)) return make_dictionary_();
     return std::make_shared<OutsideDictionary>(OutsideCall::Create(programmatic_identifier));
   }
   if (programmatic_identifier == platform::kSharedServicesIdentifier) {
-    if (!OutsideCall::IsRegistered(programmatic_identifier)) return make_own_();
-    return std::make_shared<OutsideSharedServices>(OutsideCall::Create(programmatic_identifier), make_own_());
+    if (!OutsideCall::IsRegistered(programmatic_identifier)) return make_services_();
+    return std::make_shared<OutsideSharedServices>(OutsideCall::Create(programmatic_identifier),
+                                                   make_services_());
   }
   throw platform::Failure(platform::failure_number::kCannotCreateObject,
                           programmatic_identifier + " is no object that the component uses");

@@ -5,25 +5,30 @@
 #include <string>
 #include <utility>
 
+#include "ferrowind/platform/services/dictionary.h"
 #include "ferrowind/platform/services/object_factory.h"
 #include "ferrowind/platform/services/shared_services.h"
 
 namespace ferrowind::automation {
 
-/// Creates the objects of the host's product family, which are registered under their identifiers. Where no
-/// shared services are, ours stand in.
+/// Creates the objects of the host's product family, which are registered under their identifiers. Where one
+/// is not, ours stands in.
 class OutsideObjects : public platform::ObjectFactory {
  public:
   /// Makes shared services of ours; not null, and fails with a `Failure`.
   using MakeServices = std::function<std::shared_ptr<platform::SharedServices>()>;
+  /// Makes a dictionary of ours, likewise.
+  using MakeDictionary = std::function<std::shared_ptr<platform::Dictionary>()>;
 
-  explicit OutsideObjects(MakeServices make_own) : make_own_(std::move(make_own)) {}
+  OutsideObjects(MakeServices make_services, MakeDictionary make_dictionary)
+      : make_services_(std::move(make_services)), make_dictionary_(std::move(make_dictionary)) {}
 
   [[nodiscard]] std::shared_ptr<platform::OutsideObject> CreateObject(
       const std::string& programmatic_identifier) override;
 
  private:
-  MakeServices make_own_;
+  MakeServices make_services_;
+  MakeDictionary make_dictionary_;
 };
 
 }  // namespace ferrowind::automation

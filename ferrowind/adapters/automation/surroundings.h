@@ -14,8 +14,9 @@ class Surroundings {
   [[nodiscard]] virtual const platform::Platform& Get() const = 0;
 };
 
-/// Makes surroundings for the calling thread; asked once by each thread that has a control, which keeps them
-/// until it ends. Not null; fails with a `platform::Failure`.
+/// Makes surroundings for the calling thread, which go with its last control. The dictionary and the shared
+/// services that they make are kept until the thread ends, and serve its later surroundings. Not null; fails
+/// with a `platform::Failure`.
 using MakeSurroundings = std::unique_ptr<Surroundings> (*)();
 
 }  // namespace ferrowind::automation

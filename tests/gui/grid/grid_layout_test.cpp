@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/qt/grid/grid_layout.h"
+#include "ferrowind/adapters/grid_content/grid_layout.h"
 
 #include "tests/gui/grid/grid_fixture.h"
 
@@ -91,10 +91,10 @@ TEST_F(GridLayoutTest, ThatIsDamagedChangesNothing) {
 
 TEST_F(GridLayoutTest, OfAnotherGridChangesNothing) {
   const std::string before = grid_->SaveLayout();
-  GridLayout foreign;
+  grid_content::GridLayout foreign;
   foreign.columns = {{"Alien", 50, true}};
   foreign.sort_keys = {{"Alien", kSortAscending}};
-  EXPECT_FALSE(grid_->RestoreLayout(EncodeLayout(foreign)));
+  EXPECT_FALSE(grid_->RestoreLayout(grid_content::EncodeLayout(foreign)));
   EXPECT_EQ(grid_->SaveLayout(), before);
 }
 

@@ -92,7 +92,7 @@ TEST(EarlyBoundControl, GivesItsMapsOnlyWhileNoWindowIsOpen) {
     const auto control = NewControl();
     const auto before = HeadersOf(*control.Get());
     ASSERT_EQ(control->Show(), S_OK);
-    ASSERT_TRUE(ControlWorld::latest->world.toolkit.FormNamed("fmCalendar").IsShown());
+    ASSERT_TRUE(ControlWorld::OfThisThread().world.toolkit.FormNamed("fmCalendar").IsShown());
     ComPointer<_GridFields> map;
     EXPECT_EQ(control->get_Headers(map.Receive()), kComponentFailure);
     ExpectTold("Property is accessed only before show method");
@@ -299,7 +299,7 @@ TEST(Control, ClosesItsWindowWhenItIsReleased) {
     const auto stored_place = [] {
       constexpr const char* kSection =
           "\\Tessaro\\Calendar\\7E34C663-43BF-11d6-8AE5-0050228F1EE8\\Window Calendars";
-      return ControlWorld::latest->world.services->Setting(kSection, "Left");
+      return ControlWorld::OfThisThread().world.services->Setting(kSection, "Left");
     };
     EXPECT_FALSE(stored_place().has_value());
     control.Reset();

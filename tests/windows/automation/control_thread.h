@@ -25,27 +25,37 @@ class Apartment {
 };
 
 /// What the controls of a test thread run in.
-struct ControlWorld : automation::Surroundings {
+struct ControlWorld {
   ControlWorld() {
-    latest = this;
     world.dictionary->SetCurrencies({{978, "EUR"}});
     world.commands.Answer("CldAllInfo")
         .Gives({"ID1", "Year1"}, {{978, 2026}})
         .Gives({"TID1", "Description1"},
                {{1, "Working day"}, {2, "Holiday"}, {3, "Celebration"}, {4, "Holiday point"}});
   }
-  [[nodiscard]] const platform::Platform& Get() const override { return platform; }
+  ControlWorld(const ControlWorld&) = delete;
+  ControlWorld& operator=(const ControlWorld&) = delete;
+  /// Kept until the thread ends, as its dictionary and services are.
+  [[nodiscard]] static ControlWorld& OfThisThread() {
+    static thread_local ControlWorld world;
+    return world;
+  }
 
   headless::World world;
   platform::Platform platform = world.Platform();
-  /// The one of this thread.
-  static inline thread_local ControlWorld* latest = nullptr;
+};
+
+class InControlWorld : public automation::Surroundings {
+ public:
+  [[nodiscard]] const platform::Platform& Get() const override {
+    return ControlWorld::OfThisThread().platform;
+  }
 };
 
 [[nodiscard]] inline automation::ComPointer<IClassFactory> NewFactory() {
   automation::ComPointer<IClassFactory> factory;
   factory.Attach(new automation::CalendarFactory(
-      []() -> std::unique_ptr<automation::Surroundings> { return std::make_unique<ControlWorld>(); }));
+      []() -> std::unique_ptr<automation::Surroundings> { return std::make_unique<InControlWorld>(); }));
   return factory;
 }
 

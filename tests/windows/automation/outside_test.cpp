@@ -250,12 +250,12 @@ TEST(OutsideSharedServicesObject, GetsItsArgumentsInTheirOrder) {
   });
 }
 
-TEST(OutsideObjectsOfAThread, OwnServicesStandInWhereNoneAreRegistered) {
+TEST(OutsideObjectsOfAThread, OwnOnesStandInWhereNoneAreRegistered) {
   RunInApartment([] {
     headless::World own;
-    OutsideObjects objects([&own] { return own.services; });
+    OutsideObjects objects([&own] { return own.services; }, [&own] { return own.dictionary; });
     EXPECT_EQ(objects.CreateObject(platform::kSharedServicesIdentifier), own.services);
-    ExpectFailure([&] { static_cast<void>(objects.CreateObject(platform::kDictionaryIdentifier)); }, 429);
+    EXPECT_EQ(objects.CreateObject(platform::kDictionaryIdentifier), own.dictionary);
     ExpectFailure([&] { static_cast<void>(objects.CreateObject("Tessaro.Other")); }, 429);
   });
 }

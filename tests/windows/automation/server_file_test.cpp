@@ -18,6 +18,7 @@
 #include "tests/windows/automation/control_thread.h"
 #include "tests/windows/automation/host_process.h"
 #include "tests/windows/automation/late_call.h"
+#include "tests/windows/automation/own_registry.h"
 #include "tests/windows/automation/registered_file.h"
 
 namespace ferrowind::testing {
@@ -26,27 +27,15 @@ namespace {
 using automation::ComPointer;
 using platform::Value;
 
+/// Controls look for no database until they show their windows.
+constexpr const wchar_t* kNowhere = L"sqlite:Z:\\nowhere\\calendars.db";
+
 constexpr const wchar_t* kClasses = L"Software\\Classes";
 constexpr const wchar_t* kClassKey = L"CLSID\\{DED80419-449B-11D6-8AE6-0050228F1EE8}";
 
-/// A registry of the present user's own, in which nothing lasts; in place of theirs as long as it lives.
-class EmptyRegistry {
+/// What is registered for the present user, in a registry of the test's own.
+class UserClasses {
  public:
-  EmptyRegistry() {
-    RegDeleteTreeW(HKEY_CURRENT_USER, kName);
-    EXPECT_EQ(
-        RegCreateKeyExW(HKEY_CURRENT_USER, kName, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr),
-        ERROR_SUCCESS);
-    EXPECT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, key_), ERROR_SUCCESS);
-  }
-  ~EmptyRegistry() {
-    RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-    RegCloseKey(key_);
-    RegDeleteTreeW(HKEY_CURRENT_USER, kName);
-  }
-  EmptyRegistry(const EmptyRegistry&) = delete;
-  EmptyRegistry& operator=(const EmptyRegistry&) = delete;
-
   /// A key below the classes in which no other that lasts can be made.
   void CloseOff(const std::wstring& key) const {
     HKEY closed = nullptr;
@@ -79,19 +68,8 @@ class EmptyRegistry {
   }
 
  private:
-  static constexpr const wchar_t* kName = L"Software\\FerrowindTest";
-  HKEY key_ = nullptr;
+  OwnRegistry registry_;
 };
-
-ComPointer<_Calendar> CreateByName() {
-  CLSID class_id{};
-  EXPECT_EQ(CLSIDFromProgID(L"Ferrowind.Calendar", &class_id), S_OK);
-  ComPointer<_Calendar> control;
-  EXPECT_EQ(
-      CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(_Calendar), control.ReceiveAny()),
-      S_OK);
-  return control;
-}
 
 TEST(ServerFileVersion, IsOfFourParts) {
   const std::wstring path = ServerFile().Path();
@@ -106,7 +84,7 @@ TEST(ServerFileVersion, IsOfFourParts) {
 }
 
 TEST(ServerRegistration, OfThePresentUserWritesAllThatHostsLookUpAndTakesItAway) {
-  const EmptyRegistry registry;
+  const UserClasses registry;
   const ServerFile file;
   ASSERT_EQ(file.Install(true, L"user"), S_OK);
   const std::wstring class_key = kClassKey;
@@ -134,7 +112,7 @@ TEST(ServerRegistration, OfThePresentUserWritesAllThatHostsLookUpAndTakesItAway)
 }
 
 TEST(ServerRegistration, LeavesNothingHalfDoneWhereItIsRefused) {
-  const EmptyRegistry registry;
+  const UserClasses registry;
   const ServerFile file;
   registry.CloseOff(L"Interface");
   EXPECT_EQ(file.Install(true, L"user"), HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE));
@@ -142,7 +120,7 @@ TEST(ServerRegistration, LeavesNothingHalfDoneWhereItIsRefused) {
 }
 
 TEST(ServerRegistration, PutsBackWhatItReplacedWhereItIsRefused) {
-  const EmptyRegistry registry;
+  const UserClasses registry;
   const ServerFile file;
   const std::wstring key = std::wstring(kClasses) + L"\\" + kClassKey + L"\\InprocServer32";
   const std::wstring other = L"C:\\other.dll";
@@ -156,7 +134,7 @@ TEST(ServerRegistration, PutsBackWhatItReplacedWhereItIsRefused) {
 }
 
 TEST(ServerRegistration, RefusesACommandLineThatItDoesNotKnow) {
-  const EmptyRegistry registry;
+  const UserClasses registry;
   EXPECT_EQ(ServerFile().Install(true, L"everybody"), E_INVALIDARG);
   EXPECT_TRUE(registry.KeysBelowClasses().empty());
 }
@@ -172,6 +150,8 @@ TEST(ServerClassObject, IsOfTheControlOnly) {
 }
 
 TEST(ServerFileUnloading, WaitsForTheLastObjectAndLock) {
+  const OwnRegistry registry;
+  NameDatabase(kNowhere);
   RunInApartment([] {
     const ServerFile file;
     EXPECT_EQ(file.CanUnload(), S_OK);
@@ -193,15 +173,11 @@ TEST(ServerFileUnloading, WaitsForTheLastObjectAndLock) {
 }
 
 TEST(ServerFileUnloading, IsPossibleAfterAThousandCyclesAndTheFileComesAgain) {
+  const OwnRegistry registry;
+  NameDatabase(kNowhere);
   const RegisteredFile registered;
   RunInApartment([&registered] {
-    for (int i = 0; i < 1000; ++i) {
-      const auto control = CreateByName();
-      ASSERT_NE(control, nullptr);
-      ASSERT_EQ(control->Show(), S_OK);
-      VARIANT_BOOL is_closed = VARIANT_FALSE;
-      ASSERT_EQ(control->ForceClosing(&is_closed), S_OK);
-    }
+    for (int i = 0; i < 1000; ++i) ASSERT_NE(CreateByName(), nullptr);
     CoFreeUnusedLibraries();
     EXPECT_EQ(registered.file.CanUnload(), S_OK);
     EXPECT_EQ(ValueLate(*CreateByName().Get(), L"ForceClosing"), Value(true));
@@ -209,6 +185,8 @@ TEST(ServerFileUnloading, IsPossibleAfterAThousandCyclesAndTheFileComesAgain) {
 }
 
 TEST(ServerInAnotherApartment, IsCalledThroughThePlatform) {
+  const OwnRegistry registry;
+  NameDatabase(kNowhere);
   const RegisteredFile registered;
   RunInApartment([] {
     const auto control = CreateByName();
@@ -241,6 +219,8 @@ TEST(ServerInAnotherApartment, IsCalledThroughThePlatform) {
 
 TEST(ServerInAScript, ChangesColumnsAndTellsWhatIsRefused) {
   const RegisteredFile registered;
+  // Of the user whom the test runs as, since the script runs in a program of its own.
+  NameDatabase(kNowhere);
   const std::string folder = FERROWIND_HOSTS;
   const HostProcess host(L"cscript.exe //nologo \"" + automation::Utf16(folder + "/late_bound.vbs") + L"\"");
   std::ifstream file(folder + "/late_bound.txt");

@@ -10,10 +10,11 @@
 namespace ferrowind::automation {
 namespace {
 
-const platform::Platform& PlatformOfThread(MakeSurroundings make) {
-  static thread_local std::unique_ptr<Surroundings> surroundings;
-  if (!surroundings) surroundings = make();
-  return surroundings->Get();
+std::shared_ptr<Surroundings> SurroundingsOfThread(MakeSurroundings make) {
+  static thread_local std::weak_ptr<Surroundings> of_this_thread;
+  auto surroundings = of_this_thread.lock();
+  if (!surroundings) of_this_thread = surroundings = make();
+  return surroundings;
 }
 
 }  // namespace
@@ -24,7 +25,7 @@ HRESULT CalendarFactory::CreateInstance(IUnknown* outer, REFIID iid, void** obje
   if (outer != nullptr) return CLASS_E_NOAGGREGATION;
   return Guarded(this, __uuidof(IClassFactory), [&] {
     ComPointer<FormControl> made;
-    made.Attach(new FormControl(PlatformOfThread(make_surroundings_)));
+    made.Attach(new FormControl(SurroundingsOfThread(make_surroundings_)));
     RequireSuccess(made->QueryInterface(iid, object));
   });
 }

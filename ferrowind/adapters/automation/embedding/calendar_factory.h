@@ -7,7 +7,8 @@
 
 namespace ferrowind::automation {
 
-/// Makes controls. All of a thread share the surroundings that `make_surroundings` made for its first one.
+/// Makes controls. Those of a thread share the surroundings that `make_surroundings` makes for the first of
+/// them.
 class CalendarFactory : public ComObject<IClassFactory> {
  public:
   explicit CalendarFactory(MakeSurroundings make_surroundings) : make_surroundings_(make_surroundings) {}

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/grid_content/arrangeable_grid.h"
 #include "ferrowind/adapters/grid_content/grid_operations.h"
 #include "ferrowind/adapters/grid_content/row_identity.h"
 #include "ferrowind/adapters/qt/controls/qt_control.h"
@@ -23,7 +24,7 @@ class GridView;
 class SelectionOrder;
 
 /// The grid of the Qt toolkit. Groups are expanded at first.
-class QtGrid final : public QtControl<platform::Grid> {
+class QtGrid final : public QtControl<platform::Grid>, public grid_content::ArrangeableGrid {
  public:
   /// Shows itself in `widget`, which must live at least as long; its object name is the grid's name.
   explicit QtGrid(GridWidget& widget);
@@ -84,18 +85,10 @@ class QtGrid final : public QtControl<platform::Grid> {
   /// Whether the operator can mark a range of rows while there is no multiple selection; false at first.
   void SetMarksRowRanges(bool marks_row_ranges);
 
-  // For the shared services
-
-  /// Order, widths and visibility of the columns and the keys, as text; empty for a grid without columns.
-  [[nodiscard]] std::string SaveLayout() const;
-  /// Takes the layout over. False, and nothing is changed, for a text that is none or the layout of a grid
-  /// that has no column in common with this one. What it says of unknown columns is left out; columns that it
-  /// does not name follow the others.
-  bool RestoreLayout(const std::string& layout);
-  /// The settings sections whose layouts this grid has loaded or stored.
-  [[nodiscard]] std::set<std::string>& LayoutSections() { return layout_sections_; }
-  /// Puts the marked rows on the clipboard, or all rows when none is marked.
-  void CopyRows(bool with_headers) const;
+  [[nodiscard]] std::string SaveLayout() const override;
+  bool RestoreLayout(const std::string& layout) override;
+  [[nodiscard]] std::set<std::string>& LayoutSections() override { return layout_sections_; }
+  void CopyRows(bool with_headers) const override;
 
  private:
   void ConnectView();

@@ -3,8 +3,8 @@
 #include <QClipboard>
 #include <QMenu>
 
+#include "ferrowind/adapters/grid_content/grid_layout.h"
 #include "ferrowind/adapters/qt/grid/grid_header.h"
-#include "ferrowind/adapters/qt/grid/grid_layout.h"
 #include "ferrowind/adapters/qt/grid/grid_model.h"
 #include "ferrowind/adapters/qt/grid/grid_view.h"
 #include "ferrowind/adapters/qt/grid/group_by_box.h"
@@ -123,29 +123,23 @@ void QtGrid::ShowHeaderMenu(int column, const QPoint& global) {
 
 std::string QtGrid::SaveLayout() const {
   if (ColumnCount() == 0) return {};
-  GridLayout layout;
+  grid_content::GridLayout layout;
   for (int visual = 0; visual < header_.count(); ++visual) {
     const int column = header_.logicalIndex(visual);
     const grid_content::StoredColumn& shown = content_.Columns()[column + 1];
     layout.columns.push_back({shown.Key(), header_.KeptWidth(column), shown.Visible()});
   }
-  const auto save = [&](const grid_content::StoredKeyList& keys, std::vector<GridLayout::Key>& saved) {
-    for (std::int32_t position = 1; position <= keys.Count(); ++position) {
-      const auto key = keys.Item(position);
-      saved.push_back({content_.Columns()[key->ColIndex].Key(), key->SortOrder});
-    }
-  };
-  save(content_.SortKeys(), layout.sort_keys);
-  save(content_.GroupKeys(), layout.group_keys);
-  return EncodeLayout(layout);
+  layout.sort_keys = grid_content::KeysOf(content_.Columns(), content_.SortKeys());
+  layout.group_keys = grid_content::KeysOf(content_.Columns(), content_.GroupKeys());
+  return grid_content::EncodeLayout(layout);
 }
 
 bool QtGrid::RestoreLayout(const std::string& text) {
-  const auto layout = DecodeLayout(text);
+  const auto layout = grid_content::DecodeLayout(text);
   if (!layout) return false;
   const grid_content::StoredColumns& columns = content_.Columns();
   int place = 0;
-  for (const GridLayout::Column& saved : layout->columns) {
+  for (const grid_content::GridLayout::Column& saved : layout->columns) {
     grid_content::StoredColumn* column = columns.Find(saved.key);
     if (column == nullptr) continue;
     const int logical = column->Index() - 1;
@@ -155,15 +149,8 @@ bool QtGrid::RestoreLayout(const std::string& text) {
     settled_widths_.insert(column->Index());
   }
   if (place == 0) return false;
-  const auto restore = [&](const std::vector<GridLayout::Key>& saved, grid_content::StoredKeyList& keys) {
-    keys.Clear();
-    for (const GridLayout::Key& key : saved) {
-      if (const grid_content::StoredColumn* column = columns.Find(key.column_key))
-        keys.Add(column->Index(), key.sort_order, 0);
-    }
-  };
-  restore(layout->sort_keys, content_.SortKeys());
-  restore(layout->group_keys, content_.GroupKeys());
+  grid_content::RestoreKeys(columns, layout->sort_keys, content_.SortKeys());
+  grid_content::RestoreKeys(columns, layout->group_keys, content_.GroupKeys());
   Refresh(false);
   return true;
 }

@@ -40,9 +40,6 @@ class FERROWIND_EXPORT QtSharedServices : public platform::SharedServices {
   void CopyGridRows(platform::Grid& grid, bool with_headers) override;
 
  private:
-  /// Empty when there is none.
-  [[nodiscard]] platform::Value StoredLayout(const std::string& section);
-
   SettingsStore settings_;
   std::shared_ptr<TraceSink> trace_;
 };

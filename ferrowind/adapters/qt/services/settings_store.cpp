@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 
-#include "ferrowind/adapters/qt/services/setting_text.h"
+#include "ferrowind/adapters/operator_services/setting_text.h"
 #include "ferrowind/adapters/qt/values/qt_text.h"
 #include "ferrowind/platform/values/failure.h"
 

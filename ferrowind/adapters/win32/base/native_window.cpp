@@ -21,7 +21,9 @@ HINSTANCE ThisModule() {
   return module;
 }
 
-ATOM RegisterPaneClass() {
+constexpr const wchar_t* kPaneClass = L"FerrowindPane";
+
+void RegisterPaneClass() {
   WNDCLASSEXW pane{};
   pane.cbSize = sizeof pane;
   pane.style = CS_DBLCLKS;
@@ -29,8 +31,9 @@ ATOM RegisterPaneClass() {
   pane.hInstance = ThisModule();
   pane.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
   pane.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
-  pane.lpszClassName = L"FerrowindPane";
-  return RegisterClassExW(&pane);
+  pane.lpszClassName = kPaneClass;
+  // It is there already where this file was unloaded and has come again.
+  RegisterClassExW(&pane);
 }
 
 platform::Failure NoWindow() {
@@ -41,8 +44,12 @@ platform::Failure NoWindow() {
 }  // namespace
 
 const wchar_t* PaneClass() {
-  static const ATOM atom = RegisterPaneClass();
-  return reinterpret_cast<const wchar_t*>(static_cast<ULONG_PTR>(atom));
+  static const bool is_registered = [] {
+    RegisterPaneClass();
+    return true;
+  }();
+  static_cast<void>(is_registered);
+  return kPaneClass;
 }
 
 NativeWindow::NativeWindow(std::shared_ptr<FormSite> site, const Design& design) : site_(std::move(site)) {

@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/win32/base/window_thread.h"
 
 #include <algorithm>
+#include <atomic>
 
 #include "ferrowind/adapters/win32/base/run_guarded.h"
 #include "ferrowind/platform/values/failure.h"
@@ -11,6 +12,8 @@ namespace {
 constexpr UINT kDeleteRetired = WM_APP + 1;
 /// How long a dropped form that is at work is left alone until it is looked at again.
 constexpr std::int32_t kRetiredPause = 50;
+
+std::atomic<int> count = 0;
 
 }  // namespace
 
@@ -40,9 +43,21 @@ class WindowThread::Receiver final : public NativeWindow {
   WindowThread& thread_;
 };
 
-WindowThread::WindowThread() : receiver_(std::make_unique<Receiver>(*this)) {}
+std::shared_ptr<WindowThread> WindowThread::OfThisThread() {
+  static thread_local std::weak_ptr<WindowThread> of_this_thread;
+  auto thread = of_this_thread.lock();
+  if (thread == nullptr) {
+    thread.reset(new WindowThread);
+    of_this_thread = thread;
+  }
+  return thread;
+}
 
-WindowThread::~WindowThread() = default;
+int WindowThread::Count() { return count; }
+
+WindowThread::WindowThread() : receiver_(std::make_unique<Receiver>(*this)) { ++count; }
+
+WindowThread::~WindowThread() { --count; }
 
 platform::Subscription WindowThread::After(std::int32_t milliseconds, std::function<void()> handler) {
   if (milliseconds < 0) throw platform::InvalidArgument();

@@ -16,12 +16,15 @@ namespace ferrowind::win32 {
 
 class ModalShow;
 
-/// What all forms of a toolkit share on their thread: its timers, the events that are being handled, the
-/// modal forms on show, and the dropped forms that are still at work. It needs nothing of the host but that
-/// its message loop dispatches messages.
+/// What all forms of a thread share: its timers, the events that are being handled, the modal forms on show,
+/// and the dropped forms that are still at work. It needs nothing of the host but that its message loop
+/// dispatches messages.
 class WindowThread : public std::enable_shared_from_this<WindowThread> {
  public:
-  WindowThread();
+  /// The one of the calling thread, which is made when nobody has it. Never null.
+  [[nodiscard]] static std::shared_ptr<WindowThread> OfThisThread();
+  /// How many threads have one: while there are any, the platform may call what is in this file.
+  [[nodiscard]] static int Count();
   ~WindowThread();
   WindowThread(const WindowThread&) = delete;
   WindowThread& operator=(const WindowThread&) = delete;
@@ -45,6 +48,7 @@ class WindowThread : public std::enable_shared_from_this<WindowThread> {
  private:
   class Receiver;
 
+  WindowThread();
   void Fire(UINT_PTR timer);
   void DeleteRetired();
 

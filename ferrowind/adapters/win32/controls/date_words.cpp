@@ -1,27 +1,19 @@
 #include "ferrowind/adapters/win32/controls/date_words.h"
 
-#include <array>
 #include <cstdlib>
 #include <cwctype>
 #include <vector>
 
-#include "ferrowind/adapters/win32/base/windows_api.h"
+#include "ferrowind/adapters/win32/base/locale_text.h"
 
 namespace ferrowind::win32 {
 namespace {
 
 constexpr int kMonths = 12;
 
-std::wstring LocaleText(LCTYPE kind) {
-  std::array<wchar_t, 128> text{};
-  const int length =
-      GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, kind, text.data(), static_cast<int>(text.size()));
-  return length > 0 ? std::wstring(text.data()) : std::wstring();
-}
-
 /// Whether the operator's language writes the month before the day.
 bool MonthIsFirst() {
-  const std::wstring pattern = LocaleText(LOCALE_SSHORTDATE);
+  const std::wstring pattern = LocaleText(LOCALE_NAME_USER_DEFAULT, LOCALE_SSHORTDATE);
   return pattern.find(L'M') < pattern.find(L'd');
 }
 
@@ -70,7 +62,9 @@ std::optional<platform::Date> DateOf(int year, int month, int day) {
 
 }  // namespace
 
-std::wstring MonthName(int month) { return LocaleText(static_cast<LCTYPE>(LOCALE_SMONTHNAME1 + month - 1)); }
+std::wstring MonthName(int month) {
+  return LocaleText(LOCALE_NAME_USER_DEFAULT, static_cast<LCTYPE>(LOCALE_SMONTHNAME1 + month - 1));
+}
 
 std::wstring FormatDate(const platform::Date& date, const std::wstring& format) {
   std::wstring text;

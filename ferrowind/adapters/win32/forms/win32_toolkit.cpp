@@ -57,7 +57,7 @@ class Win32Toolkit::UpdateLock {
 
 Win32Toolkit::Win32Toolkit(FormLayouts layouts) : layouts_(std::move(layouts)) {
   UsePlatformControls();
-  thread_ = std::make_shared<WindowThread>();
+  thread_ = WindowThread::OfThisThread();
 }
 
 Win32Toolkit::~Win32Toolkit() = default;

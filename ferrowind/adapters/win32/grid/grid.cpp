@@ -75,6 +75,7 @@ void Win32Grid::FitColumns() {
   constexpr int kBesideText = 18;
   const auto count = std::min(content_.Cells().RecordCount(), kRecordsMeasured);
   for (const std::int16_t column : geometry_.Order()) {
+    if (settled_widths_.contains(column)) continue;
     // Room for the arrow of a sorted column.
     LONG width = TextSize(content_.Columns()[column].Caption()).cx + geometry_.LineHeight() / 2;
     for (grid_engine::Record record = 0; record < count; ++record)
@@ -90,6 +91,7 @@ void Win32Grid::AttachRecords(std::shared_ptr<RecordSet> records) {
   selection_.ChooseOnly(std::nullopt);
   content_.Attach(std::move(records));
   geometry_.TakeColumns();
+  std::erase_if(settled_widths_, [this](std::int16_t column) { return column > ColumnCount(); });
   geometry_.SetFirstRow(0);
   current_column_ = std::min(current_column_, ColumnCount());
   is_stale_ = false;

@@ -3,9 +3,11 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/grid_content/arrangeable_grid.h"
 #include "ferrowind/adapters/grid_content/grid_operations.h"
 #include "ferrowind/adapters/grid_content/row_identity.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
@@ -18,7 +20,7 @@
 namespace ferrowind::win32 {
 
 /// The grid, painted by itself. Groups are expanded at first.
-class Win32Grid final : public Win32Control<platform::Grid> {
+class Win32Grid final : public Win32Control<platform::Grid>, public grid_content::ArrangeableGrid {
  public:
   Win32Grid(ControlHost& host, std::string name, HWND parent, bool marks_row_ranges);
 
@@ -82,11 +84,14 @@ class Win32Grid final : public Win32Control<platform::Grid> {
   [[nodiscard]] bool CanHaveFocus() const override { return true; }
   [[nodiscard]] bool FillsHeight() const override { return true; }
 
+  [[nodiscard]] std::string SaveLayout() const override;
+  bool RestoreLayout(const std::string& layout) override;
+  [[nodiscard]] std::set<std::string>& LayoutSections() override { return layout_sections_; }
+  void CopyRows(bool with_headers) const override;
+
   /// What is shown, and where.
   [[nodiscard]] const GridContent& Content() const { return content_; }
   [[nodiscard]] const GridGeometry& Geometry() const { return geometry_; }
-  /// Puts the marked rows on the clipboard, or all rows when none is marked.
-  void CopyRows() const;
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;
@@ -145,6 +150,9 @@ class Win32Grid final : public Win32Control<platform::Grid> {
   bool is_stale_ = false;
   std::optional<Press> press_;
   int wheel_ = 0;
+  /// The columns whose widths the operator or a layout has set, which contents change no more.
+  std::set<std::int16_t> settled_widths_;
+  std::set<std::string> layout_sections_;
 
   platform::Signal<platform::GridColumn&> header_clicked_;
   platform::Signal<> before_group_change_;

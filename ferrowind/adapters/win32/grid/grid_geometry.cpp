@@ -38,8 +38,9 @@ void GridGeometry::MoveTo(std::int16_t column, std::size_t place) {
 
 bool GridGeometry::IsVisible(std::int16_t column) const { return content_.Columns()[column].Visible(); }
 
-LONG GridGeometry::WidthOf(std::int16_t column) const {
-  if (!IsVisible(column)) return 0;
+LONG GridGeometry::WidthOf(std::int16_t column) const { return IsVisible(column) ? KeptWidthOf(column) : 0; }
+
+LONG GridGeometry::KeptWidthOf(std::int16_t column) const {
   const auto found = widths_.find(column);
   return found == widths_.end() ? kUsualWidth : found->second;
 }

@@ -43,7 +43,10 @@ class GridGeometry {
   void MoveBehind(std::int16_t column, std::int16_t other);
   /// Before the column that stands at that place; behind all others at their end.
   void MoveTo(std::int16_t column, std::size_t place);
+  /// 0 for a hidden column.
   [[nodiscard]] LONG WidthOf(std::int16_t column) const;
+  /// Which a hidden column has when it is shown.
+  [[nodiscard]] LONG KeptWidthOf(std::int16_t column) const;
   void SetWidth(std::int16_t column, LONG width);
   [[nodiscard]] LONG TotalWidth() const;
 

@@ -161,6 +161,7 @@ void Win32Grid::MoveTo(POINT place) {
   if (part == Part::kHeaderEdge) {
     const std::int16_t column = press_->hit.column;
     geometry_.SetWidth(column, place.x - geometry_.HeaderArea(column).left);
+    settled_widths_.insert(column);
     Resized();
     return;
   }
@@ -224,7 +225,7 @@ bool Win32Grid::OnKey(const KeyPress& press) {
     return true;
   }
   if (press.has_control && press.key == 'C') {
-    CopyRows();
+    CopyRows(true);
     return true;
   }
   if (press.key == VK_APPS || (press.has_shift && press.key == VK_F10)) {

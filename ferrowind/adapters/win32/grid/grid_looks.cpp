@@ -1,12 +1,10 @@
-// How a grid is painted, scrolled and copied.
+// How a grid is painted and scrolled.
 #include <algorithm>
 
-#include "ferrowind/adapters/win32/base/clipboard.h"
 #include "ferrowind/adapters/win32/base/handles.h"
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/grid/grid.h"
 #include "ferrowind/adapters/win32/grid/grid_painter.h"
-#include "ferrowind/adapters/win32/grid/row_copy.h"
 
 namespace ferrowind::win32 {
 
@@ -113,18 +111,6 @@ void Win32Grid::Paint() {
     BitBlt(window, 0, 0, room.right, room.bottom, memory.get(), 0, 0, SRCCOPY);
   }
   EndPaint(Handle(), &paint);
-}
-
-void Win32Grid::CopyRows() const {
-  std::vector<std::uint32_t> rows = MarkedFromTop();
-  if (rows.empty()) {
-    for (std::uint32_t row = 0; row < content_.Rows().RowCount(); ++row) rows.push_back(row);
-  }
-  std::vector<std::int16_t> columns;
-  for (const std::int16_t column : geometry_.Order()) {
-    if (content_.Columns()[column].Visible()) columns.push_back(column);
-  }
-  PutOnClipboard(Handle(), CopyOfRows(content_, columns, rows));
 }
 
 }  // namespace ferrowind::win32

@@ -27,10 +27,13 @@ std::wstring Line(const std::vector<std::wstring>& cells) {
 }  // namespace
 
 std::wstring CopyOfRows(const GridContent& content, const std::vector<std::int16_t>& columns,
-                        const std::vector<std::uint32_t>& rows) {
+                        const std::vector<std::uint32_t>& rows, bool with_headers) {
+  std::wstring text;
   std::vector<std::wstring> cells;
-  for (const std::int16_t column : columns) cells.push_back(ToWide(content.Columns()[column].Caption()));
-  std::wstring text = Line(cells);
+  if (with_headers) {
+    for (const std::int16_t column : columns) cells.push_back(ToWide(content.Columns()[column].Caption()));
+    text = Line(cells);
+  }
   const bool has_records = std::any_of(
       rows.begin(), rows.end(), [&](std::uint32_t row) { return content.RecordInRow(row).has_value(); });
   for (const std::uint32_t row : rows) {

@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/qt/services/setting_text.h"
+#include "ferrowind/adapters/operator_services/setting_text.h"
 
 #include <limits>
 
@@ -7,7 +7,7 @@
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/platform/values/record_set.h"
 
-namespace ferrowind::qt {
+namespace ferrowind {
 namespace {
 
 using platform::Date;
@@ -39,4 +39,4 @@ TEST(SettingText, RefusesAnObject) {
 }
 
 }  // namespace
-}  // namespace ferrowind::qt
+}  // namespace ferrowind

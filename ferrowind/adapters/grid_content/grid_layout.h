@@ -5,13 +5,16 @@
 #include <string>
 #include <vector>
 
-namespace ferrowind::qt {
+#include "ferrowind/adapters/grid_content/stored_columns.h"
+#include "ferrowind/adapters/grid_content/stored_key_list.h"
+
+namespace ferrowind::grid_content {
 
 /// What an operator made of a grid's columns, told by column keys.
 struct GridLayout {
   struct Column {
     std::string key;
-    /// In device-independent pixels.
+    /// In pixels of 96 to the inch.
     int width = 0;
     bool is_visible = true;
   };
@@ -32,4 +35,10 @@ struct GridLayout {
 /// orders that no grid has.
 [[nodiscard]] std::optional<GridLayout> DecodeLayout(const std::string& text);
 
-}  // namespace ferrowind::qt
+/// The keys of a list, for a layout.
+[[nodiscard]] std::vector<GridLayout::Key> KeysOf(const StoredColumns& columns, const StoredKeyList& keys);
+/// Replaces the keys by those of a layout, but for columns that there are not.
+void RestoreKeys(const StoredColumns& columns, const std::vector<GridLayout::Key>& saved,
+                 StoredKeyList& keys);
+
+}  // namespace ferrowind::grid_content

@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/qt/services/setting_text.h"
+#include "ferrowind/adapters/operator_services/setting_text.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
-namespace ferrowind::qt {
+namespace ferrowind {
 
 using platform::Date;
 using platform::Value;
@@ -99,4 +99,4 @@ Value SettingValue(const std::string& text) {
   return text;
 }
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind

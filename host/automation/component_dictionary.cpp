@@ -1,0 +1,41 @@
+#include "host/automation/component_dictionary.h"
+
+#include <utility>
+
+#include <windows.h>
+
+#include "ferrowind/adapters/services/desktop_dictionary.h"
+#include "ferrowind/adapters/win32/services/registry_settings.h"
+#include "ferrowind/platform/services/object_factory.h"
+#include "ferrowind/platform/values/failure.h"
+
+namespace ferrowind::host {
+namespace {
+
+std::string RegisteredConnectionString() {
+  for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+    const auto text = win32::RegistryText(root, win32::kComponentKey, L"ConnectionString");
+    if (text && !text->empty()) return *text;
+  }
+  throw platform::Failure(platform::failure_number::kCannotCreateObject,
+                          std::string(platform::kDictionaryIdentifier) +
+                              " is not registered, and the registry names no database: there is no text "
+                              "ConnectionString in HKEY_CURRENT_USER\\Software\\Tessaro\\Ferrowind, nor in "
+                              "HKEY_LOCAL_MACHINE\\Software\\Tessaro\\Ferrowind.");
+}
+
+}  // namespace
+
+ComponentDictionary::ComponentDictionary(std::shared_ptr<const platform::EngineRegistry> engines)
+    : engines_(std::move(engines)) {
+  static_cast<void>(RegisteredConnectionString());
+}
+
+std::string ComponentDictionary::dic_ConnectionString() { return RegisteredConnectionString(); }
+
+std::shared_ptr<platform::RecordSet> ComponentDictionary::dic_GetDicRecByFilter(const std::string& name,
+                                                                                const std::string& filter) {
+  return DesktopDictionary(*engines_, RegisteredConnectionString()).dic_GetDicRecByFilter(name, filter);
+}
+
+}  // namespace ferrowind::host
