@@ -75,7 +75,8 @@ class FERROWIND_EXPORT Form : public Element {
   /// The form got another size, or is shown for the first time.
   [[nodiscard]] virtual Subscription OnResize(std::function<void()> handler) = 0;
   /// The form is asked to close, by the operator, the program or the end of the session; setting `cancel`
-  /// keeps it open.
+  /// keeps it open. A handler that finds it set does nothing, as the form stays: one that may refuse on a
+  /// form of the component's subscribes in front of that, as `CreateForm` returns.
   [[nodiscard]] virtual Subscription OnCloseQuery(std::function<void(bool& cancel)> handler) = 0;
 };
 

@@ -107,7 +107,9 @@ void fmCalendar::Connect() {
   subscribe(form_->OnLoad(handler(&fmCalendar::Form_Load)));
   subscribe(form_->OnResize(handler(&fmCalendar::Form_Resize)));
   const auto query_unload = handler(&fmCalendar::Form_QueryUnload);
-  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   subscribe(ssatb_.OnToolClick(handler(&fmCalendar::ssatb_ToolClick)));
   subscribe(ssatb_.OnToolEnter(handler(&fmCalendar::ssatb_ToolEnter)));
   const auto tool_leave = handler(&fmCalendar::ssatb_ToolLeave);

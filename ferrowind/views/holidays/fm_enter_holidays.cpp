@@ -83,7 +83,9 @@ fmEnterHolidays::fmEnterHolidays(const platform::Platform& platform, const platf
         cmdAction_.back()->OnClick([this, command] { RunHandler(platform_, [&] { (this->*command)(); }); }));
   }
   subscribe(form_->OnLoad([this] { RunHandler(platform_, [this] { Form_Load(); }); }));
-  subscribe(form_->OnCloseQuery([this](bool&) { RunHandler(platform_, [this] { Form_QueryUnload(); }); }));
+  subscribe(form_->OnCloseQuery([this](bool& is_refused) {
+    if (!is_refused) RunHandler(platform_, [this] { Form_QueryUnload(); });
+  }));
   subscribe(ssatb_.OnToolClick(
       [this](const std::string& id) { RunHandler(platform_, [&] { ssatb_ToolClick(id); }); }));
   subscribe(gexHolidays_.OnCurrentRowChange([this] { RunHandler(platform_, [this] { RefreshButtons(); }); }));

@@ -152,7 +152,9 @@ void fmCalendarThen::Connect() {
   };
   subscriptions_.push_back(form_->OnLoad(handler(&fmCalendarThen::Form_Load)));
   const auto query_unload = handler(&fmCalendarThen::Form_QueryUnload);
-  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   const auto close = handler(&fmCalendarThen::CloseByButton);
   subscriptions_.push_back(
       ControlOf<platform::ToolBar>(*form_, "tbThen").OnToolClick([close](const std::string&) { close(); }));

@@ -119,7 +119,9 @@ void fmExport::Connect() {
   };
   subscriptions_.push_back(form_->OnLoad(handler(&fmExport::Form_Load)));
   const auto query_unload = handler(&fmExport::Form_QueryUnload);
-  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   on_click("cmdExport", &fmExport::Export);
   on_click("cmdClose", &fmExport::CloseByButton);
 }

@@ -133,7 +133,9 @@ void fmHistory::Connect() {
   };
   subscribe(form_->OnLoad(handler(&fmHistory::Form_Load)));
   const auto query_unload = handler(&fmHistory::Form_QueryUnload);
-  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   subscribe(tools_.OnToolClick(handler(&fmHistory::RunTool)));
   choice_.OnChoice(handler(&fmHistory::ShowChosen));
   subscribe(entries_.OnCurrentChange(handler(&fmHistory::ShowCurrent)));

@@ -94,7 +94,9 @@ void fmImport::Connect() {
   };
   subscriptions_.push_back(form_->OnLoad(handler(&fmImport::Form_Load)));
   const auto query_unload = handler(&fmImport::Form_QueryUnload);
-  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscriptions_.push_back(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   subscriptions_.push_back(faults_.OnCurrentChange(handler(&fmImport::ShowCurrentFault)));
   on_click("cmdChoose", &fmImport::ChooseFile);
   on_click("cmdPreview", &fmImport::Preview);

@@ -102,7 +102,9 @@ void fmReadiness::Subscribe() {
   const auto closing = Running(&fmReadiness::Closing);
   const auto changed = Running(&fmReadiness::Read);
   subscriptions_.push_back(form_->OnLoad(Running(&fmReadiness::Load)));
-  subscriptions_.push_back(form_->OnCloseQuery([closing](bool&) { closing(); }));
+  subscriptions_.push_back(form_->OnCloseQuery([closing](bool& is_refused) {
+    if (!is_refused) closing();
+  }));
   subscriptions_.push_back(tblBoard_.OnActivate(Running(&fmReadiness::OpenPlanOfCell)));
   subscriptions_.push_back(tblBoard_.OnCurrentChange(Running(&fmReadiness::EnableButtons)));
   subscriptions_.push_back(tblFindings_.OnActivate(Running(&fmReadiness::OpenFinding)));

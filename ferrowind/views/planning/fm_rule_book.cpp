@@ -187,6 +187,7 @@ void fmRuleBook::Form_Load() {
 }
 
 void fmRuleBook::Form_QueryUnload(bool& cancel) {
+  if (cancel) return;
   // Nothing is lost where the question cannot be asked.
   cancel = true;
   if (!MayLeave()) return;

@@ -167,7 +167,9 @@ void fmYearPlan::Connect() {
   };
   subscribe(form_->OnLoad(handler(&fmYearPlan::Form_Load)));
   const auto query_unload = handler(&fmYearPlan::Form_QueryUnload);
-  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   subscribe(tools_.OnToolClick(handler(&fmYearPlan::RunTool)));
   subscribe(lines_.OnCurrentChange(handler(&fmYearPlan::ShowCurrentLine)));
   if (filter_ != nullptr) subscribe(filter_->OnChoice(handler(&fmYearPlan::ShowLines)));

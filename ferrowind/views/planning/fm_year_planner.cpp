@@ -141,7 +141,9 @@ void fmYearPlanner::Connect() {
   };
   subscribe(form_->OnLoad(handler(&fmYearPlanner::Form_Load)));
   const auto query_unload = handler(&fmYearPlanner::Form_QueryUnload);
-  subscribe(form_->OnCloseQuery([query_unload](bool&) { query_unload(); }));
+  subscribe(form_->OnCloseQuery([query_unload](bool& is_refused) {
+    if (!is_refused) query_unload();
+  }));
   subscribe(tools_.OnToolClick(handler(&fmYearPlanner::RunTool)));
   subscribe(tools_.OnToolEnter(handler(&fmYearPlanner::ShowToolDescription)));
   const auto refresh_selection = handler(&fmYearPlanner::RefreshSelection);

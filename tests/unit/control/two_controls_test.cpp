@@ -13,12 +13,14 @@
 
 #include "tests/support/expect_failure.h"
 #include "tests/support/run_in_fresh_thread.h"
+#include "tests/unit/control/desk.h"
 
 namespace ferrowind {
 namespace {
 
 using headless::HeadlessButton;
 using headless::HeadlessForm;
+using testing::Desk;
 using testing::ExpectFailure;
 using testing::RunInFreshThread;
 
@@ -35,38 +37,6 @@ class OutsideObjects {
 
  private:
   headless::World world_;
-};
-
-/// A control in a world of its own, with the currency EUR and no calendar. The control and its platform can
-/// be destroyed before the world.
-class Desk {
- public:
-  Desk() {
-    world.dictionary->SetCurrencies({{978, "EUR"}});
-    world.commands.Answer("CldAllInfo")
-        .Gives({"ID1", "Year1"}, {})
-        .Gives({"TID1", "Description1"},
-               {{1, "Working day"}, {2, "Holiday"}, {3, "Celebration"}, {4, "Holiday point"}});
-    world.commands.Answer("CldIUMain")
-        .Takes("@ID1", platform::ParameterType::kInt32)
-        .Takes("@Year1", platform::ParameterType::kInt32);
-  }
-
-  void Destroy() {
-    control.reset();
-    platform.reset();
-  }
-  [[nodiscard]] HeadlessForm& Window() const { return world.toolkit.FormNamed("fmCalendar"); }
-  void Click(const std::string& tool) const {
-    Window().Part<headless::HeadlessToolBar>("ssatb").ClickTool(tool);
-  }
-  [[nodiscard]] std::size_t CallsOf(const std::string& procedure) const {
-    return world.commands.CallsOf(procedure).size();
-  }
-
-  headless::World world;
-  std::unique_ptr<platform::Platform> platform = std::make_unique<platform::Platform>(world.Platform());
-  std::unique_ptr<Calendar> control = std::make_unique<Calendar>(*platform);
 };
 
 TEST(TwoControls, EachOpensItsWindowAndReadsItsDataInItsOwnSurroundings) {
