@@ -1,6 +1,7 @@
 #include "ferrowind/control/calendar.h"
 
 #include <string>
+#include <utility>
 
 #include "ferrowind/control/component_error.h"
 #include "ferrowind/control/default_headers.h"
@@ -24,6 +25,7 @@ constexpr float kSizeInPixels = 16;
 
 Calendar::Calendar(const platform::Platform& platform, platform::ControlSite* site)
     : platform_(platform), site_(site) {
+  ++Module().controls;
   AttachPlatform(platform);
   const InSurroundings surroundings(platform);
   EnsureDictionary();
@@ -38,6 +40,18 @@ Calendar::Calendar(const platform::Platform& platform, platform::ControlSite* si
 Calendar::~Calendar() {
   RunHandler(platform_, [this] { ForceClosing(); });
   DetachPlatform(platform_);
+  --Module().controls;
+}
+
+void Calendar::ReleaseThreadObjects() {
+  ModuleState& module = Module();
+  if (module.controls > 0) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            "The dictionary and the shared services are in use by a control of this thread");
+  }
+  // What they do while they end may need new ones, which stay.
+  const auto dictionary = std::exchange(module.dictionary, nullptr);
+  const auto shared_services = std::exchange(module.shared_services, nullptr);
 }
 
 bool Calendar::ForceClosing() {

@@ -23,7 +23,8 @@ class CalendarsWindow;
 ///
 /// A thread may have several controls. Each one's windows and calls use the surroundings that it was given;
 /// but the dictionary object and the shared services are one of each for the thread, made in the surroundings
-/// that need them first, and serve all its controls until the thread ends. The dictionary object names the
+/// that need them first, and serve all its controls, also later ones, until the thread ends or they are let
+/// go by `ReleaseThreadObjects`. The dictionary object names the
 /// database. So the controls of a thread work on one database, and new surroundings do not change it: a host
 /// that changes databases closes its windows, has its dictionary object answer with the other connection
 /// string, which every call asks for anew, and shows them again.
@@ -60,6 +61,11 @@ class FERROWIND_EXPORT Calendar {
   /// The title "Ferrowind", the major version, the minor version and the revision as 16-bit integers, and a
   /// fifth element that is empty by intention.
   [[nodiscard]] static std::array<platform::Value, 5> Version();
+
+  /// Lets go of the thread's dictionary object and shared services, which otherwise stay until the thread
+  /// ends; the next control creates them anew. For a plug-in that is unloaded before its thread ends, whose
+  /// classes they are, and for a host that goes on with others. The failure 5 while the thread has a control.
+  static void ReleaseThreadObjects();
 
  protected:
   /// Makes the window that `Show` opens.

@@ -24,9 +24,11 @@ struct ModuleState {
   const platform::Platform* platform = nullptr;
   /// The surroundings of the innermost `InSurroundings`; null outside of one.
   const platform::Platform* entered = nullptr;
-  /// Created by the control; null when that failed. Never released by the component.
+  /// How many controls the thread has.
+  std::int32_t controls = 0;
+  /// Created by the control; null when that failed. Released only when the host asks for it.
   std::shared_ptr<platform::Dictionary> dictionary;
-  /// Created on first use by `SharedServicesObject`. Never released by the component.
+  /// Created on first use by `SharedServicesObject`. Released only when the host asks for it.
   std::shared_ptr<platform::SharedServices> shared_services;
 
   /// 0 or 1: only record 0 is ever written.
