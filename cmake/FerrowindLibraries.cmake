@@ -75,9 +75,15 @@ if("qt" IN_LIST FERROWIND_ADAPTERS)
 endif()
 
 if(TARGET ferrowind_adapters_chain)
-  # What both engines share, and no host sees: a part of each where they are shared libraries, beside them where not.
+  list(APPEND leaves_of_engines adapters_content adapters_chain database_seed_sql)
+endif()
+if(TARGET ferrowind_adapters_postgres_calls)
+  list(APPEND leaves_of_engines adapters_postgres_calls)
+endif()
+if(leaves_of_engines)
+  # What engines share, and no host sees: a part of each where they are shared libraries, beside them where not.
   ferrowind_add_host_library(ferrowind-engines STATIC
-    LEAVES adapters_content adapters_chain database_seed_sql
+    LEAVES ${leaves_of_engines}
     DEPENDS ferrowind_host_library_ferrowind
     PRIVATE_DEPENDS ${FERROWIND_DIGESTS})
 endif()
@@ -94,4 +100,11 @@ if("postgres" IN_LIST FERROWIND_ADAPTERS)
     DEPENDS ferrowind_host_library_ferrowind
     PRIVATE_DEPENDS ferrowind_host_library_ferrowind-engines PostgreSQL::PostgreSQL)
   ferrowind_add_components(ferrowind-postgres adapters_postgres)
+endif()
+if("odbc" IN_LIST FERROWIND_ADAPTERS)
+  ferrowind_add_host_library(ferrowind-odbc
+    LEAVES adapters_odbc
+    DEPENDS ferrowind_host_library_ferrowind
+    PRIVATE_DEPENDS ferrowind_host_library_ferrowind-engines ODBC::ODBC)
+  ferrowind_add_components(ferrowind-odbc adapters_odbc)
 endif()

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "ferrowind/adapters/postgres/postgres_failure.h"
+#include "ferrowind/adapters/postgres_calls/sql_state.h"
 
 namespace ferrowind::postgres {
 namespace {
@@ -13,12 +13,6 @@ namespace {
 constexpr std::string_view kInFront = ":  ";
 constexpr std::string_view kBehind = ": ";
 constexpr std::size_t kStateSize = 5;
-
-bool IsState(std::string_view text) {
-  return text.size() == kStateSize && std::all_of(text.begin(), text.end(), [](char c) {
-           return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z');
-         });
-}
 
 /// "LOCATION:  InitPostgres, postinit.c:813", whose first word is in the user's language.
 bool IsPlaceInServer(std::string_view line) {
@@ -59,7 +53,7 @@ ConnectionRefusal RefusalIn(std::string_view message) {
     if (IsPlaceInServer(line)) continue;
     for (auto at = line.find(kInFront); at != std::string::npos; at = line.find(kInFront, at + 1)) {
       const std::size_t state = at + kInFront.size();
-      if (!IsState(std::string_view(line).substr(state, kStateSize)) ||
+      if (!IsSqlState(std::string_view(line).substr(state, kStateSize)) ||
           line.compare(state + kStateSize, kBehind.size(), kBehind) != 0) {
         continue;
       }

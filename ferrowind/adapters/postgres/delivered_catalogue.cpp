@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "ferrowind/adapters/postgres/delivered_objects.h"
+#include "ferrowind/adapters/postgres/delivered_scripts.h"
 
 #include "database/postgres/embedded_sql.h"
 

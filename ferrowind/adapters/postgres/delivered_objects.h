@@ -1,14 +1,8 @@
 #pragma once
 
-#include <string_view>
-#include <vector>
-
 #include "ferrowind/adapters/postgres/server_connection.h"
 
 namespace ferrowind::postgres {
-
-/// The scripts that create the schema `ferrowind` and everything in it, in the order in which they run.
-[[nodiscard]] std::vector<std::string_view> DeliveredScripts();
 
 /// Creates the schema `ferrowind` with its tables, routines and views, in the transaction that is open. The
 /// roles exist; the schema does not. Everything behind runs as the owner, with the schema as its search path,

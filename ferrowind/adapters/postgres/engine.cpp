@@ -2,12 +2,13 @@
 
 #include "ferrowind/adapters/postgres/call_session.h"
 #include "ferrowind/adapters/postgres/change_listener.h"
-#include "ferrowind/adapters/postgres/dictionary_query.h"
 #include "ferrowind/adapters/postgres/engine_connection.h"
 #include "ferrowind/adapters/postgres/kept_sessions.h"
 #include "ferrowind/adapters/postgres/postgres_failure.h"
+#include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/adapters/postgres/silence_probe.h"
 #include "ferrowind/adapters/postgres/silent_servers.h"
+#include "ferrowind/adapters/postgres_calls/dictionary_query.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
 namespace ferrowind::postgres {
@@ -28,7 +29,7 @@ std::shared_ptr<platform::RecordSet> Engine::ReadDictionary(const std::string& c
   return platform::WithFailuresOnly([&] {
     RequireDictionary(name);
     CallSession session(servers_, kept_, connection_string);
-    return session.Read([&] { return ReadCurrencies(session.Connection()); });
+    return session.Read([&] { return ReadRecordSet(session.Connection().Query(kReadCurrencies).get()); });
   });
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/postgres/postgres_failure.h"
+#include "ferrowind/adapters/postgres/signature_query.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
 namespace ferrowind::postgres {
@@ -44,11 +45,13 @@ std::vector<ParameterDescription> EngineConnection::DescribeProcedure(const std:
 
 void EngineConnection::Describe(const std::string& procedure) {
   if (!session_) {
-    signature_ = ReadSignature(*connection_, procedure);
+    signature_ = ReadSignature(*connection_, procedure).signature;
     return;
   }
-  signature_ = session_->Read([&] { return ReadSignature(session_->Connection(), procedure); });
-  session_->Get().is_direct = signature_->process == PQbackendPID(session_->Connection().Get());
+  DescribedProcedure described =
+      session_->Read([&] { return ReadSignature(session_->Connection(), procedure); });
+  session_->Get().is_direct = described.process == PQbackendPID(session_->Connection().Get());
+  signature_ = std::move(described.signature);
   session_->Get().signatures.Remember(procedure, *signature_);
 }
 

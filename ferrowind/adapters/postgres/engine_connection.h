@@ -8,8 +8,8 @@
 
 #include "ferrowind/adapters/postgres/call_session.h"
 #include "ferrowind/adapters/postgres/procedure_call.h"
-#include "ferrowind/adapters/postgres/procedure_signature.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
+#include "ferrowind/adapters/postgres_calls/procedure_signature.h"
 #include "ferrowind/platform/database/engine.h"
 #include "ferrowind/platform/values/failure.h"
 

@@ -7,6 +7,7 @@
 
 #include <libpq-fe.h>
 
+#include "ferrowind/adapters/postgres_calls/sql_state.h"
 #include "ferrowind/platform/values/failure.h"
 
 /// The one place where the errors of the server and of libpq become failures.
@@ -15,13 +16,6 @@
 /// of libpq. No password is ever in it: neither of them prints one of a connection string that
 /// `ConnectionUri` lets through.
 namespace ferrowind::postgres {
-
-/// The number that a failure has for `sqlstate` (five digits and capital letters): its value to base 36.
-[[nodiscard]] platform::Failure FailureOfState(std::string_view sqlstate, const std::string& plain_words,
-                                               const std::string& native_text);
-
-/// Whether `failure` is of that SQLSTATE.
-[[nodiscard]] bool IsOfState(const platform::Failure& failure, std::string_view sqlstate);
 
 /// That there is no memory for a connection.
 [[nodiscard]] platform::Failure NoMemoryForConnection();
@@ -59,16 +53,10 @@ class NoAnswer : public platform::Failure {
 /// That the answer to one statement is larger than any that a calendar database gives.
 [[nodiscard]] platform::Failure TooLargeAnswer(const PGconn* connection);
 
-/// `failure` with `introduction` in front of its description.
-[[nodiscard]] platform::Failure Introduced(const std::string& introduction, const platform::Failure& failure);
-
 /// "The database NAME at HOST:PORT" for messages.
 [[nodiscard]] std::string NameOfDatabase(const PGconn* connection);
 
 /// "HOST:PORT"; empty when libpq does not say.
 [[nodiscard]] std::string NameOfServer(const PGconn* connection);
-
-/// A text of libpq, which may have several lines and ends with a line break, on one; empty for null.
-[[nodiscard]] std::string OnOneLine(const char* text);
 
 }  // namespace ferrowind::postgres

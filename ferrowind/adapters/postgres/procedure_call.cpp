@@ -1,17 +1,15 @@
 #include "ferrowind/adapters/postgres/procedure_call.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstddef>
 #include <string>
 #include <utility>
 
-#include "ferrowind/adapters/postgres/call_script.h"
 #include "ferrowind/adapters/postgres/pipeline.h"
 #include "ferrowind/adapters/postgres/postgres_failure.h"
 #include "ferrowind/adapters/postgres/result_reader.h"
 #include "ferrowind/adapters/postgres/table_locks.h"
-#include "ferrowind/platform/database/call_inputs.h"
+#include "ferrowind/adapters/postgres_calls/call_script.h"
+#include "ferrowind/adapters/postgres_calls/call_trouble.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::postgres {
@@ -21,38 +19,15 @@ using platform::CallOutcome;
 using platform::Failure;
 using platform::Value;
 
-void RefuseWrongInputs(const ProcedureSignature& signature, const std::string& procedure,
-                       const std::vector<Value>& inputs) {
-  platform::RefuseWrongInputs(procedure, signature.parameters, inputs);
-  for (std::size_t i = 0; i < inputs.size(); ++i) {
-    const auto* const text = inputs[i].If<std::string>();
-    // The server has no such character, and libpq would end the text in front of it.
-    if (text != nullptr && text->find('\0') != std::string::npos) {
-      throw platform::RefusedInput(platform::failure_number::kInvalidArgument, procedure,
-                                   signature.parameters[i + 1],
-                                   "was given a text with the character NUL, which the server cannot store");
-    }
-  }
-}
-
 std::int32_t ReturnValueIn(const PGresult* result, const std::string& procedure) {
   if (const auto value = ReadWholeNumber(result)) return *value;
-  throw Failure(platform::failure_number::kInvalidUseOfNull,
-                "The procedure " + procedure + " gave no return value, so what it did was undone");
+  throw CallWithoutReturnValue(procedure);
 }
 
 void RequireRows(ServerConnection& connection, const PGresult* answer) {
   if (PQresultStatus(answer) == PGRES_TUPLES_OK) return;
   connection.GiveUp();
   throw StrangeAnswer(connection.Get(), "no rows where a record set was fetched");
-}
-
-/// As long as a database file would be waited for; longer, and the operator would take the window for dead.
-/// Less where the call has less time, of which something must be left to say that it waited for a lock.
-std::chrono::milliseconds LockTimeout(const ServerConnection& connection) {
-  constexpr std::chrono::milliseconds kMost = std::chrono::seconds(5);
-  const auto left = connection.TimeLeft();
-  return std::clamp(left / 10 * 8, std::chrono::milliseconds(1), kMost);
 }
 
 /// What was done is not undone when its confirmation is missing.
@@ -65,18 +40,9 @@ void RequireConfirmation(ServerConnection& connection, const std::string& proced
 /// What is known of a call that has failed.
 Failure FailureOfCall(const ServerConnection& connection, const std::string& procedure,
                       const Failure& failure) {
-  if (!connection.IsAlive()) {
-    return Introduced("The procedure " + procedure +
-                          " was interrupted; it has done all of its work or nothing, so look before you call "
-                          "it again. ",
-                      failure);
-  }
-  if (connection.WasToldToStop() && IsOfState(failure, "57014")) {
-    return Introduced("The procedure " + procedure +
-                          " took longer than a call may, was told to stop, and has done nothing. ",
-                      failure);
-  }
-  return Introduced("The procedure " + procedure + " failed: ", failure);
+  if (!connection.IsAlive()) return InterruptedCall(procedure, failure);
+  if (connection.WasToldToStop() && IsOfState(failure, "57014")) return StoppedCall(procedure, failure);
+  return FailedCall(procedure, failure);
 }
 
 bool IsOfLock(const Failure& failure) { return IsOfState(failure, "55P03"); }
@@ -107,7 +73,7 @@ ProcedureAnswer RunProcedure(ServerConnection& connection, const ProcedureSignat
                              const std::string& asked_name, const std::vector<Value>& inputs,
                              CallTransaction transaction) {
   RefuseWrongInputs(signature, asked_name, inputs);
-  const CallScript script(connection, signature, inputs, LockTimeout(connection));
+  const CallScript script(signature, inputs, LockTimeout(connection.TimeLeft()), CallScript::Form::kNumbered);
   const bool is_own = transaction == CallTransaction::kOwn;
   const std::size_t record_sets = signature.RecordSetCount();
   std::vector<QueryResult> answers;
@@ -157,7 +123,7 @@ CallOutcome ReadOutcome(const ProcedureAnswer& answer, const std::string& asked_
       if (PQnfields(rows.get()) > 0) outcome.record_sets.push_back(ReadRecordSet(rows.get()));
     }
   } catch (const Failure& failure) {
-    throw Introduced("The procedure " + asked_name + " has run, but what it gave cannot be read: ", failure);
+    throw UnreadableOutcome(asked_name, failure);
   }
   return outcome;
 }

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "ferrowind/adapters/postgres/procedure_signature.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
+#include "ferrowind/adapters/postgres_calls/procedure_signature.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::postgres {

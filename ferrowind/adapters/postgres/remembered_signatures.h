@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "ferrowind/adapters/postgres/procedure_signature.h"
+#include "ferrowind/adapters/postgres_calls/procedure_signature.h"
 
 namespace ferrowind::postgres {
 

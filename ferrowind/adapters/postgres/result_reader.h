@@ -9,21 +9,10 @@
 
 #include <libpq-fe.h>
 
+#include "ferrowind/adapters/postgres_calls/type_id.h"
 #include "ferrowind/platform/values/record_set.h"
 
 namespace ferrowind::postgres {
-
-/// The types of the server that cross into values.
-namespace type_id {
-inline constexpr Oid kInt8 = 20;
-inline constexpr Oid kInt2 = 21;
-inline constexpr Oid kInt4 = 23;
-inline constexpr Oid kText = 25;
-inline constexpr Oid kName = 19;
-inline constexpr Oid kVarchar = 1043;
-inline constexpr Oid kDate = 1082;
-inline constexpr Oid kRefCursor = 1790;
-}  // namespace type_id
 
 /// The value of a cell of `type`, whose binary form is `bytes`; failures as for `ReadRecordSet`, which name
 /// `column`. Precondition: `ReadTypes` takes the type.

@@ -63,11 +63,6 @@ bool IsDone(const PGresult* result) {
   return status == PGRES_TUPLES_OK || status == PGRES_COMMAND_OK;
 }
 
-struct MemoryFree {
-  void operator()(char* memory) const { PQfreemem(memory); }
-};
-using LibraryText = std::unique_ptr<char, MemoryFree>;
-
 }  // namespace
 
 ServerConnection::ServerConnection(const std::string& uri, std::function<bool()> is_stopped)
@@ -213,18 +208,6 @@ void ServerConnection::StopIfAsked() {
 std::optional<platform::Failure> ServerConnection::TakeUnconfirmed() {
   if (unconfirmed_.empty()) return std::nullopt;
   return Unconfirmed(Get(), std::exchange(unconfirmed_, {}));
-}
-
-std::string ServerConnection::Literal(const std::string& text) const {
-  const LibraryText literal(PQescapeLiteral(Get(), text.data(), text.size()));
-  if (!literal) throw LinkFailure(Get());
-  return literal.get();
-}
-
-std::string ServerConnection::Identifier(const std::string& name) const {
-  const LibraryText identifier(PQescapeIdentifier(Get(), name.data(), name.size()));
-  if (!identifier) throw LinkFailure(Get());
-  return identifier.get();
 }
 
 std::string ServerConnection::DatabaseName() const { return NameOfDatabase(Get()); }

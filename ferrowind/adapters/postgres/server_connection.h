@@ -77,10 +77,6 @@ class ServerConnection {
   /// standby that the server waits for; nothing when all have, or none is waited for.
   [[nodiscard]] std::optional<platform::Failure> TakeUnconfirmed();
 
-  /// `text` as an SQL literal, `name` as an SQL identifier.
-  [[nodiscard]] std::string Literal(const std::string& text) const;
-  [[nodiscard]] std::string Identifier(const std::string& name) const;
-
   [[nodiscard]] bool IsAlive() const { return !is_given_up_ && PQstatus(Get()) == CONNECTION_OK; }
   /// As failures name it.
   [[nodiscard]] std::string DatabaseName() const;

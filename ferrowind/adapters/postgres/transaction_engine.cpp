@@ -1,7 +1,8 @@
 #include "ferrowind/adapters/postgres/transaction_engine.h"
 
-#include "ferrowind/adapters/postgres/dictionary_query.h"
 #include "ferrowind/adapters/postgres/engine_connection.h"
+#include "ferrowind/adapters/postgres/result_reader.h"
+#include "ferrowind/adapters/postgres_calls/dictionary_query.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
 namespace ferrowind::postgres {
@@ -16,7 +17,7 @@ std::shared_ptr<platform::RecordSet> TransactionEngine::ReadDictionary(
     const std::string& /*connection_string*/, const std::string& name) {
   return platform::WithFailuresOnly([&] {
     RequireDictionary(name);
-    return ReadCurrencies(*connection_);
+    return ReadRecordSet(connection_->Query(kReadCurrencies).get());
   });
 }
 

@@ -5,10 +5,6 @@
 
 #include <unistd.h>
 
-#include "ferrowind/adapters/postgres/result_reader.h"
-#include "ferrowind/adapters/postgres/server_connection.h"
-#include "ferrowind/platform/values/conversion.h"
-
 namespace ferrowind::contract::postgres_server {
 namespace {
 
@@ -70,6 +66,8 @@ std::string NewName() {
 
 }  // namespace
 
+std::string SuperuserName() { return Superuser().user; }
+std::string SuperuserPassword() { return Superuser().password; }
 std::string Host() { return Superuser().host; }
 std::string Port() { return Superuser().port; }
 
@@ -87,16 +85,6 @@ std::string OperatorUri(const std::string& database) { return Uri(kOperator, kOp
 void Control(const std::string& action) {
   const std::string command = Environment("FERROWIND_POSTGRES_CONTROL") + " " + action;
   if (std::system(command.c_str()) != 0) throw std::runtime_error(command + " failed");
-}
-
-void Execute(const std::string& database, const std::string& sql) {
-  postgres::ServerConnection(SuperuserUri(database)).RunScript(sql);
-}
-
-std::string Ask(const std::string& database, const std::string& query) {
-  const auto rows =
-      postgres::ReadRecordSet(postgres::ServerConnection(SuperuserUri(database)).Query(query).get());
-  return rows->Eof() ? std::string() : platform::ToTextOrEmpty(rows->Cell(rows->BookmarkAt(0), 0));
 }
 
 std::string CreateEmptyDatabase() {

@@ -12,6 +12,8 @@ namespace postgres_server {
 inline constexpr const char* kOperator = "operator_login";
 inline constexpr const char* kOperatorPassword = "s3cret@/?:#[% \u00E4";
 
+[[nodiscard]] std::string SuperuserName();
+[[nodiscard]] std::string SuperuserPassword();
 [[nodiscard]] std::string Host();
 [[nodiscard]] std::string Port();
 /// The connection string of `user`, with its password written as a URI has it.

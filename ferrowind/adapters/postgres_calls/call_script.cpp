@@ -1,5 +1,6 @@
-#include "ferrowind/adapters/postgres/call_script.h"
+#include "ferrowind/adapters/postgres_calls/call_script.h"
 
+#include "ferrowind/adapters/postgres_calls/sql_text.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::postgres {
@@ -28,10 +29,10 @@ const char* ServerType(ParameterType type) {
 
 }  // namespace
 
-CallScript::CallScript(const ServerConnection& connection, const ProcedureSignature& signature,
-                       const std::vector<platform::Value>& inputs, std::chrono::milliseconds lock_timeout)
-    : set_inputs_("SELECT set_config('lock_timeout', '" + std::to_string(lock_timeout.count()) +
-                  "ms', true)") {
+CallScript::CallScript(const ProcedureSignature& signature, const std::vector<platform::Value>& inputs,
+                       std::chrono::milliseconds lock_timeout, Form form)
+    : form_(form) {
+  Set("'lock_timeout'", "'" + std::to_string(lock_timeout.count()) + "ms'");
   std::string declarations;
   std::string arguments;
   std::string after_call;
@@ -43,7 +44,7 @@ CallScript::CallScript(const ServerConnection& connection, const ProcedureSignat
     // By name, so that a procedure which was declared anew since it was described is not called with values
     // for something else.
     if (!signature.argument_names.empty()) {
-      arguments += connection.Identifier(signature.argument_names.at(position)) + " => ";
+      arguments += Identifier(signature.argument_names.at(position)) + " => ";
     }
     ++position;
     switch (argument) {
@@ -65,15 +66,19 @@ CallScript::CallScript(const ServerConnection& connection, const ProcedureSignat
       }
     }
   }
-  block_ =
-      "DO " + connection.Literal("DECLARE return_value int4; " + declarations +
-                                 "BEGIN "
-                                 "BEGIN CALL ferrowind." +
-                                 connection.Identifier(signature.name) + "(" + arguments +
-                                 "); IF return_value IS DISTINCT FROM 0 THEN RAISE SQLSTATE 'FWUND'; END IF; "
-                                 "EXCEPTION WHEN SQLSTATE 'FWUND' THEN NULL; END; "
-                                 "PERFORM set_config('ferrowind.return_value', return_value::text, true); " +
-                                 after_call + "END");
+  block_ = "DO " + Literal("DECLARE return_value int4; " + declarations +
+                           "BEGIN "
+                           "BEGIN CALL ferrowind." +
+                           Identifier(signature.name) + "(" + arguments +
+                           "); IF return_value IS DISTINCT FROM 0 THEN RAISE SQLSTATE 'FWUND'; END IF; "
+                           "EXCEPTION WHEN SQLSTATE 'FWUND' THEN NULL; END; "
+                           "PERFORM set_config('ferrowind.return_value', return_value::text, true); " +
+                           after_call + "END");
+}
+
+void CallScript::Set(const std::string& setting, const std::string& value) {
+  set_inputs_ += set_inputs_.empty() ? "SELECT " : ", ";
+  set_inputs_ += "set_config(" + setting + ", " + value + (form_ == Form::kNumbered ? ", true)" : ", false)");
 }
 
 std::string CallScript::AddInput(const platform::ParameterDescription& parameter,
@@ -82,7 +87,7 @@ std::string CallScript::AddInput(const platform::ParameterDescription& parameter
   if (value.IsEmpty()) return "NULL" + type;
   input_texts_.push_back(platform::ToText(value));
   const std::string setting = InputSetting(input_texts_.size());
-  set_inputs_ += ", set_config(" + setting + ", $" + std::to_string(input_texts_.size()) + ", true)";
+  Set(setting, form_ == Form::kNumbered ? "$" + std::to_string(input_texts_.size()) : "?");
   return "current_setting(" + setting + ")" + type;
 }
 
