@@ -85,6 +85,10 @@ if("postgres" IN_LIST FERROWIND_ADAPTERS)
   ferrowind_add_pkgconfig(ferrowind-postgres DESCRIPTION "Ferrowind's calendars on PostgreSQL servers"
     REQUIRES ${own} PRIVATE_REQUIRES libpq libcrypto PRIVATE_LIBS -lferrowind-engines)
 endif()
+if("odbc" IN_LIST FERROWIND_ADAPTERS)
+  ferrowind_add_pkgconfig(ferrowind-odbc DESCRIPTION "Ferrowind's calendars on PostgreSQL servers by drivers of ODBC"
+    REQUIRES ${own} PRIVATE_REQUIRES odbc PRIVATE_LIBS -lferrowind-engines)
+endif()
 if(TARGET ferrowind_business_days_c)
   ferrowind_add_pkgconfig(ferrowind_business_days DESCRIPTION "Business days and value dates for programs in C")
 endif()

@@ -10,7 +10,8 @@ FOLDERS = ("ferrowind/adapters", "ferrowind/almanac", "ferrowind/business_days",
 # Sources whose every text of several words is told to people, and so is in the guide.
 COMPLETE = ("ferrowind/adapters/content/content_copy.cpp", "ferrowind/adapters/content/schema_upgrade.cpp",
             "ferrowind/adapters/postgres/connection_uri.cpp", "ferrowind/adapters/postgres/postgres_failure.cpp",
-            "ferrowind/adapters/postgres_calls/sql_state.cpp",
+            "ferrowind/adapters/postgres_calls/sql_state.cpp", "ferrowind/adapters/odbc/connection_string.cpp",
+            "ferrowind/adapters/odbc/diagnostics.cpp",
             "ferrowind/adapters/sqlite/sqlite_failure.cpp", "ferrowind/data/error_table.cpp",
             "host/admin/history_arguments.cpp", "host/admin/interruption.cpp")
 # Questions to a database whose answers are told to people, and the beginnings of those answers, each of which is in the guide.

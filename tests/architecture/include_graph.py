@@ -37,6 +37,7 @@ FAMILIES = (
     ("<sqlite>", re.compile(r"sqlite3\w*\.h")),
     ("<openssl>", re.compile(r"openssl/.+")),
     ("<libpq>", re.compile(r"libpq-fe\.h|postgres_ext\.h|libpq/.+")),
+    ("<odbc>", re.compile(r"sql(ext|ucode)?\.h")),
     ("<libical>", re.compile(r"libical/.+")),
     ("<windows>", re.compile(r"(windows|commctrl|gdiplus|objbase|objidl|shobjidl)\.h")),
     ("<cli11>", re.compile(r"CLI/.+")),

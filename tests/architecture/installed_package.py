@@ -36,7 +36,11 @@ COMPONENTS = {
     "adapters_services": ((), ()), "windowless": ((), ()), "business_days_c": ((), ()), "adapters_qt": (("Qt6",), ("Qt6",)),
     "adapters_sqlite": (("SQLite3", "OpenSSL"), ()), "adapters_postgres": (("PostgreSQL", "OpenSSL"), ()),
 }
-OUTSIDE = ("Qt6", "SQLite3", "PostgreSQL", "OpenSSL", "LibIcal", "GTest")
+# One that builds have only where they are told to, its header and its module of pkg-config.
+OPTIONAL = {"adapters_odbc": (("ODBC", "OpenSSL"), ())}
+OPTIONAL_HEADER = "ferrowind/adapters/odbc/engine.h"
+OPTIONAL_MODULE = "ferrowind-odbc"
+OUTSIDE = ("Qt6", "SQLite3", "PostgreSQL", "ODBC", "OpenSSL", "LibIcal", "GTest")
 PROGRAMS = {"ferrowind", "ferrowindctl"}
 OTHER_FILES = ("share/ferrowind/Progress.pra", "share/doc/ferrowind/LICENSE", "include/ferrowind/version.h",
                "include/ferrowind_business_days.h")
@@ -58,6 +62,10 @@ class Package:
     @property
     def is_shared(self) -> bool:
         return (self.libraries / "libferrowind.so").exists()
+
+    @property
+    def has_optional(self) -> bool:
+        return OPTIONAL_HEADER in self.headers()
 
     def headers(self) -> list[str]:
         folder = self.prefix / "include"
@@ -134,7 +142,7 @@ def component_project(folder: pathlib.Path, components: list[str]) -> pathlib.Pa
 def check_components(package: Package, work: pathlib.Path) -> None:
     """Each component is found on a machine that has no more than it may ask for; those that ask for the same, together."""
     groups: dict[tuple[str, ...], list[str]] = {}
-    for component, needs in COMPONENTS.items():
+    for component, needs in (COMPONENTS | (OPTIONAL if package.has_optional else {})).items():
         groups.setdefault(needs[1 if package.is_shared else 0], []).append(component)
     for needs, components in groups.items():
         name = components[-1]
@@ -194,7 +202,8 @@ def check_pkg_config(package: Package, work: pathlib.Path) -> None:
         [package.compiler, "-std=c++20", *package.flags, "-x", "c++", "-", str(HOSTS / "package_host/plug_in.cpp"), "-x", "none",
          "-o", str(program), *package.pkg_config("ferrowind-sqlite", "--cflags", "--libs")], text=main))
     passed("the program linked by hand", run([str(program)], {**os.environ, "LD_LIBRARY_PATH": str(package.libraries)}))
-    for module in ("ferrowind", "ferrowind-qt", "ferrowind-postgres", "ferrowind_business_days"):
+    for module in ("ferrowind", "ferrowind-qt", "ferrowind-postgres", "ferrowind_business_days",
+                   *([OPTIONAL_MODULE] if package.has_optional else [])):
         package.pkg_config(module, "--cflags", "--libs")
 
 

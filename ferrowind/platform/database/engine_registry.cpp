@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ferrowind/platform/values/case_fold.h"
+#include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::platform {
@@ -17,6 +19,9 @@ bool IsScheme(const std::string& text) {
   });
 }
 
+/// What an engine of settings is registered under, which is no scheme.
+std::string EntryOfKeyword(const std::string& keyword) { return FoldCase(Trim(keyword)) + '='; }
+
 }  // namespace
 
 void EngineRegistry::Register(std::string scheme, std::shared_ptr<Engine> engine) {
@@ -24,15 +29,25 @@ void EngineRegistry::Register(std::string scheme, std::shared_ptr<Engine> engine
   engines_.emplace_back(std::move(scheme), std::move(engine));
 }
 
+void EngineRegistry::RegisterKeyword(const std::string& keyword, std::shared_ptr<Engine> engine) {
+  Register(EntryOfKeyword(keyword), std::move(engine));
+}
+
 Engine& EngineRegistry::EngineFor(const std::string& connection_string) const {
+  const auto find = [this](const std::string& entry) {
+    return std::find_if(engines_.begin(), engines_.end(),
+                        [&](const auto& registered) { return registered.first == entry; });
+  };
+  // Of a keyword alone, its engine says what is missing.
+  const auto of_settings = find(EntryOfKeyword(connection_string.substr(0, connection_string.find('='))));
+  if (of_settings != engines_.end()) return *of_settings->second;
   const auto colon = connection_string.find(':');
   const std::string scheme = connection_string.substr(0, colon);
   if (colon == std::string::npos || !IsScheme(scheme)) {
     throw Failure(failure_number::kInvalidArgument,
                   "The connection string has no scheme such as \"sqlite:\" in front");
   }
-  const auto found = std::find_if(engines_.begin(), engines_.end(),
-                                  [&](const auto& entry) { return entry.first == scheme; });
+  const auto found = find(scheme);
   if (found == engines_.end()) {
     throw Failure(failure_number::kInvalidArgument,
                   "There is no database engine for connection strings of the scheme \"" + scheme + ":\"");

@@ -10,17 +10,24 @@
 
 namespace ferrowind::platform {
 
-/// The engines that a host has, each under the scheme that its connection strings begin with ("sqlite:").
+/// The engines that a host has, each under what its connection strings begin with: the scheme of a URI
+/// ("sqlite:"), or the keyword of a list of settings ("DSN=...;...").
 class FERROWIND_EXPORT EngineRegistry {
  public:
   /// `scheme` without its colon. A scheme registered before is taken over by the newer engine.
   void Register(std::string scheme, std::shared_ptr<Engine> engine);
 
+  /// `keyword` without its equals sign, found without regard to case. One that was registered before is taken
+  /// over by the newer engine.
+  void RegisterKeyword(const std::string& keyword, std::shared_ptr<Engine> engine);
+
   /// The engine for `connection_string`, never null; it lives at least as long as the registry. A connection
-  /// string of no known engine is a failure that names the scheme, never the rest, which may hold a password.
+  /// string of no known engine is a failure that names its scheme, if it has one, and nothing of the rest,
+  /// which may hold a password.
   [[nodiscard]] Engine& EngineFor(const std::string& connection_string) const;
 
  private:
+  /// By scheme, or by keyword in small letters with its equals sign.
   std::vector<std::pair<std::string, std::shared_ptr<Engine>>> engines_;
 };
 

@@ -28,6 +28,38 @@ TEST(EngineRegistry, FindsTheEngineByTheSchemeOfTheConnectionString) {
   EXPECT_EQ(&registry.EngineFor("postgresql://operator@localhost:5432/calendars"), server.get());
 }
 
+TEST(EngineRegistry, FindsTheEngineByTheFirstKeywordOfAListOfSettingsWhateverItsLetterCase) {
+  EngineRegistry registry;
+  const auto drivers = std::make_shared<SmallEngine>();
+  const auto server = std::make_shared<SmallEngine>();
+  registry.Register("postgresql", server);
+  registry.RegisterKeyword("Driver", drivers);
+  registry.RegisterKeyword("DSN", drivers);
+  for (const std::string text :
+       {"Driver={Some Driver};Server=a:b", "DRIVER = x;", " dsn=Calendars;UID=clerk"}) {
+    EXPECT_EQ(&registry.EngineFor(text), drivers.get()) << text;
+  }
+  EXPECT_EQ(&registry.EngineFor("postgresql://server/calendars?DSN=x"), server.get());
+}
+
+TEST(EngineRegistry, LetsANewerEngineTakeAKeywordOver) {
+  EngineRegistry registry;
+  const auto newer = std::make_shared<SmallEngine>();
+  registry.RegisterKeyword("DSN", std::make_shared<SmallEngine>());
+  registry.RegisterKeyword("dsn", newer);
+  EXPECT_EQ(&registry.EngineFor("DSN=Calendars"), newer.get());
+}
+
+TEST(EngineRegistry, NeverRepeatsAnUnknownKeyword) {
+  EngineRegistry registry;
+  registry.RegisterKeyword("DSN", std::make_shared<SmallEngine>());
+  for (const std::string text : {"s3cret=x", "=s3cret", "s3cret;DSN=x", "Driver s3cret"}) {
+    const Failure failure = FailureOf([&] { (void)registry.EngineFor(text); });
+    EXPECT_EQ(failure.Number(), failure_number::kInvalidArgument) << text;
+    EXPECT_THAT(failure.Description(), Not(HasSubstr("s3cret"))) << text;
+  }
+}
+
 TEST(EngineRegistry, LetsANewerEngineTakeASchemeOver) {
   EngineRegistry registry;
   const auto newer = std::make_shared<SmallEngine>();
