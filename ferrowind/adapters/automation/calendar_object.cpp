@@ -1,8 +1,10 @@
 #include "ferrowind/adapters/automation/calendar_object.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <memory>
 #include <new>
-#include <span>
 #include <utility>
 
 #include "ferrowind/adapters/automation/native_failure.h"
@@ -17,17 +19,18 @@ void GiveMap(std::shared_ptr<GridFields> map, ComPointer<GridFieldsObject>& obje
   RequireSuccess(object.CopyTo(to));
 }
 
-OwnedVariant ArrayOf(std::span<const platform::Value> values) {
+template <std::size_t kSize>
+OwnedVariant ArrayOf(const std::array<platform::Value, kSize>& values) {
+  std::array<OwnedVariant, kSize> made;
+  std::transform(values.begin(), values.end(), made.begin(), &VariantOf);
   OwnedVariant result;
-  V_ARRAY(result.Address()) = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(values.size()));
+  V_ARRAY(result.Address()) = SafeArrayCreateVector(VT_VARIANT, 0, kSize);
   if (V_ARRAY(result.Address()) == nullptr) throw std::bad_alloc();
   V_VT(result.Address()) = VT_ARRAY | VT_VARIANT;
-  LONG position = 0;
-  for (const auto& value : values) {
-    OwnedVariant element = VariantOf(value);
-    RequireSuccess(SafeArrayPutElement(V_ARRAY(result.Address()), &position, element.Address()));
-    ++position;
-  }
+  VARIANT* elements = nullptr;
+  RequireSuccess(SafeArrayAccessData(V_ARRAY(result.Address()), reinterpret_cast<void**>(&elements)));
+  for (auto& each : made) *elements++ = each.Release();
+  RequireSuccess(SafeArrayUnaccessData(V_ARRAY(result.Address())));
   return result;
 }
 

@@ -8,32 +8,6 @@
 namespace ferrowind::automation {
 namespace {
 
-/// A function of a type library; null where it has no such one.
-class DescribedFunction {
- public:
-  DescribedFunction(ITypeInfo& info, DISPID member, WORD kind) : info_(info) {
-    FUNCDESC* candidate = nullptr;
-    for (UINT i = 0; function_ == nullptr && SUCCEEDED(info_.GetFuncDesc(i, &candidate)); ++i) {
-      if (candidate->memid == member && (candidate->invkind & kind) != 0) {
-        function_ = candidate;
-      } else {
-        info_.ReleaseFuncDesc(candidate);
-      }
-    }
-  }
-  ~DescribedFunction() {
-    if (function_ != nullptr) info_.ReleaseFuncDesc(function_);
-  }
-  DescribedFunction(const DescribedFunction&) = delete;
-  DescribedFunction& operator=(const DescribedFunction&) = delete;
-
-  [[nodiscard]] const FUNCDESC* Get() const { return function_; }
-
- private:
-  ITypeInfo& info_;
-  FUNCDESC* function_ = nullptr;
-};
-
 std::size_t CountOfParameters(const FUNCDESC& function) {
   const auto* first = function.lprgelemdescParam;
   return static_cast<std::size_t>(std::count_if(
@@ -47,20 +21,15 @@ bool IsLeftOut(const VARIANT& variant) {
 
 }  // namespace
 
-CallArguments::CallArguments(ITypeInfo& described, DISPID member, WORD kind, const DISPPARAMS& given)
+CallArguments::CallArguments(const FUNCDESC& function, WORD kind, const DISPPARAMS& given)
     : is_put_((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) {
-  const DescribedFunction function(described, member, kind);
-  if (function.Get() == nullptr) {
-    outcome_ = DISP_E_MEMBERNOTFOUND;
-    return;
-  }
-  arguments_.resize(CountOfParameters(*function.Get()));
+  arguments_.resize(CountOfParameters(function));
   if (given.cArgs > arguments_.size()) {
     outcome_ = DISP_E_BADPARAMCOUNT;
     return;
   }
   Read(given);
-  if (SUCCEEDED(outcome_)) FillIn(*function.Get());
+  if (SUCCEEDED(outcome_)) FillIn(function);
 }
 
 void CallArguments::Read(const DISPPARAMS& given) {

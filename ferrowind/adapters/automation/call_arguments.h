@@ -17,8 +17,8 @@ namespace ferrowind::automation {
 /// where a reference to it belongs.
 class CallArguments {
  public:
-  /// Reads what the host gave; on failure, arguments that do not fit the member, `Outcome` says why.
-  CallArguments(ITypeInfo& described, DISPID member, WORD kind, const DISPPARAMS& given);
+  /// Reads what the host gave; on failure, arguments that do not fit the function, `Outcome` says why.
+  CallArguments(const FUNCDESC& function, WORD kind, const DISPPARAMS& given);
 
   /// S_OK, or what the host is answered.
   [[nodiscard]] HRESULT Outcome() const { return outcome_; }

@@ -2,6 +2,8 @@
 
 #include <oaidl.h>
 
+#include "ferrowind/adapters/automation/described_interface.h"
+
 namespace ferrowind::automation {
 
 /// A late-bound call of a member of a dual interface, as its type library describes it.
@@ -21,10 +23,11 @@ struct DispatchCall {
 
 /// Runs the call on `object`, whose interface is the one of `described`. Arguments may come by reference, as
 /// deep as scripts pass them, by name, and those with defaults not at all.
-[[nodiscard]] HRESULT RunDispatchCall(ITypeInfo& described, void* object, const DispatchCall& call);
+[[nodiscard]] HRESULT RunDispatchCall(const DescribedInterface& described, void* object,
+                                      const DispatchCall& call);
 
 /// The identifiers of a member and of its arguments, found without regard to case.
-[[nodiscard]] HRESULT FindDispatchIdentifiers(ITypeInfo& described, OLECHAR** names, UINT count,
-                                              DISPID* found);
+[[nodiscard]] HRESULT FindDispatchIdentifiers(const DescribedInterface& described, OLECHAR** names,
+                                              UINT count, DISPID* found);
 
 }  // namespace ferrowind::automation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <utility>
 
 #include <oaidl.h>
@@ -9,6 +10,7 @@
 #include "ferrowind/adapters/automation/com_object.h"
 #include "ferrowind/adapters/automation/com_pointer.h"
 #include "ferrowind/adapters/automation/described_class.h"
+#include "ferrowind/adapters/automation/described_interface.h"
 #include "ferrowind/adapters/automation/dispatch_call.h"
 #include "ferrowind/adapters/automation/module.h"
 
@@ -21,7 +23,7 @@ class DispatchObject : public ComObject<Dual, ISupportErrorInfo, IProvideClassIn
  public:
   /// Fails where the type library cannot be read.
   explicit DispatchObject(const DescribedClass& described)
-      : described_(described), interface_info_(Module::Get().TypeInfo(described.interface_id)) {}
+      : described_(described), interface_(Module::Get().Interface(described.interface_id)) {}
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
     if (count == nullptr) return E_POINTER;
@@ -32,17 +34,17 @@ class DispatchObject : public ComObject<Dual, ISupportErrorInfo, IProvideClassIn
     if (info == nullptr) return E_POINTER;
     *info = nullptr;
     if (index != 0) return DISP_E_BADINDEX;
-    return interface_info_.CopyTo(info);
+    return interface_->Info().CopyTo(info);
   }
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, OLECHAR** names, UINT count, LCID,
                                           DISPID* found) override {
     if (!IsEqualIID(iid, GUID_NULL)) return DISP_E_UNKNOWNINTERFACE;
-    return FindDispatchIdentifiers(*interface_info_.Get(), names, count, found);
+    return FindDispatchIdentifiers(*interface_, names, count, found);
   }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID iid, LCID locale, WORD kind, DISPPARAMS* arguments,
                                    VARIANT* result, EXCEPINFO* exception, UINT* wrong_argument) override {
     if (!IsEqualIID(iid, GUID_NULL)) return DISP_E_UNKNOWNINTERFACE;
-    return RunDispatchCall(*interface_info_.Get(), static_cast<Dual*>(this),
+    return RunDispatchCall(*interface_, static_cast<Dual*>(this),
                            {member, locale, kind, arguments, result, exception, wrong_argument});
   }
 
@@ -72,7 +74,7 @@ class DispatchObject : public ComObject<Dual, ISupportErrorInfo, IProvideClassIn
 
  private:
   DescribedClass described_;
-  ComPointer<ITypeInfo> interface_info_;
+  std::shared_ptr<const DescribedInterface> interface_;
 };
 
 }  // namespace ferrowind::automation

@@ -24,8 +24,11 @@ void Module::Hold() {
 
 void Module::LetGo() {
   ComPointer<ITypeLib> dropped;
+  Interfaces dropped_interfaces;
   const std::lock_guard lock(mutex_);
-  if (--held_ == 0) dropped.Swap(library_);
+  if (--held_ > 0) return;
+  dropped.Swap(library_);
+  dropped_interfaces.swap(interfaces_);
 }
 
 long Module::Held() {
@@ -65,6 +68,20 @@ ComPointer<ITypeInfo> Module::TypeInfo(REFGUID identifier) {
   ComPointer<ITypeInfo> info;
   RequireSuccess(TypeLibrary()->GetTypeInfoOfGuid(identifier, info.Receive()));
   return info;
+}
+
+std::shared_ptr<const DescribedInterface> Module::Interface(REFGUID identifier) {
+  {
+    const std::lock_guard lock(mutex_);
+    for (const auto& [known, described] : interfaces_) {
+      if (IsEqualGUID(known, identifier)) return described;
+    }
+  }
+  auto described = std::make_shared<const DescribedInterface>(TypeInfo(identifier));
+  const std::lock_guard lock(mutex_);
+  // Another thread may have been faster, and then there are two, of which the first one is found.
+  if (held_ > 0) interfaces_.emplace_back(identifier, described);
+  return described;
 }
 
 }  // namespace ferrowind::automation

@@ -27,17 +27,24 @@ std::string Utf8(std::wstring_view text) {
 std::wstring Utf16(std::string_view text) {
   if (text.empty()) return {};
   const int length = LengthOf(text.size());
-  const int needed = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0);
-  std::wstring result(static_cast<std::size_t>(needed), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), needed);
+  // Never more units than bytes.
+  std::wstring result(text.size(), L'\0');
+  const int converted = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), length);
+  result.resize(static_cast<std::size_t>(converted));
   return result;
 }
 
 std::string Utf8OfBstr(BSTR text) { return Utf8(std::wstring_view(text, SysStringLen(text))); }
 
 BSTR NewBstr(std::string_view text) {
-  const std::wstring wide = Utf16(text);
-  BSTR result = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+  const int length = LengthOf(text.size());
+  // Never more units than bytes, and as many of most texts.
+  const BSTR converted = SysAllocStringLen(nullptr, static_cast<UINT>(length));
+  if (converted == nullptr) throw std::bad_alloc();
+  const int units = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, converted, length);
+  if (units == length) return converted;
+  const BSTR result = SysAllocStringLen(converted, static_cast<UINT>(units));
+  SysFreeString(converted);
   if (result == nullptr) throw std::bad_alloc();
   return result;
 }

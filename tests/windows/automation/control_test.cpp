@@ -232,6 +232,42 @@ TEST(LateBoundControl, AnswersWrongCallsWithThePlatformsResults) {
   });
 }
 
+TEST(LateBoundControl, HasNoMembersButItsOwn) {
+  RunInApartment([] {
+    const auto control = NewControl();
+    // The first slots of every interface, with which a script could count references.
+    for (DISPID member : {0x60000000, 0x60000001, 0x60000002, 0x60010000, 0x60010003, 0, 1}) {
+      DISPPARAMS none{};
+      OwnedVariant result;
+      EXPECT_EQ(control->Invoke(member, GUID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none,
+                                result.Address(), nullptr, nullptr),
+                DISP_E_MEMBERNOTFOUND)
+          << member;
+    }
+  });
+}
+
+TEST(LateBoundControl, TellsFailuresOfPropertiesToHostsThatWantThem) {
+  RunInApartment([] {
+    const auto control = NewControl();
+    ASSERT_EQ(control->Show(), S_OK);
+    ExpectFailureOf(CallLate(*control.Get(), L"Headers"), kComponentFailure,
+                    "Property is accessed only before show method");
+    DISPPARAMS none{};
+    EXPECT_EQ(control->Invoke(0x68030001, GUID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
+                              nullptr, nullptr, nullptr),
+              DISP_E_EXCEPTION);
+    EXPECT_EQ(control->Invoke(0x60030002, GUID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr,
+                              nullptr, nullptr),
+              S_OK);
+    // The map is released, although nobody has taken it.
+    EXPECT_EQ(control->Invoke(0x68030001, GUID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
+                              nullptr, nullptr, nullptr),
+              S_OK);
+  });
+  EXPECT_EQ(Module::Get().Held(), 0);
+}
+
 TEST(LateBoundControl, TellsFailuresByNumberAndText) {
   RunInApartment([] {
     const auto map = HeadersOf(*NewControl().Get());
