@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/adapters/win32/base/handles.h"
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/grid/grid_painter.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::win32 {
@@ -74,12 +76,14 @@ void Win32Grid::FitColumns() {
   constexpr std::uint32_t kRecordsMeasured = 60;
   constexpr int kBesideText = 18;
   const auto count = std::min(content_.Cells().RecordCount(), kRecordsMeasured);
+  const WindowContext context(Handle());
+  const GridPainter painter(context.Get(), Font(), content_, geometry_, selection_);
   for (const std::int16_t column : geometry_.Order()) {
     if (settled_widths_.contains(column)) continue;
     // Room for the arrow of a sorted column.
     LONG width = TextSize(content_.Columns()[column].Caption()).cx + geometry_.LineHeight() / 2;
     for (grid_engine::Record record = 0; record < count; ++record)
-      width = std::max(width, TextSize(FromWide(content_.Cells().ShownText(column, record))).cx);
+      width = std::max(width, painter.TextWidthOf(column, record));
     geometry_.SetWidth(column, width + Scaled(kBesideText, DotsPerInch()));
   }
 }

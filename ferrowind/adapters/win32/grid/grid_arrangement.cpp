@@ -12,6 +12,8 @@ namespace {
 
 /// What widths in layouts are designed for.
 constexpr int kDesignedDotsPerInch = 96;
+/// What stands in layouts for a column that has never had any content to be fitted to.
+constexpr int kUnfitted = static_cast<int>(GridGeometry::kUsualWidth);
 
 }  // namespace
 
@@ -20,9 +22,10 @@ std::string Win32Grid::SaveLayout() const {
   const int dots = static_cast<int>(DotsPerInch());
   grid_content::GridLayout layout;
   for (const std::int16_t column : geometry_.Order()) {
-    const int width = MulDiv(static_cast<int>(geometry_.KeptWidthOf(column)), kDesignedDotsPerInch, dots);
-    layout.columns.push_back(
-        {content_.Columns()[column].Key(), std::max(1, width), content_.Columns()[column].Visible()});
+    const auto set = geometry_.WidthSetFor(column);
+    const int width =
+        set ? std::max(1, MulDiv(static_cast<int>(*set), kDesignedDotsPerInch, dots)) : kUnfitted;
+    layout.columns.push_back({content_.Columns()[column].Key(), width, content_.Columns()[column].Visible()});
   }
   layout.sort_keys = grid_content::KeysOf(content_.Columns(), content_.SortKeys());
   layout.group_keys = grid_content::KeysOf(content_.Columns(), content_.GroupKeys());
@@ -37,8 +40,10 @@ bool Win32Grid::RestoreLayout(const std::string& layout) {
     grid_content::StoredColumn* const column = content_.Columns().Find(saved.key);
     if (column == nullptr) continue;
     geometry_.MoveTo(column->Index(), place++);
-    geometry_.SetWidth(column->Index(), Scaled(saved.width, DotsPerInch()));
-    settled_widths_.insert(column->Index());
+    if (saved.width != kUnfitted) {
+      geometry_.SetWidth(column->Index(), Scaled(saved.width, DotsPerInch()));
+      settled_widths_.insert(column->Index());
+    }
     column->SetVisible(saved.is_visible);
   }
   if (place == 0) return false;

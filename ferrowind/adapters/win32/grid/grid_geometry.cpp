@@ -6,7 +6,6 @@
 namespace ferrowind::win32 {
 namespace {
 
-constexpr LONG kUsualWidth = 80;
 constexpr LONG kLeastWidth = 16;
 constexpr LONG kChipGap = 6;
 /// How near to the edge of a header the mouse takes the edge.
@@ -38,11 +37,13 @@ void GridGeometry::MoveTo(std::int16_t column, std::size_t place) {
 
 bool GridGeometry::IsVisible(std::int16_t column) const { return content_.Columns()[column].Visible(); }
 
-LONG GridGeometry::WidthOf(std::int16_t column) const { return IsVisible(column) ? KeptWidthOf(column) : 0; }
+LONG GridGeometry::WidthOf(std::int16_t column) const {
+  return IsVisible(column) ? WidthSetFor(column).value_or(kUsualWidth) : 0;
+}
 
-LONG GridGeometry::KeptWidthOf(std::int16_t column) const {
+std::optional<LONG> GridGeometry::WidthSetFor(std::int16_t column) const {
   const auto found = widths_.find(column);
-  return found == widths_.end() ? kUsualWidth : found->second;
+  return found == widths_.end() ? std::nullopt : std::optional<LONG>(found->second);
 }
 
 void GridGeometry::SetWidth(std::int16_t column, LONG width) {

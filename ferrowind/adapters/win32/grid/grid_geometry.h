@@ -26,6 +26,8 @@ struct GridHit {
 /// Rows count from 0, columns are meant by their 1-based index.
 class GridGeometry {
  public:
+  static constexpr LONG kUsualWidth = 80;
+
   explicit GridGeometry(const GridContent& content) : content_(content) {}
 
   /// Of a line of text, with the room around it.
@@ -45,8 +47,8 @@ class GridGeometry {
   void MoveTo(std::int16_t column, std::size_t place);
   /// 0 for a hidden column.
   [[nodiscard]] LONG WidthOf(std::int16_t column) const;
-  /// Which a hidden column has when it is shown.
-  [[nodiscard]] LONG KeptWidthOf(std::int16_t column) const;
+  /// That was set, also of a hidden column; nothing where none was, which gives it `kUsualWidth`.
+  [[nodiscard]] std::optional<LONG> WidthSetFor(std::int16_t column) const;
   void SetWidth(std::int16_t column, LONG width);
   [[nodiscard]] LONG TotalWidth() const;
 

@@ -149,11 +149,23 @@ void GridPainter::PaintGroup(grid_engine::GroupId group, RECT area) const {
   Text(content_.LabelOf(group), area, DT_LEFT);
 }
 
-void GridPainter::PaintRecord(grid_engine::Record record, const RECT& area, bool is_chosen) const {
-  const grid_content::RowLook look = content_.LookOf(record);
+HFONT GridPainter::FontOf(const grid_content::RowLook& look) const {
   const HFONT plain = look.is_struck_through ? struck_.get() : font_;
   const HFONT bold = look.is_struck_through ? bold_struck_.get() : bold_.get();
-  const Selected font(context_, look.is_bold ? bold : plain);
+  return look.is_bold ? bold : plain;
+}
+
+LONG GridPainter::TextWidthOf(std::int16_t column, grid_engine::Record record) const {
+  const std::wstring text = content_.Cells().ShownText(column, record);
+  const Selected font(context_, FontOf(content_.LookOf(record)));
+  SIZE size{};
+  GetTextExtentPoint32W(context_, text.c_str(), static_cast<int>(text.size()), &size);
+  return size.cx;
+}
+
+void GridPainter::PaintRecord(grid_engine::Record record, const RECT& area, bool is_chosen) const {
+  const grid_content::RowLook look = content_.LookOf(record);
+  const Selected font(context_, FontOf(look));
   if (look.fore_color && !is_chosen)
     SetTextColor(context_, RGB(look.fore_color->red, look.fore_color->green, look.fore_color->blue));
   for (const std::int16_t column : geometry_.Order()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "ferrowind/adapters/win32/base/handles.h"
@@ -17,6 +18,8 @@ class GridPainter {
               const RowSelection& selection);
 
   void Paint(const RECT& room, bool has_focus, UINT dots_per_inch) const;
+  /// Of the text of a cell, as it is painted.
+  [[nodiscard]] LONG TextWidthOf(std::int16_t column, grid_engine::Record record) const;
 
  private:
   enum class Arrow { kUp, kDown, kRight };
@@ -26,6 +29,7 @@ class GridPainter {
   void PaintRow(std::uint32_t row, const RECT& area, bool has_focus) const;
   void PaintGroup(grid_engine::GroupId group, RECT area) const;
   void PaintRecord(grid_engine::Record record, const RECT& area, bool is_chosen) const;
+  [[nodiscard]] HFONT FontOf(const grid_content::RowLook& look) const;
   void Text(const std::wstring& text, RECT area, UINT format) const;
   void Fill(const RECT& area, int system_color) const;
   /// In the colour of the text of now, at the left end of the area.
