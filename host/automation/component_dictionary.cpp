@@ -2,21 +2,17 @@
 
 #include <utility>
 
-#include <windows.h>
-
 #include "ferrowind/adapters/services/desktop_dictionary.h"
-#include "ferrowind/adapters/win32/services/registry_settings.h"
 #include "ferrowind/platform/services/object_factory.h"
 #include "ferrowind/platform/values/failure.h"
+
+#include "host/automation/registered_text.h"
 
 namespace ferrowind::host {
 namespace {
 
 std::string RegisteredConnectionString() {
-  for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
-    const auto text = win32::RegistryText(root, win32::kComponentKey, L"ConnectionString");
-    if (text && !text->empty()) return *text;
-  }
+  if (auto text = RegisteredText(L"ConnectionString")) return *std::move(text);
   throw platform::Failure(platform::failure_number::kCannotCreateObject,
                           std::string(platform::kDictionaryIdentifier) +
                               " is not registered, and the registry names no database: there is no text "

@@ -6,8 +6,10 @@
 #include "ferrowind/adapters/automation/outside_objects.h"
 #include "ferrowind/adapters/automation/text.h"
 #include "ferrowind/adapters/services/system_clock.h"
+#include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/adapters/win32/forms/win32_toolkit.h"
+#include "ferrowind/adapters/win32/services/registry_settings.h"
 #include "ferrowind/adapters/win32/services/win32_locale.h"
 #include "ferrowind/adapters/win32/services/win32_shared_services.h"
 #include "ferrowind/platform/database/engine_command.h"
@@ -15,6 +17,7 @@
 #include "ferrowind/platform/platform.h"
 
 #include "host/automation/component_dictionary.h"
+#include "host/automation/registered_text.h"
 
 namespace ferrowind::host {
 namespace {
@@ -24,6 +27,13 @@ std::shared_ptr<const platform::EngineRegistry> MakeEngines() {
   auto engines = std::make_shared<platform::EngineRegistry>();
   engines->Register(sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>());
   return engines;
+}
+
+/// Into the file that the registry names as "TraceFile"; none where it names none. One that cannot be opened
+/// is a failure.
+std::shared_ptr<TraceSink> MakeTrace() {
+  const auto path = RegisteredText(L"TraceFile");
+  return path ? std::make_shared<TraceFile>(*path) : nullptr;
 }
 
 /// Where the component's own files are: beside this one.
@@ -41,7 +51,7 @@ class ComponentSurroundings : public automation::Surroundings {
   platform::EngineCommandFactory commands_{*engines_};
   // The objects are kept by the thread, beyond this one.
   automation::OutsideObjects objects_{
-      [] { return std::make_shared<win32::Win32SharedServices>(); },
+      [] { return std::make_shared<win32::Win32SharedServices>(win32::RegistrySettings(), MakeTrace()); },
       [engines = engines_] { return std::make_shared<ComponentDictionary>(engines); }};
   win32::Win32Toolkit toolkit_;
   win32::Win32Locale locale_;

@@ -7,7 +7,9 @@
 
 #include "ferrowind/adapters/automation/text.h"
 
+#include "tests/contract/database/sqlite_database.h"
 #include "tests/windows/automation/host_process.h"
+#include "tests/windows/automation/own_registry.h"
 #include "tests/windows/automation/registered_file.h"
 
 namespace ferrowind::testing {
@@ -17,13 +19,23 @@ std::wstring Example(const char* name) {
   return automation::Utf16(FERROWIND_EXAMPLES "/") + automation::Utf16(name);
 }
 
+/// The component as its users have it: registered, with a database named.
+class Examples : public ::testing::Test {
+ protected:
+  // Of the user whom the test runs as, since the hosts are programs of their own.
+  Examples() { NameDatabase(automation::Utf16(database_.ConnectionString())); }
+
+ private:
+  contract::SqliteDatabase database_;
+  RegisteredFile registered_;
+};
+
 void Resize(HWND window, int width, int height) {
   EXPECT_TRUE(SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER));
 }
 
-TEST(ExampleInAScript, ChangesTheColumnsAndShowsTheCalendars) {
-  const RegisteredFile registered;
-  const HostProcess host(L"cscript.exe //nologo \"" + Example("columns.vbs") + L"\"");
+TEST_F(Examples, InAScriptChangesTheColumnsAndShowsTheCalendars) {
+  const HostProcess host(RunOfScript(Example("columns.vbs")));
   const HWND question = host.Window(L"#32770", L"Host");
   ASSERT_NE(question, nullptr) << host.Output();
   EXPECT_TRUE(PostMessageW(question, WM_COMMAND, IDOK, 0));
@@ -40,8 +52,7 @@ TEST(ExampleInAScript, ChangesTheColumnsAndShowsTheCalendars) {
             "Closed\n");
 }
 
-TEST(ExampleBoundEarly, ChangesTheColumnsAndLearnsWhatIsRefused) {
-  const RegisteredFile registered;
+TEST_F(Examples, BoundEarlyChangesTheColumnsAndLearnsWhatIsRefused) {
   const HostProcess host(L"early_bound.exe");
   EXPECT_EQ(host.Output(),
             "FullDate is called Day\n"
@@ -49,13 +60,12 @@ TEST(ExampleBoundEarly, ChangesTheColumnsAndLearnsWhatIsRefused) {
             "Closed\n");
 }
 
-TEST(ExampleBoundEarly, SaysThatNothingIsRegistered) {
+TEST(ExamplesWithoutTheComponent, SayThatNothingIsRegistered) {
   const HostProcess host(L"early_bound.exe");
   EXPECT_EQ(host.Output(1), "0x80040154\n");
 }
 
-TEST(ExampleWithAForm, KeepsTheControlsSizeInAWindowOfAnySize) {
-  const RegisteredFile registered;
+TEST_F(Examples, WithAFormKeepsTheControlsSizeInAWindowOfAnySize) {
   const HostProcess host(L"form_host.exe");
   const HWND form = host.Window(L"FormHost", L"A form");
   ASSERT_NE(form, nullptr) << host.Output();
@@ -69,8 +79,7 @@ TEST(ExampleWithAForm, KeepsTheControlsSizeInAWindowOfAnySize) {
             "removed\n");
 }
 
-TEST(ExampleWithAForm, HidesTheControlAtRunTime) {
-  const RegisteredFile registered;
+TEST_F(Examples, WithAFormHidesTheControlAtRunTime) {
   const HostProcess host(L"form_host.exe run");
   const HWND form = host.Window(L"FormHost", L"A form");
   ASSERT_NE(form, nullptr) << host.Output();

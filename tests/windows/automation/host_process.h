@@ -7,6 +7,11 @@
 
 namespace ferrowind::testing {
 
+/// How the script at that path is run, by the platform's own host of scripts.
+[[nodiscard]] inline std::wstring RunOfScript(const std::wstring& path) {
+  return L"cscript.exe //nologo \"" + path + L"\"";
+}
+
 /// A host in a program of its own, and what it writes.
 class HostProcess {
  public:

@@ -31,12 +31,16 @@ class OwnRegistry {
   HKEY key_ = nullptr;
 };
 
-/// Has the component's own dictionary name that database, for the present user.
-inline void NameDatabase(const std::wstring& connection_string) {
-  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Tessaro\\Ferrowind", L"ConnectionString", REG_SZ,
-                            connection_string.c_str(),
-                            static_cast<DWORD>((connection_string.size() + 1) * sizeof(wchar_t))),
+/// Writes a text for the component, for the present user.
+inline void WriteForComponent(const wchar_t* name, const std::wstring& text) {
+  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Tessaro\\Ferrowind", name, REG_SZ, text.c_str(),
+                            static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
             ERROR_SUCCESS);
+}
+
+/// Has the component's own dictionary name that database.
+inline void NameDatabase(const std::wstring& connection_string) {
+  WriteForComponent(L"ConnectionString", connection_string);
 }
 
 }  // namespace ferrowind::testing

@@ -222,7 +222,7 @@ TEST(ServerInAScript, ChangesColumnsAndTellsWhatIsRefused) {
   // Of the user whom the test runs as, since the script runs in a program of its own.
   NameDatabase(kNowhere);
   const std::string folder = FERROWIND_HOSTS;
-  const HostProcess host(L"cscript.exe //nologo \"" + automation::Utf16(folder + "/late_bound.vbs") + L"\"");
+  const HostProcess host(RunOfScript(automation::Utf16(folder + "/late_bound.vbs")));
   std::ifstream file(folder + "/late_bound.txt");
   const std::string expected{std::istreambuf_iterator<char>(file), {}};
   ASSERT_FALSE(expected.empty());
