@@ -25,7 +25,7 @@ LIST = "tools/packages.txt"
 INSTALLER = "install_packages.sh"
 # Those that people start, and folders whose texts name further scripts that they run.
 ENTRIES = {"run": (), "test": ("tests",), "bench.sh": ("bench",), "tools/fuzz.sh": (), "tools/tidy.sh": (), "tools/test_windows.sh": (),
-           "tools/make_packages.sh": (), "tools/check_packages.sh": (),
+           "tools/make_packages.sh": (), "tools/make_windows_pictures.sh": (), "tools/check_packages.sh": (),
            "tools/compare_with_quantlib.sh": (), "tools/write_server_catalogue.sh": ()}
 # What is started by people who have everything that ./test installs.
 BESIDE_TESTS = ("tools/make_pictures.py", "tools/with_xvfb.py", ".ci/run")
