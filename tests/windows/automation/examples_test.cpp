@@ -38,6 +38,7 @@ TEST_F(Examples, InAScriptChangesTheColumnsAndShowsTheCalendars) {
   const HostProcess host(RunOfScript(Example("columns.vbs")));
   const HWND question = host.Window(L"#32770", L"Host");
   ASSERT_NE(question, nullptr) << host.Output();
+  EXPECT_NE(FindWindowW(nullptr, L"Calendars"), nullptr);
   EXPECT_TRUE(PostMessageW(question, WM_COMMAND, IDOK, 0));
   EXPECT_EQ(host.Output(),
             "Ferrowind 1.2.10\n"
