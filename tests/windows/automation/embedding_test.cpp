@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <windows.h>
+#include <commctrl.h>
 #include <gtest/gtest.h>
 #include <ocidl.h>
 #include <ole2.h>
@@ -369,6 +370,25 @@ TEST(ControlOnAForm, BearsAFormThatTakesItsSiteAwayMeanwhile) {
       EXPECT_EQ(std::count(placed.form->told.begin(), placed.form->told.end(), "OnInPlaceDeactivate"), 1);
       EXPECT_EQ(placed.Window(), nullptr);
     }
+  });
+}
+
+TEST(ControlOnAForm, BearsAFormThatTakesItsSiteAwayAtTheSightOfItsWindow) {
+  RunInApartment([] {
+    const Placed placed(false);
+    const auto take_away = [](HWND window, UINT message, WPARAM w_param, LPARAM l_param, UINT_PTR,
+                              DWORD_PTR object) -> LRESULT {
+      if (message == WM_PARENTNOTIFY && LOWORD(w_param) == WM_CREATE) {
+        EXPECT_EQ(reinterpret_cast<IOleObject*>(object)->SetClientSite(nullptr), S_OK);
+      }
+      return DefSubclassProc(window, message, w_param, l_param);
+    };
+    ASSERT_TRUE(SetWindowSubclass(placed.form->Window(), take_away, 1,
+                                  reinterpret_cast<DWORD_PTR>(placed.object.Get())));
+    EXPECT_EQ(placed.Do(OLEIVERB_SHOW), E_FAIL);
+    EXPECT_EQ(placed.form->told,
+              (Told{"CanInPlaceActivate", "OnInPlaceActivate", "GetWindowContext", "OnInPlaceDeactivate"}));
+    EXPECT_EQ(placed.Window(), nullptr);
   });
 }
 

@@ -50,7 +50,10 @@ HRESULT InPlaceObject::TakePlace(IOleInPlaceSite& place) {
   if (FAILED(result)) return result;
   if (place_.Get() != &place) return E_FAIL;
   const POINT left_top{position.left, position.top};
-  window_ = std::make_unique<InPlaceWindow>(parent, left_top);
+  auto window = std::make_unique<InPlaceWindow>(parent, left_top);
+  // The form's window is told of its new child, and may have taken the site away for that.
+  if (place_.Get() != &place) return E_FAIL;
+  window_ = std::move(window);
   window_->MoveTo(left_top, clip);
   ShowWindow();
   SnapBack(position);
