@@ -5,6 +5,7 @@
 #include "ferrowind/adapters/automation/module.h"
 #include "ferrowind/adapters/automation/outside_objects.h"
 #include "ferrowind/adapters/automation/text.h"
+#include "ferrowind/adapters/odbc/engine.h"
 #include "ferrowind/adapters/services/system_clock.h"
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
@@ -26,6 +27,8 @@ namespace {
 std::shared_ptr<const platform::EngineRegistry> MakeEngines() {
   auto engines = std::make_shared<platform::EngineRegistry>();
   engines->Register(sqlite::Engine::kScheme, std::make_shared<sqlite::Engine>());
+  const auto drivers = std::make_shared<odbc::Engine>();
+  for (const char* const keyword : odbc::Engine::kKeywords) engines->RegisterKeyword(keyword, drivers);
   return engines;
 }
 

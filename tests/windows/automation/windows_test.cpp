@@ -8,18 +8,19 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <windows.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ferrowind/adapters/sqlite/engine.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/file_path.h"
 
 #include "tests/contract/database/sqlite_database.h"
+#include "tests/contract/odbc/odbc_database.h"
 #include "tests/windows/automation/control_thread.h"
 #include "tests/windows/automation/host_process.h"
 #include "tests/windows/automation/native_operator.h"
@@ -49,15 +50,17 @@ constexpr const char* kClose = R"(
 /// A new database without calendars, which the component's own dictionary names.
 class Office {
  public:
-  Office() { NameDatabase(win32::ToWide(database_.ConnectionString())); }
+  explicit Office(std::unique_ptr<contract::DatabaseUnderTest> database) : database_(std::move(database)) {
+    NameDatabase(win32::ToWide(database_->ConnectionString()));
+  }
 
-  contract::SqliteDatabase& Database() { return database_; }
+  contract::DatabaseUnderTest& Database() { return *database_; }
   /// What the calendar of the euro has of a day of 2027 in that field; "" for nothing, or without that
   /// calendar.
   [[nodiscard]] std::string OfDay(std::int32_t day_of_year, const char* field) {
     constexpr std::int32_t kYear = 2027;
     const auto answer =
-        database_.Engine().Connect(database_.ConnectionString())->Call("CldGetMain", {kEuro, kYear});
+        database_->Engine().Connect(database_->ConnectionString())->Call("CldGetMain", {kEuro, kYear});
     if (answer.return_value != 0) return {};
     auto& days = *answer.record_sets.at(0);
     days.SetFilter("Day1 = " + std::to_string(day_of_year));
@@ -66,7 +69,7 @@ class Office {
 
  private:
   OwnRegistry registry_;
-  contract::SqliteDatabase database_;
+  std::unique_ptr<contract::DatabaseUnderTest> database_;
 };
 
 /// A host's message loop as most of them are.
@@ -99,9 +102,24 @@ HWND CalendarsWindow() { return FindWindowW(nullptr, L"Calendars"); }
 
 class WindowsOfAScript : public ::testing::Test {
  protected:
-  Office office_;
+  Office office_{std::make_unique<contract::SqliteDatabase>()};
   RegisteredFile file_;
 };
+
+class WindowsOnAnyDatabase
+    : public ::testing::TestWithParam<contract::DatabaseKind<contract::DatabaseUnderTest>> {
+ protected:
+  Office office_{GetParam().make()};
+  RegisteredFile file_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, WindowsOnAnyDatabase,
+                         ::testing::Values(
+                             contract::DatabaseKind<contract::DatabaseUnderTest>{
+                                 "Sqlite", [] { return std::make_unique<contract::SqliteDatabase>(); }},
+                             contract::DatabaseKind<contract::DatabaseUnderTest>{
+                                 "Odbc", [] { return std::make_unique<contract::OdbcDatabase>(); }}),
+                         contract::KindName<contract::DatabaseKind<contract::DatabaseUnderTest>>);
 
 TEST_F(WindowsOfAScript, OpenAndCloseInAHostWithALoopOfItsOwn) {
   RunInApartment([] {
@@ -121,7 +139,7 @@ TEST_F(WindowsOfAScript, OpenAndCloseInAHostWithALoopOfItsOwn) {
   });
 }
 
-TEST_F(WindowsOfAScript, LetAnOperatorKeepACalendar) {
+TEST_P(WindowsOnAnyDatabase, LetAnOperatorKeepACalendar) {
   RunInApartment([this] {
     ScriptHost host;
     ASSERT_EQ(host.Run(kShow), "");
