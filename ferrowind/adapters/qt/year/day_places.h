@@ -6,8 +6,7 @@
 
 namespace ferrowind::qt {
 
-/// Where the parts of a day stand in its cell, in a month of weeks. None touches another or the frame of the
-/// current day, in any cell of at least the least size.
+/// Where the parts of a day stand in its cell, as `year_engine::DayPlaces` says.
 struct DayPlaces {
   DayPlaces(const YearMetrics& metrics, const QRectF& cell);
 
