@@ -13,6 +13,7 @@
 #include "ferrowind/adapters/automation/native_failure.h"
 #include "ferrowind/adapters/automation/registration.h"
 #include "ferrowind/adapters/win32/base/window_thread.h"
+#include "ferrowind/adapters/windows/counted_object.h"
 
 #include "generated/ferrowind.h"
 #include "host/automation/component_surroundings.h"
@@ -42,8 +43,9 @@ STDAPI DllGetClassObject(REFCLSID class_id, REFIID iid, void** object) {
 // Windows that are left when the last object goes, since a message of theirs is being handled, go a moment
 // later.
 STDAPI DllCanUnloadNow() {
-  const bool is_in_use =
-      ferrowind::automation::Module::Get().Held() > 0 || ferrowind::win32::WindowThread::Count() > 0;
+  const bool is_in_use = ferrowind::automation::Module::Get().Held() > 0 ||
+                         ferrowind::windows::CountedObject::Alive() > 0 ||
+                         ferrowind::win32::WindowThread::Count() > 0;
   return is_in_use ? S_FALSE : S_OK;
 }
 
