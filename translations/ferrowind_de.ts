@@ -300,6 +300,10 @@
         <translation>%1 ist durch %2 belegt; verschoben auf %3</translation>
     </message>
     <message>
+        <source>%1 is there already. Is it to be replaced?</source>
+        <translation>%1 gibt es schon. Soll die Datei ersetzt werden?</translation>
+    </message>
+    <message>
         <source>%1 moved from here to %2</source>
         <translation>%1 ist von hier auf %2 verschoben</translation>
     </message>
@@ -780,6 +784,10 @@
         <translation>Alle</translation>
     </message>
     <message>
+        <source>All Files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
         <source>All calendars</source>
         <translation>Alle Kalender</translation>
     </message>
@@ -1074,6 +1082,10 @@
     <message>
         <source>Currencies</source>
         <translation>Währungen</translation>
+    </message>
+    <message>
+        <source>Currencies and calendars</source>
+        <translation>Währungen und Kalender</translation>
     </message>
     <message>
         <source>Currency</source>

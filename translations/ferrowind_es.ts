@@ -300,6 +300,10 @@
         <translation>%1 está ocupado por %2; trasladado al %3</translation>
     </message>
     <message>
+        <source>%1 is there already. Is it to be replaced?</source>
+        <translation>%1 ya existe. ¿Reemplazar el archivo?</translation>
+    </message>
+    <message>
         <source>%1 moved from here to %2</source>
         <translation>%1 se trasladó de aquí al %2</translation>
     </message>
@@ -780,6 +784,10 @@
         <translation>Todos</translation>
     </message>
     <message>
+        <source>All Files</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
         <source>All calendars</source>
         <translation>Todos los calendarios</translation>
     </message>
@@ -1074,6 +1082,10 @@
     <message>
         <source>Currencies</source>
         <translation>Divisas</translation>
+    </message>
+    <message>
+        <source>Currencies and calendars</source>
+        <translation>Divisas y calendarios</translation>
     </message>
     <message>
         <source>Currency</source>

@@ -300,6 +300,10 @@
         <translation>%1 est pris par %2 ; déplacé au %3</translation>
     </message>
     <message>
+        <source>%1 is there already. Is it to be replaced?</source>
+        <translation>%1 existe déjà. Faut-il le remplacer ?</translation>
+    </message>
+    <message>
         <source>%1 moved from here to %2</source>
         <translation>%1 a été déplacé d’ici au %2</translation>
     </message>
@@ -780,6 +784,10 @@
         <translation>Tous</translation>
     </message>
     <message>
+        <source>All Files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
         <source>All calendars</source>
         <translation>Tous les calendriers</translation>
     </message>
@@ -1074,6 +1082,10 @@
     <message>
         <source>Currencies</source>
         <translation>Devises</translation>
+    </message>
+    <message>
+        <source>Currencies and calendars</source>
+        <translation>Devises et calendriers</translation>
     </message>
     <message>
         <source>Currency</source>

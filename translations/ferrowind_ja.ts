@@ -300,6 +300,10 @@
         <translation>%1は%2と重なるため%3へ移動</translation>
     </message>
     <message>
+        <source>%1 is there already. Is it to be replaced?</source>
+        <translation>%1 は既にあります。置き換えますか。</translation>
+    </message>
+    <message>
         <source>%1 moved from here to %2</source>
         <translation>%1はここから%2へ移動しました</translation>
     </message>
@@ -780,6 +784,10 @@
         <translation>すべて</translation>
     </message>
     <message>
+        <source>All Files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
         <source>All calendars</source>
         <translation>すべてのカレンダー</translation>
     </message>
@@ -1074,6 +1082,10 @@
     <message>
         <source>Currencies</source>
         <translation>通貨</translation>
+    </message>
+    <message>
+        <source>Currencies and calendars</source>
+        <translation>通貨とカレンダー</translation>
     </message>
     <message>
         <source>Currency</source>

@@ -44,7 +44,7 @@ FAMILIES = (
     ("<json>", re.compile(r"nlohmann/.+")),
     # The C headers are here for what POSIX adds to them; the standard C++ ones have all the rest.
     ("<posix>", re.compile(r"(unistd|fcntl|signal|pwd|poll|dlfcn|pthread|stdio|stdlib|time|wchar)\.h|(sys|netinet)/\w+\.h")),
-    ("<windows>", re.compile(r"(windows|aclapi|bcrypt|guiddef|io|lmcons|oaidl|objbase|ocidl|ole2|oleauto|olectl|oleidl|sddl|share|unknwn|winerror|wtypes)\.h")),
+    ("<windows>", re.compile(r"(windows|aclapi|bcrypt|commdlg|dwmapi|guiddef|io|lmcons|oaidl|objbase|ocidl|ole2|oleacc|oleauto|olectl|oleidl|sddl|share|unknwn|winerror|wtypes)\.h")),
     ("<linux>", re.compile(r"linux/\w+\.h")),
 )
 

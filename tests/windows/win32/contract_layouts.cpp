@@ -23,12 +23,14 @@ win32::FormLayouts ContractLayouts() {
                           {.name = "sssp",
                            .direction = LayoutDirection::kRow,
                            .stretch = 1,
-                           .places = {control("tvNodes", 2), control("gexRows", 6), control("gexRanges", 3),
-                                      control("yvYear", 1)}},
+                           .places = {control("tvNodes", 2), control("gexRows", 6), control("gexRanges", 2),
+                                      control("yvYear", 5)}},
                           control("sbLine")}});
   layouts.Add("fmContractFixed",
               {.margin = 10,
                .places = {control("txtText"), control("cmdFirst"), control("cmdOk"), control("cmdCancel")}});
+  layouts.Add("fmContractTables",
+              {.margin = 10, .places = {control("tblRows", 1), control("tblCells", 1), control("cmdOk")}});
   layouts.Add("fmContractClosable", {.margin = 10, .places = {control("cmdOk")}});
   return layouts;
 }

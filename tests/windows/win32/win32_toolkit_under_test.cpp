@@ -1,6 +1,6 @@
+#include <array>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -17,9 +17,13 @@
 #include "ferrowind/adapters/win32/forms/win32_toolkit.h"
 #include "ferrowind/adapters/win32/grid/grid.h"
 #include "ferrowind/adapters/win32/grid/grid_menu.h"
+#include "ferrowind/adapters/win32/table/table.h"
+#include "ferrowind/adapters/win32/year/year_texts.h"
+#include "ferrowind/adapters/win32/year/year_view.h"
 
 #include "tests/contract/toolkit/toolkit_under_test.h"
 #include "tests/windows/win32/contract_layouts.h"
+#include "tests/windows/win32/file_dialog.h"
 #include "tests/windows/win32/input.h"
 
 namespace ferrowind::contract {
@@ -36,9 +40,6 @@ Kind& As(Port& port) {
 
 HWND WindowOf(platform::Control& control) { return As<win32::ControlWindow>(control).Handle(); }
 HWND WindowOf(platform::Form& form) { return As<win32::Win32Form>(form).Window().Handle(); }
-
-/// For what the adapter does not show yet; the contracts that need it are not among its tests.
-[[noreturn]] void NotShown() { throw std::logic_error("The adapter does not show this yet"); }
 
 /// Runs `action` out of the message loop as soon as `is_ready`; gives up, with `give_up`, when that takes too
 /// long.
@@ -215,13 +216,34 @@ class Win32ToolkitUnderTest : public ToolkitUnderTest {
     tool_bar.ShowPopupMenu(menu_id);
   }
 
-  void ClickCell(platform::Table&, const std::string&, const std::string&) override { NotShown(); }
-  void DoubleClickCell(platform::Table&, const std::string&, const std::string&) override { NotShown(); }
-  void ExtendToTableRow(platform::Table&, const std::string&) override { NotShown(); }
-  void ClickBox(platform::Table&, const std::string&) override { NotShown(); }
-  void ClickTableHeader(platform::Table&, const std::string&) override { NotShown(); }
-  void PressSpace(platform::Table&) override { NotShown(); }
-  void PressCopy(platform::Table&) override { NotShown(); }
+  void ClickCell(platform::Table& table, const std::string& row, const std::string& column) override {
+    ClickMouse(CellPlace(table, row, column));
+  }
+  void DoubleClickCell(platform::Table& table, const std::string& row, const std::string& column) override {
+    DoubleClickMouse(CellPlace(table, row, column));
+  }
+  void ExtendToTableRow(platform::Table& table, const std::string& row) override {
+    const auto& shown = As<win32::Win32Table>(table);
+    ClickMouse(CellPlace(table, row, shown.Content().Columns().back().key), false, {VK_SHIFT});
+  }
+  void ClickBox(platform::Table& table, const std::string& row) override {
+    HandleMessages();
+    const auto& shown = As<win32::Win32Table>(table);
+    ClickMouse(MiddleOf(WindowOf(table), shown.Geometry().BoxArea(shown.Content().RowOf(row))));
+  }
+  void ClickTableHeader(platform::Table& table, const std::string& column) override {
+    HandleMessages();
+    const auto& shown = As<win32::Win32Table>(table);
+    ClickMouse(MiddleOf(WindowOf(table), shown.Geometry().HeaderArea(shown.Content().ColumnOf(column))));
+  }
+  void PressSpace(platform::Table& table) override {
+    table.SetFocus();
+    PressKey(VK_SPACE);
+  }
+  void PressCopy(platform::Table& table) override {
+    table.SetFocus();
+    PressKey('C', {VK_CONTROL});
+  }
   [[nodiscard]] std::string ClipboardText() override {
     OpenClipboard(nullptr);
     const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
@@ -282,16 +304,41 @@ class Win32ToolkitUnderTest : public ToolkitUnderTest {
     return {look.fore_color, look.is_bold, look.is_struck_through};
   }
 
-  void ClickDay(platform::YearView&, const platform::YearCell&, std::int32_t) override { NotShown(); }
-  void ToggleDay(platform::YearView&, const platform::YearCell&) override { NotShown(); }
-  void ExtendToDay(platform::YearView&, const platform::YearCell&) override { NotShown(); }
-  void DragDays(platform::YearView&, const platform::YearCell&, const platform::YearCell&) override {
-    NotShown();
+  void ClickDay(platform::YearView& view, const platform::YearCell& cell, std::int32_t button) override {
+    ClickMouse(DayPlace(view, cell), button == platform::kRightButton);
   }
-  void PressDayKey(platform::YearView&, DayKey, bool) override { NotShown(); }
-  void PressEnterOnDay(platform::YearView&) override { NotShown(); }
-  void PressMenuKeyOnDay(platform::YearView&) override { NotShown(); }
-  [[nodiscard]] std::string DayText(platform::YearView&, const platform::YearCell&) override { NotShown(); }
+  void ToggleDay(platform::YearView& view, const platform::YearCell& cell) override {
+    ClickMouse(DayPlace(view, cell), false, {VK_CONTROL});
+  }
+  void ExtendToDay(platform::YearView& view, const platform::YearCell& cell) override {
+    ClickMouse(DayPlace(view, cell), false, {VK_SHIFT});
+  }
+  void DragDays(platform::YearView& view, const platform::YearCell& from,
+                const platform::YearCell& to) override {
+    // Both in sight, where the one does not scroll the other.
+    static_cast<void>(DayPlace(view, to));
+    const POINT start = DayPlace(view, from);
+    const auto& shown = As<win32::Win32YearView>(view);
+    DragMouse(start, MiddleOf(WindowOf(view), shown.AreaOf(shown.Days().PlaceOf(to).value())));
+  }
+  void PressDayKey(platform::YearView& view, DayKey key, bool extends) override {
+    constexpr std::array kKeys = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT};
+    view.SetFocus();
+    Settle();
+    PressKey(static_cast<WORD>(kKeys.at(static_cast<std::size_t>(key))), extends ? Held{VK_SHIFT} : Held{});
+  }
+  void PressEnterOnDay(platform::YearView& view) override {
+    view.SetFocus();
+    PressKey(VK_RETURN);
+  }
+  void PressMenuKeyOnDay(platform::YearView& view) override {
+    view.SetFocus();
+    PressKey(VK_APPS);
+  }
+  [[nodiscard]] std::string DayText(platform::YearView& view, const platform::YearCell& cell) override {
+    const auto& days = As<win32::Win32YearView>(view).Days();
+    return win32::FromWide(win32::TextOfDay(days, days.PlaceOf(cell).value()));
+  }
 
  private:
   static void Activate(platform::Form& form) {
@@ -307,6 +354,19 @@ class Win32ToolkitUnderTest : public ToolkitUnderTest {
     HandleMessages();
     return MiddleOf(WindowOf(grid),
                     As<win32::Win32Grid>(grid).Geometry().HeaderArea(grid.ColumnByKey(column_key).Index()));
+  }
+  static POINT CellPlace(platform::Table& table, const std::string& row, const std::string& column) {
+    HandleMessages();
+    const auto& shown = As<win32::Win32Table>(table);
+    return MiddleOf(WindowOf(table),
+                    shown.Geometry().CellArea(shown.Content().RowOf(row), shown.Content().ColumnOf(column)));
+  }
+  static POINT DayPlace(platform::YearView& view, const platform::YearCell& cell) {
+    HandleMessages();
+    auto& shown = As<win32::Win32YearView>(view);
+    const auto place = shown.Days().PlaceOf(cell).value();
+    shown.BringIntoSight(place);
+    return MiddleOf(WindowOf(view), shown.AreaOf(place));
   }
   static void Retype(platform::DatePicker& picker, const std::wstring& text) {
     picker.SetFocus();
@@ -365,44 +425,26 @@ class Win32ToolkitUnderTest : public ToolkitUnderTest {
   /// Answers a question for a file, in a folder where "days.ics" is.
   std::optional<std::string> Ask(const std::optional<std::string>& name,
                                  const std::function<std::optional<std::string>()>& ask) {
-    const auto question = [] {
-      HWND found = nullptr;
-      EnumThreadWindows(
-          GetCurrentThreadId(),
-          [](HWND window, LPARAM result) -> BOOL {
-            wchar_t name_of_class[16]{};
-            GetClassNameW(window, name_of_class, 16);
-            if (IsWindowVisible(window) == 0 || std::wstring(name_of_class) != L"#32770") return TRUE;
-            *reinterpret_cast<HWND*>(result) = window;
-            return FALSE;
-          },
-          reinterpret_cast<LPARAM>(&found));
-      return found;
+    const auto turn_down = [&] { PostMessageW(FrontDialog(), WM_COMMAND, IDCANCEL, 0); };
+    bool is_answered = false;
+    std::vector<platform::Subscription> looks;
+    // Once answered it goes, or tells why it does not take the answer.
+    std::function<void()> turn_down_what_is_left = [&] {
+      if (!is_answered && FrontDialog() != nullptr) turn_down();
+      if (!is_answered) looks.push_back(toolkit_.After(kPollMilliseconds * 50, turn_down_what_is_left));
     };
     const WhenReady ready(
-        toolkit_, [&] { return question() != nullptr; },
+        toolkit_, [&] { return FrontDialog() != nullptr; },
         [&] {
-          if (!name) {
-            PostMessageW(question(), WM_COMMAND, IDCANCEL, 0);
-            return;
-          }
-          SetFileName(question(), (folder_ / *name).wstring());
-          PostMessageW(question(), WM_COMMAND, IDOK, 0);
+          if (!name) return turn_down();
+          TypeFileName(FrontDialog(), (folder_ / *name).wstring());
+          PostMessageW(FrontDialog(), WM_COMMAND, IDOK, 0);
+          looks.push_back(toolkit_.After(kPollMilliseconds * 50, turn_down_what_is_left));
         },
-        [&] { PostMessageW(question(), WM_COMMAND, IDCANCEL, 0); });
-    return ask();
-  }
-  static void SetFileName(HWND question, const std::wstring& text) {
-    EnumChildWindows(
-        question,
-        [](HWND child, LPARAM given) -> BOOL {
-          wchar_t name_of_class[16]{};
-          GetClassNameW(child, name_of_class, 16);
-          if (std::wstring(name_of_class) != L"Edit") return TRUE;
-          SetWindowTextW(child, reinterpret_cast<const wchar_t*>(given));
-          return FALSE;
-        },
-        reinterpret_cast<LPARAM>(text.c_str()));
+        turn_down);
+    auto answer = ask();
+    is_answered = true;
+    return answer;
   }
   static std::optional<std::string> WithoutFolder(const std::optional<std::string>& path) {
     if (!path) return std::nullopt;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/adapters/win32/base/theme.h"
 #include "ferrowind/adapters/win32/base/windows_api.h"
 
 namespace ferrowind::win32 {
@@ -17,6 +18,8 @@ struct FormSite {
   bool is_shown = false;
   /// The form was dropped: nothing of it raises events any more.
   bool is_retired = false;
+  /// What its windows are painted in; null for the platform's colours. They outlive the windows.
+  const Theme* colors = nullptr;
   /// How many messages and events of the form are being handled now, one inside the other.
   int work_under_way = 0;
 };

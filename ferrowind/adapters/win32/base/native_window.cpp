@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/win32/base/native_window.h"
 
+#include <array>
 #include <string>
 #include <utility>
 
@@ -52,7 +53,8 @@ const wchar_t* PaneClass() {
   return kPaneClass;
 }
 
-NativeWindow::NativeWindow(std::shared_ptr<FormSite> site, const Design& design) : site_(std::move(site)) {
+NativeWindow::NativeWindow(std::shared_ptr<FormSite> site, const Design& design)
+    : site_(std::move(site)), is_pane_(design.window_class == PaneClass()) {
   handle_ = CreateWindowExW(design.extended_style, design.window_class, L"", design.style, 0, 0, 0, 0,
                             design.parent, nullptr, ThisModule(), nullptr);
   if (handle_ == nullptr) throw NoWindow();
@@ -74,6 +76,10 @@ NativeWindow* NativeWindow::Of(HWND window) {
 }
 
 LRESULT NativeWindow::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
+  if (message == WM_ERASEBKGND && is_pane_ && IsDark()) {
+    EraseDark(reinterpret_cast<HDC>(w_param));
+    return 1;
+  }
   return DefSubclassProc(handle_, message, w_param, l_param);
 }
 
@@ -89,7 +95,44 @@ std::optional<LRESULT> NativeWindow::Reflected(UINT message, WPARAM w_param, LPA
     NativeWindow* child = Of(header.hwndFrom);
     return child == nullptr ? std::nullopt : child->OnNotify(header);
   }
+  if (message == WM_DRAWITEM) {
+    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l_param);
+    NativeWindow* child = Of(item.hwndItem);
+    if (child == nullptr) return std::nullopt;
+    child->OnDrawItem(item);
+    return TRUE;
+  }
   return std::nullopt;
+}
+
+void NativeWindow::EraseDark(HDC context) const {
+  RECT room{};
+  GetClientRect(handle_, &room);
+  SetDCBrushColor(context, site_->colors->face);
+  FillRect(context, &room, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
+std::optional<LRESULT> NativeWindow::ColorsOfChild(UINT message, WPARAM w_param, LPARAM l_param) const {
+  if (!IsDark()) return std::nullopt;
+  const Theme& colors = *site_->colors;
+  std::array<wchar_t, 8> child_class{};
+  GetClassNameW(reinterpret_cast<HWND>(l_param), child_class.data(), static_cast<int>(child_class.size()));
+  const bool is_label = message == WM_CTLCOLORSTATIC && lstrcmpiW(child_class.data(), WC_EDITW) != 0;
+  switch (message) {
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+      break;
+    default:
+      return std::nullopt;
+  }
+  const COLORREF ground = is_label || message == WM_CTLCOLORBTN ? colors.face : colors.window;
+  const auto context = reinterpret_cast<HDC>(w_param);
+  SetTextColor(context, IsWindowEnabled(reinterpret_cast<HWND>(l_param)) != 0 ? colors.text : colors.muted);
+  SetBkColor(context, ground);
+  SetDCBrushColor(context, ground);
+  return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
 }
 
 LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT message, WPARAM w_param, LPARAM l_param,
@@ -104,7 +147,8 @@ LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT message, WPARAM w_par
   const AtWork at_work(self.site_);
   LRESULT result = 0;
   RunGuarded(self.site_->name, [&] {
-    const auto reflected = Reflected(message, w_param, l_param);
+    auto reflected = Reflected(message, w_param, l_param);
+    if (!reflected) reflected = self.ColorsOfChild(message, w_param, l_param);
     result = reflected ? *reflected : self.OnMessage(message, w_param, l_param);
   });
   return result;

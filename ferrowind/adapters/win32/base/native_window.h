@@ -41,9 +41,12 @@ class NativeWindow {
   /// What a child tells its parent, handed on to the child's object. Nothing leaves it to the platform.
   virtual void OnCommand(WORD /*notification*/, WORD /*id*/) {}
   [[nodiscard]] virtual std::optional<LRESULT> OnNotify(NMHDR& /*header*/) { return std::nullopt; }
+  virtual void OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
   ///@}
 
  protected:
+  /// Whether it is to be painted in dark colours, which the platform's own painting does not know.
+  [[nodiscard]] bool IsDark() const { return site_->colors != nullptr && site_->colors->is_dark; }
   /// Handles a message, or leaves it to the window's class by calling this one.
   virtual LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param);
 
@@ -53,8 +56,14 @@ class NativeWindow {
   /// Hands on what a child of this window tells.
   [[nodiscard]] static std::optional<LRESULT> Reflected(UINT message, WPARAM w_param, LPARAM l_param);
 
+  /// Paints the ground of a window without behaviour dark.
+  void EraseDark(HDC context) const;
+  /// Gives a child its dark colours when it asks for colours.
+  [[nodiscard]] std::optional<LRESULT> ColorsOfChild(UINT message, WPARAM w_param, LPARAM l_param) const;
+
   std::shared_ptr<FormSite> site_;
   HWND handle_ = nullptr;
+  bool is_pane_;
 };
 
 }  // namespace ferrowind::win32

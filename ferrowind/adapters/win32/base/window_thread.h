@@ -10,6 +10,8 @@
 
 #include "ferrowind/adapters/win32/base/form_site.h"
 #include "ferrowind/adapters/win32/base/native_window.h"
+#include "ferrowind/adapters/win32/base/theme.h"
+#include "ferrowind/adapters/win32/base/wording.h"
 #include "ferrowind/platform/events/subscription.h"
 
 namespace ferrowind::win32 {
@@ -21,13 +23,19 @@ class ModalShow;
 /// dispatches messages.
 class WindowThread : public std::enable_shared_from_this<WindowThread> {
  public:
-  /// The one of the calling thread, which is made when nobody has it. Never null.
-  [[nodiscard]] static std::shared_ptr<WindowThread> OfThisThread();
+  /// The one of the calling thread, which is made when nobody has it; never null. From now on its forms have
+  /// those words.
+  [[nodiscard]] static std::shared_ptr<WindowThread> OfThisThread(Wording words = Wording(nullptr));
   /// How many threads have one: while there are any, the platform may call what is in this file.
   [[nodiscard]] static int Count();
   ~WindowThread();
   WindowThread(const WindowThread&) = delete;
   WindowThread& operator=(const WindowThread&) = delete;
+
+  [[nodiscard]] const Wording& Words() const { return words_; }
+  [[nodiscard]] const Theme& Colors() const { return colors_; }
+  /// Looks at the user's colours anew, which have changed.
+  void TakeColors() { colors_ = Theme::OfUser(); }
 
   /// As `platform::Toolkit::After`.
   [[nodiscard]] platform::Subscription After(std::int32_t milliseconds, std::function<void()> handler);
@@ -52,6 +60,8 @@ class WindowThread : public std::enable_shared_from_this<WindowThread> {
   void Fire(UINT_PTR timer);
   void DeleteRetired();
 
+  Wording words_;
+  Theme colors_ = Theme::OfUser();
   std::unique_ptr<Receiver> receiver_;
   std::map<UINT_PTR, std::function<void()>> timers_;
   UINT_PTR last_timer_ = 0;

@@ -30,11 +30,16 @@ class Win32Button final : public Win32Control<platform::Button> {
   [[nodiscard]] bool CanHaveFocus() const override { return true; }
 
  protected:
+  LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;
   [[nodiscard]] SIZE NeededSize() const override;
 
  private:
+  /// In dark colours, which the platform's buttons do not have.
+  void PaintDark() const;
+
   std::string caption_;
   wchar_t mnemonic_ = 0;
+  bool is_default_ = false;
   platform::Signal<> clicked_;
 };
 

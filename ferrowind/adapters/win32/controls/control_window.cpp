@@ -98,8 +98,14 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
     case WM_SETFOCUS: {
       const LRESULT result = NativeWindow::OnMessage(message, w_param, l_param);
       host_.GotFocus(*this);
+      if (const AccessibleWindow* accessible = Accessible()) accessible->TellCurrent();
       return result;
     }
+    case WM_GETOBJECT:
+      // The number comes in the lower half alone.
+      if (static_cast<LONG>(l_param) == OBJID_CLIENT && Accessible() != nullptr)
+        return Accessible()->Answer(w_param);
+      break;
     case WM_KILLFOCUS: {
       const LRESULT result = NativeWindow::OnMessage(message, w_param, l_param);
       OnFocusLost();

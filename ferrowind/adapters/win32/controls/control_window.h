@@ -6,6 +6,7 @@
 
 #include "ferrowind/adapters/win32/base/native_window.h"
 #include "ferrowind/adapters/win32/base/run_guarded.h"
+#include "ferrowind/adapters/win32/controls/accessible_window.h"
 #include "ferrowind/adapters/win32/controls/control_host.h"
 #include "ferrowind/platform/events/signal.h"
 
@@ -34,6 +35,8 @@ class ControlWindow : public NativeWindow {
   /// The pixels that the layout gives it where there is room: what was asked for last, or what it needs.
   [[nodiscard]] SIZE WantedSize() const;
   void UseFont(HFONT font);
+  /// The colours are others now.
+  virtual void UseColors() {}
   /// Puts it there, in pixels of its parent.
   virtual void Place(const RECT& area);
   /// Its form was dropped: it raises nothing any more.
@@ -47,6 +50,8 @@ class ControlWindow : public NativeWindow {
   [[nodiscard]] virtual bool TakesText() const { return false; }
   /// Whether it keeps that key, pressed alone, for itself.
   [[nodiscard]] virtual bool KeepsKey(WPARAM /*key*/) const { return false; }
+  /// What assistive programs are told of the parts that it paints itself; null where the platform tells all.
+  [[nodiscard]] virtual const AccessibleWindow* Accessible() const { return nullptr; }
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;
@@ -55,6 +60,8 @@ class ControlWindow : public NativeWindow {
   [[nodiscard]] virtual SIZE NeededSize() const = 0;
   [[nodiscard]] ControlHost& Host() const { return host_; }
   [[nodiscard]] HFONT Font() const { return font_; }
+  [[nodiscard]] const Wording& Words() const { return host_.Thread().Words(); }
+  [[nodiscard]] const Theme& Colors() const { return host_.Thread().Colors(); }
   [[nodiscard]] SIZE TextSize(const std::string& text) const;
   /// Tells that `NeededSize` may be another.
   void NeedsOtherRoom() { host_.LayoutChanged(); }

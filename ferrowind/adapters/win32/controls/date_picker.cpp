@@ -74,8 +74,10 @@ bool Win32DatePicker::RequireDate() {
   if (holds_date_) return true;
   TakeFocus();
   shows_refusal_ = true;
-  const std::wstring refusal = L"This is no date. Write a day and a month without a year, such as " +
-                               FormatDate(date_, L"d MMMM") + L".";
+  const platform::Date example(date_.Year(), 12, 31);
+  const std::wstring refusal =
+      Words().Translated("This is no date. Write a day and a month without a year, such as %1 or %2.",
+                         FormatDate(example, L"d MMMM"), NumbersOfDay(example));
   EDITBALLOONTIP balloon{};
   balloon.cbStruct = sizeof balloon;
   balloon.pszText = refusal.c_str();
@@ -120,6 +122,8 @@ LRESULT Win32DatePicker::OnMessage(UINT message, WPARAM w_param, LPARAM l_param)
     return 0;
   }
   const LRESULT result = ControlWindow::OnMessage(message, w_param, l_param);
+  if (message == WM_SETFONT && button_ != nullptr)
+    SendMessageW(button_->Handle(), WM_SETFONT, w_param, l_param);
   if (message == WM_SIZE && button_ != nullptr) {
     RECT area{};
     GetClientRect(Handle(), &area);

@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "ferrowind/adapters/win32/base/locale_text.h"
+#include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/base/windows_api.h"
 
 namespace ferrowind::win32 {
 namespace {
@@ -66,6 +68,34 @@ std::wstring MonthName(int month) {
   return LocaleText(LOCALE_NAME_USER_DEFAULT, static_cast<LCTYPE>(LOCALE_SMONTHNAME1 + month - 1));
 }
 
+std::wstring WeekdayName(int weekday, bool is_shortest) {
+  // The platform begins with Monday.
+  constexpr int kWeek = 7;
+  const int place = (weekday + kWeek - 2) % kWeek;
+  const int first = is_shortest ? LOCALE_SSHORTESTDAYNAME1 : LOCALE_SABBREVDAYNAME1;
+  return LocaleText(LOCALE_NAME_USER_DEFAULT, static_cast<LCTYPE>(first + place));
+}
+
+int FirstWeekday() {
+  constexpr int kWeek = 7;
+  DWORD first = 0;
+  GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_IFIRSTDAYOFWEEK | LOCALE_RETURN_NUMBER,
+                  reinterpret_cast<wchar_t*>(&first), sizeof first / sizeof(wchar_t));
+  return static_cast<int>(first + 1) % kWeek + 1;
+}
+
+std::wstring LongDate(const platform::Date& date) {
+  SYSTEMTIME time{};
+  time.wYear = static_cast<WORD>(date.Year());
+  time.wMonth = static_cast<WORD>(date.Month());
+  time.wDay = static_cast<WORD>(date.Day());
+  std::array<wchar_t, 128> text{};
+  const int length = GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_LONGDATE, &time, nullptr, text.data(),
+                                     static_cast<int>(text.size()), nullptr);
+  // The platform's calendar does not go back to the first years.
+  return length > 0 ? std::wstring(text.data()) : ToWide(date.ToIso());
+}
+
 std::wstring FormatDate(const platform::Date& date, const std::wstring& format) {
   std::wstring text;
   for (std::size_t i = 0; i < format.size();) {
@@ -84,6 +114,14 @@ std::wstring FormatDate(const platform::Date& date, const std::wstring& format) 
     i = end;
   }
   return text;
+}
+
+std::wstring NumbersOfDay(const platform::Date& date) {
+  std::wstring separator = LocaleText(LOCALE_SDATE);
+  if (separator.empty()) separator = L"/";
+  const std::wstring day = std::to_wstring(date.Day());
+  const std::wstring month = std::to_wstring(date.Month());
+  return MonthIsFirst() ? month + separator + day : day + separator + month;
 }
 
 std::optional<platform::Date> ReadDay(const std::wstring& text, int year) {

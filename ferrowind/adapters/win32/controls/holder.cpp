@@ -71,11 +71,12 @@ void Win32Holder::Paint(HDC context) const {
   const std::wstring title = ToWide(title_);
   const SIZE text = TextSize(title_);
   if (!title.empty()) area.top += text.cy / 2;
-  DrawEdge(context, &area, EDGE_ETCHED, BF_RECT);
+  SetDCBrushColor(context, Colors().line);
+  FrameRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
   if (title.empty()) return;
   const Selected font(context, Font());
-  SetBkColor(context, GetSysColor(COLOR_BTNFACE));
-  SetTextColor(context, GetSysColor(IsWindowEnabled(Handle()) != 0 ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+  SetBkColor(context, Colors().face);
+  SetTextColor(context, IsWindowEnabled(Handle()) != 0 ? Colors().face_text : Colors().muted);
   constexpr int kIndent = 8;
   TextOutW(context, Scaled(kIndent, DotsPerInch()), 0, title.c_str(), static_cast<int>(title.size()));
 }

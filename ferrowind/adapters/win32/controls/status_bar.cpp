@@ -29,7 +29,30 @@ std::string Win32StatusBar::PanelText(std::int32_t panel) const {
 void Win32StatusBar::SetPanelText(std::int32_t panel, const std::string& text) {
   RequirePanel(panel);
   text_ = text;
-  SendMessageW(Handle(), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+  ShowText();
+}
+
+void Win32StatusBar::ShowText() {
+  // The platform has no dark text for it.
+  const WPARAM kind = IsDark() ? SBT_OWNERDRAW : 0;
+  SendMessageW(Handle(), SB_SETTEXTW, kind, IsDark() ? 0 : reinterpret_cast<LPARAM>(ToWide(text_).c_str()));
+}
+
+void Win32StatusBar::UseColors() {
+  SendMessageW(Handle(), SB_SETBKCOLOR, 0,
+               IsDark() ? static_cast<LPARAM>(Colors().face) : static_cast<LPARAM>(CLR_DEFAULT));
+  ShowText();
+}
+
+void Win32StatusBar::OnDrawItem(const DRAWITEMSTRUCT& item) {
+  const std::wstring text = ToWide(text_);
+  RECT area = item.rcItem;
+  SetDCBrushColor(item.hDC, Colors().face);
+  FillRect(item.hDC, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+  SetBkMode(item.hDC, TRANSPARENT);
+  SetTextColor(item.hDC, Colors().face_text);
+  DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &area,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 SIZE Win32StatusBar::NeededSize() const {

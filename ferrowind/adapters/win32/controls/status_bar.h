@@ -15,10 +15,15 @@ class Win32StatusBar final : public Win32Control<platform::StatusBar> {
   [[nodiscard]] std::string PanelText(std::int32_t panel) const override;
   void SetPanelText(std::int32_t panel, const std::string& text) override;
 
+  void UseColors() override;
+  void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
  protected:
   [[nodiscard]] SIZE NeededSize() const override;
 
  private:
+  void ShowText();
+
   std::string text_;
 };
 

@@ -177,6 +177,7 @@ void Win32ToolBar::OnCommand(WORD /*notification*/, WORD id) {
 }
 
 std::optional<LRESULT> Win32ToolBar::OnNotify(NMHDR& header) {
+  if (header.code == NM_CUSTOMDRAW && IsDark()) return DrawDark(reinterpret_cast<NMTBCUSTOMDRAW&>(header));
   if (header.code != TBN_GETINFOTIPW) return std::nullopt;
   auto& asked = reinterpret_cast<NMTBGETINFOTIPW&>(header);
   const Tool* tool = ToolOfCommand(asked.iItem);
@@ -188,6 +189,38 @@ std::optional<LRESULT> Win32ToolBar::OnNotify(NMHDR& header) {
   std::wmemcpy(asked.pszText, wide.data(), length);
   asked.pszText[length] = L'\0';
   return 0;
+}
+
+LRESULT Win32ToolBar::DrawDark(NMTBCUSTOMDRAW& drawing) const {
+  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) {
+    SetDCBrushColor(drawing.nmcd.hdc, Colors().face);
+    RECT room{};
+    GetClientRect(Handle(), &room);
+    FillRect(drawing.nmcd.hdc, &room, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    return CDRF_NOTIFYITEMDRAW;
+  }
+  if (drawing.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  const auto found = std::find_if(tools_.begin(), tools_.end(), [&](const auto& tool) {
+    return static_cast<DWORD_PTR>(tool.second.command) == drawing.nmcd.dwItemSpec;
+  });
+  // A separator is as good in either.
+  if (found == tools_.end()) return CDRF_DODEFAULT;
+  RECT area = drawing.nmcd.rc;
+  const UINT state = drawing.nmcd.uItemState;
+  const bool is_raised = (state & (CDIS_CHECKED | CDIS_HOT | CDIS_SELECTED)) != 0;
+  SetDCBrushColor(drawing.nmcd.hdc, is_raised ? Colors().line : Colors().face);
+  FillRect(drawing.nmcd.hdc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+  if ((state & CDIS_CHECKED) != 0) {
+    SetDCBrushColor(drawing.nmcd.hdc, Colors().accent);
+    FrameRect(drawing.nmcd.hdc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+  }
+  const std::wstring caption = MarkedCaption(found->second.design.caption);
+  const Selected font(drawing.nmcd.hdc, Font());
+  SetBkMode(drawing.nmcd.hdc, TRANSPARENT);
+  SetTextColor(drawing.nmcd.hdc, (state & CDIS_DISABLED) != 0 ? Colors().muted : Colors().face_text);
+  DrawTextW(drawing.nmcd.hdc, caption.c_str(), static_cast<int>(caption.size()), &area,
+            DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+  return CDRF_SKIPDEFAULT;
 }
 
 LRESULT Win32ToolBar::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {

@@ -80,6 +80,7 @@ class Win32ToolBar final : public Win32Control<platform::ToolBar> {
   [[nodiscard]] Tool* ToolOfCommand(int command);
   void RequireUnusedId(const std::string& id) const;
   void RequireTools(const std::vector<std::string>& ids) const;
+  [[nodiscard]] LRESULT DrawDark(NMTBCUSTOMDRAW& drawing) const;
   void FillBar();
   void ShowState(const Tool& tool);
   [[nodiscard]] UniqueMenu MakeMenu(const std::vector<std::string>& ids) const;

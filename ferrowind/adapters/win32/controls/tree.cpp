@@ -132,6 +132,9 @@ void Win32Tree::NoteExpansion(Node& node, bool is_expanded) {
 
 std::optional<LRESULT> Win32Tree::OnNotify(NMHDR& header) {
   switch (header.code) {
+    case NM_CUSTOMDRAW:
+      if (!IsDark()) return std::nullopt;
+      return DrawDark(reinterpret_cast<NMTVCUSTOMDRAW&>(header));
     case TVN_ITEMEXPANDEDW: {
       const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
       Node* node = NodeOfItem(change.itemNew.hItem);
@@ -192,6 +195,23 @@ void Win32Tree::TellTip(NMTVGETINFOTIPW& asked) const {
   const auto length = std::min(tip.size(), static_cast<std::size_t>(asked.cchTextMax) - 1);
   std::wmemcpy(asked.pszText, tip.data(), length);
   asked.pszText[length] = L'\0';
+}
+
+LRESULT Win32Tree::DrawDark(NMTVCUSTOMDRAW& drawing) const {
+  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || (drawing.nmcd.uItemState & CDIS_SELECTED) == 0)
+    return CDRF_DODEFAULT;
+  const bool has_focus = GetFocus() == Handle();
+  drawing.clrText = has_focus ? Colors().highlight_text : Colors().faint_highlight_text;
+  drawing.clrTextBk = has_focus ? Colors().highlight : Colors().faint_highlight;
+  return CDRF_NEWFONT;
+}
+
+void Win32Tree::UseColors() {
+  constexpr LPARAM kPlatforms = -1;
+  const bool is_dark = IsDark();
+  SendMessageW(Handle(), TVM_SETBKCOLOR, 0, is_dark ? static_cast<LPARAM>(Colors().window) : kPlatforms);
+  SendMessageW(Handle(), TVM_SETTEXTCOLOR, 0, is_dark ? static_cast<LPARAM>(Colors().text) : kPlatforms);
 }
 
 SIZE Win32Tree::NeededSize() const {

@@ -48,6 +48,7 @@ class Win32Tree final : public Win32Control<platform::Tree> {
   [[nodiscard]] HTREEITEM ItemOf(const std::string& key) const { return NodeOf(key).item; }
 
   [[nodiscard]] std::optional<LRESULT> OnNotify(NMHDR& header) override;
+  void UseColors() override;
   [[nodiscard]] bool CanHaveFocus() const override { return true; }
   [[nodiscard]] bool TakesText() const override { return true; }
 
@@ -58,6 +59,7 @@ class Win32Tree final : public Win32Control<platform::Tree> {
   [[nodiscard]] SIZE NeededSize() const override;
 
  private:
+  [[nodiscard]] LRESULT DrawDark(NMTVCUSTOMDRAW& drawing) const;
   struct Node {
     platform::TreeNode design;
     std::optional<std::string> parent;

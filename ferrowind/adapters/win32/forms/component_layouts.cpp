@@ -5,7 +5,10 @@ namespace {
 
 constexpr int kMargin = 10;
 
-LayoutPlace Control(const char* name, int stretch = 0) { return {.name = name, .stretch = stretch}; }
+//: says 3
+LayoutPlace Control(const char* name, int stretch = 0, const char* spoken_name = "") {
+  return {.name = name, .stretch = stretch, .spoken_name = spoken_name};
+}
 
 LayoutPlace Row(std::vector<LayoutPlace> places, int stretch = 0) {
   return {.direction = LayoutDirection::kRow, .stretch = stretch, .places = std::move(places)};
@@ -35,14 +38,15 @@ LayoutPlace Calendars() {
   return Column(
       {Held("ssspUp", LayoutDirection::kRow,
             {Held("pctToolBar", LayoutDirection::kRow, {Control("ssatb", 1)}, 1), Control("anim")}),
-       Held("sssp", LayoutDirection::kRow, {Control("tvCalendar", 2), Control("gexCalendar", 9)}, 1),
+       Held("sssp", LayoutDirection::kRow,
+            {Control("tvCalendar", 2, "Currencies and calendars"), Control("gexCalendar", 9, "Days")}, 1),
        Control("sbCalendar")});
 }
 
 LayoutPlace Holidays() {
   return Column({Row({Control("ssatb", 1)}),
                  Held("sssp", LayoutDirection::kRow,
-                      {Control("gexHolidays", 1),
+                      {Control("gexHolidays", 1, "Holidays"),
                        Column({Held("frmEditors", LayoutDirection::kColumn,
                                     {Control("cmdAction0"), Control("cmdAction1"), Control("cmdAction2"),
                                      Control("cmdAction3"), Control("cmdAction4")}),
@@ -64,7 +68,7 @@ LayoutPlace HolidayEditor() {
 
 LayoutPlace YearQuestion() {
   return Dialog({Row({Control("lblCreate"), Held("pct", LayoutDirection::kRow, {Control("txtYear")}),
-                      Control("udYear"), Rest()}),
+                      Control("udYear", 0, "Year"), Rest()}),
                  Control("lblRange"), Rest(), Row({Rest(), Control("cmdCreate"), Control("cmdCancel")})});
 }
 

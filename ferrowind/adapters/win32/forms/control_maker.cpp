@@ -14,8 +14,9 @@
 #include "ferrowind/adapters/win32/controls/tool_bar.h"
 #include "ferrowind/adapters/win32/controls/tree.h"
 #include "ferrowind/adapters/win32/controls/up_down.h"
-#include "ferrowind/adapters/win32/controls/year_view.h"
 #include "ferrowind/adapters/win32/grid/grid.h"
+#include "ferrowind/adapters/win32/table/table.h"
+#include "ferrowind/adapters/win32/year/year_view.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::win32 {
@@ -75,10 +76,9 @@ std::unique_ptr<platform::Control> MakeControl(const platform::ControlDesign& de
     case ControlKind::kYearView:
       return std::make_unique<Win32YearView>(host, name, parent);
     case ControlKind::kTable:
-      break;
+      return std::make_unique<Win32Table>(host, design, parent);
   }
-  throw platform::Failure(platform::failure_number::kInvalidArgument,
-                          "The native windows cannot show tables yet; " + name + " is one");
+  throw platform::InvalidArgument();
 }
 
 }  // namespace ferrowind::win32

@@ -9,7 +9,7 @@
 namespace ferrowind::win32 {
 
 /// A control of that design in that window, with its first text. Never null, and always a `ControlWindow` as
-/// well. Failure for a kind that this adapter cannot show yet.
+/// well.
 [[nodiscard]] std::unique_ptr<platform::Control> MakeControl(const platform::ControlDesign& design,
                                                              ControlHost& host, HWND parent);
 

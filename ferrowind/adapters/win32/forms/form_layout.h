@@ -16,6 +16,8 @@ struct LayoutPlace {
   LayoutDirection direction = LayoutDirection::kColumn;
   /// Its share of the room that is left over along the direction of the place that it stands in; 0 for none.
   int stretch = 0;
+  /// What assistive programs call it, in English; "" for a control whose own text or whose label says it.
+  const char* spoken_name = "";
   /// The pixels around what it holds, designed for 96 to the inch.
   int margin = 0;
   std::vector<LayoutPlace> places = {};

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <dwmapi.h>
+
 namespace ferrowind::win32 {
 namespace {
 
@@ -60,6 +62,12 @@ void FormWindow::SetClientSize(const SIZE& size) {
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
 }
 
+void FormWindow::UseColors() {
+  constexpr DWORD kDarkFrame = 20;
+  const BOOL is_dark = IsDark() ? TRUE : FALSE;
+  DwmSetWindowAttribute(Handle(), kDarkFrame, &is_dark, sizeof is_dark);
+}
+
 LRESULT FormWindow::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
   switch (message) {
     case WM_CLOSE:
@@ -69,6 +77,11 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
     case WM_SIZE:
       if (w_param != SIZE_MINIMIZED && callbacks_.resized) callbacks_.resized();
       return 0;
+    case WM_SETTINGCHANGE:
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      if (callbacks_.colors_changed) callbacks_.colors_changed();
+      break;
     case WM_SETFOCUS:
       if (callbacks_.focus_came) callbacks_.focus_came();
       return 0;

@@ -16,6 +16,8 @@ class FormWindow final : public NativeWindow {
     /// The client area has another size, or a monitor of another resolution.
     std::function<void()> resized;
     std::function<void()> resolution_changed;
+    /// The user has chosen other colours.
+    std::function<void()> colors_changed;
     /// The window has the keyboard focus itself, which it hands on.
     std::function<void()> focus_came;
     /// A key while no control has the focus: true when it was the form's.
@@ -32,6 +34,8 @@ class FormWindow final : public NativeWindow {
   void SetOuterArea(const RECT& area);
   /// Gives it the outer size for that client area.
   void SetClientSize(const SIZE& size);
+  /// Has the platform paint the frame dark where the form is.
+  void UseColors();
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;

@@ -29,7 +29,7 @@ PlacedLayout::PlacedLayout(const LayoutPlace& layout, const Make& make)
 PlacedLayout::Node PlacedLayout::MakeNode(const LayoutPlace& place, ControlWindow* container,
                                           const Make& make) {
   Node node{place.direction, static_cast<double>(place.stretch), place.margin, nullptr, nullptr, {}, 0};
-  if (!place.name.empty()) node.control = make(place.name, container);
+  if (!place.name.empty()) node.control = make(place, container);
   node.holder = dynamic_cast<Win32Holder*>(node.control);
   for (const LayoutPlace& inside : place.places) {
     Node made = MakeNode(inside, node.control != nullptr ? node.control : container, make);

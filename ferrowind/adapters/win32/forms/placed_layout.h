@@ -14,9 +14,9 @@ class Win32Holder;
 /// A form's layout with the controls that stand in it. What is hidden takes no room.
 class PlacedLayout {
  public:
-  /// Makes the control of that name in that window; null for one that the form does not have, which is left
+  /// Makes the control of that place in that window; null for one that the form does not have, which is left
   /// out.
-  using Make = std::function<ControlWindow*(const std::string& name, ControlWindow* container)>;
+  using Make = std::function<ControlWindow*(const LayoutPlace& place, ControlWindow* container)>;
 
   /// Calls `make` for each named place, those around others before them.
   PlacedLayout(const LayoutPlace& layout, const Make& make);

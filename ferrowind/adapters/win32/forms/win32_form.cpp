@@ -67,7 +67,7 @@ std::shared_ptr<Win32Form> Win32Form::Create(std::shared_ptr<WindowThread> threa
 
 Win32Form::Win32Form(std::shared_ptr<WindowThread> thread, const platform::FormDesign& design)
     : thread_(std::move(thread)),
-      site_(std::make_shared<FormSite>(FormSite{design.name})),
+      site_(std::make_shared<FormSite>(FormSite{.name = design.name, .colors = &thread_->Colors()})),
       start_(design.start),
       window_(std::make_unique<FormWindow>(site_, design.border)),
       tips_(std::make_unique<Tips>(site_, window_->Handle())),
@@ -99,13 +99,16 @@ void Win32Form::MakeControls(const platform::FormDesign& design, const FormLayou
   const LayoutPlace* places = layouts.Find(design.name);
   if (places == nullptr)
     throw Failure(failure_number::kElementNotFound, "There is no layout of a form " + design.name);
-  const auto make = [&](const std::string& name, ControlWindow* container) -> ControlWindow* {
+  const auto make = [&](const LayoutPlace& place, ControlWindow* container) -> ControlWindow* {
     const auto found = std::find_if(design.controls.begin(), design.controls.end(),
-                                    [&](const auto& control) { return control.name == name; });
+                                    [&](const auto& control) { return control.name == place.name; });
     if (found == design.controls.end()) return nullptr;
     const HWND parent = container != nullptr ? container->Handle() : window_->Handle();
-    auto& control = controls_[name] = MakeControl(*found, *this, parent);
+    auto& control = controls_[place.name] = MakeControl(*found, *this, parent);
     WindowOf(*control).SetContainer(container);
+    const std::wstring spoken = thread_->Words().Translated(place.spoken_name);
+    // Windows of these kinds show no text of their own.
+    if (!spoken.empty()) SetWindowTextW(WindowOf(*control).Handle(), spoken.c_str());
     return &WindowOf(*control);
   };
   layout_ = std::make_unique<PlacedLayout>(*places, make);
@@ -115,6 +118,7 @@ void Win32Form::MakeControls(const platform::FormDesign& design, const FormLayou
   keys_.Settle(design);
   SetCaption(design.caption);
   UseFont();
+  UseColors();
   FitDesign(design);
   window_->SetCallbacks(MakeCallbacks());
 }
@@ -127,6 +131,7 @@ FormWindow::Callbacks Win32Form::MakeCallbacks() {
                 TellSize();
               },
           .resolution_changed = [this] { UseFont(); },
+          .colors_changed = [this] { UseColors(); },
           .focus_came = [this] { TakeFocusBack(); },
           .key = [this](UINT message, WPARAM key,
                         LPARAM state) { return keys_.Takes(nullptr, message, key, state); }};
@@ -140,6 +145,13 @@ void Win32Form::UseFont() {
   for (const auto& [name, control] : controls_) WindowOf(*control).UseFont(font.get());
   // The one before goes now that nobody uses it.
   font_ = std::move(font);
+}
+
+void Win32Form::UseColors() {
+  thread_->TakeColors();
+  window_->UseColors();
+  for (const auto& [name, control] : controls_) WindowOf(*control).UseColors();
+  RedrawWindow(window_->Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void Win32Form::FitDesign(const platform::FormDesign& design) {

@@ -82,6 +82,7 @@ class Win32Form final : public platform::Form,
   void MakeControls(const platform::FormDesign& design, const FormLayouts& layouts);
   [[nodiscard]] FormWindow::Callbacks MakeCallbacks();
   void UseFont();
+  void UseColors();
   void FitDesign(const platform::FormDesign& design);
   void Arrange();
   void TakeFocusBack();

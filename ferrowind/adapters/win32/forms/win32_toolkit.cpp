@@ -55,9 +55,9 @@ class Win32Toolkit::UpdateLock {
   HWND window_;
 };
 
-Win32Toolkit::Win32Toolkit(FormLayouts layouts) : layouts_(std::move(layouts)) {
+Win32Toolkit::Win32Toolkit(FormLayouts layouts, const platform::Words* words) : layouts_(std::move(layouts)) {
   UsePlatformControls();
-  thread_ = WindowThread::OfThisThread();
+  thread_ = WindowThread::OfThisThread(Wording(words));
 }
 
 Win32Toolkit::~Win32Toolkit() = default;

@@ -6,6 +6,7 @@
 
 #include "ferrowind/adapters/win32/forms/form_layout.h"
 #include "ferrowind/export.h"
+#include "ferrowind/platform/services/words.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 
 namespace ferrowind::win32 {
@@ -16,8 +17,9 @@ class WindowThread;
 /// nothing of that loop but that it dispatches messages.
 class FERROWIND_EXPORT Win32Toolkit final : public platform::Toolkit {
  public:
-  /// `layouts` may have more forms than the component's own.
-  explicit Win32Toolkit(FormLayouts layouts = ComponentLayouts());
+  /// `layouts` may have more forms than the component's own. `words` has the adapter's texts in the
+  /// operator's language, null for English; it must outlive the toolkit.
+  explicit Win32Toolkit(FormLayouts layouts = ComponentLayouts(), const platform::Words* words = nullptr);
   ~Win32Toolkit() override;
 
   [[nodiscard]] std::shared_ptr<platform::Form> CreateForm(const platform::FormDesign& design) override;

@@ -77,7 +77,7 @@ void Win32Grid::FitColumns() {
   constexpr int kBesideText = 18;
   const auto count = std::min(content_.Cells().RecordCount(), kRecordsMeasured);
   const WindowContext context(Handle());
-  const GridPainter painter(context.Get(), Font(), content_, geometry_, selection_);
+  const GridPainter painter(context.Get(), Font(), {content_, geometry_, selection_, Colors(), Words()});
   for (const std::int16_t column : geometry_.Order()) {
     if (settled_widths_.contains(column)) continue;
     // Room for the arrow of a sorted column.
@@ -99,6 +99,7 @@ void Win32Grid::AttachRecords(std::shared_ptr<RecordSet> records) {
   geometry_.SetFirstRow(0);
   current_column_ = std::min(current_column_, ColumnCount());
   is_stale_ = false;
+  accessible_.TellContent();
   ShowKeys();
   Resized();
   NoteCurrentRow();
@@ -136,6 +137,7 @@ void Win32Grid::RearrangeRows(const std::function<void()>& change) {
   }
   selection_.PutBack(content_.RowShowing(current), std::move(rows));
   geometry_.SetFirstRow(content_.RowShowing(first).value_or(0));
+  accessible_.TellContent();
   ShowKeys();
   ShowScrollBars();
   NoteCurrentRow();
@@ -156,8 +158,10 @@ void Win32Grid::ShowKeys() {
 void Win32Grid::NoteCurrentRow() {
   RowIdentity identity;
   if (selection_.Current()) identity = content_.IdentityOf(*selection_.Current());
+  accessible_.TellSelection();
   if (identity == current_) return;
   current_ = std::move(identity);
+  accessible_.TellCurrent();
   RaiseEvent(current_row_changed_);
 }
 

@@ -11,10 +11,12 @@
 #include "ferrowind/adapters/grid_content/grid_operations.h"
 #include "ferrowind/adapters/grid_content/row_identity.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
+#include "ferrowind/adapters/win32/controls/row_selection.h"
+#include "ferrowind/adapters/win32/controls/scroll_bars.h"
 #include "ferrowind/adapters/win32/controls/shortcut.h"
 #include "ferrowind/adapters/win32/grid/grid_content.h"
 #include "ferrowind/adapters/win32/grid/grid_geometry.h"
-#include "ferrowind/adapters/win32/grid/row_selection.h"
+#include "ferrowind/adapters/win32/grid/grid_parts.h"
 #include "ferrowind/platform/toolkit/grid.h"
 
 namespace ferrowind::win32 {
@@ -88,6 +90,7 @@ class Win32Grid final : public Win32Control<platform::Grid>, public grid_content
   bool RestoreLayout(const std::string& layout) override;
   [[nodiscard]] std::set<std::string>& LayoutSections() override { return layout_sections_; }
   void CopyRows(bool with_headers) const override;
+  [[nodiscard]] const AccessibleWindow* Accessible() const override { return &accessible_; }
 
   /// What is shown, and where.
   [[nodiscard]] const GridContent& Content() const { return content_; }
@@ -149,10 +152,14 @@ class Win32Grid final : public Win32Control<platform::Grid>, public grid_content
   /// Keys or cells have changed since the rows were arranged.
   bool is_stale_ = false;
   std::optional<Press> press_;
-  int wheel_ = 0;
+  WheelSteps wheel_;
   /// The columns whose widths the operator or a layout has set, which contents change no more.
   std::set<std::int16_t> settled_widths_;
   std::set<std::string> layout_sections_;
+
+  GridParts parts_{content_, geometry_, selection_, Words(),
+                   [this](std::uint32_t row) { SetCurrentRow(static_cast<std::int32_t>(row) + 1); }};
+  AccessibleWindow accessible_{Handle(), parts_};
 
   platform::Signal<platform::GridColumn&> header_clicked_;
   platform::Signal<> before_group_change_;

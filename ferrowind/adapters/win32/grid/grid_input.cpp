@@ -56,11 +56,8 @@ LRESULT Win32Grid::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
       return 0;
     case WM_MOUSEWHEEL: {
       constexpr int kRowsPerStep = 3;
-      wheel_ += GET_WHEEL_DELTA_WPARAM(w_param);
-      const int steps = wheel_ / WHEEL_DELTA;
-      wheel_ -= steps * WHEEL_DELTA;
-      ScrollTo(static_cast<std::uint32_t>(
-          std::max(0, static_cast<int>(geometry_.FirstRow()) - steps * kRowsPerStep)));
+      const int rows = wheel_.Take(w_param) * kRowsPerStep;
+      ScrollTo(static_cast<std::uint32_t>(std::max(0, static_cast<int>(geometry_.FirstRow()) - rows)));
       return 0;
     }
     case WM_KEYDOWN:
@@ -305,7 +302,7 @@ void Win32Grid::AskForMenuByKey() {
 }
 
 void Win32Grid::ShowHeaderMenu(std::int16_t column, POINT screen) {
-  switch (AskInHeaderMenu(Handle(), screen, content_, column, GroupByBoxVisible())) {
+  switch (AskInHeaderMenu(Handle(), Words(), screen, content_, column, GroupByBoxVisible())) {
     case HeaderCommand::kNone:
       break;
     case HeaderCommand::kSortAscending:

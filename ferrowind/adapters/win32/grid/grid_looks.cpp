@@ -1,8 +1,9 @@
 // How a grid is painted and scrolled.
 #include <algorithm>
 
-#include "ferrowind/adapters/win32/base/handles.h"
+#include "ferrowind/adapters/win32/base/buffered_paint.h"
 #include "ferrowind/adapters/win32/base/twips.h"
+#include "ferrowind/adapters/win32/controls/scroll_bars.h"
 #include "ferrowind/adapters/win32/grid/grid.h"
 #include "ferrowind/adapters/win32/grid/grid_painter.h"
 
@@ -21,62 +22,22 @@ void Win32Grid::Resized() {
 }
 
 void Win32Grid::ShowScrollBars() {
-  SCROLLINFO rows{};
-  rows.cbSize = sizeof rows;
-  rows.fMask = SIF_PAGE | SIF_POS | SIF_RANGE | SIF_DISABLENOSCROLL;
-  rows.nMax = std::max(0, RowCount() - 1);
-  rows.nPage = geometry_.RowsOnPage();
-  rows.nPos = static_cast<int>(geometry_.FirstRow());
-  SetScrollInfo(Handle(), SB_VERT, &rows, TRUE);
+  SetScrollBar(Handle(), SB_VERT, RowCount(), static_cast<int>(geometry_.RowsOnPage()),
+               static_cast<int>(geometry_.FirstRow()));
   RECT room{};
   GetClientRect(Handle(), &room);
-  SCROLLINFO columns{};
-  columns.cbSize = sizeof columns;
-  columns.fMask = SIF_PAGE | SIF_POS | SIF_RANGE | SIF_DISABLENOSCROLL;
-  columns.nMax = static_cast<int>(std::max<LONG>(0, geometry_.TotalWidth() - 1));
-  columns.nPage = static_cast<UINT>(room.right);
-  columns.nPos = static_cast<int>(geometry_.ScrolledX());
-  SetScrollInfo(Handle(), SB_HORZ, &columns, TRUE);
+  SetScrollBar(Handle(), SB_HORZ, static_cast<int>(geometry_.TotalWidth()), static_cast<int>(room.right),
+               static_cast<int>(geometry_.ScrolledX()));
 }
 
 void Win32Grid::Scroll(int bar, WORD request) {
-  SCROLLINFO info{};
-  info.cbSize = sizeof info;
-  info.fMask = SIF_ALL;
-  GetScrollInfo(Handle(), bar, &info);
   const int line = bar == SB_VERT ? 1 : static_cast<int>(geometry_.LineHeight());
-  const int page = std::max(1, static_cast<int>(info.nPage) - line);
-  int place = info.nPos;
-  switch (request) {
-    case SB_LINEUP:
-      place -= line;
-      break;
-    case SB_LINEDOWN:
-      place += line;
-      break;
-    case SB_PAGEUP:
-      place -= page;
-      break;
-    case SB_PAGEDOWN:
-      place += page;
-      break;
-    case SB_TOP:
-      place = 0;
-      break;
-    case SB_BOTTOM:
-      place = info.nMax;
-      break;
-    case SB_THUMBTRACK:
-    case SB_THUMBPOSITION:
-      place = info.nTrackPos;
-      break;
-    default:
-      return;
-  }
+  const auto place = ScrolledTo(Handle(), bar, request, line);
+  if (!place) return;
   if (bar == SB_VERT) {
-    ScrollTo(static_cast<std::uint32_t>(std::max(0, place)));
+    ScrollTo(static_cast<std::uint32_t>(std::max(0, *place)));
   } else {
-    geometry_.SetScrolledX(place);
+    geometry_.SetScrolledX(*place);
     ShowScrollBars();
     Repaint();
   }
@@ -98,19 +59,10 @@ void Win32Grid::BringIntoSight(std::uint32_t row) {
 }
 
 void Win32Grid::Paint() {
-  PAINTSTRUCT paint{};
-  const HDC window = BeginPaint(Handle(), &paint);
-  RECT room{};
-  GetClientRect(Handle(), &room);
-  const UniqueMemoryContext memory(CreateCompatibleDC(window));
-  const UniqueBitmap bitmap(CreateCompatibleBitmap(window, room.right, room.bottom));
-  if (memory != nullptr && bitmap != nullptr) {
-    const Selected drawn(memory.get(), bitmap.get());
-    const GridPainter painter(memory.get(), Font(), content_, geometry_, selection_);
-    painter.Paint(room, GetFocus() == Handle(), DotsPerInch());
-    BitBlt(window, 0, 0, room.right, room.bottom, memory.get(), 0, 0, SRCCOPY);
-  }
-  EndPaint(Handle(), &paint);
+  const BufferedPaint paint(Handle());
+  if (paint.Context() == nullptr) return;
+  const GridPainter painter(paint.Context(), Font(), {content_, geometry_, selection_, Colors(), Words()});
+  painter.Paint(paint.Room(), GetFocus() == Handle());
 }
 
 }  // namespace ferrowind::win32

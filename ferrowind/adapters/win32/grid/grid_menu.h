@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "ferrowind/adapters/win32/base/windows_api.h"
+#include "ferrowind/adapters/win32/base/wording.h"
 #include "ferrowind/adapters/win32/grid/grid_content.h"
 
 namespace ferrowind::win32 {
@@ -21,7 +22,8 @@ enum class HeaderCommand {
 };
 
 /// Shows the menu of that column's header, and returns what was chosen in it.
-[[nodiscard]] HeaderCommand AskInHeaderMenu(HWND grid, POINT screen, const GridContent& content,
-                                            std::int16_t column, bool is_box_visible);
+[[nodiscard]] HeaderCommand AskInHeaderMenu(HWND grid, const Wording& words, POINT screen,
+                                            const GridContent& content, std::int16_t column,
+                                            bool is_box_visible);
 
 }  // namespace ferrowind::win32

@@ -20,19 +20,20 @@ constexpr UINT kOneLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLI
 
 }  // namespace
 
-GridPainter::GridPainter(HDC context, HFONT font, const GridContent& content, const GridGeometry& geometry,
-                         const RowSelection& selection)
+GridPainter::GridPainter(HDC context, HFONT font, const Subject& subject)
     : context_(context),
-      content_(content),
-      geometry_(geometry),
-      selection_(selection),
+      content_(subject.content),
+      geometry_(subject.geometry),
+      selection_(subject.selection),
+      colors_(subject.colors),
+      words_(subject.words),
       font_(font),
       bold_(Variant(font, true, false)),
       struck_(Variant(font, false, true)),
       bold_struck_(Variant(font, true, true)) {}
 
-void GridPainter::Paint(const RECT& room, bool has_focus, UINT /*dots_per_inch*/) const {
-  Fill(room, COLOR_WINDOW);
+void GridPainter::Paint(const RECT& room, bool has_focus) const {
+  Fill(room, colors_.window);
   SetBkMode(context_, TRANSPARENT);
   const Selected font(context_, font_);
   for (std::uint32_t row = geometry_.FirstRow(); row < content_.Rows().RowCount(); ++row) {
@@ -44,8 +45,10 @@ void GridPainter::Paint(const RECT& room, bool has_focus, UINT /*dots_per_inch*/
   PaintBox();
 }
 
-void GridPainter::Fill(const RECT& area, int system_color) const {
-  FillRect(context_, &area, GetSysColorBrush(system_color));
+void GridPainter::Fill(const RECT& area, COLORREF color) const {
+  // The platform's brush for such fills, which takes any colour.
+  SetDCBrushColor(context_, color);
+  FillRect(context_, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 void GridPainter::Text(const std::wstring& text, RECT area, UINT format) const {
@@ -55,7 +58,7 @@ void GridPainter::Text(const std::wstring& text, RECT area, UINT format) const {
 }
 
 void GridPainter::DrawArrow(const RECT& area, Arrow arrow) const {
-  const LONG size = geometry_.LineHeight() / 5;
+  const LONG size = geometry_.LineHeight() / 4;
   const LONG x = area.left + Pad() + size;
   const LONG y = (area.top + area.bottom) / 2;
   std::array<POINT, 3> points{};
@@ -78,8 +81,8 @@ void GridPainter::DrawArrow(const RECT& area, Arrow arrow) const {
 
 void GridPainter::PaintHeaders() const {
   const RECT headers = geometry_.HeadersArea();
-  Fill(headers, COLOR_BTNFACE);
-  SetTextColor(context_, GetSysColor(COLOR_BTNTEXT));
+  Fill(headers, colors_.face);
+  SetTextColor(context_, colors_.face_text);
   const LONG arrow_room = geometry_.LineHeight();
   for (const std::int16_t column : geometry_.Order()) {
     RECT area = geometry_.HeaderArea(column);
@@ -94,28 +97,29 @@ void GridPainter::PaintHeaders() const {
     }
     Text(ToWide(content_.Columns()[column].Caption()), text, side);
     const RECT separator{area.right - 1, area.top + Pad(), area.right, area.bottom - Pad()};
-    Fill(separator, COLOR_BTNSHADOW);
+    Fill(separator, colors_.line);
   }
-  Fill({headers.left, headers.bottom - 1, headers.right, headers.bottom}, COLOR_BTNSHADOW);
+  Fill({headers.left, headers.bottom - 1, headers.right, headers.bottom}, colors_.line);
 }
 
 void GridPainter::PaintBox() const {
   const RECT box = geometry_.BoxArea();
   if (box.bottom == box.top) return;
-  Fill(box, COLOR_APPWORKSPACE);
+  Fill(box, colors_.face);
+  Fill({box.left, box.bottom - 1, box.right, box.bottom}, colors_.line);
   const std::int32_t count = content_.GroupKeys().Count();
-  SetTextColor(context_, GetSysColor(COLOR_WINDOWTEXT));
   if (count == 0) {
-    SetTextColor(context_, GetSysColor(COLOR_WINDOW));
-    Text(L"Drag a column header here to group by that column", box, DT_LEFT);
+    SetTextColor(context_, colors_.face_text);
+    Text(words_.Translated("Drag a column header here to group by that column"), box, DT_LEFT);
     return;
   }
-  SetTextColor(context_, GetSysColor(COLOR_BTNTEXT));
+  SetTextColor(context_, colors_.text);
   for (std::int32_t position = 1; position <= count; ++position) {
     const auto key = content_.GroupKeys().Item(position);
     RECT chip = geometry_.ChipArea(position);
-    Fill(chip, COLOR_BTNFACE);
-    DrawEdge(context_, &chip, BDR_RAISEDINNER, BF_RECT);
+    Fill(chip, colors_.muted);
+    InflateRect(&chip, -1, -1);
+    Fill(chip, colors_.window);
     RECT text = chip;
     text.right -= geometry_.LineHeight();
     Text(ToWide(content_.Columns()[key->ColIndex].Caption()), text, DT_LEFT);
@@ -127,17 +131,17 @@ void GridPainter::PaintBox() const {
 void GridPainter::PaintRow(std::uint32_t row, const RECT& area, bool has_focus) const {
   const bool is_chosen = selection_.IsChosen(row);
   const auto shown = content_.Rows().RowAt(row);
-  if (shown.is_group) Fill(area, COLOR_BTNFACE);
-  if (is_chosen) Fill(area, has_focus ? COLOR_HIGHLIGHT : COLOR_BTNSHADOW);
-  const int text_color =
-      is_chosen ? COLOR_HIGHLIGHTTEXT : (shown.is_group ? COLOR_BTNTEXT : COLOR_WINDOWTEXT);
-  SetTextColor(context_, GetSysColor(text_color));
+  const COLORREF chosen_text = has_focus ? colors_.highlight_text : colors_.faint_highlight_text;
+  const COLORREF plain_text = shown.is_group ? colors_.face_text : colors_.text;
+  if (shown.is_group) Fill(area, colors_.face);
+  if (is_chosen) Fill(area, has_focus ? colors_.highlight : colors_.faint_highlight);
+  SetTextColor(context_, is_chosen ? chosen_text : plain_text);
   if (shown.is_group) {
     PaintGroup(shown.group, area);
   } else {
     PaintRecord(content_.Rows().RecordAt(shown.position), area, is_chosen);
   }
-  Fill({area.left, area.bottom - 1, area.right, area.bottom}, COLOR_BTNFACE);
+  Fill({area.left, area.bottom - 1, area.right, area.bottom}, colors_.line);
   if (has_focus && selection_.Current() == row) DrawFocusRect(context_, &area);
 }
 

@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/win32/grid/row_selection.h"
+#include "ferrowind/adapters/win32/controls/row_selection.h"
 
 #include <algorithm>
 #include <utility>

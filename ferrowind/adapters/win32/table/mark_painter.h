@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ferrowind/adapters/win32/base/windows_api.h"
+#include "ferrowind/platform/toolkit/table.h"
+
+namespace ferrowind::win32 {
+
+/// Draws a mark into the square of `side` pixels whose corner is `place`; nothing for none. `ground` is what
+/// lies below it.
+void PaintMark(HDC context, POINT place, LONG side, platform::CellMark mark, COLORREF color, COLORREF ground);
+
+/// Draws the box of a row into such a square, with a check or without.
+void PaintCheckBox(HDC context, POINT place, LONG side, bool is_checked, COLORREF color, COLORREF ground);
+
+}  // namespace ferrowind::win32
