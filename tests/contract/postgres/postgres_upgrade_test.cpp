@@ -76,7 +76,7 @@ SELECT concat(
   (SELECT string_agg(format('%s %s %s', CcyID, Ccy, Name), ',' ORDER BY CcyID) FROM ferrowind.DicCcy
    WHERE CcyID NOT IN (396, 530, 532, 924))))sql";
 
-constexpr std::int64_t kThisVersion = 8;
+constexpr std::int64_t kThisVersion = 7;
 
 void ExpectUpgradeFrom(int version) {
   const OldDatabase old(version);
