@@ -5,7 +5,7 @@
 #include <unknwn.h>
 
 #include "ferrowind/adapters/automation/call_guard.h"
-#include "ferrowind/adapters/automation/com_object.h"
+#include "ferrowind/adapters/windows/com_object.h"
 
 namespace ferrowind::automation {
 
@@ -33,7 +33,7 @@ class ControlPart : public Interfaces... {
   [[nodiscard]] void* Find(REFIID iid) {
     void* found = nullptr;
     const auto serves = [&]<typename Interface>(Interface* as) {
-      if (!ServesAs<Interface>(iid)) return false;
+      if (!windows::ServesAs<Interface>(iid)) return false;
       found = as;
       return true;
     };

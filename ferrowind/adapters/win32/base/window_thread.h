@@ -56,7 +56,7 @@ class WindowThread : public std::enable_shared_from_this<WindowThread> {
  private:
   class Receiver;
 
-  WindowThread();
+  explicit WindowThread(Wording words);
   void Fire(UINT_PTR timer);
   void DeleteRetired();
 

@@ -117,7 +117,7 @@ std::wstring FormatDate(const platform::Date& date, const std::wstring& format) 
 }
 
 std::wstring NumbersOfDay(const platform::Date& date) {
-  std::wstring separator = LocaleText(LOCALE_SDATE);
+  std::wstring separator = LocaleText(LOCALE_NAME_USER_DEFAULT, LOCALE_SDATE);
   if (separator.empty()) separator = L"/";
   const std::wstring day = std::to_wstring(date.Day());
   const std::wstring month = std::to_wstring(date.Month());
