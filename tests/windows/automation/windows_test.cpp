@@ -147,7 +147,7 @@ TEST_P(WindowsOnAnyDatabase, LetAnOperatorKeepACalendar) {
       const HWND calendars = somebody.Window(L"Calendars");
       const HWND tree = NativeOperator::Control(calendars, L"SysTreeView32");
       const HWND tools = NativeOperator::Control(calendars, L"ToolbarWindow32");
-      const HWND days = NativeOperator::Control(calendars, L"FerrowindPane", L"gexCalendar");
+      const HWND days = NativeOperator::Control(calendars, L"FerrowindPane", L"Days");
 
       // A new calendar.
       somebody.ClickNode(tree, L"EUR");
@@ -187,7 +187,7 @@ TEST_P(WindowsOnAnyDatabase, LetAnOperatorKeepACalendar) {
       somebody.WaitUntilGone(editor);
 
       // The calendar takes it.
-      const HWND rules = NativeOperator::Control(holidays, L"FerrowindPane", L"gexHolidays");
+      const HWND rules = NativeOperator::Control(holidays, L"FerrowindPane", L"Holidays");
       contract::ClickMouse(contract::MiddleOf(rules));
       PressKey(VK_END);
       somebody.ClickButton(holidays, L"Assign");
