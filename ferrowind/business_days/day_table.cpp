@@ -43,13 +43,21 @@ constexpr std::uint64_t Until(std::uint32_t bit) { return ~std::uint64_t{0} >> (
 /// The bits from `bit` on.
 constexpr std::uint64_t From(std::uint32_t bit) { return ~std::uint64_t{0} << bit; }
 
-/// The place of the `rank`th set bit, from 1 on. Precondition: there are as many.
-std::uint32_t PlaceOfBit(std::uint64_t bits, std::uint32_t rank) {
-  // Each byte of the product counts the bits of its own and of all lower bytes.
+/// In each byte how many bits are set in it and in all lower ones. By arithmetic, since the instruction for
+/// it is none that every processor has, and without it std::popcount is a call.
+std::uint64_t CountsByByte(std::uint64_t bits) {
   constexpr std::uint64_t kEachByte = 0x0101010101010101;
   std::uint64_t counts = bits - ((bits >> 1) & 0x5555555555555555);
   counts = (counts & 0x3333333333333333) + ((counts >> 2) & 0x3333333333333333);
-  counts = ((counts + (counts >> 4)) & 0x0f0f0f0f0f0f0f0f) * kEachByte;
+  return ((counts + (counts >> 4)) & 0x0f0f0f0f0f0f0f0f) * kEachByte;
+}
+
+std::int32_t CountOf(std::uint64_t bits) { return static_cast<std::int32_t>(CountsByByte(bits) >> 56); }
+
+/// The place of the `rank`th set bit, from 1 on; empty when there are fewer.
+std::optional<std::uint32_t> PlaceOfBit(std::uint64_t bits, std::uint32_t rank) {
+  const std::uint64_t counts = CountsByByte(bits);
+  if (rank > counts >> 56) return std::nullopt;
   std::uint32_t place = 0;
   while (((counts >> place) & 0xff) < rank) place += 8;
   if (place > 0) rank -= static_cast<std::uint32_t>((counts >> (place - 8)) & 0xff);
@@ -119,8 +127,8 @@ void DayTable::Count() {
   for (Word& word : words_) {
     word.open_before = open;
     word.unknown_before = unknown;
-    open += std::popcount(word.open);
-    unknown += std::popcount(word.unknown);
+    open += CountOf(word.open);
+    unknown += CountOf(word.unknown);
   }
   std::int32_t closed = 0;
   for (std::uint32_t position = 0; position < size_; ++position) {
@@ -159,14 +167,28 @@ std::optional<DayTable::Day> DayTable::LastNotClosed(Day first, Day last) const 
   return day >= first ? std::optional(day) : std::nullopt;
 }
 
+std::optional<DayTable::Bits> DayTable::BitsFrom(Day day) const {
+  if (!Covers(day) || !Covers(day + days(kWordDays))) return std::nullopt;
+  const std::uint32_t position = PositionOf(day);
+  const Word& word = words_[position / kWordDays];
+  const Word& next = words_[position / kWordDays + 1];
+  const std::uint32_t bit = position % kWordDays;
+  // In two steps, since there is no shift by 64.
+  const auto together = [bit](std::uint64_t low, std::uint64_t high) {
+    return low >> bit | high << 1 << (kWordDays - 1 - bit);
+  };
+  return Bits{together(word.open, next.open), together(word.unknown, next.unknown)};
+}
+
 std::int32_t DayTable::OpenUntil(std::uint32_t position) const {
   const Word& word = words_[position / kWordDays];
-  return word.open_before + std::popcount(word.open & Until(position % kWordDays));
+  return word.open_before + CountOf(word.open & Until(position % kWordDays));
 }
 
 std::int32_t DayTable::UnknownUntil(std::uint32_t position) const {
   const Word& word = words_[position / kWordDays];
-  return word.unknown_before + std::popcount(word.unknown & Until(position % kWordDays));
+  if (word.unknown == 0) return word.unknown_before;
+  return word.unknown_before + CountOf(word.unknown & Until(position % kWordDays));
 }
 
 std::optional<std::int32_t> DayTable::OpenDays(Day first, Day last) const {
@@ -197,10 +219,16 @@ std::optional<std::uint32_t> DayTable::OpenAt(std::int64_t rank, std::uint32_t n
     at = static_cast<std::uint32_t>(behind - words_.begin()) - 1;
   }
   const Word& word = words_[at];
-  return at * kWordDays + PlaceOfBit(word.open, static_cast<std::uint32_t>(rank - word.open_before));
+  return at * kWordDays + *PlaceOfBit(word.open, static_cast<std::uint32_t>(rank - word.open_before));
 }
 
 std::optional<DayTable::Day> DayTable::OpenDayAfter(Day day, std::int64_t count) const {
+  // Mostly the days lie close together.
+  if (const auto near = count <= kWordDays ? BitsFrom(day + days(1)) : std::nullopt;
+      near && near->unknown == 0) {
+    if (const auto place = PlaceOfBit(near->open, static_cast<std::uint32_t>(count)))
+      return day + days(1 + static_cast<int>(*place));
+  }
   if (!Covers(day)) return std::nullopt;
   const std::uint32_t from = PositionOf(day);
   const auto found = OpenAt(OpenUntil(from) + count, from / kWordDays);

@@ -100,6 +100,11 @@ class FERROWIND_EXPORT DayTable {
     std::int32_t open_before = 0;
     std::int32_t unknown_before = 0;
   };
+  /// 64 days that begin anywhere, the first in the lowest bit.
+  struct Bits {
+    std::uint64_t open;
+    std::uint64_t unknown;
+  };
 
   DayTable() = default;
   /// Empty words for these days, with a word that knows no day on either side, so that nothing runs off the
@@ -109,6 +114,8 @@ class FERROWIND_EXPORT DayTable {
   /// To be called when all bits stand.
   void Count();
 
+  /// The days from `day` on; empty where they are not all in the table.
+  [[nodiscard]] std::optional<Bits> BitsFrom(Day day) const;
   [[nodiscard]] bool Covers(Day day) const { return day >= origin_ && day < DayAt(size_); }
   /// Precondition: `Covers(day)`.
   [[nodiscard]] std::uint32_t PositionOf(Day day) const {
