@@ -211,9 +211,9 @@ class CoreOnly(TemporaryTree):
 project(Example LANGUAGES CXX)
 enable_testing()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+add_subdirectory(parts)
 add_executable(example main.cpp)
 add_test(NAME example COMMAND example)
-set_tests_properties(example PROPERTIES LABELS unit)
 """
 
     def setUp(self):
@@ -222,9 +222,11 @@ set_tests_properties(example PROPERTIES LABELS unit)
             "version": 5, "configurePresets": [{"name": "core-only", "generator": "Ninja", "binaryDir": "${sourceDir}/x"}]}))
         self.write("main.cpp", self.SOURCE)
         self.write("CMakeLists.txt", self.LISTS)
+        self.write("parts/part.cpp", "int Part() { return 1; }\n")
+        self.write("parts/CMakeLists.txt", "add_library(part STATIC part.cpp)\n")
 
     def check(self):
-        return core_only.check(self.root, self.root / "build")
+        return core_only.check(self.root, self.root / "build", ["parts"], ["example"])
 
     def assert_refused(self, words):
         with self.assertRaisesRegex(RuntimeError, words):
@@ -245,6 +247,10 @@ set_tests_properties(example PROPERTIES LABELS unit)
                 self.write("main.cpp", f"#include <{header}>\n{self.SOURCE}")
                 self.assert_refused("out of reach")
 
+    def test_refuses_a_part_that_no_program_uses(self):
+        self.write("parts/part.cpp", "#include <sqlite3.h>\n")
+        self.assert_refused("out of reach")
+
     def test_refuses_a_library_that_is_linked_by_its_path(self):
         self.write("main.cpp", "extern \"C\" int sqlite3_libversion_number();\n"
                    "int main() { return sqlite3_libversion_number() > 0 ? 0 : 1; }\n")
@@ -256,7 +262,7 @@ set_tests_properties(example PROPERTIES LABELS unit)
         self.assert_refused("testing core-only failed")
 
     def test_refuses_a_component_without_tests(self):
-        self.write("CMakeLists.txt", self.LISTS.replace("LABELS unit", "LABELS other"))
+        self.write("CMakeLists.txt", self.LISTS.replace("add_test(NAME example COMMAND example)", ""))
         self.assert_refused("testing core-only failed")
 
 
