@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 #include <sqlite3.h>
 
@@ -33,15 +34,19 @@ struct ByKey {
   bool operator()(const Entry& left, const Entry& right) const { return left.Key() < right.Key(); }
 };
 
+constexpr const char* kList = "SELECT type, name, tbl_name, sql, rootpage FROM sqlite_schema";
+
 template <typename Use>
 void ForEachEntry(const DatabaseHandle& database, const Use& use) {
-  Statement list(database, "SELECT type, name, tbl_name, sql, rootpage FROM sqlite_schema");
+  Statement list(database, kList);
   const auto text = [&](int column) { return std::string(list.Text(column)); };
   while (list.Step()) use(Entry{text(0), text(1), text(2), text(3), list.Integer(4) == 0});
 }
 
 /// What a new database of this program holds.
 struct OwnSchema {
+  /// As SQLite lists them.
+  std::vector<Entry> in_order;
   std::set<Entry, ByKey> entries;
   /// Names of tables, as SQLite compares them.
   std::set<std::string> tables;
@@ -52,6 +57,7 @@ OwnSchema MakeOwnSchema() {
   database.Execute(std::string(DeliveredTables()).c_str());
   OwnSchema schema;
   ForEachEntry(database, [&](const Entry& entry) {
+    schema.in_order.push_back(entry);
     schema.entries.insert(entry);
     if (entry.kind == "table") schema.tables.insert(platform::FoldCase(entry.name));
   });
@@ -61,6 +67,22 @@ OwnSchema MakeOwnSchema() {
 const OwnSchema& ThisPrograms() {
   static const OwnSchema schema = MakeOwnSchema();
   return schema;
+}
+
+/// Whether the file lists just what a new database does, in the same order. Most files do, and nothing has to
+/// be looked up then.
+bool IsAsMadeNew(const DatabaseHandle& database) {
+  const auto& own = ThisPrograms().in_order;
+  auto expected = own.begin();
+  Statement list(database, kList);
+  while (list.Step()) {
+    if (expected == own.end() || list.Text(0) != expected->kind || list.Text(1) != expected->name ||
+        list.Text(2) != expected->table || list.Text(3) != expected->text ||
+        (list.Integer(4) == 0) != expected->is_computed)
+      return false;
+    ++expected;
+  }
+  return expected == own.end();
 }
 
 bool IsNameOfATable(const std::string& name) {
@@ -97,6 +119,17 @@ platform::Failure Foreign(const DatabaseHandle& database, const Entry& entry) {
                            "the database is used. \"ferrowindctl check\" names all that is foreign"};
 }
 
+void RefuseForeign(const DatabaseHandle& database) {
+  const std::int64_t version = SchemaVersionOf(database);
+  const std::int64_t this_version = DeliveredUpgrades().back().version;
+  ForEachEntry(database, [&](const Entry& entry) {
+    if (!IsForeign(entry, version >= this_version)) return;
+    // What a newer program has made is not foreign, but cannot be told from what is.
+    if (version > this_version) RequireDeliveredVersion(database);
+    throw Foreign(database, entry);
+  });
+}
+
 }  // namespace
 
 SchemaGuard::SchemaGuard(const DatabaseHandle& database)
@@ -107,14 +140,7 @@ void SchemaGuard::Look() {
   const std::int64_t cookie = ask_cookie_.Step() ? ask_cookie_.Integer(0) : 0;
   ask_cookie_.Reset();
   if (sound_ == cookie) return;
-  const std::int64_t version = SchemaVersionOf(database_);
-  const std::int64_t this_version = DeliveredUpgrades().back().version;
-  ForEachEntry(database_, [&](const Entry& entry) {
-    if (!IsForeign(entry, version >= this_version)) return;
-    // What a newer program has made is not foreign, but cannot be told from what is.
-    if (version > this_version) RequireDeliveredVersion(database_);
-    throw Foreign(database_, entry);
-  });
+  if (!IsAsMadeNew(database_)) RefuseForeign(database_);
   sound_ = cookie;
 }
 
