@@ -11,6 +11,9 @@
 namespace ferrowind::sqlite {
 namespace {
 
+/// Several times as many as those of delivered bodies take.
+constexpr int kMostStepsOfAStatement = 2000;
+
 bool IsOneOf(const char* name, std::initializer_list<std::string_view> names) {
   return std::any_of(names.begin(), names.end(), [&](std::string_view candidate) {
     return platform::CompareIgnoringCase(name, candidate) == 0;
@@ -113,13 +116,18 @@ int AuthorizeWriting(void* context, int action, const char* first, const char* s
 
 }  // namespace
 
-BodyAuthorizer::BodyAuthorizer(const DatabaseHandle& database, bool may_write) : database_(database) {
+BodyAuthorizer::BodyAuthorizer(const DatabaseHandle& database, bool may_write)
+    : database_(database),
+      most_steps_before_(sqlite3_limit(database_.Get(), SQLITE_LIMIT_VDBE_OP, kMostStepsOfAStatement)) {
   if (sqlite3_set_authorizer(database_.Get(), may_write ? AuthorizeWriting : AuthorizeReading, nullptr) !=
       SQLITE_OK) {
     throw database_.LastFailure();
   }
 }
 
-BodyAuthorizer::~BodyAuthorizer() { sqlite3_set_authorizer(database_.Get(), nullptr, nullptr); }
+BodyAuthorizer::~BodyAuthorizer() {
+  sqlite3_set_authorizer(database_.Get(), nullptr, nullptr);
+  sqlite3_limit(database_.Get(), SQLITE_LIMIT_VDBE_OP, most_steps_before_);
+}
 
 }  // namespace ferrowind::sqlite

@@ -7,7 +7,8 @@ namespace ferrowind::sqlite {
 /// While it lives, statements prepared on the database may read tables and call functions and, for a
 /// procedure that writes, change the rows of the data tables; nothing else. ATTACH, DETACH, PRAGMA,
 /// transactions, changes of the schema, of the procedure catalogue or of the history, and loading code are
-/// refused when a statement is prepared.
+/// refused when a statement is prepared. So is a statement of more than 2,000 steps: SQLite looks at the
+/// time of a call where a statement goes round in a loop, and those that go straight on end soon.
 class BodyAuthorizer {
  public:
   /// `database` must outlive the authorizer.
@@ -18,6 +19,7 @@ class BodyAuthorizer {
 
  private:
   const DatabaseHandle& database_;
+  int most_steps_before_;
 };
 
 }  // namespace ferrowind::sqlite

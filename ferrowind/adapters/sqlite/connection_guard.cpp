@@ -14,8 +14,6 @@ constexpr int kMostBytesOfACell = 16 * 1024 * 1024;
 /// Of which the delivered ones need a small part.
 constexpr int kMostBytesOfAStatement = 1024 * 1024;
 constexpr int kMostTriggersInEachOther = 10;
-/// Matching takes as many steps as pattern and text have bytes, multiplied.
-constexpr int kMostBytesOfAPattern = 100;
 
 }  // namespace
 
@@ -31,7 +29,6 @@ int GuardConnection(sqlite3* database) noexcept {
   sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kMostBytesOfACell);
   sqlite3_limit(database, SQLITE_LIMIT_SQL_LENGTH, kMostBytesOfAStatement);
   sqlite3_limit(database, SQLITE_LIMIT_TRIGGER_DEPTH, kMostTriggersInEachOther);
-  sqlite3_limit(database, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kMostBytesOfAPattern);
   sqlite3_limit(database, SQLITE_LIMIT_ATTACHED, 0);
   return ReplaceSlowTextFunctions(database);
 }

@@ -7,7 +7,6 @@
 #include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
 #include "ferrowind/adapters/sqlite/row_recorder.h"
-#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/platform/database/call_inputs.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
@@ -68,19 +67,20 @@ platform::CallOutcome EngineConnection::Run(const std::vector<Value>& inputs) {
   // From here on, since other programs may have kept this one waiting.
   const StatementLimit limit(database_, longest_call_);
   schema_.Look();
-  return procedure_->writes ? Change(inputs) : Read(inputs);
+  return procedure_->writes ? Change(inputs, limit) : Read(inputs, limit);
 }
 
-platform::CallOutcome EngineConnection::Read(const std::vector<Value>& inputs) {
+platform::CallOutcome EngineConnection::Read(const std::vector<Value>& inputs, const StatementLimit& limit) {
   const BodyAuthorizer authorizer(database_, false);
-  return ProcedureInterpreter(database_, *procedure_, inputs).Run();
+  return ProcedureInterpreter(database_, *procedure_, inputs, limit).Run();
 }
 
-platform::CallOutcome EngineConnection::Change(const std::vector<Value>& inputs) {
+platform::CallOutcome EngineConnection::Change(const std::vector<Value>& inputs,
+                                               const StatementLimit& limit) {
   RequireDeliveredVersion(database_);
   const auto changes_before = sqlite3_total_changes64(database_.Get());
   RowRecorder recorder(database_);
-  ProcedureInterpreter interpreter(database_, *procedure_, inputs);
+  ProcedureInterpreter interpreter(database_, *procedure_, inputs, limit);
   platform::CallOutcome outcome;
   {
     const BodyAuthorizer authorizer(database_, true);

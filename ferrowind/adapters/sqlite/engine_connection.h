@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/adapters/sqlite/procedure_catalogue.h"
 #include "ferrowind/adapters/sqlite/schema_guard.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
 #include "ferrowind/platform/database/engine.h"
 
@@ -36,9 +37,11 @@ class EngineConnection : public platform::Connection {
   [[nodiscard]] platform::CallOutcome CallJoined(const std::vector<platform::Value>& inputs);
   /// In the transaction that is open.
   [[nodiscard]] platform::CallOutcome Run(const std::vector<platform::Value>& inputs);
-  [[nodiscard]] platform::CallOutcome Read(const std::vector<platform::Value>& inputs);
+  [[nodiscard]] platform::CallOutcome Read(const std::vector<platform::Value>& inputs,
+                                           const StatementLimit& limit);
   /// Adds the call to the history.
-  [[nodiscard]] platform::CallOutcome Change(const std::vector<platform::Value>& inputs);
+  [[nodiscard]] platform::CallOutcome Change(const std::vector<platform::Value>& inputs,
+                                             const StatementLimit& limit);
   void LoadProcedure(const std::string& name);
 
   DatabaseHandle database_;

@@ -39,8 +39,8 @@ ResultKind KindOfResult(const Statement& statement) {
 
 ProcedureInterpreter::ProcedureInterpreter(const DatabaseHandle& database,
                                            const sql_script::ProcedureDefinition& procedure,
-                                           const std::vector<Value>& inputs)
-    : database_(database), procedure_(procedure) {
+                                           const std::vector<Value>& inputs, const StatementLimit& limit)
+    : database_(database), limit_(limit), memory_(database), procedure_(procedure) {
   for (const auto& parameter : procedure.parameters) {
     if (parameter.direction != platform::ParameterDirection::kInput) continue;
     variables_[FoldCase(parameter.name.substr(1))] =
@@ -53,6 +53,8 @@ platform::CallOutcome ProcedureInterpreter::Run() {
   try {
     for (const auto& statement : sql_script::SplitStatements(procedure_.body)) {
       line = statement.line;
+      // Short ones end before anything looks at the time within them.
+      limit_.RequireTime();
       if (const auto return_value = RunStatement(statement.text)) {
         outcome_.return_value = *return_value;
         break;
@@ -84,7 +86,7 @@ std::optional<std::int32_t> ProcedureInterpreter::RunStatement(std::string_view 
     case ResultKind::kReturnValue:
       return ReadReturnValue(statement);
     case ResultKind::kRecordSet:
-      outcome_.record_sets.push_back(ReadRecordSet(statement));
+      outcome_.record_sets.push_back(ReadRecordSet(statement, memory_));
       return std::nullopt;
   }
   return std::nullopt;
@@ -105,8 +107,10 @@ void ProcedureInterpreter::AssignVariables(Statement& statement) {
   const ResultReader reader(statement);
   std::vector<Value> cells(static_cast<std::size_t>(statement.ColumnCount()));
   if (statement.Step()) {
-    for (std::size_t column = 0; column < cells.size(); ++column)
+    for (std::size_t column = 0; column < cells.size(); ++column) {
       cells[column] = reader.Cell(static_cast<int>(column));
+      memory_.Take(BytesOf(cells[column]));
+    }
     if (statement.Step()) throw Malformed("a statement that sets variables has one row at most");
   }
   // Only now, since the statement uses the variables as they were.

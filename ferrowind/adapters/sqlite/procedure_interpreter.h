@@ -9,7 +9,9 @@
 
 #include "ferrowind/adapters/sql_script/procedure_source.h"
 #include "ferrowind/adapters/sql_script/statement_splitter.h"
+#include "ferrowind/adapters/sqlite/call_memory.h"
 #include "ferrowind/adapters/sqlite/statement.h"
+#include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/platform/database/engine.h"
 
 namespace ferrowind::sqlite {
@@ -27,10 +29,10 @@ namespace ferrowind::sqlite {
 /// int32, a statement that SQLite refuses) is a failure that names the procedure and the line of the body.
 class ProcedureInterpreter {
  public:
-  /// `inputs` holds a value for each input of `procedure`, by position. Both arguments and the database must
-  /// outlive the interpreter.
+  /// `inputs` holds a value for each input of `procedure`, by position. `limit` is that of the call's time.
+  /// All arguments must outlive the interpreter.
   ProcedureInterpreter(const DatabaseHandle& database, const sql_script::ProcedureDefinition& procedure,
-                       const std::vector<platform::Value>& inputs);
+                       const std::vector<platform::Value>& inputs, const StatementLimit& limit);
 
   /// Called once. The transaction around it is the caller's.
   [[nodiscard]] platform::CallOutcome Run();
@@ -46,6 +48,8 @@ class ProcedureInterpreter {
   static std::optional<std::int32_t> ReadReturnValue(Statement& statement);
 
   const DatabaseHandle& database_;
+  const StatementLimit& limit_;
+  CallMemory memory_;
   const sql_script::ProcedureDefinition& procedure_;
   /// Under their folded names without the leading sign.
   std::map<std::string, platform::Value> variables_;

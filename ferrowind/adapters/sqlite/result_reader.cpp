@@ -37,26 +37,13 @@ std::string_view TypeOf(const Statement& statement, int column) {
 
 /// In large steps: cells are costly to move, room that nothing is written to costs next to nothing, and most
 /// results are a year of days or a handful of rows.
+constexpr std::size_t kFirstRows = 384;
+
 void MakeRoomForRow(std::vector<Value>& cells, std::size_t fields) {
-  constexpr std::size_t kFirstRows = 384;
   constexpr std::size_t kManyCells = 1024 * 1024;
   if (cells.capacity() - cells.size() >= fields) return;
   const std::size_t growth = cells.capacity() < kManyCells ? 8 : 2;
   cells.reserve(cells.empty() ? kFirstRows * fields : cells.capacity() * growth);
-}
-
-/// A file from somewhere else may give any number of long rows.
-constexpr std::size_t kMostBytesOfARecordSet = std::size_t{512} * 1024 * 1024;
-
-std::size_t BytesOf(const Value& cell) {
-  const auto* const text = cell.If<std::string>();
-  return sizeof(Value) + (text != nullptr ? text->size() : 0);
-}
-
-platform::Failure TooMuch(const DatabaseHandle& database) {
-  return {
-      platform::failure_number::kInvalidArgument,
-      "The database " + database.Path() + " gives more than 512 MB at once, which no calendar database does"};
 }
 
 }  // namespace
@@ -128,19 +115,31 @@ platform::Failure ResultReader::BadCell(int column, const char* what) const {
               statement_.Database().Path() + " holds " + what};
 }
 
+std::size_t BytesOf(const Value& cell) {
+  const auto* const text = cell.If<std::string>();
+  return sizeof(Value) + (text != nullptr ? text->size() : 0);
+}
+
 std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement) {
+  CallMemory memory(statement.Database());
+  return ReadRecordSet(statement, memory);
+}
+
+std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement, CallMemory& memory) {
   const ResultReader reader(statement);
-  std::size_t bytes = 0;
   const int count = statement.ColumnCount();
   auto rows = std::make_shared<RecordRows>();
   for (int column = 0; column < count; ++column) rows->fields.emplace_back(reader.Name(column));
+  // A short record set takes that, too, and a call may give many.
+  memory.Take(kFirstRows * static_cast<std::size_t>(count) * sizeof(Value));
   while (statement.Step()) {
     MakeRoomForRow(rows->cells, static_cast<std::size_t>(count));
+    std::size_t bytes = 0;
     for (int column = 0; column < count; ++column) {
       reader.AppendCell(column, rows->cells);
       bytes += BytesOf(rows->cells.back());
     }
-    if (bytes > kMostBytesOfARecordSet) throw TooMuch(statement.Database());
+    memory.Take(bytes);
     ++rows->row_count;
   }
   return std::make_shared<platform::RecordSet>(std::move(rows));

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
 
+#include "ferrowind/adapters/sqlite/call_memory.h"
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/platform/values/record_set.h"
 #include "ferrowind/platform/values/value.h"
@@ -42,8 +44,12 @@ class ResultReader {
   std::vector<ColumnKind> columns_;
 };
 
-/// All rows of `statement`, which has columns and has not been run yet. More than 512 MB of them are a
-/// failure.
+/// What `cell` takes in memory.
+[[nodiscard]] std::size_t BytesOf(const platform::Value& cell);
+
+/// All rows of `statement`, which has columns and has not been run yet, as far as there is `memory`.
+[[nodiscard]] std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement, CallMemory& memory);
+/// Those of a statement that is the only one of its call.
 [[nodiscard]] std::shared_ptr<platform::RecordSet> ReadRecordSet(Statement& statement);
 
 }  // namespace ferrowind::sqlite

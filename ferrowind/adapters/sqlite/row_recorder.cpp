@@ -51,7 +51,8 @@ std::string TextOf(sqlite3* database, CellReader read, const RecordedTable& tabl
 
 }  // namespace
 
-RowRecorder::RowRecorder(const DatabaseHandle& database) : database_(database) {
+RowRecorder::RowRecorder(const DatabaseHandle& database, std::size_t most_megabytes)
+    : database_(database), memory_(database, most_megabytes) {
   sqlite3_preupdate_hook(database_.Get(), OnChange, this);
 }
 
@@ -61,6 +62,8 @@ void RowRecorder::OnChange(void* recorder, sqlite3* /*database*/, int operation,
                            const char* table, sqlite3_int64 /*old_rowid*/,
                            sqlite3_int64 /*new_rowid*/) noexcept {
   auto& self = *static_cast<RowRecorder*>(recorder);
+  // Nothing of the call is kept then.
+  if (self.trouble_) return;
   try {
     const auto& tables = RecordedTables();
     const auto found = std::find_if(tables.begin(), tables.end(),
@@ -69,7 +72,7 @@ void RowRecorder::OnChange(void* recorder, sqlite3* /*database*/, int operation,
       self.Record(static_cast<std::size_t>(std::distance(tables.begin(), found)), operation);
     }
   } catch (...) {
-    if (!self.trouble_) self.trouble_ = std::current_exception();
+    self.trouble_ = std::current_exception();
   }
 }
 
@@ -91,6 +94,7 @@ void RowRecorder::Record(std::size_t table, int operation) {
 
 void RowRecorder::RecordReplaced(const Key& key, std::optional<std::string> old_row,
                                  std::optional<std::string> new_row) {
+  memory_.Take(old_row.value_or("").size() + new_row.value_or("").size());
   const auto found = changes_.find(key);
   if (found != changes_.end()) {
     found->second.new_row = std::move(new_row);
@@ -112,7 +116,7 @@ bool RowRecorder::IsOfNewCalendar(const Key& day) const {
   return calendar != changes_.end() && !calendar->second.old_row;
 }
 
-std::string RowRecorder::TextOfNewCalendar(const Key& calendar) const {
+std::string RowRecorder::TextOfNewCalendar(const Key& calendar) {
   const Value currency(calendar[1]);
   const Value year(calendar[2]);
   Statement days(database_,
@@ -126,7 +130,9 @@ std::string RowRecorder::TextOfNewCalendar(const Key& calendar) const {
   const RecordedTable& table = RecordedTables()[kDayTable];
   const int hidden = table.columns.front().place - 1;
   while (days.Step()) {
-    text.Add(days.Integer(0), RowText(table, [&](int place) { return reader.Cell(place - hidden); }));
+    const std::string row = RowText(table, [&](int place) { return reader.Cell(place - hidden); });
+    memory_.Take(row.size());
+    text.Add(days.Integer(0), row);
   }
   return text.Text();
 }

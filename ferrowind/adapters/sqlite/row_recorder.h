@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "ferrowind/adapters/sqlite/call_memory.h"
 #include "ferrowind/adapters/sqlite/database_handle.h"
 #include "ferrowind/platform/values/value.h"
 
@@ -33,13 +34,15 @@ struct ReplacedRow {
 class RowRecorder {
  public:
   /// `database` must outlive the recorder.
-  explicit RowRecorder(const DatabaseHandle& database);
+  explicit RowRecorder(const DatabaseHandle& database,
+                       std::size_t most_megabytes = CallMemory::kMostMegabytes);
   RowRecorder(const RowRecorder&) = delete;
   RowRecorder& operator=(const RowRecorder&) = delete;
   ~RowRecorder();
 
   /// The rows that are not now as they were, in the order in which they were changed first. Days of a
-  /// calendar that was added are left out, and days without rule and comment that were removed. Called once.
+  /// calendar that was added are left out, and days without rule and comment that were removed. Rows that
+  /// took more memory than a call may are a failure. Called once.
   [[nodiscard]] std::vector<ReplacedRow> TakeRows();
 
  private:
@@ -57,9 +60,10 @@ class RowRecorder {
   /// Whether the change is of a day that was added, of which nothing is kept.
   [[nodiscard]] bool IsNewDay(const Key& key, int operation) const;
   [[nodiscard]] bool IsOfNewCalendar(const Key& day) const;
-  [[nodiscard]] std::string TextOfNewCalendar(const Key& calendar) const;
+  [[nodiscard]] std::string TextOfNewCalendar(const Key& calendar);
 
   const DatabaseHandle& database_;
+  CallMemory memory_;
   std::map<Key, Change> changes_;
   std::vector<Key> order_;
   /// What went wrong while SQLite told of a change.

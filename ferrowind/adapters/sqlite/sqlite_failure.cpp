@@ -69,12 +69,20 @@ std::string PlainWords(sqlite3* handle, int code, const std::string& path) {
   }
 }
 
+std::string WithCode(const std::string& words, int code, const char* text) {
+  return words + " (SQLite " + std::to_string(code) + ": " + text + ")";
+}
+
 }  // namespace
 
 platform::Failure FailureOf(sqlite3* database, const std::string& path) {
-  const int code = database != nullptr ? sqlite3_extended_errcode(database) : SQLITE_NOMEM;
-  const char* const text = database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
-  return {code, PlainWords(database, code, path) + " (SQLite " + std::to_string(code) + ": " + text + ")"};
+  if (database == nullptr) return FailureBy(SQLITE_NOMEM, path);
+  const int code = sqlite3_extended_errcode(database);
+  return {code, WithCode(PlainWords(database, code, path), code, sqlite3_errmsg(database))};
+}
+
+platform::Failure FailureBy(int code, const std::string& path) {
+  return {code, WithCode(PlainWords(nullptr, code, path), code, sqlite3_errstr(code))};
 }
 
 }  // namespace ferrowind::sqlite

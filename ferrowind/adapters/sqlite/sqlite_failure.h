@@ -14,4 +14,7 @@ namespace ferrowind::sqlite {
 /// memory for it.
 [[nodiscard]] platform::Failure FailureOf(sqlite3* database, const std::string& path);
 
+/// The same for an error that SQLite did not report itself: its extended result code.
+[[nodiscard]] platform::Failure FailureBy(int code, const std::string& path);
+
 }  // namespace ferrowind::sqlite

@@ -5,11 +5,13 @@
 
 #include <sqlite3.h>
 
+#include "ferrowind/adapters/sqlite/sqlite_failure.h"
+
 namespace ferrowind::sqlite {
 namespace {
 
-/// Some ten microseconds, as long as cells are short.
-constexpr int kStepsBetweenLooks = 1000;
+/// A few microseconds, as long as cells are short; seconds, where each step is a function of a long text.
+constexpr int kStepsBetweenLooks = 250;
 
 }  // namespace
 
@@ -24,6 +26,10 @@ StatementLimit::StatementLimit(const DatabaseHandle& database, std::chrono::mill
       }) {}
 
 StatementLimit::~StatementLimit() { sqlite3_progress_handler(database_.Get(), 0, nullptr, nullptr); }
+
+void StatementLimit::RequireTime() const {
+  if (is_over_ && is_over_()) throw FailureBy(SQLITE_INTERRUPT, database_.Path());
+}
 
 int StatementLimit::IsOver(void* limit) noexcept {
   try {

@@ -20,6 +20,10 @@ class StatementLimit {
   StatementLimit& operator=(const StatementLimit&) = delete;
   ~StatementLimit();
 
+  /// The failure of a statement that has ended by this, when it is time. For what runs many statements, each
+  /// of which may be too short to be looked at.
+  void RequireTime() const;
+
  private:
   static int IsOver(void* limit) noexcept;
 

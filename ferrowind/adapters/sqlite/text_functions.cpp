@@ -11,6 +11,9 @@ namespace ferrowind::sqlite {
 namespace {
 
 constexpr std::size_t kMostLettersToTrim = 64;
+/// Matching takes as many steps as pattern and text have bytes, multiplied.
+constexpr std::size_t kMostBytesOfAPattern = 100;
+constexpr std::size_t kMostBytesToMatch = std::size_t{64} * 1024;
 
 std::string_view BytesOf(sqlite3_value* value) {
   if (sqlite3_value_type(value) != SQLITE_BLOB) return TextOf(value);
@@ -74,6 +77,55 @@ void GiveTrimmed(sqlite3_context* context, int count, sqlite3_value** arguments)
   sqlite3_result_text(context, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
+/// Bytes match nothing where SQLite was built so.
+bool AreBytesOfNoMatch(sqlite3_value** arguments) {
+  static const bool match_nothing = sqlite3_compileoption_used("LIKE_DOESNT_MATCH_BLOBS") != 0;
+  const auto is_bytes = [](sqlite3_value* value) { return sqlite3_value_type(value) == SQLITE_BLOB; };
+  return match_nothing && std::any_of(arguments, arguments + 2, is_bytes);
+}
+
+/// Whether pattern and text, in this order, can be matched soon; else the answer is an error.
+bool CanBeMatched(sqlite3_context* context, sqlite3_value** arguments) {
+  if (TextOf(arguments[0]).size() <= kMostBytesOfAPattern &&
+      TextOf(arguments[1]).size() <= kMostBytesToMatch) {
+    return true;
+  }
+  sqlite3_result_error(context, "LIKE and GLOB take patterns of up to 100 bytes and texts of up to 64 KB",
+                       -1);
+  return false;
+}
+
+/// Ends with the byte NUL, as SQLite's own functions of patterns have it.
+const char* PatternText(sqlite3_value* value) {
+  const auto* const text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+  return text != nullptr ? text : "";
+}
+
+void GiveWhetherGlob(sqlite3_context* context, int count, sqlite3_value** arguments) noexcept {
+  if (AreBytesOfNoMatch(arguments)) return sqlite3_result_int(context, 0);
+  if (HasNothing(arguments, count)) return sqlite3_result_null(context);
+  if (!CanBeMatched(context, arguments)) return;
+  const int difference = sqlite3_strglob(PatternText(arguments[0]), PatternText(arguments[1]));
+  sqlite3_result_int(context, difference == 0 ? 1 : 0);
+}
+
+/// The third, if there is one, is the character that makes the next one of the pattern an ordinary one.
+void GiveWhetherLike(sqlite3_context* context, int count, sqlite3_value** arguments) noexcept {
+  if (AreBytesOfNoMatch(arguments)) return sqlite3_result_int(context, 0);
+  if (HasNothing(arguments, count)) return sqlite3_result_null(context);
+  if (!CanBeMatched(context, arguments)) return;
+  unsigned int escape = 0;
+  if (count > 2) {
+    const std::string_view character = TextOf(arguments[2]);
+    if (character.size() != 1 || character == "%" || character == "_") {
+      return sqlite3_result_error(context, "ESCAPE takes a single character of ASCII, but % and _", -1);
+    }
+    escape = static_cast<unsigned char>(character.front());
+  }
+  const int difference = sqlite3_strlike(PatternText(arguments[0]), PatternText(arguments[1]), escape);
+  sqlite3_result_int(context, difference == 0 ? 1 : 0);
+}
+
 }  // namespace
 
 int ReplaceSlowTextFunctions(sqlite3* database) noexcept {
@@ -82,7 +134,8 @@ int ReplaceSlowTextFunctions(sqlite3* database) noexcept {
     const char* name;
     int arguments;
     void (*give)(sqlite3_context*, int, sqlite3_value**);
-  } kFunctions[] = {{"instr", 2, GivePosition}, {"replace", 3, GiveReplaced}, {"trim", 2, GiveTrimmed}};
+  } kFunctions[] = {{"instr", 2, GivePosition},   {"replace", 3, GiveReplaced}, {"trim", 2, GiveTrimmed},
+                    {"glob", 2, GiveWhetherGlob}, {"like", 2, GiveWhetherLike}, {"like", 3, GiveWhetherLike}};
   for (const auto& [name, arguments, give] : kFunctions) {
     const int code = sqlite3_create_function_v2(database, name, arguments, kKind, nullptr, give, nullptr,
                                                 nullptr, nullptr);

@@ -128,6 +128,41 @@ WITH RECURSIVE Endless (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM Endless) SEL
   EXPECT_EQ(platform::ToInt32((*all.record_sets.at(3))["FirstDay"]), 1);
 }
 
+TEST_F(SqliteHostileFile, AStatementThatGoesStraightOnForLongIsRefused) {
+  // SQLite looks at the time where a statement goes round, and this one never does.
+  std::string body = "-- procedure Straight reads\nSELECT 'a' AS [@a];\nSELECT 0";
+  for (int i = 0; i < 900; ++i) body += ", length(upper(lower(upper(:a))))";
+  database_.AddProcedure(body + ";");
+  EXPECT_THAT(FailureOfCall(std::chrono::minutes(10), "Straight"), HasSubstr("not enough memory"));
+}
+
+/// A text of 15 MB in the variable :a.
+const std::string kLongText =
+    "WITH RECURSIVE D (s, n) AS (SELECT '0123456789abcde', 0 UNION ALL SELECT s || s, n + 1 FROM D WHERE n < "
+    "20)"
+    " SELECT s AS [@a] FROM D WHERE n = 20;\n";
+
+TEST_F(SqliteHostileFile, ManyRecordSetsTakeNoMoreMemoryThanOne) {
+  std::string body = "-- procedure Large reads\n" + kLongText;
+  for (int i = 0; i < 40; ++i) body += "SELECT :a AS a;\n";
+  database_.AddProcedure(body);
+  EXPECT_THAT(FailureOfCall(std::chrono::minutes(10), "Large"), HasSubstr("more than 512 MB"));
+}
+
+TEST_F(SqliteHostileFile, ManyVariablesTakeNoMoreMemoryThanARecordSet) {
+  std::string body = "-- procedure Large reads\n" + kLongText;
+  for (int i = 0; i < 40; ++i) body += "SELECT :a AS [@a" + std::to_string(i) + "];\n";
+  database_.AddProcedure(body);
+  EXPECT_THAT(FailureOfCall(std::chrono::minutes(10), "Large"), HasSubstr("more than 512 MB"));
+}
+
+TEST_F(SqliteHostileFile, ManyRecordSetsOfOneRowTakeNoMoreMemoryThanALongOne) {
+  std::string body = "-- procedure Large reads\n";
+  for (int i = 0; i < 40000; ++i) body += "SELECT 1 AS a;\n";
+  database_.AddProcedure(body);
+  EXPECT_THAT(FailureOfCall(std::chrono::minutes(10), "Large"), HasSubstr("more than 512 MB"));
+}
+
 TEST_F(SqliteHostileFile, TheTimeThatAnotherProgramHoldsTheFileIsNotThatOfTheCall) {
   sqlite::Engine engine(seconds(30), milliseconds(300));
   const auto connection = engine.Connect(database_.ConnectionString());
@@ -165,7 +200,9 @@ TEST_F(SqliteHostileFile, ACopyStopsInTheMiddleOfAStatementWhenItIsAsked) {
       ") INSERT INTO CldHistory (Moment, UserName, ProcedureName, Parameters,"
       " ReturnValue, RowsChanged, ChainPosition, Previous, Hash)"
       " SELECT '2026-01-01T00:00:00.000Z', 'eve', 'CldIUMain', '{}', 0, n, 1000 + n, '', '' FROM N");
-  const auto source = sqlite::OpenContent(database_.Path(), [] { return true; });
+  bool is_stopped = false;
+  const auto source = sqlite::OpenContent(database_.Path(), [&] { return is_stopped; });
+  is_stopped = true;
   int read = 0;
   const std::string failure = FailureTextOf([&] {
     for (const content::Table& table : content::Tables()) {

@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/sqlite/procedure_interpreter.h"
 
+#include <functional>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -19,10 +20,12 @@ using ::testing::StartsWith;
 
 class ProcedureInterpreterTest : public ::testing::Test {
  protected:
-  CallOutcome Run(const std::string& body, const std::vector<Value>& inputs = {Value(3), Value("text")}) {
+  CallOutcome Run(const std::string& body, const std::vector<Value>& inputs = {Value(3), Value("text")},
+                  const std::function<bool()>& is_over = {}) {
     const auto procedure = sql_script::ParseProcedureSource(
         "-- procedure Try writes\n-- parameter @Number int32\n-- parameter @Text text\n" + body);
-    return ProcedureInterpreter(database_, procedure, inputs).Run();
+    const StatementLimit limit(database_, is_over);
+    return ProcedureInterpreter(database_, procedure, inputs, limit).Run();
   }
 
   /// The single cell of the single record set.
@@ -33,9 +36,9 @@ class ProcedureInterpreterTest : public ::testing::Test {
     return outcome.record_sets.at(0)->Cell(1, 0);
   }
 
-  std::string FailureTextOf(const std::string& body) {
+  std::string FailureTextOf(const std::string& body, const std::function<bool()>& is_over = {}) {
     try {
-      (void)Run(body);
+      (void)Run(body, {Value(3), Value("text")}, is_over);
     } catch (const platform::Failure& failure) {
       return failure.Description();
     }
@@ -154,6 +157,14 @@ TEST_F(ProcedureInterpreterTest, UsesAValueAsAValueOnly) {
   EXPECT_EQ(
       CellOf("INSERT INTO T VALUES (:Text); SELECT N FROM T", {Value(1), Value("'); DROP TABLE T; --")}),
       Value("'); DROP TABLE T; --"));
+}
+
+TEST_F(ProcedureInterpreterTest, LooksAtTheTimeBetweenStatementsThatAreTooShortForIt) {
+  std::string body;
+  for (int i = 0; i < 10; ++i) body += "SELECT 1 AS [@a];\n";
+  int looks = 0;
+  EXPECT_THAT(FailureTextOf(body, [&] { return ++looks == 4; }), HasSubstr("line 4 of its body"));
+  EXPECT_THAT(FailureTextOf(body, [] { return true; }), HasSubstr("it took too long"));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ferrowind/adapters/sqlite/delivered_schema.h"
 #include "ferrowind/platform/values/conversion.h"
 
 #include "tests/contract/database/procedure_caller.h"
@@ -15,6 +16,7 @@ namespace ferrowind::sqlite {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 class RowRecorderTest : public ::testing::Test {
@@ -89,6 +91,20 @@ TEST_F(RowRecorderTest, KeepsOfACalendarThatIsMadeNoDays) {
                              "INSERT INTO CldDay VALUES (978, 2027, 1, '2027-01-01', 1, NULL, NULL);"
                              "UPDATE CldDay SET TID1 = 2, ID2 = 2 WHERE Year1 = 2027"),
               ElementsAre("CldCalendar|978|2027||||"));
+}
+
+TEST(RowRecorder, FailsWhereRowsTakeMoreMemoryThanACallHas) {
+  DatabaseHandle database = DatabaseHandle::InMemory();
+  database.Execute(std::string(DeliveredTables()).c_str());
+  database.Execute(
+      "PRAGMA foreign_keys = OFF;"
+      " INSERT INTO CldDay (ID1, Year1, Day1, ODate, TID1) VALUES (978, 2026, 1, '2026-01-01', 1)");
+  const char* const change = "UPDATE CldDay SET Comment = printf('%.400000c', 'x')";
+  RowRecorder recorder(database, 1);
+  database.Execute(change);
+  EXPECT_EQ(recorder.TakeRows().size(), 1U);
+  database.Execute(change);
+  EXPECT_THAT(contract::FailureTextOf([&] { (void)recorder.TakeRows(); }), HasSubstr("more than 1 MB"));
 }
 
 }  // namespace

@@ -38,8 +38,10 @@ TEST(TextFunctions, GiveWhatSqlitesOwnGive) {
   ASSERT_EQ(sqlite3_open(":memory:", &own), SQLITE_OK);
   const auto database = DatabaseHandle::InMemory();
   for (const char* expression :
-       {"instr(a.x, b.x)", "replace(a.x, b.x, c.x)", "trim(a.x, ' ab')", "trim(a.x, '')"}) {
-    EXPECT_EQ(AnswersOf(database.Get(), expression), AnswersOf(own, expression)) << expression;
+       {"instr(a.x, b.x)", "replace(a.x, b.x, c.x)", "trim(a.x, ' ab')", "trim(a.x, '')", "a.x LIKE b.x",
+        "a.x LIKE ('%' || b.x || '_')", "a.x LIKE ('a%' || b.x) ESCAPE 'a'", "a.x GLOB ('*' || b.x || '?')",
+        "a.x GLOB ('[' || b.x || ']*')", "like(a.x, b.x, NULL)"}) {
+    EXPECT_TRUE(AnswersOf(database.Get(), expression) == AnswersOf(own, expression)) << expression;
   }
   sqlite3_close(own);
 }
@@ -57,7 +59,7 @@ TEST(TextFunctions, DoNotTakeLongerThanTheirTextsAreLong) {
   EXPECT_EQ(ask.Integer(1), 8 * 1024 * 1024);
 }
 
-TEST(TextFunctions, RefuseToTrimByManyLettersAndToMakeTextsOfAnyLength) {
+TEST(TextFunctions, RefuseWhatTakesLongerThanTheirTextsAreLong) {
   const auto failure_of = [](const std::string& query) -> std::string {
     try {
       const auto database = DatabaseHandle::InMemory();
@@ -68,6 +70,12 @@ TEST(TextFunctions, RefuseToTrimByManyLettersAndToMakeTextsOfAnyLength) {
     return "";
   };
   EXPECT_THAT(failure_of("SELECT trim('a', printf('%.65c', 'a'))"), HasSubstr("up to 64 letters"));
+  for (const char* matching :
+       {"'a' LIKE printf('%.101c', 'a')", "printf('%.65537c', 'a') LIKE 'a%b' ESCAPE 'x'",
+        "printf('%.65537c', 'a') GLOB '*b'"}) {
+    EXPECT_THAT(failure_of(std::string("SELECT ") + matching), HasSubstr("up to 64 KB")) << matching;
+  }
+  EXPECT_THAT(failure_of("SELECT 'a' LIKE 'a' ESCAPE '%'"), HasSubstr("ESCAPE takes"));
   EXPECT_THAT(failure_of("SELECT replace(printf('%.100000c', 'a'), 'a', printf('%.100000c', 'b'))"),
               HasSubstr("too long"));
 }
