@@ -69,8 +69,7 @@ class CopyWriter : public content::RowWriter {
     if (rows >= kMany) keys_.emplace(connection_, std::string(table.name));
     const std::string sql = std::string("COPY ") + kSchema + "." + std::string(table.name) + " (" +
                             ColumnList(table) + ") FROM STDIN";
-    const QueryResult result(PQexec(connection_.Get(), sql.c_str()));
-    if (PQresultStatus(result.get()) != PGRES_COPY_IN) throw ResultFailure(connection_.Get(), result.get());
+    connection_.BeginCopy(sql, PGRES_COPY_IN);
   }
 
   void Add(const content::Row& row) override {
@@ -106,6 +105,8 @@ class CopyWriter : public content::RowWriter {
     if (PQputCopyData(connection_.Get(), lines_.data(), static_cast<int>(lines_.size())) != 1) {
       throw LinkFailure(connection_.Get());
     }
+    // Else what a server does not take is kept here, however much.
+    connection_.AwaitSent();
     lines_.clear();
   }
 

@@ -1,6 +1,7 @@
 #include "ferrowind/adapters/postgres/row_stream.h"
 
 #include <cstdint>
+#include <exception>
 
 #include "ferrowind/adapters/postgres/binary_value.h"
 #include "ferrowind/adapters/postgres/postgres_failure.h"
@@ -35,28 +36,19 @@ RowStream::RowStream(ServerConnection& connection, const std::string& query, std
   for (std::size_t column = 0; column < columns; ++column) {
     names_.emplace_back(PQfname(none.get(), static_cast<int>(column)));
   }
-  if (PQsendQuery(connection_.Get(), ("COPY (" + query + ") TO STDOUT (FORMAT binary)").c_str()) != 1) {
-    throw LinkFailure(connection_.Get());
-  }
-  // Rows in the place of the stream would not be kept, however many.
-  static_cast<void>(PQsetSingleRowMode(connection_.Get()));
-  const QueryResult started(PQgetResult(connection_.Get()));
-  if (PQresultStatus(started.get()) == PGRES_COPY_OUT) return;
-  connection_.GiveUp();
-  throw ResultFailure(connection_.Get(), started.get());
+  connection_.BeginCopy("COPY (" + query + ") TO STDOUT (FORMAT binary)", PGRES_COPY_OUT);
 }
 
 RowStream::~RowStream() {
   try {
     while (connection_.IsAlive() && !is_at_end_ && ReceiveMessage() > 0) {
     }
-  } catch (const Failure&) {
+    if (!connection_.IsAlive()) return;
+    // The end of the stream, and that nothing comes behind it.
+    if (connection_.TakeAnswer() && connection_.TakeAnswer()) connection_.GiveUp();
+  } catch (const std::exception&) {
     connection_.GiveUp();
   }
-  if (!connection_.IsAlive()) return;
-  // The end of the stream, and that nothing comes behind it.
-  const QueryResult end(PQgetResult(connection_.Get()));
-  if (end && QueryResult(PQgetResult(connection_.Get()))) connection_.GiveUp();
 }
 
 bool RowStream::Next(content::Row& row) {
@@ -131,7 +123,7 @@ void RowStream::Finish() {
   while (ReceiveMessage() > 0) {
   }
   is_at_end_ = true;
-  const QueryResult result(PQgetResult(connection_.Get()));
+  const QueryResult result = connection_.TakeAnswer();
   if (PQresultStatus(result.get()) != PGRES_COMMAND_OK) throw ResultFailure(connection_.Get(), result.get());
 }
 

@@ -66,10 +66,8 @@ bool IsDone(const PGresult* result) {
 }  // namespace
 
 ServerConnection::ServerConnection(const std::string& uri, std::function<bool()> is_stopped)
-    : connection_(Connected(uri, is_stopped)),
-      form_of_answers_(AnswerParts::FormOver(Get())),
-      is_stopped_(std::move(is_stopped)) {
-  PQsetNoticeReceiver(Get(), TakeNotice, this);
+    : ServerConnection(Connected(uri, is_stopped)) {
+  is_stopped_ = std::move(is_stopped);
 }
 
 ServerConnection::ServerConnection(ConnectionHandle connection)
@@ -167,6 +165,28 @@ void ServerConnection::AwaitAnswer(AnswerParts& answer) {
     AwaitServer(static_cast<short>(is_unsent ? POLLIN | POLLOUT : POLLIN));
     if (!answer.Read()) return;
   }
+}
+
+void ServerConnection::BeginCopy(const std::string& sql, ExecStatusType direction) {
+  if (PQsendQuery(Get(), sql.c_str()) != 1) throw LinkFailure(Get());
+  // Rows in the place of the copy would not be kept, however many.
+  AnswerParts answer(Get(), AnswerParts::Form::kRows);
+  AwaitAnswer(answer);
+  const QueryResult begun(PQgetResult(Get()));
+  if (PQresultStatus(begun.get()) == direction) return;
+  GiveUp();
+  throw ResultFailure(Get(), begun.get());
+}
+
+void ServerConnection::AwaitSent() {
+  while (PQflush(Get()) == 1) {
+    AwaitServer(POLLIN | POLLOUT);
+    // A server that refuses what it is sent says so meanwhile, and might take no more before that is read.
+    if (PQconsumeInput(Get()) != 1) break;
+  }
+  if (PQflush(Get()) == 0) return;
+  GiveUp();
+  throw LinkFailure(Get());
 }
 
 void ServerConnection::AwaitInput() {

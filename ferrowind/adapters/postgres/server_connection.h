@@ -68,8 +68,14 @@ class ServerConnection {
   /// The answer to the next of the statements that were sent, or its error; null behind the last one, and in
   /// a pipeline behind each. Fails as `AnswerParts` does, and when it has been waited for as long as allowed.
   [[nodiscard]] QueryResult TakeAnswer();
+  /// Sends a statement that copies rows, COPY_OUT or COPY_IN as `direction` says, and waits as `TakeAnswer`
+  /// does until the server begins. Anything else that it answers is a failure, after which the connection is
+  /// of no more use.
+  void BeginCopy(const std::string& sql, ExecStatusType direction);
   /// Waits as `TakeAnswer` does until the server has sent something, and takes it in. For who reads a stream.
   void AwaitInput();
+  /// Waits as `TakeAnswer` does until all that was sent has left. For who writes a stream.
+  void AwaitSent();
   /// What else the other side says is not listened to: the connection is of no more use.
   void GiveUp() { is_given_up_ = true; }
 

@@ -1,7 +1,9 @@
 // That no call waits for a server longer than it may, whenever the server falls silent, and what is said
 // then.
 
+#include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -14,6 +16,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include "ferrowind/adapters/content/content_table.h"
+#include "ferrowind/adapters/postgres/content_target.h"
+#include "ferrowind/adapters/postgres/row_stream.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 
 #include "tests/contract/database/procedure_caller.h"
@@ -335,6 +340,56 @@ TEST_F(PostgresDeadline, AnAdministratorsStatementEndsWhenItIsToldTo) {
       Lasting([&] { failure = FailureTextOf([&] { administrator.RunScript("SELECT pg_sleep(60)"); }); }),
       Lt(seconds(1) + kSlack));
   EXPECT_THAT(failure, HasSubstr("was told to stop"));
+  EXPECT_FALSE(administrator.IsAlive());
+}
+
+/// Whether the server waits, for a few seconds, in the middle of copying rows.
+bool IsWaitingWhileItCopies() {
+  return postgres_server::Ask("postgres",
+                              "SELECT count(*)::text FROM pg_stat_activity"
+                              " WHERE wait_event = 'PgSleep' AND query LIKE 'COPY%'") != "0";
+}
+
+TEST_F(PostgresDeadline, RowsThatDoNotComeAreNotWaitedForByAnAdministratorWhoIsToldToStop) {
+  postgres::ServerConnection administrator(postgres_server::SuperuserUri(database_.Name()),
+                                           IsWaitingWhileItCopies);
+  EXPECT_THAT(FailureTextOf([&] {
+                const postgres::RowStream rows(administrator, "SELECT 1 AS n FROM pg_sleep(5)", 1);
+              }),
+              HasSubstr("was told to stop"));
+  EXPECT_FALSE(administrator.IsAlive());
+}
+
+TEST_F(PostgresDeadline, RowsThatTheServerDoesNotTakeAreNotWaitedForByAnAdministratorWhoIsToldToStop) {
+  // More than the system keeps on the way.
+  constexpr int kRows = 8000;
+  const std::string comment(4000, 'x');
+  postgres::ServerConnection administrator(postgres_server::SuperuserUri(database_.Name()),
+                                           IsWaitingWhileItCopies);
+  administrator.RunScript(
+      "BEGIN; CREATE FUNCTION Wait() RETURNS trigger LANGUAGE plpgsql AS"
+      " 'BEGIN PERFORM pg_sleep(5); RETURN NEW; END';"
+      " CREATE TRIGGER Wait BEFORE INSERT ON ferrowind.CldHoliday FOR EACH ROW WHEN (NEW.ID2 = 1000)"
+      " EXECUTE FUNCTION Wait()");
+  postgres::ServerTarget target(administrator, postgres::ServerTarget::Kind::kNew);
+  const content::Table& rules = content::TableNamed("CldHoliday");
+  const auto writer = target.Writer(rules, 1);
+  const auto column = [&](const char* name) {
+    return static_cast<std::size_t>(std::find(rules.columns.begin(), rules.columns.end(), name) -
+                                    rules.columns.begin());
+  };
+  EXPECT_THAT(FailureTextOf([&] {
+                for (int i = 0; i < kRows; ++i) {
+                  content::Row row(rules.columns.size());
+                  row[column("ID2")] = 1000 + i;
+                  row[column("Name1")] = "Rule " + std::to_string(i);
+                  row[column("Comment")] = comment;
+                  row[column("TID1")] = 2;
+                  row[column("WD")] = 3;
+                  writer->Add(row);
+                }
+              }),
+              HasSubstr("was told to stop"));
   EXPECT_FALSE(administrator.IsAlive());
 }
 
