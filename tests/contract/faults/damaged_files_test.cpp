@@ -66,6 +66,10 @@ class DamagedFiles : public ::testing::Test {
       std::string errors;
       ASSERT_EQ(Run(command, errors), host::ExitStatus::kDone) << errors;
     }
+    std::string list;
+    ASSERT_EQ(Run({"export", Url(), "EUR", "2026", "--format", "json"}, list), host::ExitStatus::kDone)
+        << list;
+    WriteFile(List(), list);
     sound_ = ReadFile(Path());
     days_ = DaysOnShow();
     ASSERT_GT(days_.size(), 3 * 365U * 5U);
@@ -73,6 +77,8 @@ class DamagedFiles : public ::testing::Test {
 
   [[nodiscard]] std::string Path() const { return folder_.Path() + "/a.db"; }
   [[nodiscard]] std::string Url() const { return "sqlite:" + Path(); }
+  /// The days of the sound database.
+  [[nodiscard]] std::string List() const { return lists_.Path() + "/EUR.json"; }
 
   host::ExitStatus Run(const Command& command, std::string& text) const {
     std::ostringstream out;
@@ -99,6 +105,13 @@ class DamagedFiles : public ::testing::Test {
         {"book", "set", Url(), "EUR", FERROWIND_BOOKS "/USD.txt"},
         {"currency", "list", Url()},
         {"currency", "retire", Url(), "USD", "2029-12-31"},
+        {"seal", Url()},
+        {"export", Url(), "EUR", "2026-2027", "--format", "csv"},
+        {"reconcile", Url(), "EUR", List()},
+        {"import", Url(), "EUR", List(), "--yes"},
+        {"date", "next", Url(), "EUR", "2026-12-24"},
+        {"conventions", "list", Url()},
+        {"book", "check", Url(), "EUR"},
         {"call", Url(), "CldAllInfo"},
         {"call", Url(), "CldGetMain", "ID1=978", "Year1=2026"},
         {"call", Url(), "CldIUMain", "ID1=978", "Year1=2026", "TID1=1", "ID2=1", "Day1=7"},
@@ -199,6 +212,7 @@ class DamagedFiles : public ::testing::Test {
   }
 
   TemporaryFolder folder_;
+  TemporaryFolder lists_;
   platform::EngineRegistry engines_;
   std::string sound_;
   std::string days_;

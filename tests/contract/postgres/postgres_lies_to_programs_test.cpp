@@ -181,6 +181,7 @@ INSTANTIATE_TEST_SUITE_P(
         Command{{"plan", kUrl, "EUR", "2026"}, 4}, Command{{"why", kUrl, "EUR", "2026-12-25"}, 4},
         Command{{"history", kUrl}, 4}, Command{{"as-of", kUrl, "EUR", "2026", "2200-01-01"}, 4},
         Command{{"book", "show", kUrl, "EUR"}, 4}, Command{{"currency", "list", kUrl}, 4},
+        Command{{"export", kUrl, "EUR", "2026", "--format", "csv"}, 4},
         Command{{"conventions", "list", kUrl}, 4}, Command{{"date", "next", kUrl, "EUR", "2026-12-24"}, 4},
         Command{{"call", kUrl, "CldAllInfo", "--format", "json"}, 4}, Command{{"copy", kUrl, kFile}, 3}),
     [](const auto& info) {
