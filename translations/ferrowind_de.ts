@@ -536,12 +536,40 @@
         <translation><numerusform>%n geschlossener Tag behält seinen Namen; die Liste nennt ihn anders.</numerusform><numerusform>%n geschlossene Tage behalten ihre Namen; die Liste nennt sie anders.</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n currencies</source>
+        <translation><numerusform>%n Währung</numerusform><numerusform>%n Währungen</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies are closed on weekends only in %2: %1.</source>
+        <translation><numerusform>%n Währung ist %2 nur an Wochenenden geschlossen: %1.</numerusform><numerusform>%n Währungen sind %2 nur an Wochenenden geschlossen: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no book, so nothing tells what their calendars should be: %1.</source>
+        <translation><numerusform>%n Währung hat kein Regelwerk, also sagt nichts, wie die Kalender aussehen sollen: %1.</numerusform><numerusform>%n Währungen haben kein Regelwerk, also sagt nichts, wie die Kalender aussehen sollen: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2, the running year: %1.</source>
+        <translation><numerusform>%n Währung hat keinen Kalender für %2, das laufende Jahr: %1.</numerusform><numerusform>%n Währungen haben keinen Kalender für %2, das laufende Jahr: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2: %1.</source>
+        <translation><numerusform>%n Währung hat keinen Kalender für %2: %1.</numerusform><numerusform>%n Währungen haben keinen Kalender für %2: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no closed day in %2: %1.</source>
+        <translation><numerusform>%n Währung hat %2 keinen geschlossenen Tag: %1.</numerusform><numerusform>%n Währungen haben %2 keinen geschlossenen Tag: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n currencies have no holidays in %1, the running year.</source>
         <translation><numerusform>%n Währung hat keine Feiertage in %1, dem laufenden Jahr.</numerusform><numerusform>%n Währungen haben keine Feiertage in %1, dem laufenden Jahr.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies have no holidays in %1, which begins %2.</source>
         <translation><numerusform>%n Währung hat keine Feiertage in %1, das %2 beginnt.</numerusform><numerusform>%n Währungen haben keine Feiertage in %1, das %2 beginnt.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no weekends in %2, for no weekday holiday closes any day: %1.</source>
+        <translation><numerusform>%n Währung hat %2 keine Wochenenden, denn kein wöchentlicher Feiertag schließt einen Tag: %1.</numerusform><numerusform>%n Währungen haben %2 keine Wochenenden, denn kein wöchentlicher Feiertag schließt einen Tag: %1.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n days</source>

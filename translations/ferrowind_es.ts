@@ -536,12 +536,40 @@
         <translation><numerusform>%n día cerrado conserva su nombre; la lista lo llama de otro modo.</numerusform><numerusform>%n días cerrados conservan sus nombres; la lista los llama de otro modo.</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n currencies</source>
+        <translation><numerusform>%n divisa</numerusform><numerusform>%n divisas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies are closed on weekends only in %2: %1.</source>
+        <translation><numerusform>%n divisa solo cierra los fines de semana en %2: %1.</numerusform><numerusform>%n divisas solo cierran los fines de semana en %2: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no book, so nothing tells what their calendars should be: %1.</source>
+        <translation><numerusform>%n divisa no tiene reglamento, así que nada dice cómo deberían ser sus calendarios: %1.</numerusform><numerusform>%n divisas no tienen reglamento, así que nada dice cómo deberían ser sus calendarios: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2, the running year: %1.</source>
+        <translation><numerusform>%n divisa no tiene calendario para %2, el año en curso: %1.</numerusform><numerusform>%n divisas no tienen calendario para %2, el año en curso: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2: %1.</source>
+        <translation><numerusform>%n divisa no tiene calendario para %2: %1.</numerusform><numerusform>%n divisas no tienen calendario para %2: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no closed day in %2: %1.</source>
+        <translation><numerusform>%n divisa no tiene ningún día cerrado en %2: %1.</numerusform><numerusform>%n divisas no tienen ningún día cerrado en %2: %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n currencies have no holidays in %1, the running year.</source>
         <translation><numerusform>%n divisa no tiene festivos en %1, el año en curso.</numerusform><numerusform>%n divisas no tienen festivos en %1, el año en curso.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies have no holidays in %1, which begins %2.</source>
         <translation><numerusform>%n divisa no tiene festivos en %1, que empieza %2.</numerusform><numerusform>%n divisas no tienen festivos en %1, que empieza %2.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no weekends in %2, for no weekday holiday closes any day: %1.</source>
+        <translation><numerusform>%n divisa no tiene fines de semana en %2, pues ningún festivo semanal cierra un día: %1.</numerusform><numerusform>%n divisas no tienen fines de semana en %2, pues ningún festivo semanal cierra un día: %1.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n days</source>

@@ -536,12 +536,40 @@
         <translation><numerusform>%n jour fermé garde son nom ; la liste l'appelle autrement.</numerusform><numerusform>%n jours fermés gardent leurs noms ; la liste les appelle autrement.</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n currencies</source>
+        <translation><numerusform>%n devise</numerusform><numerusform>%n devises</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies are closed on weekends only in %2: %1.</source>
+        <translation><numerusform>%n devise n’est fermée que les week-ends en %2 : %1.</numerusform><numerusform>%n devises ne sont fermées que les week-ends en %2 : %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no book, so nothing tells what their calendars should be: %1.</source>
+        <translation><numerusform>%n devise n’a pas de recueil, rien ne dit donc ce que ses calendriers devraient être : %1.</numerusform><numerusform>%n devises n’ont pas de recueil, rien ne dit donc ce que leurs calendriers devraient être : %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2, the running year: %1.</source>
+        <translation><numerusform>%n devise n’a pas de calendrier pour %2, l’année en cours : %1.</numerusform><numerusform>%n devises n’ont pas de calendrier pour %2, l’année en cours : %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2: %1.</source>
+        <translation><numerusform>%n devise n’a pas de calendrier pour %2 : %1.</numerusform><numerusform>%n devises n’ont pas de calendrier pour %2 : %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no closed day in %2: %1.</source>
+        <translation><numerusform>%n devise n’a aucun jour fermé en %2 : %1.</numerusform><numerusform>%n devises n’ont aucun jour fermé en %2 : %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n currencies have no holidays in %1, the running year.</source>
         <translation><numerusform>%n devise n’a pas de fériés en %1, l’année en cours.</numerusform><numerusform>%n devises n’ont pas de fériés en %1, l’année en cours.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies have no holidays in %1, which begins %2.</source>
         <translation><numerusform>%n devise n’a pas de fériés en %1, qui commence %2.</numerusform><numerusform>%n devises n’ont pas de fériés en %1, qui commence %2.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no weekends in %2, for no weekday holiday closes any day: %1.</source>
+        <translation><numerusform>%n devise n’a pas de week-ends en %2, car aucun férié hebdomadaire ne ferme de jour : %1.</numerusform><numerusform>%n devises n’ont pas de week-ends en %2, car aucun férié hebdomadaire ne ferme de jour : %1.</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n days</source>

@@ -536,12 +536,40 @@
         <translation><numerusform>%n日の休業日は名称を保ちます。一覧では別の名称です。</numerusform></translation>
     </message>
     <message numerus="yes">
+        <source>%n currencies</source>
+        <translation><numerusform>%n通貨</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies are closed on weekends only in %2: %1.</source>
+        <translation><numerusform>%n通貨の%2年は週末だけ休業です: %1。</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no book, so nothing tells what their calendars should be: %1.</source>
+        <translation><numerusform>%n通貨に規則集がなく、カレンダーのあるべき姿がわかりません: %1。</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2, the running year: %1.</source>
+        <translation><numerusform>%n通貨に今年（%2年）のカレンダーがありません: %1。</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no calendar for %2: %1.</source>
+        <translation><numerusform>%n通貨に%2年のカレンダーがありません: %1。</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no closed day in %2: %1.</source>
+        <translation><numerusform>%n通貨に%2年の休業日がありません: %1。</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n currencies have no holidays in %1, the running year.</source>
         <translation><numerusform>%n通貨に今年（%1年）の休日がありません。</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies have no holidays in %1, which begins %2.</source>
         <translation><numerusform>%n通貨に%1年の休日がありません（%2開始）。</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n currencies have no weekends in %2, for no weekday holiday closes any day: %1.</source>
+        <translation><numerusform>%n通貨に%2年の週末がありません（曜日休日で休業となる日がありません）: %1。</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n days</source>

@@ -31,7 +31,9 @@ bool StandsInForLeapDay(const KnownRule& rule, const Date& date) {
 class CurrencyReview {
  public:
   CurrencyReview(const ReviewedCurrency& currency, const RuleDirectory& rules, const DateTables& tables)
-      : currency_(currency), rules_(rules) {
+      : currency_(currency),
+        called_(currency.called.empty() ? currency.code : currency.called),
+        rules_(rules) {
     if (!currency.book) return;
     planner_.emplace(*currency.book, tables);
     matches_.emplace(*currency.book, rules);
@@ -62,19 +64,19 @@ class CurrencyReview {
 
   void AddDay(FindingLevel level, FindingSubject subject, const Date& day, const Phrase& predicate) {
     Add(level, subject, day.Year(), day,
-        Phrase::Of("%1: %2 %3.", {currency_.code, LongDay(day.Serial()), predicate}));
+        Phrase::Of("%1: %2 %3.", {called_, LongDay(day.Serial()), predicate}));
   }
 
-  [[nodiscard]] std::string Calendar(int year) const { return currency_.code + " " + std::to_string(year); }
+  [[nodiscard]] std::string Calendar(int year) const { return called_ + " " + std::to_string(year); }
 
   void ReviewBook() {
     for (const std::string& fault : currency_.book_faults) {
       Add(FindingLevel::kWarning, FindingSubject::kFaultyBook, {}, {},
-          Phrase::Of("The book of %1 cannot be used: %2.", {currency_.code, fault}));
+          Phrase::Of("The book of %1 cannot be used: %2.", {called_, fault}));
     }
     if (!currency_.book && currency_.book_faults.empty()) {
       Add(FindingLevel::kNote, FindingSubject::kNoBook, {}, {},
-          Phrase::Of("%1 has no book, so nothing tells what its calendars should be.", {currency_.code}));
+          Phrase::Of("%1 has no book, so nothing tells what its calendars should be.", {called_}));
     }
     if (currency_.book) ReviewYearsBeforeBook(*currency_.book);
   }
@@ -88,7 +90,7 @@ class CurrencyReview {
             before,
             "The book of %1 holds from %2 on, and a calendar of an earlier year is compared with no plan.",
             "The book of %1 holds from %2 on, and calendars of earlier years are compared with no plan.",
-            {currency_.code, std::to_string(*book.since)}));
+            {called_, std::to_string(*book.since)}));
   }
 
   void ReviewYears(const ReviewHorizon& horizon) {
@@ -102,7 +104,7 @@ class CurrencyReview {
       Add(is_running ? FindingLevel::kError : FindingLevel::kWarning, FindingSubject::kMissingYear, year, {},
           Phrase::Of(
               is_running ? "%1 has no calendar for %2, the running year." : "%1 has no calendar for %2.",
-              {currency_.code, std::to_string(year)}));
+              {called_, std::to_string(year)}));
     }
   }
 
@@ -212,6 +214,7 @@ class CurrencyReview {
   }
 
   const ReviewedCurrency& currency_;
+  const std::string called_;
   const RuleDirectory& rules_;
   std::optional<Planner> planner_;
   std::optional<RuleMatches> matches_;

@@ -38,6 +38,8 @@ struct ReviewedCurrency {
   std::optional<platform::Date> last_day;
   /// By year, each once.
   std::vector<CalendarContent> calendars;
+  /// What sentences call it; "" for its code.
+  std::string called = {};
 };
 
 /// Is told of each calendar of a currency once, with its comparison with the plan of its year, which lives as

@@ -110,7 +110,7 @@ class Preview {
     }
     if (!is_planned && !planned.empty()) {
       line.warnings.push_back(
-          InWords("The book of %1 has it on %2", {calendar_.Owner().code, Listed(planned)}));
+          InWords("The book of %1 has it on %2", {UnmistakableCode(calendar_.Owner()), Listed(planned)}));
     }
     WarnOfDay(day, rule, line);
     AssignTo(day, rule, line);
@@ -143,7 +143,7 @@ class Preview {
     //: said
     const char* const text = others.size() == 1 ? "It belongs to the book of %1, not to that of %2"
                                                 : "It belongs to the books of %1, not to that of %2";
-    line.warnings.push_back(InWords(text, {Listed(others), calendar_.Owner().code}));
+    line.warnings.push_back(InWords(text, {Listed(others), UnmistakableCode(calendar_.Owner())}));
   }
 
   void WarnOfWeekday(const RuleToAssign& rule, AssignmentLine& line) const {
@@ -154,8 +154,8 @@ class Preview {
              calendar_.Plan()->DateOf(day).Weekday() == rule.weekday;
     });
     if (!closes) {
-      line.warnings.push_back(
-          InWords("The book of %1 does not close each %2", {calendar_.Owner().code, Weekday(rule.weekday)}));
+      line.warnings.push_back(InWords("The book of %1 does not close each %2",
+                                      {UnmistakableCode(calendar_.Owner()), Weekday(rule.weekday)}));
     }
   }
 

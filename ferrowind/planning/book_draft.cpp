@@ -66,7 +66,7 @@ BookDraft::BookDraft(Currency currency, const almanac::DateTables& tables)
   if (!stored->book) {
     throw platform::Failure(
         platform::failure_number::kInvalidArgument,
-        InWords("The book of %1 cannot be read: %2", {currency_.code, stored->faults.front()}));
+        InWords("The book of %1 cannot be read: %2", {UnmistakableCode(currency_), stored->faults.front()}));
   }
   fingerprint_ = stored->fingerprint;
   stored_ = stored->book;
@@ -198,7 +198,7 @@ void BookDraft::SendAfterLostAnswers() {
     Send();
   } catch (const Refusal& refusal) {
     if (refusal.ReturnValue() != return_value::kContentIsAnother || !sent) throw;
-    const auto stored = LoadBook(currency_.id, currency_.code, tables_);
+    const auto stored = LoadBook(currency_.id, UnmistakableCode(currency_), tables_);
     if (!stored || stored->book != sent) throw;
     fingerprint_ = stored->fingerprint;
     Send();
@@ -207,9 +207,9 @@ void BookDraft::SendAfterLostAnswers() {
 
 void BookDraft::Send() const {
   if (IsEmpty()) {
-    RemoveBook(currency_.id, currency_.code, fingerprint_);
+    RemoveBook(currency_.id, UnmistakableCode(currency_), fingerprint_);
   } else {
-    StoreBook(currency_.id, currency_.code, fingerprint_, ReadableBook(0).book);
+    StoreBook(currency_.id, UnmistakableCode(currency_), fingerprint_, ReadableBook(0).book);
   }
 }
 

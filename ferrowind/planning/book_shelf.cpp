@@ -30,7 +30,7 @@ const StoredBook& BookShelf::Get(const Currency& currency) const {
   const StoredBook* const stored = Find(currency);
   if (stored == nullptr) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            InWords("%1 has no rule book", {currency.code}));
+                            InWords("%1 has no rule book", {UnmistakableCode(currency)}));
   }
   return *stored;
 }

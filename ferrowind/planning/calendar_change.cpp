@@ -26,7 +26,7 @@ bool ChangeSeenDays(const std::string& doing, const Currency& currency, const al
   parameters.Add("Year1", static_cast<std::int32_t>(seen.year));
   parameters.Add("Expected", now.fingerprint);
   parameters.Add("Days", days);
-  const std::string calendar = currency.code + " " + std::to_string(seen.year);
+  const std::string calendar = CalendarName(currency, seen.year);
   const CallAnswer answer = CallDatabase(InWords(doing, {calendar}), "CldApplyPlan", parameters, 0,
                                          {return_value::kContentIsAnother});
   return answer.return_value == return_value::kDone;

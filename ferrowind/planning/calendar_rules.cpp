@@ -87,7 +87,8 @@ std::vector<std::string> CalendarRules::OtherBooksOf(std::int32_t rule) const {
   const auto found = books_.find(rule);
   if (found == books_.end()) return codes;
   for (const std::int32_t owner : found->second) {
-    if (owner != currency_.id) codes.push_back(planner_.Currencies().FindOrNumber(owner).code);
+    if (owner == currency_.id) continue;
+    codes.push_back(UnmistakableCode(planner_.Currencies().FindOrNumber(owner)));
   }
   std::sort(codes.begin(), codes.end());
   return codes;

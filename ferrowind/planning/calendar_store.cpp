@@ -20,7 +20,7 @@ using platform::RecordSet;
 using platform::Value;
 
 std::string Reading(const Currency& currency, int year) {
-  return InWords("Reading the calendar %1 %2", {currency.code, std::to_string(year)});
+  return InWords("Reading the calendar %1 %2", {UnmistakableCode(currency), std::to_string(year)});
 }
 
 SourceValues CalendarParameters(const Currency& currency, int year) {

@@ -38,13 +38,18 @@ std::string WrittenFor(const Currency& currency) {
 
 std::string UnmistakableCode(const Currency& currency) {
   if (!MeansAllCurrencies(currency.code)) return currency.code;
-  return currency.code + " (" + (currency.name.empty() ? WrittenFor(currency) : currency.name) + ")";
+  const bool has_name = !currency.name.empty() && currency.name != currency.code;
+  return currency.code + " (" + (has_name ? currency.name : WrittenFor(currency)) + ")";
+}
+
+std::string CalendarName(const Currency& currency, int year) {
+  return UnmistakableCode(currency) + " " + std::to_string(year);
 }
 
 platform::Phrase EndOfMoney(const Currency& currency) {
-  if (!currency.is_money || !currency.last_day)
-    return platform::Phrase::Of("%1 is no money", {currency.code});
-  return platform::Phrase::Of("%1 is money until %2", {currency.code, currency.last_day->ToIso()});
+  const std::string code = UnmistakableCode(currency);
+  if (!currency.is_money || !currency.last_day) return platform::Phrase::Of("%1 is no money", {code});
+  return platform::Phrase::Of("%1 is money until %2", {code, currency.last_day->ToIso()});
 }
 
 CurrencyList CurrencyList::Load() {

@@ -38,8 +38,12 @@ struct Currency {
 /// What a person writes for that one currency: its code, or its number where the code means all of them.
 [[nodiscard]] std::string WrittenFor(const Currency& currency);
 
-/// What the currency is called where nothing beside its code says that it is one: "EUR", and "ALL (Lek)".
+/// What the currency is called where nothing beside its code says that it is one: "EUR", and "ALL (Lek)",
+/// or "ALL (008)" of one whose name is not known.
 [[nodiscard]] std::string UnmistakableCode(const Currency& currency);
+
+/// What sentences and captions call a calendar: "EUR 2028", and "ALL (Lek) 2028".
+[[nodiscard]] std::string CalendarName(const Currency& currency, int year);
 
 class CurrencyList {
  public:

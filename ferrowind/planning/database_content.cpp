@@ -28,6 +28,7 @@ void AddNames(const CurrencyList& list, WrittenCurrencies& written) {
   for (auto& [id, currency] : written) {
     const Currency* const known = list.Find(id);
     currency.code = known != nullptr ? known->code : std::to_string(id);
+    currency.called = known != nullptr ? UnmistakableCode(*known) : currency.code;
     if (known != nullptr) currency.last_day = known->last_day;
   }
 }
@@ -35,8 +36,8 @@ void AddNames(const CurrencyList& list, WrittenCurrencies& written) {
 }  // namespace
 
 std::string WrittenCurrency::Text() const {
-  std::string text =
-      std::to_string(code.size()) + ':' + code + (last_day ? last_day->ToIso() : std::string()) + '\n';
+  std::string text = std::to_string(code.size()) + ':' + code + std::to_string(called.size()) + ':' + called +
+                     (last_day ? last_day->ToIso() : std::string()) + '\n';
   for (const auto& [year, days] : calendars) {
     text += std::to_string(year) + ',' + std::to_string(days.size()) + ':';
     text += days;

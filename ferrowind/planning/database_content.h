@@ -29,6 +29,8 @@ struct WrittenCurrency {
 
   /// One that the dictionary lacks has its number for a code.
   std::string code = {};
+  /// What sentences for people call it (`UnmistakableCode`).
+  std::string called = {};
   std::optional<platform::Date> last_day = {};
   std::optional<WrittenBook> book = {};
   /// Each year with its days (days_text.h), ascending. The texts live as long as the content.

@@ -89,9 +89,15 @@ std::string TypeText(const std::string& number) {
   return number;
 }
 
+/// Without its weekday: the year of a celebration says nothing.
 std::string DateText(const std::string& iso) {
   const auto date = Date::FromIso(iso);
-  return date ? InWords(almanac::LongDate(date->Serial())) : iso;
+  return date ? AttachedPlatform().locale.LongDateText(*date) : iso;
+}
+
+std::string DayText(const std::string& iso) {
+  const auto date = Date::FromIso(iso);
+  return date ? LongDay(*date) : iso;
 }
 
 std::string WeekdayText(const std::string& number) {
@@ -130,7 +136,7 @@ const Column kColumns[] = {{"Name1", "name", AsItStands},
                            {"Ccy", "code", AsItStands},
                            {"CcyType", "kind", MoneyText},
                            {"Name", "name", AsItStands},
-                           {"LastDay", "last day as money", DateText},
+                           {"LastDay", "last day as money", DayText},
                            {"SpotDays", "days to spot", AsItStands},
                            {"DollarStops", "stopped by holidays of the dollar", YesOrNo}};
 
@@ -153,8 +159,7 @@ std::string NameOf(const JsonValue& before, const JsonValue& behind, std::string
 
 std::string CodeOf(std::optional<std::int32_t> number, const CurrencyList& currencies) {
   if (!number) return "";
-  const Currency* const currency = currencies.Find(*number);
-  return currency != nullptr ? currency->code : std::to_string(*number);
+  return UnmistakableCode(currencies.FindOrNumber(*number));
 }
 
 std::string SubjectOfConvention(const std::string& code, const std::string& other) {
@@ -198,11 +203,9 @@ EntryChanges LoadChanges(const HistoryEntry& entry, const CurrencyList& currenci
     for (const ReplacedRow& row : detailed->rows) AddRow(row, currencies, changes);
   }
   if (entry.currency && entry.year) {
-    const Currency* const currency = currencies.Find(*entry.currency);
-    const std::string code = currency != nullptr ? currency->code : std::to_string(*entry.currency);
     const PastCalendar before = LoadCalendarBehind(*entry.currency, *entry.year, entry.id - 1);
     const PastCalendar behind = LoadCalendarBehind(*entry.currency, *entry.year, entry.id);
-    AddDays(before, behind, code + " " + std::to_string(*entry.year), changes);
+    AddDays(before, behind, CalendarName(currencies.FindOrNumber(*entry.currency), *entry.year), changes);
   }
   return changes;
 }

@@ -5,7 +5,6 @@
 #include <string_view>
 #include <utility>
 
-#include "ferrowind/almanac/date_words.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/moment_text.h"
@@ -67,11 +66,12 @@ class Parameters {
   JsonValue object_;
 };
 
-std::string DayText(const Parameters& parameters) {
+/// Of the year and the day that a call was of.
+Date DayOf(const Parameters& parameters) {
   const std::int32_t year = parameters.Number("Year1");
   const std::int32_t day = parameters.Number("Day1");
   if (year < 1 || year > 9999 || day < 1 || day > platform::DaysInYear(year)) throw CannotBeTold();
-  return InWords(almanac::LongDate(Date(year, 1, 1).AddDays(day - 1).Serial()));
+  return Date(year, 1, 1).AddDays(day - 1);
 }
 
 std::string NeededRule(const HistoryEntry& entry) {
@@ -79,17 +79,17 @@ std::string NeededRule(const HistoryEntry& entry) {
   return entry.rule;
 }
 
-std::string WordsOfDays(const HistoryEntry& entry, const std::string& calendar) {
+std::string WordsOfDays(const HistoryEntry& entry, const std::string& calendar, const DayTeller& tell_day) {
   const Parameters parameters(entry.parameters);
   if (!parameters.Has("TID1")) return InWords("Created the calendar %1", {calendar});
   constexpr std::int32_t kWorkingDay = 1;
   if (parameters.Number("TID1") == kWorkingDay) {
     const std::string reason = parameters.Text("Comment");
-    if (reason.empty()) return InWords("Excepted %1", {DayText(parameters)});
-    return InWords("Excepted %1: %2", {DayText(parameters), reason});
+    if (reason.empty()) return InWords("Excepted %1", {tell_day(DayOf(parameters))});
+    return InWords("Excepted %1: %2", {tell_day(DayOf(parameters)), reason});
   }
   if (parameters.Has("Day1")) {
-    return InWords("Assigned %1 to %2", {NeededRule(entry), DayText(parameters)});
+    return InWords("Assigned %1 to %2", {NeededRule(entry), tell_day(DayOf(parameters))});
   }
   return InWords(static_cast<std::size_t>(entry.rows_changed), "Assigned %1 to %n day of %2",
                  "Assigned %1 to %n days of %2",
@@ -108,35 +108,37 @@ std::string MemberText(const JsonValue& item, std::string_view name) {
   return member != nullptr && member->kind == JsonValue::Kind::kText ? member->text : "";
 }
 
-/// "14 April 2028", "3 days of EUR 2028".
-std::string WordsOfDates(const std::vector<JsonValue>& dates, const std::string& calendar) {
+/// "Friday 14 April 2028", "3 days of EUR 2028".
+std::string WordsOfDates(const std::vector<JsonValue>& dates, const std::string& calendar,
+                         const DayTeller& tell_day) {
   if (dates.size() != 1) return InWords(dates.size(), "%n day of %1", "%n days of %1", {calendar});
   const auto date = Date::FromIso(dates.front().text);
   if (!date) throw CannotBeTold();
-  return InWords(almanac::LongDate(date->Serial()));
+  return tell_day(*date);
 }
 
 /// What a call did that gave days of a calendar which was there one and the same: by hand, mostly. Nothing
 /// when the days are no exceptions and no holiday.
-std::optional<std::string> WordsOfOneChange(const JsonValue& item, const std::string& calendar) {
+std::optional<std::string> WordsOfOneChange(const JsonValue& item, const std::string& calendar,
+                                            const DayTeller& tell_day) {
   const std::string type = item.Find("TID1") != nullptr ? item.Find("TID1")->text : "";
   const std::string rule = MemberText(item, "Name1");
   if (type == "1" && rule.empty() && item.Find("DayComment") != nullptr) {
     const std::string reason = MemberText(item, "DayComment");
-    const std::string days = WordsOfDates(DatesOf(item), calendar);
+    const std::string days = WordsOfDates(DatesOf(item), calendar, tell_day);
     return reason.empty() ? InWords("Excepted %1", {days}) : InWords("Excepted %1: %2", {days, reason});
   }
   if ((type == "3" || type == "4") && !rule.empty()) {
-    return InWords("Closed %1 as %2", {WordsOfDates(DatesOf(item), calendar), rule});
+    return InWords("Closed %1 as %2", {WordsOfDates(DatesOf(item), calendar, tell_day), rule});
   }
   return std::nullopt;
 }
 
-std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar) {
+std::string WordsOfPlan(const HistoryEntry& entry, const std::string& calendar, const DayTeller& tell_day) {
   const Parameters parameters(entry.parameters);
   const std::vector<JsonValue> items = parameters.List("Days");
   if (items.size() == 1 && !parameters.Text("Expected").empty()) {
-    if (auto words = WordsOfOneChange(items.front(), calendar)) return *std::move(words);
+    if (auto words = WordsOfOneChange(items.front(), calendar, tell_day)) return *std::move(words);
   }
   std::size_t days = 0;
   for (const JsonValue& item : items) days += DatesOf(item).size();
@@ -167,7 +169,7 @@ std::string WordsOfBook(const HistoryEntry& entry, const std::string& currency) 
                  {currency});
 }
 
-std::string WordsOfCurrency(const HistoryEntry& entry) {
+std::string WordsOfCurrency(const HistoryEntry& entry, const DayTeller& tell_day) {
   const Parameters parameters(entry.parameters);
   const std::string code = parameters.NeededText("Ccy");
   const std::string name = parameters.NeededText("Name");
@@ -175,17 +177,16 @@ std::string WordsOfCurrency(const HistoryEntry& entry) {
   if (!parameters.Has("LastDay")) return InWords("Set the currency %1 (%2)", {code, name});
   const auto last_day = Date::FromIso(parameters.Text("LastDay"));
   if (!last_day) throw CannotBeTold();
-  return InWords("Set the currency %1 (%2), money until %3",
-                 {code, name, InWords(almanac::LongDate(last_day->Serial()))});
+  return InWords("Set the currency %1 (%2), money until %3", {code, name, tell_day(*last_day)});
 }
 
-std::string WordsOf(const HistoryEntry& entry, const std::string& calendar) {
+std::string WordsOf(const HistoryEntry& entry, const std::string& calendar, const DayTeller& tell_day) {
   try {
-    if (entry.procedure == "CldIUMain") return OneLine(WordsOfDays(entry, calendar));
-    if (entry.procedure == "CldApplyPlan") return OneLine(WordsOfPlan(entry, calendar));
+    if (entry.procedure == "CldIUMain") return OneLine(WordsOfDays(entry, calendar, tell_day));
+    if (entry.procedure == "CldApplyPlan") return OneLine(WordsOfPlan(entry, calendar, tell_day));
     if (entry.procedure == "CldIUCelebrate") return OneLine(WordsOfRule(entry));
     if (entry.procedure == "CldIUBook") return OneLine(WordsOfBook(entry, calendar));
-    if (entry.procedure == "CldIUCurrency") return OneLine(WordsOfCurrency(entry));
+    if (entry.procedure == "CldIUCurrency") return OneLine(WordsOfCurrency(entry, tell_day));
   } catch (const CannotBeTold&) {
     // As it stands, below.
   }
@@ -212,13 +213,16 @@ std::optional<std::int32_t> UndoneEntry(const HistoryEntry& entry) {
 }
 
 HistoryWords::HistoryWords(const CurrencyList& currencies, EntryLookup find)
-    : currencies_(currencies), find_(std::move(find)) {}
+    : HistoryWords(currencies, std::move(find),
+                   [](const Date& day) { return AttachedPlatform().locale.LongDayText(day); }) {}
+
+HistoryWords::HistoryWords(const CurrencyList& currencies, EntryLookup find, DayTeller tell_day)
+    : currencies_(currencies), find_(std::move(find)), tell_day_(std::move(tell_day)) {}
 
 std::string HistoryWords::Calendar(const HistoryEntry& entry) const {
   if (!entry.currency) return "";
-  const Currency* const currency = currencies_.Find(*entry.currency);
-  const std::string code = currency != nullptr ? currency->code : std::to_string(*entry.currency);
-  return code + (entry.year ? " " + std::to_string(*entry.year) : "");
+  const Currency currency = currencies_.FindOrNumber(*entry.currency);
+  return entry.year ? CalendarName(currency, *entry.year) : UnmistakableCode(currency);
 }
 
 std::string HistoryWords::WhyNotUndone(const HistoryEntry& entry, const UndoOutcome& outcome) const {
@@ -244,7 +248,7 @@ ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {
     first = std::move(*found);
     ++turns;
   }
-  return {first.id, WordsOf(first, Calendar(first)), turns};
+  return {first.id, WordsOf(first, Calendar(first), tell_day_), turns};
 }
 
 }  // namespace ferrowind::planning

@@ -8,23 +8,27 @@
 
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
+#include "ferrowind/platform/values/date.h"
 
 namespace ferrowind::planning {
 
 /// Finds an entry by its number; nothing when there is none.
 using EntryLookup = std::function<std::optional<HistoryEntry>(std::int32_t id)>;
 
+/// Says a day in words.
+using DayTeller = std::function<std::string(const platform::Date& day)>;
+
 /// What the call of an entry did in the end: an undone call's undoing does what the call did.
 struct ToldEntry {
   /// The entry whose call did it first.
   std::int32_t first = 0;
-  /// "Assigned Good Friday to 14 April 2028".
+  /// "Assigned Good Friday to Friday 14 April 2028".
   std::string change;
   /// How often that was turned round: 0 it was done, 1 undone, 2 done again.
   int turns = 0;
 
   [[nodiscard]] bool IsDoing() const { return turns % 2 == 0; }
-  /// "Undid: Assigned Good Friday to 14 April 2028"; "Redid: ..." of the undoing of an undo.
+  /// "Undid: Assigned Good Friday to Friday 14 April 2028"; "Redid: ..." of the undoing of an undo.
   [[nodiscard]] std::string Sentence() const;
 };
 
@@ -32,8 +36,11 @@ struct ToldEntry {
 /// told as it stands: the procedure and its parameters.
 class HistoryWords {
  public:
-  /// `currencies` must outlive this. `find` is asked for the entries that others undid.
+  /// `currencies` must outlive this. `find` is asked for the entries that others undid. Days are told with
+  /// their weekday, as the operator's language writes them.
   HistoryWords(const CurrencyList& currencies, EntryLookup find);
+  /// Tells days as `tell_day` does.
+  HistoryWords(const CurrencyList& currencies, EntryLookup find, DayTeller tell_day);
 
   /// Fails as `find` does.
   [[nodiscard]] ToldEntry Tell(const HistoryEntry& entry) const;
@@ -46,6 +53,7 @@ class HistoryWords {
  private:
   const CurrencyList& currencies_;
   EntryLookup find_;
+  DayTeller tell_day_;
 };
 
 /// The entry that the call of `entry` undid; nothing when it is no undoing.

@@ -55,7 +55,7 @@ HolidayClosing::Place HolidayClosing::PlaceOf(const SelectedDays& selected) cons
 Date HolidayClosing::DateOf(std::int16_t day) const { return Date(seen_.Year(), 1, 1).AddDays(day - 1); }
 
 std::string HolidayClosing::NameOf(const Place& place) const {
-  return place.calendar->currency.code + " " + std::to_string(seen_.Year());
+  return CalendarName(place.calendar->currency, seen_.Year());
 }
 
 const MarkedDay* HolidayClosing::MarkOf(const Place& place, std::int16_t day) {
@@ -174,7 +174,7 @@ ClosingLine HolidayClosing::BookLineOf(const Place& place) const {
   ClosingLine line;
   line.kind = ClosingLine::Kind::kBook;
   line.key = KeyOf(place, kBook);
-  line.calendar = place.calendar->currency.code;
+  line.calendar = UnmistakableCode(place.calendar->currency);
   const auto days = DaysForBook(place);
   if (days.empty()) {
     line.becomes = WhyNotInBook(place);
@@ -253,7 +253,7 @@ void HolidayClosing::EnterInBooks(const std::vector<Entering>& entering, Closing
     outcome.problems.push_back(
         InWords("The rule book of %1 does not get the holiday, so that the board will "
                 "call it a difference. %2.",
-                {currency.code, why}));
+                {UnmistakableCode(currency), why}));
   };
   std::optional<BookShelf> shelf;
   for (const auto& [place, day_numbers] : entering) {
@@ -273,7 +273,7 @@ void HolidayClosing::EnterInBooks(const std::vector<Entering>& entering, Closing
         tell(currency, faults.front());
         continue;
       }
-      StoreBook(currency.id, currency.code, stored.fingerprint, placed.book);
+      StoreBook(currency.id, UnmistakableCode(currency), stored.fingerprint, placed.book);
       ++outcome.books;
     } catch (const Failure& failure) {
       tell(currency, failure.Description());

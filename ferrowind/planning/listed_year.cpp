@@ -36,7 +36,7 @@ void RequireAll(const std::vector<Currency>& currencies, const exchange::WantedY
     for (int year = years.first; year <= years.last; ++year) {
       if (std::binary_search(there.begin(), there.end(), CalendarKey(currency.id, year))) continue;
       Refuse(InWords("There is no calendar %1 %2, so nothing is known of its days",
-                     {currency.code, std::to_string(year)}));
+                     {UnmistakableCode(currency), std::to_string(year)}));
     }
   }
 }

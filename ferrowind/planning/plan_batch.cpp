@@ -36,7 +36,7 @@ std::optional<HistoryEntry> EntryOfPlan(const CalendarKey& calendar) {
 
 /// What a calendar is called while the currencies cannot be read.
 std::string NameOf(const CalendarKey& key, const CurrencyList& known) {
-  return known.FindOrNumber(key.first).code + " " + std::to_string(key.second);
+  return CalendarName(known.FindOrNumber(key.first), key.second);
 }
 
 /// What an applied plan has made of the calendar.

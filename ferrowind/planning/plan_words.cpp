@@ -23,7 +23,8 @@ std::vector<std::string> Incomplete(const YearPreparation& preparation) {
   std::vector<std::string> sentences;
   for (const Phrase& sentence : preparation.Plan().Incomplete()) {
     sentences.push_back(
-        InWords(Phrase::Of("%1 cannot be planned in full. %2.", {preparation.Name(), sentence})));
+        InWords(Phrase::Of("%1 cannot be planned in full. %2.",
+                           {CalendarName(preparation.Owner(), preparation.Year()), sentence})));
   }
   return sentences;
 }

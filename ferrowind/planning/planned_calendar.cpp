@@ -28,9 +28,7 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
       throw platform::Failure(platform::failure_number::kInvalidArgument,
                               InWords("There is no currency %1", {std::to_string(key_.first)}));
     }
-    const std::string year = " " + std::to_string(key_.second);
-    name_ = currency->code + year;
-    title_ = UnmistakableCode(*currency) + year;
+    name_ = CalendarName(*currency, key_.second);
     preparation_ = prepare_(*planner, *currency, key_.second);
     planner_ = planner;
     why_not_.clear();

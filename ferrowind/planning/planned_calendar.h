@@ -36,13 +36,11 @@ class PlannedCalendar {
       : PlannedCalendar(key, std::move(name), PlanSource::kRuleBook, ByRuleBook()) {}
   /// `prepare` matches it with what `source` says.
   PlannedCalendar(const CalendarKey& key, std::string name, PlanSource source, Preparer prepare)
-      : key_(key), name_(std::move(name)), title_(name_), source_(source), prepare_(std::move(prepare)) {}
+      : key_(key), name_(std::move(name)), source_(source), prepare_(std::move(prepare)) {}
 
   [[nodiscard]] const CalendarKey& Key() const { return key_; }
-  /// "EUR 2028"; what it was made with until its currency is known.
+  /// `CalendarName`; what it was made with until its currency is known.
   [[nodiscard]] const std::string& Name() const { return name_; }
-  /// The same where it could be taken for the name of all calendars, as in a caption: "ALL (Lek) 2028".
-  [[nodiscard]] const std::string& Title() const { return title_; }
   [[nodiscard]] PlanSource Source() const { return source_; }
 
   /// Reads and compares it by `planner`, which it keeps. Whatever makes that fail becomes `WhyNot`. When it
@@ -91,7 +89,6 @@ class PlannedCalendar {
 
   CalendarKey key_;
   std::string name_;
-  std::string title_;
   PlanSource source_;
   Preparer prepare_;
   std::string why_not_;

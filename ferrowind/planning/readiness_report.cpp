@@ -74,8 +74,10 @@ ReadinessReport ReadinessReader::Read(const platform::Date& today) {
     Judged& judged = judged_[id];
     if (std::string written = currency.Text(); written != judged.written) {
       if (!rules) rules = content.ReadRules();
-      judged.judgement = almanac::JudgeCurrency(currency.Read(tables_), *rules, tables_, horizon,
-                                                report.FirstYear(), report.LastYear());
+      almanac::ReviewedCurrency reviewed = currency.Read(tables_);
+      reviewed.called = currency.called;
+      judged.judgement =
+          almanac::JudgeCurrency(reviewed, *rules, tables_, horizon, report.FirstYear(), report.LastYear());
       judged.written = std::move(written);
     }
     report.currencies.push_back({content.currencies.FindOrNumber(id), judged.judgement.years});

@@ -53,9 +53,9 @@ std::optional<int> YearPlanner::FirstYearOf(const Currency& currency) const {
 const almanac::Planner& YearPlanner::RequirePlanner(const Currency& currency, int year) const {
   const auto found = books_.find(currency.id);
   if (found == books_.end()) {
-    throw platform::Failure(
-        platform::failure_number::kInvalidArgument,
-        InWords("%1 has no book, so nothing tells what its calendars should be", {currency.code}));
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            InWords("%1 has no book, so nothing tells what its calendars should be",
+                                    {UnmistakableCode(currency)}));
   }
   if (!currency.IsLiveIn(year)) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
@@ -63,14 +63,14 @@ const almanac::Planner& YearPlanner::RequirePlanner(const Currency& currency, in
                                                          {EndOfMoney(currency), std::to_string(year)})));
   }
   if (!found->second.faults.empty()) {
-    throw platform::Failure(
-        platform::failure_number::kInvalidArgument,
-        InWords("The book of %1 cannot be used: %2", {currency.code, Joined(found->second.faults)}));
+    throw platform::Failure(platform::failure_number::kInvalidArgument,
+                            InWords("The book of %1 cannot be used: %2",
+                                    {UnmistakableCode(currency), Joined(found->second.faults)}));
   }
   const almanac::RuleBook& book = found->second.planner->Book();
   if (!book.HoldsIn(year)) {
     throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            InWords(book.WhyNotIn(year, currency.code)));
+                            InWords(book.WhyNotIn(year, UnmistakableCode(currency))));
   }
   return *found->second.planner;
 }

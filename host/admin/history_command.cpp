@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "ferrowind/almanac/date_words.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
 
@@ -66,7 +67,9 @@ planning::EntryLookup LookupIn(const std::vector<HistoryEntry>& entries) {
 
 std::shared_ptr<RecordSet> RowsOf(const std::vector<HistoryEntry>& entries,
                                   const planning::CurrencyList& currencies, OutputFormat format) {
-  const planning::HistoryWords words(currencies, LookupIn(entries));
+  const planning::HistoryWords words(currencies, LookupIn(entries), [](const platform::Date& day) {
+    return almanac::LongDate(day.Serial()).InEnglish();
+  });
   std::vector<std::vector<Value>> rows;
   for (const HistoryEntry& entry : entries) {
     const planning::Currency* const currency = entry.currency ? currencies.Find(*entry.currency) : nullptr;

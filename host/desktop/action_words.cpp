@@ -288,7 +288,7 @@ std::vector<std::pair<std::string, std::vector<std::string>>> ActionWords::Refus
   return groups;
 }
 
-Phrase ActionWords::DayOf(const OperatorAction& action) const { return locale_.LongDateText(*action.day); }
+Phrase ActionWords::DayOf(const OperatorAction& action) const { return locale_.LongDayText(*action.day); }
 
 std::string ActionWords::Say(const Phrase& phrase) const { return Worded(words_, phrase); }
 

@@ -37,7 +37,7 @@ bool AssignmentCheck::BeforeAssign(const std::vector<platform::ChosenRule>& rule
   chosen.reserve(rules.size());
   for (const platform::ChosenRule& rule : rules) chosen.push_back(RuleOf(rule, scene_.FirstWeekday()));
   const planning::CalendarRules calendar(target.currency_id, target.year, context_.tables);
-  fmAssignPreview preview(context_.platform, target.currency + " " + std::to_string(target.year),
+  fmAssignPreview preview(context_.platform, planning::CalendarName(calendar.Owner(), target.year),
                           planning::PreviewAssignment(calendar, chosen, scene_.TargetDay()));
   preview.ShowModal();
   return preview.IsConfirmed();

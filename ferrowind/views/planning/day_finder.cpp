@@ -9,6 +9,7 @@
 #include "ferrowind/planning/own_changes.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/common/holiday_types.h"
+#include "ferrowind/views/planning/currency_on_show.h"
 #include "ferrowind/views/planning/day_row.h"
 #include "ferrowind/views/planning/day_text.h"
 #include "ferrowind/views/planning/fm_go_to_date.h"
@@ -122,7 +123,8 @@ std::string DayFinder::WhyNotToShow(const Date& day) const {
   const auto calendars = planning::LoadRules().calendars;
   const planning::CalendarKey wanted(calendar->currency_id, day.Year());
   if (std::find(calendars.begin(), calendars.end(), wanted) != calendars.end()) return {};
-  return Said(platform_, "%1 has no calendar for %2.", {calendar->currency, std::to_string(day.Year())});
+  return Said(platform_, "%1 has no calendar for %2.",
+              {planning::UnmistakableCode(CurrencyOf(*calendar)), std::to_string(day.Year())});
 }
 
 bool DayFinder::Focus(const Date& day) {

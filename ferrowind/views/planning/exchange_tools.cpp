@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "ferrowind/planning/currency_list.h"
+#include "ferrowind/views/planning/currency_on_show.h"
 
 namespace ferrowind {
 namespace {
@@ -29,8 +30,7 @@ platform::WindowParts ExchangeTools::Parts() {
 bool ExchangeTools::RunTool(const std::string& id) {
   if (id != kImport && id != kExport) return false;
   const auto calendar = scene_.OnShow();
-  const std::string currency =
-      calendar ? planning::WrittenFor({.id = calendar->currency_id, .code = calendar->currency}) : "";
+  const std::string currency = calendar ? planning::WrittenFor(CurrencyOf(*calendar)) : "";
   const std::optional<int> year = calendar ? std::optional<int>(calendar->year) : std::nullopt;
   if (id == kImport) {
     context_.windows.OpenImport(currency, year);

@@ -129,7 +129,7 @@ void fmCalendarThen::ShowBehind(std::int32_t entry) {
 void fmCalendarThen::ShowAsOf(const planning::CalendarKey& calendar, const std::string& moment) {
   const auto& [currency, year] = calendar;
   const std::string name =
-      planning::CurrencyList::Load().FindOrNumber(currency).code + " " + std::to_string(year);
+      planning::CalendarName(planning::CurrencyList::Load().FindOrNumber(currency), year);
   const std::string when = planning::ExactMomentText(platform_.locale, moment);
   form_->SetCaption(Said(platform_, "%1 as of %2", {name, when}));
   ControlOf<platform::Label>(*form_, "lblThen").SetText(Said(platform_, "%1 as it was at: %2", {name, when}));

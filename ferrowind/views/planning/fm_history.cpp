@@ -350,7 +350,7 @@ void fmHistory::OpenCalendarAsOf() {
   if (!calendar) return;
   const auto& [currency, year] = *calendar;
   const HistoryList::Line* const line = CurrentLine();
-  fmAsOf dialog(platform_, list_.Currencies().FindOrNumber(currency).code + " " + std::to_string(year),
+  fmAsOf dialog(platform_, planning::CalendarName(list_.Currencies().FindOrNumber(currency), year),
                 line != nullptr ? line->entry.moment : platform::MomentNow(), [&](const std::string& moment) {
                   const auto past = planning::LoadCalendarAsOf(calendar->first, calendar->second, moment);
                   return fmCalendarThen::WhyEmpty(platform_, past.state);

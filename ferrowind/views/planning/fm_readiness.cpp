@@ -12,7 +12,6 @@
 namespace ferrowind {
 namespace {
 
-using almanac::Finding;
 using almanac::FindingSubject;
 using planning::CalendarKey;
 using planning::CurrencyReadiness;
@@ -50,8 +49,8 @@ platform::FormDesign Design() {
   return design;
 }
 
-bool IsAboutBook(const Finding& finding) {
-  return finding.subject == FindingSubject::kNoBook || finding.subject == FindingSubject::kFaultyBook;
+bool IsAboutBook(const FindingLine& line) {
+  return line.subject == FindingSubject::kNoBook || line.subject == FindingSubject::kFaultyBook;
 }
 
 }  // namespace
@@ -226,19 +225,17 @@ void fmReadiness::ShowYears(const ReadinessWords& words) {
 
 void fmReadiness::ShowFindings() {
   const ReadinessWords words(context_.platform, *report_);
-  lblFindings_.SetText(words.FindingsTitle());
-  findings_.clear();
+  findings_ = FindingLines(context_.platform, *report_);
+  lblFindings_.SetText(FindingsTitle(context_.platform, findings_));
   std::vector<TableRow> rows;
   std::int64_t place = 0;
-  for (const auto& [finding, sentence] : words.Findings()) {
-    const std::string year = finding.year ? std::to_string(*finding.year) : std::string();
-    // Two findings may say the same, and each row has a key of its own.
-    std::string key = finding.sentence.InEnglish();
-    while (findings_.contains(key)) key += '\n';
-    findings_[key] = {finding.currency, finding.year, IsAboutBook(finding)};
-    TableCell level = words.LevelCell(finding.level);
+  for (const FindingLine& line : findings_) {
+    TableCell level = words.LevelCell(line.level);
     level.order = place++;
-    rows.push_back({key, {level, {finding.currency}, {year}, {sentence}}, {}});
+    const TableCell currencies{.text = CurrenciesOf(context_.platform, line),
+                               .description = NamesOfSeveral(line)};
+    const std::string year = line.year ? std::to_string(*line.year) : std::string();
+    rows.push_back({line.key, {level, currencies, {year}, {line.sentence}}, {}});
   }
   tblFindings_.SetEmptyText(Say("All calendars are as planned, as far as it is published"));
   tblFindings_.SetRows(rows);
@@ -308,16 +305,25 @@ void fmReadiness::OpenExchange(const ReadinessDoors::Exchange& open) {
 
 void fmReadiness::OpenFinding() {
   const std::optional<std::string> row = tblFindings_.CurrentRow();
-  if (!row || !report_) return;
-  const FindingPlace place = findings_.at(*row);
-  const CurrencyReadiness* const currency = CurrencyOfCode(place.currency);
-  if (currency == nullptr) return;
-  const std::int32_t id = currency->currency.id;
-  if (place.is_about_book) {
-    if (doors_.open_rule_book) doors_.open_rule_book(id);
-  } else {
-    OpenPlan({CalendarKey(id, place.year.value_or(report_->NextYear()))});
+  const auto found = std::find_if(findings_.begin(), findings_.end(),
+                                  [&](const FindingLine& line) { return line.key == row; });
+  if (found == findings_.end() || found->currencies.empty()) return;
+  if (IsAboutBook(*found)) return OpenBookOf(*found);
+  std::vector<CalendarKey> calendars;
+  for (const planning::Currency& currency : found->currencies) {
+    calendars.emplace_back(currency.id, found->year.value_or(report_->NextYear()));
   }
+  OpenPlan(calendars);
+}
+
+void fmReadiness::OpenBookOf(const FindingLine& line) {
+  if (!doors_.open_rule_book) return;
+  // Books are written one by one, and the window of one has a way to those of the others.
+  const auto& currencies = line.currencies;
+  const auto first = std::find_if(currencies.begin(), currencies.end(), [&](const planning::Currency& each) {
+    return each.IsLiveIn(report_->today.Year());
+  });
+  doors_.open_rule_book(first == currencies.end() ? currencies.front().id : first->id);
 }
 
 void fmReadiness::PrepareAll() {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,6 +11,7 @@
 #include "ferrowind/planning/readiness_report.h"
 #include "ferrowind/platform/toolkit/toolkit.h"
 #include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/planning/finding_lines.h"
 #include "ferrowind/views/planning/planning_context.h"
 #include "ferrowind/views/planning/planning_window.h"
 #include "ferrowind/views/planning/silence_bar.h"
@@ -59,13 +59,6 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   void Refresh();
 
  private:
-  /// What a row of the findings is about.
-  struct FindingPlace {
-    std::string currency;
-    std::optional<int> year;
-    bool is_about_book = false;
-  };
-
   fmReadiness(const PlanningContext& context, ReadinessDoors doors);
   void Subscribe();
   /// A handler that runs the command as long as the window is there.
@@ -90,6 +83,8 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   void OpenBook();
   void OpenHistory();
   void OpenFinding();
+  /// Of its first currency that is money.
+  void OpenBookOf(const FindingLine& line);
   void OpenImport();
   void OpenExport();
   void OpenExchange(const ReadinessDoors::Exchange& open);
@@ -121,8 +116,8 @@ class fmReadiness : public PlanningWindow, public std::enable_shared_from_this<f
   std::optional<planning::ReadinessReport> report_;
   /// Of the columns on show.
   std::optional<int> first_year_on_show_;
-  /// By the key of the row.
-  std::map<std::string, FindingPlace> findings_;
+  /// Those on show.
+  std::vector<FindingLine> findings_;
   bool has_closed_ = false;
   SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Readiness"};

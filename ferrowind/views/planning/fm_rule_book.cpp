@@ -175,7 +175,7 @@ bool fmRuleBook::MayLeave() const {
   return Ask(platform_.toolkit,
              {.caption = Said(platform_, "Rule book"),
               .message = Said(platform_, "The rule book of %1 has changes that are not saved. Lose them?",
-                              {draft_->Owner().code}),
+                              {planning::UnmistakableCode(draft_->Owner())}),
               .verb = Said(platform_, "Lose them"),
               .cancel = Said(platform_, "Cancel"),
               .prefers_cancel = true});
@@ -278,7 +278,7 @@ std::string fmRuleBook::OutcomeText(const std::vector<std::string>& faults) cons
         platform_,
         "%1 has no rule book yet, so that nothing can be planned for it. Say who publishes its holidays "
         "and where, add its rules, and save them.",
-        {draft_->Owner().code});
+        {planning::UnmistakableCode(draft_->Owner())});
   }
   if (faults.empty()) return ChangesText();
   const auto others = static_cast<int>(faults.size()) - 1;
@@ -407,7 +407,7 @@ void fmRuleBook::cmdSave_Click() {
   lblOutcome_.SetText(Said(platform_,
                            "The book of %1 is saved. Its calendars stay as they are until their years are "
                            "planned again.",
-                           {owner.code}));
+                           {planning::UnmistakableCode(owner)}));
 }
 
 void fmRuleBook::cmdClose_Click() { (void)Close(); }

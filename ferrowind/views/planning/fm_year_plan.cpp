@@ -149,7 +149,7 @@ void fmYearPlan::FillCalendarList() {
   filter_->AddItem(Said(platform_, "All calendars"), kAllCalendars);
   std::int32_t position = 0;
   for (const planning::PlannedCalendar& calendar : batch_.Calendars()) {
-    filter_->AddItem(calendar.Title(), position++);
+    filter_->AddItem(calendar.Name(), position++);
   }
   filter_->Choose(0);
 }
@@ -207,10 +207,10 @@ void fmYearPlan::Form_QueryUnload() {
 void fmYearPlan::ShowCaption() {
   const auto& calendars = batch_.Calendars();
   if (!list_.empty()) {
-    return form_->SetCaption(Said(platform_, "Import of %1: %2", {calendars.front().Title(), list_}));
+    return form_->SetCaption(Said(platform_, "Import of %1: %2", {calendars.front().Name(), list_}));
   }
   form_->SetCaption(calendars.size() == 1
-                        ? Said(platform_, "Plan of %1", {calendars.front().Title()})
+                        ? Said(platform_, "Plan of %1", {calendars.front().Name()})
                         : SaidOfNumber(platform_, static_cast<std::int64_t>(calendars.size()),
                                        "Plan of %n calendar", "Plans of %n calendars"));
 }
@@ -231,7 +231,7 @@ void fmYearPlan::RefreshSummary() {
   std::string summary = planning::SummaryOf(batch_);
   if (const auto shown = table_.Filter().calendar) {
     // What is applied is all of it.
-    summary += " " + Said(platform_, "Only %1 is on show.", {batch_.Calendars()[*shown].Title()});
+    summary += " " + Said(platform_, "Only %1 is on show.", {batch_.Calendars()[*shown].Name()});
   }
   summary_.SetText(summary);
   apply_.SetEnabled(batch_.CalendarsToChange() != 0);

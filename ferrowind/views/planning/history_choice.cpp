@@ -54,11 +54,11 @@ void HistoryChoice::FillCalendars() {
 void HistoryChoice::Add(const HistoryFilter& filter) {
   std::string text = Said(platform_, "All");
   if (filter.currency && filter.year) {
-    const std::string code = currencies_.FindOrNumber(*filter.currency).code;
-    text = code + " " + std::to_string(*filter.year);
+    const planning::Currency currency = currencies_.FindOrNumber(*filter.currency);
+    text = planning::CalendarName(currency, *filter.year);
     if (filter.day_of_year) {
       const auto day = platform::Date(*filter.year, 1, 1).AddDays(*filter.day_of_year - 1);
-      text = code + ", " + DayText(platform_.locale, day);
+      text = planning::UnmistakableCode(currency) + ", " + DayText(platform_.locale, day);
     }
   }
   lists_.calendars.AddItem(text, static_cast<std::int32_t>(filters_.size()));

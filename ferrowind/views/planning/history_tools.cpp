@@ -7,6 +7,7 @@
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/planning/currency_on_show.h"
 
 namespace ferrowind {
 namespace {
@@ -120,7 +121,7 @@ void HistoryTools::Undo() {
   if (!calendar) return;
   const Teller teller;
   const auto own = teller.OwnLastChange(*calendar);
-  const std::string name = calendar->currency + " " + std::to_string(calendar->year);
+  const std::string name = CalendarName(*calendar);
   if (!own) {
     Tell(Said(context_.platform, "There is no change of %1 of yours to undo.", {name}));
     return RefreshUndo();

@@ -1,5 +1,6 @@
 #include "ferrowind/views/planning/holidays_caption.h"
 
+#include "ferrowind/views/planning/currency_on_show.h"
 #include "ferrowind/views/planning/day_text.h"
 
 namespace ferrowind {
@@ -7,8 +8,9 @@ namespace ferrowind {
 std::string HolidaysCaption::Caption(const std::string& given) {
   const platform::CalendarOnShow& target = scene_.Target();
   const auto day = scene_.TargetDay();
-  return given + " - " + target.currency +
-         (day ? ", " + DayText(locale_, *day) : " " + std::to_string(target.year));
+  return given + " - " +
+         (day ? planning::UnmistakableCode(CurrencyOf(target)) + ", " + DayText(locale_, *day)
+              : CalendarName(target));
 }
 
 }  // namespace ferrowind

@@ -58,11 +58,11 @@ Gaps GapsIn(const YearOverview& overview) {
   Gaps gaps;
   for (const auto& calendar : overview.Calendars()) {
     if (!calendar.exists) {
-      AppendTo(gaps.missing, calendar.currency.code);
+      AppendTo(gaps.missing, planning::UnmistakableCode(calendar.currency));
     } else if (calendar.readiness == Readiness::kNotPrepared) {
-      AppendTo(gaps.not_prepared, calendar.currency.code);
+      AppendTo(gaps.not_prepared, planning::UnmistakableCode(calendar.currency));
     } else if (calendar.readiness == Readiness::kWeekendsOnly) {
-      AppendTo(gaps.weekends_only, calendar.currency.code);
+      AppendTo(gaps.weekends_only, planning::UnmistakableCode(calendar.currency));
     }
   }
   return gaps;
@@ -118,7 +118,7 @@ JointDay JointDayOf(const YearOverview& overview, const std::vector<Mark>& marks
     if (!day->IsClosed()) continue;
     ++closed;
     is_weekend = is_weekend && day->kind == RuleKind::kWeekday;
-    Add(closing, NameOfClosing(overview, *day), calendar->currency.code);
+    Add(closing, NameOfClosing(overview, *day), planning::UnmistakableCode(calendar->currency));
   }
   JointDay joint;
   if (closed == known && closed != 0) {
@@ -204,7 +204,7 @@ std::vector<platform::YearNote> NotesOf(const YearOverview& overview) {
       if (marked->kind == RuleKind::kWeekday) continue;
       std::string name = marked->IsClosed() ? overview.NameOf(*marked) : InWords(almanac::kExceptionName);
       if (!marked->comment.empty()) name += ": " + marked->comment;
-      Add(named, name, calendar->currency.code);
+      Add(named, name, planning::UnmistakableCode(calendar->currency));
     }
     if (named.empty()) continue;
     notes.push_back({static_cast<std::int16_t>(day), is_only_one ? named.front().first : ListOf(named)});

@@ -1,11 +1,10 @@
 #include "ferrowind/views/planning/plan_year_tool.h"
 
-#include <utility>
-
 #include "ferrowind/data/confirm.h"
 #include "ferrowind/data/said.h"
 #include "ferrowind/planning/book_store.h"
 #include "ferrowind/planning/currency_list.h"
+#include "ferrowind/views/planning/currency_on_show.h"
 
 namespace ferrowind {
 namespace {
@@ -34,8 +33,9 @@ void PlanYearTool::CalendarCreated(const platform::CalendarOnShow& calendar) {
   // Without a book nothing tells what the year should be.
   if (!planning::LoadBook(calendar.currency_id, calendar.currency, context_.tables)) return;
   const platform::Platform& platform = context_.platform;
-  const std::string question = Said(platform, "Nothing is closed in %1 %2 yet. Prepare it now?",
-                                    {calendar.currency, std::to_string(calendar.year)});
+  const std::string question =
+      Said(platform, "Nothing is closed in %1 %2 yet. Prepare it now?",
+           {planning::UnmistakableCode(CurrencyOf(calendar)), std::to_string(calendar.year)});
   const bool is_wanted = Ask(platform.toolkit, {.caption = Said(platform, "New calendar"),
                                                 .message = question,
                                                 .verb = Said(platform, "Prepare"),
@@ -45,11 +45,8 @@ void PlanYearTool::CalendarCreated(const platform::CalendarOnShow& calendar) {
 }
 
 void PlanYearTool::Open(const platform::CalendarOnShow& calendar) {
-  planning::Currency currency;
-  currency.id = calendar.currency_id;
-  currency.code = calendar.currency;
   context_.windows.OpenYearPlan({{calendar.currency_id, calendar.year}},
-                                planning::CurrencyList({std::move(currency)}));
+                                planning::CurrencyList({CurrencyOf(calendar)}));
 }
 
 }  // namespace ferrowind

@@ -1,9 +1,5 @@
 #include "ferrowind/views/planning/readiness_words.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
-#include <set>
 #include <vector>
 
 #include "ferrowind/data/said.h"
@@ -11,7 +7,6 @@
 namespace ferrowind {
 namespace {
 
-using almanac::Finding;
 using almanac::FindingLevel;
 using almanac::Readiness;
 using almanac::YearReadiness;
@@ -81,7 +76,7 @@ TableCell ReadinessWords::WordAndShape(const YearReadiness& year) const {
 }
 
 std::string ReadinessWords::Sentence(const CurrencyReadiness& currency, const YearReadiness& year) const {
-  const std::vector<std::string> calendar = {currency.currency.code + " " + std::to_string(year.year)};
+  const std::vector<std::string> calendar = {planning::CalendarName(currency.currency, year.year)};
   std::string sentence;
   switch (year.readiness) {
     case Readiness::kNotPrepared:
@@ -165,50 +160,6 @@ std::string ReadinessWords::Summary() const {
                 {std::to_string(share.prepared), std::to_string(share.all), std::to_string(year)});
   };
   return Said(platform_, "Prepared: %1, %2.", {share_in(report_.today.Year()), share_in(report_.NextYear())});
-}
-
-std::string ReadinessWords::EmptyCalendar(const Finding& finding) const {
-  if (finding.subject != almanac::FindingSubject::kDiffersFromPlan) return {};
-  for (const CurrencyReadiness& currency : report_.currencies) {
-    if (currency.currency.code != finding.currency) continue;
-    for (const YearReadiness& of : currency.years) {
-      const bool is_empty =
-          of.readiness == Readiness::kNotPrepared || of.readiness == Readiness::kWeekendsOnly;
-      if (of.year == finding.year && is_empty) return Sentence(currency, of);
-    }
-  }
-  return {};
-}
-
-std::vector<ReadinessWords::SaidFinding> ReadinessWords::Findings() const {
-  std::vector<SaidFinding> findings;
-  std::set<std::string> told;
-  for (const Finding& finding : report_.review.findings) {
-    const std::string sentence = EmptyCalendar(finding);
-    if (sentence.empty()) {
-      findings.push_back({finding, Said(platform_, finding.sentence)});
-    } else if (told.insert(sentence).second) {
-      findings.push_back({finding, sentence});
-    }
-  }
-  return findings;
-}
-
-std::string ReadinessWords::FindingsTitle() const {
-  const std::vector<SaidFinding> findings = Findings();
-  if (findings.empty()) return Said(platform_, "The review has found nothing");
-  std::array<int, 3> counts{};
-  for (const SaidFinding& said : findings) ++counts[static_cast<std::size_t>(said.finding.level)];
-  std::string list;
-  //: says 2 3
-  const auto add = [&](FindingLevel level, const char* one, const char* many) {
-    const int count = counts[static_cast<std::size_t>(level)];
-    if (count != 0) list += (list.empty() ? "" : ", ") + SaidOfNumber(platform_, count, one, many);
-  };
-  add(FindingLevel::kError, "%n error", "%n errors");
-  add(FindingLevel::kWarning, "%n warning", "%n warnings");
-  add(FindingLevel::kNote, "%n note", "%n notes");
-  return Said(platform_, "Findings of the review: %1", {list});
 }
 
 }  // namespace ferrowind

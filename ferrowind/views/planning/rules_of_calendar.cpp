@@ -7,6 +7,7 @@
 #include "ferrowind/data/said.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
+#include "ferrowind/views/planning/currency_on_show.h"
 #include "ferrowind/views/planning/day_text.h"
 
 namespace ferrowind {
@@ -45,8 +46,7 @@ void RulesOfCalendar::Opening() {
   }
   scene_.Tools().SetToolPressed(kTool, true);
   platform::GridColumn& column = scene_.Rules().AddColumn(
-      Said(context_.platform, "In %1", {target.currency + " " + std::to_string(target.year)}), kTextColumn,
-      kNotEdited, kDays);
+      Said(context_.platform, "In %1", {CalendarName(target)}), kTextColumn, kNotEdited, kDays);
   column.SetBoundField(kDays);
   // Behind the last one it would be out of sight, and it is what the operator opens the list for.
   scene_.Rules().MoveColumnBehind(kDays, "Name");

@@ -33,7 +33,7 @@ std::size_t ClosedAmong(const YearOverview::Calendar& calendar, const std::vecto
 }
 
 std::string NameOf(const YearOverview& overview, const YearOverview::Calendar& calendar) {
-  return calendar.currency.code + " " + std::to_string(overview.Year());
+  return planning::CalendarName(calendar.currency, overview.Year());
 }
 
 std::vector<planning::CalendarKey> KeysOf(const YearOverview& overview,

@@ -57,7 +57,8 @@ std::vector<Currency> TypedCurrencies(const std::string& text, int year) {
     }
     const Currency& currency = Named(list, word);
     if (!currency.is_money)
-      throw TypingError(planning::InWords("%1 has no calendars: it is no money", {currency.code}));
+      throw TypingError(
+          planning::InWords("%1 has no calendars: it is no money", {planning::UnmistakableCode(currency)}));
     AddOnce(currencies, currency);
   }
   if (!currencies.empty()) return currencies;

@@ -7,6 +7,7 @@
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/common/window_placement.h"
+#include "ferrowind/views/planning/currency_on_show.h"
 #include "ferrowind/views/planning/day_text.h"
 #include "ferrowind/views/planning/why_text.h"
 
@@ -94,9 +95,10 @@ void WhyPane::Tell() {
     TellOf(*calendar, *day);
   } catch (const platform::Failure& failure) {
     story_.reset();
-    TellNothing(Said(context_.platform, "%1, %2: why it is what it is cannot be read.",
-                     {calendar->currency, DayText(context_.platform.locale, *day)}) +
-                "\n" + failure.Description());
+    TellNothing(
+        Said(context_.platform, "%1, %2: why it is what it is cannot be read.",
+             {planning::UnmistakableCode(CurrencyOf(*calendar)), DayText(context_.platform.locale, *day)}) +
+        "\n" + failure.Description());
   }
 }
 
@@ -104,7 +106,8 @@ void WhyPane::TellOf(const platform::CalendarOnShow& calendar, const platform::D
   if (!story_) story_.emplace(calendar.currency_id, calendar.year, context_.tables);
   const planning::DayStory story = story_->Of(day);
   const platform::Platform& platform = context_.platform;
-  text_.SetText(WhyText(platform, calendar.currency, story, LastChangeOf(day)));
+  text_.SetText(
+      WhyText(platform, planning::UnmistakableCode(CurrencyOf(calendar)), story, LastChangeOf(day)));
   years_.SetColumns(YearColumns(platform, story));
   years_.SetRows(YearRows(platform, story, story_->Around(day)));
 }

@@ -66,7 +66,7 @@ std::string Words(const DayCounts& counts) {
 YearCalendar RowOf(const planning::Currency& currency) {
   YearCalendar row;
   row.key = YearCalendarKey(currency);
-  row.caption = currency.code;
+  row.caption = planning::UnmistakableCode(currency);
   row.description = currency.name;
   return row;
 }

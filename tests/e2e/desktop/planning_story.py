@@ -15,8 +15,8 @@ REASON = 'Year-end processing'
 
 
 def day_in_words(date):
-    """"8 September 2027"."""
-    return f'{date.day} {date:%B} {date.year}'
+    """"Wednesday 8 September 2027"."""
+    return f'{date:%A} {date.day} {date:%B} {date.year}'
 
 
 class PlanningWalk:

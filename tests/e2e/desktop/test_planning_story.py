@@ -102,7 +102,7 @@ class PlanningStory:
         books = {currency: self.book_of(currency) for currency in TOGETHER}
         holidays = {currency: self.marked_days(currency) for currency in TOGETHER}
         walk.ask_to_close(ANNOUNCED)
-        weekday = f'{ANNOUNCED:%A} {day_in_words(ANNOUNCED)}'
+        weekday = day_in_words(ANNOUNCED)
         self.assertEqual(walk.what_will_happen(),
                          [line for currency in TOGETHER for line in (
                              (f'{currency} {NEXT_YEAR}', weekday, 'Added: is closed'),

@@ -49,8 +49,8 @@ TEST_F(RefusedChange, AnExceptionInAReadOnlyFileStaysToldAfterTheDaysWereReadAga
   EXPECT_THAT(TroubleIn(Calendars()), told);
   PickForDay(5, "ID_Except");
   EXPECT_THAT(TroubleIn(Calendars()), IsEmpty());
-  EXPECT_EQ(NoteIn(Calendars()), "Excepted 6 January 2028, USD");
-  EXPECT_EQ(StatusLine(), "Excepted 6 January 2028, USD");
+  EXPECT_EQ(NoteIn(Calendars()), "Excepted Thursday 6 January 2028, USD");
+  EXPECT_EQ(StatusLine(), "Excepted Thursday 6 January 2028, USD");
 }
 
 TEST_F(RefusedChange, TheNoteOfASuccessStaysInTheWindowInWhichItWasTold) {
@@ -62,7 +62,7 @@ TEST_F(RefusedChange, TheNoteOfASuccessStaysInTheWindowInWhichItWasTold) {
   Activate(other);
   QCoreApplication::processEvents();
   EXPECT_THAT(NoteIn(other), IsEmpty());
-  EXPECT_EQ(NoteIn(Calendars()), "Excepted 6 January 2028, USD");
+  EXPECT_EQ(NoteIn(Calendars()), "Excepted Thursday 6 January 2028, USD");
   SetReadOnly(true);
   ReturnToCalendars();
   PickForDay(6, "ID_Except");

@@ -55,9 +55,10 @@ TEST_F(HistoryTest, IsLookedAtUndoneAndRedoneByKeyboard) {
   qt::TableView& entries = Entries(window);
   EXPECT_THAT(
       RowTexts(entries),
-      ElementsAre(EndsWith("| USD 2028 | Excepted 15 April 2028: Move to the new building, third floor"),
-                  EndsWith("| USD 2028 | Excepted 14 April 2028: Stock-taking"),
-                  EndsWith("| USD 2028 | Created the calendar USD 2028")));
+      ElementsAre(
+          EndsWith("| USD 2028 | Excepted Saturday 15 April 2028: Move to the new building, third floor"),
+          EndsWith("| USD 2028 | Excepted Friday 14 April 2028: Stock-taking"),
+          EndsWith("| USD 2028 | Created the calendar USD 2028")));
   EXPECT_THAT(RowTexts(Changes(window)),
               ElementsAre("Saturday 15 April 2028 | Working day | Working day by exception: Move to the new "
                           "building, third floor"));
@@ -67,12 +68,12 @@ TEST_F(HistoryTest, IsLookedAtUndoneAndRedoneByKeyboard) {
   EXPECT_THAT(RowTexts(Changes(window)),
               ElementsAre("Friday 14 April 2028 | Working day | Working day by exception: Stock-taking"));
   auto& undo = Find<QPushButton>(window, "cmdUndo");
-  EXPECT_EQ(undo.accessibleName().toStdString(), "Undo: Excepted 14 April 2028: Stock-taking");
+  EXPECT_EQ(undo.accessibleName().toStdString(), "Undo: Excepted Friday 14 April 2028: Stock-taking");
   TabTo(undo);
   Press(undo, Qt::Key_Space);
   EXPECT_EQ(ReasonOf(105), "-");
-  EXPECT_THAT(RowText(entries, 0), EndsWith("| Undid: Excepted 14 April 2028: Stock-taking"));
-  EXPECT_THAT(RowText(entries, 2), EndsWith("| Excepted 14 April 2028: Stock-taking (undone)"));
+  EXPECT_THAT(RowText(entries, 0), EndsWith("| Undid: Excepted Friday 14 April 2028: Stock-taking"));
+  EXPECT_THAT(RowText(entries, 2), EndsWith("| Excepted Friday 14 April 2028: Stock-taking (undone)"));
   Picture(window, "history-undone");
   auto& redo = Find<QPushButton>(window, "cmdRedo");
   TabTo(redo);
@@ -94,7 +95,7 @@ TEST_F(HistoryTest, SaysWhyAChangeStays) {
   Press(Entries(window), Qt::Key_Down, {}, 2);
   ClickButton(window, "cmdUndo");
   EXPECT_THAT(Find<QLabel>(window, "lblRemark").text().toStdString(),
-              HasSubstr("The newest change of USD 2028 is \"Excepted 14 April 2028: Audit\""));
+              HasSubstr("The newest change of USD 2028 is \"Excepted Friday 14 April 2028: Audit\""));
   Picture(window, "history-refused");
   EXPECT_EQ(ReasonOf(105), "Audit");
 }
@@ -171,16 +172,17 @@ class HistoryToolsTest : public HistoryTest {
 TEST_F(HistoryToolsTest, UndoOnesOwnLastChangeByKeyboard) {
   Picture(Window(), "calendars-with-history");
   WalkToRow(Days(), 105);
-  AnswerQuestion("Undo in USD 2028: Excepted 15 April 2028: Move to the new building, third floor?", "Undo");
+  AnswerQuestion("Undo in USD 2028: Excepted Saturday 15 April 2028: Move to the new building, third floor?",
+                 "Undo");
   Press(Days(), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(ReasonOf(106), "-");
   Activate(Window());
-  AnswerQuestion("Undo in USD 2028: Excepted 14 April 2028: Stock-taking?", "Undo");
+  AnswerQuestion("Undo in USD 2028: Excepted Friday 14 April 2028: Stock-taking?", "Undo");
   Press(Days(), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(ReasonOf(105), "-");
   ClickTool(Window(), "ID_History");
   EXPECT_THAT(RowText(Entries(OnShow("fmHistory")), 0),
-              EndsWith("| USD 2028 | Undid: Excepted 14 April 2028: Stock-taking"));
+              EndsWith("| USD 2028 | Undid: Excepted Friday 14 April 2028: Stock-taking"));
   EXPECT_TRUE(desk_.IsDatabaseSound());
 }
 

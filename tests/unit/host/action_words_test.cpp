@@ -50,7 +50,7 @@ TEST_F(ActionWordsTest, ACommandNamesWhatItIsAbout) {
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kApplyPlan)), "Apply the plan of EUR 2028");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kUndo)), "Undo a change of EUR 2028");
   EXPECT_EQ(words_.Command({ActionKind::kStoreBook, "EUR", 0, {}, {}}), "Save the rule book of EUR");
-  EXPECT_EQ(words_.Command(ChristmasException()), "Except 25 December 2028, EUR");
+  EXPECT_EQ(words_.Command(ChristmasException()), "Except Monday 25 December 2028, EUR");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kAssignRules, {"Saturday"})),
             "Assign \"Saturday\" to EUR 2028");
   EXPECT_EQ(words_.Command(Euro2028(ActionKind::kAssignRules, {"Saturday", "Sunday"})),
@@ -58,7 +58,8 @@ TEST_F(ActionWordsTest, ACommandNamesWhatItIsAbout) {
 }
 
 TEST_F(ActionWordsTest, ASuccessSaysWhatWasDoneAndCountsTheDays) {
-  EXPECT_EQ(words_.Success(Record(ChristmasException(), {Done()}, 1)), "Excepted 25 December 2028, EUR");
+  EXPECT_EQ(words_.Success(Record(ChristmasException(), {Done()}, 1)),
+            "Excepted Monday 25 December 2028, EUR");
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kCreateCalendar), {Done()})),
             "Created the calendar EUR 2028");
   EXPECT_EQ(words_.Success(Record(Euro2028(ActionKind::kApplyPlan), {Done()})),
@@ -90,7 +91,7 @@ TEST_F(ActionWordsTest, WhatChangedNothingIsNoSuccess) {
 
 TEST_F(ActionWordsTest, ARefusalOfOneThingGivesItsReason) {
   EXPECT_EQ(words_.Refusal(Record(ChristmasException(), {Failed("The database x is read-only")})),
-            "Except 25 December 2028, EUR: refused.\nThe database x is read-only");
+            "Except Monday 25 December 2028, EUR: refused.\nThe database x is read-only");
 }
 
 TEST_F(ActionWordsTest, ARefusalAmongManyCountsAndNamesTheRefusedByTheirReasons) {

@@ -54,7 +54,11 @@ TEST(CurrencyList, NamesAndWritesTheCurrencyWhoseCodeMeansAllSoThatItIsTheOne) {
   EXPECT_EQ(WrittenFor(euro), "EUR");
   EXPECT_EQ(UnmistakableCode(lek), "ALL (Lek)");
   EXPECT_EQ(UnmistakableCode({8, "all", "", true, {}}), "all (008)");
+  EXPECT_EQ(UnmistakableCode({8, "ALL", "ALL", true, {}}), "ALL (008)");
   EXPECT_EQ(UnmistakableCode(euro), "EUR");
+  EXPECT_EQ(CalendarName(lek, 2028), "ALL (Lek) 2028");
+  EXPECT_EQ(CalendarName(euro, 2028), "EUR 2028");
+  EXPECT_EQ(EndOfMoney({8, "ALL", "Lek", false, {}}).InEnglish(), "ALL (Lek) is no money");
 }
 
 TEST(CurrencyList, KnowsWhichCurrenciesAreMoneyInAYear) {

@@ -184,7 +184,7 @@ TEST(DayStory, TellsWhoChangedTheDayLast) {
     world.world.database->SetUser("otto");
     world.Call("CldIUMain", {978, 2028, 4, 6, 106, Date(2028, 4, 15), {}});
     EXPECT_THAT(story.LoadLastChange(Date(2028, 4, 14)),
-                MatchesRegex("anna, ....-..-.. ... ..:..: Assigned Good Friday to 14 April 2028"));
+                MatchesRegex("anna, ....-..-.. ... ..:..: Assigned Good Friday to Friday 14 April 2028"));
   });
 }
 

@@ -119,7 +119,7 @@ TEST(EntryChanges, TellWhatOfACurrencyIsAnother) {
     };
     set({});
     set(Date(2031, 6, 30));
-    EXPECT_THAT(ChangesOf(2), ElementsAre("Currency EUR: last day as money |  | 30 June 2031"));
+    EXPECT_THAT(ChangesOf(2), ElementsAre("Currency EUR: last day as money |  | Monday 30 June 2031"));
   });
 }
 

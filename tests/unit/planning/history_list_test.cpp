@@ -34,7 +34,7 @@ TEST(HistoryList, TellsEveryCallTheNewestFirst) {
     HistoryList list;
     list.Show({}, false);
     EXPECT_THAT(Sentences(list),
-                ElementsAre("Assigned Good Friday to 14 April 2028", "Created the calendar EUR 2028",
+                ElementsAre("Assigned Good Friday to Friday 14 April 2028", "Created the calendar EUR 2028",
                             "Added the rule Good Friday", "Added the rule Sunday"));
     EXPECT_EQ(list.Lines()[0].calendar, "EUR 2028");
     EXPECT_EQ(list.Lines()[3].calendar, "");
@@ -91,15 +91,15 @@ TEST(HistoryList, UndoesAndRedoes) {
     EXPECT_EQ(list.Do(*undo), "");
     list.Reload();
     EXPECT_THAT(Sentences(list),
-                ElementsAre("Undid: Assigned Good Friday to 14 April 2028",
-                            "Assigned Good Friday to 14 April 2028", "Created the calendar EUR 2028"));
+                ElementsAre("Undid: Assigned Good Friday to Friday 14 April 2028",
+                            "Assigned Good Friday to Friday 14 April 2028", "Created the calendar EUR 2028"));
     EXPECT_TRUE(list.IsUndone(*list.Find(4)));
     const auto redo = list.StepOf(*list.Find(4));
     ASSERT_TRUE(redo);
     EXPECT_EQ(redo->kind, UndoStep::Kind::kRedo);
     EXPECT_EQ(list.Do(*redo), "");
     list.Reload();
-    EXPECT_EQ(Sentences(list).front(), "Redid: Assigned Good Friday to 14 April 2028");
+    EXPECT_EQ(Sentences(list).front(), "Redid: Assigned Good Friday to Friday 14 April 2028");
     EXPECT_FALSE(list.IsUndone(*list.Find(4)));
   });
 }
@@ -113,7 +113,7 @@ TEST(HistoryList, KnowsOfOnesOwnWhatOthersHaveUndone) {
     component.ActAs("anna");
     HistoryList list;
     list.Show({978, 2028}, true);
-    ASSERT_THAT(Sentences(list), ElementsAre("Assigned Good Friday to 14 April 2028"));
+    ASSERT_THAT(Sentences(list), ElementsAre("Assigned Good Friday to Friday 14 April 2028"));
     EXPECT_TRUE(list.IsUndone(list.Lines()[0]));
     EXPECT_EQ(list.StepOf(list.Lines()[0])->kind, UndoStep::Kind::kRedo);
   });
@@ -141,8 +141,9 @@ TEST(HistoryList, TellsWhyNothingWasUndone) {
     list.Show({978, 2028}, false);
     const std::string why = list.Do(*list.StepOf(*list.Find(4)));
     EXPECT_THAT(why, HasSubstr("This cannot be undone: a later change is of the same, or"));
-    EXPECT_THAT(why,
-                HasSubstr("The newest change of EUR 2028 is \"Excepted 14 April 2028: Audit\" (memory, "));
+    EXPECT_THAT(
+        why,
+        HasSubstr("The newest change of EUR 2028 is \"Excepted Friday 14 April 2028: Audit\" (memory, "));
     EXPECT_THAT(why, HasSubstr("). Undo that first."));
     EXPECT_EQ(list.Do({UndoStep::Kind::kUndo, 4711}), "The history has no entry 4711.");
   });

@@ -13,7 +13,9 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const CurrencyList kCurrencies({{978, "EUR", "Euro", true, {}}, {840, "USD", "US Dollar", true, {}}});
+const CurrencyList kCurrencies({{978, "EUR", "Euro", true, {}},
+                                {840, "USD", "US Dollar", true, {}},
+                                {8, "ALL", "Lek", true, {}}});
 
 HistoryEntry Entry(const std::string& procedure, const std::string& parameters, const std::string& rule = "",
                    int rows_changed = 1) {
@@ -52,11 +54,11 @@ TEST(HistoryWords, TellTheRuleAndTheDayThatItWasAssignedTo) {
                                   R"({"ID1" : 978, "Year1" : 2028, "TID1" : 4, "ID2" : 3, "Day1" : 105,
                                       "ODate" : "2028-04-14", "Comment" : null})",
                                   "Good Friday"))),
-            "Assigned Good Friday to 14 April 2028");
+            "Assigned Good Friday to Friday 14 April 2028");
   EXPECT_EQ(
       Told(OfCalendar(Entry(
           "CldIUMain", R"({"ID1" : 978, "Year1" : 2028, "TID1" : 2, "ID2" : 2, "Day1" : 1})", "Sunday"))),
-      "Assigned Sunday to 1 January 2028");
+      "Assigned Sunday to Saturday 1 January 2028");
 }
 
 TEST(HistoryWords, TellHowManyDaysAWeekdayRuleClosed) {
@@ -73,11 +75,11 @@ TEST(HistoryWords, TellAnExceptionAndItsReason) {
       Told(OfCalendar(Entry(
           "CldIUMain",
           R"({"ID1" : 978, "Year1" : 2028, "TID1" : 1, "ID2" : 1, "Day1" : 366, "Comment" : "Audit"})"))),
-      "Excepted 31 December 2028: Audit");
+      "Excepted Sunday 31 December 2028: Audit");
   EXPECT_EQ(Told(OfCalendar(Entry(
                 "CldIUMain",
                 R"({"ID1" : 978, "Year1" : 2028, "TID1" : 1, "ID2" : 1, "Day1" : 60, "Comment" : null})"))),
-            "Excepted 29 February 2028");
+            "Excepted Tuesday 29 February 2028");
 }
 
 TEST(HistoryWords, TellAPlanByItsDays) {
@@ -99,13 +101,13 @@ TEST(HistoryWords, TellDaysThatGotOneHolidayOrOneReasonTogether) {
         Entry("CldApplyPlan", R"({"Expected" : ")" + expected + R"(", "Days" : "[)" + escaped + R"(]"})")));
   };
   const std::string mourning = R"({"Name1":"Mourning","TID1":4,"Dates":["2028-05-05"]})";
-  EXPECT_EQ(told(mourning, "f1"), "Closed 5 May 2028 as Mourning");
+  EXPECT_EQ(told(mourning, "f1"), "Closed Friday 5 May 2028 as Mourning");
   EXPECT_EQ(told(R"({"Name1":"Rest","TID1":3,"Dates":["2028-05-05","2028-05-08"]})", "f1"),
             "Closed 2 days of EUR 2028 as Rest");
   EXPECT_EQ(told(mourning, ""), "Prepared EUR 2028: 1 day") << "it made the calendar";
   EXPECT_EQ(told(R"({"Name1":"Sunday","TID1":2,"Dates":["2028-05-07"]})", "f1"), "Prepared EUR 2028: 1 day");
   EXPECT_EQ(told(R"({"TID1":1,"Dates":["2028-05-05"],"DayComment":"Audit"})", "f1"),
-            "Excepted 5 May 2028: Audit");
+            "Excepted Friday 5 May 2028: Audit");
   EXPECT_EQ(told(R"({"TID1":1,"Dates":["2028-05-05","2028-05-08"],"DayComment":""})", "f1"),
             "Excepted 2 days of EUR 2028");
   EXPECT_EQ(told(R"({"TID1":1,"Dates":["2028-05-05"]})", "f1"), "Prepared EUR 2028: 1 day")
@@ -144,7 +146,7 @@ TEST(HistoryWords, TellWhatBecameOfACurrency) {
       "Set the currency SEK (Krona)");
   EXPECT_EQ(Told(Entry("CldIUCurrency", R"({"CcyID" : 191, "Ccy" : "HRK", "CcyType" : 0, "Name" : "Kuna",
                                             "LastDay" : "2022-12-31"})")),
-            "Set the currency HRK (Kuna), money until 31 December 2022");
+            "Set the currency HRK (Kuna), money until Saturday 31 December 2022");
   EXPECT_EQ(
       Told(Entry("CldIUCurrency",
                  R"({"CcyID" : 959, "Ccy" : "XAU", "CcyType" : 1, "Name" : "Gold", "LastDay" : null})")),
@@ -228,8 +230,22 @@ TEST_F(HistoryOfUndos, EndsWithWhatTellsNothingOlder) {
   EXPECT_EQ(Tell(3).Sentence(), R"(CldUndo {"EntryID" : 4})");
 }
 
+TEST(HistoryWords, TellDaysAsTheyAreAskedTo) {
+  testing::RunInFreshThread([] {
+    const testing::ComponentWorld component;
+    const HistoryWords words(
+        kCurrencies, [](std::int32_t) { return std::nullopt; },
+        [](const platform::Date& day) { return day.ToIso(); });
+    EXPECT_EQ(words.Tell(Entry("CldIUMain", R"({"Year1" : 2028, "TID1" : 1, "Day1" : 105})")).Sentence(),
+              "Excepted 2028-04-14");
+  });
+}
+
 TEST(HistoryWords, NameTheCalendar) {
   const HistoryWords words(kCurrencies, [](std::int32_t) { return std::nullopt; });
+  HistoryEntry of_lek = OfCalendar({});
+  of_lek.currency = 8;
+  EXPECT_EQ(words.Calendar(of_lek), "ALL (Lek) 2028");
   EXPECT_EQ(words.Calendar(OfCalendar({})), "EUR 2028");
   EXPECT_EQ(words.Calendar({}), "");
 }

@@ -88,11 +88,11 @@ TEST(OwnLastChange, IsTheNewestOneInForce) {
     component.AddSundayAndGoodFriday();
     CreateEuro2028(component);
     component.AssignGoodFriday();
-    EXPECT_EQ(OwnLast(), (std::pair{std::string("Assigned Good Friday to 14 April 2028"), 4}));
+    EXPECT_EQ(OwnLast(), (std::pair{std::string("Assigned Good Friday to Friday 14 April 2028"), 4}));
     Undo(component, 4);
     EXPECT_EQ(OwnLast(), (std::pair{std::string("Created the calendar EUR 2028"), 3}));
     Undo(component, 5);
-    EXPECT_EQ(OwnLast(), (std::pair{std::string("Assigned Good Friday to 14 April 2028"), 6}));
+    EXPECT_EQ(OwnLast(), (std::pair{std::string("Assigned Good Friday to Friday 14 April 2028"), 6}));
     Undo(component, 6);
     Undo(component, 3);
     EXPECT_EQ(OwnLast().second, 0);

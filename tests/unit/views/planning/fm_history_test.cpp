@@ -20,7 +20,7 @@ using testing::RunInFreshThread;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-constexpr const char* kAssigned = "Assigned Good Friday to 14 April 2028";
+constexpr const char* kAssigned = "Assigned Good Friday to Friday 14 April 2028";
 constexpr const char* kCreated = "Created the calendar EUR 2028";
 
 TEST(HistoryWindow, TellsWhoChangedWhatTheNewestFirst) {
@@ -158,8 +158,9 @@ TEST(HistoryWindow, SaysWhyAChangeCannotBeUndone) {
     history.Entries().ClickRow("4");
     history.ButtonOf("cmdUndo").Click();
     EXPECT_TRUE(history.History().Part<headless::HeadlessLabel>("lblRemark").Visible());
-    EXPECT_THAT(history.LabelText("lblRemark"),
-                HasSubstr("The newest change of EUR 2028 is \"Excepted 14 April 2028: Audit\" (memory, "));
+    EXPECT_THAT(
+        history.LabelText("lblRemark"),
+        HasSubstr("The newest change of EUR 2028 is \"Excepted Friday 14 April 2028: Audit\" (memory, "));
     EXPECT_EQ(history.world.toolkit.BeepCount(), 1);
     EXPECT_FALSE(was_told);
     history.Entries().ClickRow("5");
@@ -195,7 +196,7 @@ TEST(HistoryWindow, ReadsTheHistoryAnewWhenAnotherWindowHasChangedSomething) {
     history.OpenHistory();
     history.ExceptGoodFriday();
     history.windows.TellChanged({{978, 2028}});
-    EXPECT_EQ(history.Sentences().front(), "Excepted 14 April 2028: Audit");
+    EXPECT_EQ(history.Sentences().front(), "Excepted Friday 14 April 2028: Audit");
     history.ExceptGoodFriday();
     history.History().Part<headless::HeadlessToolBar>("tbHistory").ClickTool("ID_Refresh");
     EXPECT_THAT(history.Sentences(), SizeIs(6));

@@ -24,6 +24,7 @@ using platform::CellMark;
 using platform::CellTone;
 using platform::Date;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -121,7 +122,7 @@ TEST(Readiness, ListsTheFindingsWorstFirstWithShapesForTheirLevels) {
     EXPECT_EQ(board.Findings().Cell(keys.front(), "level").mark, CellMark::kError);
     EXPECT_EQ(board.Findings().Cell(keys.back(), "level").text, "Note");
     EXPECT_THAT(board.Label("lblFindings"), HasSubstr("Findings of the review: "));
-    EXPECT_THAT(board.Findings().Texts(board.FindingWith("EUR 2026 has no weekends"))[1], "EUR");
+    EXPECT_EQ(board.Findings().Texts(board.FindingWith("EUR: Monday 25 December 2028"))[1], "EUR");
   });
 }
 
@@ -247,8 +248,27 @@ TEST(Readiness, AFindingLeadsToThePlanOfItsYearOrToTheBookThatItIsAbout) {
     board.Show();
     board.Findings().DoubleClickRow(board.FindingWith("EUR: Monday 25 December 2028"));
     EXPECT_THAT(board.opened, ElementsAre(ElementsAre(CalendarKey(kEuro, 2028))));
-    board.Findings().DoubleClickRow(board.FindingWith("USD has no book"));
-    EXPECT_THAT(board.books_opened, ElementsAre(planning::kDollar));
+    const std::string no_book = board.FindingWith("2 currencies have no book");
+    EXPECT_THAT(board.Findings().Cell(no_book, "finding").text, EndsWith(": HRK, USD."));
+    board.Findings().DoubleClickRow(no_book);
+    EXPECT_THAT(board.books_opened, ElementsAre(planning::kDollar)) << "the first that is money";
+  });
+}
+
+TEST(Readiness, AFindingOfSeveralCurrenciesLeadsToOnePlanOfAllOrToTheFirstBook) {
+  RunInFreshThread([] {
+    ReadinessWorld board({{planning::kDollar, 2026}, {kEuro, 2026}}, {}, {});
+    board.Show();
+    const std::string missing = board.FindingWith("2 currencies have no calendar for 2027: EUR, USD.");
+    EXPECT_EQ(board.Findings().Cell(missing, "currency").text, "2 currencies");
+    EXPECT_EQ(board.Findings().Cell(missing, "currency").description, "EUR Euro, USD US Dollar");
+    EXPECT_EQ(board.Findings().Cell(missing, "year").text, "2027");
+    board.Findings().DoubleClickRow(missing);
+    EXPECT_THAT(board.opened,
+                ElementsAre(ElementsAre(CalendarKey(kEuro, 2027), CalendarKey(planning::kDollar, 2027))));
+    EXPECT_THAT(board.codes_opened, ElementsAre("EUR", "USD"));
+    board.Findings().DoubleClickRow(board.FindingWith("2 currencies have no book"));
+    EXPECT_THAT(board.books_opened, ElementsAre(kEuro));
   });
 }
 

@@ -518,6 +518,7 @@ TEST(YearPlannerWindow, TakesTheCurrencyWhoseCodeMeansAllForNothingElse) {
     planner.world.database->Tables().currencies.push_back({8, "ALL", 0, "Lek"});
     planner.Open({8});
     EXPECT_EQ(planner.Form().Caption(), "Year planner - ALL (Lek) 2028");
+    EXPECT_THAT(planner.Summary(), HasSubstr("ALL (Lek)"));
     EXPECT_EQ(planner.Form().Part<headless::HeadlessTextBox>("txtCurrencies").Text(), "008");
     planner.ClickShow();
     EXPECT_EQ(planner.Form().Caption(), "Year planner - ALL (Lek) 2028");

@@ -42,7 +42,8 @@ TEST(FollowBar, SaysWhoChangedTheCalendarOnShowAndWhat) {
     calendars.world.toolkit.Advance(kLook);
     EXPECT_TRUE(calendars.IsShown("pnlFollow"));
     EXPECT_THAT(calendars.LabelText("lblFollow"), StartsWith("anna changed this calendar, "));
-    EXPECT_THAT(calendars.LabelText("lblFollow"), EndsWith(": Assigned Good Friday to 1 June 2028."));
+    EXPECT_THAT(calendars.LabelText("lblFollow"),
+                EndsWith(": Assigned Good Friday to Thursday 1 June 2028."));
   });
 }
 

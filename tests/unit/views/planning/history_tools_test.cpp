@@ -114,7 +114,7 @@ TEST(HistoryTools, NameWhatUndoWouldUndo) {
     calendars.ExceptGoodFriday();
     calendars.Refresh();
     EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
-              "Undoes your last change of this calendar: Excepted 14 April 2028: Audit");
+              "Undoes your last change of this calendar: Excepted Friday 14 April 2028: Audit");
   });
 }
 
@@ -127,7 +127,7 @@ TEST(HistoryTools, ReadTheHistoryOnlyOnceTheOperatorRestsOnTheDays) {
     EXPECT_TRUE(calendars.Tools().ToolEnabled("ID_Undo"));
     calendars.Rest();
     EXPECT_EQ(calendars.Tools().ToolDescription("ID_Undo"),
-              "Undoes your last change of this calendar: Excepted 14 April 2028: Audit");
+              "Undoes your last change of this calendar: Excepted Friday 14 April 2028: Audit");
   });
 }
 
@@ -148,7 +148,7 @@ TEST(HistoryTools, UndoWhatIsNamedOnceItIsConfirmed) {
     calendars.Refresh();
     calendars.Answer("cmdCancel");
     calendars.Calendars().PressShortcut("Ctrl+Z");
-    EXPECT_THAT(calendars.asked, ElementsAre("Undo in EUR 2028: Excepted 14 April 2028: Audit?"));
+    EXPECT_THAT(calendars.asked, ElementsAre("Undo in EUR 2028: Excepted Friday 14 April 2028: Audit?"));
     EXPECT_EQ(calendars.EntryCount(), 5U);
     calendars.Answer("cmdOk");
     calendars.Calendars().PressShortcut("Ctrl+Z");
@@ -174,9 +174,10 @@ TEST(HistoryTools, SayWhyNothingWasUndone) {
     calendars.Answer("cmdOk");
     calendars.Tools().ClickTool("ID_Undo");
     ASSERT_EQ(calendars.asked.size(), 2U);
-    EXPECT_THAT(calendars.asked[1], ::testing::ContainsRegex(
-                                        "The newest change of EUR 2028 is \"Assigned Good Friday to 14 April "
-                                        "2028\" .anna, ....-..-.. ... ..:..:..."));
+    EXPECT_THAT(
+        calendars.asked[1],
+        ::testing::ContainsRegex("The newest change of EUR 2028 is \"Assigned Good Friday to Friday 14 "
+                                 "April 2028\" .anna, ....-..-.. ... ..:..:..."));
     EXPECT_EQ(calendars.EntryCount(), 6U);
   });
 }

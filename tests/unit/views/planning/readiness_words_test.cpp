@@ -143,15 +143,11 @@ TEST(ReadinessWords, SumUpThisYearAndTheNextWithoutMoneyThatHasEnded) {
   EXPECT_EQ(ReadinessWords(English(), empty).Summary(), "There is no calendar and no rule book.");
 }
 
-TEST(ReadinessWords, CountTheFindingsOfEachLevel) {
-  ReadinessReport report = ReportOn(Date(2026, 3, 1));
-  EXPECT_EQ(ReadinessWords(English(), report).FindingsTitle(), "The review has found nothing");
-  report.review.findings.resize(4);
-  report.review.findings[0].level = FindingLevel::kError;
-  report.review.findings[1].level = FindingLevel::kWarning;
-  report.review.findings[2].level = FindingLevel::kWarning;
-  EXPECT_EQ(ReadinessWords(English(), report).FindingsTitle(),
-            "Findings of the review: 1 error, 2 warnings, 1 note");
+TEST(ReadinessWords, NameTheCurrencyWhoseCodeMeansAll) {
+  const ReadinessReport report = ReportOn(Date(2026, 3, 1));
+  const CurrencyReadiness lek = {{8, "ALL", "Lek", true, {}}, {}};
+  const TableCell cell = ReadinessWords(English(), report).Cell(lek, Year(2028, Readiness::kPrepared));
+  EXPECT_EQ(cell.description, "ALL (Lek) 2028 is as planned.");
 }
 
 ReadinessWords AnyWords() {
