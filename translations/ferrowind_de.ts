@@ -2563,13 +2563,17 @@
         <source>Undo a change of %1</source>
         <translation>Eine Änderung von %1 rückgängig machen</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo in %1: %2, and the %n other changes that were made in the same step?</source>
+        <translation><numerusform>In %1 rückgängig machen: %2, und die %n andere Änderung desselben Schritts?</numerusform><numerusform>In %1 rückgängig machen: %2, und die %n anderen Änderungen desselben Schritts?</numerusform></translation>
+    </message>
     <message>
         <source>Undo in %1: %2?</source>
         <translation>In %1 rückgängig machen: %2?</translation>
     </message>
     <message>
-        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
-        <translation>Macht die letzte Änderung, die hier gemacht wurde, in allen ihren Kalendern und Regelwerken rückgängig</translation>
+        <source>Undoes the last change that was made in a year planner, in all its calendars and rule books</source>
+        <translation>Macht die letzte Änderung, die in einem Jahresplaner gemacht wurde, in allen ihren Kalendern und Regelwerken rückgängig</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

@@ -2563,13 +2563,17 @@
         <source>Undo a change of %1</source>
         <translation>Deshacer un cambio de %1</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo in %1: %2, and the %n other changes that were made in the same step?</source>
+        <translation><numerusform>¿Deshacer en %1: %2, y %n cambio más del mismo paso?</numerusform><numerusform>¿Deshacer en %1: %2, y %n cambios más del mismo paso?</numerusform></translation>
+    </message>
     <message>
         <source>Undo in %1: %2?</source>
         <translation>¿Deshacer en %1: %2?</translation>
     </message>
     <message>
-        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
-        <translation>Deshace el último cambio hecho aquí, en todos sus calendarios y reglamentos</translation>
+        <source>Undoes the last change that was made in a year planner, in all its calendars and rule books</source>
+        <translation>Deshace el último cambio hecho en un planificador anual, en todos sus calendarios y reglamentos</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

@@ -2563,13 +2563,17 @@
         <source>Undo a change of %1</source>
         <translation>Annuler une modification de %1</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo in %1: %2, and the %n other changes that were made in the same step?</source>
+        <translation><numerusform>Annuler dans %1 : %2, et %n autre modification de la même étape ?</numerusform><numerusform>Annuler dans %1 : %2, et %n autres modifications de la même étape ?</numerusform></translation>
+    </message>
     <message>
         <source>Undo in %1: %2?</source>
         <translation>Annuler dans %1 : %2 ?</translation>
     </message>
     <message>
-        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
-        <translation>Annule la dernière modification faite ici, dans tous ses calendriers et recueils de règles</translation>
+        <source>Undoes the last change that was made in a year planner, in all its calendars and rule books</source>
+        <translation>Annule la dernière modification faite dans un planificateur annuel, dans tous ses calendriers et recueils de règles</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

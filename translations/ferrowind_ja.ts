@@ -2563,13 +2563,17 @@
         <source>Undo a change of %1</source>
         <translation>%1の変更を取り消す</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo in %1: %2, and the %n other changes that were made in the same step?</source>
+        <translation><numerusform>%1の%2と、同じ操作で行った他の%n件の変更を取り消しますか？</numerusform></translation>
+    </message>
     <message>
         <source>Undo in %1: %2?</source>
         <translation>%1で取り消しますか：%2？</translation>
     </message>
     <message>
-        <source>Undoes the last change that was made here, in all its calendars and rule books</source>
-        <translation>ここで最後に行った変更を、関係するすべてのカレンダーと規則集で元に戻します</translation>
+        <source>Undoes the last change that was made in a year planner, in all its calendars and rule books</source>
+        <translation>年間プランナーで最後に行った変更を、関係するすべてのカレンダーと規則集で元に戻します</translation>
     </message>
     <message>
         <source>Undoes your last change of this calendar</source>

@@ -65,6 +65,11 @@ ActionCalls::ActionCalls(std::span<const CalendarKey> calendars, const Mark& bef
   }
 }
 
+bool ActionCalls::Has(std::int32_t entry) const {
+  return std::any_of(calls_.begin(), calls_.end(),
+                     [&](const HistoryEntry& call) { return call.id == entry; });
+}
+
 ActionCalls::Outcome ActionCalls::Undo() {
   Outcome outcome;
   try {

@@ -29,6 +29,10 @@ class ActionCalls {
   }
 
   [[nodiscard]] bool IsEmpty() const { return calls_.empty(); }
+  /// How many calls there are to undo.
+  [[nodiscard]] std::size_t Count() const { return calls_.size(); }
+  /// Whether the call of that entry of the history is one of them.
+  [[nodiscard]] bool Has(std::int32_t entry) const;
 
   struct Outcome {
     /// How many of the calls are undone.

@@ -156,7 +156,7 @@ void fmRuleBook::Read(std::int32_t currency_id) {
   FillBox(txtDocument_, draft_->Document());
   FillBox(txtSince_, draft_->Since());
   is_filling_ = false;
-  form_->SetCaption(Said(platform_, "Rule book of %1", {found->code}));
+  form_->SetCaption(Said(platform_, "Rule book of %1", {planning::UnmistakableCode(*found)}));
   ShowRules();
   ShowRule();
   ShowBookOutcome();

@@ -75,7 +75,8 @@ void SetupTools(const platform::Platform& platform, platform::ToolBar& tools) {
       "Makes the selected days working days by exception, with one reason", "Ctrl+E");
   add(kCloseDays, "Close selected days as ...",
       "Closes the selected days that are open, as a holiday that was announced for once", "Ctrl+L");
-  add(kUndo, "Undo", "Undoes the last change that was made here, in all its calendars and rule books",
+  add(kUndo, "Undo",
+      "Undoes the last change that was made in a year planner, in all its calendars and rule books",
       "Ctrl+Z");
   add(kDayHistory, "History of the day...", "Shows who changed the day and when", "Ctrl+H");
   add(kPrint, "Print...", "Prints the year", "Ctrl+P");
@@ -219,6 +220,7 @@ void fmYearPlanner::ReadAnew() { ShowYear(0); }
 
 void fmYearPlanner::ReadAnewAfter(const PlanningWindows::Changed& changed) {
   if (has_closed_) return;
+  RefreshUndo();
   const auto is_changed = [&](const YearOverview::Calendar& calendar) {
     const planning::CalendarKey key(calendar.currency.id, overview_->Year());
     return changed.empty() || std::find(changed.begin(), changed.end(), key) != changed.end();
@@ -291,9 +293,9 @@ void fmYearPlanner::CloseDays() {
   Tell(CloseSelectedDays(context_, seen, SelectedDaysOf(seen, view_.Selected())));
 }
 
-void fmYearPlanner::Undo() { Tell(UndoAction(last_action_)); }
+void fmYearPlanner::Undo() { Tell(UndoAction(windows_.LastAction())); }
 
-void fmYearPlanner::RefreshUndo() { tools_.SetToolEnabled(kUndo, !last_action_.IsEmpty()); }
+void fmYearPlanner::RefreshUndo() { tools_.SetToolEnabled(kUndo, !windows_.LastAction().IsEmpty()); }
 
 const YearOverview::Calendar* fmYearPlanner::CurrentCalendar() const {
   const auto current = view_.Current();
@@ -311,7 +313,7 @@ void fmYearPlanner::OpenDayHistory() {
 
 void fmYearPlanner::Tell(const DaysOutcome& outcome) {
   if (has_closed_) return;
-  if (!outcome.calls.IsEmpty()) last_action_ = outcome.calls;
+  if (!outcome.calls.IsEmpty()) windows_.LastAction() = outcome.calls;
   RefreshUndo();
   if (outcome.changed) windows_.TellChanged(*outcome.changed);
   if (!outcome.problems.empty()) {

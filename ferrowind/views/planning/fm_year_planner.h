@@ -70,8 +70,6 @@ class fmYearPlanner : public PlanningWindow, public std::enable_shared_from_this
   platform::StatusBar& bar_;
   /// Nothing until the first calendars are read.
   std::optional<planning::YearOverview> overview_;
-  /// The last that was made here and is not undone.
-  planning::ActionCalls last_action_;
   SilenceBar silence_bar_;
   StoredPlacement placement_{"Window Year Planner"};
   bool has_closed_ = false;

@@ -8,6 +8,7 @@
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/planning/currency_on_show.h"
+#include "ferrowind/views/planning/selected_days.h"
 
 namespace ferrowind {
 namespace {
@@ -39,6 +40,13 @@ class Teller {
                         return found->entry;
                       }};
 };
+
+bool IsWanted(const platform::Platform& platform, const std::string& question) {
+  return Ask(platform.toolkit, {.caption = Said(platform, "Undo"),
+                                .message = question,
+                                .verb = Said(platform, "Undo"),
+                                .cancel = Said(platform, "Cancel")});
+}
 
 }  // namespace
 
@@ -126,14 +134,10 @@ void HistoryTools::Undo() {
     Tell(Said(context_.platform, "There is no change of %1 of yours to undo.", {name}));
     return RefreshUndo();
   }
+  const planning::ActionCalls& action = context_.windows.LastAction();
+  if (action.Count() > 1 && action.Has(own->entry.id)) return UndoTogether(*own, name);
   const platform::Platform& platform = context_.platform;
-  const std::string question = Said(platform, "Undo in %1: %2?", {name, own->told.change});
-  if (!Ask(platform.toolkit, {.caption = Said(platform, "Undo"),
-                              .message = question,
-                              .verb = Said(platform, "Undo"),
-                              .cancel = Said(platform, "Cancel")})) {
-    return;
-  }
+  if (!IsWanted(platform, Said(platform, "Undo in %1: %2?", {name, own->told.change}))) return;
   const PlanningWindows::Changed changed{{calendar->currency_id, calendar->year}};
   planning::UndoOutcome outcome;
   try {
@@ -147,6 +151,22 @@ void HistoryTools::Undo() {
     return Tell(teller.Words().WhyNotUndone(own->entry, outcome));
   }
   context_.windows.TellChanged(changed);
+}
+
+void HistoryTools::UndoTogether(const OwnChange& own, const std::string& name) {
+  planning::ActionCalls& action = context_.windows.LastAction();
+  const auto others = static_cast<std::int64_t>(action.Count()) - 1;
+  const platform::Platform& platform = context_.platform;
+  if (!IsWanted(platform,
+                SaidOfNumber(platform, others,
+                             "Undo in %1: %2, and the %n other change that was made in the same step?",
+                             "Undo in %1: %2, and the %n other changes that were made in the same step?",
+                             {name, own.told.change}))) {
+    return;
+  }
+  const DaysOutcome outcome = UndoAction(action);
+  if (outcome.changed) context_.windows.TellChanged(*outcome.changed);
+  ShowProblems(outcome, scene_.Window());
 }
 
 void HistoryTools::Tell(const std::string& text) const {

@@ -32,6 +32,8 @@ class HistoryTools : public CalendarsAddition {
   void OpenHistory();
   void OpenDayHistory();
   void Undo();
+  /// Undoes the action of several calls whose last of this calendar `own` is.
+  void UndoTogether(const planning::OwnChange& own, const std::string& name);
   /// Shows a text that needs no answer.
   void Tell(const std::string& text) const;
 

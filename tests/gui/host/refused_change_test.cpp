@@ -38,7 +38,7 @@ TEST_F(RefusedChange, AnExceptionInAReadOnlyFileStaysToldAfterTheDaysWereReadAga
   OpenCalendars();
   SetReadOnly(true);
   PickForDay(5, "ID_Except");
-  const auto told = AllOf(StartsWith("14:05:10: Except 6 January 2028, USD: refused.\n"),
+  const auto told = AllOf(StartsWith("14:05:10: Except Thursday 6 January 2028, USD: refused.\n"),
                           HasSubstr(DatabasePath() + " is read-only"));
   EXPECT_THAT(TroubleIn(Calendars()), told);
   ClickTool(Calendars(), "ID_Refresh");

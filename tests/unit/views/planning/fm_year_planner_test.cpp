@@ -370,6 +370,30 @@ TEST(YearPlannerWindow, UndoesWhatWasClosedInAllCalendarsAndBooksInOneStep) {
   });
 }
 
+TEST(YearPlannerWindow, UndoesWhatAnotherPlannerThatIsClosedHasChanged) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    CloseTheFifthOfMay(world);
+    EXPECT_TRUE(world.Form().CloseByOperator());
+    world.Open({kEuro, kDollar});
+    EXPECT_TRUE(world.Tools().ToolEnabled("ID_Undo"));
+    world.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(PlannerWorld::DaysOf("EUR", kEuro, 2028), SizeIs(2));
+    EXPECT_EQ(RulesInBook(kDollar, "USD"), 1U);
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+  });
+}
+
+TEST(YearPlannerWindow, OffersNoUndoOnceAnotherWindowHasUndoneIt) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    CloseTheFifthOfMay(world);
+    static_cast<void>(world.windows.LastAction().Undo());
+    world.windows.TellChanged({});
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+  });
+}
+
 TEST(YearPlannerWindow, UndoesTheRestWhereSomebodyElseHasChangedTheDaySince) {
   RunInFreshThread([] {
     PlannerWorld world;
@@ -518,7 +542,10 @@ TEST(YearPlannerWindow, TakesTheCurrencyWhoseCodeMeansAllForNothingElse) {
     planner.world.database->Tables().currencies.push_back({8, "ALL", 0, "Lek"});
     planner.Open({8});
     EXPECT_EQ(planner.Form().Caption(), "Year planner - ALL (Lek) 2028");
-    EXPECT_THAT(planner.Summary(), HasSubstr("ALL (Lek)"));
+    planner.Type("txtCurrencies", "EUR 8");
+    planner.ClickShow();
+    EXPECT_THAT(planner.Summary(), HasSubstr("no calendar of ALL (Lek)"));
+    planner.Type("txtCurrencies", "008");
     EXPECT_EQ(planner.Form().Part<headless::HeadlessTextBox>("txtCurrencies").Text(), "008");
     planner.ClickShow();
     EXPECT_EQ(planner.Form().Caption(), "Year planner - ALL (Lek) 2028");

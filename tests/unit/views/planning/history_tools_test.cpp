@@ -162,6 +162,57 @@ TEST(HistoryTools, UndoWhatIsNamedOnceItIsConfirmed) {
   });
 }
 
+/// What a year planner does in one step: Good Friday is excepted, and Sunday goes to the first of January.
+void ChangeTwiceInOneStep(ToolsWorld& calendars) {
+  const std::vector<planning::CalendarKey> keys{{978, 2028}};
+  calendars.windows.LastAction() = planning::ActionCalls::Of(keys, [&] {
+    calendars.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}, {"TID1", 2}, {"ID2", 2}, {"Day1", 2}});
+    calendars.ExceptGoodFriday();
+  });
+  calendars.Refresh();
+}
+
+TEST(HistoryTools, UndoAllThatWasDoneInOneStepOnceThatIsConfirmed) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    ChangeTwiceInOneStep(calendars);
+    calendars.Answer("cmdOk");
+    calendars.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(calendars.asked,
+                ElementsAre("Undo in EUR 2028: Excepted Friday 14 April 2028: Audit, and the 1 "
+                            "other change that was made in the same step?"));
+    EXPECT_EQ(calendars.EntryCount(), 8U) << "six were there";
+    EXPECT_EQ(calendars.StoredName(), "Good Friday");
+    EXPECT_EQ(calendars.NameOnShow(), "Good Friday");
+    EXPECT_TRUE(calendars.windows.LastAction().IsEmpty());
+  });
+}
+
+TEST(HistoryTools, UndoNothingOfAStepThatIsNotConfirmed) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    ChangeTwiceInOneStep(calendars);
+    calendars.Answer("cmdCancel");
+    calendars.Tools().ClickTool("ID_Undo");
+    EXPECT_EQ(calendars.EntryCount(), 6U);
+    EXPECT_EQ(calendars.windows.LastAction().Count(), 2U);
+  });
+}
+
+TEST(HistoryTools, UndoALaterChangeAloneAndNoStepBeforeIt) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    ChangeTwiceInOneStep(calendars);
+    calendars.AssignGoodFriday();
+    calendars.Refresh();
+    calendars.Answer("cmdOk");
+    calendars.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(calendars.asked,
+                ElementsAre("Undo in EUR 2028: Assigned Good Friday to Friday 14 April 2028?"));
+    EXPECT_EQ(calendars.EntryCount(), 8U) << "seven were there";
+  });
+}
+
 TEST(HistoryTools, SayWhyNothingWasUndone) {
   RunInFreshThread([] {
     ToolsWorld calendars;
