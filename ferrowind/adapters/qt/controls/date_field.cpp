@@ -6,8 +6,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "ferrowind/adapters/glyphs/glyphs.h"
 #include "ferrowind/adapters/qt/controls/select_on_focus.h"
-#include "ferrowind/adapters/qt/look/glyphs.h"
 #include "ferrowind/adapters/qt/look/line_icon.h"
 #include "ferrowind/adapters/qt/look/refusal_color.h"
 #include "ferrowind/adapters/qt/values/translated.h"
@@ -46,7 +46,7 @@ QDate SteppedBy(const QKeyEvent& event, const QDate& date) {
 
 DateField::DateField(QWidget* parent) : QLineEdit(parent), reader_(std::make_unique<DateReader>(locale())) {
   new SelectOnFocus(*this);
-  QAction* open = addAction(LineIcon(CalendarGlyph), QLineEdit::TrailingPosition);
+  QAction* open = addAction(LineIcon(glyphs::CalendarGlyph), QLineEdit::TrailingPosition);
   open->setText(Translated("Choose a day"));
   open->setToolTip(Translated("Choose a day (Alt+Down)"));
   connect(open, &QAction::triggered, this, &DateField::OpenCalendar);

@@ -4,7 +4,7 @@
 #include <QPoint>
 #include <QToolTip>
 
-#include "ferrowind/adapters/qt/look/glyphs.h"
+#include "ferrowind/adapters/glyphs/glyphs.h"
 #include "ferrowind/adapters/qt/look/line_icon.h"
 #include "ferrowind/adapters/qt/look/refusal_color.h"
 #include "ferrowind/adapters/qt/values/translated.h"
@@ -32,7 +32,7 @@ void LengthNote::Tell(const QString& text) {
   if (text == told_) return;
   if (told_.isEmpty()) {
     description_before_ = line_.accessibleDescription();
-    mark_->setIcon(LineIcon(WarningGlyph, RefusalColor(line_.palette())));
+    mark_->setIcon(LineIcon(glyphs::WarningGlyph, RefusalColor(line_.palette())));
   }
   told_ = text;
   mark_->setToolTip(text);

@@ -3,14 +3,13 @@
 #include <QFontMetrics>
 #include <QPainter>
 
-#include "ferrowind/adapters/qt/look/glyphs.h"
+#include "ferrowind/adapters/glyphs/glyphs.h"
+#include "ferrowind/adapters/qt/look/glyph_painter.h"
 #include "ferrowind/adapters/qt/look/refusal_color.h"
 
 namespace ferrowind::qt {
 namespace {
 
-constexpr qreal kGlyphUnits = 24;
-constexpr qreal kLineWidth = 2;
 constexpr int kGap = 6;
 
 }  // namespace
@@ -31,15 +30,9 @@ void RefusalNote::ShowRefusal(const QString& refusal) {
 void RefusalNote::paintEvent(QPaintEvent* event) {
   QLabel::paintEvent(event);
   const int side = fontMetrics().height();
-  const Glyph glyph = WarningGlyph();
   const QColor color = RefusalColor(palette());
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(side / kGlyphUnits, side / kGlyphUnits);
-  const QPen pen(color, kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-  painter.strokePath(glyph.accent_lines, pen);
-  painter.strokePath(glyph.lines, pen);
-  painter.fillPath(glyph.solids, color);
+  PaintGlyph(painter, glyphs::WarningGlyph(), QRectF(0, 0, side, side), color, color);
 }
 
 }  // namespace ferrowind::qt

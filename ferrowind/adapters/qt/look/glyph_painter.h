@@ -4,12 +4,12 @@
 #include <QPainter>
 #include <QRectF>
 
-#include "ferrowind/adapters/qt/look/glyph.h"
+#include "ferrowind/adapters/glyphs/glyph.h"
 
 namespace ferrowind::qt {
 
 /// Draws a glyph as large as it fits about the middle of `area`, its lines never too thin to be seen.
-void PaintGlyph(QPainter& painter, const Glyph& glyph, const QRectF& area, const QColor& line,
+void PaintGlyph(QPainter& painter, const glyphs::Glyph& glyph, const QRectF& area, const QColor& line,
                 const QColor& accent);
 
 }  // namespace ferrowind::qt

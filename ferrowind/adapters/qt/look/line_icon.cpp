@@ -37,7 +37,7 @@ Colors ColorsOf(QIcon::Mode mode, const QColor& accent) {
 
 class LineIconEngine : public QIconEngine {
  public:
-  LineIconEngine(Glyph (*glyph)(), const QColor& accent)
+  LineIconEngine(glyphs::MakeGlyph glyph, const QColor& accent)
       : make_glyph_(glyph), glyph_(glyph()), accent_(accent) {}
 
   [[nodiscard]] QIconEngine* clone() const override { return new LineIconEngine(make_glyph_, accent_); }
@@ -65,8 +65,8 @@ class LineIconEngine : public QIconEngine {
   }
 
  private:
-  Glyph (*make_glyph_)();
-  Glyph glyph_;
+  glyphs::MakeGlyph make_glyph_;
+  glyphs::Glyph glyph_;
   QColor accent_;
   /// By width, height and mode.
   std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> drawn_;
@@ -75,6 +75,8 @@ class LineIconEngine : public QIconEngine {
 
 }  // namespace
 
-QIcon LineIcon(Glyph (*glyph)(), const QColor& accent) { return QIcon(new LineIconEngine(glyph, accent)); }
+QIcon LineIcon(glyphs::MakeGlyph glyph, const QColor& accent) {
+  return QIcon(new LineIconEngine(glyph, accent));
+}
 
 }  // namespace ferrowind::qt

@@ -1,6 +1,6 @@
 #include "ferrowind/adapters/qt/look/message_images.h"
 
-#include "ferrowind/adapters/qt/look/glyphs.h"
+#include "ferrowind/adapters/glyphs/glyphs.h"
 #include "ferrowind/adapters/qt/look/line_icon.h"
 
 namespace ferrowind::qt {
@@ -15,13 +15,13 @@ constexpr QColor kErrorAccent(0xdb, 0x45, 0x4d);
 QIcon MessageImage(MessageKind kind) {
   switch (kind) {
     case MessageKind::kQuestion:
-      return LineIcon(QuestionGlyph);
+      return LineIcon(glyphs::QuestionGlyph);
     case MessageKind::kInformation:
-      return LineIcon(InformationGlyph);
+      return LineIcon(glyphs::InformationGlyph);
     case MessageKind::kWarning:
-      return LineIcon(WarningGlyph, kWarningAccent);
+      return LineIcon(glyphs::WarningGlyph, kWarningAccent);
     case MessageKind::kError:
-      return LineIcon(ErrorGlyph, kErrorAccent);
+      return LineIcon(glyphs::ErrorGlyph, kErrorAccent);
   }
   return {};
 }

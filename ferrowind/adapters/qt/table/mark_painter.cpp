@@ -1,10 +1,9 @@
 #include "ferrowind/adapters/qt/table/mark_painter.h"
 
-#include <array>
 #include <cstddef>
 
+#include "ferrowind/adapters/glyphs/mark_glyphs.h"
 #include "ferrowind/adapters/qt/look/glyph_painter.h"
-#include "ferrowind/adapters/qt/look/mark_glyphs.h"
 
 namespace ferrowind::qt {
 
@@ -15,21 +14,12 @@ namespace {
 /// More than the colours and scales of a table that stays on show; those of a theme that was left go.
 constexpr std::size_t kMostPictures = 128;
 
-const Glyph& GlyphOf(CellMark mark) {
-  static const std::array glyphs = {
-      Glyph(),          CheckedCircleGlyph(), UnequalGlyph(), HalfCircleGlyph(), EmptyCircleGlyph(),
-      NoteGlyph(),      TriangleGlyph(),      OctagonGlyph(), PlusGlyph(),       MinusGlyph(),
-      TwoArrowsGlyph(), EqualGlyph(),         CrossGlyph(),   RingGlyph(),
-  };
-  return glyphs.at(static_cast<std::size_t>(mark));
-}
-
 QPixmap PictureOf(CellMark mark, int side, const QColor& color, int scale) {
   QPixmap picture(side * scale, side * scale);
   picture.setDevicePixelRatio(scale);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
-  PaintGlyph(painter, GlyphOf(mark), QRectF(0, 0, side, side), color, color);
+  PaintGlyph(painter, glyphs::MarkGlyph(mark), QRectF(0, 0, side, side), color, color);
   return picture;
 }
 
@@ -41,7 +31,7 @@ void MarkPainter::Paint(QPainter& painter, const QPoint& place, int side, CellMa
   const int scale = qRound(ratio);
   // A picture would lie between the pixels and be blurred.
   if (ratio != scale) {
-    return PaintGlyph(painter, GlyphOf(mark), QRectF(place, QSize(side, side)), color, color);
+    return PaintGlyph(painter, glyphs::MarkGlyph(mark), QRectF(place, QSize(side, side)), color, color);
   }
   const Key key{mark, side, color.rgba(), scale};
   auto known = pictures_.find(key);

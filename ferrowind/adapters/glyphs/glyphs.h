@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ferrowind/adapters/qt/look/glyph.h"
+#include "ferrowind/adapters/glyphs/glyph.h"
 
-namespace ferrowind::qt {
+namespace ferrowind::glyphs {
 
 [[nodiscard]] Glyph RefreshGlyph();
 [[nodiscard]] Glyph NewCalendarGlyph();
@@ -40,4 +40,4 @@ namespace ferrowind::qt {
 [[nodiscard]] Glyph WarningGlyph();
 [[nodiscard]] Glyph ErrorGlyph();
 
-}  // namespace ferrowind::qt
+}  // namespace ferrowind::glyphs
