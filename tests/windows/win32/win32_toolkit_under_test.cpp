@@ -8,7 +8,7 @@
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/adapters/win32/controls/date_picker.h"
-#include "ferrowind/adapters/win32/controls/date_words.h"
+#include "ferrowind/adapters/win32/dates/date_words.h"
 #include "ferrowind/adapters/win32/controls/shortcut.h"
 #include "ferrowind/adapters/win32/controls/tool_bar.h"
 #include "ferrowind/adapters/win32/controls/tree.h"

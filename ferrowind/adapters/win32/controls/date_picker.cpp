@@ -5,8 +5,9 @@
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/adapters/win32/controls/calendar_popup.h"
-#include "ferrowind/adapters/win32/controls/date_words.h"
 #include "ferrowind/adapters/win32/controls/window_text.h"
+#include "ferrowind/adapters/win32/dates/date_words.h"
+#include "ferrowind/adapters/win32/dates/typed_date.h"
 
 namespace ferrowind::win32 {
 namespace {
@@ -93,9 +94,9 @@ void Win32DatePicker::HideRefusal() {
 
 void Win32DatePicker::OnCommand(WORD notification, WORD /*id*/) {
   if (notification != EN_CHANGE || is_showing_) return;
-  const auto typed = ReadDay(WindowText(Handle()), date_.Year());
-  holds_date_ = typed.has_value();
-  if (!typed) return;
+  const auto typed = TypedDates().Read(FromWide(WindowText(Handle())), date_.Year()).date;
+  holds_date_ = typed && typed->Year() == date_.Year();
+  if (!holds_date_) return;
   date_ = *typed;
   HideRefusal();
 }

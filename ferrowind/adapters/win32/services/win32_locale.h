@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "ferrowind/adapters/win32/services/typed_date.h"
+#include "ferrowind/adapters/win32/dates/typed_date.h"
 #include "ferrowind/export.h"
 #include "ferrowind/platform/services/locale.h"
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/win32/base/wide_text.h"
-#include "ferrowind/adapters/win32/controls/date_words.h"
+#include "ferrowind/adapters/win32/dates/date_words.h"
 #include "ferrowind/adapters/win32/year/legend_painter.h"
 #include "ferrowind/adapters/win32/year/year_painter.h"
 

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "ferrowind/adapters/win32/base/wide_text.h"
-#include "ferrowind/adapters/win32/controls/date_words.h"
+#include "ferrowind/adapters/win32/dates/date_words.h"
 
 namespace ferrowind::win32 {
 

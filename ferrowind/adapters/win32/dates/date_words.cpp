@@ -1,8 +1,6 @@
-#include "ferrowind/adapters/win32/controls/date_words.h"
+#include "ferrowind/adapters/win32/dates/date_words.h"
 
-#include <cstdlib>
-#include <cwctype>
-#include <vector>
+#include <array>
 
 #include "ferrowind/adapters/win32/base/locale_text.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
@@ -11,55 +9,10 @@
 namespace ferrowind::win32 {
 namespace {
 
-constexpr int kMonths = 12;
-
 /// Whether the operator's language writes the month before the day.
 bool MonthIsFirst() {
   const std::wstring pattern = LocaleText(LOCALE_NAME_USER_DEFAULT, LOCALE_SSHORTDATE);
   return pattern.find(L'M') < pattern.find(L'd');
-}
-
-std::wstring Folded(std::wstring text) {
-  for (wchar_t& letter : text) letter = static_cast<wchar_t>(std::towlower(letter));
-  return text;
-}
-
-/// The one month whose name begins so; nothing when none does, or several.
-std::optional<int> MonthNamed(const std::wstring& beginning) {
-  std::optional<int> found;
-  for (int month = 1; month <= kMonths; ++month) {
-    if (Folded(MonthName(month)).rfind(Folded(beginning), 0) != 0) continue;
-    if (found) return std::nullopt;
-    found = month;
-  }
-  return found;
-}
-
-struct Word {
-  bool is_number;
-  std::wstring text;
-};
-
-/// The numbers and the words of a text, without what stands between them.
-std::vector<Word> WordsOf(const std::wstring& text) {
-  std::vector<Word> words;
-  bool continues = false;
-  for (const wchar_t letter : text) {
-    const bool is_digit = letter >= L'0' && letter <= L'9';
-    if (!is_digit && std::iswalpha(letter) == 0) {
-      continues = false;
-      continue;
-    }
-    if (!continues || words.back().is_number != is_digit) words.push_back({is_digit, {}});
-    words.back().text += letter;
-    continues = true;
-  }
-  return words;
-}
-
-std::optional<platform::Date> DateOf(int year, int month, int day) {
-  if (!platform::Date::IsValid(year, month, day)) return std::nullopt;
-  return platform::Date(year, month, day);
 }
 
 }  // namespace
@@ -122,27 +75,6 @@ std::wstring NumbersOfDay(const platform::Date& date) {
   const std::wstring day = std::to_wstring(date.Day());
   const std::wstring month = std::to_wstring(date.Month());
   return MonthIsFirst() ? month + separator + day : day + separator + month;
-}
-
-std::optional<platform::Date> ReadDay(const std::wstring& text, int year) {
-  std::optional<int> month;
-  std::vector<int> numbers;
-  for (const Word& word : WordsOf(text)) {
-    constexpr std::size_t kLongestNumber = 4;
-    if (word.is_number) {
-      if (word.text.size() > kLongestNumber) return std::nullopt;
-      numbers.push_back(static_cast<int>(std::wcstol(word.text.c_str(), nullptr, 10)));
-    } else {
-      if (month) return std::nullopt;
-      month = MonthNamed(word.text);
-      if (!month) return std::nullopt;
-    }
-  }
-  const std::size_t without_year = month ? 1 : 2;
-  if (numbers.size() == without_year + 1 && numbers.back() == year) numbers.pop_back();
-  if (numbers.size() != without_year) return std::nullopt;
-  if (month) return DateOf(year, *month, numbers[0]);
-  return MonthIsFirst() ? DateOf(year, numbers[0], numbers[1]) : DateOf(year, numbers[1], numbers[0]);
 }
 
 }  // namespace ferrowind::win32

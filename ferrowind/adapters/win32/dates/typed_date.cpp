@@ -1,4 +1,4 @@
-#include "ferrowind/adapters/win32/services/typed_date.h"
+#include "ferrowind/adapters/win32/dates/typed_date.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "ferrowind/platform/values/date.h"
@@ -24,10 +23,5 @@ namespace ferrowind::win32 {
 
 /// A day and a month as two numbers, in the order and with the sign between them of the operator's language.
 [[nodiscard]] std::wstring NumbersOfDay(const platform::Date& date);
-
-/// The day that a typed text means: a day and a month, the month by its number or by the beginning of its
-/// name, in the order of the operator's language where both are numbers; a year, where there is one, must be
-/// `year`. Nothing for a text that is none, or that could be two months.
-[[nodiscard]] std::optional<platform::Date> ReadDay(const std::wstring& text, int year);
 
 }  // namespace ferrowind::win32

@@ -17,7 +17,7 @@ namespace ferrowind::win32 {
 class TypedDates {
  public:
   /// `locale` is a name such as "de-CH", or null for that of the user.
-  explicit TypedDates(const wchar_t* locale);
+  explicit TypedDates(const wchar_t* locale = nullptr);
 
   /// A date without a year is in `year`.
   [[nodiscard]] platform::DateReading Read(const std::string& text, int year) const;
