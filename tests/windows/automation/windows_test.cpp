@@ -1,5 +1,6 @@
 // The windows that a script opens by the component's file, in a host with a message loop of its own.
 
+#include <array>
 #include <cstdint>
 #include <exception>
 #include <fstream>
@@ -136,6 +137,21 @@ TEST_F(WindowsOfAScript, OpenAndCloseInAHostWithALoopOfItsOwn) {
     EXPECT_NE(CalendarsWindow(), nullptr);
     EXPECT_EQ(host.Run(kClose), "");
     EXPECT_EQ(CalendarsWindow(), nullptr);
+  });
+}
+
+TEST_F(WindowsOfAScript, AreThePresentControlsOfThePlatformAlthoughTheHostAsksForNone) {
+  RunInApartment([] {
+    ScriptHost host;
+    EXPECT_EQ(host.Run(kShow), "");
+    const HWND tree = NativeOperator::Control(CalendarsWindow(), L"SysTreeView32");
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<const wchar_t*>(GetClassLongPtrW(tree, GCLP_WNDPROC)), &module);
+    std::array<wchar_t, MAX_PATH> file{};
+    GetModuleFileNameW(module, file.data(), MAX_PATH);
+    EXPECT_THAT(win32::FromWide(file.data()), HasSubstr("common-controls_6595b64144ccf1df_6."));
+    EXPECT_EQ(host.Run(kClose), "");
   });
 }
 

@@ -8,11 +8,11 @@
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/adapters/win32/controls/date_picker.h"
-#include "ferrowind/adapters/win32/dates/date_words.h"
 #include "ferrowind/adapters/win32/controls/shortcut.h"
 #include "ferrowind/adapters/win32/controls/tool_bar.h"
 #include "ferrowind/adapters/win32/controls/tree.h"
 #include "ferrowind/adapters/win32/controls/window_text.h"
+#include "ferrowind/adapters/win32/dates/date_words.h"
 #include "ferrowind/adapters/win32/forms/win32_form.h"
 #include "ferrowind/adapters/win32/forms/win32_toolkit.h"
 #include "ferrowind/adapters/win32/grid/grid.h"
@@ -180,10 +180,16 @@ class Win32ToolkitUnderTest : public ToolkitUnderTest {
     ClickMouse(MiddleOf(WindowOf(tree), NodeArea(tree, key)));
   }
   void ToggleNode(platform::Tree& tree, const std::string& key) override {
-    RECT text = NodeArea(tree, key);
-    // The mark stands before the text.
-    const LONG mark = (text.bottom - text.top) / 2;
-    ClickMouse(MiddleOf(WindowOf(tree), {text.left - 2 * mark, text.top, text.left, text.bottom}));
+    const RECT text = NodeArea(tree, key);
+    // The mark stands somewhere before the text.
+    TVHITTESTINFO place{};
+    place.pt = {text.left, (text.top + text.bottom) / 2};
+    do {
+      --place.pt.x;
+      SendMessageW(WindowOf(tree), TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&place));
+    } while ((place.flags & TVHT_ONITEMBUTTON) == 0 && place.pt.x > 0);
+    const LONG middle = place.pt.x - (text.bottom - text.top) / 4;
+    ClickMouse(MiddleOf(WindowOf(tree), {middle, text.top, middle, text.bottom}));
   }
 
   void ClickTool(platform::ToolBar& tool_bar, const std::string& id) override {

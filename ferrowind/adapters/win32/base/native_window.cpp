@@ -4,7 +4,9 @@
 #include <string>
 #include <utility>
 
+#include "ferrowind/adapters/win32/base/present_controls.h"
 #include "ferrowind/adapters/win32/base/run_guarded.h"
+#include "ferrowind/adapters/win32/base/this_module.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -13,14 +15,6 @@ namespace {
 
 constexpr UINT_PTR kSubclassId = 1;
 constexpr const wchar_t* kObjectProperty = L"FerrowindObject";
-
-HINSTANCE ThisModule() {
-  HMODULE module = nullptr;
-  // Of the library that this code is in, which need not be the host's program.
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<LPCWSTR>(&ThisModule), &module);
-  return module;
-}
 
 constexpr const wchar_t* kPaneClass = L"FerrowindPane";
 
@@ -55,6 +49,7 @@ const wchar_t* PaneClass() {
 
 NativeWindow::NativeWindow(std::shared_ptr<FormSite> site, const Design& design)
     : site_(std::move(site)), is_pane_(design.window_class == PaneClass()) {
+  const PresentControls present;
   handle_ = CreateWindowExW(design.extended_style, design.window_class, L"", design.style, 0, 0, 0, 0,
                             design.parent, nullptr, ThisModule(), nullptr);
   if (handle_ == nullptr) throw NoWindow();

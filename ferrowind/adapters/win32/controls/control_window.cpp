@@ -87,8 +87,28 @@ SIZE ControlWindow::TextSize(const std::string& text) const {
   return {text.empty() ? 0 : area.right, area.bottom};
 }
 
+void ControlWindow::PaintDarkEdge() const {
+  if ((GetWindowLongPtrW(Handle(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0) return;
+  RECT area{};
+  GetWindowRect(Handle(), &area);
+  OffsetRect(&area, -area.left, -area.top);
+  const HDC context = GetWindowDC(Handle());
+  const auto brush = static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+  for (const COLORREF color : {Colors().line, Colors().window}) {
+    SetDCBrushColor(context, color);
+    FrameRect(context, &area, brush);
+    InflateRect(&area, -1, -1);
+  }
+  ReleaseDC(Handle(), context);
+}
+
 LRESULT ControlWindow::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
   switch (message) {
+    case WM_NCPAINT: {
+      const LRESULT result = NativeWindow::OnMessage(message, w_param, l_param);
+      if (IsDark()) PaintDarkEdge();
+      return result;
+    }
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
     case WM_CHAR:

@@ -34,7 +34,7 @@ class ControlWindow : public NativeWindow {
   [[nodiscard]] bool IsUsable() const;
   /// The pixels that the layout gives it where there is room: what was asked for last, or what it needs.
   [[nodiscard]] SIZE WantedSize() const;
-  void UseFont(HFONT font);
+  virtual void UseFont(HFONT font);
   /// The colours are others now.
   virtual void UseColors() {}
   /// Puts it there, in pixels of its parent.
@@ -76,6 +76,8 @@ class ControlWindow : public NativeWindow {
 
  private:
   void ShowEnabled();
+  /// The edge around it in dark colours, which the platform's painting does not know.
+  void PaintDarkEdge() const;
 
   ControlHost& host_;
   std::string name_;

@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "ferrowind/adapters/win32/base/buffered_paint.h"
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/adapters/win32/controls/calendar_popup.h"
+#include "ferrowind/adapters/win32/controls/shapes.h"
 #include "ferrowind/adapters/win32/controls/window_text.h"
 #include "ferrowind/adapters/win32/dates/date_words.h"
 #include "ferrowind/adapters/win32/dates/typed_date.h"
@@ -27,12 +29,25 @@ class Win32DatePicker::OpenButton final : public NativeWindow {
       : NativeWindow(picker.Site(), {.window_class = WC_BUTTONW,
                                      .style = WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON,
                                      .parent = picker.Handle()}),
-        picker_(picker) {
-    SetWindowTextW(Handle(), L"\u25BE");
-  }
+        picker_(picker) {}
 
   void OnCommand(WORD notification, WORD /*id*/) override {
     if (notification == BN_CLICKED) picker_.Open();
+  }
+
+ protected:
+  /// As the closed lists beside it.
+  LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override {
+    if (message == WM_ERASEBKGND) return 1;
+    if (message != WM_PAINT) return NativeWindow::OnMessage(message, w_param, l_param);
+    const BufferedPaint paint(Handle());
+    if (paint.Context() == nullptr) return 0;
+    const Theme& colors = picker_.Colors();
+    const bool is_enabled = IsWindowEnabled(picker_.Handle()) != 0;
+    SetDCBrushColor(paint.Context(), is_enabled ? colors.window : colors.face);
+    FillRect(paint.Context(), &paint.Room(), static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    Shapes(paint.Context()).Chevron(paint.Room(), is_enabled ? colors.text : colors.muted);
+    return 0;
   }
 
  private:
@@ -68,40 +83,35 @@ void Win32DatePicker::ShowDate() {
   is_showing_ = true;
   SetWindowTextW(Handle(), FormatDate(date_, format_).c_str());
   is_showing_ = false;
-  HideRefusal();
+  refusal_.Hide();
 }
 
 bool Win32DatePicker::RequireDate() {
   if (holds_date_) return true;
   TakeFocus();
-  shows_refusal_ = true;
   const platform::Date example(date_.Year(), 12, 31);
   const std::wstring refusal =
       Words().Translated("This is no date. Write a day and a month without a year, such as %1 or %2.",
                          FormatDate(example, L"d MMMM"), NumbersOfDay(example));
-  EDITBALLOONTIP balloon{};
-  balloon.cbStruct = sizeof balloon;
-  balloon.pszText = refusal.c_str();
-  balloon.ttiIcon = TTI_ERROR;
-  SendMessageW(Handle(), EM_SHOWBALLOONTIP, 0, reinterpret_cast<LPARAM>(&balloon));
+  refusal_.Show(refusal);
   NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
   return false;
 }
 
-void Win32DatePicker::HideRefusal() {
-  if (std::exchange(shows_refusal_, false)) SendMessageW(Handle(), EM_HIDEBALLOONTIP, 0, 0);
-}
-
 void Win32DatePicker::OnCommand(WORD notification, WORD /*id*/) {
-  if (notification != EN_CHANGE || is_showing_) return;
+  if (notification != EN_CHANGE) return;
+  // Changed text is painted over what stands in the line.
+  InvalidateRect(button_->Handle(), nullptr, FALSE);
+  if (is_showing_) return;
   const auto typed = TypedDates().Read(FromWide(WindowText(Handle())), date_.Year()).date;
   holds_date_ = typed && typed->Year() == date_.Year();
   if (!holds_date_) return;
   date_ = *typed;
-  HideRefusal();
+  refusal_.Hide();
 }
 
 void Win32DatePicker::OnFocusLost() {
+  refusal_.Hide();
   if (holds_date_) ShowDate();
 }
 
@@ -123,8 +133,7 @@ LRESULT Win32DatePicker::OnMessage(UINT message, WPARAM w_param, LPARAM l_param)
     return 0;
   }
   const LRESULT result = ControlWindow::OnMessage(message, w_param, l_param);
-  if (message == WM_SETFONT && button_ != nullptr)
-    SendMessageW(button_->Handle(), WM_SETFONT, w_param, l_param);
+  if (message == WM_ENABLE && button_ != nullptr) InvalidateRect(button_->Handle(), nullptr, FALSE);
   if (message == WM_SIZE && button_ != nullptr) {
     RECT area{};
     GetClientRect(Handle(), &area);

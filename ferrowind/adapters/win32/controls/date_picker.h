@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "ferrowind/adapters/win32/controls/balloon.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/platform/toolkit/date_picker.h"
 
@@ -23,7 +24,7 @@ class Win32DatePicker final : public Win32Control<platform::DatePicker> {
   [[nodiscard]] bool RequireDate() override;
 
   /// Whether the operator is told that the text is refused.
-  [[nodiscard]] bool ShowsRefusal() const { return shows_refusal_; }
+  [[nodiscard]] bool ShowsRefusal() const { return refusal_.IsShown(); }
 
   void OnCommand(WORD notification, WORD id) override;
   [[nodiscard]] bool CanHaveFocus() const override { return true; }
@@ -39,12 +40,11 @@ class Win32DatePicker final : public Win32Control<platform::DatePicker> {
 
   void Open();
   void ShowDate();
-  void HideRefusal();
 
   platform::Date date_;
   std::wstring format_;
   bool holds_date_ = true;
-  bool shows_refusal_ = false;
+  Balloon refusal_{*this};
   /// While the text is the program's, what the line tells of it is no news.
   bool is_showing_ = false;
   std::unique_ptr<OpenButton> button_;

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "ferrowind/adapters/win32/base/buffered_paint.h"
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/controls/shapes.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::win32 {
@@ -45,6 +47,70 @@ void Win32DropDownList::OnCommand(WORD notification, WORD /*id*/) {
 
 bool Win32DropDownList::KeepsKey(WPARAM key) const {
   return (key == VK_RETURN || key == VK_ESCAPE) && SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
+LRESULT Win32DropDownList::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {
+  if (!IsDark()) return ControlWindow::OnMessage(message, w_param, l_param);
+  switch (message) {
+    case WM_PAINT:
+      PaintDark();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    default:
+      break;
+  }
+  const LRESULT result = ControlWindow::OnMessage(message, w_param, l_param);
+  switch (message) {
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+    case WM_COMMAND:
+    case WM_KEYDOWN:
+    case WM_CHAR:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_MOUSEMOVE:
+    case WM_MOUSELEAVE:
+    case WM_MOUSEWHEEL:
+    case CB_SETCURSEL:
+    case CB_SHOWDROPDOWN:
+      // The platform's list has painted itself then, without being asked.
+      InvalidateRect(Handle(), nullptr, FALSE);
+      break;
+    default:
+      break;
+  }
+  return result;
+}
+
+void Win32DropDownList::PaintDark() const {
+  const BufferedPaint paint(Handle());
+  const HDC context = paint.Context();
+  if (context == nullptr) return;
+  const Theme& colors = Colors();
+  const bool is_enabled = IsWindowEnabled(Handle()) != 0;
+  const auto fill = [&](const RECT& area, COLORREF color) {
+    SetDCBrushColor(context, color);
+    FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+  };
+  RECT area = paint.Room();
+  fill(area, GetFocus() == Handle() ? colors.accent : colors.line);
+  InflateRect(&area, -1, -1);
+  fill(area, is_enabled ? colors.window : colors.face);
+  const LONG side = area.bottom - area.top;
+  const COLORREF written = is_enabled ? colors.text : colors.muted;
+  Shapes(context).Chevron({area.right - side, area.top, area.right, area.bottom}, written);
+  if (chosen_ < 0) return;
+  constexpr int kIndent = 3;
+  area.left += Scaled(kIndent, DotsPerInch());
+  area.right -= side;
+  const Selected font(context, Font());
+  SetBkMode(context, TRANSPARENT);
+  SetTextColor(context, written);
+  const std::wstring text = ToWide(ItemAt(chosen_).text);
+  DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 void Win32DropDownList::Place(const RECT& area) {

@@ -31,9 +31,13 @@ class Win32DropDownList final : public Win32Control<platform::DropDownList> {
   [[nodiscard]] bool KeepsKey(WPARAM key) const override;
 
  protected:
+  LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;
   [[nodiscard]] SIZE NeededSize() const override;
 
  private:
+  /// The closed list in dark colours, which the platform's does not have.
+  void PaintDark() const;
+
   struct Item {
     std::string text;
     std::int32_t data;

@@ -64,19 +64,19 @@ void Shapes::Disc(const ShapePoint& middle, double across, double down, COLORREF
   canvas_->graphics.Flush(Gdiplus::FlushIntentionSync);
 }
 
+void Shapes::Chevron(const RECT& room, COLORREF color) {
+  constexpr double kParts = 10;
+  const double unit = static_cast<double>(room.bottom - room.top) / kParts;
+  const double x = static_cast<double>(room.left + room.right) / 2;
+  const double y = static_cast<double>(room.top + room.bottom) / 2;
+  Line({{x - 2 * unit, y - unit}, {x, y + unit}, {x + 2 * unit, y - unit}}, unit / 2, color);
+}
+
 void Shapes::Clip(const RECT& area) {
   canvas_->graphics.SetClip(
       Gdiplus::Rect(area.left, area.top, area.right - area.left, area.bottom - area.top));
 }
 
 void Shapes::ClipNothing() { canvas_->graphics.ResetClip(); }
-
-void Shapes::HalfDisc(const ShapePoint& middle, double radius, COLORREF color) {
-  const Gdiplus::SolidBrush brush(ColorOf(color));
-  constexpr float kFromBottom = 90;
-  constexpr float kHalf = 180;
-  canvas_->graphics.FillPie(&brush, Around(middle, radius, radius), kFromBottom, kHalf);
-  canvas_->graphics.Flush(Gdiplus::FlushIntentionSync);
-}
 
 }  // namespace ferrowind::win32

@@ -30,8 +30,9 @@ class Shapes {
   void Ring(const ShapePoint& middle, double across, double down, double width, COLORREF color);
   void Disc(const ShapePoint& middle, double across, double down, COLORREF color);
   ///@}
-  /// The half of a disc left of its middle.
-  void HalfDisc(const ShapePoint& middle, double radius, COLORREF color);
+
+  /// What opens a list, in the middle of the room.
+  void Chevron(const RECT& room, COLORREF color);
 
   /// Draws nothing outside of that area until `ClipNothing`.
   void Clip(const RECT& area);

@@ -87,16 +87,15 @@ void Win32TextBox::TellLength() {
   const std::wstring text = Trimmed(ToWide(text_));
   const auto length = text.size() - static_cast<std::size_t>(SecondHalves(text));
   if (length <= longest_text_) {
-    if (std::exchange(tells_length_, false)) SendMessageW(Handle(), EM_HIDEBALLOONTIP, 0, 0);
+    length_note_.Hide();
     return;
   }
-  tells_length_ = true;
-  const std::wstring note = std::to_wstring(length) + L" / " + std::to_wstring(longest_text_);
-  EDITBALLOONTIP balloon{};
-  balloon.cbStruct = sizeof balloon;
-  balloon.pszText = note.c_str();
-  balloon.ttiIcon = TTI_WARNING;
-  SendMessageW(Handle(), EM_SHOWBALLOONTIP, 0, reinterpret_cast<LPARAM>(&balloon));
+  length_note_.Show(std::to_wstring(length) + L" / " + std::to_wstring(longest_text_));
+}
+
+void Win32TextBox::OnFocusLost() {
+  length_note_.Hide();
+  RaiseEvent(lost_focus_);
 }
 
 LRESULT Win32TextBox::OnMessage(UINT message, WPARAM w_param, LPARAM l_param) {

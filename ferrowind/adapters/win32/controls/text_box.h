@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "ferrowind/adapters/win32/controls/balloon.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/platform/toolkit/text_box.h"
 
@@ -40,7 +41,7 @@ class Win32TextBox final : public Win32Control<platform::TextBox> {
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM w_param, LPARAM l_param) override;
-  void OnFocusLost() override { RaiseEvent(lost_focus_); }
+  void OnFocusLost() override;
   [[nodiscard]] SIZE NeededSize() const override;
 
  private:
@@ -53,7 +54,7 @@ class Win32TextBox final : public Win32Control<platform::TextBox> {
   std::wstring placeholder_;
   std::int32_t max_length_ = 0;
   std::size_t longest_text_ = 0;
-  bool tells_length_ = false;
+  Balloon length_note_{*this};
   bool takes_enter_ = false;
   bool selects_on_focus_ = false;
   platform::Signal<> changed_;

@@ -4,8 +4,10 @@
 #include <cwchar>
 #include <utility>
 
+#include "ferrowind/adapters/glyphs/tool_faces.h"
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/controls/glyph_pictures.h"
 #include "ferrowind/adapters/win32/controls/marked_caption.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -28,14 +30,21 @@ Win32ToolBar::Win32ToolBar(ControlHost& host, std::string name, HWND parent)
                              CCS_NORESIZE | CCS_NODIVIDER,
                     .parent = parent}) {
   SendMessageW(Handle(), TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
-  // Tools are named by their captions alone until they have images.
+  // A tool with a picture is named by its caption, which is not shown then.
+  SendMessageW(Handle(), TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
   SendMessageW(Handle(), TB_SETBITMAPSIZE, 0, 0);
 }
 
 void Win32ToolBar::AddTool(const platform::ToolDesign& tool) {
   RequireUnusedId(tool.id);
   const int command = kFirstCommand + static_cast<int>(tools_.size());
-  tools_.emplace(tool.id, Tool{tool, command, ReadShortcut(tool.shortcut)});
+  Tool added{.design = tool, .command = command};
+  if (const glyphs::ToolFace* face = glyphs::FindToolFace(tool.id)) {
+    added.glyph = face->glyph;
+    if (added.design.shortcut.empty()) added.design.shortcut = face->shortcut;
+  }
+  added.shortcut = ReadShortcut(added.design.shortcut);
+  tools_.emplace(tool.id, std::move(added));
 }
 
 void Win32ToolBar::SetBar(const std::string& /*caption*/, const std::vector<std::string>& ids) {
@@ -54,6 +63,11 @@ void Win32ToolBar::AddPopupMenu(const std::string& id, const std::string& /*capt
 void Win32ToolBar::FillBar() {
   while (SendMessageW(Handle(), TB_DELETEBUTTON, 0, 0) != 0) {
   }
+  glyphs_.clear();
+  for (const std::string& id : bar_) {
+    if (id != platform::kToolSeparator && ToolOf(id).glyph != nullptr) glyphs_.push_back(ToolOf(id).glyph);
+  }
+  UsePictures();
   for (const std::string& id : bar_) {
     TBBUTTON button{};
     std::wstring caption;
@@ -62,9 +76,10 @@ void Win32ToolBar::FillBar() {
     } else {
       const Tool& tool = ToolOf(id);
       caption = MarkedCaption(tool.design.caption);
-      button.iBitmap = I_IMAGENONE;
+      button.iBitmap = PlaceOf(tool.glyph);
       button.idCommand = tool.command;
-      button.fsStyle = BTNS_AUTOSIZE | BTNS_SHOWTEXT;
+      button.fsStyle = BTNS_AUTOSIZE;
+      if (tool.glyph == nullptr) button.fsStyle |= BTNS_SHOWTEXT;
       if (tool.design.kind == platform::ToolKind::kTwoStateButton) button.fsStyle |= BTNS_CHECK;
       button.iString = reinterpret_cast<INT_PTR>(caption.c_str());
     }
@@ -73,6 +88,31 @@ void Win32ToolBar::FillBar() {
   }
   SendMessageW(Handle(), TB_AUTOSIZE, 0, 0);
   NeedsOtherRoom();
+}
+
+void Win32ToolBar::UsePictures() {
+  if (glyphs_.empty()) return;
+  constexpr int kPictureSide = 20;
+  const int side = Scaled(kPictureSide, DotsPerInch());
+  const Theme& colors = Colors();
+  const COLORREF faint = Blend(colors.face, colors.muted, 0.5);
+  auto pictures = PicturesOf(glyphs_, side, {colors.face_text, colors.accent});
+  auto faint_pictures = PicturesOf(glyphs_, side, {faint, faint});
+  SendMessageW(Handle(), TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures.get()));
+  SendMessageW(Handle(), TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(faint_pictures.get()));
+  // Those before go now that the bar has others.
+  pictures_ = std::move(pictures);
+  faint_pictures_ = std::move(faint_pictures);
+}
+
+int Win32ToolBar::PlaceOf(glyphs::MakeGlyph glyph) const {
+  const auto found = std::find(glyphs_.begin(), glyphs_.end(), glyph);
+  return glyph == nullptr || found == glyphs_.end() ? I_IMAGENONE : static_cast<int>(found - glyphs_.begin());
+}
+
+void Win32ToolBar::UseFont(HFONT font) {
+  ControlWindow::UseFont(font);
+  UsePictures();
 }
 
 void Win32ToolBar::ShowState(const Tool& tool) {
@@ -213,6 +253,15 @@ LRESULT Win32ToolBar::DrawDark(NMTBCUSTOMDRAW& drawing) const {
   if ((state & CDIS_CHECKED) != 0) {
     SetDCBrushColor(drawing.nmcd.hdc, Colors().accent);
     FrameRect(drawing.nmcd.hdc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+  }
+  if (const int picture = PlaceOf(found->second.glyph); picture >= 0) {
+    const HIMAGELIST pictures = (state & CDIS_DISABLED) != 0 ? faint_pictures_.get() : pictures_.get();
+    int width = 0;
+    int height = 0;
+    ImageList_GetIconSize(pictures, &width, &height);
+    ImageList_Draw(pictures, picture, drawing.nmcd.hdc, (area.left + area.right - width) / 2,
+                   (area.top + area.bottom - height) / 2, ILD_NORMAL);
+    return CDRF_SKIPDEFAULT;
   }
   const std::wstring caption = MarkedCaption(found->second.design.caption);
   const Selected font(drawing.nmcd.hdc, Font());

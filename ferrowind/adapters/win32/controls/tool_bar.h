@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/glyphs/glyph.h"
 #include "ferrowind/adapters/win32/base/handles.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/adapters/win32/controls/shortcut.h"
@@ -54,6 +55,8 @@ class Win32ToolBar final : public Win32Control<platform::ToolBar> {
   /// The number by which the platform knows a tool on the bar and in menus.
   [[nodiscard]] int CommandOf(const std::string& id) const { return ToolOf(id).command; }
 
+  void UseColors() override { UsePictures(); }
+  void UseFont(HFONT font) override;
   void OnCommand(WORD notification, WORD id) override;
   [[nodiscard]] std::optional<LRESULT> OnNotify(NMHDR& header) override;
   /// A menu that the form has open came to the item of that command.
@@ -69,6 +72,8 @@ class Win32ToolBar final : public Win32Control<platform::ToolBar> {
   struct Tool {
     platform::ToolDesign design;
     int command = 0;
+    /// Null for a tool that shows its caption.
+    glyphs::MakeGlyph glyph = nullptr;
     std::optional<KeyPress> shortcut = {};
     bool is_enabled = true;
     bool is_pressed = false;
@@ -82,6 +87,10 @@ class Win32ToolBar final : public Win32Control<platform::ToolBar> {
   void RequireTools(const std::vector<std::string>& ids) const;
   [[nodiscard]] LRESULT DrawDark(NMTBCUSTOMDRAW& drawing) const;
   void FillBar();
+  /// Draws the glyphs of the tools on the bar for the resolution and the colours of now.
+  void UsePictures();
+  /// Where the pictures have that glyph; `I_IMAGENONE` for none.
+  [[nodiscard]] int PlaceOf(glyphs::MakeGlyph glyph) const;
   void ShowState(const Tool& tool);
   [[nodiscard]] UniqueMenu MakeMenu(const std::vector<std::string>& ids) const;
   void Click(Tool& tool);
@@ -92,6 +101,10 @@ class Win32ToolBar final : public Win32Control<platform::ToolBar> {
   std::map<std::string, Tool> tools_;
   std::map<std::string, std::vector<std::string>> menus_;
   std::vector<std::string> bar_;
+  /// Those on the bar, in the order of the pictures.
+  std::vector<glyphs::MakeGlyph> glyphs_;
+  UniqueImageList pictures_;
+  UniqueImageList faint_pictures_;
   std::string tool_under_mouse_;
   std::optional<POINT> menu_place_;
   platform::Signal<const std::string&> clicked_;

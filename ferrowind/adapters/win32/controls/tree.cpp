@@ -4,8 +4,10 @@
 #include <cwchar>
 #include <utility>
 
+#include "ferrowind/adapters/glyphs/tree_glyphs.h"
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
+#include "ferrowind/adapters/win32/controls/glyph_pictures.h"
 #include "ferrowind/adapters/win32/controls/while_true.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -52,7 +54,8 @@ void Win32Tree::Add(std::optional<std::string> parent, const TreeNode& node) {
   TVINSERTSTRUCTW insertion{};
   insertion.hParent = around;
   insertion.hInsertAfter = TVI_LAST;
-  insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
+  insertion.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+  insertion.item.iImage = insertion.item.iSelectedImage = PlaceOf(glyphs::TreeGlyph(node.image));
   insertion.item.pszText = text.data();
   insertion.item.lParam = reinterpret_cast<LPARAM>(&added->second);
   added->second.item = reinterpret_cast<HTREEITEM>(
@@ -207,7 +210,36 @@ LRESULT Win32Tree::DrawDark(NMTVCUSTOMDRAW& drawing) const {
   return CDRF_NEWFONT;
 }
 
+int Win32Tree::PlaceOf(glyphs::MakeGlyph glyph) {
+  if (glyph == nullptr) return I_IMAGENONE;
+  const auto known = std::find(glyphs_.begin(), glyphs_.end(), glyph);
+  const auto place = static_cast<int>(known - glyphs_.begin());
+  if (known == glyphs_.end()) {
+    glyphs_.push_back(glyph);
+    UsePictures();
+  }
+  return place;
+}
+
+void Win32Tree::UsePictures() {
+  if (glyphs_.empty()) return;
+  constexpr int kPictureSide = 16;
+  auto pictures = PicturesOf(glyphs_, Scaled(kPictureSide, DotsPerInch()), {Colors().text, Colors().accent});
+  SendMessageW(Handle(), TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(pictures.get()));
+  // Those before go now that the tree has others.
+  pictures_ = std::move(pictures);
+}
+
+void Win32Tree::UseFont(HFONT font) {
+  ControlWindow::UseFont(font);
+  constexpr int kAroundText = 6;
+  SendMessageW(Handle(), TVM_SETITEMHEIGHT,
+               static_cast<WPARAM>(TextSize("X").cy + Scaled(kAroundText, DotsPerInch())), 0);
+  UsePictures();
+}
+
 void Win32Tree::UseColors() {
+  UsePictures();
   constexpr LPARAM kPlatforms = -1;
   const bool is_dark = IsDark();
   SendMessageW(Handle(), TVM_SETBKCOLOR, 0, is_dark ? static_cast<LPARAM>(Colors().window) : kPlatforms);

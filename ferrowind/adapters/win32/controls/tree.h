@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "ferrowind/adapters/glyphs/glyph.h"
+#include "ferrowind/adapters/win32/base/handles.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/platform/toolkit/tree.h"
 
@@ -49,6 +51,7 @@ class Win32Tree final : public Win32Control<platform::Tree> {
 
   [[nodiscard]] std::optional<LRESULT> OnNotify(NMHDR& header) override;
   void UseColors() override;
+  void UseFont(HFONT font) override;
   [[nodiscard]] bool CanHaveFocus() const override { return true; }
   [[nodiscard]] bool TakesText() const override { return true; }
 
@@ -73,11 +76,18 @@ class Win32Tree final : public Win32Control<platform::Tree> {
   void Add(std::optional<std::string> parent, const platform::TreeNode& node);
   [[nodiscard]] std::optional<std::string> KeyOf(HTREEITEM item) const;
   [[nodiscard]] HTREEITEM Next(UINT relation, HTREEITEM item) const;
+  /// Where the pictures have that glyph, which they get if they lack it; none for no glyph.
+  [[nodiscard]] int PlaceOf(glyphs::MakeGlyph glyph);
+  /// Draws the glyphs of the nodes for the resolution and the colours of now.
+  void UsePictures();
   void NoteExpansion(Node& node, bool is_expanded);
   void TellTip(NMTVGETINFOTIPW& asked) const;
   void TellClickAtMouse();
 
   std::map<std::string, Node> nodes_;
+  /// Those of the nodes, in the order of the pictures.
+  std::vector<glyphs::MakeGlyph> glyphs_;
+  UniqueImageList pictures_;
   /// The node whose click is to be told.
   std::string clicked_key_;
   /// While the program selects or removes nodes, what the platform tells of that is no news.

@@ -67,9 +67,13 @@ LayoutPlace HolidayEditor() {
 }
 
 LayoutPlace YearQuestion() {
-  return Dialog({Row({Control("lblCreate"), Held("pct", LayoutDirection::kRow, {Control("txtYear")}),
-                      Control("udYear", 0, "Year"), Rest()}),
-                 Control("lblRange"), Rest(), Row({Rest(), Control("cmdCreate"), Control("cmdCancel")})});
+  // The arrows belong to the box.
+  LayoutPlace year{
+      .direction = LayoutDirection::kRow,
+      .gap = 0,
+      .places = {Held("pct", LayoutDirection::kRow, {Control("txtYear")}), Control("udYear", 0, "Year")}};
+  return Dialog({Row({Control("lblCreate"), std::move(year), Rest()}), Control("lblRange"), Rest(),
+                 Row({Rest(), Control("cmdCreate"), Control("cmdCancel")})});
 }
 
 LayoutPlace ExceptionQuestion() {

@@ -18,8 +18,11 @@ struct LayoutPlace {
   int stretch = 0;
   /// What assistive programs call it, in English; "" for a control whose own text or whose label says it.
   const char* spoken_name = "";
-  /// The pixels around what it holds, designed for 96 to the inch.
+  ///@{
+  /// The pixels around what it holds, and between that; designed for 96 to the inch.
   int margin = 0;
+  int gap = 6;
+  ///@}
   std::vector<LayoutPlace> places = {};
 };
 

@@ -5,6 +5,7 @@
 #include "ferrowind/adapters/win32/base/twips.h"
 #include "ferrowind/adapters/win32/controls/control_window.h"
 #include "ferrowind/adapters/win32/controls/holder.h"
+#include "ferrowind/adapters/win32/controls/label.h"
 
 namespace ferrowind::win32 {
 namespace {
@@ -28,7 +29,10 @@ PlacedLayout::PlacedLayout(const LayoutPlace& layout, const Make& make)
 
 PlacedLayout::Node PlacedLayout::MakeNode(const LayoutPlace& place, ControlWindow* container,
                                           const Make& make) {
-  Node node{place.direction, static_cast<double>(place.stretch), place.margin, nullptr, nullptr, {}, 0};
+  Node node{.direction = place.direction,
+            .share = static_cast<double>(place.stretch),
+            .margin = place.margin,
+            .gap = place.gap};
   if (!place.name.empty()) node.control = make(place, container);
   node.holder = dynamic_cast<Win32Holder*>(node.control);
   for (const LayoutPlace& inside : place.places) {
@@ -71,10 +75,7 @@ bool PlacedLayout::IsShown(const Node& node) {
   return node.nodes.empty() || std::any_of(node.nodes.begin(), node.nodes.end(), IsShown);
 }
 
-LONG PlacedLayout::Gap(const Node& /*node*/, UINT dots_per_inch) {
-  constexpr int kGap = 6;
-  return Scaled(kGap, dots_per_inch);
-}
+LONG PlacedLayout::Gap(const Node& node, UINT dots_per_inch) { return Scaled(node.gap, dots_per_inch); }
 
 RECT PlacedLayout::MarginsOf(const Node& node, UINT dots_per_inch) {
   RECT margins = node.holder != nullptr ? node.holder->Margins() : RECT{};
@@ -101,13 +102,41 @@ SIZE PlacedLayout::NeededBy(const Node& node, UINT dots_per_inch) {
     gap = Gap(node, dots_per_inch);
   }
   const SIZE own = node.control != nullptr ? node.control->WantedSize() : SIZE{};
-  return {std::max(own.cx, inside.cx + margins.left + margins.right),
+  return {std::max({own.cx, inside.cx + margins.left + margins.right, node.least_width}),
           std::max(own.cy, inside.cy + margins.top + margins.bottom)};
 }
 
-SIZE PlacedLayout::NeededSize(UINT dots_per_inch) const { return NeededBy(root_, dots_per_inch); }
+template <typename Found>
+void PlacedLayout::FindRowLabels(Node& node, LONG left, UINT dots_per_inch, const Found& found) {
+  left += MarginsOf(node, dots_per_inch).left;
+  const auto is_label = [](const Node& part) {
+    return dynamic_cast<const Win32Label*>(part.control) != nullptr;
+  };
+  bool leads = IsRow(node.direction);
+  for (Node& part : node.nodes) {
+    leads = leads && is_label(part);
+    if (leads) found(part, left);
+    // What stands beside others begins where those leave it.
+    if (!IsRow(node.direction)) FindRowLabels(part, left, dots_per_inch, found);
+  }
+}
 
-void PlacedLayout::Arrange(const RECT& room, UINT dots_per_inch) { Put(root_, room, dots_per_inch); }
+void PlacedLayout::LineUpLabels(UINT dots_per_inch) {
+  LONG end = 0;
+  FindRowLabels(root_, 0, dots_per_inch,
+                [&](Node& label, LONG left) { end = std::max(end, left + label.control->WantedSize().cx); });
+  FindRowLabels(root_, 0, dots_per_inch, [end](Node& label, LONG left) { label.least_width = end - left; });
+}
+
+SIZE PlacedLayout::NeededSize(UINT dots_per_inch) {
+  LineUpLabels(dots_per_inch);
+  return NeededBy(root_, dots_per_inch);
+}
+
+void PlacedLayout::Arrange(const RECT& room, UINT dots_per_inch) {
+  LineUpLabels(dots_per_inch);
+  Put(root_, room, dots_per_inch);
+}
 
 void PlacedLayout::Put(Node& node, const RECT& area, UINT dots_per_inch) {
   RECT inside = area;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/adapters/win32/base/modal_show.h"
+#include "ferrowind/adapters/win32/base/present_controls.h"
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/adapters/win32/base/window_thread.h"
 #include "ferrowind/adapters/windows/system_message.h"
@@ -80,6 +81,7 @@ void ShowMessageBox(const Message& message) {
   DWORD error = ERROR_SUCCESS;
   {
     const BoxFinder finder(*site, show);
+    const PresentControls present;
     answer = MessageBoxW(show.Owner(), Shown(message.text).c_str(), message.title.c_str(), style);
     error = GetLastError();
   }

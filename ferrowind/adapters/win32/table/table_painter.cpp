@@ -164,7 +164,7 @@ void TablePainter::PaintCell(const RECT& area, std::size_t row, std::size_t colu
   if (alignment == CellAlignment::kTrailing) room.left += spare;
   if (cell.mark != CellMark::kNone) {
     const LONG top = (area.top + area.bottom - geometry.MarkSide()) / 2;
-    PaintMark(context_, {room.left, top}, geometry.MarkSide(), cell.mark, color, shade.ground);
+    PaintMark(context_, {room.left, top}, geometry.MarkSide(), cell.mark, color);
     room.left += geometry.MarkSide() + pad;
   }
   if (room.left >= room.right) return;
