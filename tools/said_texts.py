@@ -256,10 +256,10 @@ def texts_of_layout(path):
             and property.findtext("string")}
 
 
-def texts_of_tree(root):
-    """All said texts of the sources under root, which is the repository."""
+def texts_of_tree(root, folders=FOLDERS):
+    """All said texts of the sources in those folders under root, which is the repository."""
     texts = set()
-    for folder in FOLDERS:
+    for folder in folders:
         for path in sorted((root / folder).rglob("*")):
             name = path.relative_to(root).as_posix()
             if path.suffix in (".cpp", ".h"):

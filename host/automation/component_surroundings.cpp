@@ -13,9 +13,11 @@
 #include "ferrowind/adapters/win32/services/registry_settings.h"
 #include "ferrowind/adapters/win32/services/win32_locale.h"
 #include "ferrowind/adapters/win32/services/win32_shared_services.h"
+#include "ferrowind/adapters/win32/words/native_words.h"
 #include "ferrowind/platform/database/engine_command.h"
 #include "ferrowind/platform/database/engine_registry.h"
 #include "ferrowind/platform/platform.h"
+#include "ferrowind/platform/services/words.h"
 
 #include "host/automation/component_dictionary.h"
 #include "host/automation/registered_text.h"
@@ -45,6 +47,13 @@ std::string ComponentFolder() {
   return automation::Utf8(file.substr(0, file.find_last_of(L'\\')));
 }
 
+/// Kept as long as the file is loaded: what is left of a window may still speak when its surroundings have
+/// gone.
+const platform::Words& WordsOfUser() {
+  static const win32::NativeWords words;
+  return words;
+}
+
 class ComponentSurroundings : public automation::Surroundings {
  public:
   [[nodiscard]] const platform::Platform& Get() const override { return platform_; }
@@ -56,7 +65,7 @@ class ComponentSurroundings : public automation::Surroundings {
   automation::OutsideObjects objects_{
       [] { return std::make_shared<win32::Win32SharedServices>(win32::RegistrySettings(), MakeTrace()); },
       [engines = engines_] { return std::make_shared<ComponentDictionary>(engines); }};
-  win32::Win32Toolkit toolkit_;
+  win32::Win32Toolkit toolkit_{win32::ComponentLayouts(), &WordsOfUser()};
   win32::Win32Locale locale_;
   SystemClock clock_;
   platform::Platform platform_{objects_, commands_, toolkit_, locale_, clock_, ComponentFolder()};

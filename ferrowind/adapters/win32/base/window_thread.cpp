@@ -43,22 +43,19 @@ class WindowThread::Receiver final : public NativeWindow {
   WindowThread& thread_;
 };
 
-std::shared_ptr<WindowThread> WindowThread::OfThisThread(Wording words) {
+std::shared_ptr<WindowThread> WindowThread::OfThisThread() {
   static thread_local std::weak_ptr<WindowThread> of_this_thread;
   auto thread = of_this_thread.lock();
   if (thread == nullptr) {
-    thread.reset(new WindowThread(words));
+    thread.reset(new WindowThread);
     of_this_thread = thread;
   }
-  thread->words_ = words;
   return thread;
 }
 
 int WindowThread::Count() { return count; }
 
-WindowThread::WindowThread(Wording words) : words_(words), receiver_(std::make_unique<Receiver>(*this)) {
-  ++count;
-}
+WindowThread::WindowThread() : receiver_(std::make_unique<Receiver>(*this)) { ++count; }
 
 WindowThread::~WindowThread() { --count; }
 

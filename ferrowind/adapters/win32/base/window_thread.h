@@ -23,9 +23,8 @@ class ModalShow;
 /// dispatches messages.
 class WindowThread : public std::enable_shared_from_this<WindowThread> {
  public:
-  /// The one of the calling thread, which is made when nobody has it; never null. From now on its forms have
-  /// those words.
-  [[nodiscard]] static std::shared_ptr<WindowThread> OfThisThread(Wording words = Wording(nullptr));
+  /// The one of the calling thread, which is made when nobody has it; never null.
+  [[nodiscard]] static std::shared_ptr<WindowThread> OfThisThread();
   /// How many threads have one: while there are any, the platform may call what is in this file.
   [[nodiscard]] static int Count();
   ~WindowThread();
@@ -33,6 +32,8 @@ class WindowThread : public std::enable_shared_from_this<WindowThread> {
   WindowThread& operator=(const WindowThread&) = delete;
 
   [[nodiscard]] const Wording& Words() const { return words_; }
+  /// From now on its forms have those; until then they are English.
+  void UseWords(const Wording& words) { words_ = words; }
   [[nodiscard]] const Theme& Colors() const { return colors_; }
   /// Looks at the user's colours anew, which have changed.
   void TakeColors() { colors_ = Theme::OfUser(); }
@@ -56,11 +57,11 @@ class WindowThread : public std::enable_shared_from_this<WindowThread> {
  private:
   class Receiver;
 
-  explicit WindowThread(Wording words);
+  WindowThread();
   void Fire(UINT_PTR timer);
   void DeleteRetired();
 
-  Wording words_;
+  Wording words_ = Wording(nullptr);
   Theme colors_ = Theme::OfUser();
   std::unique_ptr<Receiver> receiver_;
   std::map<UINT_PTR, std::function<void()>> timers_;

@@ -57,7 +57,8 @@ class Win32Toolkit::UpdateLock {
 
 Win32Toolkit::Win32Toolkit(FormLayouts layouts, const platform::Words* words) : layouts_(std::move(layouts)) {
   UsePlatformControls();
-  thread_ = WindowThread::OfThisThread(Wording(words));
+  thread_ = WindowThread::OfThisThread();
+  thread_->UseWords(Wording(words));
 }
 
 Win32Toolkit::~Win32Toolkit() = default;
