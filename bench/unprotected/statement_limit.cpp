@@ -12,4 +12,6 @@ StatementLimit::StatementLimit(const DatabaseHandle& database, std::chrono::mill
 
 StatementLimit::~StatementLimit() = default;
 
+void StatementLimit::RequireTime() const {}
+
 }  // namespace ferrowind::sqlite
