@@ -66,7 +66,7 @@ ferrowind_add_components(ferrowind platform control business_days loading adapte
 
 if("qt" IN_LIST FERROWIND_ADAPTERS)
   ferrowind_add_host_library(ferrowind-qt
-    LEAVES adapters_grid_content adapters_grid_engine adapters_operator_services adapters_table_engine adapters_year_engine adapters_qt_values adapters_qt_dates
+    LEAVES adapters_glyphs adapters_grid_content adapters_grid_engine adapters_operator_services adapters_table_engine adapters_year_engine adapters_qt_values adapters_qt_dates
       adapters_qt_look adapters_qt_controls adapters_qt_grid adapters_qt_table adapters_qt_year
       adapters_qt_forms adapters_qt_settings adapters_qt_services adapters_qt_embedding
     DEPENDS ferrowind_host_library_ferrowind Qt6::Widgets
