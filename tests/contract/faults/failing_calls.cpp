@@ -40,7 +40,12 @@ bool IsOfASocket(std::string_view name) { return IsOneOf(name, {"recv", "send", 
 int Next(const char* name) {
   if (record == nullptr) return 0;
   if (record->count < Record::kMostCalls) record->names[record->count] = name;
-  if (++record->count != chosen_call || !CanGoWrong(name, chosen_way)) {
+  ++record->count;
+  // Where what a call brings depends on the time, the chosen one may be another call than it was when they
+  // were counted.
+  const bool is_it =
+      chosen_call != 0 && !record->has_fired && record->count >= chosen_call && CanGoWrong(name, chosen_way);
+  if (!is_it) {
     return is_disk_full && TakesRoom(name) ? ENOSPC : 0;
   }
   record->has_fired = true;

@@ -27,14 +27,14 @@ struct Record {
   static constexpr int kMostCalls = 40000;
   /// How many there were since `Arm`.
   int count = 0;
-  /// Whether the chosen call came, and could go wrong in the chosen way.
+  /// Whether the chosen call came, or one behind it, that could go wrong in the chosen way.
   bool has_fired = false;
   /// The name of each call, as far as there is room; lives as long as the library.
   const char* names[kMostCalls] = {};
 };
 
-/// Counts the calls of the process from now on into `record`; the `chosen`, from 1, goes wrong in that `way`.
-/// 0 for none.
+/// Counts the calls of the process from now on into `record`; the `chosen`, from 1, or the next that can,
+/// goes wrong in that `way`. 0 for none.
 void Arm(Record& record, int chosen, Way way);
 void Disarm();
 
