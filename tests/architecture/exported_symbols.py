@@ -4,9 +4,9 @@ was linked with an earlier release finds all that it was linked with.
 
 usage: exported_symbols.py [--update] LISTS LIBRARY ...
 
-A line is a function, a variable, or what the compiler keeps of a class; for the table of an interface's virtual functions with its
-size, which changes with their number. What is gone or changed breaks such programs and is for the next major version, unless it was
-private and no inline function of a header used it. What is new is taken into the list with --update.
+A line is a function, a variable, or what the compiler keeps of a class. What is gone or changed breaks such programs and is for the
+next major version, unless it was private and no inline function of a header used it. What is new is taken into the list with
+--update. How types lie in memory is looked at by layouts.py.
 """
 
 import argparse
@@ -15,12 +15,11 @@ import re
 import subprocess
 import sys
 
-SYMBOL = re.compile(r"^\s*\d+:\s+[0-9a-f]+\s+(0x[0-9a-f]+|\d+)\s+(FUNC|OBJECT)\s+(GLOBAL|WEAK)\s+DEFAULT\s+(?!UND)\S+\s+(_Z[^\s@]+)",
-                    re.MULTILINE)
-# As cmake/exported_symbols.map has them. Inline functions are weak, and are compiled into whoever calls them.
-FUNCTIONS_AND_VARIABLES = re.compile(r"_ZNK?9ferrowind")
-OF_CLASSES = re.compile(r"_ZT[VI]N9ferrowind")
-TABLE_OF_FUNCTIONS = "_ZTV"
+SYMBOL = re.compile(r"^\s*\d+:\s+[0-9a-f]+\s+\S+\s+(?:FUNC|OBJECT)\s+(GLOBAL|WEAK)\s+DEFAULT\s+(?!UND)\S+\s+(_Z[^\s@]+)", re.MULTILINE)
+# As cmake/exported_symbols.map has them. Inline functions are weak and are compiled into whoever calls them, and so are the tables
+# of virtual functions of interfaces, which a compiler that optimises drops besides.
+SHOWN = re.compile(r"_Z(?:NK?|TVN)9ferrowind")
+TYPE_OF_CLASS = re.compile(r"_ZTIN9ferrowind")
 
 
 def output_of(command: list[str], text: str | None = None) -> str:
@@ -28,14 +27,9 @@ def output_of(command: list[str], text: str | None = None) -> str:
 
 
 def exported(library: pathlib.Path) -> list[str]:
-    symbols = {}
-    for size, _, binding, name in SYMBOL.findall(output_of(["readelf", "--wide", "--symbols", str(library)])):
-        if OF_CLASSES.match(name) or (binding == "GLOBAL" and FUNCTIONS_AND_VARIABLES.match(name)):
-            # Other tables have an object file of their own, where sanitizers put room around them.
-            is_of_interface = name.startswith(TABLE_OF_FUNCTIONS) and binding == "WEAK"
-            symbols[name] = f" ({int(size, 0)} bytes)" if is_of_interface else ""
-    readable = output_of(["c++filt"], "\n".join(symbols)).splitlines()
-    return sorted({text + size for text, size in zip(readable, symbols.values(), strict=True)})
+    found = SYMBOL.findall(output_of(["readelf", "--wide", "--symbols", str(library)]))
+    names = {name for binding, name in found if TYPE_OF_CLASS.match(name) or (binding == "GLOBAL" and SHOWN.match(name))}
+    return sorted(set(output_of(["c++filt"], "\n".join(names)).splitlines()))
 
 
 def differences(kept: list[str], found: list[str], library: str) -> list[str]:

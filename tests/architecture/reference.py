@@ -22,11 +22,14 @@ MARKED = re.compile(r"^ *(?:class|struct|enum class) FERROWIND_EXPORT (\w+)", re
 INPUT = re.compile(r"^INPUT *= (.*)$", re.MULTILINE)
 
 
+def headers_of(settings: str) -> list[pathlib.Path]:
+    [inputs] = INPUT.findall(settings)
+    return [pathlib.Path(name) for name in shlex.split(inputs) if name.endswith(".h")]
+
+
 def marked_names(settings: str) -> set[str]:
     """The types that the headers mark for hosts, so that one that Doxygen passes over is seen."""
-    [inputs] = INPUT.findall(settings)
-    headers = [pathlib.Path(name) for name in shlex.split(inputs) if name.endswith(".h")]
-    return {name for header in headers for name in MARKED.findall(header.read_text(encoding="utf-8"))}
+    return {name for header in headers_of(settings) for name in MARKED.findall(header.read_text(encoding="utf-8"))}
 
 
 def found_names(index: pathlib.Path) -> set[str]:
