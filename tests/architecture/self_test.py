@@ -12,6 +12,7 @@ import tempfile
 import unittest
 
 import brought_programs
+import build_depends
 import core_only
 import exported_symbols
 import failure_texts
@@ -702,6 +703,26 @@ class ExportedSymbols(TemporaryTree):
         status, said = self.check("namespace ferrowind {}\n")
         self.assertEqual(status, 1)
         self.assertIn("nothing at all", said)
+
+
+class BuildDepends(TemporaryTree):
+    PACKAGES = "# group package # why\nbuild   g++   # the compiler\nbuild   cmake # configures\nbuild   libpq-dev # the server\ntest    doxygen # tells\n"
+
+    def check(self, depends):
+        self.write("tools/packages.txt", self.PACKAGES)
+        self.write("debian/control", f"Source: ferrowind\nBuild-Depends:\n{depends}\nPackage: ferrowind\n")
+        said = io.StringIO()
+        with contextlib.redirect_stdout(said):
+            status = build_depends.main([str(self.root)])
+        return status, said.getvalue()
+
+    def test_accepts_all_but_the_compiler(self):
+        self.assertEqual(self.check(" cmake (>= 3.25),\n libpq-dev,\n python3:any\n")[0], 0)
+
+    def test_names_what_packages_are_built_without(self):
+        status, said = self.check(" cmake (>= 3.25)\n")
+        self.assertEqual(status, 1)
+        self.assertIn("libpq-dev", said)
 
 
 class Layouts(TemporaryTree):
