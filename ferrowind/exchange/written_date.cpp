@@ -17,7 +17,7 @@ using platform::CompareIgnoringCase;
 using platform::Date;
 
 constexpr const char* kExpected =
-    "YYYY-MM-DD is expected, or a month by its English name, as in 1 January 2027";
+    "YYYY-MM-DD is expected, DD.MM.YYYY, or a month by its English name, as in 1 January 2027";
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 bool IsLetter(char character) {
@@ -55,18 +55,13 @@ class Scanner {
   /// Year, month and day; nothing when there is no date.
   [[nodiscard]] bool Read() {
     SkipBlanks();
-    if (ReadIso()) return true;
-    place_ = 0;
-    SkipBlanks();
+    if (ReadNumbers()) return true;
     const std::string_view word = Letters();
     if (WeekdayIn(word) != 0) {
       weekday_ = WeekdayIn(word);
       if (!Takes('.')) Takes(',');
       SkipBlanks();
-      const std::size_t behind = place_;
-      if (ReadIso()) return true;
-      place_ = behind;
-      return ReadByName(Letters());
+      return ReadNumbers() || ReadByName(Letters());
     }
     return ReadByName(word);
   }
@@ -78,8 +73,34 @@ class Scanner {
   [[nodiscard]] int Weekday() const { return weekday_; }
 
  private:
+  /// Stays where it was when there is no such date.
+  bool ReadNumbers() {
+    const std::size_t before = place_;
+    for (const auto read : {&Scanner::ReadIso, &Scanner::ReadDotted, &Scanner::ReadSlashed}) {
+      if ((this->*read)()) return true;
+      place_ = before;
+    }
+    return false;
+  }
+
   bool ReadIso() {
     return Number(4, year) && Takes('-') && Number(2, month) && Takes('-') && Number(2, day) && AtEnd();
+  }
+
+  /// Whoever writes dots writes the day first.
+  bool ReadDotted() {
+    return ShortNumber(day) && Takes('.') && ShortNumber(month) && Takes('.') && Number(4, year) && AtEnd();
+  }
+
+  /// Some write the day first and some the month, so it is a date only where both mean the same day, or one
+  /// of the numbers is no month.
+  bool ReadSlashed() {
+    constexpr int kMonths = 12;
+    if (!ShortNumber(day) || !Takes('/') || !ShortNumber(month) || !Takes('/') || !Number(4, year) ||
+        !AtEnd())
+      return false;
+    if (month > kMonths && day <= kMonths) std::swap(day, month);
+    return day > kMonths || day == month;
   }
 
   /// `first` is the word before the place, or empty.
@@ -123,6 +144,11 @@ class Scanner {
     SkipBlanks();
     if (place_ == before) return Takes('-') || (place_ > 0 && text_[place_ - 1] == '.');
     return true;
+  }
+
+  bool ShortNumber(int& number) {
+    const std::size_t digits = DigitsAhead();
+    return digits <= 2 && digits != 0 && Number(digits, number);
   }
 
   bool Number(std::size_t digits, int& number) {

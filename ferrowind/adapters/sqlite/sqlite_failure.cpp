@@ -37,6 +37,8 @@ std::string WhyItCannotBeOpened(sqlite3* database, const std::string& path) {
 
 std::string PlainWords(sqlite3* handle, int code, const std::string& path) {
   const std::string database = "The database " + path;
+  // The file in memory that all programs share is a file on the disk all the same, and finds no room first.
+  if (code == SQLITE_IOERR_SHMSIZE) code = SQLITE_FULL;
   switch (code & 0xFF) {
     case SQLITE_CANTOPEN:
       return database + " cannot be opened: " + WhyItCannotBeOpened(handle, path);

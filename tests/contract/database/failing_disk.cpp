@@ -29,11 +29,16 @@ sqlite3_file* RealFile(sqlite3_file* file) {
   return reinterpret_cast<sqlite3_file*>(reinterpret_cast<DiskFile*>(file) + 1);
 }
 
+bool IsFull() {
+  const bool is_full = is_filling && writes_left == 0;
+  has_failed = has_failed || is_full;
+  return is_full;
+}
+
 bool MayWrite() {
-  if (!is_filling || writes_left-- > 0) return true;
-  writes_left = 0;
-  has_failed = true;
-  return false;
+  if (IsFull()) return false;
+  if (is_filling) --writes_left;
+  return true;
 }
 
 int Close(sqlite3_file* file) { return RealFile(file)->pMethods->xClose(RealFile(file)); }
@@ -64,6 +69,8 @@ int DeviceCharacteristics(sqlite3_file* file) {
   return RealFile(file)->pMethods->xDeviceCharacteristics(RealFile(file));
 }
 int ShmMap(sqlite3_file* file, int page, int size, int may_extend, void volatile** memory) {
+  // It says no more than that the file did not become longer.
+  if (may_extend != 0 && IsFull()) return SQLITE_IOERR_SHMSIZE;
   return RealFile(file)->pMethods->xShmMap(RealFile(file), page, size, may_extend, memory);
 }
 int ShmLock(sqlite3_file* file, int offset, int count, int flags) {

@@ -54,12 +54,21 @@ TEST_F(SqliteFullDisk, ACallFailsWithThatCauseAndLeavesNothingOrIsWhollyThere) {
       ++year;
       continue;
     }
-    EXPECT_THAT(failure, HasSubstr("is full (SQLite 13:"));
+    EXPECT_THAT(failure, HasSubstr("is full (SQLite "));
     EXPECT_THAT(failure, HasSubstr(database_.Path()));
     EXPECT_EQ(Calendars(), before);
   }
   EXPECT_FALSE(disk_.HasFailed()) << "the last call went through";
   EXPECT_GE(Calendars(), 1U);
+}
+
+TEST_F(SqliteFullDisk, AReadFailsWithThatCauseAndSucceedsWhenThereIsRoom) {
+  ProcedureCaller caller(database_);
+  disk_.FillAfter(0);
+  EXPECT_THAT(FailureTextOf([&] { (void)caller.Call("CldAllInfo"); }),
+              HasSubstr("The disk that holds the database " + database_.Path() + " is full (SQLite 4874:"));
+  disk_.MakeRoom();
+  EXPECT_FALSE(caller.Call("CldAllInfo").record_sets.empty());
 }
 
 TEST_F(SqliteFullDisk, ACreationFailsWithThatCauseAndLeavesNoFile) {
@@ -77,7 +86,7 @@ TEST_F(SqliteFullDisk, ACreationFailsWithThatCauseAndLeavesNoFile) {
       std::filesystem::remove(path);
       continue;
     }
-    EXPECT_THAT(failure, HasSubstr("is full (SQLite 13:"));
+    EXPECT_THAT(failure, HasSubstr("is full (SQLite "));
     EXPECT_FALSE(std::filesystem::exists(path));
     const auto folder = std::filesystem::path(path).parent_path();
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {

@@ -221,7 +221,7 @@ class Exchange(small_book.WithSmallBooks):
     def test_dates_that_may_mean_two_days_are_refused_with_their_lines(self):
         self.assert_refused("2028-04-14\n01/02/2028 x\n\n31 April 2028\n",
                             f"{self.path('list.txt')}: line 2: \"01/02/2028 x\" does not begin with a date that can be read in "
-                            "one way only; YYYY-MM-DD is expected, or a month by its English name",
+                            "one way only; YYYY-MM-DD is expected, DD.MM.YYYY, or a month by its English name",
                             "; line 4: there is no day \"31 April 2028\"")
 
     def test_encodings_are_read_or_told(self):

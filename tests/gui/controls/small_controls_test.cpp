@@ -32,6 +32,16 @@ TEST(CaptionText, MarksTheFirstCharacterOfTheMnemonic) {
   EXPECT_EQ(MarkedCaption(""), "");
 }
 
+TEST(CaptionText, PutsTheMnemonicBehindWordsThatNoKeyboardHasKeysFor) {
+  EXPECT_EQ(MarkedCaption("保存", 's'), "保存(&S)");
+  EXPECT_EQ(MarkedCaption("通貨:", 'c'), "通貨(&C):");
+  EXPECT_EQ(MarkedCaption("保存 & 閉じる", 's'), "保存 && 閉じる(&S)");
+  EXPECT_EQ(MarkedCaption("保存"), "保存");
+  EXPECT_EQ(MarkedCaption("PDF 保存", 's'), "PDF 保存");
+  EXPECT_EQ(MarkedCaption("<<", 's'), "<<");
+  EXPECT_EQ(MarkedCaption("Übernehmen", QChar(u'ü')), QStringLiteral("&Übernehmen"));
+}
+
 TEST(QtButtonTest, KeepsItsCaptionWhateverItsMnemonic) {
   QPushButton widget;
   QtButton button(widget);

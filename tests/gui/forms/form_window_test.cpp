@@ -237,6 +237,20 @@ TEST_F(FormWindowTest, GivesEachControlAnAccessKeyOfItsOwn) {
   EXPECT_EQ(platform::ControlOf<platform::Label>(*form, "lblTitle").Text(), "Cancelled");
 }
 
+TEST_F(FormWindowTest, GivesForeignWordsAccessKeysOfTheirControlsNames) {
+  FormDesign design = Design(FormBorder::kSizable);
+  for (platform::ControlDesign& control : design.controls) {
+    if (control.name == "cmdOk") control.text = "了解";
+    if (control.name == "cmdCancel") control.text = "取消";
+    if (control.name == "lblTitle") control.text = "題名:";
+  }
+  const auto form = toolkit_.CreateForm(design);
+  QWidget& window = WindowOf(*form);
+  EXPECT_EQ(window.findChild<QPushButton*>("cmdOk")->text(), "了解(&O)");
+  EXPECT_EQ(window.findChild<QPushButton*>("cmdCancel")->text(), "取消(&C)");
+  EXPECT_EQ(window.findChild<QLabel*>("lblTitle")->text(), "題名(&T):");
+}
+
 TEST_F(FormWindowTest, OffersNoClosingAndNoResizingOfAFixedDialog) {
   const auto form = toolkit_.CreateForm(Design(FormBorder::kFixedDialog));
   const QWidget& window = WindowOf(*form);

@@ -41,7 +41,7 @@ TEST(JsonList, IsRefusedWithItsLines) {
             "is there "
             "twice; line 4: \"01/02/2027\" does not begin with a date that can be read in one way only; "
             "YYYY-MM-DD is "
-            "expected, or a month by its English name, as in 1 January 2027");
+            "expected, DD.MM.YYYY, or a month by its English name, as in 1 January 2027");
 }
 
 TEST(JsonList, IsReadAsItWasWritten) {

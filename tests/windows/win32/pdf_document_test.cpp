@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/win32/year/pdf_document.h"
 
+#include <clocale>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -87,6 +88,16 @@ TEST(PdfDocumentTest, SaysWhereItsObjectsAre) {
     const std::size_t place = std::stoul(content.substr(line, 10));
     EXPECT_EQ(content.substr(place, 7), std::to_string(number) + " 0 obj");
   }
+}
+
+TEST(PdfDocumentTest, WritesNumbersWithAPointInEveryLocale) {
+  PdfDocument document(L"Year");
+  document.AddPage(Picture({10, 10}), 595.275, 841.89);
+  const std::string locale = std::setlocale(LC_NUMERIC, nullptr);
+  std::setlocale(LC_NUMERIC, "German_Germany");
+  const std::string content = document.Content();
+  std::setlocale(LC_NUMERIC, locale.c_str());
+  EXPECT_NE(content.find("/MediaBox [ 0 0 595.2750 841.8900 ]"), std::string::npos);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ class Captioned {
   /// Whether an access key would lead anywhere.
   [[nodiscard]] virtual bool TakesMnemonic() const = 0;
   [[nodiscard]] virtual QString PlainCaption() const = 0;
-  /// Kept over changes of the caption; a caption without the character has no access key.
+  /// Kept over changes of the caption, which shows it as `MarkedCaption` does.
   virtual void SetMnemonic(QChar mnemonic) = 0;
 };
 

@@ -3,9 +3,11 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSet>
 #include <algorithm>
 
+#include "ferrowind/adapters/qt/controls/caption_text.h"
 #include "ferrowind/adapters/qt/controls/captioned.h"
 #include "ferrowind/adapters/qt/controls/length_note.h"
 #include "ferrowind/adapters/qt/controls/select_on_focus.h"
@@ -20,6 +22,8 @@
 
 namespace ferrowind::qt {
 namespace {
+
+const QRegularExpression kCapital(QStringLiteral("[A-Z]"));
 
 QWidget* WidgetOf(const FormWindow& window, const platform::Control& control) {
   return window.findChild<QWidget*>(ToQt(control.Name()));
@@ -67,9 +71,12 @@ void ApplyMnemonics(const FormControls& controls) {
   for (const auto& made : controls) {
     auto* captioned = dynamic_cast<Captioned*>(made.get());
     if (captioned == nullptr || !captioned->TakesMnemonic()) continue;
-    for (const QChar character : captioned->PlainCaption()) {
+    const QString caption = captioned->PlainCaption();
+    // Behind the letters of its kind the name says in English what the control is for.
+    const QString name = ToQt(made->Name());
+    for (const QChar character : HasForeignWords(caption) ? name.mid(name.indexOf(kCapital)) : caption) {
       const QChar key = character.toLower();
-      if (!key.isLetterOrNumber() || taken.contains(key)) continue;
+      if (!CanBeMnemonic(key) || taken.contains(key)) continue;
       taken.insert(key);
       captioned->SetMnemonic(key);
       break;

@@ -7,6 +7,7 @@
 
 #include "ferrowind/adapters/win32/base/wide_text.h"
 #include "ferrowind/adapters/win32/controls/button.h"
+#include "ferrowind/adapters/win32/controls/marked_caption.h"
 #include "ferrowind/adapters/win32/controls/shortcut.h"
 #include "ferrowind/adapters/win32/controls/text_box.h"
 #include "ferrowind/adapters/win32/controls/tool_bar.h"
@@ -48,9 +49,13 @@ void FormKeys::Settle(const platform::FormDesign& design) {
 void FormKeys::GiveAccessKeys() const {
   std::wstring taken;
   for (Win32Button* button : buttons_) {
-    for (const wchar_t letter : ToWide(button->Caption())) {
+    const std::wstring caption = ToWide(button->Caption());
+    // Behind the letters of its kind the name says in English what the button is for.
+    const std::string& name = button->ControlName();
+    const auto capital = std::find_if(name.begin(), name.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+    for (const wchar_t letter : HasForeignWords(caption) ? std::wstring(capital, name.end()) : caption) {
       const auto key = static_cast<wchar_t>(std::towlower(letter));
-      if (std::iswalnum(key) == 0 || taken.find(key) != std::wstring::npos) continue;
+      if (!CanBeMnemonic(key) || taken.find(key) != std::wstring::npos) continue;
       taken += key;
       button->SetMnemonic(key);
       break;

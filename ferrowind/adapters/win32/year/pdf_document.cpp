@@ -1,10 +1,21 @@
 #include "ferrowind/adapters/win32/year/pdf_document.h"
 
+#include <array>
+#include <charconv>
 #include <cstdint>
 #include <unordered_map>
 
 namespace ferrowind::win32 {
 namespace {
+
+/// With a point, whatever the host's locale has.
+std::string Number(double number) {
+  constexpr int kDigits = 4;
+  std::array<char, 32> text{};
+  const auto written =
+      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, kDigits);
+  return {text.data(), written.ptr};
+}
 
 /// Compresses bytes by a table of strings that grows with them.
 class LzwWriter {
@@ -153,8 +164,8 @@ std::string PdfDocument::Content() const {
   objects.Add("<< /Title " + HexOf(title_) + " /Creator (Ferrowind) >>");
   objects.End();
   for (const Page& page : pages_) {
-    const std::string width = std::to_string(page.width);
-    const std::string height = std::to_string(page.height);
+    const std::string width = Number(page.width);
+    const std::string height = Number(page.height);
     const std::size_t number = objects.Begin();
     objects.Add("<< /Type /Page /Parent " + Objects::Reference(kTree) + " /MediaBox [ 0 0 " + width + " " +
                 height + " ] /Contents " + Objects::Reference(number + 1) +
