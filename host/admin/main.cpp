@@ -10,8 +10,10 @@
 #include "host/admin/command_line.h"
 #include "host/admin/guarded_stream.h"
 #include "host/session/private_arguments.h"
+#include "host/session/standard_streams.h"
 
 int main(int argc, char** argv) {
+  ferrowind::host::HoldStandardStreams();
   const ferrowind::host::PrivateArguments arguments(argc, argv);
   ferrowind::sqlite::LimitMemoryOfProcess();
   ferrowind::platform::EngineRegistry engines;

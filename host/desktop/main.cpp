@@ -26,6 +26,7 @@
 #include "host/desktop/wait_cursor.h"
 #include "host/session/private_arguments.h"
 #include "host/session/shown_connection.h"
+#include "host/session/standard_streams.h"
 
 namespace {
 
@@ -57,6 +58,7 @@ QString DatabaseNameText(const DesktopOptions& options, const ferrowind::platfor
 }  // namespace
 
 int main(int argc, char** argv) {
+  ferrowind::host::HoldStandardStreams();
   ferrowind::host::PrivateArguments arguments(argc, argv);
   QCoreApplication::setOrganizationName(QStringLiteral("Tessaro"));
   QCoreApplication::setApplicationName(QStringLiteral("ferrowind"));

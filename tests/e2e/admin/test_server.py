@@ -74,6 +74,26 @@ class Init(ferrowindctl.WithADeliveredDatabase):
         self.assertGreater(killed, 0)
 
 
+class ClosedStreams(ferrowindctl.InAFolder):
+
+    def test_leave_their_places_to_no_connection(self):
+        database = server.Database(self)
+        self.assert_run(DONE, "init", database.uri, "--empty")
+        for command, closed, expected in (("status", ">&-", "ferrowindctl: cannot write the output; all the rest is done\n"),
+                                          ("call", ">&-", "ferrowindctl: cannot write the output; all the rest is done\n"),
+                                          ("call", "<&- >&- 2>&-", "")):
+            with self.subTest(command=command, closed=closed):
+                procedure = "CldAllInfo" if command == "call" else ""
+                result = subprocess.run(["bash", "-c", f'"$0" {command} "$1" {procedure} {closed}', ferrowindctl.PROGRAM, database.uri],
+                                        stderr=subprocess.PIPE, timeout=120)
+                self.assertEqual((result.returncode, result.stderr.decode()), (NOT_DONE, expected))
+        # What a calendar's calls tell on standard error stays out of the connection, too.
+        result = subprocess.run(["bash", "-c", '"$0" seal "$1" 2>&-', ferrowindctl.PROGRAM, database.uri],
+                                stdout=subprocess.PIPE, timeout=120)
+        self.assertEqual(result.returncode, DONE)
+        self.assertRegex(result.stdout.decode(), r"\A[0-9A-Z-]+\n\Z")
+
+
 class Check(ferrowindctl.InAFolder):
 
     def setUp(self):
