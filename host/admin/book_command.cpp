@@ -119,7 +119,7 @@ ExitStatus BookSetCommand::Run(const platform::EngineRegistry& engines, std::ist
   if (!is_delivered && planning::MeansAllCurrencies(currency)) throw TextIsOfOneBook(currency);
   std::optional<BookSource> source;
   if (!is_delivered) {
-    source = ReadBookFrom(file.value_or(""), in);
+    source = ReadBookFrom(file.value_or("-"), in);
     if (!source->reading.errors.empty()) return TellFaults(FaultsOfLines(*source), errors);
   }
   std::vector<std::string> faults;

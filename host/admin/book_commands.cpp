@@ -45,10 +45,11 @@ void AddShow(CommandSet& commands, CLI::App& group) {
 
 void AddSet(CommandSet& commands, CLI::App& group) {
   const auto set = std::make_shared<BookSetCommand>();
-  CLI::App& command = commands.AddTo(
-      group, "set", "Replace the rule book of a currency", [set](const CommandSurroundings& surroundings) {
-        return set->Run(surroundings.engines, std::cin, surroundings.out, surroundings.errors);
-      });
+  CLI::App& command =
+      commands.AddTo(group, "set", "Replace the rule book of a currency",
+                     Changing([set](const CommandSurroundings& surroundings) {
+                       return set->Run(surroundings.engines, std::cin, surroundings.out, surroundings.errors);
+                     }));
   command.add_option("URL", set->url, kUrl)->required();
   command.add_option("CCY", set->currency, "The currency's code or number; ALL with --delivered")->required();
   command.add_option("FILE", set->file, "The text of the book");

@@ -17,7 +17,7 @@ struct BookSource {
   std::optional<std::string> state;
 };
 
-/// The text that the file holds, or `in` when `file` is empty or "-". What cannot be read is a
+/// The text that the file holds, or `in` when `file` is "-". What cannot be read is a
 /// `platform::Failure` that names the file; what is wrong in the text is left to the reading.
 [[nodiscard]] BookSource ReadBookFrom(const std::string& file, std::istream& in);
 

@@ -20,7 +20,7 @@ ExitStatus CheckCommand::Run(const platform::EngineRegistry& engines, std::ostre
   // Says that there is no such engine, where an adapter can only say that it is not its own.
   (void)engines.EngineFor(url);
   std::optional<chain::Seal> sealed;
-  if (!seal.empty()) sealed = chain::Seal::Of(seal);
+  if (seal) sealed = chain::Seal::Of(*seal);
   const auto faults = postgres::IsConnectionString(url) ? postgres::CheckDatabase(url, sealed)
                                                         : sqlite::CheckDatabase(sqlite::PathIn(url), sealed);
   for (const std::string& fault : faults) out << OneLine(fault) << '\n';

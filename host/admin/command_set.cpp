@@ -1,8 +1,10 @@
 #include "host/admin/command_set.h"
 
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <map>
 #include <stdexcept>
+#include <utility>
 
 namespace ferrowind::host {
 namespace {
@@ -41,6 +43,14 @@ ExitStatus CommandSet::RunChosen(const CommandSurroundings& surroundings) const 
     if (command->parsed()) return action(surroundings);
   }
   throw std::logic_error("No command was named");
+}
+
+CommandAction Changing(CommandAction action) {
+  return [action = std::move(action)](const CommandSurroundings& surroundings) {
+    // For the rest of the program, which writes the end of the output later.
+    std::signal(SIGPIPE, SIG_IGN);
+    return action(surroundings);
+  };
 }
 
 void TakeDatabase(CLI::Option& argument) { argument.group(kDatabases); }

@@ -49,6 +49,10 @@ class CommandSet {
   std::vector<std::pair<CLI::App*, CommandAction>> actions_;
 };
 
+/// `action` for a command that changes something: it goes on when nobody reads its output any more, so that
+/// the work is done, and the command says in the end that it could not write.
+[[nodiscard]] CommandAction Changing(CommandAction action);
+
 /// Makes the argument the URL of a database for shells, which complete it. One with the name URL is it
 /// anyway.
 void TakeDatabase(CLI::Option& argument);

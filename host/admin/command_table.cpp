@@ -73,7 +73,7 @@ EXAMPLES
   ferrowindctl call sqlite:calendars.db CldIUMain ID1=978 Year1=2026 \
       TID1=1 ID2=1 Day1=1 ODate=2026-01-01 "Comment=Stock-taking"
 
-"ferrowindctl COMMAND --help" tells more of a command.)";
+"ferrowindctl COMMAND --help" and "ferrowindctl help COMMAND" tell more of a command.)";
 
 }  // namespace
 
@@ -81,7 +81,7 @@ void BuildCommandTable(CLI::App& program, CommandSet& commands) {
   program.name("ferrowindctl");
   program.description(
       "Creates, checks and copies the calendar databases of Ferrowind, and calls their procedures.");
-  program.set_version_flag("--version", "ferrowindctl " FERROWIND_VERSION, "Print the version and exit");
+  program.set_version_flag("-v,--version", "ferrowindctl " FERROWIND_VERSION, "Print the version and exit");
   program.require_subcommand(1);
   program.footer(kManual);
   AddDatabaseCommands(commands);

@@ -42,10 +42,10 @@ void AddList(CommandSet& commands, CLI::App& group) {
 
 void AddSet(CommandSet& commands, CLI::App& group) {
   const auto set = std::make_shared<ConventionSetCommand>();
-  CLI::App& command =
-      commands.AddTo(group, "set", "Amend conventions", [set](const CommandSurroundings& surroundings) {
-        return set->Run(surroundings.engines, surroundings.out);
-      });
+  CLI::App& command = commands.AddTo(group, "set", "Amend conventions",
+                                     Changing([set](const CommandSurroundings& surroundings) {
+                                       return set->Run(surroundings.engines, surroundings.out);
+                                     }));
   command.add_option("URL", set->url, kUrl)->required();
   command.add_option("LINE", set->lines, "A line such as \"spot USD/CAD 1\"")->required();
 }
@@ -53,9 +53,9 @@ void AddSet(CommandSet& commands, CLI::App& group) {
 void AddRemove(CommandSet& commands, CLI::App& group) {
   const auto remove = std::make_shared<ConventionRemoveCommand>();
   CLI::App& command = commands.AddTo(group, "remove", "Take back what the database says",
-                                     [remove](const CommandSurroundings& surroundings) {
+                                     Changing([remove](const CommandSurroundings& surroundings) {
                                        return remove->Run(surroundings.engines, surroundings.out);
-                                     });
+                                     }));
   command.add_option("URL", remove->url, kUrl)->required();
   command.add_option("SUBJECT", remove->subjects, "A currency pair such as USD/CAD, or a currency")
       ->required();

@@ -28,7 +28,6 @@ constexpr const char* kChange = "CldIUCurrency";
 constexpr std::int32_t kCodeOfAnother = 2;
 constexpr std::int32_t kOutOfRange = 7;
 constexpr std::int32_t kWouldBeWrong = 9;
-constexpr std::int32_t kHighestNumber = 999;
 constexpr std::size_t kCodeLength = 3;
 
 Failure Refused(const std::string& why) { return {platform::failure_number::kInvalidArgument, why}; }
@@ -155,9 +154,6 @@ ExitStatus CurrencyAddCommand::Run(const platform::EngineRegistry& engines, std:
   added.code = ReadCode(code);
   added.name = ReadName(name);
   added.is_money = !is_no_money;
-  if (number < 1 || number > kHighestNumber) {
-    throw Refused("The number of a currency is one from 1 to " + std::to_string(kHighestNumber));
-  }
   RunWithCalendars(engines, url, [&] {
     // The procedure would change the currency that has the number.
     const CurrencyList currencies = CurrencyList::Load();

@@ -28,6 +28,7 @@ struct CurrencyListCommand {
 struct CurrencyAddCommand {
   std::string url;
   std::string code;
+  /// 1 to 999.
   std::int32_t number = 0;
   std::string name;
   /// A unit of account, a metal or a fund, of which there are no calendars.

@@ -5,6 +5,7 @@
 
 #include "host/admin/command_set.h"
 #include "host/admin/currency_command.h"
+#include "host/admin/number_argument.h"
 
 namespace ferrowind::host {
 namespace {
@@ -25,6 +26,8 @@ takes the last day away: the currency is money again.
 Every change has an entry in the history, and "undo" takes it back. On a server
 only an administrator may change currencies.)";
 
+constexpr NumberRange kNumbers{1, 999};
+
 constexpr const char* kUrl = "The database";
 constexpr const char* kCode = "The currency's code, such as EUR";
 constexpr const char* kKnown = "The currency's code, such as EUR, or its number";
@@ -42,12 +45,14 @@ void AddList(CommandSet& commands, CLI::App& group) {
 void AddAdd(CommandSet& commands, CLI::App& group) {
   const auto add = std::make_shared<CurrencyAddCommand>();
   CLI::App& command =
-      commands.AddTo(group, "add", "Add a currency", [add](const CommandSurroundings& surroundings) {
-        return add->Run(surroundings.engines, surroundings.out);
-      });
+      commands.AddTo(group, "add", "Add a currency", Changing([add](const CommandSurroundings& surroundings) {
+                       return add->Run(surroundings.engines, surroundings.out);
+                     }));
   command.add_option("URL", add->url, kUrl)->required();
   command.add_option("CCY", add->code, kCode)->required();
-  command.add_option("NUMBER", add->number, "Its number in ISO 4217, 1 to 999")->required();
+  AddNumber(command, "NUMBER", "Its number in ISO 4217, 1 to 999", kNumbers, [add](int number) {
+    add->number = number;
+  }).required();
   command.add_option("NAME", add->name, "Its name")->required();
   command.add_flag("--no-money", add->is_no_money, "A metal, a fund or a unit of account, without calendars");
 }
@@ -55,9 +60,9 @@ void AddAdd(CommandSet& commands, CLI::App& group) {
 void AddRename(CommandSet& commands, CLI::App& group) {
   const auto rename = std::make_shared<CurrencyRenameCommand>();
   CLI::App& command = commands.AddTo(group, "rename", "Change a currency's name or code",
-                                     [rename](const CommandSurroundings& surroundings) {
+                                     Changing([rename](const CommandSurroundings& surroundings) {
                                        return rename->Run(surroundings.engines, surroundings.out);
-                                     });
+                                     }));
   command.add_option("URL", rename->url, kUrl)->required();
   command.add_option("CCY", rename->code, kKnown)->required();
   command.add_option("NAME", rename->new_name, "The new name");
@@ -67,9 +72,9 @@ void AddRename(CommandSet& commands, CLI::App& group) {
 void AddRetire(CommandSet& commands, CLI::App& group) {
   const auto retire = std::make_shared<CurrencyRetireCommand>();
   CLI::App& command = commands.AddTo(group, "retire", "Say until when a currency is money",
-                                     [retire](const CommandSurroundings& surroundings) {
+                                     Changing([retire](const CommandSurroundings& surroundings) {
                                        return retire->Run(surroundings.engines, surroundings.out);
-                                     });
+                                     }));
   command.add_option("URL", retire->url, kUrl)->required();
   command.add_option("CCY", retire->code, kKnown)->required();
   command.add_option("LAST-DAY", retire->last_day, "The last day on which it is money, YYYY-MM-DD")
@@ -79,9 +84,9 @@ void AddRetire(CommandSet& commands, CLI::App& group) {
 void AddRestore(CommandSet& commands, CLI::App& group) {
   const auto restore = std::make_shared<CurrencyRestoreCommand>();
   CLI::App& command = commands.AddTo(group, "restore", "Make a retired currency money again",
-                                     [restore](const CommandSurroundings& surroundings) {
+                                     Changing([restore](const CommandSurroundings& surroundings) {
                                        return restore->Run(surroundings.engines, surroundings.out);
-                                     });
+                                     }));
   command.add_option("URL", restore->url, kUrl)->required();
   command.add_option("CCY", restore->code, kKnown)->required();
 }

@@ -7,6 +7,7 @@
 #include "host/admin/command_set.h"
 #include "host/admin/copy_command.h"
 #include "host/admin/init_command.h"
+#include "host/admin/number_argument.h"
 #include "host/admin/seal_command.h"
 #include "host/admin/status_command.h"
 #include "host/admin/upgrade_command.h"
@@ -100,17 +101,17 @@ get their year, as changes that the history tells; which are not is printed.)";
 
 void AddInit(CommandSet& commands) {
   const auto init = std::make_shared<InitCommand>();
-  CLI::App& command =
-      commands.Add("init", "Create a database", kInitManual, [init](const CommandSurroundings& surroundings) {
+  CLI::App& command = commands.Add(
+      "init", "Create a database", kInitManual, Changing([init](const CommandSurroundings& surroundings) {
         return init->Run(surroundings.engines, surroundings.out, surroundings.errors);
-      });
+      }));
   command.add_option("URL", init->url, "The database to create")->required();
   CLI::Option* const empty =
       command.add_flag("--empty", init->content.is_empty, "Without rule books, rules and calendars");
-  command
-      .add_option("--year", init->content.first_year, "The first year of the calendars; this year without it")
-      ->option_text("YEAR")
-      ->check(CLI::Range(almanac::kFirstYear, kLastDeliverableYear))
+  AddNumber(command, "--year", "The first year of the calendars; this year without it",
+            {almanac::kFirstYear, kLastDeliverableYear},
+            [init](int year) { init->content.first_year = year; })
+      .option_text("YEAR")
       ->excludes(empty);
 }
 
@@ -129,9 +130,9 @@ void AddCopy(CommandSet& commands) {
   const auto copy = std::make_shared<CopyCommand>();
   CLI::App& command =
       commands.Add("copy", "Copy a database to another one, of any engine", kCopyManual,
-                   [copy](const CommandSurroundings& surroundings) {
+                   Changing([copy](const CommandSurroundings& surroundings) {
                      return copy->Run(surroundings.engines, surroundings.out, surroundings.errors);
-                   });
+                   }));
   TakeDatabase(*command.add_option("FROM", copy->from, "The URL of the database to copy")->required());
   TakeDatabase(
       *command.add_option("TO", copy->to, "The URL of the database that it is copied to")->required());
@@ -161,9 +162,9 @@ void AddUpgrade(CommandSet& commands) {
   const auto upgrade = std::make_shared<UpgradeCommand>();
   CLI::App& command =
       commands.Add("upgrade", "Bring an older database to this version", kUpgradeManual,
-                   [upgrade](const CommandSurroundings& surroundings) {
+                   Changing([upgrade](const CommandSurroundings& surroundings) {
                      return upgrade->Run(surroundings.engines, surroundings.out, surroundings.errors);
-                   });
+                   }));
   command.add_option("URL", upgrade->url, "The database to upgrade")->required();
 }
 

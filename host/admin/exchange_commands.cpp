@@ -103,10 +103,10 @@ void AddImport(CommandSet& commands) {
   static const std::string kManual = std::string(kImportManual) + kListForms;
   const auto import = std::make_shared<ImportCommand>();
   CLI::App& command = commands.Add("import", "Make a calendar as a published list says", kManual.c_str(),
-                                   [import](const CommandSurroundings& surroundings) {
+                                   Changing([import](const CommandSurroundings& surroundings) {
                                      return import->Run(surroundings.engines, AskOnTerminal, std::cin,
                                                         surroundings.out, surroundings.errors);
-                                   });
+                                   }));
   command.add_option("URL", import->url, "The database")->required();
   command.add_option("CCY", import->currency, kCode)->required();
   AddList(command, import->source);

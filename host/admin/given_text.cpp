@@ -36,9 +36,12 @@ std::string ReadAll(std::istream& in, const std::string& name, std::size_t most)
 }  // namespace
 
 GivenText ReadGivenText(const std::string& file, std::istream& in, std::size_t most) {
-  if (file.empty() || file == kStandardInput) {
+  if (file == kStandardInput) {
     const std::string name = "Standard input";
     return {name, ReadAll(in, name, most)};
+  }
+  if (file.empty()) {
+    throw Failure(platform::failure_number::kInvalidArgument, "The name of the file to read is empty");
   }
   errno = 0;
   std::ifstream opened(file, std::ios::binary);

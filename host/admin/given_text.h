@@ -14,7 +14,7 @@ struct GivenText {
   std::string text;
 };
 
-/// What the file holds, or `in` when `file` is empty or "-". No more than one byte above `most` is read, by
+/// What the file holds, or `in` when `file` is "-". No more than one byte above `most` is read, by
 /// which the caller knows that it is too long. What cannot be read is a `platform::Failure` that names the
 /// file.
 [[nodiscard]] GivenText ReadGivenText(const std::string& file, std::istream& in,

@@ -66,9 +66,9 @@ void AddHistory(CommandSet& commands) {
 void AddUndo(CommandSet& commands) {
   const auto undo = std::make_shared<UndoCommand>();
   CLI::App& command = commands.Add("undo", "Put back what a call changed", kUndoManual,
-                                   [undo](const CommandSurroundings& surroundings) {
+                                   Changing([undo](const CommandSurroundings& surroundings) {
                                      return undo->Run(surroundings.engines, surroundings.out);
-                                   });
+                                   }));
   command.add_option("URL", undo->url, "The database")->required();
   command.add_option("ENTRY", undo->entry, "The EntryID that \"history\" prints")->required();
 }

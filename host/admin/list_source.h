@@ -10,7 +10,7 @@ namespace ferrowind::host {
 
 /// The list of days that an operator gave.
 struct ListSource {
-  /// The file; empty or "-" for standard input.
+  /// The file; "-" for standard input.
   std::string file;
   /// As list_format.h names it; empty for the one that the list seems to have.
   std::string format = {};

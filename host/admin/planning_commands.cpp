@@ -5,6 +5,7 @@
 
 #include "host/admin/apply_command.h"
 #include "host/admin/command_set.h"
+#include "host/admin/number_argument.h"
 #include "host/admin/plan_command.h"
 #include "host/admin/review_command.h"
 #include "host/admin/why_command.h"
@@ -109,10 +110,10 @@ void AddPlan(CommandSet& commands) {
 void AddApply(CommandSet& commands) {
   const auto apply = std::make_shared<ApplyCommand>();
   CLI::App& command = commands.Add("apply", "Make calendars as they should be", kApplyManual,
-                                   [apply](const CommandSurroundings& surroundings) {
+                                   Changing([apply](const CommandSurroundings& surroundings) {
                                      return apply->Run(surroundings.engines, AskOnTerminal, surroundings.out,
                                                        surroundings.errors);
-                                   });
+                                   }));
   command.add_option("URL", apply->url, "The database")->required();
   command.add_option("CCY", apply->currency, "The currency's code, or ALL")->required();
   command.add_option("YEAR", apply->years, "A year, or several as 2028..2030")->required();
@@ -129,9 +130,9 @@ void AddReview(CommandSet& commands) {
                                    });
   constexpr int kFarthest = 100;
   command.add_option("URL", review->url, "The database to look into")->required();
-  command.add_option("--horizon", review->horizon, "How many years after this one must have calendars")
-      ->check(CLI::Range(0, kFarthest))
-      ->option_text("YEARS");
+  AddNumber(command, "--horizon", "How many years after this one must have calendars", {0, kFarthest},
+            [review](int years) { review->horizon = years; })
+      .option_text("YEARS");
   AddFormat(command, review->format);
 }
 

@@ -61,6 +61,12 @@ DesktopOptions ReadOptions(const QStringList& arguments) {
   if (!parser.positionalArguments().isEmpty()) {
     Refuse(QStringLiteral("\"%1\" was not expected").arg(parser.positionalArguments().first()));
   }
+  // Left out, they mean something else than what was to be put there.
+  for (const QCommandLineOption& option : {database, trace}) {
+    if (parser.isSet(option) && parser.value(option).isEmpty()) {
+      Refuse(QStringLiteral("--%1 is empty").arg(option.names().first()));
+    }
+  }
   return {.database = parser.value(database).toStdString(),
           .trace_file = parser.value(trace),
           .open = parser.isSet(open),

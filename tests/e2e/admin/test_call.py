@@ -157,7 +157,7 @@ class CommandLine(ferrowindctl.InAFolder):
         self.assertRegex(self.assert_run(DONE, "--version")[0], r"\Aferrowindctl \d+\.\d+\.\d+\n\Z")
 
     def test_an_incomplete_command_line_is_an_error_that_says_what_is_missing(self):
-        self.assertIn("subcommand", self.assert_run(NOT_DONE)[1])
+        self.assertIn("A command is required", self.assert_run(NOT_DONE)[1])
         self.assertIn("URL", self.assert_run(NOT_DONE, "init")[1])
         self.assertIn("PROCEDURE", self.assert_run(NOT_DONE, "call", self.url())[1])
 

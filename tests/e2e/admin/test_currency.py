@@ -91,7 +91,7 @@ class CurrencyTests:
         self.assertIn("no currency QQQ", self.refuse("rename", "QQQ", "Name"))
         self.assertIn("The code USD belongs to another currency", self.refuse("rename", "EUR", "--code", "USD"))
         self.assertIn("Neither a name nor a code", self.refuse("rename", "EUR"))
-        self.assertIn("The name is blank", self.refuse("rename", "EUR", ""))
+        self.assertIn("NAME is empty", self.refuse("rename", "EUR", ""))
 
     def test_retires_a_currency_of_the_past_without_calendars_wholly(self):
         self.assertEqual(self.change("retire", "dkk", PAST), f"DKK (208) was money until {PAST}.\n")

@@ -123,6 +123,12 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(app.wait(30), 1)
         self.assertIn('databse', self.session.printed())
 
+    def test_an_option_that_is_given_and_empty_is_refused(self):
+        for option in ('database', 'trace'):
+            app = self.session.start(f'--{option}', '')
+            self.assertEqual(app.wait(30), 1)
+            self.assertIn(f'ferrowind: --{option} is empty\n', self.session.printed())
+
     def test_help_and_version_are_told_without_a_display(self):
         environment = {name: value for name, value in os.environ.items()
                        if name not in ('DISPLAY', 'WAYLAND_DISPLAY', 'QT_QPA_PLATFORM')}
