@@ -792,6 +792,14 @@
         <translation>Hinzugefügt</translation>
     </message>
     <message>
+        <source>Added the currency %1 (%2)</source>
+        <translation>Währung %1 (%2) hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Added the currency %1 (%2), no money</source>
+        <translation>Währung %1 (%2) hinzugefügt, kein Zahlungsmittel</translation>
+    </message>
+    <message>
         <source>Added the rule %1</source>
         <translation>Regel %1 hinzugefügt</translation>
     </message>
@@ -1944,6 +1952,10 @@
         <translation>%1 entfernt</translation>
     </message>
     <message>
+        <source>Removed the convention of %1</source>
+        <translation>Konvention von %1 entfernt</translation>
+    </message>
+    <message>
         <source>Removed the rule %1</source>
         <translation>Regel %1 entfernt</translation>
     </message>
@@ -1954,6 +1966,10 @@
     <message>
         <source>Removing the book of %1</source>
         <translation>Entfernen des Regelwerks von %1</translation>
+    </message>
+    <message>
+        <source>Renamed the currency %1 (%2) to %3 (%4)</source>
+        <translation>Währung %1 (%2) umbenannt in %3 (%4)</translation>
     </message>
     <message>
         <source>Replaced</source>
@@ -2046,6 +2062,18 @@
     <message>
         <source>September</source>
         <translation>September</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set the convention of %1: %n business days to spot</source>
+        <translation><numerusform>Konvention von %1 gesetzt: %n Werktag bis zur Valuta</numerusform><numerusform>Konvention von %1 gesetzt: %n Arbeitstage bis zur Valuta</numerusform></translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar do not stop the count to spot</source>
+        <translation>Konvention von %1 gesetzt: Feiertage des Dollars halten die Zählung bis zur Valuta nicht an</translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar stop the count to spot</source>
+        <translation>Konvention von %1 gesetzt: Feiertage des Dollars halten die Zählung bis zur Valuta an</translation>
     </message>
     <message>
         <source>Set the currency %1 (%2)</source>
@@ -2340,6 +2368,10 @@
         <translation>Die neueste Änderung von %1 ist „%2“ (%3, %4). Machen Sie die zuerst rückgängig.</translation>
     </message>
     <message>
+        <source>The newest change of the same is "%1" (%2, %3). Undo that first.</source>
+        <translation>Die neueste Änderung desselben ist „%1“ (%2, %3). Machen Sie die zuerst rückgängig.</translation>
+    </message>
+    <message>
         <source>The plan does not know this year's dates of %1</source>
         <translation>Der Plan kennt die diesjährigen Daten von %1 nicht</translation>
     </message>
@@ -2482,6 +2514,10 @@
     <message>
         <source>This is no time. Write one such as 14:05 or 14:05:31.</source>
         <translation>Das ist keine Uhrzeit. Schreiben Sie eine wie 14:05 oder 14:05:31.</translation>
+    </message>
+    <message>
+        <source>This is undone already, by the entry %1 of the history.</source>
+        <translation>Das ist schon rückgängig gemacht, durch den Eintrag %1 des Verlaufs.</translation>
     </message>
     <message>
         <source>This moment is still to come.</source>

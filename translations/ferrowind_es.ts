@@ -792,6 +792,14 @@
         <translation>Añadido</translation>
     </message>
     <message>
+        <source>Added the currency %1 (%2)</source>
+        <translation>Divisa %1 (%2) añadida</translation>
+    </message>
+    <message>
+        <source>Added the currency %1 (%2), no money</source>
+        <translation>Divisa %1 (%2) añadida, sin curso</translation>
+    </message>
+    <message>
         <source>Added the rule %1</source>
         <translation>Regla %1 añadida</translation>
     </message>
@@ -1944,6 +1952,10 @@
         <translation>%1 eliminada</translation>
     </message>
     <message>
+        <source>Removed the convention of %1</source>
+        <translation>Convención de %1 eliminada</translation>
+    </message>
+    <message>
         <source>Removed the rule %1</source>
         <translation>Regla %1 eliminada</translation>
     </message>
@@ -1954,6 +1966,10 @@
     <message>
         <source>Removing the book of %1</source>
         <translation>Eliminación del reglamento de %1</translation>
+    </message>
+    <message>
+        <source>Renamed the currency %1 (%2) to %3 (%4)</source>
+        <translation>Divisa %1 (%2) renombrada a %3 (%4)</translation>
     </message>
     <message>
         <source>Replaced</source>
@@ -2046,6 +2062,18 @@
     <message>
         <source>September</source>
         <translation>septiembre</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set the convention of %1: %n business days to spot</source>
+        <translation><numerusform>Convención de %1 definida: %n día hábil hasta el spot</numerusform><numerusform>Convención de %1 definida: %n días hábiles hasta el spot</numerusform></translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar do not stop the count to spot</source>
+        <translation>Convención de %1 definida: los festivos del dólar no detienen la cuenta hasta el spot</translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar stop the count to spot</source>
+        <translation>Convención de %1 definida: los festivos del dólar detienen la cuenta hasta el spot</translation>
     </message>
     <message>
         <source>Set the currency %1 (%2)</source>
@@ -2340,6 +2368,10 @@
         <translation>El cambio más reciente de %1 es «%2» (%3, %4). Deshaga antes ese.</translation>
     </message>
     <message>
+        <source>The newest change of the same is "%1" (%2, %3). Undo that first.</source>
+        <translation>El cambio más reciente de lo mismo es «%1» (%2, %3). Deshaga antes ese.</translation>
+    </message>
+    <message>
         <source>The plan does not know this year's dates of %1</source>
         <translation>El plan no conoce las fechas de %1 de este año</translation>
     </message>
@@ -2482,6 +2514,10 @@
     <message>
         <source>This is no time. Write one such as 14:05 or 14:05:31.</source>
         <translation>Esto no es una hora. Escriba una como 14:05 o 14:05:31.</translation>
+    </message>
+    <message>
+        <source>This is undone already, by the entry %1 of the history.</source>
+        <translation>Esto ya está deshecho, por la entrada %1 del historial.</translation>
     </message>
     <message>
         <source>This moment is still to come.</source>

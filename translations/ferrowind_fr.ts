@@ -792,6 +792,14 @@
         <translation>Ajouté</translation>
     </message>
     <message>
+        <source>Added the currency %1 (%2)</source>
+        <translation>Devise %1 (%2) ajoutée</translation>
+    </message>
+    <message>
+        <source>Added the currency %1 (%2), no money</source>
+        <translation>Devise %1 (%2) ajoutée, pas une monnaie</translation>
+    </message>
+    <message>
         <source>Added the rule %1</source>
         <translation>Règle %1 ajoutée</translation>
     </message>
@@ -1944,6 +1952,10 @@
         <translation>%1 supprimée</translation>
     </message>
     <message>
+        <source>Removed the convention of %1</source>
+        <translation>Convention de %1 supprimée</translation>
+    </message>
+    <message>
         <source>Removed the rule %1</source>
         <translation>Règle %1 supprimée</translation>
     </message>
@@ -1954,6 +1966,10 @@
     <message>
         <source>Removing the book of %1</source>
         <translation>Suppression du recueil de %1</translation>
+    </message>
+    <message>
+        <source>Renamed the currency %1 (%2) to %3 (%4)</source>
+        <translation>Devise %1 (%2) renommée en %3 (%4)</translation>
     </message>
     <message>
         <source>Replaced</source>
@@ -2046,6 +2062,18 @@
     <message>
         <source>September</source>
         <translation>septembre</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set the convention of %1: %n business days to spot</source>
+        <translation><numerusform>Convention de %1 définie : %n jour ouvré jusqu’au spot</numerusform><numerusform>Convention de %1 définie : %n jours ouvrés jusqu’au spot</numerusform></translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar do not stop the count to spot</source>
+        <translation>Convention de %1 définie : les fériés du dollar n’arrêtent pas le décompte jusqu’au spot</translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar stop the count to spot</source>
+        <translation>Convention de %1 définie : les fériés du dollar arrêtent le décompte jusqu’au spot</translation>
     </message>
     <message>
         <source>Set the currency %1 (%2)</source>
@@ -2340,6 +2368,10 @@
         <translation>La dernière modification de %1 est « %2 » (%3, %4). Annulez d’abord celle-ci.</translation>
     </message>
     <message>
+        <source>The newest change of the same is "%1" (%2, %3). Undo that first.</source>
+        <translation>La dernière modification de la même chose est « %1 » (%2, %3). Annulez d’abord celle-ci.</translation>
+    </message>
+    <message>
         <source>The plan does not know this year's dates of %1</source>
         <translation>Le plan ne connaît pas les dates de %1 de cette année</translation>
     </message>
@@ -2482,6 +2514,10 @@
     <message>
         <source>This is no time. Write one such as 14:05 or 14:05:31.</source>
         <translation>Ce n’est pas une heure. Écrivez-en une comme 14:05 ou 14:05:31.</translation>
+    </message>
+    <message>
+        <source>This is undone already, by the entry %1 of the history.</source>
+        <translation>Ceci est déjà annulé, par l’entrée %1 de l’historique.</translation>
     </message>
     <message>
         <source>This moment is still to come.</source>

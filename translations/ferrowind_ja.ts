@@ -792,6 +792,14 @@
         <translation>追加</translation>
     </message>
     <message>
+        <source>Added the currency %1 (%2)</source>
+        <translation>通貨%1（%2）を追加しました</translation>
+    </message>
+    <message>
+        <source>Added the currency %1 (%2), no money</source>
+        <translation>通貨%1（%2）を追加しました。通貨ではない</translation>
+    </message>
+    <message>
         <source>Added the rule %1</source>
         <translation>規則%1を追加しました</translation>
     </message>
@@ -1944,6 +1952,10 @@
         <translation>%1を削除しました</translation>
     </message>
     <message>
+        <source>Removed the convention of %1</source>
+        <translation>%1の慣行を削除しました</translation>
+    </message>
+    <message>
         <source>Removed the rule %1</source>
         <translation>規則%1を削除しました</translation>
     </message>
@@ -1954,6 +1966,10 @@
     <message>
         <source>Removing the book of %1</source>
         <translation>%1の規則集の削除</translation>
+    </message>
+    <message>
+        <source>Renamed the currency %1 (%2) to %3 (%4)</source>
+        <translation>通貨%1（%2）の名称を%3（%4）に変更しました</translation>
     </message>
     <message>
         <source>Replaced</source>
@@ -2046,6 +2062,18 @@
     <message>
         <source>September</source>
         <translation>9月</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set the convention of %1: %n business days to spot</source>
+        <translation><numerusform>%1の慣行を設定しました：スポットまで%n営業日</numerusform></translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar do not stop the count to spot</source>
+        <translation>%1の慣行を設定しました：ドルの休日でスポットまでの計算は停止しない</translation>
+    </message>
+    <message>
+        <source>Set the convention of %1: holidays of the dollar stop the count to spot</source>
+        <translation>%1の慣行を設定しました：ドルの休日でスポットまでの計算を停止</translation>
     </message>
     <message>
         <source>Set the currency %1 (%2)</source>
@@ -2340,6 +2368,10 @@
         <translation>%1の最新の変更は「%2」（%3、%4）です。先にそれを取り消してください。</translation>
     </message>
     <message>
+        <source>The newest change of the same is "%1" (%2, %3). Undo that first.</source>
+        <translation>同じものの最新の変更は「%1」（%2、%3）です。先にそれを取り消してください。</translation>
+    </message>
+    <message>
         <source>The plan does not know this year's dates of %1</source>
         <translation>%1の今年の日付は計画にありません</translation>
     </message>
@@ -2482,6 +2514,10 @@
     <message>
         <source>This is no time. Write one such as 14:05 or 14:05:31.</source>
         <translation>時刻ではありません。14:05 または 14:05:31 のように書いてください。</translation>
+    </message>
+    <message>
+        <source>This is undone already, by the entry %1 of the history.</source>
+        <translation>履歴の項目%1によってすでに取り消されています。</translation>
     </message>
     <message>
         <source>This moment is still to come.</source>

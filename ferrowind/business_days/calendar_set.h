@@ -17,7 +17,8 @@ class FERROWIND_EXPORT CalendarSet {
   /// A code that comes twice is the failure InvalidArgument.
   explicit CalendarSet(const std::vector<BusinessCalendar>& calendars = {});
 
-  /// The failure ElementNotFound, "There is no calendar of XYZ", without one. Valid as long as the set.
+  /// The failure ElementNotFound, "There is no calendar of XYZ", without one, and another text of an empty
+  /// code. Valid as long as the set.
   [[nodiscard]] const BusinessCalendar& Of(std::string_view code) const;
   /// Null without one.
   [[nodiscard]] const BusinessCalendar* Find(std::string_view code) const;

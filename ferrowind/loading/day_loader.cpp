@@ -37,6 +37,7 @@ struct DayLoader::Content {
   Years years;
   business_days::MarketConventions conventions;
   DayNames names;
+  std::map<std::int32_t, std::string> codes;
 };
 
 DayLoader::DayLoader(const platform::EngineRegistry& engines, std::string url, Names names)
@@ -81,10 +82,13 @@ DayLoader::Content DayLoader::Read() const {
   const std::size_t year = rows->FieldNamed("Year1");
   const std::size_t days = rows->FieldNamed("Days");
   const std::size_t code = rows->FieldNamed("Ccy");
+  const std::size_t number = rows->FieldNamed("ID1");
   const std::size_t rules = rows->FieldNamed("Rules");
   const std::size_t is_prepared = rows->FieldNamed("IsPrepared");
   for (std::size_t i = 0; i < rows->RowCount(); ++i) {
     const RecordSet::Bookmark row = rows->BookmarkAt(i);
+    content.codes.emplace(platform::ToInt32(rows->Cell(row, number)),
+                          platform::ToText(rows->Cell(row, code)));
     auto& years = content.years[platform::ToText(rows->Cell(row, code))];
     if (platform::ToInt32(rows->Cell(row, is_prepared)) == 0) continue;
     years.push_back({std::chrono::year(platform::ToInt32(rows->Cell(row, year))),
@@ -119,8 +123,9 @@ void DayLoader::Take(Content content, const DayChanges& changes) {
     const auto found = made.find(code);
     calendars.push_back(found != made.end() ? found->second : before->calendars.Of(code));
   }
-  auto loaded = std::make_shared<const LoadedDays>(LoadedDays{
-      business_days::CalendarSet(calendars), std::move(content.conventions), std::move(content.names)});
+  auto loaded = std::make_shared<const LoadedDays>(
+      LoadedDays{business_days::CalendarSet(calendars), std::move(content.conventions),
+                 std::move(content.names), std::move(content.codes)});
   years_ = std::move(content.years);
   const std::lock_guard lock(taking_);
   current_ = std::move(loaded);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -18,6 +20,8 @@ struct FERROWIND_EXPORT LoadedDays {
   business_days::MarketConventions conventions;
   /// Nothing unless the loader was asked for them.
   DayNames names = {};
+  /// The codes of the currencies that have calendars, by their numbers in ISO 4217.
+  std::map<std::int32_t, std::string> codes = {};
 };
 
 /// What is another than it was, the codes of currencies ascending.

@@ -25,12 +25,6 @@ bool IsOf(const HistoryEntry& entry, std::span<const CalendarKey> calendars) {
   });
 }
 
-std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
-  auto found = LoadEntry(id);
-  if (!found) return std::nullopt;
-  return std::move(found->entry);
-}
-
 UndoOutcome UndoOne(const HistoryEntry& call, const CurrencyList& currencies) {
   UndoOutcome outcome;
   WriteTold(platform::ActionKind::kUndo,
@@ -75,7 +69,7 @@ ActionCalls::Outcome ActionCalls::Undo() {
   try {
     const ActionScope together(AttachedPlatform().action_observer, platform::ActionKind::kUndo);
     const auto currencies = CurrencyList::Load();
-    const HistoryWords words(currencies, EntryOfNumber);
+    const HistoryWords words(currencies, FindEntry);
     for (; !calls_.empty(); calls_.pop_back()) {
       outcome.may_have_changed = true;
       const UndoOutcome undone = UndoOne(calls_.back(), currencies);

@@ -113,11 +113,7 @@ std::string CalendarStory::LoadLastChange(const Date& day) const {
   const HistoryPage page =
       LoadHistory({.currency = currency_.id, .year = year_, .day_of_year = day.DayOfYear()}, std::nullopt, 1);
   if (page.entries.empty()) return {};
-  const HistoryWords words(planner_.Currencies(), [](std::int32_t id) -> std::optional<HistoryEntry> {
-    auto found = LoadEntry(id);
-    if (!found) return std::nullopt;
-    return std::move(found->entry);
-  });
+  const HistoryWords words(planner_.Currencies(), FindEntry);
   const HistoryEntry& entry = page.entries.front();
   return entry.user + ", " + MomentText(AttachedPlatform().locale, entry.moment) + ": " +
          words.Tell(entry).Sentence();

@@ -4,6 +4,7 @@
 
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/in_words.h"
+#include "ferrowind/planning/later_changes.h"
 #include "ferrowind/platform/values/conversion.h"
 
 namespace ferrowind::planning {
@@ -96,6 +97,12 @@ std::optional<DetailedEntry> LoadEntry(std::int32_t id) {
   return detailed;
 }
 
+std::optional<HistoryEntry> FindEntry(std::int32_t id) {
+  auto detailed = LoadEntry(id);
+  if (!detailed) return std::nullopt;
+  return std::move(detailed->entry);
+}
+
 PastCalendar LoadCalendarBehind(std::int32_t currency, std::int32_t year, std::int32_t entry) {
   SourceValues parameters;
   parameters.Add("ID1", currency);
@@ -121,15 +128,10 @@ UndoOutcome UndoEntry(const HistoryEntry& entry, const std::string& what) {
   const CallAnswer answer =
       CallDatabase(what.empty() ? InWords("Undoing the entry %1", {std::to_string(entry.id)}) : what,
                    "CldUndo", parameters, 0, {kNoSuchEntry, kChangedSince});
-  if (answer.return_value == return_value::kDone) return {Kind::kDone, {}};
-  if (answer.return_value == kNoSuchEntry) return {Kind::kNoSuchEntry, {}};
-  UndoOutcome outcome{Kind::kRefused, {}};
-  if (!entry.currency || !entry.year) return outcome;
-  HistoryPage newest = LoadHistory({entry.currency, entry.year}, std::nullopt, 1);
-  if (!newest.entries.empty() && newest.entries.front().id > entry.id) {
-    outcome.later = std::move(newest.entries.front());
-  }
-  return outcome;
+  if (answer.return_value == return_value::kDone) return {Kind::kDone};
+  if (answer.return_value == kNoSuchEntry) return {Kind::kNoSuchEntry};
+  LaterChanges later = LoadLaterChanges(entry);
+  return {Kind::kRefused, std::move(later.newest), later.undoer};
 }
 
 }  // namespace ferrowind::planning

@@ -72,6 +72,9 @@ struct DetailedEntry {
 /// Nothing when there is no such entry.
 [[nodiscard]] std::optional<DetailedEntry> LoadEntry(std::int32_t id);
 
+/// The same without its rows.
+[[nodiscard]] std::optional<HistoryEntry> FindEntry(std::int32_t id);
+
 /// A day of a calendar as it was.
 struct PastDay {
   platform::Date date;
@@ -108,8 +111,11 @@ struct UndoOutcome {
   };
 
   Kind kind = Kind::kDone;
-  /// When it was refused, the newest later entry of the same calendar, if there is one.
-  std::optional<HistoryEntry> later;
+  /// When it was refused, the newest later entry of the same calendar, rule book, rule, currency or
+  /// convention, if there is one.
+  std::optional<HistoryEntry> later = {};
+  /// When it was refused because it is undone already, the entry that did that.
+  std::optional<std::int32_t> undoer = {};
 };
 
 /// Puts back what the call of the entry changed, as a call of its own; all of it or nothing. A failure says

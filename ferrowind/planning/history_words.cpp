@@ -21,6 +21,12 @@ using platform::ReadJson;
 /// Thrown for parameters that no call of the procedure has, and caught where the entry is told.
 struct CannotBeTold {};
 
+std::vector<ReplacedRow> RowsOfEntry(std::int32_t id) {
+  auto detailed = LoadEntry(id);
+  if (!detailed) return {};
+  return std::move(detailed->rows);
+}
+
 /// The parameters of a call by name.
 class Parameters {
  public:
@@ -169,28 +175,55 @@ std::string WordsOfBook(const HistoryEntry& entry, const std::string& currency) 
                  {currency});
 }
 
-std::string WordsOfCurrency(const HistoryEntry& entry, const DayTeller& tell_day) {
-  const Parameters parameters(entry.parameters);
-  const std::string code = parameters.NeededText("Ccy");
-  const std::string name = parameters.NeededText("Name");
-  if (parameters.Number("CcyType") != 0) return InWords("Set the currency %1 (%2), no money", {code, name});
-  if (!parameters.Has("LastDay")) return InWords("Set the currency %1 (%2)", {code, name});
-  const auto last_day = Date::FromIso(parameters.Text("LastDay"));
-  if (!last_day) throw CannotBeTold();
-  return InWords("Set the currency %1 (%2), money until %3", {code, name, tell_day(*last_day)});
+/// A currency, as the history keeps it.
+struct CurrencyRow {
+  std::string code;
+  std::string name;
+};
+
+std::optional<CurrencyRow> CurrencyIn(const std::string& json) {
+  const auto row = ReadJson(json);
+  if (!row) return std::nullopt;
+  return CurrencyRow{MemberText(*row, "Ccy"), MemberText(*row, "Name")};
 }
 
-std::string WordsOf(const HistoryEntry& entry, const std::string& calendar, const DayTeller& tell_day) {
-  try {
-    if (entry.procedure == "CldIUMain") return OneLine(WordsOfDays(entry, calendar, tell_day));
-    if (entry.procedure == "CldApplyPlan") return OneLine(WordsOfPlan(entry, calendar, tell_day));
-    if (entry.procedure == "CldIUCelebrate") return OneLine(WordsOfRule(entry));
-    if (entry.procedure == "CldIUBook") return OneLine(WordsOfBook(entry, calendar));
-    if (entry.procedure == "CldIUCurrency") return OneLine(WordsOfCurrency(entry, tell_day));
-  } catch (const CannotBeTold&) {
-    // As it stands, below.
+/// What of a currency the rows tell that its call replaced; nothing when it has its code and its name from
+/// before, or the history does not keep them.
+std::optional<std::string> WordsOfNewNames(const std::vector<ReplacedRow>& rows, bool is_money) {
+  for (const ReplacedRow& row : rows) {
+    const auto after = CurrencyIn(row.behind);
+    if (row.table != "DicCcy" || !after) continue;
+    const auto before = CurrencyIn(row.before);
+    if (!before) {
+      const std::vector<std::string> names = {after->code, after->name};
+      return is_money ? InWords("Added the currency %1 (%2)", names)
+                      : InWords("Added the currency %1 (%2), no money", names);
+    }
+    if (before->code != after->code || before->name != after->name) {
+      return InWords("Renamed the currency %1 (%2) to %3 (%4)",
+                     {before->code, before->name, after->code, after->name});
+    }
   }
-  return OneLine(entry.procedure + " " + entry.parameters);
+  return std::nullopt;
+}
+
+std::string WordsOfConvention(const HistoryEntry& entry, const CurrencyList& currencies) {
+  const Parameters parameters(entry.parameters);
+  const auto code = [&](std::string_view name) {
+    return UnmistakableCode(currencies.FindOrNumber(parameters.Number(name)));
+  };
+  const std::string subject =
+      parameters.Has("OtherID") ? code("CcyID") + "/" + code("OtherID") : code("CcyID");
+  if (parameters.Has("SpotDays")) {
+    return InWords(static_cast<std::size_t>(parameters.Number("SpotDays")),
+                   "Set the convention of %1: %n business day to spot",
+                   "Set the convention of %1: %n business days to spot", {subject});
+  }
+  if (!parameters.Has("DollarStops")) return InWords("Removed the convention of %1", {subject});
+  return parameters.Number("DollarStops") != 0
+             ? InWords("Set the convention of %1: holidays of the dollar stop the count to spot", {subject})
+             : InWords("Set the convention of %1: holidays of the dollar do not stop the count to spot",
+                       {subject});
 }
 
 }  // namespace
@@ -216,8 +249,40 @@ HistoryWords::HistoryWords(const CurrencyList& currencies, EntryLookup find)
     : HistoryWords(currencies, std::move(find),
                    [](const Date& day) { return AttachedPlatform().locale.LongDayText(day); }) {}
 
-HistoryWords::HistoryWords(const CurrencyList& currencies, EntryLookup find, DayTeller tell_day)
-    : currencies_(currencies), find_(std::move(find)), tell_day_(std::move(tell_day)) {}
+HistoryWords::HistoryWords(const CurrencyList& currencies, EntryLookup find, DayTeller tell_day,
+                           RowLookup find_rows)
+    : currencies_(currencies),
+      find_(std::move(find)),
+      tell_day_(std::move(tell_day)),
+      find_rows_(find_rows ? std::move(find_rows) : RowsOfEntry) {}
+
+std::string HistoryWords::WordsOf(const HistoryEntry& entry) const {
+  try {
+    const std::string calendar = Calendar(entry);
+    if (entry.procedure == "CldIUMain") return OneLine(WordsOfDays(entry, calendar, tell_day_));
+    if (entry.procedure == "CldApplyPlan") return OneLine(WordsOfPlan(entry, calendar, tell_day_));
+    if (entry.procedure == "CldIUCelebrate") return OneLine(WordsOfRule(entry));
+    if (entry.procedure == "CldIUBook") return OneLine(WordsOfBook(entry, calendar));
+    if (entry.procedure == "CldIUCurrency") return OneLine(WordsOfCurrency(entry));
+    if (entry.procedure == "CldIUConvention") return OneLine(WordsOfConvention(entry, currencies_));
+  } catch (const CannotBeTold&) {
+    // As it stands, below.
+  }
+  return OneLine(entry.procedure + " " + entry.parameters);
+}
+
+std::string HistoryWords::WordsOfCurrency(const HistoryEntry& entry) const {
+  const Parameters parameters(entry.parameters);
+  const std::string code = parameters.NeededText("Ccy");
+  const std::string name = parameters.NeededText("Name");
+  const bool is_money = parameters.Number("CcyType") == 0;
+  const auto last_day = Date::FromIso(parameters.Text("LastDay"));
+  if (parameters.Has("LastDay") && !last_day) throw CannotBeTold();
+  if (auto words = WordsOfNewNames(find_rows_(entry.id), is_money)) return *std::move(words);
+  if (!is_money) return InWords("Set the currency %1 (%2), no money", {code, name});
+  if (!last_day) return InWords("Set the currency %1 (%2)", {code, name});
+  return InWords("Set the currency %1 (%2), money until %3", {code, name, tell_day_(*last_day)});
+}
 
 std::string HistoryWords::Calendar(const HistoryEntry& entry) const {
   if (!entry.currency) return "";
@@ -229,14 +294,23 @@ std::string HistoryWords::WhyNotUndone(const HistoryEntry& entry, const UndoOutc
   if (outcome.kind == UndoOutcome::Kind::kNoSuchEntry) {
     return InWords("The history has no entry %1.", {std::to_string(entry.id)});
   }
+  if (outcome.undoer) {
+    return InWords("This is undone already, by the entry %1 of the history.",
+                   {std::to_string(*outcome.undoer)});
+  }
   const std::string why = InWords(
       "This cannot be undone: a later change is of the same, or the history does not keep what was there "
       "before.");
   if (!outcome.later) return why;
+  const std::string what = Tell(*outcome.later).Sentence();
+  const std::string& who = outcome.later->user;
+  const std::string when = ExactMomentText(AttachedPlatform().locale, outcome.later->moment);
+  const std::string of_what = Calendar(*outcome.later);
   return why + " " +
-         InWords("The newest change of %1 is \"%2\" (%3, %4). Undo that first.",
-                 {Calendar(*outcome.later), Tell(*outcome.later).Sentence(), outcome.later->user,
-                  ExactMomentText(AttachedPlatform().locale, outcome.later->moment)});
+         (of_what.empty() ? InWords("The newest change of the same is \"%1\" (%2, %3). Undo that first.",
+                                    {what, who, when})
+                          : InWords("The newest change of %1 is \"%2\" (%3, %4). Undo that first.",
+                                    {of_what, what, who, when}));
 }
 
 ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {
@@ -248,7 +322,7 @@ ToldEntry HistoryWords::Tell(const HistoryEntry& entry) const {
     first = std::move(*found);
     ++turns;
   }
-  return {first.id, WordsOf(first, Calendar(first), tell_day_), turns};
+  return {first.id, WordsOf(first), turns};
 }
 
 }  // namespace ferrowind::planning

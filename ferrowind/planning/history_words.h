@@ -15,6 +15,9 @@ namespace ferrowind::planning {
 /// Finds an entry by its number; nothing when there is none.
 using EntryLookup = std::function<std::optional<HistoryEntry>(std::int32_t id)>;
 
+/// The rows that the call of an entry replaced (`DetailedEntry::rows`).
+using RowLookup = std::function<std::vector<ReplacedRow>(std::int32_t id)>;
+
 /// Says a day in words.
 using DayTeller = std::function<std::string(const platform::Date& day)>;
 
@@ -39,21 +42,28 @@ class HistoryWords {
   /// `currencies` must outlive this. `find` is asked for the entries that others undid. Days are told with
   /// their weekday, as the operator's language writes them.
   HistoryWords(const CurrencyList& currencies, EntryLookup find);
-  /// Tells days as `tell_day` does.
-  HistoryWords(const CurrencyList& currencies, EntryLookup find, DayTeller tell_day);
+  /// Tells days as `tell_day` does. What became of a currency is told by the rows that `find_rows` finds, in
+  /// the calling thread's database when it is empty.
+  HistoryWords(const CurrencyList& currencies, EntryLookup find, DayTeller tell_day,
+               RowLookup find_rows = {});
 
-  /// Fails as `find` does.
+  /// Fails as the lookups do.
   [[nodiscard]] ToldEntry Tell(const HistoryEntry& entry) const;
-  /// Why the call of `entry` could not be undone, in sentences; `outcome` is not `kDone`. Fails as `find`
-  /// does.
+  /// Why the call of `entry` could not be undone, in sentences; `outcome` is not `kDone`. Fails as the
+  /// lookups do.
   [[nodiscard]] std::string WhyNotUndone(const HistoryEntry& entry, const UndoOutcome& outcome) const;
   /// "EUR 2028", "EUR" of a rule book, or an empty text of what is of no currency.
   [[nodiscard]] std::string Calendar(const HistoryEntry& entry) const;
 
  private:
+  /// Of an entry that undid no other.
+  [[nodiscard]] std::string WordsOf(const HistoryEntry& entry) const;
+  [[nodiscard]] std::string WordsOfCurrency(const HistoryEntry& entry) const;
+
   const CurrencyList& currencies_;
   EntryLookup find_;
   DayTeller tell_day_;
+  RowLookup find_rows_;
 };
 
 /// The entry that the call of `entry` undid; nothing when it is no undoing.

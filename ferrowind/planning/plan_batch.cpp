@@ -48,12 +48,6 @@ std::string DoneSentence(const PlannedCalendar& calendar, bool existed) {
                  {calendar.Name(), ButFor(calendar.Totals())});
 }
 
-std::optional<HistoryEntry> EntryOfNumber(std::int32_t id) {
-  auto found = LoadEntry(id);
-  if (!found) return std::nullopt;
-  return std::move(found->entry);
-}
-
 }  // namespace
 
 PlanBatch::PlanBatch(const almanac::DateTables& tables, const std::vector<CalendarKey>& calendars,
@@ -144,7 +138,7 @@ PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
     if (outcome.kind != UndoOutcome::Kind::kDone) {
       const auto currencies = CurrencyList::Load();
       return {applied.calendar, Kind::kRefused,
-              name + ": " + HistoryWords(currencies, EntryOfNumber).WhyNotUndone(applied.entry, outcome)};
+              name + ": " + HistoryWords(currencies, FindEntry).WhyNotUndone(applied.entry, outcome)};
     }
   } catch (const platform::Failure& failure) {
     return {applied.calendar, Kind::kFailed, name + ": " + failure.Description() + "."};

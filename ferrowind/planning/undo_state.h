@@ -31,11 +31,10 @@ class UndoState {
   [[nodiscard]] bool IsUndone(std::int32_t entry) const { return UndoerOf(entry).has_value(); }
   /// For an entry whose call is `told`: undo what was done, redo what was undone.
   [[nodiscard]] UndoStep StepOf(std::int32_t entry, const ToldEntry& told) const;
-
- private:
   /// The entry in force that undid it.
   [[nodiscard]] std::optional<std::int32_t> UndoerOf(std::int32_t entry) const;
 
+ private:
   /// By the entry that was undone, those that did it.
   std::multimap<std::int32_t, std::int32_t> undoers_;
 };

@@ -3,7 +3,10 @@
 #include <map>
 #include <optional>
 #include <ostream>
+#include <sstream>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "ferrowind/business_days/currency_pair.h"
 #include "ferrowind/business_days/market_conventions.h"
@@ -12,6 +15,7 @@
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/platform/values/failure.h"
 
+#include "host/admin/currency_numbers.h"
 #include "host/admin/database_content.h"
 #include "host/admin/text_escapes.h"
 
@@ -43,6 +47,27 @@ std::map<std::string, std::string> LinesOf(const MarketConventions& conventions)
 MarketConventions LoadConventions() {
   return loading::ConventionsIn(
       *planning::CallDatabase("Reading the conventions", "CldGetConventions", {}, 1).record_sets[0]);
+}
+
+CodeOfNumber CodesIn(const CurrencyList& currencies) {
+  return [&currencies](std::int32_t number) { return currencies.Named(std::to_string(number)).code; };
+}
+
+/// The lines with the codes of the currencies that they name by numbers: in each it is the second word that
+/// names some.
+std::string TextOf(const std::vector<std::string>& lines, const CurrencyList& currencies) {
+  std::string text;
+  for (const std::string& given : lines) {
+    std::istringstream all(given);
+    for (std::string line; std::getline(all, line); text += '\n') {
+      std::istringstream words(line);
+      std::string word;
+      for (std::size_t i = 0; words >> word; ++i) {
+        text.append(i == 0 ? "" : " ").append(i == 1 ? WithCodes(word, CodesIn(currencies)) : word);
+      }
+    }
+  }
+  return text;
 }
 
 /// A pair, or one currency.
@@ -93,14 +118,13 @@ ExitStatus ConventionListCommand::Run(const platform::EngineRegistry& engines, s
 }
 
 ExitStatus ConventionSetCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
-  std::string text;
-  for (const std::string& line : lines) text += line + '\n';
-  const MarketConventions wanted = business_days::ReadMarketConventions(text);
-  const auto wanted_lines = LinesOf(wanted);
-  if (wanted_lines.empty())
-    throw Failure(platform::failure_number::kInvalidArgument, "No line says anything");
+  std::map<std::string, std::string> wanted_lines;
   ChangeCalendars(engines, url, [&] {
     const CurrencyList currencies = CurrencyList::Load();
+    const MarketConventions wanted = business_days::ReadMarketConventions(TextOf(lines, currencies));
+    wanted_lines = LinesOf(wanted);
+    if (wanted_lines.empty())
+      throw Failure(platform::failure_number::kInvalidArgument, "No line says anything");
     std::vector<std::pair<Subject, std::int32_t>> changes;
     for (const auto& [pair, days] : wanted.DaysOfPairs()) {
       changes.emplace_back(SubjectOf(pair, currencies), days);
@@ -122,7 +146,8 @@ ExitStatus ConventionRemoveCommand::Run(const platform::EngineRegistry& engines,
     for (const std::string& text : subjects) {
       const Subject subject =
           text.size() > kCodeLength
-              ? SubjectOf(business_days::InAlphabeticalOrder(business_days::ReadCurrencyPair(text)),
+              ? SubjectOf(business_days::InAlphabeticalOrder(
+                              business_days::ReadCurrencyPair(WithCodes(text, CodesIn(currencies)))),
                           currencies)
               : SubjectOf(currencies.Named(text).code, currencies);
       if (!Store(subject, {})) {

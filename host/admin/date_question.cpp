@@ -16,6 +16,7 @@
 #include "ferrowind/business_days/tenor.h"
 #include "ferrowind/platform/values/date.h"
 
+#include "host/admin/currency_numbers.h"
 #include "host/admin/plan_arguments.h"
 #include "host/admin/procedure_arguments.h"
 
@@ -317,7 +318,13 @@ DateAnswer AnswerDateQuestion(const std::vector<std::string>& words, const loadi
     throw ArgumentError("expected is \"" + std::string(question->name) + ' ' + std::string(question->parts) +
                         '"');
   }
-  return question->answer(words, {days, answering});
+  std::vector<std::string> with_codes = words;
+  with_codes[1] = WithCodes(words[1], [&](std::int32_t number) {
+    const auto found = days.codes.find(number);
+    if (found != days.codes.end()) return found->second;
+    throw ArgumentError("There is no calendar of " + std::to_string(number));
+  });
+  return question->answer(with_codes, {days, answering});
 }
 
 }  // namespace ferrowind::host

@@ -5,11 +5,11 @@
 #include <utility>
 #include <vector>
 
-#include "ferrowind/almanac/date_words.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
 
 #include "host/admin/database_content.h"
+#include "host/admin/english_day.h"
 #include "host/admin/history_arguments.h"
 
 namespace ferrowind::host {
@@ -59,17 +59,13 @@ planning::EntryLookup LookupIn(const std::vector<HistoryEntry>& entries) {
         std::lower_bound(entries.begin(), entries.end(), id,
                          [](const HistoryEntry& entry, std::int32_t wanted) { return entry.id < wanted; });
     if (known != entries.end() && known->id == id) return *known;
-    auto found = planning::LoadEntry(id);
-    if (!found) return std::nullopt;
-    return std::move(found->entry);
+    return planning::FindEntry(id);
   };
 }
 
 std::shared_ptr<RecordSet> RowsOf(const std::vector<HistoryEntry>& entries,
                                   const planning::CurrencyList& currencies, OutputFormat format) {
-  const planning::HistoryWords words(currencies, LookupIn(entries), [](const platform::Date& day) {
-    return almanac::LongDate(day.Serial()).InEnglish();
-  });
+  const planning::HistoryWords words(currencies, LookupIn(entries), EnglishDay);
   std::vector<std::vector<Value>> rows;
   for (const HistoryEntry& entry : entries) {
     const planning::Currency* const currency = entry.currency ? currencies.Find(*entry.currency) : nullptr;

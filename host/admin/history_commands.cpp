@@ -34,11 +34,12 @@ constexpr const char* kUndoManual =
 comments, rules, calendars, rule books, currencies. That is a call like any
 other, with an entry of its own, which can be undone itself. A rule that the
 call added goes again, unless something uses it by now; so does a calendar that
-it created.
+it created. On a terminal it says what it would undo and asks; --yes does not
+ask, and neither does a script that has no terminal.
 
 Nothing is changed and the status is 1 when a later call changed the same, or
-when the entry is older than the upgrade that brought undoing: the history does
-not keep then what was there before.)";
+when the entry is undone already, or older than the upgrade that brought undoing:
+the history does not keep then what was there before.)";
 
 constexpr const char* kAsOfManual =
     R"(Prints the days of a calendar as they were at a moment of the past: after the
@@ -67,10 +68,12 @@ void AddUndo(CommandSet& commands) {
   const auto undo = std::make_shared<UndoCommand>();
   CLI::App& command = commands.Add("undo", "Put back what a call changed", kUndoManual,
                                    Changing([undo](const CommandSurroundings& surroundings) {
-                                     return undo->Run(surroundings.engines, surroundings.out);
+                                     return undo->Run(surroundings.engines, AskOnTerminal, surroundings.out,
+                                                      surroundings.errors);
                                    }));
   command.add_option("URL", undo->url, "The database")->required();
   command.add_option("ENTRY", undo->entry, "The EntryID that \"history\" prints")->required();
+  command.add_flag("--yes", undo->is_confirmed, "Do not ask");
 }
 
 void AddAsOf(CommandSet& commands) {

@@ -112,11 +112,7 @@ fmCalendarThen::fmCalendarThen(const PlanningContext& context)
 void fmCalendarThen::ShowBehind(std::int32_t entry) {
   const HistoryEntry then = RequireEntry(entry);
   const auto currencies = planning::CurrencyList::Load();
-  const planning::HistoryWords words(currencies, [](std::int32_t id) -> std::optional<HistoryEntry> {
-    const auto found = planning::LoadEntry(id);
-    if (!found) return std::nullopt;
-    return found->entry;
-  });
+  const planning::HistoryWords words(currencies, planning::FindEntry);
   const std::string calendar = words.Calendar(then);
   const std::string moment = planning::ExactMomentText(platform_.locale, then.moment);
   form_->SetCaption(Said(platform_, "%1 as of %2", {calendar, moment}));

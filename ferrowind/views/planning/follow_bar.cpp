@@ -21,12 +21,7 @@ using platform::ControlOf;
 
 planning::ToldEntry InWords(const planning::HistoryEntry& call) {
   const auto currencies = planning::CurrencyList::Load();
-  const planning::HistoryWords words(currencies,
-                                     [](std::int32_t id) -> std::optional<planning::HistoryEntry> {
-                                       auto found = planning::LoadEntry(id);
-                                       if (!found) return std::nullopt;
-                                       return std::move(found->entry);
-                                     });
+  const planning::HistoryWords words(currencies, planning::FindEntry);
   return words.Tell(call);
 }
 

@@ -34,11 +34,7 @@ class Teller {
 
  private:
   planning::CurrencyList currencies_ = planning::CurrencyList::Load();
-  HistoryWords words_{currencies_, [](std::int32_t id) -> std::optional<HistoryEntry> {
-                        const auto found = planning::LoadEntry(id);
-                        if (!found) return std::nullopt;
-                        return found->entry;
-                      }};
+  HistoryWords words_{currencies_, planning::FindEntry};
 };
 
 bool IsWanted(const platform::Platform& platform, const std::string& question) {

@@ -55,6 +55,14 @@ class ConventionTests:
         self.assertEqual(self.conventions(), before)
         self.assertIn("The database says nothing of CAD/USD that could be removed", self.refuse("remove", "USDCAD"))
 
+    def test_takes_numbers_of_currencies_for_their_codes(self):
+        before = self.conventions()
+        self.assertEqual(self.change("set", "spot 840/124 2", "dollar-holiday-stops 978"),
+                         "In force now: spot CAD/USD 2\nIn force now: dollar-holiday-stops EUR\n")
+        self.change("remove", "124/840", "978")
+        self.assertEqual(self.conventions(), before)
+        self.assertIn("The database has no currency 111", self.refuse("set", "spot 840/111 1"))
+
     def test_sets_nothing_when_a_line_is_wrong(self):
         self.assertIn('Line 2: "3" is no number of days to spot', self.refuse("set", "spot USD/CAD 2", "spot USD/TRY 3"))
         self.assertIn("The database has no currency QQQ", self.refuse("set", "spot EUR/USD 1", "spot USD/QQQ 1"))

@@ -21,6 +21,7 @@ ANSWERS = [
     ("is EUR,USD 2026-11-26", "closed", CLOSED),
     ("is EUR 2099-01-01", "not prepared", NOT_PREPARED),
     ("next EUR,USD 2026-12-24", "2026-12-28", DONE),
+    ("next 978,USD 2026-12-24", "2026-12-28", DONE),
     ("previous eur 2026-12-28", "2026-12-24", DONE),
     ("adjust EUR 2026-05-31 Following", "2026-06-01", DONE),
     ("adjust EUR 2026-05-31 ModifiedFollowing", "2026-05-29", DONE),
@@ -31,11 +32,14 @@ ANSWERS = [
     ("month-end EUR 2026-05-10", "2026-05-29", DONE),
     ("spot EURUSD 2026-12-22", "2026-12-24", DONE),
     ("spot EUR/JPY 2026-04-30", "2026-05-07", DONE),
+    ("spot 978/392 2026-04-30", "2026-05-07", DONE),
     ("value EURUSD 2026-12-22 3M", "2027-03-24", DONE),
 ]
 REFUSALS = [
     ("next EUR 2099-01-01", "EUR 2099 is not prepared", NOT_PREPARED),
     ("next QQQ 2026-01-01", "There is no calendar of QQQ", NOT_ANSWERED),
+    ("next 999 2026-01-01", "There is no calendar of 999", NOT_ANSWERED),
+    ("is EUR,,USD 2026-01-01", "The code of a currency is missing", NOT_ANSWERED),
     ("next EUR 2026-02-30", "\"2026-02-30\" is no date YYYY-MM-DD", NOT_ANSWERED),
     ("adjust EUR 2026-05-31 Sideways", "\"Sideways\" is no convention", NOT_ANSWERED),
     ("add EUR 2026-05-31 2x", "\"2x\" is no number of days", NOT_ANSWERED),

@@ -111,7 +111,7 @@ class HistoryTests:
 
     def test_names_what_it_cannot_read(self):
         for options, text in ((("--since", "yesterday"), '"yesterday" is neither a date'),
-                              (("--since", ""), '"" is neither a date'),
+                              (("--since", ""), "--since is empty"),
                               (("--calendar", "USD"), '"USD" names no calendar'),
                               (("--calendar", "XXQ/2026"), "has no currency XXQ")):
             with self.subTest(options=options):

@@ -3,6 +3,9 @@
 import csv
 import io
 import json
+import os
+import pty
+import subprocess
 import time
 import unittest
 
@@ -60,7 +63,7 @@ class PastTests:
         entry = self.last_entry()
         output = self.undo(entry)
         self.assertEqual(self.days(), ordinary)
-        self.assertRegex(output, rf"\AThe entry {entry} \(CldIUMain for USD/2027, \S+Z, by \S+\) is undone\.\n"
+        self.assertRegex(output, rf'\AThe entry {entry} of USD 2027, "Excepted 10 January 2027: Stock-taking" \(\S+Z, by \S+\) is undone\.\n'
                                  rf"That is the entry {self.last_entry()}, which can be undone itself\.\n\Z")
         self.undo(self.last_entry())
         self.assertEqual(self.days(), excepted)
@@ -76,11 +79,54 @@ class PastTests:
         entry = self.last_entry()
         self.make_exception("Moving house")
         errors = self.refuse_undo(entry)
-        self.assertIn(f"The entry {entry} (CldIUMain for USD/2027", errors)
+        self.assertIn(f'The entry {entry} of USD 2027, "Excepted 10 January 2027: Stock-taking" (', errors)
         self.assertIn("a later call changed the same", errors)
         later = self.last_entry()
-        self.assertRegex(errors, rf"The newest call for USD/2027 is the entry {later} \(CldIUMain for USD/2027, .*\); undo that first\n\Z")
+        self.assertRegex(errors, rf'The newest call for the same is the entry {later} of USD 2027, "Excepted .*: Moving house" \(.*\); undo that first\n\Z')
         self.undo(later)
+
+    def test_undo_names_the_later_call_for_what_is_no_calendar(self):
+        self.assert_run(DONE, "currency", "rename", self.database, "SEK", "Crown")
+        renamed = self.last_entry()
+        self.assert_run(DONE, "currency", "rename", self.database, "NOK", "Crown of Norway")
+        self.assert_run(DONE, "currency", "rename", self.database, "SEK", "Krone", "--code", "SEQ")
+        later = self.last_entry()
+        self.assert_run(DONE, "conventions", "set", self.database, "spot USD/CHF 1")
+        self.assert_run(DONE, "book", "set", self.database, "EUR", "--delivered")
+        book = self.last_entry()
+        self.book_without_a_rule("EUR")
+        self.assertRegex(self.refuse_undo(renamed), rf'The entry {renamed}, "Renamed the currency SEK \(.*\) to SEK \(Crown\)" \(.*'
+                                                    rf'is the entry {later}, "Renamed the currency SEK \(Crown\) to SEQ \(Krone\)"')
+        self.assertRegex(self.refuse_undo(book), rf'The entry {book} of EUR, "Added the rule book of EUR: .*'
+                                                 rf'is the entry {book + 1} of EUR, "Changed the rule book of EUR: .*; undo that first\n')
+
+    def book_without_a_rule(self, currency):
+        book, _ = self.assert_run(DONE, "book", "show", self.database, currency)
+        shorter = self.path("shorter.txt")
+        shorter.write_text("".join(book.splitlines(keepends=True)[:-1]), encoding="utf-8")
+        self.assert_run(DONE, "book", "set", self.database, currency, shorter)
+
+    def test_undo_names_the_entry_that_has_undone_one_already(self):
+        self.call("CldIUMain", *USD_2027)
+        entry = self.last_entry()
+        self.undo(entry)
+        self.assertIn(f"is undone already: the entry {self.last_entry()} has undone it", self.refuse_undo(entry))
+
+    def test_undo_asks_on_a_terminal_unless_it_is_told_not_to(self):
+        self.call("CldIUMain", *USD_2027)
+        entry = self.last_entry()
+        for answer, options, changes in (("n\n", (), False), ("", ("--yes",), True)):
+            screen, terminal = pty.openpty()
+            self.addCleanup(os.close, screen)
+            process = subprocess.Popen([ferrowindctl.PROGRAM, "undo", self.database, str(entry), *options], stdin=terminal,
+                                       stdout=subprocess.DEVNULL, stderr=terminal)
+            os.close(terminal)
+            if answer:
+                shown = self.read_until(screen, "[y/N] ")
+                self.assertIn(f'Undo the entry {entry} of USD 2027, "Created the calendar USD 2027" (', shown)
+                os.write(screen, answer.encode())
+            self.assertEqual(process.wait(timeout=60), DONE if changes else NOT_DONE)
+            self.assertEqual(self.call("CldAllInfo")[0]["rows"] == [], changes)
 
     def test_undo_refuses_an_entry_that_does_not_exist(self):
         self.call("CldIUMain", *USD_2027)

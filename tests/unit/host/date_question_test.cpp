@@ -50,8 +50,21 @@ class DateQuestionTest : public ::testing::Test {
   /// 5 January closed in the euro, 6 January in the dollar; 29 and 30 January in the yen.
   loading::LoadedDays days_{
       business_days::CalendarSet({Calendar("EUR", {5}), Calendar("USD", {6}), Calendar("JPY", {29, 30})}),
-      {}};
+      {},
+      {},
+      {{978, "EUR"}, {840, "USD"}, {392, "JPY"}}};
 };
+
+TEST_F(DateQuestionTest, NumbersOfCurrenciesStandForTheirCodes) {
+  for (const std::string codes : {"978,840", "978,USD", "eur,840"}) {
+    EXPECT_EQ(Ask({"is", codes, "2026-01-06"}).text, "closed") << codes;
+  }
+  for (const std::string pair : {"978/840", "978840", "EUR/840", "978/usd"}) {
+    EXPECT_EQ(Ask({"spot", pair, "2026-01-02"}).text, Ask({"spot", "EURUSD", "2026-01-02"}).text) << pair;
+  }
+  EXPECT_EQ(Refusal({"is", "EUR,999", "2026-01-06"}), "There is no calendar of 999");
+  EXPECT_EQ(Refusal({"is", "EUR,,USD", "2026-01-06"}), "The code of a currency is missing");
+}
 
 TEST_F(DateQuestionTest, ADayIsOpenClosedOrNotPrepared) {
   EXPECT_EQ(Ask({"is", "EUR", "2026-01-06"}).text, "open");
@@ -111,7 +124,7 @@ TEST_F(DateQuestionTest, SaysWhatWasExpected) {
   EXPECT_THAT(Refusal({}), HasSubstr("it is one of is, next"));
   EXPECT_THAT(Refusal({"when"}), HasSubstr("\"when\" is no question"));
   EXPECT_EQ(Refusal({"next", "EUR"}), "expected is \"next CCY[,CCY...] DATE\"");
-  EXPECT_EQ(Refusal({"next", "EUR,", "2026-01-02"}), "There is no calendar of ");
+  EXPECT_EQ(Refusal({"next", "EUR,", "2026-01-02"}), "The code of a currency is missing");
   EXPECT_THAT(Refusal({"add", "EUR", "2026-01-02", "99999999999"}), HasSubstr("is no number of days"));
   EXPECT_THROW((void)Ask({"next", "EUR", "2026-12-31"}), business_days::NotPrepared);
 }

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "ferrowind/planning/currency_list.h"
+#include "ferrowind/planning/history_words.h"
+
 #include "tests/unit/planning/memory_world.h"
 
 namespace ferrowind::planning {
@@ -117,11 +120,29 @@ TEST(HistoryStore, TellsWhichLaterEntryMayStandAgainstUndoing) {
     EXPECT_EQ(outcome.kind, UndoOutcome::Kind::kRefused);
     ASSERT_TRUE(outcome.later);
     EXPECT_EQ(outcome.later->id, 5);
-    // Of a rule, which is of no calendar, nothing is known.
+    EXPECT_EQ(outcome.undoer, std::nullopt);
+    // Of a rule, which is of no calendar, it is found by the rule.
     component.Call("CldIUCelebrate", {{"ID2", 2}, {"Name1", "Rest"}, {"TID1", 2}, {"WD", 1}});
     const auto of_rule = UndoEntry(LoadEntry(1).value().entry);
     EXPECT_EQ(of_rule.kind, UndoOutcome::Kind::kRefused);
-    EXPECT_FALSE(of_rule.later);
+    ASSERT_TRUE(of_rule.later);
+    EXPECT_EQ(of_rule.later->id, 6);
+  });
+}
+
+TEST(HistoryStore, TellsWhichEntryHasUndoneOneAlready) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    component.AddSundayAndGoodFriday();
+    component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
+    component.AssignGoodFriday();
+    const HistoryEntry entry = LoadEntry(4).value().entry;
+    ASSERT_EQ(UndoEntry(entry).kind, UndoOutcome::Kind::kDone);
+    const auto again = UndoEntry(entry);
+    EXPECT_EQ(again.kind, UndoOutcome::Kind::kRefused);
+    EXPECT_EQ(again.undoer, 5);
+    const std::string why = HistoryWords(CurrencyList::Load(), FindEntry).WhyNotUndone(entry, again);
+    EXPECT_EQ(why, "This is undone already, by the entry 5 of the history.");
   });
 }
 

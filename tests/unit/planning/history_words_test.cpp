@@ -34,12 +34,16 @@ HistoryEntry OfCalendar(HistoryEntry entry) {
   return entry;
 }
 
-/// Told without a database: no entry is found.
-std::string Told(const HistoryEntry& entry) {
+/// Told without a database: no entry is found, and what the entry replaced is `rows`.
+std::string Told(const HistoryEntry& entry, const std::vector<ReplacedRow>& rows = {}) {
   std::string sentence;
   testing::RunInFreshThread([&] {
     const testing::ComponentWorld component;
-    sentence = HistoryWords(kCurrencies, [](std::int32_t) { return std::nullopt; }).Tell(entry).Sentence();
+    const HistoryWords words(
+        kCurrencies, [](std::int32_t) { return std::nullopt; },
+        [](const platform::Date& day) { return AttachedPlatform().locale.LongDayText(day); },
+        [&](std::int32_t) { return rows; });
+    sentence = words.Tell(entry).Sentence();
   });
   return sentence;
 }
@@ -151,6 +155,41 @@ TEST(HistoryWords, TellWhatBecameOfACurrency) {
       Told(Entry("CldIUCurrency",
                  R"({"CcyID" : 959, "Ccy" : "XAU", "CcyType" : 1, "Name" : "Gold", "LastDay" : null})")),
       "Set the currency XAU (Gold), no money");
+}
+
+TEST(HistoryWords, TellACurrencyThatIsNewFromOneThatHasAnotherName) {
+  const auto entry =
+      Entry("CldIUCurrency",
+            R"({"CcyID" : 991, "Ccy" : "QAB", "CcyType" : 0, "Name" : "Krone", "LastDay" : null})");
+  const auto row = [](const std::string& before) {
+    return ReplacedRow{"DicCcy", 991, {}, {}, before, R"({"Ccy" : "QAB", "CcyType" : 0, "Name" : "Krone"})"};
+  };
+  EXPECT_EQ(Told(entry, {row("")}), "Added the currency QAB (Krone)");
+  EXPECT_EQ(Told(entry, {row(R"({"Ccy" : "QAA", "CcyType" : 0, "Name" : "Crown"})")}),
+            "Renamed the currency QAA (Crown) to QAB (Krone)");
+  EXPECT_EQ(Told(entry, {row(R"({"Ccy" : "QAB", "CcyType" : 1, "Name" : "Krone"})")}),
+            "Set the currency QAB (Krone)");
+  EXPECT_EQ(
+      Told(Entry("CldIUCurrency",
+                 R"({"CcyID" : 991, "Ccy" : "QAB", "CcyType" : 1, "Name" : "Krone", "LastDay" : null})"),
+           {row("")}),
+      "Added the currency QAB (Krone), no money");
+}
+
+TEST(HistoryWords, TellAConventionOfTheMarket) {
+  const auto told = [](const std::string& values) {
+    return Told(Entry("CldIUConvention", R"({"CcyID" : 978, )" + values + "}"));
+  };
+  EXPECT_EQ(told(R"("OtherID" : 840, "SpotDays" : 1, "DollarStops" : null)"),
+            "Set the convention of EUR/USD: 1 business day to spot");
+  EXPECT_EQ(told(R"("OtherID" : 840, "SpotDays" : 0, "DollarStops" : null)"),
+            "Set the convention of EUR/USD: 0 business days to spot");
+  EXPECT_EQ(told(R"("OtherID" : 8, "SpotDays" : null, "DollarStops" : null)"),
+            "Removed the convention of EUR/ALL (Lek)");
+  EXPECT_EQ(told(R"("OtherID" : null, "SpotDays" : null, "DollarStops" : 1)"),
+            "Set the convention of EUR: holidays of the dollar stop the count to spot");
+  EXPECT_EQ(told(R"("OtherID" : null, "SpotDays" : null, "DollarStops" : 0)"),
+            "Set the convention of EUR: holidays of the dollar do not stop the count to spot");
 }
 
 TEST(HistoryWords, LeaveAsItStandsWhatTheyCannotRead) {
