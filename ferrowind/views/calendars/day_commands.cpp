@@ -19,12 +19,6 @@ namespace {
 /// The built-in rule of a working day by exception.
 constexpr std::int32_t kExceptionRule = 1;
 
-std::string SelectedKey(const platform::Tree& tree) {
-  const auto key = tree.Selected();
-  if (!key) throw platform::Failure(platform::failure_number::kObjectNotSet, "No calendar is selected");
-  return *key;
-}
-
 }  // namespace
 
 DayCommands::DayCommands(const platform::Platform& platform, Window window)
@@ -37,9 +31,22 @@ void DayCommands::SetHolidayHeaders(std::shared_ptr<GridFields> holiday_headers)
 DayCommands::SelectedDay DayCommands::TakeSelectedDay() const {
   platform::Value date = window_.grid.CellValue(window_.grid.CurrentRow(), "FullDate");
   const std::int32_t day_of_year = platform::ToDate(date).DayOfYear();
-  const std::string node = SelectedKey(window_.tree);
+  const std::string node = TakeSelectedNode();
   return {std::move(date), day_of_year, platform::ToInt32(window_.tree.Text(node)),
           node_key::CurrencyOfCalendarNode(node)};
+}
+
+std::string DayCommands::TakeSelectedNode() const {
+  using platform::Failure;
+  using platform::failure_number::kObjectNotSet;
+  const auto node = window_.tree.Selected();
+  if (!node) throw Failure(kObjectNotSet, "No calendar is selected");
+  if (!window_.days.Shows(*node)) {
+    throw Failure(kObjectNotSet,
+                  "The days on show are not those of the selected calendar, which could not be read. Nothing "
+                  "was changed: refresh, and choose the day again");
+  }
+  return *node;
 }
 
 void DayCommands::DescribeSelectedDay(platform::OperatorAction& action) const {
@@ -65,6 +72,8 @@ void DayCommands::ExceptDay(const std::string& message) {
 }
 
 void DayCommands::ExceptDayWithMessage() {
+  // Before anybody types a message in vain.
+  static_cast<void>(TakeSelectedNode());
   fmExceptMess dialog(platform_.toolkit);
   dialog.ShowModal();
   if (dialog.Result() == 0) ExceptDay(dialog.Message());

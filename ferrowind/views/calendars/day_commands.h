@@ -9,17 +9,20 @@
 #include "ferrowind/control/grid_fields.h"
 #include "ferrowind/platform/platform.h"
 #include "ferrowind/platform/values/value.h"
+#include "ferrowind/views/calendars/day_grid.h"
 #include "ferrowind/views/holidays/holidays_window.h"
 
 namespace ferrowind {
 
-/// The commands that change a calendar. Meant for a selected calendar node with a current grid row.
+/// The commands that change a calendar. Meant for a selected calendar node with a current grid row. Those on
+/// a day fail, and change nothing, while the grid shows the days of another node than the selected one.
 class DayCommands {
  public:
   /// What the commands need of the Calendars window; all must outlive them.
   struct Window {
     platform::Tree& tree;
     platform::Grid& grid;
+    const DayGrid& days;
     std::function<void()> show_days_of_selected_node;
     std::function<void(std::int32_t currency_id, std::int32_t year)> refresh_and_select;
     std::function<std::shared_ptr<HolidaysWindow>()> create_holidays_window;
@@ -58,6 +61,8 @@ class DayCommands {
   };
 
   [[nodiscard]] SelectedDay TakeSelectedDay() const;
+  /// The selected node, whose days are on show.
+  [[nodiscard]] std::string TakeSelectedNode() const;
   void DescribeSelectedDay(platform::OperatorAction& action) const;
 
   const platform::Platform& platform_;

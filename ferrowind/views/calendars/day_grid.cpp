@@ -79,6 +79,8 @@ void DayGrid::ShowDaysOf(const std::optional<std::string>& node) {
   auto days = RecordSetIn(results, "1");
   if (!days) return TellIncompleteRead(platform_.action_observer, "the days");
   TellChanges(*node, *days);
+  // A filling that fails may leave the days of either calendar.
+  on_show_.reset();
   ShowRecords(std::move(days));
   days_node_ = *node;
   on_show_ = calendar;

@@ -37,8 +37,12 @@ class DayGrid {
   /// days cannot be read the grid stays as it was, and the gateway keeps the failure.
   void ShowDaysOf(const std::optional<std::string>& node);
 
-  /// The calendar whose days the grid shows; nothing while it shows none.
+  /// The calendar whose days the grid shows; nothing while it shows none, and when it could not be filled to
+  /// the end.
   [[nodiscard]] const std::optional<platform::CalendarOnShow>& OnShow() const { return on_show_; }
+  /// Whether the days in the grid are those of that node. They are of another one when those of the node that
+  /// was selected last could not be read.
+  [[nodiscard]] bool Shows(const std::string& node) const { return on_show_ && days_node_ == node; }
 
   /// The tree node whose days the grid shows, or the node that was clicked last.
   [[nodiscard]] const std::optional<std::string>& CurrentNode() const { return current_node_; }

@@ -83,7 +83,7 @@ fmCalendar::fmCalendar(const platform::Platform& platform, const platform::Windo
       extension_({*form_, tvCalendar_, gexCalendar_, ssatb_, sbCalendar_, day_grid_,
                   [this](std::int32_t currency_id, std::int32_t year) { Choose(currency_id, year); },
                   [this] { Refresh(); }, [this] { ShowDayMenu(); }}),
-      day_commands_(platform, {tvCalendar_, gexCalendar_, [this] { ShowDaysOfSelectedNode(); },
+      day_commands_(platform, {tvCalendar_, gexCalendar_, day_grid_, [this] { ShowDaysOfSelectedNode(); },
                                [this](std::int32_t currency_id, std::int32_t year) {
                                  RefreshAll(currency_id, year, "");
                                },

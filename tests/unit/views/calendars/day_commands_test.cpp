@@ -130,6 +130,66 @@ TEST(ExceptDay, OnARowWithoutADateIsReportedAndStoresNothing) {
   });
 }
 
+// Days of another calendar than the selected one
+// --------------------------------------------------------------------------------
+
+/// The window shows EUR 2026 and stands on USD 2026, whose days could not be read.
+void FailToShowTheDollar(CalendarsWorld& calendars) {
+  calendars.OpenAt("K978_2026");
+  calendars.DaysAnswer().Returns(5);
+  calendars.SelectNode("K840_2026");
+  ASSERT_EQ(calendars.Tree().Selected(), "K840_2026");
+  ASSERT_EQ(calendars.Grid().RowCount(), 5);
+  calendars.world.log.Clear();
+}
+
+TEST(DayCommands, OnDaysOfAnotherCalendarThanTheSelectedOneChangeNothingAndSayWhy) {
+  for (const char* tool : {"ID_Except", "ID_Except2", "ID_AssignSingle", "ID_AssignMany"}) {
+    RunInFreshThread([tool] {
+      CalendarsWorld calendars;
+      FailToShowTheDollar(calendars);
+      calendars.UseFakeHolidaysWindow();
+      calendars.ChooseForDay(kRowOfGoodFriday, tool);
+      EXPECT_TRUE(calendars.CallsOf("CldIUMain").empty()) << tool;
+      EXPECT_TRUE(calendars.world.log.StartingWith("holidays.").empty()) << tool;
+      EXPECT_FALSE(calendars.world.log.Contains(R"(toolkit.CreateForm(fmExceptMess))")) << tool;
+      ASSERT_EQ(calendars.world.services->Reports().size(), 1u) << tool;
+      EXPECT_THAT(calendars.world.services->Reports()[0].description,
+                  ::testing::HasSubstr("The days on show are not those of the selected calendar"));
+    });
+  }
+}
+
+TEST(DayCommands, WorkAgainOnceTheDaysOfTheSelectedCalendarAreOnShow) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    FailToShowTheDollar(calendars);
+    calendars.AnswerDays(CalendarsWorld::UsualDays());
+    calendars.Click("ID_Refresh");
+    calendars.ChooseForDay(kRowOfGoodFriday, "ID_Except");
+    ASSERT_EQ(calendars.CallsOf("CldIUMain").size(), 1u);
+    EXPECT_EQ(calendars.CallsOf("CldIUMain")[0].Parameter("@ID1"), Value(840));
+  });
+}
+
+TEST(DayCommands, ThatWereBegunOnOneCalendarDoNotEndOnAnother) {
+  RunInFreshThread([] {
+    CalendarsWorld calendars;
+    calendars.OpenAt("K978_2026");
+    calendars.Tree().ToggleNode("K840");
+    calendars.world.toolkit.ScriptModal("fmExceptMess", [&](HeadlessForm& form) {
+      calendars.Tree().Select("K840_2026");
+      form.Part<HeadlessButton>("cmdExcept").Click();
+    });
+    calendars.ChooseForDay(2, "ID_Except2");
+    EXPECT_TRUE(calendars.CallsOf("CldIUMain").empty());
+    EXPECT_EQ(calendars.world.services->Reports().size(), 1u);
+  });
+}
+
+// Excepting a day with a message
+// --------------------------------------------------------------------------------
+
 TEST(ExceptDayWithMessage, SendsTheMessageAsTheLastParameter) {
   RunInFreshThread([] {
     CalendarsWorld calendars;

@@ -93,6 +93,25 @@ TEST(CalendarsFaults, AtAnyCallOfSelectingACalendarLeaveTheWindowUsable) {
   FailEachCallOf([](CalendarsWorld& calendars) { calendars.Tree().ClickNode("K978_2027"); }, 10);
 }
 
+TEST(CalendarsFaults, AtAnyCallOfSelectingACalendarLetADayCommandChangeNoOtherThanTheOneOnShow) {
+  FailEachCallOf(
+      [](CalendarsWorld& calendars) {
+        const auto euro_days = CalendarsWorld::UsualDays();
+        const testing::Rows dollar_days(euro_days.begin(), euro_days.begin() + 3);
+        calendars.AnswerDays(dollar_days);
+        calendars.SelectNode("K840_2026");
+        calendars.world.faults.Disarm();
+        const bool shows_dollar = calendars.Grid().RowCount() == 3;
+        if (calendars.Grid().RowCount() > 0) calendars.ChooseForDay(1, "ID_Except");
+        for (const auto& change : calendars.CallsOf("CldIUMain")) {
+          EXPECT_EQ(change.Parameter("@ID1"), testing::Value(shows_dollar ? 840 : 978))
+              << calendars.world.faults.FailedCall();
+        }
+        calendars.AnswerDays(euro_days);
+      },
+      10);
+}
+
 TEST(CalendarsFaults, AtAnyCallOfExpandingAndCollapsingLeaveTheWindowUsable) {
   FailEachCallOf(
       [](CalendarsWorld& calendars) {
