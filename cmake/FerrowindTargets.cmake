@@ -16,6 +16,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(ferrowind_build_options INTERFACE
     -Wno-array-bounds -Wno-free-nonheap-object -Wno-maybe-uninitialized -Wno-restrict -Wno-stringop-overflow
     -Wno-stringop-overread)
+  # A module with symbols that are to be unique in the process is never unloaded.
+  target_compile_options(ferrowind_build_options INTERFACE -fno-gnu-unique)
 endif()
 if(FERROWIND_LINKER)
   target_link_options(ferrowind_build_options INTERFACE -fuse-ld=${FERROWIND_LINKER})

@@ -3,6 +3,12 @@
 namespace ferrowind::sqlite {
 
 /// SQLite's own, with nothing in front.
-const char* GuardedFiles() { return nullptr; }
+struct GuardedFiles::Guard {};
+
+GuardedFiles::GuardedFiles() = default;
+GuardedFiles::GuardedFiles(GuardedFiles&&) noexcept = default;
+GuardedFiles::~GuardedFiles() = default;
+
+const char* GuardedFiles::Name() const { return nullptr; }
 
 }  // namespace ferrowind::sqlite

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "ferrowind/adapters/sqlite/connection_guard.h"
-#include "ferrowind/adapters/sqlite/guarded_files.h"
 #include "ferrowind/adapters/sqlite/name_collation.h"
 #include "ferrowind/adapters/sqlite/sql_functions.h"
 #include "ferrowind/adapters/sqlite/sqlite_failure.h"
@@ -66,7 +65,7 @@ DatabaseHandle DatabaseHandle::InMemory() {
 void DatabaseHandle::Open(const char* name, int flags, std::chrono::milliseconds busy_timeout) {
   sqlite3* database = nullptr;
   const int code =
-      sqlite3_open_v2(name, &database, flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, GuardedFiles());
+      sqlite3_open_v2(name, &database, flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, files_.Name());
   database_.reset(database);
   if (code != SQLITE_OK) throw LastFailure();
   if (GuardConnection(database) != SQLITE_OK || Configure(database) != SQLITE_OK ||

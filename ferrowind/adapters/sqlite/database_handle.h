@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 
 #include "ferrowind/adapters/sqlite/busy_timeout.h"
+#include "ferrowind/adapters/sqlite/guarded_files.h"
 #include "ferrowind/adapters/sqlite/wait_budget.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -49,6 +50,7 @@ class DatabaseHandle {
   std::string path_;
   /// What `database_` waits within; null for its time-out.
   std::shared_ptr<WaitBudget> budget_;
+  GuardedFiles files_;
   std::unique_ptr<sqlite3, Closer> database_;
 };
 

@@ -1,14 +1,12 @@
 #include "ferrowind/adapters/sqlite/guarded_files.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <exception>
-#include <map>
 #include <memory>
-#include <mutex>
 #include <new>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include <sqlite3.h>
 
@@ -16,19 +14,26 @@
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::sqlite {
-namespace {
 
 /// The files of `system` with a guard in front. All but two functions are the system's own, which find in a
 /// copy what they find in the original, and so are those of the open files, but for one of a database's.
-struct Guard {
-  Guard(sqlite3_vfs& guarded_system, std::string guard_name)
-      : files(guarded_system), system(guarded_system), name(std::move(guard_name)) {}
+struct GuardedFiles::Guard {
+  explicit Guard(sqlite3_vfs& guarded_system);
+  ~Guard();
+  Guard(const Guard&) = delete;
+  Guard& operator=(const Guard&) = delete;
+
+  static int Open(sqlite3_vfs* files, const char* name, sqlite3_file* file, int flags,
+                  int* flags_out) noexcept;
+  static int Access(sqlite3_vfs* files, const char* name, int flags, int* answer) noexcept;
 
   /// First, so that SQLite's pointer to it is one to the guard.
   sqlite3_vfs files;
   sqlite3_vfs& system;
   std::string name;
 };
+
+namespace {
 
 /// An open database file with a guard in front of the shared memory beside it. Lies behind what the system
 /// keeps of the file.
@@ -87,21 +92,48 @@ int MapSharedMemory(sqlite3_file* file, int page, int size, int may_extend, void
   }
 }
 
-int OpenDatabase(Guard& guard, const char* name, sqlite3_file* file, int flags, int* flags_out) {
-  const int code = guard.system.xOpen(&guard.system, name, file, flags, flags_out);
+int OpenDatabase(sqlite3_vfs& system, const char* name, sqlite3_file* file, int flags, int* flags_out) {
+  const int code = system.xOpen(&system, name, file, flags, flags_out);
   if (code != SQLITE_OK || file->pMethods->iVersion < kVersionWithSharedMemory) return code;
-  void* const behind = reinterpret_cast<std::byte*>(file) + RoomOfFile(guard.system);
+  void* const behind = reinterpret_cast<std::byte*>(file) + RoomOfFile(system);
   auto* const guarded = new (behind) GuardedDatabase{*file->pMethods, file->pMethods, name};
   guarded->methods.xShmMap = MapSharedMemory;
   file->pMethods = &guarded->methods;
   return code;
 }
 
-int Open(sqlite3_vfs* files, const char* name, sqlite3_file* file, int flags, int* flags_out) noexcept {
+sqlite3_vfs& FilesOfSystem() {
+  sqlite3_vfs* const system = sqlite3_vfs_find(nullptr);
+  if (system == nullptr) throw platform::Failure(SQLITE_CANTOPEN, "SQLite knows no files of this system");
+  return *system;
+}
+
+/// One that no other object of the process has now, whichever module's it is.
+std::string NameOfItsOwn(const void* object) {
+  return "ferrowind-guarded-" + std::to_string(reinterpret_cast<std::uintptr_t>(object));
+}
+
+}  // namespace
+
+GuardedFiles::Guard::Guard(sqlite3_vfs& guarded_system)
+    : files(guarded_system), system(guarded_system), name(NameOfItsOwn(this)) {
+  files.pNext = nullptr;
+  files.zName = name.c_str();
+  files.szOsFile = static_cast<int>(RoomOfFile(system) + sizeof(GuardedDatabase));
+  files.xOpen = Open;
+  files.xAccess = Access;
+  if (sqlite3_vfs_register(&files, 0) != SQLITE_OK) {
+    throw platform::Failure(SQLITE_NOMEM, "There is not enough memory to guard the files of a database");
+  }
+}
+
+GuardedFiles::Guard::~Guard() { sqlite3_vfs_unregister(&files); }
+
+int GuardedFiles::Guard::Open(sqlite3_vfs* files, const char* name, sqlite3_file* file, int flags,
+                              int* flags_out) noexcept {
   try {
-    Guard& guard = *reinterpret_cast<Guard*>(files);
-    if ((flags & SQLITE_OPEN_MAIN_DB) != 0) return OpenDatabase(guard, name, file, flags, flags_out);
-    sqlite3_vfs* const system = &guard.system;
+    sqlite3_vfs* const system = &reinterpret_cast<Guard*>(files)->system;
+    if ((flags & SQLITE_OPEN_MAIN_DB) != 0) return OpenDatabase(*system, name, file, flags, flags_out);
     if ((flags & SQLITE_OPEN_WAL) != 0) return OpenLog(system, name, file, flags, flags_out);
     if ((flags & (SQLITE_OPEN_MAIN_JOURNAL | SQLITE_OPEN_SUPER_JOURNAL)) != 0) {
       if ((flags & SQLITE_OPEN_CREATE) == 0) return Refuse(file);
@@ -115,7 +147,7 @@ int Open(sqlite3_vfs* files, const char* name, sqlite3_file* file, int flags, in
 }
 
 /// SQLite asks whether there is a journal before it first reads a database.
-int Access(sqlite3_vfs* files, const char* name, int flags, int* answer) noexcept {
+int GuardedFiles::Guard::Access(sqlite3_vfs* files, const char* name, int flags, int* answer) noexcept {
   try {
     if (std::string_view(name).ends_with(kJournalSuffix) && IsAnythingAt(name)) return SQLITE_CANTOPEN;
     sqlite3_vfs& system = reinterpret_cast<Guard*>(files)->system;
@@ -125,31 +157,10 @@ int Access(sqlite3_vfs* files, const char* name, int flags, int* answer) noexcep
   }
 }
 
-std::unique_ptr<Guard> MakeGuard(sqlite3_vfs& system, std::size_t number) {
-  auto guard = std::make_unique<Guard>(system, "ferrowind-guarded-" + std::to_string(number));
-  guard->files.pNext = nullptr;
-  guard->files.zName = guard->name.c_str();
-  guard->files.szOsFile = static_cast<int>(RoomOfFile(system) + sizeof(GuardedDatabase));
-  guard->files.xOpen = Open;
-  guard->files.xAccess = Access;
-  if (sqlite3_vfs_register(&guard->files, 0) != SQLITE_OK) {
-    throw platform::Failure(SQLITE_NOMEM, "There is not enough memory to guard the files of a database");
-  }
-  return guard;
-}
+GuardedFiles::GuardedFiles() : guard_(std::make_unique<Guard>(FilesOfSystem())) {}
+GuardedFiles::GuardedFiles(GuardedFiles&&) noexcept = default;
+GuardedFiles::~GuardedFiles() = default;
 
-}  // namespace
-
-const char* GuardedFiles() {
-  static std::mutex one_at_a_time;
-  // For as long as the process, as SQLite knows them for as long.
-  static auto& guards = *new std::map<sqlite3_vfs*, std::unique_ptr<Guard>>();
-  const std::scoped_lock lock(one_at_a_time);
-  sqlite3_vfs* const system = sqlite3_vfs_find(nullptr);
-  if (system == nullptr) throw platform::Failure(SQLITE_CANTOPEN, "SQLite knows no files of this system");
-  auto& guard = guards[system];
-  if (!guard) guard = MakeGuard(*system, guards.size());
-  return guard->name.c_str();
-}
+const char* GuardedFiles::Name() const { return guard_->name.c_str(); }
 
 }  // namespace ferrowind::sqlite
