@@ -55,6 +55,7 @@ extern const std::string_view kPostgresUpgradeToFirstYears;
 extern const std::string_view kPostgresUpgradeToGuardedRecords;
 extern const std::string_view kPostgresUpgradeToBusinessDays;
 extern const std::string_view kPostgresUpgradeToQuickerClosedDays;
+extern const std::string_view kPostgresUpgradeToDaysOfEachCurrency;
 /// A question for all that the schema consists of, and its answer in a new database: a line for each row,
 /// with tabs between the columns, without the texts of routines, which are those of the scripts.
 extern const std::string_view kPostgresObjects;

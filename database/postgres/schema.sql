@@ -11,7 +11,7 @@ CREATE TABLE SchemaVersion (
   Version integer NOT NULL CHECK (Version >= 1)
 );
 CREATE UNIQUE INDEX SchemaVersionHasOneRow ON SchemaVersion ((1));
-INSERT INTO SchemaVersion (Version) VALUES (7);
+INSERT INTO SchemaVersion (Version) VALUES (8);
 
 -- LastDay: the last day as legal money; null for a currency that lives.
 CREATE TABLE DicCcy (

@@ -33,5 +33,6 @@ extern const std::string_view kSqliteUpgradeToFirstYears;
 extern const std::string_view kSqliteUpgradeToGuardedRecords;
 extern const std::string_view kSqliteUpgradeToBusinessDays;
 extern const std::string_view kSqliteUpgradeToQuickerClosedDays;
+extern const std::string_view kSqliteUpgradeToDaysOfEachCurrency;
 
 }  // namespace ferrowind::embedded

@@ -6,7 +6,7 @@
 -- "Ferw" marks the file as a calendar database; the version counts the changes of what follows here and of the
 -- procedures. A change comes with a script in upgrade/ that brings older databases to the same state.
 PRAGMA application_id = 0x46657277;
-PRAGMA user_version = 7;
+PRAGMA user_version = 8;
 
 -- LastDay: the last day as legal money; NULL as long as it is.
 CREATE TABLE DicCcy (

@@ -11,6 +11,7 @@ namespace ferrowind::business_days {
 namespace {
 
 constexpr int kUsualDays = 2;
+constexpr std::string_view kDollar = "USD";
 constexpr std::string_view kBlanks = " \t\r";
 
 platform::Failure Refused(std::size_t line, const std::string& why) {
@@ -55,8 +56,16 @@ CurrencyPair InAlphabeticalOrder(CurrencyPair pair) {
 }
 
 int MarketConventions::DaysToSpot(const CurrencyPair& pair) const {
-  const auto found = days_to_spot_.find(InAlphabeticalOrder(pair));
-  return found == days_to_spot_.end() ? kUsualDays : found->second;
+  return std::max(DaysOfCurrency(pair.base, pair), DaysOfCurrency(pair.quote, pair));
+}
+
+int MarketConventions::DaysOfCurrency(std::string_view code, const CurrencyPair& pair) const {
+  const auto of_pair = days_to_spot_.find(InAlphabeticalOrder(pair));
+  if (of_pair != days_to_spot_.end()) return of_pair->second;
+  // The dollar takes as long as what it is traded for.
+  if (pair.base == kDollar || pair.quote == kDollar) return kUsualDays;
+  const auto of_currency = days_to_spot_.find(InAlphabeticalOrder({std::string(code), std::string(kDollar)}));
+  return of_currency == days_to_spot_.end() ? kUsualDays : of_currency->second;
 }
 
 bool MarketConventions::DollarHolidayStops(std::string_view code) const {

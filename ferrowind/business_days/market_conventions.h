@@ -12,12 +12,16 @@ namespace ferrowind::business_days {
 /// How the market counts the days to spot.
 class FERROWIND_EXPORT MarketConventions {
  public:
-  /// Two days for every pair, and no dollar holiday that stops the count.
+  /// Two days for every currency, and no dollar holiday that stops the count.
   MarketConventions() = default;
 
-  /// The business days from the trade date to spot: 0, 1 or 2. The order of the two currencies does not
-  /// matter.
+  /// The business days from the trade date to spot: 0, 1 or 2. What is said of the pair; else the longer of
+  /// what is said of its two currencies against the dollar, 2 where nothing is. The order of the two
+  /// currencies does not matter.
   [[nodiscard]] int DaysToSpot(const CurrencyPair& pair) const;
+  /// How many of its own business days `code`, one of the pair's currencies, takes in it: what is said of the
+  /// pair; else what is said of the currency against the dollar.
+  [[nodiscard]] int DaysOfCurrency(std::string_view code, const CurrencyPair& pair) const;
   /// Whether a holiday of the dollar between trade date and spot stops the count of pairs with this currency.
   /// For all others it only cannot be the spot date itself.
   [[nodiscard]] bool DollarHolidayStops(std::string_view code) const;

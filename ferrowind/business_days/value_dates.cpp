@@ -1,6 +1,7 @@
 #include "ferrowind/business_days/value_dates.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -17,16 +18,25 @@ using std::chrono::year_month_day;
 
 constexpr std::string_view kDollar = "USD";
 
-std::vector<BusinessCalendar> CountingCurrencies(const CurrencyPair& pair, const CalendarSet& calendars,
-                                                 const MarketConventions& conventions) {
-  const bool dollar_counts =
-      conventions.DollarHolidayStops(pair.base) || conventions.DollarHolidayStops(pair.quote);
-  std::vector<BusinessCalendar> counting;
+/// The codes of the currencies whose business days count.
+std::vector<std::string> CountingCurrencies(const CurrencyPair& pair, const MarketConventions& conventions) {
+  std::vector<std::string> counting;
   for (const std::string& code : {pair.base, pair.quote}) {
-    if (code != kDollar) counting.push_back(calendars.Of(code));
+    if (code != kDollar) counting.push_back(code);
   }
-  if (dollar_counts) counting.push_back(calendars.Of(kDollar));
+  if (conventions.DollarHolidayStops(pair.base) || conventions.DollarHolidayStops(pair.quote))
+    counting.emplace_back(kDollar);
   return counting;
+}
+
+/// The `count`th day from Monday to Friday after `day`; with 0 the last one up to it.
+sys_days AddWeekdays(sys_days day, int count) {
+  constexpr int kWeekdays = 5;
+  constexpr int kWeekendDays = 2;
+  const int number = static_cast<int>(std::chrono::weekday(day).iso_encoding());
+  // From the Friday before a weekend, past the weekends that begin on the way.
+  const int weekday = std::min(number, kWeekdays);
+  return day + days(weekday - number + count + (weekday - 1 + count) / kWeekdays * kWeekendDays);
 }
 
 year_month MonthOf(sys_days day) {
@@ -39,18 +49,23 @@ year_month MonthOf(sys_days day) {
 ValueDates::ValueDates(CurrencyPair pair, const CalendarSet& calendars, const MarketConventions& conventions)
     : pair_(std::move(pair)),
       days_to_spot_(conventions.DaysToSpot(pair_)),
-      counting_(CountingCurrencies(pair_, calendars, conventions)),
       trading_(calendars.Joint({pair_.base, pair_.quote})),
-      settlement_(calendars.Joint({pair_.base, pair_.quote, std::string(kDollar)})) {}
+      settlement_(calendars.Joint({pair_.base, pair_.quote, std::string(kDollar)})) {
+  for (const std::string& code : CountingCurrencies(pair_, conventions)) {
+    const int count = code == kDollar ? days_to_spot_ : conventions.DaysOfCurrency(code, pair_);
+    counts_.at(counting_.size()) = static_cast<std::uint8_t>(count);
+    counting_.push_back(calendars.Of(code));
+  }
+}
 
 sys_days ValueDates::Started(Day trade_date, ClosedTradeDate closed) const {
   return closed == ClosedTradeDate::kStays ? trade_date : trading_.Adjust(trade_date, Convention::kFollowing);
 }
 
 sys_days ValueDates::SpotFrom(Day started) const {
-  Day spot = started;
-  for (const BusinessCalendar& calendar : counting_)
-    spot = std::max(spot, calendar.AddBusinessDays(started, days_to_spot_));
+  Day spot = std::max<Day>(started, AddWeekdays(started, days_to_spot_));
+  for (std::size_t i = 0; i < counting_.size(); ++i)
+    spot = std::max(spot, counting_[i].AddBusinessDays(started, counts_[i]));
   return settlement_.Adjust(spot, Convention::kFollowing);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <string_view>
@@ -25,10 +26,12 @@ enum class FERROWIND_EXPORT ClosedTradeDate : std::uint8_t {
 
 /// On which days trades in one currency pair settle. Made once for a pair, asked by any number of threads.
 ///
-/// Spot is counted by each currency for itself, in its own business days from the trade date on; the later of
-/// the two days counts. The dollar does not count where it is one of the pair, unless the conventions say
-/// that its holidays stop the other currency. The spot date must be a business day of both currencies and of
-/// the dollar, also for pairs without it; otherwise it is the next such day.
+/// Trades settle by way of the dollar, also between two other currencies. So each currency counts for itself,
+/// in its own business days from the trade date on, as many as it takes against the dollar, unless the
+/// conventions say how many the pair takes. The dollar counts as many days as the longer of them: those from
+/// Monday to Friday, its holidays among them, and its own business days where the conventions say that its
+/// holidays stop one of the currencies. The latest of these days counts. The spot date must be a business day
+/// of both currencies and of the dollar; otherwise it is the next such day.
 ///
 /// All questions throw `NotPrepared` and `NoBusinessDay` as `BusinessDays` does.
 class FERROWIND_EXPORT ValueDates {
@@ -41,7 +44,7 @@ class FERROWIND_EXPORT ValueDates {
 
   /// The pair that the dates are of.
   [[nodiscard]] const CurrencyPair& Pair() const { return pair_; }
-  /// 0, 1 or 2 business days, as the conventions said.
+  /// 0, 1 or 2 business days, as the conventions said: those of the currency that takes longer.
   [[nodiscard]] int DaysToSpot() const { return days_to_spot_; }
   /// The days on which the pair settles: open for both currencies and for the dollar.
   [[nodiscard]] const JointCalendar& Settlement() const { return settlement_; }
@@ -66,6 +69,8 @@ class FERROWIND_EXPORT ValueDates {
 
   CurrencyPair pair_;
   int days_to_spot_;
+  /// How many days each of `counting_` counts, in the same order: the two of the pair, and the dollar.
+  std::array<std::uint8_t, 3> counts_{};
   /// The currencies whose business days count.
   std::vector<BusinessCalendar> counting_;
   JointCalendar trading_;

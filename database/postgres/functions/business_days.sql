@@ -15,8 +15,10 @@ BEGIN
     RAISE EXCEPTION USING ERRCODE = 'WD004', MESSAGE = format('%s is not between 0001-01-01 and 9999-12-31', day);
   END IF;
   SELECT array_agg(CcyID ORDER BY place), array_agg(code ORDER BY place) FILTER (WHERE CcyID IS NULL) INTO ids, missing
-  FROM (SELECT code, min(place) AS place FROM unnest(ccys) WITH ORDINALITY AS given (code, place) GROUP BY code) AS asked
-    LEFT JOIN DicCcy ON Ccy = code AND EXISTS (SELECT FROM CldDay WHERE ID1 = CcyID);
+  FROM (
+    SELECT upper(written COLLATE "C") AS code, min(place) AS place FROM unnest(ccys) WITH ORDINALITY AS given (written, place)
+    GROUP BY code
+  ) AS asked LEFT JOIN DicCcy ON Ccy = code AND EXISTS (SELECT FROM CldDay WHERE ID1 = CcyID);
   IF missing IS NOT NULL THEN
     RAISE EXCEPTION USING ERRCODE = 'WD003', MESSAGE = format('There is no calendar of %s', coalesce(missing[1], 'null'));
   ELSIF ids IS NULL THEN

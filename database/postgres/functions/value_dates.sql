@@ -1,10 +1,10 @@
 -- On which days trades in a currency pair settle, as ValueDates of ferrowind/business_days tells.
 
--- What a pair, "EURUSD" or "EUR/USD", is counted by: the days to spot, the currencies whose business days count, those that are
--- open on a trade date, and those that are open where a trade settles. Whether they have calendars is not looked at; a currency
--- that there is not is null.
+-- What a pair, "EURUSD" or "EUR/USD", is counted by: the days to spot, which are the weekdays that the dollar counts; the currencies
+-- whose business days count, and how many of each; those that are open on a trade date, and those that are open where a trade
+-- settles. Whether they have calendars is not looked at; a currency that there is not is null.
 CREATE OR REPLACE FUNCTION PairTerms(pair text, OUT name text, OUT codes text[], OUT spot_days integer, OUT counting integer[],
-                                     OUT trading integer[], OUT settlement integer[])
+                                     OUT counts integer[], OUT trading integer[], OUT settlement integer[])
 LANGUAGE plpgsql STABLE PARALLEL SAFE
 AS $$
 DECLARE
@@ -14,6 +14,8 @@ DECLARE
   base_id integer;
   quote_id integer;
   dollar_id integer;
+  base_days integer;
+  quote_days integer;
   base_stops integer;
   quote_stops integer;
 BEGIN
@@ -27,18 +29,36 @@ BEGIN
 
   SELECT max(CcyID) FILTER (WHERE Ccy = base), max(CcyID) FILTER (WHERE Ccy = quote), max(CcyID) FILTER (WHERE Ccy = 'USD')
   INTO base_id, quote_id, dollar_id FROM DicCcy WHERE Ccy = ANY (codes);
-  SELECT max(SpotDays), max(DollarStops) FILTER (WHERE ID1 = base_id), max(DollarStops) FILTER (WHERE ID1 = quote_id)
-  INTO spot_days, base_stops, quote_stops
+  SELECT max(SpotDays) FILTER (WHERE base_id IN (ID1, OtherID) AND quote_id IN (ID1, OtherID)),
+    max(SpotDays) FILTER (WHERE base_id IN (ID1, OtherID) AND dollar_id IN (ID1, OtherID)),
+    max(SpotDays) FILTER (WHERE quote_id IN (ID1, OtherID) AND dollar_id IN (ID1, OtherID)),
+    max(DollarStops) FILTER (WHERE ID1 = base_id), max(DollarStops) FILTER (WHERE ID1 = quote_id)
+  INTO spot_days, base_days, quote_days, base_stops, quote_stops
   FROM CldConvention
-  WHERE ID1 IN (base_id, quote_id) AND OtherID IN (base_id, quote_id);
-  spot_days := coalesce(spot_days, DeliveredSpotDays(base, quote), 2);
+  WHERE ID1 IN (base_id, quote_id, dollar_id) AND OtherID IN (base_id, quote_id, dollar_id);
+  spot_days := coalesce(spot_days, DeliveredSpotDays(base, quote));
+  -- A pair that nobody has named counts as its currencies do against the dollar.
+  base_days := coalesce(spot_days, base_days, DeliveredSpotDays(base, 'USD'), 2);
+  quote_days := coalesce(spot_days, quote_days, DeliveredSpotDays(quote, 'USD'), 2);
+  spot_days := CASE 'USD' WHEN base THEN quote_days WHEN quote THEN base_days ELSE greatest(base_days, quote_days) END;
   trading := ARRAY[base_id, quote_id];
   settlement := CASE WHEN 'USD' IN (base, quote) THEN trading ELSE trading || dollar_id END;
   counting := array_remove(trading, dollar_id);
+  counts := CASE 'USD' WHEN base THEN ARRAY[quote_days] WHEN quote THEN ARRAY[base_days] ELSE ARRAY[base_days, quote_days] END;
   IF 1 IN (coalesce(base_stops, DeliveredDollarStops(base)), coalesce(quote_stops, DeliveredDollarStops(quote))) THEN
     counting := counting || dollar_id;
+    counts := counts || spot_days;
   END IF;
 END
+$$;
+
+-- The count-th day from Monday to Friday behind the day. With 0 the last one up to it.
+CREATE OR REPLACE FUNCTION CountedWeekday(day date, count integer) RETURNS date
+LANGUAGE sql IMMUTABLE PARALLEL SAFE
+AS $$
+  -- From the Friday before a weekend, past the weekends that begin on the way.
+  SELECT day - greatest(extract(isodow FROM day)::integer - 5, 0) + count
+    + (least(extract(isodow FROM day)::integer, 5) - 1 + count) / 5 * 2
 $$;
 
 -- The spot date when it, and all that it depends on, lies within a week of the trade date and in the same year, and all of its
@@ -46,7 +66,7 @@ $$;
 -- a number has a bit for each of these days, the trade date's first, which is set when the day is closed. A day behind them
 -- passes for open: a search that reaches one ends there, and is given up.
 CREATE OR REPLACE FUNCTION NearSpot(trade_date date, trade_date_stays boolean, spot_days integer, counting integer[],
-                                    trading integer[], settlement integer[]) RETURNS date
+                                    counts integer[], settlement integer[]) RETURNS date
 LANGUAGE plpgsql STABLE PARALLEL SAFE
 AS $$
 DECLARE
@@ -57,7 +77,7 @@ DECLARE
   is_known boolean;
   day_count bigint;
   started integer := 0;
-  id integer;
+  closed_days integer;
   days_left integer;
   reached integer;
   spot integer;
@@ -79,13 +99,14 @@ BEGIN
   WHILE NOT trade_date_stays AND (closed[1] | closed[2]) >> started & 1 = 1 LOOP
     started := started + 1;
   END LOOP;
-  spot := started;
-  FOREACH id IN ARRAY counting LOOP
+  spot := greatest(started, CountedWeekday(trade_date + started, spot_days) - trade_date);
+  FOR place IN 1 .. cardinality(counting) LOOP
+    closed_days := closed[array_position(settlement, counting[place])];
     reached := started;
-    days_left := spot_days;
+    days_left := counts[place];
     WHILE days_left > 0 LOOP
       reached := reached + 1;
-      days_left := days_left - 1 + (closed[array_position(settlement, id)] >> reached & 1);
+      days_left := days_left - 1 + (closed_days >> reached & 1);
     END LOOP;
     spot := greatest(spot, reached);
   END LOOP;
@@ -96,16 +117,16 @@ BEGIN
 END
 $$;
 
--- Each currency counts for itself, and the later day holds.
-CREATE OR REPLACE FUNCTION SpotFrom(started date, spot_days integer, counting integer[], settlement integer[]) RETURNS date
+-- Each currency counts for itself, of the dollar's days at least its weekdays, and the latest day holds.
+CREATE OR REPLACE FUNCTION SpotFrom(started date, spot_days integer, counting integer[], counts integer[], settlement integer[])
+RETURNS date
 LANGUAGE plpgsql STABLE PARALLEL SAFE
 AS $$
 DECLARE
-  spot date := started;
-  id integer;
+  spot date := greatest(started, CountedWeekday(started, spot_days));
 BEGIN
-  FOREACH id IN ARRAY counting LOOP
-    spot := greatest(spot, CountedBusinessDay(ARRAY[id], started, spot_days));
+  FOR place IN 1 .. cardinality(counting) LOOP
+    spot := greatest(spot, CountedBusinessDay(counting[place:place], started, counts[place]));
   END LOOP;
   RETURN AdjustedDay(settlement, spot, 'Following');
 END
@@ -174,7 +195,7 @@ BEGIN
   END IF;
   terms := PairTerms(pair);
   IF unit NOT IN ('ON', 'TN') AND trade_date BETWEEN '1900-01-01' AND '3000-12-31' THEN
-    spot := NearSpot(trade_date, trade_date_stays, terms.spot_days, terms.counting, terms.trading, terms.settlement);
+    spot := NearSpot(trade_date, trade_date_stays, terms.spot_days, terms.counting, terms.counts, terms.settlement);
   END IF;
   IF spot IS NULL THEN
     PERFORM AskedCalendars(terms.codes, trade_date);
@@ -189,7 +210,7 @@ BEGIN
         RETURN CountedBusinessDay(terms.settlement, overnight, 1);
       END IF;
     END IF;
-    spot := SpotFrom(started, terms.spot_days, terms.counting, terms.settlement);
+    spot := SpotFrom(started, terms.spot_days, terms.counting, terms.counts, terms.settlement);
   END IF;
   IF unit = 'TN' AND overnight >= spot THEN
     RAISE EXCEPTION USING ERRCODE = 'WD004',

@@ -19,9 +19,10 @@ platform::Value Answer(ServerConnection& connection, const char* question) {
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
   static const std::vector<content::UpgradeScript> scripts = {
-      {2, embedded::kPostgresUpgradeToHistory},      {3, embedded::kPostgresUpgradeToPlans},
-      {4, embedded::kPostgresUpgradeToFirstYears},   {5, embedded::kPostgresUpgradeToGuardedRecords},
-      {6, embedded::kPostgresUpgradeToBusinessDays}, {7, embedded::kPostgresUpgradeToQuickerClosedDays}};
+      {2, embedded::kPostgresUpgradeToHistory},           {3, embedded::kPostgresUpgradeToPlans},
+      {4, embedded::kPostgresUpgradeToFirstYears},        {5, embedded::kPostgresUpgradeToGuardedRecords},
+      {6, embedded::kPostgresUpgradeToBusinessDays},      {7, embedded::kPostgresUpgradeToQuickerClosedDays},
+      {8, embedded::kPostgresUpgradeToDaysOfEachCurrency}};
   return scripts;
 }
 

@@ -43,9 +43,10 @@ void FillWithDeliveredSchema(DatabaseHandle& database) {
 
 const std::vector<content::UpgradeScript>& DeliveredUpgrades() {
   static const std::vector<content::UpgradeScript> scripts = {
-      {2, embedded::kSqliteUpgradeToHistory},      {3, embedded::kSqliteUpgradeToRuleBooks},
-      {4, embedded::kSqliteUpgradeToFirstYears},   {5, embedded::kSqliteUpgradeToGuardedRecords},
-      {6, embedded::kSqliteUpgradeToBusinessDays}, {7, embedded::kSqliteUpgradeToQuickerClosedDays}};
+      {2, embedded::kSqliteUpgradeToHistory},           {3, embedded::kSqliteUpgradeToRuleBooks},
+      {4, embedded::kSqliteUpgradeToFirstYears},        {5, embedded::kSqliteUpgradeToGuardedRecords},
+      {6, embedded::kSqliteUpgradeToBusinessDays},      {7, embedded::kSqliteUpgradeToQuickerClosedDays},
+      {8, embedded::kSqliteUpgradeToDaysOfEachCurrency}};
   return scripts;
 }
 

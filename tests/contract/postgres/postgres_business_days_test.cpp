@@ -15,6 +15,7 @@
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/postgres/server_connection.h"
 #include "ferrowind/business_days/convention.h"
+#include "ferrowind/business_days/currency_codes.h"
 #include "ferrowind/business_days/currency_pair.h"
 #include "ferrowind/business_days/day_failures.h"
 #include "ferrowind/business_days/joint_calendar.h"
@@ -58,13 +59,6 @@ struct Question {
   std::string word;
   int number = 0;
 };
-
-std::vector<std::string> CodesIn(const std::string& list) {
-  std::vector<std::string> codes;
-  std::istringstream rest(list);
-  for (std::string code; std::getline(rest, code, ',');) codes.push_back(code);
-  return codes;
-}
 
 /// Asks the library, which prepares itself once for each pair and each list of currencies.
 class LibrarysAnswers {
@@ -111,7 +105,8 @@ class LibrarysAnswers {
   const business_days::JointCalendar& JointOf(const std::string& codes) {
     const auto found = joint_.find(codes);
     if (found != joint_.end()) return found->second;
-    return joint_.emplace(codes, days_->calendars.Joint(CodesIn(codes))).first->second;
+    return joint_.emplace(codes, days_->calendars.Joint(business_days::ReadCurrencyCodes(codes)))
+        .first->second;
   }
 
   std::shared_ptr<const loading::LoadedDays> days_;
@@ -288,7 +283,7 @@ TEST_F(PostgresBusinessDays, AnswersAsTheLibraryDoes) {
   // In place of what comes with the program, and beside it.
   database_->Execute(R"(
 INSERT INTO ferrowind.CldConvention (ID1, OtherID, SpotDays, DollarStops)
-VALUES (392, 978, 1, NULL), (124, 392, 0, NULL), (392, 392, NULL, 1), (124, 840, 2, NULL);
+VALUES (392, 978, 1, NULL), (124, 392, 0, NULL), (392, 392, NULL, 1), (124, 840, 2, NULL), (484, 840, 1, NULL);
 ANALYZE)");
   platform::EngineRegistry engines;
   engines.Register("postgresql", std::make_shared<postgres::Engine>());
@@ -341,6 +336,41 @@ TEST_F(PostgresBusinessDays, GoesFromTheLastBusinessDayOfAMonthToTheLastOne) {
   PrepareGoldenWeek();
   EXPECT_EQ(Answer("ferrowind.SpotDate('EUR/USD', '2026-02-25')"), "2026-02-27");
   EXPECT_EQ(Answer("ferrowind.ValueDate('EUR/USD', '2026-02-25', '1M')"), "2026-03-31");
+}
+
+TEST_F(PostgresBusinessDays, CountsTheCurrenciesOfACrossAsAgainstTheDollar) {
+  PrepareGoldenWeek();
+  Prepare("CAD", {business_days::YearWith(2026, {std::chrono::July / 1})});
+  EXPECT_EQ(Answer("ferrowind.SpotDate('EUR/CAD', '2026-06-30')"), "2026-07-02");
+  EXPECT_EQ(Answer("ferrowind.SpotDate('CAD/JPY', '2026-03-09')"), "2026-03-11");
+  database_->Execute("INSERT INTO ferrowind.CldConvention (ID1, OtherID, SpotDays) VALUES (392, 840, 1)");
+  EXPECT_EQ(Answer("ferrowind.SpotDate('CAD/JPY', '2026-03-09')"), "2026-03-10");
+  database_->Execute("INSERT INTO ferrowind.CldConvention (ID1, OtherID, SpotDays) VALUES (124, 392, 2)");
+  EXPECT_EQ(Answer("ferrowind.SpotDate('CAD/JPY', '2026-03-09')"), "2026-03-11");
+}
+
+TEST_F(PostgresBusinessDays, WaitsForTheWeekdaysOfTheDollar) {
+  PrepareGoldenWeek();
+  // Rests on Fridays and Saturdays.
+  PreparedYear gulf{2026y, {}};
+  for (sys_days day = 2026y / 1 / 1; day <= sys_days(2026y / 12 / 31); day += std::chrono::days(1)) {
+    const std::chrono::weekday weekday(day);
+    gulf.days += weekday == std::chrono::Friday || weekday == std::chrono::Saturday ? '1' : '0';
+  }
+  Prepare("KWD", {gulf});
+  // Wednesday: Thursday and Sunday of the Gulf, Thursday and Friday of the dollar, and Monday is open for
+  // both.
+  EXPECT_EQ(Answer("ferrowind.SpotDate('USD/KWD', '2026-03-11')"), "2026-03-16");
+  // Saturday stays: Sunday and Monday of the Gulf, Monday and Tuesday of the dollar.
+  EXPECT_EQ(Answer("ferrowind.SpotDate('USD/KWD', '2026-03-14', true)"), "2026-03-17");
+}
+
+TEST_F(PostgresBusinessDays, TakesCodesInLettersOfAnyCase) {
+  PrepareGoldenWeek();
+  EXPECT_EQ(Answer("ferrowind.IsBusinessDay('eur', '2026-05-04')"), "true");
+  EXPECT_EQ(Answer("ferrowind.AddBusinessDays(ARRAY['eur', 'EUR', 'Jpy'], '2026-05-03', 1)"), "2026-05-07");
+  EXPECT_THAT(Answer("ferrowind.AdjustDate('chf', '2026-05-03', 'F')"),
+              HasSubstr("There is no calendar of CHF"));
 }
 
 TEST_F(PostgresBusinessDays, TakesOneCurrencyAsTextAndSeveralAsAnArray) {

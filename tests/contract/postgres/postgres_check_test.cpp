@@ -630,9 +630,9 @@ TEST(PostgresCheck, AnOperatorIsToldWhoMayCheck) {
 TEST(PostgresCheck, AnotherVersionAndABookOfNoCurrencyAreNamed) {
   PostgresDatabase database;
   database.Execute(
-      "UPDATE ferrowind.SchemaVersion SET Version = 8; INSERT INTO ferrowind.CldBook VALUES (959, 'P', 'D')");
+      "UPDATE ferrowind.SchemaVersion SET Version = 9; INSERT INTO ferrowind.CldBook VALUES (959, 'P', 'D')");
   EXPECT_THAT(postgres::CheckDatabase(postgres_server::SuperuserUri(database.Name())),
-              ElementsAre("The database has the schema version 8; this program's is 7",
+              ElementsAre("The database has the schema version 9; this program's is 8",
                           "The rule book of 959 is of no currency"));
 }
 

@@ -76,7 +76,7 @@ SELECT concat(
   (SELECT string_agg(format('%s %s %s', CcyID, Ccy, Name), ',' ORDER BY CcyID) FROM ferrowind.DicCcy
    WHERE CcyID NOT IN (396, 530, 532, 924))))sql";
 
-constexpr std::int64_t kThisVersion = 7;
+constexpr std::int64_t kThisVersion = 8;
 
 void ExpectUpgradeFrom(int version) {
   const OldDatabase old(version);
@@ -103,6 +103,8 @@ TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion4IsLikeANewOneAndKeepsItsData) 
 TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion5IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(5); }
 
 TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion6IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(6); }
+
+TEST(PostgresUpgrade, AnUpgradedDatabaseOfVersion7IsLikeANewOneAndKeepsItsData) { ExpectUpgradeFrom(7); }
 
 TEST(PostgresUpgrade, BooksFromBeforeTellOfAllYearsAndChangesOfThemCanBeUndone) {
   OldDatabase old(3);
@@ -205,9 +207,9 @@ TEST(PostgresUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
 
 TEST(PostgresUpgrade, ADatabaseOfANewerVersionIsRefused) {
   PostgresDatabase fresh;
-  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 8");
+  fresh.Execute("UPDATE ferrowind.SchemaVersion SET Version = 9");
   EXPECT_THAT(FailureTextOf([&] { postgres::UpgradeDatabase(postgres_server::SuperuserUri(fresh.Name())); }),
-              AllOf(HasSubstr("has the schema version 8; this program's is 7"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 9; this program's is 8"), HasSubstr("newer")));
 }
 
 TEST(PostgresUpgrade, AScriptThatFailsAtTheEndLeavesTheDatabaseAsItWas) {

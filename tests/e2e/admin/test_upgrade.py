@@ -29,7 +29,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", url)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", url)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 7.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 8.\n")
         self.assert_run(DONE, "check", url)
         self.assert_run(DONE, "init", self.url("new.db"), "--empty")
         self.assertEqual(self.schema("a.db"), self.schema("new.db"))
@@ -45,7 +45,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
                           "UPDATE main.CldRecurrence SET Comment = 'Our own' WHERE ID1 = 978 AND Position = 1")
         old.close()
         output, _ = self.assert_run(DONE, "upgrade", self.url())
-        self.assertEqual(output, "The database was upgraded from the schema version 3 to 7.\n"
+        self.assertEqual(output, "The database was upgraded from the schema version 3 to 8.\n"
                                  "25 rule books say since when they hold now, as delivered.\n"
                                  "Rule books that are not as delivered tell of all years as before: EUR. A line "
                                  "\"since YEAR\" in them says otherwise.\n")
@@ -71,7 +71,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
         warnings = json.loads(self.assert_run(DONE, "status", url, "--format", "json")[0])["results"][2]["rows"]
         self.assertIn([None, "EUR", "upgrade cut off"], warnings)
         output, _ = self.assert_run(DONE, "upgrade", url)
-        self.assertEqual(output, "An upgrade was cut off at its end. The database has the schema version 7.\n"
+        self.assertEqual(output, "An upgrade was cut off at its end. The database has the schema version 8.\n"
                                  "26 rule books say since when they hold now, as delivered.\n")
         self.assertEqual({book["FromYear"] for book in self.call("CldGetBook")[0]}, {2015})
         self.assertNotIn("cut off", self.assert_run(DONE, "status", url)[0])
@@ -95,21 +95,21 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
                         ("currency", "retire", url, "EUR", "2030-12-31")):
             with self.subTest(command[0]):
                 _, errors = self.assert_run(NOT_DONE, *command)
-                self.assertIn("a.db has the schema version 1; this program's is 7. "
+                self.assertIn("a.db has the schema version 1; this program's is 8. "
                               "Bring it there with \"ferrowindctl upgrade\" first\n", errors)
 
     def test_says_when_there_is_nothing_to_do(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
         before = self.path().read_bytes()
         output, _ = self.assert_run(DONE, "upgrade", self.url())
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 7.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 8.\n")
         self.assertEqual(self.path().read_bytes(), before)
 
     def test_refuses_a_newer_database(self):
         self.assert_run(DONE, "init", self.url(), "--empty")
-        self.open_from_outside().execute("PRAGMA user_version = 8")
+        self.open_from_outside().execute("PRAGMA user_version = 9")
         _, errors = self.assert_run(NOT_DONE, "upgrade", self.url())
-        self.assertIn("a.db has the schema version 8; this program's is 7", errors)
+        self.assertIn("a.db has the schema version 9; this program's is 8", errors)
         self.assertIn("newer version of this program", errors)
 
     def test_that_fails_leaves_the_database_as_it_was(self):
@@ -144,12 +144,12 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
         faults, _ = self.assert_run(NOT_DONE, "check", database.uri)
         self.assertIn("schema version 1", faults)
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "The database was upgraded from the schema version 1 to 7.\n")
+        self.assertEqual(output, "The database was upgraded from the schema version 1 to 8.\n")
         # The check compares every object and right with those of a new database.
         self.assert_run(DONE, "check", database.uri)
         self.assertEqual(database.ask("SELECT count(*) FROM ferrowind.CldDay"), "365")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "There is nothing to do: the database has the schema version 7.\n")
+        self.assertEqual(output, "There is nothing to do: the database has the schema version 8.\n")
 
     def test_lets_a_delivered_book_say_since_when_it_holds(self):
         self.assert_run(DONE, "init", self.url(), "--year", 2026)
@@ -160,7 +160,7 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
                      + quoted(heads) + "); INSERT INTO ferrowind.CldRecurrence "
                      "SELECT * FROM json_populate_recordset(NULL::ferrowind.CldRecurrence, " + quoted(rules) + ")")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
-        self.assertEqual(output, "The database was upgraded from the schema version 3 to 7.\n"
+        self.assertEqual(output, "The database was upgraded from the schema version 3 to 8.\n"
                                  "1 rule book says since when it holds now, as delivered.\n")
         self.assertEqual(database.ask("SELECT FromYear FROM ferrowind.CldBook"), "2015")
         self.assert_run(DONE, "check", database.uri)
@@ -176,9 +176,9 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
 
     def test_refuses_a_newer_database(self):
         database = version_1.make_on_server(self)
-        database.ask("UPDATE ferrowind.SchemaVersion SET Version = 8")
+        database.ask("UPDATE ferrowind.SchemaVersion SET Version = 9")
         _, errors = self.assert_run(NOT_DONE, "upgrade", database.uri)
-        self.assertIn("has the schema version 8; this program's is 7", errors)
+        self.assertIn("has the schema version 9; this program's is 8", errors)
 
 
 if __name__ == "__main__":

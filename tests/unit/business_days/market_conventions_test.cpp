@@ -13,8 +13,24 @@ TEST(MarketConventions, AreTwoDaysToSpotUnlessTheyAreRead) {
   EXPECT_EQ(conventions.DaysToSpot({"EUR", "USD"}), 2);
   EXPECT_EQ(conventions.DaysToSpot({"USD", "CAD"}), 1);
   EXPECT_EQ(conventions.DaysToSpot({"CAD", "USD"}), 1);
-  EXPECT_EQ(conventions.DaysToSpot({"EUR", "CAD"}), 2);
   EXPECT_EQ(conventions.DaysToSpot({"USD", "COP"}), 0);
+}
+
+TEST(MarketConventions, CountEachCurrencyOfACrossAsAgainstTheDollar) {
+  const MarketConventions conventions =
+      ReadMarketConventions("spot USD/CAD 1\nspot USD/TRY 1\nspot USD/COP 0");
+  EXPECT_EQ(conventions.DaysOfCurrency("CAD", {"EUR", "CAD"}), 1);
+  EXPECT_EQ(conventions.DaysOfCurrency("EUR", {"EUR", "CAD"}), 2);
+  EXPECT_EQ(conventions.DaysToSpot({"EUR", "CAD"}), 2);
+  EXPECT_EQ(conventions.DaysToSpot({"CAD", "TRY"}), 1);
+  EXPECT_EQ(conventions.DaysToSpot({"CAD", "COP"}), 1);
+}
+
+TEST(MarketConventions, CountBothCurrenciesOfANamedCrossAlike) {
+  const MarketConventions conventions = ReadMarketConventions("spot USD/CAD 1\nspot CAD/EUR 0");
+  EXPECT_EQ(conventions.DaysOfCurrency("CAD", {"EUR", "CAD"}), 0);
+  EXPECT_EQ(conventions.DaysOfCurrency("EUR", {"EUR", "CAD"}), 0);
+  EXPECT_EQ(conventions.DaysToSpot({"EUR", "CAD"}), 0);
 }
 
 TEST(MarketConventions, NameTheCurrenciesThatADollarHolidayStops) {

@@ -75,7 +75,7 @@ TEST_F(DatabaseVersionTest, TheProgramsOwnDatabaseIsUpgraded) {
   UpgradeOwnDatabase(engines_, url_);
   EXPECT_THAT(sqlite::CheckDatabase(path_), IsEmpty());
   UpgradeOwnDatabase(engines_, url_);
-  EXPECT_EQ(sqlite::ReadSchemaVersion(path_), 7);
+  EXPECT_EQ(sqlite::ReadSchemaVersion(path_), 8);
 }
 
 TEST_F(DatabaseVersionTest, TheBooksOfTheProgramsOwnDatabaseLearnSinceWhenTheyHold) {

@@ -53,8 +53,8 @@ class DatabaseCheckTest : public ::testing::Test {
 };
 
 TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 8"),
-              ElementsAre("The database has the schema version 8; this program's is 7"));
+  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 9"),
+              ElementsAre("The database has the schema version 9; this program's is 8"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {

@@ -58,7 +58,7 @@ TEST_F(DatabaseFileTest, ANewDatabaseIsSoundAndNothingLiesBesideIt) {
 TEST_F(DatabaseFileTest, ANewDatabaseKeepsAWriteAheadLogAndItsVersion) {
   CreateDatabase(Path());
   EXPECT_EQ(Ask("PRAGMA journal_mode"), "wal");
-  EXPECT_EQ(Ask("PRAGMA user_version"), "7");
+  EXPECT_EQ(Ask("PRAGMA user_version"), "8");
   EXPECT_EQ(Ask("PRAGMA application_id"), std::to_string(0x46657277));
 }
 

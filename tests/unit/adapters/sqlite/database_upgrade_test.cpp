@@ -42,7 +42,7 @@ std::string ContentOfFile(const std::string& path) {
   return content.str();
 }
 
-constexpr std::int64_t kThisVersion = 7;
+constexpr std::int64_t kThisVersion = 8;
 
 /// A database as an older version made it, with a calendar and a rule.
 class OldDatabase : public contract::DatabaseUnderTest {
@@ -100,7 +100,7 @@ std::string DataOf(const std::string& path) {
 
 TEST(DatabaseUpgrade, AnUpgradedDatabaseIsLikeANewOneAndKeepsItsData) {
   const SqliteDatabase fresh;
-  for (const int version : {1, 2, 3, 4, 5, 6}) {
+  for (const int version : {1, 2, 3, 4, 5, 6, 7}) {
     OldDatabase old(version);
     const std::string data = DataOf(old.Path());
     ASSERT_NE(SchemaOf(old.Path()), SchemaOf(fresh.Path()));
@@ -197,7 +197,7 @@ TEST(DatabaseUpgrade, AnUpgradedDatabaseKeepsAHistory) {
 }
 
 TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
-  for (const int version : {1, 2, 3, 4, 5, 6}) {
+  for (const int version : {1, 2, 3, 4, 5, 6, 7}) {
     OldDatabase old(version);
     const std::string data = DataOf(old.Path());
     ProcedureCaller caller(old);
@@ -212,14 +212,14 @@ TEST(DatabaseUpgrade, AnOlderDatabaseIsReadAndRefusesChangesByWords) {
 
 TEST(DatabaseUpgrade, ANewerDatabaseIsReadAndRefusesChangesByWords) {
   SqliteDatabase newer;
-  newer.Execute("PRAGMA user_version = 8");
+  newer.Execute("PRAGMA user_version = 9");
   const std::string data = DataOf(newer.Path());
   ProcedureCaller caller(newer);
   EXPECT_EQ(caller.Call("CldAllInfo").return_value, 0);
   EXPECT_THAT(FailureTextOf([&] {
                 (void)caller.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2026}});
               }),
-              AllOf(HasSubstr("has the schema version 8; this program's is 7"), HasSubstr("newer version")));
+              AllOf(HasSubstr("has the schema version 9; this program's is 8"), HasSubstr("newer version")));
   EXPECT_EQ(DataOf(newer.Path()), data);
 }
 
@@ -234,10 +234,10 @@ TEST(DatabaseUpgrade, ADatabaseOfThisVersionIsLeftAlone) {
 
 TEST(DatabaseUpgrade, ADatabaseOfANewerOrAnUnknownVersionIsRefused) {
   SqliteDatabase fresh;
-  fresh.Execute("PRAGMA user_version = 8");
+  fresh.Execute("PRAGMA user_version = 9");
   const std::string before = SchemaOf(fresh.Path());
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }),
-              AllOf(HasSubstr("has the schema version 8; this program's is 7"), HasSubstr("newer")));
+              AllOf(HasSubstr("has the schema version 9; this program's is 8"), HasSubstr("newer")));
   EXPECT_EQ(SchemaOf(fresh.Path()), before);
   fresh.Execute("PRAGMA user_version = 0");
   EXPECT_THAT(FailureTextOf([&] { UpgradeDatabase(fresh.Path()); }), HasSubstr("schema version 0"));

@@ -1,0 +1,2 @@
+-- From version 7 to version 8: spot dates are counted otherwise in SQL on servers. Nothing differs in files, but for the number, which
+-- is the same for all engines.
