@@ -371,10 +371,6 @@
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
-    <message>
-        <source>%1, %2 and %3</source>
-        <translation>%1, %2 und %3</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %2 days after</source>
         <translation><numerusform>%1, %2 Tag danach</numerusform><numerusform>%1, %2 Tage danach</numerusform></translation>
@@ -534,6 +530,10 @@
     <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n geschlossener Tag behält seinen Namen; die Liste nennt ihn anders.</numerusform><numerusform>%n geschlossene Tage behalten ihre Namen; die Liste nennt sie anders.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n closed days that the rule book does not have</source>
+        <translation><numerusform>%n geschlossener Tag, den das Regelwerk nicht hat</numerusform><numerusform>%n geschlossene Tage, die das Regelwerk nicht hat</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies</source>
@@ -1668,6 +1668,14 @@
         <translation>Nicht verglichen</translation>
     </message>
     <message>
+        <source>Not in the list</source>
+        <translation>Nicht in der Liste</translation>
+    </message>
+    <message>
+        <source>Not in the rule book: %1</source>
+        <translation>Nicht im Regelwerk: %1</translation>
+    </message>
+    <message>
         <source>Not now</source>
         <translation>Nicht jetzt</translation>
     </message>
@@ -2408,12 +2416,20 @@
         <translation>Die Regel %1: %2</translation>
     </message>
     <message>
+        <source>The rule book of %1 does not get the days, so that the board will call them differences. %2.</source>
+        <translation>Das Regelwerk von %1 bekommt die Tage nicht, also nennt die Übersicht sie Abweichungen. %2.</translation>
+    </message>
+    <message>
         <source>The rule book of %1 does not get the holiday, so that the board will call it a difference. %2.</source>
         <translation>Das Regelwerk von %1 bekommt den Feiertag nicht, also nennt ihn die Übersicht eine Abweichung. %2.</translation>
     </message>
     <message>
         <source>The rule book of %1 has changes that are not saved. Lose them?</source>
         <translation>Das Regelwerk von %1 hat Änderungen, die nicht gespeichert sind. Verwerfen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The rule book of %1 has got %n days.</source>
+        <translation><numerusform>Das Regelwerk von %1 hat %n Tag bekommen.</numerusform><numerusform>Das Regelwerk von %1 hat %n Tage bekommen.</numerusform></translation>
     </message>
     <message>
         <source>The same date each year</source>

@@ -371,10 +371,6 @@
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
-    <message>
-        <source>%1, %2 and %3</source>
-        <translation>%1, %2 y %3</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %2 days after</source>
         <translation><numerusform>%1, %2 día después</numerusform><numerusform>%1, %2 días después</numerusform></translation>
@@ -534,6 +530,10 @@
     <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n día cerrado conserva su nombre; la lista lo llama de otro modo.</numerusform><numerusform>%n días cerrados conservan sus nombres; la lista los llama de otro modo.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n closed days that the rule book does not have</source>
+        <translation><numerusform>%n día cerrado que el reglamento no tiene</numerusform><numerusform>%n días cerrados que el reglamento no tiene</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies</source>
@@ -1668,6 +1668,14 @@
         <translation>Sin comparar</translation>
     </message>
     <message>
+        <source>Not in the list</source>
+        <translation>No está en la lista</translation>
+    </message>
+    <message>
+        <source>Not in the rule book: %1</source>
+        <translation>No está en el reglamento: %1</translation>
+    </message>
+    <message>
         <source>Not now</source>
         <translation>Ahora no</translation>
     </message>
@@ -2408,12 +2416,20 @@
         <translation>La regla %1: %2</translation>
     </message>
     <message>
+        <source>The rule book of %1 does not get the days, so that the board will call them differences. %2.</source>
+        <translation>El reglamento de %1 no recibe los días, así que el panel los llamará diferencias. %2.</translation>
+    </message>
+    <message>
         <source>The rule book of %1 does not get the holiday, so that the board will call it a difference. %2.</source>
         <translation>El reglamento de %1 no recibe el festivo, así que el panel lo llamará diferencia. %2.</translation>
     </message>
     <message>
         <source>The rule book of %1 has changes that are not saved. Lose them?</source>
         <translation>El reglamento de %1 tiene cambios sin guardar. ¿Descartarlos?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The rule book of %1 has got %n days.</source>
+        <translation><numerusform>El reglamento de %1 ha recibido %n día.</numerusform><numerusform>El reglamento de %1 ha recibido %n días.</numerusform></translation>
     </message>
     <message>
         <source>The same date each year</source>

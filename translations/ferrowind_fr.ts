@@ -371,10 +371,6 @@
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
-    <message>
-        <source>%1, %2 and %3</source>
-        <translation>%1, %2 et %3</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %2 days after</source>
         <translation><numerusform>%1, %2 jour après</numerusform><numerusform>%1, %2 jours après</numerusform></translation>
@@ -534,6 +530,10 @@
     <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n jour fermé garde son nom ; la liste l'appelle autrement.</numerusform><numerusform>%n jours fermés gardent leurs noms ; la liste les appelle autrement.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n closed days that the rule book does not have</source>
+        <translation><numerusform>%n jour fermé que le recueil n’a pas</numerusform><numerusform>%n jours fermés que le recueil n’a pas</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies</source>
@@ -1668,6 +1668,14 @@
         <translation>Non comparé</translation>
     </message>
     <message>
+        <source>Not in the list</source>
+        <translation>Pas dans la liste</translation>
+    </message>
+    <message>
+        <source>Not in the rule book: %1</source>
+        <translation>Pas dans le recueil : %1</translation>
+    </message>
+    <message>
         <source>Not now</source>
         <translation>Pas maintenant</translation>
     </message>
@@ -2408,12 +2416,20 @@
         <translation>La règle %1 : %2</translation>
     </message>
     <message>
+        <source>The rule book of %1 does not get the days, so that the board will call them differences. %2.</source>
+        <translation>Le recueil de %1 ne reçoit pas les jours, le tableau y verra donc des différences. %2.</translation>
+    </message>
+    <message>
         <source>The rule book of %1 does not get the holiday, so that the board will call it a difference. %2.</source>
         <translation>Le recueil de %1 ne reçoit pas le férié, le tableau y verra donc une différence. %2.</translation>
     </message>
     <message>
         <source>The rule book of %1 has changes that are not saved. Lose them?</source>
         <translation>Le recueil de %1 a des modifications non enregistrées. Les abandonner ?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The rule book of %1 has got %n days.</source>
+        <translation><numerusform>Le recueil de %1 a reçu %n jour.</numerusform><numerusform>Le recueil de %1 a reçu %n jours.</numerusform></translation>
     </message>
     <message>
         <source>The same date each year</source>

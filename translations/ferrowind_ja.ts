@@ -371,10 +371,6 @@
         <source>%1, %2</source>
         <translation>%1、%2</translation>
     </message>
-    <message>
-        <source>%1, %2 and %3</source>
-        <translation>%1、%2、%3</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %2 days after</source>
         <translation><numerusform>%1の%2日後</numerusform></translation>
@@ -534,6 +530,10 @@
     <message numerus="yes">
         <source>%n closed days keep their names, which the list calls otherwise.</source>
         <translation><numerusform>%n日の休業日は名称を保ちます。一覧では別の名称です。</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n closed days that the rule book does not have</source>
+        <translation><numerusform>規則集にない休業日%n日</numerusform></translation>
     </message>
     <message numerus="yes">
         <source>%n currencies</source>
@@ -1668,6 +1668,14 @@
         <translation>未比較</translation>
     </message>
     <message>
+        <source>Not in the list</source>
+        <translation>一覧にありません</translation>
+    </message>
+    <message>
+        <source>Not in the rule book: %1</source>
+        <translation>規則集にありません: %1</translation>
+    </message>
+    <message>
         <source>Not now</source>
         <translation>後で</translation>
     </message>
@@ -2408,12 +2416,20 @@
         <translation>規則%1：%2</translation>
     </message>
     <message>
+        <source>The rule book of %1 does not get the days, so that the board will call them differences. %2.</source>
+        <translation>%1の規則集にはこれらの日が入らないため、一覧では相違と表示されます。%2。</translation>
+    </message>
+    <message>
         <source>The rule book of %1 does not get the holiday, so that the board will call it a difference. %2.</source>
         <translation>%1の規則集にはこの休日が入らないため、一覧では相違と表示されます。%2。</translation>
     </message>
     <message>
         <source>The rule book of %1 has changes that are not saved. Lose them?</source>
         <translation>%1の規則集に保存していない変更があります。破棄しますか？</translation>
+    </message>
+    <message numerus="yes">
+        <source>The rule book of %1 has got %n days.</source>
+        <translation><numerusform>%1の規則集に%n日を登録しました。</numerusform></translation>
     </message>
     <message>
         <source>The same date each year</source>

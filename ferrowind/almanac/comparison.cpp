@@ -27,8 +27,9 @@ const char* TypeInWords(RuleKind kind) {
 
 }  // namespace
 
-Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches)
-    : plan_(plan), matches_(matches) {
+Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches,
+                       PlanSource source)
+    : plan_(plan), matches_(matches), source_(source) {
   days_.reserve(std::max(plan.Days().size(), content.days.size()));
   auto should = plan.Days().begin();
   auto now = content.days.begin();
@@ -44,8 +45,12 @@ Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, con
 }
 
 ComparedDay Comparison::Compare(const MarkedDay* now, const PlannedDay* should) const {
-  ComparedDay day{now != nullptr ? now->day_of_year : should->day_of_year, PlanAction::kKeep, now, should,
-                  nullptr};
+  ComparedDay day{now != nullptr ? now->day_of_year : should->day_of_year,
+                  PlanAction::kKeep,
+                  now,
+                  should,
+                  nullptr,
+                  false};
   if (now == nullptr) {
     day.action = PlanAction::kAdd;
     return day;
@@ -63,7 +68,19 @@ ComparedDay Comparison::Compare(const MarkedDay* now, const PlannedDay* should) 
   } else {
     day.action = now->IsClosed() ? PlanAction::kReplace : PlanAction::kException;
   }
+  day.is_made_by_hand = IsMadeByHand(day);
   return day;
+}
+
+bool Comparison::IsMadeByHand(const ComparedDay& day) const {
+  if (day.action == PlanAction::kException) return true;
+  // Weekends come from plans alone.
+  if (source_ == PlanSource::kList || day.now->kind == RuleKind::kWeekday) return false;
+  if (day.should != nullptr && plan_.KindOf(*day.should) != RuleKind::kWorkingDay) return false;
+  for (std::size_t rule = 0; rule < plan_.Book().rules.size(); ++rule) {
+    if (matches_.HasNameOf(rule, day.now->rule)) return false;
+  }
+  return true;
 }
 
 const UnknownDates* Comparison::UnknownDatesOf(const MarkedDay& day, const PlannedDay* should) const {
@@ -107,8 +124,16 @@ ComparisonLine Comparison::LineOf(const ComparedDay& day) const {
     return line;
   }
   if (day.should != nullptr) line.should = NameOf(*day.should);
-  line.why = plan_.WhyOf(day.day_of_year);
+  line.why = WhyOf(day);
   return line;
+}
+
+Phrase Comparison::WhyOf(const ComparedDay& day) const {
+  if (source_ == PlanSource::kList && day.action == PlanAction::kRemove) return Phrase::Of("Not in the list");
+  if (!day.IsOutsideBook()) return plan_.WhyOf(day.day_of_year);
+  Phrase why = Phrase::Of("Not in the rule book: %1", {NameOf(*day.now)});
+  return day.should == nullptr ? Phrase::Of("%1%2", {std::move(why), plan_.AlsoOn(day.day_of_year)})
+                               : Phrase::Of("%1; %2", {std::move(why), plan_.WhyOf(day.day_of_year)});
 }
 
 ComparedDay Comparison::DayAt(int day_of_year) const {

@@ -8,6 +8,7 @@
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/day_choice.h"
 #include "ferrowind/almanac/plan_action.h"
+#include "ferrowind/almanac/plan_source.h"
 #include "ferrowind/almanac/rule_matches.h"
 #include "ferrowind/almanac/year_plan.h"
 #include "ferrowind/platform/values/date.h"
@@ -27,9 +28,16 @@ struct ComparedDay {
   /// The rule that the day has and whose dates the plan lacks; null when the plan knows what the day should
   /// be.
   const UnknownDates* unknown = nullptr;
+  /// Whether it differs because a person has made it so: a working day by exception, or a closed day whose
+  /// rule the rule book does not have and which the plan would open.
+  bool is_made_by_hand = false;
 
+  /// Whether it is closed by a rule that the rule book does not have, and the plan would open it.
+  [[nodiscard]] bool IsOutsideBook() const { return is_made_by_hand && action != PlanAction::kException; }
   /// Whether the day becomes another when the plan is applied.
-  [[nodiscard]] bool Changes(const DayChoice& choice) const { return choice.Takes(day_of_year, action); }
+  [[nodiscard]] bool Changes(const DayChoice& choice) const {
+    return action != PlanAction::kKeep && choice.Takes(day_of_year, is_made_by_hand);
+  }
 };
 
 /// A compared day in words.
@@ -48,11 +56,15 @@ struct ComparisonLine {
 /// A day is as planned when it has the rule of the planned name. A planned working day is a working day by
 /// exception, whatever its comment; a day that the plan leaves ordinary may be one too, as it is open either
 /// way. Where the plan lacks the dates of a rule, the days that have this rule stay as they are.
+///
+/// A rule book need not know every holiday: a day closed by a rule that it does not have was closed by a
+/// person, for once or as a bank has published it. A list knows all closed days of its year.
 class Comparison {
  public:
-  /// All three must outlive the comparison. Precondition: `plan` and `content` are of the same year, and
-  /// `matches` are those of the plan's book.
-  Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches);
+  /// The first three must outlive the comparison. `source` is what the plan was made by. Precondition: `plan`
+  /// and `content` are of the same year, and `matches` are those of the plan's book.
+  Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches,
+             PlanSource source = PlanSource::kRuleBook);
 
   [[nodiscard]] const YearPlan& Plan() const { return plan_; }
   /// Every day that the plan or the calendar marks, ascending.
@@ -77,11 +89,15 @@ class Comparison {
  private:
   [[nodiscard]] ComparedDay Compare(const MarkedDay* now, const PlannedDay* should) const;
   [[nodiscard]] const UnknownDates* UnknownDatesOf(const MarkedDay& day, const PlannedDay* should) const;
+  /// Of a day that differs.
+  [[nodiscard]] bool IsMadeByHand(const ComparedDay& day) const;
+  [[nodiscard]] platform::Phrase WhyOf(const ComparedDay& day) const;
   [[nodiscard]] std::string NameOf(const MarkedDay& day) const;
   [[nodiscard]] std::string NameOf(const PlannedDay& day) const;
 
   const YearPlan& plan_;
   const RuleMatches& matches_;
+  PlanSource source_;
   std::vector<ComparedDay> days_;
 };
 

@@ -4,17 +4,15 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "ferrowind/almanac/plan_action.h"
-
 namespace ferrowind::almanac {
 
-/// What becomes of days that are working days by exception and that the plan has closed.
+/// What becomes of days that a person has made otherwise than planned (`ComparedDay::is_made_by_hand`).
 enum class ExceptionHandling : std::uint8_t { kOverwrite, kKeep };
 
 /// Which of the days that differ become others when a plan is applied.
 class DayChoice {
  public:
-  /// All of them, but exceptions as that says; a way to handle them is a whole choice.
+  /// All of them, but those made by hand as that says; a way to handle them is a whole choice.
   // NOLINTNEXTLINE(google-explicit-constructor)
   DayChoice(ExceptionHandling exceptions) : exceptions_(exceptions) {}
 
@@ -24,11 +22,10 @@ class DayChoice {
     chosen_.set(Place(day_of_year), is_chosen);
   }
 
-  /// Whether the day becomes another, if `action` has to happen to it.
-  [[nodiscard]] bool Takes(int day_of_year, PlanAction action) const {
-    if (action == PlanAction::kKeep) return false;
+  /// Whether the day, which differs, becomes another.
+  [[nodiscard]] bool Takes(int day_of_year, bool is_made_by_hand) const {
     if (decided_.test(Place(day_of_year))) return chosen_.test(Place(day_of_year));
-    return action != PlanAction::kException || exceptions_ == ExceptionHandling::kOverwrite;
+    return !is_made_by_hand || exceptions_ == ExceptionHandling::kOverwrite;
   }
 
  private:

@@ -7,6 +7,7 @@
 #include "ferrowind/almanac/calendar_content.h"
 #include "ferrowind/almanac/date_words.h"
 #include "ferrowind/data/module_state.h"
+#include "ferrowind/planning/in_one_list.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/plan_words.h"
 
@@ -21,16 +22,6 @@ std::string Weekday(int weekday) { return InWords(almanac::Weekday(weekday)); }
 
 std::string Told(const Date& day) { return AttachedPlatform().locale.LongDayText(day); }
 
-/// "a, b and c".
-std::string Listed(const std::vector<std::string>& items) {
-  std::string list;
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    const bool is_last = i + 1 == items.size();
-    list = i == 0 ? items[i] : InWords(is_last ? "%1 and %2" : "%1, %2", {list, items[i]});
-  }
-  return list;
-}
-
 std::string Listed(const std::vector<Date>& days) {
   // Whoever assigns a rule everywhere needs no list of it.
   constexpr std::size_t kMost = 4;
@@ -40,7 +31,7 @@ std::string Listed(const std::vector<Date>& days) {
     items.push_back(Told(day));
   }
   if (days.size() > kMost) items.push_back(InWords(days.size() - kMost, "%n more", "%n more"));
-  return Listed(items);
+  return InOneList(items);
 }
 
 class Preview {
@@ -94,7 +85,7 @@ class Preview {
       parts.push_back(
           InWords(kept, "%n stays as holidays or exceptions", "%n stay as holidays or exceptions"));
     }
-    line.now = Listed(parts);
+    line.now = InOneList(parts);
     WarnOfWeekday(rule, line);
   }
 
@@ -143,7 +134,7 @@ class Preview {
     //: said
     const char* const text = others.size() == 1 ? "It belongs to the book of %1, not to that of %2"
                                                 : "It belongs to the books of %1, not to that of %2";
-    line.warnings.push_back(InWords(text, {Listed(others), UnmistakableCode(calendar_.Owner())}));
+    line.warnings.push_back(InWords(text, {InOneList(others), UnmistakableCode(calendar_.Owner())}));
   }
 
   void WarnOfWeekday(const RuleToAssign& rule, AssignmentLine& line) const {

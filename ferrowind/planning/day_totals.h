@@ -13,6 +13,8 @@ struct DayTotals {
   /// Of `taken`: working days by exception that have a reason.
   std::size_t lost_reasons = 0;
   std::size_t kept_exceptions = 0;
+  /// Those that stay closed although the rule book does not have them.
+  std::size_t kept_outside_book = 0;
   /// Others that somebody has left out.
   std::size_t left_out = 0;
   /// Those that the database would refuse.
@@ -23,6 +25,7 @@ struct DayTotals {
     new_weekends += other.new_weekends;
     lost_reasons += other.lost_reasons;
     kept_exceptions += other.kept_exceptions;
+    kept_outside_book += other.kept_outside_book;
     left_out += other.left_out;
     blocked += other.blocked;
     return *this;

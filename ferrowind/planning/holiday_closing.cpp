@@ -4,10 +4,11 @@
 #include <utility>
 
 #include "ferrowind/almanac/planner.h"
-#include "ferrowind/planning/book_shelf.h"
+#include "ferrowind/planning/book_dates.h"
 #include "ferrowind/planning/calendar_change.h"
 #include "ferrowind/planning/in_words.h"
 #include "ferrowind/planning/one_line.h"
+#include "ferrowind/planning/plan_words.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/platform/values/json_text.h"
@@ -16,22 +17,10 @@ namespace ferrowind::planning {
 namespace {
 
 using almanac::MarkedDay;
-using almanac::RuleBook;
 using platform::Date;
 using platform::Failure;
 
 constexpr const char* kBook = "book";
-
-RuleBook WithDays(RuleBook book, const HolidayName& name, const std::vector<Date>& days) {
-  for (const Date& day : days) {
-    book.rules.push_back({.name = name.name,
-                          .kind = name.kind,
-                          .expression = almanac::DateExpression::Parse(day.ToIso()),
-                          .comment = {},
-                          .moved_name = {}});
-  }
-  return book;
-}
 
 }  // namespace
 
@@ -183,10 +172,7 @@ ClosingLine HolidayClosing::BookLineOf(const Place& place) const {
   }
   line.is_taken = IsTaken(line.key, true);
   line.is_warning = !*line.is_taken;
-  line.becomes = *line.is_taken
-                     ? InWords(days.size(), "gets it as a date of its own", "gets them as dates of their own")
-                     : InWords(days.size(), "stays as it is: a difference on the board",
-                               "stays as it is: differences on the board");
+  line.becomes = BecomesOfBook(days.size(), *line.is_taken);
   return line;
 }
 
@@ -249,35 +235,20 @@ bool HolidayClosing::CloseDaysOf(const Place& place, ClosingOutcome& outcome) co
 }
 
 void HolidayClosing::EnterInBooks(const std::vector<Entering>& entering, ClosingOutcome& outcome) const {
-  const auto tell = [&](const Currency& currency, const std::string& why) {
+  BookDates books(tables_);
+  for (const auto& [place, days] : entering) {
+    const Currency& currency = place->calendar->currency;
+    std::vector<DatedHoliday> holidays;
+    for (const std::int16_t day : days) holidays.push_back({DateOf(day), name_.name, name_.kind});
+    const auto why_not = books.Enter(currency, holidays);
+    if (!why_not) {
+      ++outcome.books;
+      continue;
+    }
     outcome.problems.push_back(
         InWords("The rule book of %1 does not get the holiday, so that the board will "
                 "call it a difference. %2.",
-                {UnmistakableCode(currency), why}));
-  };
-  std::optional<BookShelf> shelf;
-  for (const auto& [place, day_numbers] : entering) {
-    const Currency& currency = place->calendar->currency;
-    std::vector<Date> days;
-    for (const std::int16_t day : day_numbers) days.push_back(DateOf(day));
-    try {
-      // As the books are now: nothing that somebody has entered since is lost.
-      if (!shelf) shelf.emplace(tables_);
-      const StoredBook& stored = shelf->Get(currency);
-      if (!stored.book) {
-        tell(currency, stored.faults.front());
-        continue;
-      }
-      const PlacedBook placed{.currency = currency, .book = WithDays(*stored.book, name_, days)};
-      if (const auto faults = shelf->FaultsWith({placed}); !faults.empty()) {
-        tell(currency, faults.front());
-        continue;
-      }
-      StoreBook(currency.id, UnmistakableCode(currency), stored.fingerprint, placed.book);
-      ++outcome.books;
-    } catch (const Failure& failure) {
-      tell(currency, failure.Description());
-    }
+                {UnmistakableCode(currency), *why_not}));
   }
 }
 

@@ -81,14 +81,12 @@ ListedYear PrepareListed(const YearPlanner& planner, const Currency& currency, c
     Refuse(InWords(platform::Phrase::Of("%1, so it has no calendar of %2",
                                         {EndOfMoney(currency), std::to_string(list.year)})));
   }
-  std::optional<almanac::YearPlan> planned;
-  const almanac::Planner* const own = planner.PlannerOf(currency);
-  if (own != nullptr && own->Reaches(list.year)) planned = own->Plan(list.year);
+  const std::optional<almanac::YearPlan> planned = planner.PlanIfKnown(currency, list.year);
   StoredCalendar calendar = LoadCalendar(currency, list.year);
   exchange::ListBook listed =
       BookOf(list, source, {calendar.content, planner.Rules(), planned ? &*planned : nullptr, takes_names});
   return {std::make_unique<YearPreparation>(currency, almanac::PlanYear(listed.book, list.year, {}),
-                                            std::move(calendar), planner.Rules()),
+                                            std::move(calendar), planner.Rules(), almanac::PlanSource::kList),
           listed.other_names, std::move(listed.remarks)};
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "ferrowind/planning/book_dates.h"
 #include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/in_words.h"
@@ -28,6 +29,19 @@ std::optional<HistoryEntry> EntryOfPlan(const CalendarKey& calendar) {
     if (page.entries.empty()) return std::nullopt;
     HistoryEntry& newest = page.entries.front();
     if (newest.procedure != "CldApplyPlan" || newest.user != page.asker) return std::nullopt;
+    return std::move(newest);
+  } catch (const platform::Failure&) {
+    return std::nullopt;
+  }
+}
+
+/// The entry of the book of the currency that was just stored; nothing as above.
+std::optional<HistoryEntry> EntryOfBook(std::int32_t currency) {
+  try {
+    HistoryPage page = LoadHistory({.currency = currency}, std::nullopt, 1);
+    if (page.entries.empty()) return std::nullopt;
+    HistoryEntry& newest = page.entries.front();
+    if (newest.procedure != "CldIUBook" || newest.user != page.asker) return std::nullopt;
     return std::move(newest);
   } catch (const platform::Failure&) {
     return std::nullopt;
@@ -101,6 +115,7 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   PlannedCalendar& calendar = calendars_[position];
   const bool existed = calendar.Preparation()->CalendarExists();
   const std::size_t changed_days = calendar.Totals().taken;
+  const auto days_for_book = calendar.TakesBook() ? calendar.DaysForBook() : std::vector<DatedHoliday>();
   const std::string& currency = calendar.Preparation()->Owner().code;
   try {
     WriteTold(platform::ActionKind::kApplyPlan, {currency, calendar.Key().second}, [&] {
@@ -116,8 +131,29 @@ PlanOutcome PlanBatch::ApplyOne(std::size_t position) {
   } catch (const platform::Failure& failure) {
     return {position, Kind::kFailed, failure.Description() + "."};
   }
-  if (auto entry = EntryOfPlan(calendar.Key())) applied_.push_back({position, currency, std::move(*entry)});
-  return {position, Kind::kDone, DoneSentence(calendar, existed), changed_days};
+  if (auto entry = EntryOfPlan(calendar.Key())) {
+    applied_.push_back({position, currency, {std::move(*entry)}});
+  }
+  PlanOutcome outcome{position, Kind::kDone, DoneSentence(calendar, existed), changed_days};
+  if (!days_for_book.empty()) EnterInBook(days_for_book, outcome);
+  return outcome;
+}
+
+void PlanBatch::EnterInBook(const std::vector<DatedHoliday>& days, PlanOutcome& outcome) {
+  const Currency& currency = calendars_[outcome.calendar].Preparation()->Owner();
+  if (const auto why_not = BookDates(tables_).Enter(currency, days)) {
+    outcome.kind = Kind::kDoneInPart;
+    outcome.sentence += " " + InWords(
+                                  "The rule book of %1 does not get the days, so that the board will call "
+                                  "them differences. %2.",
+                                  {UnmistakableCode(currency), *why_not});
+    return;
+  }
+  outcome.sentence += " " + InWords(days.size(), "The rule book of %1 has got %n day.",
+                                    "The rule book of %1 has got %n days.", {UnmistakableCode(currency)});
+  const bool is_undone_with_it = !applied_.empty() && applied_.back().calendar == outcome.calendar;
+  auto entry = EntryOfBook(currency.id);
+  if (is_undone_with_it && entry) applied_.back().entries.push_back(std::move(*entry));
 }
 
 std::vector<PlanOutcome> PlanBatch::Undo() {
@@ -126,23 +162,28 @@ std::vector<PlanOutcome> PlanBatch::Undo() {
   return run.Finish();
 }
 
-PlanOutcome PlanBatch::UndoOne(const Applied& applied) const {
+PlanOutcome PlanBatch::UndoOne(Applied& applied) const {
   const std::string& name = calendars_[applied.calendar].Name();
+  std::string problems;
   try {
-    UndoOutcome outcome;
-    const CalendarKey& key = calendars_[applied.calendar].Key();
-    WriteTold(platform::ActionKind::kUndo, {applied.currency, key.second}, [&] {
-      outcome = UndoEntry(applied.entry, InWords("Undoing the plan"));
-      return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone : return_value::kChangedSince;
-    });
-    if (outcome.kind != UndoOutcome::Kind::kDone) {
+    for (; !applied.entries.empty(); applied.entries.pop_back()) {
+      const HistoryEntry& entry = applied.entries.back();
+      UndoOutcome outcome;
+      const CalendarKey& key = calendars_[applied.calendar].Key();
+      WriteTold(platform::ActionKind::kUndo, {applied.currency, key.second}, [&] {
+        outcome = UndoEntry(entry, InWords("Undoing the plan"));
+        return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone : return_value::kChangedSince;
+      });
+      if (outcome.kind == UndoOutcome::Kind::kDone) continue;
       const auto currencies = CurrencyList::Load();
-      return {applied.calendar, Kind::kRefused,
-              name + ": " + HistoryWords(currencies, FindEntry).WhyNotUndone(applied.entry, outcome)};
+      const HistoryWords words(currencies, FindEntry);
+      problems +=
+          (problems.empty() ? "" : " ") + words.Calendar(entry) + ": " + words.WhyNotUndone(entry, outcome);
     }
   } catch (const platform::Failure& failure) {
     return {applied.calendar, Kind::kFailed, name + ": " + failure.Description() + "."};
   }
+  if (!problems.empty()) return {applied.calendar, Kind::kRefused, problems};
   return {applied.calendar, Kind::kDone, InWords("%1 is as it was before.", {name})};
 }
 

@@ -17,6 +17,8 @@ namespace ferrowind::planning {
 struct PlanOutcome {
   enum class Kind : std::uint8_t {
     kDone,
+    /// Its calendar is done, but not its rule book.
+    kDoneInPart,
     /// The database refused: somebody else has changed something meanwhile. Nothing was changed in it.
     kRefused,
     /// The call failed; its calendar shows what came of it, as far as that can be read.
@@ -61,7 +63,8 @@ class PlanBatch {
   /// The same of the calendars at those positions alone.
   void PlanAnew(const std::vector<std::size_t>& positions);
 
-  /// Changes each calendar that has work, and plans those that were tried anew; tells of each, in order. A
+  /// Changes each calendar that has work, and the rule book that gets days of a list, and plans those that
+  /// were tried anew; tells of each, in order. A
   /// calendar that is refused does not keep the others from being changed; a call that fails does.
   std::vector<PlanOutcome> Apply();
 
@@ -75,16 +78,19 @@ class PlanBatch {
  private:
   friend class PlanRun;
 
-  /// A call that has changed a calendar.
+  /// The calls that have changed a calendar, and the rule book of its currency behind it.
   struct Applied {
     std::size_t calendar = 0;
     /// The code of its currency.
     std::string currency;
-    HistoryEntry entry;
+    std::vector<HistoryEntry> entries;
   };
 
   [[nodiscard]] PlanOutcome ApplyOne(std::size_t position);
-  [[nodiscard]] PlanOutcome UndoOne(const Applied& applied) const;
+  /// Enters the days in the rule book of the calendar, and tells of it in `outcome`.
+  void EnterInBook(const std::vector<DatedHoliday>& days, PlanOutcome& outcome);
+  /// Takes the calls off that are undone or given up.
+  [[nodiscard]] PlanOutcome UndoOne(Applied& applied) const;
 
   const almanac::DateTables& tables_;
   std::vector<PlannedCalendar> calendars_;

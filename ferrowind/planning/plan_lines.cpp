@@ -65,6 +65,17 @@ class LineMaker {
     for (const ComparedDay& day : calendar.Preparation()->Compared().Days()) {
       if (filter_.shows_all || IsShown(calendar, day)) AddDay(position, day);
     }
+    AddBook(position);
+  }
+
+  void AddBook(std::size_t position) {
+    const PlannedCalendar& calendar = calendars_[position];
+    const std::size_t days = calendar.DaysForBook().size();
+    if (days == 0) return;
+    PlanLine line = NewLine(Kind::kBook, position, "/book");
+    line.is_taken = calendar.TakesBook();
+    line.why = BecomesOfBook(days, *line.is_taken);
+    Add(std::move(line));
   }
 
   /// A cause that many have is told of the first of them alone.

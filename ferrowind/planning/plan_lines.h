@@ -22,6 +22,8 @@ struct PlanLine {
     /// A calendar as a whole.
     kCalendar,
     kDay,
+    /// Whether the rule book gets the days that a list closes and that it leaves open.
+    kBook,
   };
 
   Kind kind = Kind::kDay;

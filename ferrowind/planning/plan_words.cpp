@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ferrowind/planning/in_one_list.h"
 #include "ferrowind/planning/in_words.h"
 
 namespace ferrowind::planning {
@@ -29,26 +30,32 @@ std::vector<std::string> Incomplete(const YearPreparation& preparation) {
   return sentences;
 }
 
-std::size_t KeptExceptions(const almanac::Comparison& comparison, const almanac::DayChoice& choice) {
-  const auto& days = comparison.Days();
-  return static_cast<std::size_t>(std::count_if(days.begin(), days.end(), [&](const ComparedDay& day) {
-    return day.action == almanac::PlanAction::kException && !day.Changes(choice);
-  }));
+DayTotals KeptByHand(const almanac::Comparison& comparison, const almanac::DayChoice& choice) {
+  DayTotals kept;
+  for (const ComparedDay& day : comparison.Days()) {
+    if (!day.is_made_by_hand || day.Changes(choice)) continue;
+    ++(day.IsOutsideBook() ? kept.kept_outside_book : kept.kept_exceptions);
+  }
+  return kept;
 }
 
 std::string CountedExceptions(std::size_t count) {
   return InWords(count, "%n working day by exception", "%n working days by exception");
 }
 
-std::string ButForExceptions(std::size_t kept) {
-  DayTotals totals;
-  totals.kept_exceptions = kept;
-  return ButFor(totals);
+std::string BecomesOfBook(std::size_t days, bool is_taken) {
+  return is_taken ? InWords(days, "gets it as a date of its own", "gets them as dates of their own")
+                  : InWords(days, "stays as it is: a difference on the board",
+                            "stays as it is: differences on the board");
 }
 
 std::string StayingDays(const DayTotals& totals) {
   std::vector<std::string> parts;
   if (totals.kept_exceptions != 0) parts.push_back(CountedExceptions(totals.kept_exceptions));
+  if (totals.kept_outside_book != 0) {
+    parts.push_back(InWords(totals.kept_outside_book, "%n closed day that the rule book does not have",
+                            "%n closed days that the rule book does not have"));
+  }
   if (totals.left_out != 0) {
     parts.push_back(InWords(totals.left_out, "%n day that is left out", "%n days that are left out"));
   }
@@ -56,16 +63,7 @@ std::string StayingDays(const DayTotals& totals) {
     parts.push_back(InWords(totals.blocked, "%n day whose rule stands in the way",
                             "%n days whose rules stand in the way"));
   }
-  switch (parts.size()) {
-    case 0:
-      return "";
-    case 1:
-      return parts[0];
-    case 2:
-      return InWords("%1 and %2", parts);
-    default:
-      return InWords("%1, %2 and %3", parts);
-  }
+  return InOneList(parts);
 }
 
 std::string ButFor(const DayTotals& totals) {

@@ -24,16 +24,14 @@ inline constexpr const char* kOrdinaryDay = "working day";
 /// Which dates the plan lacks, a sentence with a full stop each.
 [[nodiscard]] std::vector<std::string> Incomplete(const YearPreparation& preparation);
 
-/// How many working days by exception `choice` leaves open where the plan has closed them.
-[[nodiscard]] std::size_t KeptExceptions(const almanac::Comparison& comparison,
-                                         const almanac::DayChoice& choice);
+/// The days made by hand that `choice` leaves as they are: exceptions, and those outside the rule book.
+[[nodiscard]] DayTotals KeptByHand(const almanac::Comparison& comparison, const almanac::DayChoice& choice);
 
 /// "1 working day by exception".
 [[nodiscard]] std::string CountedExceptions(std::size_t count);
 
-/// What stands behind "as planned" when so many exceptions are kept: " but for 2 working days by exception",
-/// or nothing.
-[[nodiscard]] std::string ButForExceptions(std::size_t kept);
+/// What becomes of a rule book when days are closed that it leaves open: "gets them as dates of their own".
+[[nodiscard]] std::string BecomesOfBook(std::size_t days, bool is_taken);
 
 /// The days that stay otherwise than planned: "2 working days by exception and 1 day that is left out", or
 /// nothing.

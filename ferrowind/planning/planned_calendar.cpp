@@ -30,6 +30,7 @@ void PlannedCalendar::Plan(const std::shared_ptr<const YearPlanner>& planner) {
     }
     name_ = CalendarName(*currency, key_.second);
     preparation_ = prepare_(*planner, *currency, key_.second);
+    book_plan_ = source_ == PlanSource::kList ? planner->PlanIfKnown(*currency, key_.second) : std::nullopt;
     planner_ = planner;
     why_not_.clear();
   } catch (const platform::Failure& failure) {
@@ -96,10 +97,23 @@ bool PlannedCalendar::IsLeftOut() const {
   if (preparation_ == nullptr || is_rest_) return false;
   const auto& days = preparation_->Compared().Days();
   const auto is_taken_at_first = [&](const ComparedDay& day) {
-    return day.action != PlanAction::kException && IsOpenToChoice(day);
+    return !day.is_made_by_hand && IsOpenToChoice(day);
   };
   return std::any_of(days.begin(), days.end(), is_taken_at_first) &&
          std::none_of(days.begin(), days.end(), [&](const auto& day) { return Takes(day); });
+}
+
+std::vector<DatedHoliday> PlannedCalendar::DaysForBook() const {
+  std::vector<DatedHoliday> holidays;
+  if (preparation_ == nullptr || !book_plan_) return holidays;
+  const almanac::YearPlan& listed = preparation_->Plan();
+  for (const ComparedDay& day : preparation_->Compared().Days()) {
+    if (!Takes(day) || day.should == nullptr || book_plan_->Find(day.day_of_year) != nullptr) continue;
+    const almanac::RuleKind kind = listed.KindOf(*day.should);
+    const bool is_holiday = kind == almanac::RuleKind::kCelebration || kind == almanac::RuleKind::kPoint;
+    if (is_holiday) holidays.push_back({listed.DateOf(*day.should), listed.NameOf(*day.should), kind});
+  }
+  return holidays;
 }
 
 DayTotals PlannedCalendar::Totals() const {
@@ -115,6 +129,8 @@ DayTotals PlannedCalendar::Totals() const {
       ++totals.blocked;
     } else if (day.action == PlanAction::kException) {
       ++totals.kept_exceptions;
+    } else if (day.is_made_by_hand) {
+      ++totals.kept_outside_book;
     } else {
       ++totals.left_out;
     }

@@ -7,8 +7,11 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "ferrowind/almanac/comparison.h"
+#include "ferrowind/almanac/plan_source.h"
+#include "ferrowind/planning/book_dates.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/day_totals.h"
 #include "ferrowind/planning/year_planner.h"
@@ -21,14 +24,13 @@ using Preparer = std::function<std::unique_ptr<const YearPreparation>(const Year
                                                                       const Currency& currency, int year)>;
 [[nodiscard]] Preparer ByRuleBook();
 
-/// What says how a calendar should be.
-enum class PlanSource : std::uint8_t { kRuleBook, kList };
+using almanac::PlanSource;
 
 /// A calendar beside its plan, and which of the days that differ are to become others.
 ///
-/// Working days by exception stay as they are until somebody takes them: they were made by a person against
-/// a plan. Days that the database would refuse (`Comparison::ObstacleOf`) are never taken. All others are
-/// taken until somebody leaves them out.
+/// Working days by exception stay as they are until somebody takes them, and so do closed days that the rule
+/// book does not have and would open: they were made by a person against a plan. Days that the database would
+/// refuse (`Comparison::ObstacleOf`) are never taken. All others are taken until somebody leaves them out.
 class PlannedCalendar {
  public:
   /// Not planned yet.
@@ -63,6 +65,14 @@ class PlannedCalendar {
   void Take(int day_of_year, bool is_taken);
   /// Leaves all days out, or takes those that are taken when nobody has decided anything.
   void TakeAll(bool is_taken);
+
+  /// Of a calendar that is made as a list: the days that would be closed now and that the rule book of its
+  /// currency leaves open, so that its plans would open them again. Empty when it has no book that tells of
+  /// the year.
+  [[nodiscard]] std::vector<DatedHoliday> DaysForBook() const;
+  /// Whether the rule book gets those days; it does, if there are any, until somebody says otherwise.
+  [[nodiscard]] bool TakesBook() const { return takes_book_ && !DaysForBook().empty(); }
+  void TakeBook(bool is_taken) { takes_book_ = is_taken; }
 
   [[nodiscard]] DayTotals Totals() const;
   /// Whether `Apply` would change anything. A calendar that does not exist is not made without any day.
@@ -100,6 +110,9 @@ class PlannedCalendar {
   bool is_rest_ = false;
   /// Whether all days were left out when it could be planned last.
   bool was_left_out_ = false;
+  /// Of a calendar that is made as a list, what its rule book says.
+  std::optional<almanac::YearPlan> book_plan_;
+  bool takes_book_ = true;
   /// By the day of the year.
   std::map<int, Decision> decisions_;
 };

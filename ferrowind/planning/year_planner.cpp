@@ -79,6 +79,12 @@ almanac::YearPlan YearPlanner::Plan(const Currency& currency, int year) const {
   return RequirePlanner(currency, year).Plan(year);
 }
 
+std::optional<almanac::YearPlan> YearPlanner::PlanIfKnown(const Currency& currency, int year) const {
+  const almanac::Planner* const planner = PlannerOf(currency);
+  if (planner == nullptr || !planner->Reaches(year)) return std::nullopt;
+  return planner->Plan(year);
+}
+
 std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, int year) const {
   return std::make_unique<YearPreparation>(currency, year, RequirePlanner(currency, year), rules_);
 }

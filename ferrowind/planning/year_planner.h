@@ -36,6 +36,8 @@ class YearPlanner {
 
   /// What the calendar should be, without reading it; fails as `Prepare` does.
   [[nodiscard]] almanac::YearPlan Plan(const Currency& currency, int year) const;
+  /// The same; nothing where the currency has no book that can be used and tells of that year.
+  [[nodiscard]] std::optional<almanac::YearPlan> PlanIfKnown(const Currency& currency, int year) const;
 
   /// The calendar as it is now beside its plan; must not outlive this. A currency without a book, or with one
   /// that has faults, is a failure that says so, and so are a year after its last day, one before its book

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ferrowind/almanac/comparison.h"
+#include "ferrowind/almanac/plan_source.h"
 #include "ferrowind/almanac/planner.h"
 #include "ferrowind/almanac/rule_directory.h"
 #include "ferrowind/almanac/rule_matches.h"
@@ -22,9 +23,9 @@ class YearPreparation {
   /// (fails as database_call.h says). `rules` are the database's and must outlive this.
   YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
                   const almanac::RuleDirectory& rules);
-  /// The same of a plan that was made elsewhere, beside `calendar`, which is of its year.
+  /// The same of a plan that was made elsewhere, by `source`, beside `calendar`, which is of its year.
   YearPreparation(const Currency& currency, almanac::YearPlan plan, StoredCalendar calendar,
-                  const almanac::RuleDirectory& rules);
+                  const almanac::RuleDirectory& rules, almanac::PlanSource source);
   YearPreparation(const YearPreparation&) = delete;
   YearPreparation& operator=(const YearPreparation&) = delete;
 

@@ -24,10 +24,10 @@ namespace ferrowind::host {
 namespace {
 
 using almanac::ExceptionHandling;
-using planning::ButForExceptions;
+using planning::ButFor;
 using planning::Counted;
 using planning::Currency;
-using planning::KeptExceptions;
+using planning::KeptByHand;
 
 /// "2028", or "2028..2030".
 std::string TextOf(const YearRange& years) {
@@ -58,8 +58,7 @@ class Application {
       return ExitStatus::kNotDone;
     }
     if (changing.empty()) {
-      out_ << Counted(looked_at_, "calendar is", "calendars are") << " as planned" << ButForExceptions(kept_)
-           << ".\n";
+      out_ << Counted(looked_at_, "calendar is", "calendars are") << " as planned" << ButFor(kept_) << ".\n";
       return ExitStatus::kDone;
     }
     return application_.ApplyIfWanted(changing);
@@ -111,7 +110,7 @@ class Application {
       for (int year = planned.first; year <= planned.last; ++year) {
         auto preparation = planner_.Prepare(*currency, year);
         ++looked_at_;
-        kept_ += KeptExceptions(preparation->Compared(), exceptions_);
+        kept_ += KeptByHand(preparation->Compared(), exceptions_);
         if (preparation->Changes(exceptions_)) application_.Show(*preparation);
         WriteRemarks(*preparation, exceptions_, errors_);
         is_blocked_ |= !preparation->Compared().Obstacles(exceptions_).empty();
@@ -130,7 +129,7 @@ class Application {
   planning::YearPlanner planner_;
   std::size_t looked_at_ = 0;
   /// Working days by exception that stay where the plan has closed them.
-  std::size_t kept_ = 0;
+  planning::DayTotals kept_;
   /// The currencies whose books do not tell of all years: by these years, and the first of which they tell.
   std::map<std::pair<std::string, int>, std::vector<std::string>> before_books_;
   bool is_blocked_ = false;

@@ -48,7 +48,7 @@ class Import {
     }
     if (changing_.empty()) {
       out_ << Counted(list.sorted.years.size(), "calendar is", "calendars are") << " as in the list"
-           << planning::ButForExceptions(kept_) << ".\n";
+           << planning::ButFor(kept_) << ".\n";
       return ExitStatus::kDone;
     }
     return application_.ApplyIfWanted(changing_);
@@ -61,7 +61,7 @@ class Import {
     const planning::YearPreparation& preparation = *listed.preparation;
     for (const std::string& remark : listed.remarks) errors_ << OneLine(source + ": " + remark) << ".\n";
     other_names_ += listed.other_names;
-    kept_ += planning::KeptExceptions(preparation.Compared(), exceptions_);
+    kept_ += planning::KeptByHand(preparation.Compared(), exceptions_);
     if (preparation.Changes(exceptions_)) application_.Show(preparation);
     WriteRemarks(preparation, exceptions_, errors_);
     is_blocked_ |= !preparation.Compared().Obstacles(exceptions_).empty();
@@ -92,7 +92,7 @@ class Import {
   planning::YearPlanner planner_;
   Preparations changing_;
   std::size_t other_names_ = 0;
-  std::size_t kept_ = 0;
+  planning::DayTotals kept_;
   bool is_blocked_ = false;
 };
 

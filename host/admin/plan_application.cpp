@@ -26,6 +26,16 @@ using planning::CountedExceptions;
 using planning::IsNewWeekend;
 using planning::YearPreparation;
 
+template <typename IsCounted>
+std::size_t CountOf(const Preparations& changing, IsCounted is_counted) {
+  std::size_t count = 0;
+  for (const auto& preparation : changing) {
+    const auto& days = preparation->Compared().Days();
+    count += static_cast<std::size_t>(std::count_if(days.begin(), days.end(), is_counted));
+  }
+  return count;
+}
+
 bool LosesReason(const ComparedDay& day, ExceptionHandling exceptions) {
   return day.action == almanac::PlanAction::kException && day.Changes(exceptions) &&
          !day.now->comment.empty();
@@ -52,9 +62,18 @@ void PlanApplication::Show(const YearPreparation& preparation) const {
 }
 
 ExitStatus PlanApplication::ApplyIfWanted(const Preparations& changing) {
-  if (const std::size_t lost = ReasonsLostBy(changing); lost != 0) {
+  if (const std::size_t lost =
+          CountOf(changing, [&](const ComparedDay& day) { return LosesReason(day, exceptions_); });
+      lost != 0) {
     out_ << CountedExceptions(lost) << (lost == 1 ? " that has" : " that have")
          << " a reason will be closed; --keep-exceptions leaves them open.\n";
+  }
+  if (const std::size_t opened = CountOf(
+          changing, [&](const ComparedDay& day) { return day.IsOutsideBook() && day.Changes(exceptions_); });
+      opened != 0) {
+    out_ << Counted(opened, "closed day", "closed days")
+         << " that the rule book does not have will be opened; --keep-exceptions leaves "
+         << (opened == 1 ? "it" : "them") << " closed.\n";
   }
   if (!IsWanted(changing.size())) return ExitStatus::kNotDone;
   return ApplyAll(changing);
@@ -71,16 +90,6 @@ bool PlanApplication::IsWanted(std::size_t calendars) {
     errors_ << "ferrowindctl: nothing was changed\n";
   }
   return answer.value_or(false);
-}
-
-std::size_t PlanApplication::ReasonsLostBy(const Preparations& changing) const {
-  std::size_t lost = 0;
-  for (const auto& preparation : changing) {
-    const auto& days = preparation->Compared().Days();
-    lost += static_cast<std::size_t>(std::count_if(
-        days.begin(), days.end(), [&](const ComparedDay& day) { return LosesReason(day, exceptions_); }));
-  }
-  return lost;
 }
 
 ExitStatus PlanApplication::ApplyAll(const Preparations& changing) {
@@ -111,10 +120,10 @@ bool PlanApplication::Apply(const YearPreparation& preparation) {
             << " was changed meanwhile; nothing was changed in it, run it again" << std::endl;
     return false;
   }
-  const std::size_t kept = planning::KeptExceptions(preparation.Compared(), exceptions_);
+  const planning::DayTotals kept = planning::KeptByHand(preparation.Compared(), exceptions_);
   out_ << OneLine(preparation.Name());
   if (preparation.CalendarExists()) {
-    out_ << " is as " << as_what_ << " now" << planning::ButForExceptions(kept);
+    out_ << " is as " << as_what_ << " now" << planning::ButFor(kept);
   } else {
     out_ << " is made";
   }

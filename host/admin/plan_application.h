@@ -37,7 +37,6 @@ class PlanApplication {
 
  private:
   [[nodiscard]] bool IsWanted(std::size_t calendars);
-  [[nodiscard]] std::size_t ReasonsLostBy(const Preparations& changing) const;
   /// A signal stops it behind the call that is running.
   [[nodiscard]] ExitStatus ApplyAll(const Preparations& changing);
   /// Tells at once, as the next calendar may fail. False when somebody else has changed the calendar.

@@ -62,7 +62,7 @@ ExitStatus PlanCommand::Run(const platform::EngineRegistry& engines, std::ostrea
       ShowTable(*preparation, is_shown, shows_all, out);
     } else {
       out << OneLine(preparation->Name()) << " is as planned"
-          << planning::ButForExceptions(planning::KeptExceptions(comparison, exceptions)) << ".\n";
+          << planning::ButFor(planning::KeptByHand(comparison, exceptions)) << ".\n";
     }
     if (!preparation->CalendarExists()) {
       errors << OneLine(preparation->Name()) << " does not exist yet, and counts as empty.\n";

@@ -23,8 +23,9 @@ The action says what "apply" does: "add" gives an ordinary working day a rule,
 "replace" gives a day another rule, "remove" makes a day an ordinary working
 day, and "exception" closes a day again that is a working day by exception.
 "keep" is a day that is as planned; --all prints those too that are closed. With
---keep-exceptions, days that are working days by exception count as planned, as
-"apply" with that option leaves them.
+--keep-exceptions, days that are working days by exception count as planned, and
+so do closed days that the book does not have, as "apply" with that option
+leaves them.
 
 Standard error tells which dates the plan lacks because nobody has published
 them yet (days that have such a rule are left alone), and what the database
@@ -47,7 +48,10 @@ year, or several as 2028..2030.
 
 Days that were made working days by exception are closed again where the plan
 says so, those with a reason too; --keep-exceptions leaves them open. How many
-with a reason will be closed is told before anything is changed.
+with a reason will be closed is told before anything is changed. Days that are
+closed by a rule which the book does not have, as a list that was imported may
+have closed them, are opened; --keep-exceptions leaves them closed. How many
+there are is told as well.
 
 Each calendar changes in one call, whole or not at all, and has one entry in the
 history, which "undo" takes back. A calendar that somebody else has changed
@@ -103,7 +107,8 @@ void AddPlan(CommandSet& commands) {
   command.add_option("CCY", plan->currency, kCode)->required();
   command.add_option("YEAR", plan->year, "The calendar's year")->required();
   command.add_flag("--all", plan->shows_all, "Every closed day, not only what differs");
-  command.add_flag("--keep-exceptions", plan->keeps_exceptions, "Take working days by exception for planned");
+  command.add_flag("--keep-exceptions", plan->keeps_exceptions,
+                   "Take days that were made otherwise by hand for planned");
   AddFormat(command, plan->format);
 }
 
@@ -118,7 +123,7 @@ void AddApply(CommandSet& commands) {
   command.add_option("CCY", apply->currency, "The currency's code, or ALL")->required();
   command.add_option("YEAR", apply->years, "A year, or several as 2028..2030")->required();
   command.add_flag("--keep-exceptions", apply->keeps_exceptions,
-                   "Leave working days by exception as they are");
+                   "Leave days as they are that were made otherwise by hand");
   command.add_flag("--yes", apply->is_confirmed, "Do not ask");
 }
 

@@ -59,6 +59,7 @@ platform::CellMark MarkOf(PlanOutcome::Kind kind) {
   switch (kind) {
     case PlanOutcome::Kind::kDone:
       return platform::CellMark::kPrepared;
+    case PlanOutcome::Kind::kDoneInPart:
     case PlanOutcome::Kind::kRefused:
     case PlanOutcome::Kind::kNotTried:
       return platform::CellMark::kWarning;
@@ -359,11 +360,13 @@ void fmYearPlan::TellOthers(const std::vector<PlanOutcome>& outcomes) {
   PlanningWindows::Changed changed;
   for (const PlanOutcome& outcome : outcomes) {
     // A call that failed may have come to its end all the same.
-    const bool may_have_changed =
-        outcome.kind == PlanOutcome::Kind::kDone || outcome.kind == PlanOutcome::Kind::kFailed;
-    if (may_have_changed) changed.push_back(batch_.Calendars()[outcome.calendar].Key());
+    const bool has_changed_nothing =
+        outcome.kind == PlanOutcome::Kind::kRefused || outcome.kind == PlanOutcome::Kind::kNotTried;
+    if (!has_changed_nothing) changed.push_back(batch_.Calendars()[outcome.calendar].Key());
   }
   if (changed.empty()) return;
+  // The rule book may be another as well as the calendar.
+  if (!list_.empty()) changed.clear();
   is_telling_ = true;
   windows_.TellChanged(changed);
   is_telling_ = false;

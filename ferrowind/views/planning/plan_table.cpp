@@ -25,6 +25,8 @@ CellMark MarkOf(const PlanLine& line) {
       return CellMark::kWarning;
     case PlanLine::Kind::kCalendar:
       return CellMark::kNone;
+    case PlanLine::Kind::kBook:
+      return line.is_taken.value_or(false) ? CellMark::kAdded : CellMark::kWarning;
     case PlanLine::Kind::kDay:
       break;
   }
@@ -53,6 +55,7 @@ std::string ActionOf(const PlanLine& line) {
     case PlanLine::Kind::kIncomplete:
       return "incomplete";
     case PlanLine::Kind::kCalendar:
+    case PlanLine::Kind::kBook:
       return "";
     case PlanLine::Kind::kDay:
       return std::string(almanac::TextOf(line.action));
@@ -123,7 +126,9 @@ void PlanTable::AddPlace(const PlanLine& line, CellTone tone, platform::TableRow
   const platform::Locale& locale = platform_.locale;
   const std::string& calendar = batch_.Calendars()[line.calendar].Name();
   if (NamesCalendars()) add(calendar);
-  if (!line.date) {
+  if (line.kind == PlanLine::Kind::kBook) {
+    add(Said(platform_, "Rule book"));
+  } else if (!line.date) {
     add(line.kind == PlanLine::Kind::kCalendar && !NamesCalendars() ? calendar : "");
   } else {
     add(IsOfMany() ? locale.DateText(*line.date) : DateText(locale, *line.date)).order = line.date->Serial();
@@ -165,6 +170,9 @@ std::string PlanTable::CurrentSentence() const {
       std::find_if(lines_.begin(), lines_.end(), [&](const PlanLine& each) { return each.key == current; });
   if (line == lines_.end()) return "";
   const std::string& calendar = batch_.Calendars()[line->calendar].Name();
+  if (line->kind == PlanLine::Kind::kBook) {
+    return Said(platform_, "%1: %2.", {Said(platform_, "Rule book"), line->why});
+  }
   if (!line->date) return Said(platform_, "%1: %2.", {calendar, line->why});
   const std::string day = DayText(platform_.locale, *line->date);
   if (batch_.Calendars().size() == 1) return Said(platform_, "%1: %2.", {day, line->why});
@@ -185,6 +193,8 @@ void PlanTable::TakeDecisions() {
     planning::PlannedCalendar& calendar = batch_.At(line->calendar);
     if (line->kind == PlanLine::Kind::kCalendar) {
       calendar.TakeAll(!*line->is_taken);
+    } else if (line->kind == PlanLine::Kind::kBook) {
+      calendar.TakeBook(!*line->is_taken);
     } else {
       calendar.Take(line->date->DayOfYear(), !*line->is_taken);
     }

@@ -110,6 +110,19 @@ class Apply(small_book.WithSmallBooks):
         self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes")
         self.assertEqual(self.days(EURO, 2028)["2028-12-25"], ("Christmas Day", None))
 
+    def test_tells_of_closed_days_that_the_book_does_not_have_and_leaves_them_alone_if_asked(self):
+        self.apply("EUR", 2028)
+        self.call("CldIUCelebrate", "Name1=Fair", "TID1=4", "D1=2028-03-01", "MY=3", "MD=1")
+        self.assign(EURO, "2028-03-01", "Fair")
+        output, _ = self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes", "--keep-exceptions")
+        self.assertEqual(output, "1 calendar is as planned but for 1 closed day that the rule book does not have.\n")
+        self.assertEqual(self.days(EURO, 2028)["2028-03-01"], ("Fair", None))
+        output, _ = self.ctl(DONE, "apply", self.url(), "EUR", 2028, "--yes")
+        self.assertIn("  remove  Not in the rule book: Fair\n", output)
+        self.assertRegex(output, r"\n1 closed day that the rule book does not have will be opened; --keep-exceptions "
+                                 r"leaves it closed\.\nEUR 2028 is as planned now;")
+        self.assertNotIn("2028-03-01", self.days(EURO, 2028))
+
     def test_shows_the_reasons_of_exceptions_and_counts_them_before_it_closes_them(self):
         self.apply("EUR", 2028)
         self.except_day(EURO, "2028-12-25", "Open, the boss says")

@@ -26,13 +26,14 @@ constexpr const char* kChristmasAndGoodFriday =
 /// A plan, a calendar and their comparison.
 struct Compared {
   explicit Compared(const std::string& book_lines, std::vector<MarkedDay> days,
-                    std::vector<KnownRule> rules = SmallRules(), const DateTables& tables = {})
+                    std::vector<KnownRule> rules = SmallRules(), const DateTables& tables = {},
+                    PlanSource source = PlanSource::kRuleBook)
       : book(BookOf(book_lines)),
         plan(PlanYear(book, kYear, tables)),
         content{kYear, std::move(days)},
         directory(std::move(rules)),
         matches(book, directory),
-        comparison(plan, content, matches) {}
+        comparison(plan, content, matches, source) {}
 
   /// "2028-04-14 add" for each day.
   [[nodiscard]] std::vector<std::string> Actions() const {
@@ -73,6 +74,43 @@ TEST(ComparisonOfAPlan, TellsOfAWorkingDayByExceptionOnAPlannedHoliday) {
   EXPECT_TRUE(day.Changes(ExceptionHandling::kOverwrite));
   EXPECT_FALSE(day.Changes(ExceptionHandling::kKeep));
   EXPECT_TRUE(compared.comparison.Differs());
+}
+
+TEST(ComparisonOfAPlan, TellsOfADayThatIsClosedByARuleWhichTheBookDoesNotHave) {
+  const Compared compared(kChristmasAndGoodFriday,
+                          {Marked("2028-03-01", rule::kFair), Marked("2028-04-13", rule::kGoodFriday)});
+  const ComparedDay& fair = compared.comparison.Days()[0];
+  EXPECT_EQ(fair.action, PlanAction::kRemove);
+  EXPECT_TRUE(fair.IsOutsideBook());
+  EXPECT_TRUE(fair.Changes(ExceptionHandling::kOverwrite));
+  EXPECT_FALSE(fair.Changes(ExceptionHandling::kKeep));
+  EXPECT_THAT(compared.comparison.LineOf(fair).why, Says("Not in the rule book: Fair"));
+  const ComparedDay& shifted = compared.comparison.Days()[1];
+  EXPECT_EQ(shifted.action, PlanAction::kRemove);
+  EXPECT_FALSE(shifted.IsOutsideBook()) << "the book has the rule, and knows where its days are";
+  EXPECT_TRUE(shifted.Changes(ExceptionHandling::kKeep));
+}
+
+TEST(ComparisonOfAPlan, TellsOfADayOutsideTheBookThatTheBookWouldOpenAsAWorkingDay) {
+  const Compared compared(std::string(kChristmasAndGoodFriday) + "working day | Working Day | 2028-03-01 |\n",
+                          {Marked("2028-03-01", rule::kFair)});
+  const ComparedDay& day = compared.comparison.Days()[0];
+  EXPECT_EQ(day.action, PlanAction::kReplace);
+  EXPECT_FALSE(day.Changes(ExceptionHandling::kKeep)) << "open it would be either way";
+  EXPECT_THAT(compared.comparison.LineOf(day).why, Says("Not in the rule book: Fair; 1 March 2028"));
+}
+
+TEST(ComparisonOfAPlan, ClosesADayOutsideTheBookByThePlannedHoliday) {
+  const Compared compared(kChristmasAndGoodFriday, {Marked("2028-12-25", rule::kFair)});
+  EXPECT_TRUE(compared.comparison.Days()[1].Changes(ExceptionHandling::kKeep)) << "closed it is either way";
+}
+
+TEST(ComparisonOfAPlan, RemovesWhatAListDoesNotHave) {
+  const Compared compared(kChristmasAndGoodFriday, {Marked("2028-03-01", rule::kFair)}, SmallRules(), {},
+                          PlanSource::kList);
+  const ComparedDay& fair = compared.comparison.Days()[0];
+  EXPECT_TRUE(fair.Changes(ExceptionHandling::kKeep)) << "a list knows all closed days of its year";
+  EXPECT_THAT(compared.comparison.LineOf(fair).why, Says("Not in the list"));
 }
 
 TEST(ComparisonOfAPlan, KeepsAnExceptionOnADayThatThePlanLeavesOpen) {

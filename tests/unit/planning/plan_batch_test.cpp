@@ -106,6 +106,24 @@ TEST(PlanBatch, KeepsWorkingDaysByExceptionUntilSomebodyTakesThem) {
   });
 }
 
+TEST(PlanBatch, KeepsClosedDaysThatTheRuleBookDoesNotHaveUntilSomebodyTakesThem) {
+  RunInFreshThread([] {
+    BatchWorld world;
+    constexpr int kFair = 61;
+    BatchWorld::Assign(kEuro, "2028-03-01", 4, BatchWorld::AddPoint("Fair", "2028-03-01"));
+    PlanBatch batch(kNoTables, {{kEuro, 2028}});
+    EXPECT_EQ(batch.Totals().kept_outside_book, 1U);
+    EXPECT_THAT(
+        SentencesOf(batch.Apply()),
+        ElementsAre("EUR 2028 is as planned now but for 1 closed day that the rule book does not have."));
+    EXPECT_THAT(BatchWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-03-01 Fair"));
+    batch.At(0).Take(kFair, true);
+    EXPECT_THAT(SentencesOf(batch.Apply()), ElementsAre("EUR 2028 is as planned now."));
+    EXPECT_THAT(BatchWorld::DaysOf("EUR", kEuro, 2028),
+                ElementsAre("2028-04-14 Good Friday", "2028-12-25 Christmas Day"));
+  });
+}
+
 TEST(PlanBatch, AppliesWhatIsLeftWhenARuleStandsInTheWay) {
   RunInFreshThread([] {
     BatchWorld world;
@@ -133,10 +151,11 @@ TEST(PlanBatch, RefusesAPlanThatBecameStaleShowsTheNewOneAndKeepsWhatWasLeftOut)
     EXPECT_THAT(KindsOf(outcomes), ElementsAre(Kind::kRefused, Kind::kDone)) << "the others go on";
     EXPECT_THAT(outcomes.front().sentence, HasSubstr("EUR 2028 was changed meanwhile"));
     EXPECT_THAT(BatchWorld::DaysOf("EUR", kEuro, 2028), ElementsAre("2028-03-01 Fair"));
-    EXPECT_EQ(batch.At(0).Totals().taken, 2U) << "the fair goes, Christmas Day comes";
+    EXPECT_EQ(batch.At(0).Totals().taken, 1U) << "Christmas Day comes, the fair stays";
     EXPECT_EQ(batch.At(0).Totals().left_out, 1U);
     EXPECT_THAT(KindsOf(batch.Apply()), ElementsAre(Kind::kDone));
-    EXPECT_THAT(BatchWorld::DaysOf("EUR", kEuro, 2028), ElementsAre("2028-12-25 Christmas Day"));
+    EXPECT_THAT(BatchWorld::DaysOf("EUR", kEuro, 2028),
+                ElementsAre("2028-03-01 Fair", "2028-12-25 Christmas Day"));
   });
 }
 

@@ -119,7 +119,8 @@ TEST(PlanLines, StandConflictsFirstTheGravestBefore) {
     EXPECT_THAT(LineOf(batch, "978/2028/incomplete/1").why, HasSubstr("Vesak Day"));
     EXPECT_EQ(LineOf(batch, "978/2028/105").is_taken, false);
     EXPECT_THAT(LineOf(batch, "978/2028/105").why, HasSubstr("now open by exception: Stock-taking"));
-    EXPECT_EQ(LineOf(batch, "978/2028/61").is_taken, true);
+    EXPECT_EQ(LineOf(batch, "978/2028/61").is_taken, false);
+    EXPECT_EQ(LineOf(batch, "978/2028/61").why, "Not in the rule book: Fair");
   });
 }
 

@@ -35,6 +35,7 @@ using Texts = std::vector<std::string>;
 constexpr const char* kGoodFriday = "978/2028/105";
 constexpr const char* kLabourDay = "978/2028/122";
 constexpr const char* kChristmas = "978/2028/360";
+constexpr const char* kBook = "978/2028/book";
 /// Labour Day is new, Christmas Day is not listed.
 constexpr const char* kList = "2028-04-14 Good Friday\n2028-05-01 Labour Day\n";
 
@@ -56,6 +57,10 @@ class ImportWorld : public testing::ExchangeWorld {
   [[nodiscard]] Texts Faults() { return RowsOf(Dialog().Part<HeadlessTable>("tblFaults")); }
   [[nodiscard]] HeadlessTable& Lines() { return Form("fmYearPlan").Part<HeadlessTable>("tblPlan"); }
   [[nodiscard]] Texts Told() { return RowsOf(Form("fmYearPlan").Part<HeadlessTable>("tblOutcome")); }
+  [[nodiscard]] static almanac::RuleBook BookOfEuro() { return *planning::LoadBook(kEuro, "EUR", {})->book; }
+  [[nodiscard]] std::string Summary() {
+    return Form("fmYearPlan").Part<headless::HeadlessLabel>("lblSummary").Text();
+  }
   [[nodiscard]] std::size_t Entries() { return world.database->History().size(); }
 
  private:
@@ -78,14 +83,80 @@ TEST(ImportWindow, MakesWayForThePlanOfTheList) {
     world.Preview(kList);
     EXPECT_TRUE(world.Dialog().HasUnloaded());
     EXPECT_EQ(world.Form("fmYearPlan").Caption(), "Import of EUR 2028: list.txt");
-    EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kLabourDay));
+    EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kLabourDay, kBook));
     EXPECT_THAT(world.Lines().Texts(kLabourDay)[3], "Labour Day");
     EXPECT_EQ(world.Lines().Cell(kChristmas, "Action").mark, platform::CellMark::kRemoved);
+    EXPECT_EQ(world.Lines().Cell(kChristmas, "Why").text, "Not in the list");
+    EXPECT_EQ(world.Lines().Cell(kBook, "Date").text, "Rule book");
+    EXPECT_EQ(world.Lines().Cell(kBook, "Why").text, "gets it as a date of its own");
+    EXPECT_TRUE(world.Lines().Checked(kBook));
     EXPECT_THAT(testing::SeenByOperator(world.world.log), IsEmpty());
   });
 }
 
-TEST(ImportWindow, ChangesTheDaysThatAreTakenInOneCallThatCanBeUndone) {
+TEST(ImportWindow, EntersTheDaysInTheRuleBookWhosePlanWouldOpenThemAgain) {
+  RunInFreshThread([] {
+    ImportWorld world;
+    world.Preview(kList);
+    world.Click("fmYearPlan", "cmdApply");
+    EXPECT_THAT(world.Told(),
+                ElementsAre("EUR 2028 is as in the list now. The rule book of EUR has got 1 day. "
+                            "2 days were changed."));
+    EXPECT_EQ(world.BookOfEuro().rules.back().expression, almanac::DateExpression::Parse("2028-05-01"));
+    EXPECT_EQ(world.BookOfEuro().rules.back().name, "Labour Day");
+    EXPECT_THAT(world.Lines().RowKeys(), IsEmpty());
+    EXPECT_TRUE(world.windows.CloseAll());
+
+    world.windows.OpenYearPlan({{kEuro, 2028}});
+    EXPECT_EQ(world.Summary(), "EUR 2028: 1 day.") << "Christmas Day again, and nothing of Labour Day";
+  });
+}
+
+TEST(ImportWindow, LeavesTheRuleBookAloneWhenTheOperatorSaysSo) {
+  RunInFreshThread([] {
+    ImportWorld world;
+    const std::size_t rules = world.BookOfEuro().rules.size();
+    world.Preview(kList);
+    world.Lines().ClickBox(kBook);
+    EXPECT_EQ(world.Lines().Cell(kBook, "Why").text, "stays as it is: a difference on the board");
+    world.Click("fmYearPlan", "cmdApply");
+    EXPECT_THAT(world.Told(), ElementsAre("EUR 2028 is as in the list now. 2 days were changed."));
+    EXPECT_EQ(world.BookOfEuro().rules.size(), rules);
+    EXPECT_TRUE(world.windows.CloseAll());
+
+    world.windows.OpenYearPlan({{kEuro, 2028}});
+    EXPECT_FALSE(world.Lines().Checked(kLabourDay)) << "a plan does not open what a list has closed";
+    EXPECT_EQ(world.Lines().Cell(kLabourDay, "Why").text, "Not in the rule book: Labour Day");
+    world.Click("fmYearPlan", "cmdApply");
+    EXPECT_THAT(ImportWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-05-01 Labour Day"));
+  });
+}
+
+TEST(ImportWindow, OffersTheRuleBookOnlyDaysThatItLeavesOpen) {
+  RunInFreshThread([] {
+    ImportWorld world;
+    world.Preview("2028-04-14 Good Friday\n");
+    EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas));
+    EXPECT_TRUE(world.windows.CloseAll());
+    world.Preview(kList);
+    world.Lines().ClickBox(kLabourDay);
+    EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kLabourDay)) << "a day that stays open";
+  });
+}
+
+TEST(ImportWindow, TellsWhyTheRuleBookDoesNotGetTheDays) {
+  RunInFreshThread([] {
+    ImportWorld world;
+    world.Preview(kList);
+    // As another operator does meanwhile.
+    planning::RemoveBook(kEuro, "EUR", planning::LoadBook(kEuro, "EUR", {})->fingerprint);
+    world.Click("fmYearPlan", "cmdApply");
+    EXPECT_THAT(world.Told(), ElementsAre(HasSubstr("The rule book of EUR does not get the days")));
+    EXPECT_THAT(ImportWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-05-01 Labour Day"));
+  });
+}
+
+TEST(ImportWindow, ChangesTheDaysThatAreTakenInOneStepThatCanBeUndone) {
   RunInFreshThread([] {
     ImportWorld world;
     const Texts before = ImportWorld::DaysOf("EUR", kEuro, 2028);
@@ -93,15 +164,18 @@ TEST(ImportWindow, ChangesTheDaysThatAreTakenInOneCallThatCanBeUndone) {
     world.Preview(kList);
     world.Lines().ClickBox(kChristmas);
     world.Click("fmYearPlan", "cmdApply");
-    EXPECT_EQ(world.Entries(), entries + 1);
+    EXPECT_EQ(world.Entries(), entries + 2) << "the calendar and the rule book";
     EXPECT_THAT(ImportWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-05-01 Labour Day"));
     EXPECT_THAT(ImportWorld::DaysOf("EUR", kEuro, 2028), Contains("2028-12-25 Christmas Day"));
     EXPECT_THAT(
         world.Told(),
-        ElementsAre("EUR 2028 is as in the list now but for 1 day that is left out. 1 day was changed."));
+        ElementsAre("EUR 2028 is as in the list now but for 1 day that is left out. The rule book of EUR has "
+                    "got 1 day. 1 day was changed."));
+    const std::size_t rules = world.BookOfEuro().rules.size();
     world.Click("fmYearPlan", "cmdUndo");
+    EXPECT_EQ(world.BookOfEuro().rules.size(), rules - 1);
     EXPECT_EQ(ImportWorld::DaysOf("EUR", kEuro, 2028), before);
-    EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kLabourDay));
+    EXPECT_THAT(world.Lines().RowKeys(), ElementsAre(kChristmas, kLabourDay, kBook));
   });
 }
 
