@@ -81,9 +81,10 @@ class Exchange(unittest.TestCase):
         self.session.keys('alt+a')
         self.walk.wait_said(plan, 'is as in the list')
         self.assertEqual(self.holidays(), LISTED)
-        self.assertEqual(self.calls(), [*calls, 'CldApplyPlan'])
+        self.assertEqual(self.calls(), [*calls, 'CldApplyPlan', 'CldIUBook'], 'the rule book gets what it leaves open')
         self.session.keys('ctrl+z')
         wait_for(lambda: self.holidays() == before, 'the days as they were')
+        self.assertEqual(self.calls(), [*calls, 'CldApplyPlan', 'CldIUBook', 'CldUndo', 'CldUndo'])
         self.session.keys('Escape')
         self.walk.wait_active(BOARD)
 
