@@ -119,7 +119,7 @@ ExitStatus ConventionListCommand::Run(const platform::EngineRegistry& engines, s
 
 ExitStatus ConventionSetCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   std::map<std::string, std::string> wanted_lines;
-  ChangeCalendars(engines, url, [&] {
+  AdministerInOneTransaction(engines, url, [&] {
     const CurrencyList currencies = CurrencyList::Load();
     const MarketConventions wanted = business_days::ReadMarketConventions(TextOf(lines, currencies));
     wanted_lines = LinesOf(wanted);
@@ -141,7 +141,7 @@ ExitStatus ConventionSetCommand::Run(const platform::EngineRegistry& engines, st
 ExitStatus ConventionRemoveCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   const auto delivered = LinesOf(loading::DeliveredConventions());
   std::string told;
-  ChangeCalendars(engines, url, [&] {
+  AdministerInOneTransaction(engines, url, [&] {
     const CurrencyList currencies = CurrencyList::Load();
     for (const std::string& text : subjects) {
       const Subject subject =

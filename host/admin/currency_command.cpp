@@ -154,7 +154,7 @@ ExitStatus CurrencyAddCommand::Run(const platform::EngineRegistry& engines, std:
   added.code = ReadCode(code);
   added.name = ReadName(name);
   added.is_money = !is_no_money;
-  RunWithCalendars(engines, url, [&] {
+  AdministerCalendars(engines, url, [&] {
     // The procedure would change the currency that has the number.
     const CurrencyList currencies = CurrencyList::Load();
     if (const Currency* const other = currencies.Find(number)) {
@@ -170,7 +170,7 @@ ExitStatus CurrencyRenameCommand::Run(const platform::EngineRegistry& engines, s
   if (!new_name && !new_code) throw Refused("Neither a name nor a code is given that it is to have");
   Currency before;
   Currency after;
-  RunWithCalendars(engines, url, [&] {
+  AdministerCalendars(engines, url, [&] {
     before = CurrencyList::Load().Named(code);
     after = before;
     if (new_name) after.name = ReadName(*new_name);
@@ -187,7 +187,7 @@ ExitStatus CurrencyRetireCommand::Run(const platform::EngineRegistry& engines, s
   Currency retired;
   bool is_past = false;
   bool stays = false;
-  RunWithCalendars(engines, url, [&] {
+  AdministerCalendars(engines, url, [&] {
     retired = CurrencyList::Load().Named(code);
     RequireMoneyOfAnyTime(retired);
     const Date today = AttachedPlatform().clock.Today();
@@ -207,7 +207,7 @@ ExitStatus CurrencyRetireCommand::Run(const platform::EngineRegistry& engines, s
 
 ExitStatus CurrencyRestoreCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
   Currency restored;
-  RunWithCalendars(engines, url, [&] {
+  AdministerCalendars(engines, url, [&] {
     restored = CurrencyList::Load().Named(code);
     RequireMoneyOfAnyTime(restored);
     if (!restored.last_day) throw Refused(Described(restored) + " is money without a last day");

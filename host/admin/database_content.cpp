@@ -1,6 +1,7 @@
 #include "host/admin/database_content.h"
 
 #include "ferrowind/adapters/postgres/database_content.h"
+#include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/engine.h"
 #include "ferrowind/adapters/sqlite/database_content.h"
 #include "ferrowind/adapters/sqlite/engine.h"
@@ -57,6 +58,17 @@ void WithVersionTold(const platform::EngineRegistry& engines, const std::string&
   }
 }
 
+/// Runs `run`, and says that it takes an administrator where it fails for somebody else.
+void WithAdministratorTold(const platform::EngineRegistry& engines, const std::string& url,
+                           const std::function<void()>& run) {
+  try {
+    run();
+  } catch (const platform::Failure& failure) {
+    if (IsOnServer(engines, url) && !postgres::IsOfConnection(failure)) postgres::RequireAdministratorOf(url);
+    throw;
+  }
+}
+
 }  // namespace
 
 void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,
@@ -64,9 +76,14 @@ void RunWithCalendars(const platform::EngineRegistry& engines, const std::string
   WithVersionTold(engines, url, [&] { RunWithDatabase(engines, url, work); });
 }
 
-void ChangeCalendars(const platform::EngineRegistry& engines, const std::string& url,
-                     const std::function<void()>& work) {
-  WithVersionTold(engines, url, [&] {
+void AdministerCalendars(const platform::EngineRegistry& engines, const std::string& url,
+                         const std::function<void()>& work) {
+  WithAdministratorTold(engines, url, [&] { RunWithCalendars(engines, url, work); });
+}
+
+void AdministerInOneTransaction(const platform::EngineRegistry& engines, const std::string& url,
+                                const std::function<void()>& work) {
+  const auto run = [&] {
     const bool is_on_server = IsOnServer(engines, url);
     const auto change = [&](const std::shared_ptr<platform::Engine>& engine) {
       platform::EngineRegistry joined;
@@ -75,7 +92,8 @@ void ChangeCalendars(const platform::EngineRegistry& engines, const std::string&
     };
     if (is_on_server) return postgres::ChangeInOneTransaction(url, change);
     sqlite::ChangeInOneTransaction(sqlite::PathIn(url), change);
-  });
+  };
+  WithAdministratorTold(engines, url, [&] { WithVersionTold(engines, url, run); });
 }
 
 content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines, const std::string& url) {

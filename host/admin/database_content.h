@@ -30,10 +30,15 @@ void FillDatabase(const platform::EngineRegistry& engines, const std::string& ur
 void RunWithCalendars(const platform::EngineRegistry& engines, const std::string& url,
                       const std::function<void()>& work);
 
-/// As `RunWithCalendars`, with all calls of `work` in one transaction: when it throws, nothing is done. Only
-/// when a server is lost while it commits, that is not known, which is a `content::DoubtfulOutcome`.
-void ChangeCalendars(const platform::EngineRegistry& engines, const std::string& url,
-                     const std::function<void()>& work);
+/// As `RunWithCalendars`, for what only an administrator may do: when `work` fails for somebody else, the
+/// failure says that.
+void AdministerCalendars(const platform::EngineRegistry& engines, const std::string& url,
+                         const std::function<void()>& work);
+
+/// As `AdministerCalendars`, with all calls of `work` in one transaction: when it throws, nothing is done.
+/// Only when a server is lost while it commits, that is not known, which is a `content::DoubtfulOutcome`.
+void AdministerInOneTransaction(const platform::EngineRegistry& engines, const std::string& url,
+                                const std::function<void()>& work);
 
 [[nodiscard]] content::DatabaseStatus ReadStatus(const platform::EngineRegistry& engines,
                                                  const std::string& url);

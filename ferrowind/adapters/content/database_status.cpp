@@ -17,13 +17,19 @@ std::int64_t Count(const Value& value) {
 
 }  // namespace
 
+std::optional<std::string> OtherSchemaVersion(const std::string& name, std::int64_t found,
+                                              std::int64_t expected) {
+  if (found == expected) return std::nullopt;
+  return name + " has the schema version " + std::to_string(found) + "; this program's is " +
+         std::to_string(expected) + ". " +
+         (found < expected ? "Bring it there with \"ferrowindctl upgrade\" first"
+                           : "It takes a newer version of this program");
+}
+
 void RequireSchemaVersion(const std::string& name, std::int64_t found, std::int64_t expected) {
-  if (found == expected) return;
-  throw platform::Failure(platform::failure_number::kInvalidArgument,
-                          name + " has the schema version " + std::to_string(found) + "; this program's is " +
-                              std::to_string(expected) + ". " +
-                              (found < expected ? "Bring it there with \"ferrowindctl upgrade\" first"
-                                                : "It takes a newer version of this program"));
+  if (const auto other = OtherSchemaVersion(name, found, expected)) {
+    throw platform::Failure(platform::failure_number::kInvalidArgument, *other);
+  }
 }
 
 void CountContent(const std::function<std::shared_ptr<platform::RecordSet>(const std::string& query)>& ask,

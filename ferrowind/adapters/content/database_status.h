@@ -43,6 +43,11 @@ struct DatabaseStatus {
   std::vector<ConnectionShare> connections;
 };
 
+/// What is to be done about a schema version `found` that is not this program's, `expected`, in a sentence
+/// without a full stop; nothing when it is. `name` is what sentences call the database.
+[[nodiscard]] std::optional<std::string> OtherSchemaVersion(const std::string& name, std::int64_t found,
+                                                            std::int64_t expected);
+
 /// A failure unless the schema version `found` in the database that failures call `name` is this program's.
 void RequireSchemaVersion(const std::string& name, std::int64_t found, std::int64_t expected);
 

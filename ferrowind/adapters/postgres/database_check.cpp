@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "ferrowind/adapters/chain/history_check.h"
+#include "ferrowind/adapters/content/database_status.h"
+#include "ferrowind/adapters/postgres/administrator.h"
 #include "ferrowind/adapters/postgres/catalogue_comparison.h"
 #include "ferrowind/adapters/postgres/content_source.h"
 #include "ferrowind/adapters/postgres/database_objects.h"
@@ -106,12 +108,14 @@ class Check {
         "LOCAL datestyle = 'ISO';"
         "SET LOCAL quote_all_identifiers = off; SET LOCAL statement_timeout = 0");
     RequireCalendarDatabase(connection_);
-    RequireRights();
+    RequireAdministrator(connection_);
     KeepOut(connection_, KeptOut::kChangesOfTables);
     const auto found = Objects();
     const auto expected = DeliveredCatalogue();
     const bool has_plain_tables = HasPlainTables(found, expected);
     if (has_plain_tables) Try([&] { CompareVersion(); });
+    // Of another version everything would be a problem, and the first one says what to do.
+    if (!is_delivered_version_.value_or(true)) return std::move(problems_);
     Add(CatalogueDifferences(found, expected));
     Try([&] {
       Ask(embedded::kPostgresSurroundingFaults, {std::string(embedded::kPostgresServerFunctions)});
@@ -120,7 +124,7 @@ class Check {
     Try([&] { Ask(embedded::kPostgresSettingFaults); });
     if (has_plain_tables) {
       for (const auto* const question : kDataProblems) Try([&] { Ask(question); });
-      if (is_delivered_version_) Try([&] { LookAtHistory(seal); });
+      if (is_delivered_version_.value_or(false)) Try([&] { LookAtHistory(seal); });
     } else {
       problems_.emplace_back("The rows are not looked at as long as something else stands for a table");
     }
@@ -151,25 +155,11 @@ class Check {
     Add(SentencesOf(connection_, question, parameters));
   }
 
-  /// Without them, every question to the rows would be a problem of its own.
-  void RequireRights() {
-    const auto lacking =
-        ReadRecordSet(connection_
-                          .Query("SELECT quote_ident(current_user) FROM pg_roles"
-                                 " WHERE rolname = 'ferrowind_owner' AND NOT pg_has_role(oid, 'USAGE')")
-                          .get());
-    if (lacking->Eof()) return;
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            connection_.DatabaseName() + " is checked by members of ferrowind_owner, and " +
-                                platform::ToText(lacking->Cell(lacking->BookmarkAt(0), 0)) + " is none");
-  }
-
   void CompareVersion() {
-    const std::int64_t found = SchemaVersionOf(connection_);
-    is_delivered_version_ = found == DeliveredVersion();
-    if (is_delivered_version_) return;
-    problems_.push_back("The database has the schema version " + std::to_string(found) +
-                        "; this program's is " + std::to_string(DeliveredVersion()));
+    const auto other =
+        content::OtherSchemaVersion("The database", SchemaVersionOf(connection_), DeliveredVersion());
+    is_delivered_version_ = !other;
+    if (other) problems_.push_back(*other);
   }
 
   void LookAtHistory(const std::optional<chain::Seal>& seal) {
@@ -190,7 +180,8 @@ class Check {
   }
 
   ServerConnection connection_;
-  bool is_delivered_version_ = false;
+  /// Nothing while it cannot be read.
+  std::optional<bool> is_delivered_version_;
   std::vector<std::string> problems_;
 };
 

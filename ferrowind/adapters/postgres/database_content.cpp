@@ -1,5 +1,6 @@
 #include "ferrowind/adapters/postgres/database_content.h"
 
+#include "ferrowind/adapters/postgres/administrator.h"
 #include "ferrowind/adapters/postgres/connection_use.h"
 #include "ferrowind/adapters/postgres/content_source.h"
 #include "ferrowind/adapters/postgres/content_target.h"
@@ -34,9 +35,10 @@ class SnapshotSource : public content::Source {
  public:
   SnapshotSource(const std::string& connection_string, const std::function<bool()>& is_stopped)
       : connection_(connection_string, is_stopped), content_(connection_, "ferrowind") {
+    RequireCalendarDatabase(connection_);
+    RequireAdministrator(connection_);
     connection_.RunScript(kBeginSnapshot);
     KeepOut(connection_, KeptOut::kChangesOfTables);
-    RequireCalendarDatabase(connection_);
     RequireDeliveredVersion(connection_);
   }
 
@@ -63,6 +65,7 @@ void FillUncommitted(ServerConnection& connection, const std::function<void(cont
   if (!IsCalendarDatabase(connection)) {
     return CreateObjects(connection, [&] { Fill(connection, ServerTarget::Kind::kNew, fill); });
   }
+  RequireAdministrator(connection);
   connection.RunScript("BEGIN ISOLATION LEVEL READ COMMITTED");
   RequireDeliveredVersion(connection);
   Fill(connection, ServerTarget::Kind::kExisting, fill);
@@ -100,9 +103,10 @@ void ChangeInOneTransaction(const std::string& connection_string,
 content::DatabaseStatus ReadStatus(const std::string& connection_string) {
   return platform::WithFailuresOnly([&] {
     ServerConnection connection(connection_string);
+    RequireCalendarDatabase(connection);
+    RequireAdministrator(connection);
     connection.RunScript(kBeginSnapshot);
     KeepOut(connection, KeptOut::kChangesOfTables);
-    RequireCalendarDatabase(connection);
     connection.RunScript("SET LOCAL search_path = ferrowind, pg_temp");
     content::DatabaseStatus status;
     status.schema_version = SchemaVersionOf(connection);

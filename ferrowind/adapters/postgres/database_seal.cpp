@@ -2,6 +2,7 @@
 #include <string>
 
 #include "ferrowind/adapters/chain/chain_heads.h"
+#include "ferrowind/adapters/postgres/administrator.h"
 #include "ferrowind/adapters/postgres/content_source.h"
 #include "ferrowind/adapters/postgres/database_content.h"
 #include "ferrowind/adapters/postgres/database_objects.h"
@@ -19,8 +20,9 @@ namespace {
 /// be undone or done: from then on only greater ones come.
 std::int64_t NewestEntry(const std::string& connection_string) {
   ServerConnection connection(connection_string);
-  connection.RunScript("BEGIN ISOLATION LEVEL READ COMMITTED");
   RequireCalendarDatabase(connection);
+  RequireAdministrator(connection);
+  connection.RunScript("BEGIN ISOLATION LEVEL READ COMMITTED");
   RequireDeliveredVersion(connection);
   KeepOut(connection, KeptOut::kChangingCalls);
   const auto newest = ReadRecordSet(

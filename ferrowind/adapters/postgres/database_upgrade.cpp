@@ -3,6 +3,7 @@
 
 #include "ferrowind/adapters/chain/chain_start.h"
 #include "ferrowind/adapters/chain/chained_entries.h"
+#include "ferrowind/adapters/postgres/administrator.h"
 #include "ferrowind/adapters/postgres/content_target.h"
 #include "ferrowind/adapters/postgres/database_objects.h"
 #include "ferrowind/adapters/postgres/delivered_objects.h"
@@ -65,6 +66,7 @@ content::UpgradeOutcome UpgradeDatabase(const std::string& connection_string,
   return platform::WithFailuresOnly([&]() -> content::UpgradeOutcome {
     ServerConnection connection(connection_string, is_stopped);
     RequireCalendarDatabase(connection);
+    RequireAdministrator(connection);
     connection.RunScript("BEGIN ISOLATION LEVEL READ COMMITTED");
     KeepOut(connection, KeptOut::kOtherUpgrades);
     const std::int64_t from = SchemaVersionOf(connection);

@@ -11,6 +11,7 @@
 
 #include "ferrowind/adapters/chain/chain_heads.h"
 #include "ferrowind/adapters/chain/history_check.h"
+#include "ferrowind/adapters/content/database_status.h"
 #include "ferrowind/adapters/sqlite/content_source.h"
 #include "ferrowind/adapters/sqlite/database_content.h"
 #include "ferrowind/adapters/sqlite/database_file.h"
@@ -100,6 +101,11 @@ class Check {
     const StatementLimit limit(database_, kLongestCheck);
     const Transaction transaction(database_, Transaction::Kind::kReading);
     RequireCatalogue(database_);
+    // Of another version everything would be a problem, and the first one says what to do.
+    if (const auto other = content::OtherSchemaVersion("The database", SchemaVersionOf(database_),
+                                                       SchemaVersionOf(delivered_))) {
+      return {*other};
+    }
     Try([&] { problems_ = SchemaDifferences(database_, delivered_); });
     Try([&] { LookAtRows(seal); });
     return std::move(problems_);
@@ -131,16 +137,11 @@ class Check {
     for (const auto question : kDataProblems) Try([&] { AskForProblems(question); });
     for (const auto& table : TableNames(delivered_)) Try([&] { AskForProblems(kMissingParents, table); });
     Try([&] { LookForDamage(); });
-    // Of another version the difference is told; its history may have other columns.
-    if (IsOfThisVersion()) Try([&] { LookAtHistory(seal); });
-  }
-
-  [[nodiscard]] bool IsOfThisVersion() const {
-    return SchemaVersionOf(database_) == SchemaVersionOf(delivered_);
+    Try([&] { LookAtHistory(seal); });
   }
 
   void LookForDamage() {
-    if (IsOfThisVersion() && HasForeignTables(database_, delivered_)) {
+    if (HasForeignTables(database_, delivered_)) {
       problems_.emplace_back(
           "The file is not looked through for damage as long as it holds tables or indexes that are not this "
           "program's");

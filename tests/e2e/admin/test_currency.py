@@ -179,7 +179,7 @@ class CurrenciesOnAServer(CurrencyTests, ferrowindctl.InAFolder):
         for change in (("add", operator, "QQA", "991", "Qumran Crown"), ("rename", operator, "EUR", "New Euro"),
                        ("retire", operator, "DKK", "2029-12-31")):
             _, errors = self.assert_run(NOT_DONE, "currency", *change)
-            self.assertIn("does not permit this", errors)
+            self.assertIn("is administered by members of ferrowind_owner, and operator_of_", errors)
             self.assertNotIn("sesame", errors)
         self.assertEqual(self.currencies(), before)
 

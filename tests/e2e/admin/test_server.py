@@ -138,7 +138,7 @@ class Check(ferrowindctl.InAFolder):
     def test_tells_an_operator_who_may_check(self):
         operator = self.database.login(self, "anna", "sesame", role="ferrowind_operator")
         _, errors = self.assert_run(NOT_DONE, "check", operator)
-        self.assertIn("is checked by members of ferrowind_owner, and anna is none", errors)
+        self.assertIn("is administered by members of ferrowind_owner, and anna is none", errors)
 
     def test_refuses_another_version_of_the_schema(self):
         self.database.ask("UPDATE ferrowind.SchemaVersion SET Version = Version + 1")

@@ -133,7 +133,7 @@ class Status(ferrowindctl.WithADeliveredDatabase):
         self.addCleanup(lambda: server.ask("postgres", "DROP ROLE nobody_in_particular"))
         host = database.uri.split("@")[1]
         _, errors = self.assert_run(NOT_DONE, "status", f"postgresql://nobody_in_particular:sesame@{host}")
-        self.assertIn("does not permit", errors)
+        self.assertIn("is administered by members of ferrowind_owner, and nobody_in_particular is none", errors)
         self.assertNotIn("sesame", errors)
 
 

@@ -52,9 +52,11 @@ class DatabaseCheckTest : public ::testing::Test {
   SqliteDatabase database_;
 };
 
-TEST_F(DatabaseCheckTest, FindsAnotherSchemaVersion) {
-  EXPECT_THAT(ProblemsAfter("PRAGMA user_version = 9"),
-              ElementsAre("The database has the schema version 9; this program's is 8"));
+TEST_F(DatabaseCheckTest, OfAnotherSchemaVersionSaysThatAlone) {
+  EXPECT_THAT(
+      ProblemsAfter("PRAGMA user_version = 9; DELETE FROM ProcedureParameter"),
+      ElementsAre("The database has the schema version 9; this program's is 8. It takes a newer version "
+                  "of this program"));
 }
 
 TEST_F(DatabaseCheckTest, FindsAMissingAndAnotherProcedure) {
