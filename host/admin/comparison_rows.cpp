@@ -1,5 +1,6 @@
 #include "host/admin/comparison_rows.h"
 
+#include <cstddef>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -29,6 +30,24 @@ std::shared_ptr<platform::RecordSet> ComparisonRows(
   }
   return std::make_shared<platform::RecordSet>(
       std::vector<std::string>{"date", "weekday", "now", "should", "action", "why"}, std::move(rows));
+}
+
+std::shared_ptr<platform::RecordSet> JoinedRows(
+    const std::vector<std::pair<std::string, std::shared_ptr<platform::RecordSet>>>& calendars) {
+  const platform::RecordSet& first = *calendars.front().second;
+  std::vector<std::string> fields = {"currency"};
+  for (std::size_t field = 0; field < first.FieldCount(); ++field) fields.push_back(first.FieldName(field));
+  std::vector<std::vector<Value>> joined;
+  for (const auto& [code, rows] : calendars) {
+    for (std::size_t i = 0; i < rows->RowCount(); ++i) {
+      const auto row = rows->BookmarkAt(i);
+      std::vector<Value> values = {Value(code)};
+      for (std::size_t field = 0; field < rows->FieldCount(); ++field)
+        values.push_back(rows->Cell(row, field));
+      joined.push_back(std::move(values));
+    }
+  }
+  return std::make_shared<platform::RecordSet>(std::move(fields), std::move(joined));
 }
 
 void WriteWithWeekends(const platform::RecordSet& rows, std::size_t weekends, std::ostream& out) {

@@ -95,7 +95,8 @@ void AddExport(CommandSet& commands) {
   command.add_option("YEARS", list->years, "A year, or several as 2026-2028")->required();
   command.add_option("--format", list->format, "ics, csv, json or txt")->required()->option_text("FORMAT");
   command.add_flag("--all", list->has_all, "Weekends and working days by exception, too");
-  command.add_option("--output", list->file, "The file to write, instead of standard output")
+  command
+      .add_option("--output", list->file, "The file to write; standard output without it, and when it is -")
       ->option_text("FILE");
 }
 

@@ -43,7 +43,7 @@ ListFormat FormatIn(const std::string& name) {
 }  // namespace
 
 ExitStatus ExportCommand::Run(const platform::EngineRegistry& engines, std::ostream& out) const {
-  const YearRange wanted = ReadYearsOfList(years);
+  const YearRange wanted = ReadYears(years);
   const ListFormat form = FormatIn(format);
   const std::vector<std::string> codes = CodesIn(currencies);
   if (form == ListFormat::kText && codes.size() > 1) {
@@ -65,7 +65,7 @@ ExitStatus ExportCommand::Run(const platform::EngineRegistry& engines, std::ostr
     const exchange::DayList list = planning::ListCalendars(chosen, {wanted.first, wanted.last}, has_all);
     text = exchange::WriteList(list, form, icalendar::ICalendar(), revision);
   });
-  if (file.empty()) {
+  if (file.empty() || file == "-") {
     ForPrograms(out) << text;
   } else {
     exchange::WriteListFile(file, text);

@@ -14,13 +14,13 @@ struct ExportCommand {
   std::string url;
   /// Codes with commas between them, in any letter case.
   std::string currencies;
-  /// As `ReadYearsOfList` reads it.
+  /// As `ReadYears` reads it.
   std::string years;
   /// As list_format.h names it.
   std::string format;
   /// Weekends and working days by exception, too.
   bool has_all = false;
-  /// Empty for the standard output.
+  /// Empty, or "-", for the standard output.
   std::string file;
 
   /// Prints the list to `out` or writes the file, which is replaced as a whole or not at all. A calendar that

@@ -1,10 +1,12 @@
 #include "host/admin/init_command.h"
 
 #include <ostream>
+#include <string>
 
 #include <unistd.h>
 
 #include "ferrowind/adapters/services/system_clock.h"
+#include "ferrowind/almanac/review.h"
 
 #include "host/admin/interruption.h"
 #include "host/admin/progress_line.h"
@@ -28,9 +30,20 @@ void Tell(const Delivery& delivery, std::ostream& out) {
       << ":\n ";
   for (const std::string& currency : delivery.currencies) out << ' ' << currency;
   out << '\n';
-  if (delivery.unknown.empty()) return;
-  out << "What is not announced yet is not in them:\n";
-  for (const std::string& sentence : delivery.unknown) out << "  " << sentence << ".\n";
+  if (!delivery.unknown.empty()) {
+    out << "What is not announced yet is not in them:\n";
+    for (const std::string& sentence : delivery.unknown) out << "  " << sentence << ".\n";
+  }
+}
+
+/// The years that "review" will miss.
+void TellYearsThatAreDue(const Delivery& delivery, const almanac::ReviewHorizon& horizon, std::ostream& out) {
+  if (horizon.last_year <= delivery.last_year) return;
+  const int first = delivery.last_year + 1;
+  const std::string years =
+      std::to_string(first) + (first < horizon.last_year ? ".." + std::to_string(horizon.last_year) : "");
+  out << "Calendars must be there up to " << horizon.last_year << " by now: \"ferrowindctl apply URL ALL "
+      << years << "\" makes the rest.\n";
 }
 
 }  // namespace
@@ -41,6 +54,7 @@ ExitStatus InitCommand::Run(const platform::EngineRegistry& engines, std::ostrea
   RunInterruptibly([&] { delivery = Create(engines, *this); }, errors);
   if (delivery) {
     Tell(*delivery, out);
+    TellYearsThatAreDue(*delivery, almanac::ReviewHorizon::Of(SystemClock().Today(), {}), out);
   } else {
     out << "The database is created, without rule books, rules and calendars.\n";
   }

@@ -17,7 +17,7 @@
 namespace ferrowind::host {
 std::optional<exchange::WantedYears> WantedYearsOf(const ListSource& source) {
   if (source.years.empty()) return std::nullopt;
-  const YearRange years = ReadYearsOfList(source.years);
+  const YearRange years = ReadYears(source.years);
   return exchange::WantedYears{years.first, years.last};
 }
 

@@ -14,7 +14,7 @@ struct ListSource {
   std::string file;
   /// As list_format.h names it; empty for the one that the list seems to have.
   std::string format = {};
-  /// As `ReadYearsOfList` reads it; empty for the only year of the list.
+  /// As `ReadYears` reads it; empty for the only year of the list.
   std::string years = {};
 };
 

@@ -9,8 +9,6 @@
 namespace ferrowind::host {
 namespace {
 
-constexpr std::string_view kBetweenYears = "..";
-
 std::optional<int> YearIn(const std::string& text) {
   constexpr std::size_t kDigits = 4;
   const bool is_year = text.size() == kDigits && std::all_of(text.begin(), text.end(), [](char character) {
@@ -29,21 +27,16 @@ int ReadYear(const std::string& text) {
 }
 
 YearRange ReadYears(const std::string& text) {
-  const auto between = text.find(kBetweenYears);
+  const auto dots = text.find("..");
+  const auto between = dots != std::string::npos ? dots : text.find('-');
+  const std::size_t signs = dots != std::string::npos ? 2 : 1;
   const std::optional<int> first = YearIn(text.substr(0, between));
-  const std::optional<int> last =
-      between == std::string::npos ? first : YearIn(text.substr(between + kBetweenYears.size()));
+  const std::optional<int> last = between == std::string::npos ? first : YearIn(text.substr(between + signs));
   if (!first || !last) {
     throw ArgumentError("\"" + text + "\" is neither a year, as 2028, nor years, as 2028..2030");
   }
   if (*last < *first) throw ArgumentError("The years \"" + text + "\" run backwards");
   return {*first, *last};
-}
-
-YearRange ReadYearsOfList(const std::string& text) {
-  const auto hyphen = text.find('-');
-  if (hyphen == std::string::npos) return ReadYears(text);
-  return ReadYears(text.substr(0, hyphen) + std::string(kBetweenYears) + text.substr(hyphen + 1));
 }
 
 platform::Date ReadDay(const std::string& text) {

@@ -10,13 +10,13 @@
 
 namespace ferrowind::host {
 
-/// `ferrowindctl plan`: where a calendar differs from what it should be.
+/// `ferrowindctl plan`: where calendars differ from what they should be.
 struct PlanCommand {
   std::string url;
-  /// In any letter case.
+  /// Of which calendars, as calendar_choice.h chooses them.
   std::string currency;
-  /// As plan_arguments.h reads it.
-  std::string year;
+  /// As plan_arguments.h reads them.
+  std::string years;
   /// Every closed day, not only those that differ.
   bool shows_all = false;
   /// Exceptions count as planned, as `ApplyCommand` leaves them then.
@@ -24,8 +24,9 @@ struct PlanCommand {
   OutputFormat format = OutputFormat::kTable;
 
   /// Prints the days to `out`, and to `errors` what limits the plan: a calendar that does not exist, dates
-  /// that are not known yet, what the database would refuse. `kNotDone` when anything differs. A year that
-  /// cannot be read is an `ArgumentError`; what cannot be planned or read is a `platform::Failure`.
+  /// that are not known yet, what the database would refuse. `kNotDone` when anything differs. Several
+  /// calendars stand behind each other, for programs in one list with a field `currency` in front. Years that
+  /// cannot be read are an `ArgumentError`; what cannot be planned or read is a `platform::Failure`.
   [[nodiscard]] ExitStatus Run(const platform::EngineRegistry& engines, std::ostream& out,
                                std::ostream& errors) const;
 };

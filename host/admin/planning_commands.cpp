@@ -17,7 +17,8 @@ constexpr const char* kPlanManual =
     R"(Compares a calendar with the plan of its year by the book of its currency, and
 prints the days that differ: what each is now, what it should be, and why. A
 calendar that does not exist counts as empty. Nothing is changed. The status is
-1 when anything differs.
+1 when anything differs. CCY may be ALL, and YEAR several years, as for "apply";
+for programs the calendars are one list then, with the field "currency" in front.
 
 The action says what "apply" does: "add" gives an ordinary working day a rule,
 "replace" gives a day another rule, "remove" makes a day an ordinary working
@@ -44,7 +45,7 @@ constexpr const char* kApplyManual =
 are missing, and changes the days that differ, and nothing else. It shows what
 will change and asks before it does; --yes changes without asking, as a script
 must. CCY is a code, or ALL for every currency that has a book; YEAR is one
-year, or several as 2028..2030.
+year, or several as 2028..2030 or 2028-2030.
 
 Days that were made working days by exception are closed again where the plan
 says so, those with a reason too; --keep-exceptions leaves them open. How many
@@ -104,8 +105,8 @@ void AddPlan(CommandSet& commands) {
                      return plan->Run(surroundings.engines, surroundings.out, surroundings.errors);
                    });
   command.add_option("URL", plan->url, "The database to look into")->required();
-  command.add_option("CCY", plan->currency, kCode)->required();
-  command.add_option("YEAR", plan->year, "The calendar's year")->required();
+  command.add_option("CCY", plan->currency, "The currency's code, or ALL")->required();
+  command.add_option("YEAR", plan->years, "A year, or several as 2028..2030")->required();
   command.add_flag("--all", plan->shows_all, "Every closed day, not only what differs");
   command.add_flag("--keep-exceptions", plan->keeps_exceptions,
                    "Take days that were made otherwise by hand for planned");

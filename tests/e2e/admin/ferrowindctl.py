@@ -22,6 +22,9 @@ DONE, NOT_DONE, RETURNED_NON_ZERO, CALL_FAILED = range(4)
 
 
 def run(*arguments, **options):
+    # Whoever runs the tests by hand is not to be asked.
+    if "input" not in options:
+        options.setdefault("stdin", subprocess.DEVNULL)
     return subprocess.run([PROGRAM, *map(str, arguments)], stdout=options.pop("stdout", subprocess.PIPE),
                           stderr=subprocess.PIPE, timeout=120, **options)
 

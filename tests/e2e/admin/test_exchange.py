@@ -125,6 +125,7 @@ class Exchange(small_book.WithSmallBooks):
         target = self.path("list.csv")
         self.export("csv", "--output", target)
         self.assertEqual(target.read_bytes(), self.export("csv"))
+        self.assertEqual(target.read_bytes(), self.export("csv", "--output", "-"))
         self.assertEqual(sorted(os.listdir(self.folder)), ["a.db", "list.csv"])
         folder = self.path("folder")
         folder.mkdir()

@@ -113,6 +113,13 @@ class Init(ferrowindctl.InAFolder):
                                      f"{year} to deliver\n")
             self.assertEqual(list(self.folder.iterdir()), [])
 
+    def test_says_which_calendars_are_due_beside_its_own(self):
+        for year in (datetime.date.today().year, ferrowindctl.FIRST_YEAR - 2):
+            output, _ = self.assert_run(DONE, "init", self.url(f"{year}.db"), "--year", year)
+            due = [due for due in ferrowindctl.years_to_prepare() if due > year + 1]
+            years = f"{year + 2}..{due[-1]}" if due and year + 2 < due[-1] else f"{year + 2}"
+            self.assertEqual(f'"ferrowindctl apply URL ALL {years}" makes the rest.\n' in output, bool(due), output)
+
     def test_leaves_a_file_of_that_name_as_it_is(self):
         self.path().write_bytes(b"mine")
         _, errors = self.assert_run(NOT_DONE, "init", self.url())

@@ -36,6 +36,20 @@ class Plan(small_book.WithSmallBooks):
         self.assertEqual(self.plan(DONE), ([], ""))
         self.assertEqual(self.ctl(DONE, "plan", self.url(), "EUR", 2028), ("EUR 2028 is as planned.\n", ""))
 
+    def test_looks_at_several_calendars_as_apply_does(self):
+        self.apply("ALL", "2028..2029")
+        self.assertEqual(self.ctl(DONE, "plan", self.url(), "all", "2028-2029")[0],
+                         "".join(f"{currency} {year} is as planned.\n" for currency in ("EUR", "USD") for year in (2028, 2029)))
+        one = json.loads(self.ctl(NOT_DONE, "plan", self.url(), "EUR", 2030, "--format", "json")[0])
+        output, errors = self.ctl(NOT_DONE, "plan", self.url(), "ALL", "2029..2030", "--format", "json")
+        several = json.loads(output)
+        self.assertEqual([{"currency": "EUR"} | day for day in one], [day for day in several if day["currency"] == "EUR"])
+        self.assertEqual(list(several[0]), ["currency", *one[0]])
+        self.assertEqual({(day["currency"], day["date"][:4]) for day in several}, {("EUR", "2030"), ("USD", "2030")})
+        self.assertEqual(errors, "".join(f"{currency} 2030 does not exist yet, and counts as empty.\n" for currency in ("EUR", "USD")))
+        table, _ = self.ctl(NOT_DONE, "plan", self.url(), "EUR", "2029..2030")
+        self.assertTrue(table.startswith("EUR 2029 is as planned.\nEUR 2030:\ndate "), table)
+
     def test_shows_every_closed_day_if_asked(self):
         self.apply("EUR", 2028)
         lines, _ = self.plan(DONE, "--all")
@@ -122,7 +136,7 @@ class Plan(small_book.WithSmallBooks):
 
     def test_refuses_what_cannot_be_planned(self):
         for arguments, reason in [(["SEK", 2028], "SEK has no book"), (["EUX", 2028], "no currency EUX"),
-                                  (["EUR", "28"], "\"28\" is no year"), (["EUR", "1899"], "ferrowindctl: Years can be planned from 1900 to 2199, not 1899\n"),
+                                  (["EUR", "28"], "\"28\" is neither a year"), (["EUR", "1899"], "ferrowindctl: Years can be planned from 1900 to 2199, not 1899\n"),
                                   (["EUR", "2200"], "ferrowindctl: Years can be planned from 1900 to 2199, not 2200\n")]:
             with self.subTest(arguments):
                 output, errors = self.ctl(NOT_DONE, "plan", self.url(), *arguments)
