@@ -19,9 +19,8 @@ const BusinessCalendar* CalendarSet::Find(std::string_view code) const {
 
 const BusinessCalendar& CalendarSet::Of(std::string_view code) const {
   if (const BusinessCalendar* calendar = Find(code)) return *calendar;
-  throw platform::Failure(
-      platform::failure_number::kElementNotFound,
-      code.empty() ? "The code of a currency is missing" : "There is no calendar of " + std::string(code));
+  throw platform::Failure(platform::failure_number::kElementNotFound,
+                          "There is no calendar of " + std::string(code));
 }
 
 JointCalendar CalendarSet::Joint(const std::vector<std::string>& codes) const {

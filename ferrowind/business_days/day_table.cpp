@@ -16,9 +16,6 @@ using std::chrono::January;
 using std::chrono::sys_days;
 using std::chrono::year;
 
-constexpr year kFirstYear{1900};
-constexpr year kLastYear{3000};
-
 sys_days FirstOf(year which) { return which / January / 1; }
 
 platform::Failure Refused(year which, const std::string& why) {
@@ -27,8 +24,7 @@ platform::Failure Refused(year which, const std::string& why) {
 }
 
 void RequireYear(const PreparedYear& prepared) {
-  if (prepared.year < kFirstYear || prepared.year > kLastYear)
-    throw Refused(prepared.year, "is outside 1900 to 3000");
+  (void)CalendarYear(static_cast<int>(prepared.year));
   const auto length = static_cast<std::size_t>(prepared.year.is_leap() ? 366 : 365);
   if (prepared.days.size() != length) {
     throw Refused(prepared.year,

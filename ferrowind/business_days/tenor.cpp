@@ -50,8 +50,9 @@ std::optional<Tenor> PeriodIn(std::string_view text) {
   const char* end = text.data() + text.size() - 1;
   int count = 0;
   const auto [read_to, error] = std::from_chars(text.data(), end, count);
-  if (error != std::errc() || read_to != end || count < 1 || count > period->most) return std::nullopt;
-  return Tenor{period->unit, count};
+  const Tenor tenor{period->unit, count};
+  if (error != std::errc() || read_to != end || !IsTenor(tenor)) return std::nullopt;
+  return tenor;
 }
 
 }  // namespace
@@ -73,6 +74,12 @@ Tenor ReadTenor(std::string_view text) {
       '"' + std::string(text) +
           "\" is no tenor: ON, TN, SPOT, SN, SW, IMM1 to IMM4, or a number of days, weeks, "
           "months or years up to 100 years, as 10D, 2W, 3M, 1Y");
+}
+
+bool IsTenor(const Tenor& tenor) {
+  const auto period = std::ranges::find(kPeriods, tenor.unit, &Period::unit);
+  if (period != kPeriods.end()) return tenor.count >= 1 && tenor.count <= period->most;
+  return std::ranges::find(kWords, tenor, &Word::tenor) != kWords.end();
 }
 
 }  // namespace ferrowind::business_days

@@ -33,7 +33,7 @@ struct FERROWIND_EXPORT Tenor {
   /// 1 with the units that have none.
   int count = 1;
 
-  /// "ON", "SPOT", "1W", "3M", "IMM2".
+  /// "ON", "SPOT", "1W", "3M", "IMM2". Precondition: it is one that `ReadTenor` could have read.
   [[nodiscard]] std::string Text() const;
 
   /// Same unit and count: 12 months and a year are two tenors.
@@ -44,5 +44,8 @@ struct FERROWIND_EXPORT Tenor {
 /// from 1 on with D, W, M or Y up to a hundred years, and "IMM1" to "IMM4", in letters of any case. Anything
 /// else is the failure InvalidArgument, which says what is expected.
 [[nodiscard]] FERROWIND_EXPORT Tenor ReadTenor(std::string_view text);
+
+/// Whether `ReadTenor` could have read it: a unit that there is, and as many of it as are allowed.
+[[nodiscard]] FERROWIND_EXPORT bool IsTenor(const Tenor& tenor);
 
 }  // namespace ferrowind::business_days

@@ -100,6 +100,11 @@ sys_days ValueDates::ImmDate(Day spot, int count) const {
 }
 
 sys_days ValueDates::ValueDate(Day trade_date, const Tenor& tenor, ClosedTradeDate closed) const {
+  if (!IsTenor(tenor)) {
+    throw platform::Failure(
+        platform::failure_number::kInvalidArgument,
+        std::to_string(tenor.count) + " is no count of the tenor's unit, up to 100 years or IMM4");
+  }
   const Day started = Started(trade_date, closed);
   switch (tenor.unit) {
     case Tenor::Unit::kOvernight:

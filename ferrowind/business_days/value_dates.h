@@ -52,7 +52,8 @@ class FERROWIND_EXPORT ValueDates {
   /// The day on which a spot trade of that day settles.
   [[nodiscard]] Day SpotDate(Day trade_date, ClosedTradeDate closed = ClosedTradeDate::kCountsAsNext) const;
 
-  /// The day on which a trade of that tenor settles.
+  /// The day on which a trade of that tenor settles. One that is none (`IsTenor`) is the failure
+  /// InvalidArgument.
   ///
   /// Days and weeks after spot end on the next settlement day, months and years by Modified Following; when
   /// spot is the last settlement day of its month, they end on the last one of theirs (end-end). TN of a pair

@@ -91,7 +91,7 @@ DayLoader::Content DayLoader::Read() const {
                           platform::ToText(rows->Cell(row, code)));
     auto& years = content.years[platform::ToText(rows->Cell(row, code))];
     if (platform::ToInt32(rows->Cell(row, is_prepared)) == 0) continue;
-    years.push_back({std::chrono::year(platform::ToInt32(rows->Cell(row, year))),
+    years.push_back({business_days::CalendarYear(platform::ToInt32(rows->Cell(row, year))),
                      platform::ToText(rows->Cell(row, days))});
     if (names_ == Names::kLeftOut) continue;
     content.names.AddYear(platform::ToText(rows->Cell(row, code)), static_cast<int>(years.back().year),

@@ -39,6 +39,12 @@ std::vector<std::string> WordsIn(const std::string& line) {
   return words;
 }
 
+/// Blanks apart, which stand between words.
+bool IsControl(char character) {
+  const auto code = static_cast<unsigned char>(character);
+  return (code < ' ' && character != '\t' && character != '\r') || code == 0x7f;
+}
+
 std::string TextLine(const DateAnswer& answer) {
   std::string line = answer.text;
   for (std::size_t i = 0; i < answer.passed.size(); ++i) {
@@ -84,6 +90,9 @@ std::string AnswerDateLine(const std::string& line, const loading::LoadedDays& d
   try {
     if (line.size() > kLongestLine) {
       throw std::length_error("a question has " + std::to_string(kLongestLine) + " characters at most");
+    }
+    if (std::ranges::any_of(line, IsControl)) {
+      throw std::invalid_argument("a question has no control characters");
     }
     const DateAnswer answer = AnswerDateQuestion(words, days, answering);
     return is_json ? JsonLineOf(words, answer, answering) : TextLine(answer);

@@ -129,10 +129,15 @@ loading::LoadedDays Given(const ferrowind_bd_year* years, std::size_t count, std
   if (size < sizeof(ferrowind_bd_year)) FailInvalid("size_of_year is too small");
   if (count > 0) (void)Required(years, "years");
   std::map<std::string, std::vector<PreparedYear>> years_of;
+  // As the caller writes them: one currency in two ways is two calendars that nobody could tell apart.
+  std::map<std::string, std::string> written;
   for (std::size_t i = 0; i < count; ++i) {
     const ferrowind_bd_year year = YearAt(years, size, i);
-    years_of[TextOf(year.currency, "currency")].push_back(
-        {std::chrono::year(year.year), TextOf(year.days, "days")});
+    const std::string text = TextOf(year.currency, "currency");
+    const std::string code = business_days::ReadCurrencyCode(text);
+    if (written.try_emplace(code, text).first->second != text)
+      FailInvalid("there are two calendars of " + code);
+    years_of[code].push_back({business_days::CalendarYear(year.year), TextOf(year.days, "days")});
   }
   std::vector<BusinessCalendar> calendars;
   for (auto& [code, prepared] : years_of) calendars.emplace_back(code, std::move(prepared));

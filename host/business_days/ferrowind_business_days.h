@@ -67,7 +67,7 @@ typedef struct ferrowind_bd_pair ferrowind_bd_pair;
 
 /** A prepared year of a currency. */
 typedef struct ferrowind_bd_year {
-  /** The code: "EUR". */
+  /** The code, three letters: "EUR". In small letters it is the same, in all years of the currency. */
   const char* currency;
   /** 365 or 366 characters from 1 January on: '1' closed, '0' open. */
   const char* days;

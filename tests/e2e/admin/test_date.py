@@ -39,7 +39,7 @@ REFUSALS = [
     ("next EUR 2099-01-01", "EUR 2099 is not prepared", NOT_PREPARED),
     ("next QQQ 2026-01-01", "There is no calendar of QQQ", NOT_ANSWERED),
     ("next 999 2026-01-01", "There is no calendar of 999", NOT_ANSWERED),
-    ("is EUR,,USD 2026-01-01", "The code of a currency is missing", NOT_ANSWERED),
+    ("is EUR,,USD 2026-01-01", "\"EUR,,USD\" has a place without a currency's code", NOT_ANSWERED),
     ("next EUR 2026-02-30", "\"2026-02-30\" is no date YYYY-MM-DD", NOT_ANSWERED),
     ("adjust EUR 2026-05-31 Sideways", "\"Sideways\" is no convention", NOT_ANSWERED),
     ("add EUR 2026-05-31 2x", "\"2x\" is no number of days", NOT_ANSWERED),
@@ -117,7 +117,9 @@ class DatesOfAFile(DateTest):
                 self.assertTrue(answer.startswith("error: ") and why in answer, answer)
         for line in ("", "   ", "what EUR", "next EUR", "next EUR 2026-12-24 more", "next " + "E" * 5000, "\x01"):
             self.assertTrue(self.answer(served, line).startswith("error: "), line)
-        self.assertEqual(self.answer(served, "is EUR 2026-12-24"), "open")
+        for line in ("is EUR\0 2026-12-25", "\0", "is\x7f EUR 2026-12-25", "is EUR 2026-12-25 \x1b[2J"):
+            self.assertEqual(self.answer(served, line), "error: a question has no control characters")
+        self.assertEqual(self.answer(served, "is\tEUR 2026-12-24\r"), "open")
         served.stdin.close()
         self.assertEqual(served.wait(timeout=60), DONE)
 

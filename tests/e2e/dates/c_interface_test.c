@@ -154,6 +154,45 @@ static void larger_structures_are_understood(void) {
   ferrowind_bd_release_set(set);
 }
 
+/* Makes a set of two years, and gives back what came of it. */
+static ferrowind_bd_status made_of(ferrowind_bd_year first, ferrowind_bd_year second,
+                                   ferrowind_bd_set** set) {
+  ferrowind_bd_year years[2] = {first, second};
+  return ferrowind_bd_make(years, 2, sizeof years[0], NULL, set);
+}
+
+static void given_years_are_of_currencies_and_of_years_that_there_are(void) {
+  char days[366];
+  ferrowind_bd_set* set = NULL;
+  ferrowind_bd_calendar* calendar = NULL;
+  const char* codes = NULL;
+  fill_2027(days);
+  ferrowind_bd_year dollar = {"USD", days, 2027}, euro = {"eur", days, 2027};
+  const char* const no_codes[] = {"", "EU", "EURO", "E,R"};
+  for (int i = 0; i < 4; ++i) {
+    const ferrowind_bd_year other = {no_codes[i], days, 2027};
+    EXPECT(made_of(dollar, other, &set) == FERROWIND_BD_INVALID_ARGUMENT && set == NULL);
+    EXPECT(strstr(ferrowind_bd_message(), "is no code of a currency") != NULL);
+  }
+  const ferrowind_bd_year capital = {"EUR", days, 2026};
+  EXPECT(made_of(euro, capital, &set) == FERROWIND_BD_INVALID_ARGUMENT && set == NULL);
+  EXPECT(strcmp(ferrowind_bd_message(), "there are two calendars of EUR") == 0);
+  /* A year of C++ has 16 bits. */
+  const ferrowind_bd_year cut = {"EUR", days, 65536 + 2027};
+  EXPECT(made_of(dollar, cut, &set) == FERROWIND_BD_INVALID_ARGUMENT && set == NULL);
+  EXPECT(strcmp(ferrowind_bd_message(), "The year 67563 is outside 1900 to 3000") == 0);
+
+  EXPECT(made_of(dollar, euro, &set) == FERROWIND_BD_OK);
+  EXPECT(ferrowind_bd_currencies(set, &codes) == FERROWIND_BD_OK && strcmp(codes, "EUR,USD") == 0);
+  EXPECT(ferrowind_bd_calendar_of(set, "", &calendar) == FERROWIND_BD_INVALID_ARGUMENT && calendar == NULL);
+  EXPECT(strcmp(ferrowind_bd_message(), "A joint calendar needs at least one currency") == 0);
+  EXPECT(ferrowind_bd_calendar_of(set, "EUR,", &calendar) == FERROWIND_BD_INVALID_ARGUMENT &&
+         calendar == NULL);
+  EXPECT(ferrowind_bd_calendar_of(set, "eur", &calendar) == FERROWIND_BD_OK);
+  ferrowind_bd_release_calendar(calendar);
+  ferrowind_bd_release_set(set);
+}
+
 int main(void) {
   EXPECT(strlen(ferrowind_bd_version()) > 0);
   days_are_counted_from_1970();
@@ -163,5 +202,6 @@ int main(void) {
   closed_days_are_written_as_far_as_there_is_room();
   what_is_missing_is_named();
   larger_structures_are_understood();
+  given_years_are_of_currencies_and_of_years_that_there_are();
   return 0;
 }

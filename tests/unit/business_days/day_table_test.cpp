@@ -29,6 +29,14 @@ TEST(DayTable, RefusesWhatIsNoYear) {
   EXPECT_EQ(RefusalOf({{3001y, std::string(365, '0')}}), "The year 3001 is outside 1900 to 3000");
 }
 
+TEST(CalendarYear, IsNoOtherOneOfANumberThatAYearCannotKeep) {
+  EXPECT_EQ(CalendarYear(2026), 2026y);
+  for (const int number : {65536 + 2026, 2026 - 65536, 1899, 3001}) {
+    EXPECT_EQ(FailureOf([&] { return CalendarYear(number); }),
+              "The year " + std::to_string(number) + " is outside 1900 to 3000");
+  }
+}
+
 TEST(DayTable, KnowsTheFirstAndTheLastDayOfTheSpan) {
   const DayTable table({YearWith(1900), YearWith(3000)});
   EXPECT_EQ(table.At(sys_days(1899y / 12 / 31)), DayState::kNotPrepared);

@@ -26,6 +26,17 @@ TEST(Tenor, IsWrittenAsItIsRead) {
     EXPECT_EQ(ReadTenor(text).Text(), text);
 }
 
+TEST(Tenor, IsNoneThatNobodyCouldRead) {
+  using Unit = Tenor::Unit;
+  for (const char* text : {"ON", "SPOT", "SW", "36525D", "1M", "100Y", "IMM4"})
+    EXPECT_TRUE(IsTenor(ReadTenor(text)));
+  for (const Tenor& tenor : {Tenor{Unit::kImm, 0}, Tenor{Unit::kImm, 5}, Tenor{Unit::kMonths, 786432},
+                             Tenor{Unit::kYears, 357913942}, Tenor{Unit::kDays, 0}, Tenor{Unit::kWeeks, -1},
+                             Tenor{Unit::kSpot, 2}, Tenor{static_cast<Unit>(99), 1}}) {
+    EXPECT_FALSE(IsTenor(tenor)) << static_cast<int>(tenor.unit) << ' ' << tenor.count;
+  }
+}
+
 TEST(Tenor, RefusesNonsenseAndSaysWhatIsExpected) {
   for (const char* text :
        {"", "M", "0M", "-1M", "+1M", "1.5Y", "101Y", "99999999999999M", "3 M", "3MM", "IMM5", "IMM", "NO"}) {

@@ -273,6 +273,15 @@ TEST(ValueDate, OfAYearFromALeapDayIsTheEndOfFebruary) {
   EXPECT_EQ(Value("EURUSD", 2024y / 2 / 27, "4Y"), "2028-02-29");
 }
 
+TEST(ValueDate, IsRefusedForATenorThatIsNone) {
+  const ValueDates dates = DatesOf("EURUSD");
+  for (const Tenor& tenor : {Tenor{Tenor::Unit::kImm, 0}, Tenor{Tenor::Unit::kMonths, 786432},
+                             Tenor{Tenor::Unit::kYears, 357913942}}) {
+    EXPECT_EQ(FailureOf([&] { return dates.ValueDate(2026y / 3 / 9, tenor); }),
+              std::to_string(tenor.count) + " is no count of the tenor's unit, up to 100 years or IMM4");
+  }
+}
+
 TEST(ValueDate, OfAnImmTenorIsTheNextThirdWednesdayAfterSpot) {
   EXPECT_EQ(Value("EURUSD", 2026y / 3 / 9, "IMM1"), "2026-03-18");
   EXPECT_EQ(Value("EURUSD", 2026y / 3 / 9, "IMM2"), "2026-06-17");

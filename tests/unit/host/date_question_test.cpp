@@ -63,7 +63,7 @@ TEST_F(DateQuestionTest, NumbersOfCurrenciesStandForTheirCodes) {
     EXPECT_EQ(Ask({"spot", pair, "2026-01-02"}).text, Ask({"spot", "EURUSD", "2026-01-02"}).text) << pair;
   }
   EXPECT_EQ(Refusal({"is", "EUR,999", "2026-01-06"}), "There is no calendar of 999");
-  EXPECT_EQ(Refusal({"is", "EUR,,USD", "2026-01-06"}), "The code of a currency is missing");
+  EXPECT_EQ(Refusal({"is", "EUR,,USD", "2026-01-06"}), "\"EUR,,USD\" has a place without a currency's code");
 }
 
 TEST_F(DateQuestionTest, ADayIsOpenClosedOrNotPrepared) {
@@ -124,7 +124,8 @@ TEST_F(DateQuestionTest, SaysWhatWasExpected) {
   EXPECT_THAT(Refusal({}), HasSubstr("it is one of is, next"));
   EXPECT_THAT(Refusal({"when"}), HasSubstr("\"when\" is no question"));
   EXPECT_EQ(Refusal({"next", "EUR"}), "expected is \"next CCY[,CCY...] DATE\"");
-  EXPECT_EQ(Refusal({"next", "EUR,", "2026-01-02"}), "The code of a currency is missing");
+  EXPECT_EQ(Refusal({"next", "EUR,", "2026-01-02"}), "\"EUR,\" has a place without a currency's code");
+  EXPECT_EQ(Refusal({"is", "", "2026-01-02"}), "A joint calendar needs at least one currency");
   EXPECT_THAT(Refusal({"add", "EUR", "2026-01-02", "99999999999"}), HasSubstr("is no number of days"));
   EXPECT_THROW((void)Ask({"next", "EUR", "2026-12-31"}), business_days::NotPrepared);
 }
