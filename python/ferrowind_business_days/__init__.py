@@ -16,8 +16,10 @@ import ctypes
 import dataclasses
 import datetime
 import enum
+import operator
 from collections.abc import Mapping
 from types import TracebackType
+from typing import SupportsIndex
 
 from ferrowind_business_days import _library
 from ferrowind_business_days._failures import (
@@ -75,10 +77,11 @@ def _date(day: int) -> datetime.date:
     return datetime.date.fromordinal(day + _EPOCH)
 
 
-def _number(value: int) -> int:
-    if value not in _INT32:
-        raise InvalidArgument(f"{value} is too large a number")
-    return value
+def _number(value: SupportsIndex) -> int:
+    number = operator.index(value)
+    if number not in _INT32:
+        raise InvalidArgument(f"{number} is too large a number")
+    return number
 
 
 def _codes(text: bytes | None) -> list[str]:

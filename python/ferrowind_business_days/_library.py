@@ -56,14 +56,19 @@ _QUESTIONS = {
 
 
 def _places() -> list[str]:
-    """Where the library may be: where the environment says, beside the installed module, where the system looks."""
+    """Where the library may be: where the environment says, beside this file, where the module's installation has it, where the
+    system looks."""
     told = os.environ.get(_VARIABLE)
     if told:
         return [told]
     places = []
+    module = pathlib.Path(__file__).resolve().parent
+    folders = [module]
     # PREFIX/lib/python3/dist-packages/ferrowind_business_days
-    libraries = pathlib.Path(__file__).resolve().parents[3]
-    for folder in (libraries / (sysconfig.get_config_var("MULTIARCH") or ""), libraries):
+    if len(module.parents) > 2:
+        libraries = module.parents[2]
+        folders += [libraries / (sysconfig.get_config_var("MULTIARCH") or ""), libraries]
+    for folder in folders:
         if (folder / _NAME).is_file():
             places.append(str(folder / _NAME))
     return [*places, _NAME]

@@ -2,9 +2,12 @@
 
 import concurrent.futures
 import datetime
+import enum
 import os
 import pathlib
+import shutil
 import subprocess
+import sys
 import tempfile
 import unittest
 
@@ -70,6 +73,23 @@ class Asking(unittest.TestCase):
         self.assertEqual(Calendars.given(years).pair("USDCAD").days_to_spot, 1)
         self.assertEqual(Calendars.given(years, "spot USD/CAD 0\n").pair("USDCAD").days_to_spot, 0)
 
+    def test_a_number_is_whatever_python_takes_for_one(self):
+        class Count(enum.IntEnum):
+            TWO = 2
+
+        calendar = calendars().calendar("EUR")
+        self.assertEqual(calendar.add(day("2026-01-05"), Count.TWO), day("2026-01-07"))
+        for text in (1.0, "1", None):
+            with self.subTest(text), self.assertRaises(TypeError):
+                calendar.add(day("2026-01-05"), text)
+        with self.assertRaises(TypeError):
+            calendar.is_prepared(2026.0)
+
+    def test_codes_are_the_same_in_small_letters(self):
+        made = Calendars.given({"eur": {2026: days_of(2026)}, "USD": {2026: days_of(2026)}})
+        self.assertEqual(made.currencies, ["EUR", "USD"])
+        self.assertEqual(made.calendar("eur").next(day("2026-05-01")), day("2026-05-04"))
+
     def test_many_threads_ask_at_a_time(self):
         calendar = calendars().calendar("EUR")
         with concurrent.futures.ThreadPoolExecutor(4) as pool:
@@ -103,6 +123,12 @@ class Failing(unittest.TestCase):
     def test_days_that_are_no_years_are_refused(self):
         self.assert_fails(business_days.InvalidArgument, "2026", Calendars.given, {"EUR": {2026: "01"}})
 
+    def test_codes_that_are_none_are_refused(self):
+        year = {2026: days_of(2026)}
+        self.assert_fails(business_days.InvalidArgument, "\"EURO\" is no code", Calendars.given, {"EURO": year})
+        self.assert_fails(business_days.InvalidArgument, "two calendars of EUR", Calendars.given, {"EUR": year, "eur": year})
+        self.assert_fails(business_days.InvalidArgument, "at least one currency", calendars().calendar)
+
     def test_a_database_that_is_not_there_is_told(self):
         with tempfile.TemporaryDirectory() as folder:
             with self.assertRaises(business_days.Error) as caught:
@@ -122,6 +148,21 @@ def run_ferrowindctl(*arguments):
     """The program has its own runtime of the sanitizers."""
     environment = {name: value for name, value in os.environ.items() if name != "LD_PRELOAD"}
     subprocess.run([os.environ["FERROWINDCTL"], *arguments], check=True, capture_output=True, timeout=120, env=environment)
+
+
+class Finding(unittest.TestCase):
+
+    def test_the_library_is_found_beside_the_module(self):
+        with tempfile.TemporaryDirectory() as folder:
+            beside = pathlib.Path(folder) / "ferrowind_business_days"
+            shutil.copytree(pathlib.Path(business_days.__file__).parent, beside,
+                            ignore=shutil.ignore_patterns("__pycache__"))
+            (beside / "libferrowind_business_days.so.1").symlink_to(os.environ["FERROWIND_BUSINESS_DAYS_LIBRARY"])
+            environment = {**os.environ, "PYTHONPATH": folder}
+            del environment["FERROWIND_BUSINESS_DAYS_LIBRARY"]
+            run = subprocess.run([sys.executable, "-B", "-c", "import ferrowind_business_days as b; print(b.__version__)"],
+                                 env=environment, capture_output=True, text=True, timeout=120)
+            self.assertEqual((run.returncode, run.stdout), (0, business_days.__version__ + "\n"), run.stderr)
 
 
 class Reloading(unittest.TestCase):
