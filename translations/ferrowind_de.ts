@@ -2208,6 +2208,10 @@
         <translation>Text: %1</translation>
     </message>
     <message>
+        <source>That is undone already (%1, %2).</source>
+        <translation>Das ist schon rückgängig gemacht (%1, %2).</translation>
+    </message>
+    <message>
         <source>The Calendars window is busy.</source>
         <translation>Das Kalenderfenster ist beschäftigt.</translation>
     </message>

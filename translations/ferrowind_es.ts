@@ -2208,6 +2208,10 @@
         <translation>Texto: %1</translation>
     </message>
     <message>
+        <source>That is undone already (%1, %2).</source>
+        <translation>Eso ya está deshecho (%1, %2).</translation>
+    </message>
+    <message>
         <source>The Calendars window is busy.</source>
         <translation>La ventana de calendarios está ocupada.</translation>
     </message>

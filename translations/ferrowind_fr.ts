@@ -2208,6 +2208,10 @@
         <translation>Texte : %1</translation>
     </message>
     <message>
+        <source>That is undone already (%1, %2).</source>
+        <translation>C’est déjà annulé (%1, %2).</translation>
+    </message>
+    <message>
         <source>The Calendars window is busy.</source>
         <translation>La fenêtre des calendriers est occupée.</translation>
     </message>

@@ -2208,6 +2208,10 @@
         <translation>文字：%1</translation>
     </message>
     <message>
+        <source>That is undone already (%1, %2).</source>
+        <translation>それはすでに元に戻されています（%1、%2）。</translation>
+    </message>
+    <message>
         <source>The Calendars window is busy.</source>
         <translation>カレンダーのウィンドウは処理中です。</translation>
     </message>

@@ -6,10 +6,9 @@
 #include "ferrowind/data/action_scope.h"
 #include "ferrowind/data/module_state.h"
 #include "ferrowind/planning/currency_list.h"
-#include "ferrowind/planning/database_call.h"
 #include "ferrowind/planning/history_words.h"
 #include "ferrowind/planning/in_words.h"
-#include "ferrowind/planning/told_write.h"
+#include "ferrowind/planning/told_undo.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::planning {
@@ -25,20 +24,9 @@ bool IsOf(const HistoryEntry& entry, std::span<const CalendarKey> calendars) {
   });
 }
 
-UndoOutcome UndoOne(const HistoryEntry& call, const CurrencyList& currencies) {
-  UndoOutcome outcome;
-  WriteTold(platform::ActionKind::kUndo,
-            {currencies.FindOrNumber(*call.currency).code, call.year.value_or(0)}, [&] {
-              outcome = UndoEntry(call);
-              return outcome.kind == UndoOutcome::Kind::kDone ? return_value::kDone
-                                                              : return_value::kChangedSince;
-            });
-  return outcome;
-}
-
 }  // namespace
 
-std::optional<ActionCalls::Mark> ActionCalls::Newest() {
+std::optional<ActionCalls::Mark> ActionCalls::Begin() {
   try {
     const HistoryPage page = LoadHistory({}, std::nullopt, 1);
     return Mark{page.entries.empty() ? 0 : page.entries.front().id, page.asker};
@@ -47,16 +35,23 @@ std::optional<ActionCalls::Mark> ActionCalls::Newest() {
   }
 }
 
-ActionCalls::ActionCalls(std::span<const CalendarKey> calendars, const Mark& before) {
+ActionCalls ActionCalls::Since(const std::optional<Mark>& before, std::span<const CalendarKey> calendars) {
+  ActionCalls made;
+  if (!before) return made;
   try {
-    HistoryPage page = LoadHistory({.user = before.asker}, std::nullopt, kMostCalls);
+    HistoryPage page = LoadHistory({.user = before->asker}, std::nullopt, kMostCalls);
     std::reverse(page.entries.begin(), page.entries.end());
     for (HistoryEntry& entry : page.entries) {
-      if (entry.id > before.entry && IsOf(entry, calendars)) calls_.push_back(std::move(entry));
+      if (entry.id > before->entry && IsOf(entry, calendars)) made.calls_.push_back(std::move(entry));
     }
   } catch (const platform::Failure&) {
-    calls_.clear();
+    made.calls_.clear();
   }
+  return made;
+}
+
+void ActionCalls::DropUndone(const UndoState& state) {
+  std::erase_if(calls_, [&](const HistoryEntry& call) { return state.IsUndone(call.id); });
 }
 
 bool ActionCalls::Has(std::int32_t entry) const {
@@ -72,7 +67,7 @@ ActionCalls::Outcome ActionCalls::Undo() {
     const HistoryWords words(currencies, FindEntry);
     for (; !calls_.empty(); calls_.pop_back()) {
       outcome.may_have_changed = true;
-      const UndoOutcome undone = UndoOne(calls_.back(), currencies);
+      const UndoOutcome undone = UndoTold(calls_.back(), currencies);
       if (undone.kind == UndoOutcome::Kind::kDone) {
         ++outcome.undone;
       } else {

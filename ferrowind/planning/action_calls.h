@@ -9,6 +9,7 @@
 
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/history_store.h"
+#include "ferrowind/planning/undo_state.h"
 
 namespace ferrowind::planning {
 
@@ -18,14 +19,23 @@ class ActionCalls {
   /// Of nothing.
   ActionCalls() = default;
 
-  /// Makes the calls of an action, and finds them in the history afterwards: what the user of this program
-  /// has changed meanwhile in `calendars` and in the rule books of their currencies. Empty when the history
-  /// cannot be read, which keeps no action from being done. What `act` throws reaches the caller.
+  /// How far the history was before an action, and who asks; nothing when it could not be read.
+  struct Mark {
+    std::int32_t entry = 0;
+    std::string asker;
+  };
+  [[nodiscard]] static std::optional<Mark> Begin();
+  /// The calls of the action that was begun with `before`, as the history has them: what the user of this
+  /// program has changed since in `calendars` and in the rule books of their currencies. Empty when the
+  /// history cannot be read, which keeps no action from being done.
+  [[nodiscard]] static ActionCalls Since(const std::optional<Mark>& before,
+                                         std::span<const CalendarKey> calendars);
+  /// The calls that `act` makes, whose failure reaches the caller.
   template <typename Act>
   [[nodiscard]] static ActionCalls Of(std::span<const CalendarKey> calendars, Act act) {
-    const auto before = Newest();
+    const auto before = Begin();
     act();
-    return before ? ActionCalls(calendars, *before) : ActionCalls();
+    return Since(before, calendars);
   }
 
   [[nodiscard]] bool IsEmpty() const { return calls_.empty(); }
@@ -33,6 +43,10 @@ class ActionCalls {
   [[nodiscard]] std::size_t Count() const { return calls_.size(); }
   /// Whether the call of that entry of the history is one of them.
   [[nodiscard]] bool Has(std::int32_t entry) const;
+  /// The number of the oldest call's entry of the history. Precondition: there is a call.
+  [[nodiscard]] std::int32_t FirstEntry() const { return calls_.front().id; }
+  /// Takes the calls off that `state` knows to be undone.
+  void DropUndone(const UndoState& state);
 
   struct Outcome {
     /// How many of the calls are undone.
@@ -47,16 +61,6 @@ class ActionCalls {
   Outcome Undo();
 
  private:
-  /// The number of an entry of the history, and who asks.
-  struct Mark {
-    std::int32_t entry = 0;
-    std::string asker;
-  };
-
-  ActionCalls(std::span<const CalendarKey> calendars, const Mark& before);
-  /// Nothing when it cannot be read.
-  [[nodiscard]] static std::optional<Mark> Newest();
-
   /// The oldest first.
   std::vector<HistoryEntry> calls_;
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ferrowind/planning/in_words.h"
+#include "ferrowind/planning/told_undo.h"
 
 namespace ferrowind::planning {
 namespace {
@@ -85,9 +86,9 @@ std::string HistoryList::Do(const UndoStep& step) const {
   if (auto known = EntryOf(step.entry)) entry = std::move(*known);
   const std::string calendar = words_.Calendar(entry);
   const std::string sentence = words_.Tell(entry).Sentence();
-  const UndoOutcome outcome =
-      UndoEntry(entry, calendar.empty() ? InWords("Undoing \"%1\"", {sentence})
-                                        : InWords("Undoing in %1: %2", {calendar, sentence}));
+  const UndoOutcome outcome = UndoTold(entry, currencies_,
+                                       calendar.empty() ? InWords("Undoing \"%1\"", {sentence})
+                                                        : InWords("Undoing in %1: %2", {calendar, sentence}));
   return outcome.kind == UndoOutcome::Kind::kDone ? "" : words_.WhyNotUndone(entry, outcome);
 }
 

@@ -131,7 +131,7 @@ UndoOutcome UndoEntry(const HistoryEntry& entry, const std::string& what) {
   if (answer.return_value == return_value::kDone) return {Kind::kDone};
   if (answer.return_value == kNoSuchEntry) return {Kind::kNoSuchEntry};
   LaterChanges later = LoadLaterChanges(entry);
-  return {Kind::kRefused, std::move(later.newest), later.undoer};
+  return {Kind::kRefused, std::move(later.newest), std::move(later.undoer)};
 }
 
 }  // namespace ferrowind::planning

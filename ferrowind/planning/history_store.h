@@ -114,8 +114,8 @@ struct UndoOutcome {
   /// When it was refused, the newest later entry of the same calendar, rule book, rule, currency or
   /// convention, if there is one.
   std::optional<HistoryEntry> later = {};
-  /// When it was refused because it is undone already, the entry that did that.
-  std::optional<std::int32_t> undoer = {};
+  /// When it was refused because it is undone already, the entry that has undone it.
+  std::optional<HistoryEntry> undoer = {};
 };
 
 /// Puts back what the call of the entry changed, as a call of its own; all of it or nothing. A failure says

@@ -295,8 +295,9 @@ std::string HistoryWords::WhyNotUndone(const HistoryEntry& entry, const UndoOutc
     return InWords("The history has no entry %1.", {std::to_string(entry.id)});
   }
   if (outcome.undoer) {
-    return InWords("This is undone already, by the entry %1 of the history.",
-                   {std::to_string(*outcome.undoer)});
+    return InWords(
+        "That is undone already (%1, %2).",
+        {outcome.undoer->user, ExactMomentText(AttachedPlatform().locale, outcome.undoer->moment)});
   }
   const std::string why = InWords(
       "This cannot be undone: a later change is of the same, or the history does not keep what was there "

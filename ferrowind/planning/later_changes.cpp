@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "ferrowind/planning/undo_state.h"
 
@@ -51,6 +52,7 @@ LaterChanges LoadLaterChanges(const HistoryEntry& entry) {
   const Sameness same(entry);
   LaterChanges changes;
   UndoState state;
+  std::vector<HistoryEntry> undoings;
   std::optional<std::int32_t> before;
   for (bool has_older = true; has_older;) {
     const HistoryPage page = LoadHistory({entry.currency, entry.year}, before, kPage);
@@ -62,10 +64,14 @@ LaterChanges LoadLaterChanges(const HistoryEntry& entry) {
         break;
       }
       state.Add(later);
+      if (UndoneEntry(later)) undoings.push_back(later);
       if (!changes.newest && same.Holds(later)) changes.newest = later;
     }
   }
-  changes.undoer = state.UndoerOf(entry.id);
+  const auto undoer = state.UndoerOf(entry.id);
+  const auto found =
+      std::ranges::find_if(undoings, [&](const HistoryEntry& undoing) { return undoing.id == undoer; });
+  if (found != undoings.end()) changes.undoer = *found;
   return changes;
 }
 

@@ -12,7 +12,7 @@ struct LaterChanges {
   /// The newest later call that changed the same calendar, rule book, rule, currency or convention.
   std::optional<HistoryEntry> newest;
   /// The entry in force that has undone it.
-  std::optional<std::int32_t> undoer;
+  std::optional<HistoryEntry> undoer;
 };
 
 /// Of the call of `entry`. Fails as database_call.h says.

@@ -29,10 +29,10 @@ class UndoState {
 
   /// Whether what the entry did was undone, and not done again since.
   [[nodiscard]] bool IsUndone(std::int32_t entry) const { return UndoerOf(entry).has_value(); }
-  /// For an entry whose call is `told`: undo what was done, redo what was undone.
-  [[nodiscard]] UndoStep StepOf(std::int32_t entry, const ToldEntry& told) const;
   /// The entry in force that undid it.
   [[nodiscard]] std::optional<std::int32_t> UndoerOf(std::int32_t entry) const;
+  /// For an entry whose call is `told`: undo what was done, redo what was undone.
+  [[nodiscard]] UndoStep StepOf(std::int32_t entry, const ToldEntry& told) const;
 
  private:
   /// By the entry that was undone, those that did it.

@@ -35,7 +35,7 @@ std::string Described(const HistoryEntry& entry, const HistoryWords& words) {
 std::string WhyItStays(const HistoryEntry& entry, const UndoOutcome& outcome, const HistoryWords& words) {
   const std::string described = "The " + Described(entry, words);
   if (outcome.undoer) {
-    const std::string undoer = std::to_string(*outcome.undoer);
+    const std::string undoer = std::to_string(outcome.undoer->id);
     return described + " is undone already: the entry " + undoer + " has undone it; \"undo\" " + undoer +
            " to have it again";
   }

@@ -1,5 +1,7 @@
 #include "ferrowind/views/planning/assignment_check.h"
 
+#include <utility>
+
 #include "ferrowind/planning/assignment_preview.h"
 #include "ferrowind/platform/values/conversion.h"
 #include "ferrowind/views/planning/fm_assign_preview.h"
@@ -40,7 +42,17 @@ bool AssignmentCheck::BeforeAssign(const std::vector<platform::ChosenRule>& rule
   fmAssignPreview preview(context_.platform, planning::CalendarName(calendar.Owner(), target.year),
                           planning::PreviewAssignment(calendar, chosen, scene_.TargetDay()));
   preview.ShowModal();
+  before_.reset();
+  if (preview.IsConfirmed() && rules.size() > 1) before_ = planning::ActionCalls::Begin();
   return preview.IsConfirmed();
+}
+
+void AssignmentCheck::Closing() {
+  if (!before_) return;
+  const platform::CalendarOnShow& target = scene_.Target();
+  const std::vector<planning::CalendarKey> keys{{target.currency_id, target.year}};
+  context_.windows.Actions().Add(planning::ActionStack::Origin::kAssignment,
+                                 planning::ActionCalls::Since(std::exchange(before_, std::nullopt), keys));
 }
 
 }  // namespace ferrowind

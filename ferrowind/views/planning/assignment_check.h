@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
+#include "ferrowind/planning/action_calls.h"
 #include "ferrowind/platform/additions/window_parts.h"
 #include "ferrowind/views/planning/holidays_addition.h"
 #include "ferrowind/views/planning/planning_context.h"
@@ -16,10 +18,14 @@ class AssignmentCheck : public HolidaysAddition {
       : context_(context), scene_(scene) {}
 
   [[nodiscard]] bool BeforeAssign(const std::vector<platform::ChosenRule>& rules) override;
+  /// Keeps what was assigned, so that all of several rules are undone in one step.
+  void Closing() override;
 
  private:
   PlanningContext context_;
   platform::HolidaysScene& scene_;
+  /// Nothing before several rules are assigned.
+  std::optional<planning::ActionCalls::Mark> before_;
 };
 
 }  // namespace ferrowind

@@ -216,17 +216,23 @@ void fmYearPlanner::ShowYear(int years_later) {
   Show(currencies, overview_->Year() + years_later);
 }
 
-void fmYearPlanner::ReadAnew() { ShowYear(0); }
+void fmYearPlanner::ReadAnew() {
+  ShowYear(0);
+  windows_.Actions().DropUndone();
+  RefreshUndo();
+}
 
 void fmYearPlanner::ReadAnewAfter(const PlanningWindows::Changed& changed) {
   if (has_closed_) return;
+  // Another window may have undone what was done here.
+  windows_.Actions().DropUndone();
   RefreshUndo();
   const auto is_changed = [&](const YearOverview::Calendar& calendar) {
     const planning::CalendarKey key(calendar.currency.id, overview_->Year());
     return changed.empty() || std::find(changed.begin(), changed.end(), key) != changed.end();
   };
   const auto& calendars = overview_->Calendars();
-  if (std::any_of(calendars.begin(), calendars.end(), is_changed)) ReadAnew();
+  if (std::any_of(calendars.begin(), calendars.end(), is_changed)) ShowYear(0);
 }
 
 void fmYearPlanner::RefreshSelection() {
@@ -293,9 +299,20 @@ void fmYearPlanner::CloseDays() {
   Tell(CloseSelectedDays(context_, seen, SelectedDaysOf(seen, view_.Selected())));
 }
 
-void fmYearPlanner::Undo() { Tell(UndoAction(windows_.LastAction())); }
+void fmYearPlanner::Undo() {
+  planning::ActionStack& actions = windows_.Actions();
+  actions.DropUndone();
+  if (auto* const newest = actions.Newest(planning::ActionStack::Origin::kYearPlanner)) {
+    Tell(UndoAction(*newest));
+  } else {
+    RefreshUndo();
+  }
+}
 
-void fmYearPlanner::RefreshUndo() { tools_.SetToolEnabled(kUndo, !windows_.LastAction().IsEmpty()); }
+void fmYearPlanner::RefreshUndo() {
+  const auto* const newest = windows_.Actions().Newest(planning::ActionStack::Origin::kYearPlanner);
+  tools_.SetToolEnabled(kUndo, newest != nullptr);
+}
 
 const YearOverview::Calendar* fmYearPlanner::CurrentCalendar() const {
   const auto current = view_.Current();
@@ -313,7 +330,7 @@ void fmYearPlanner::OpenDayHistory() {
 
 void fmYearPlanner::Tell(const DaysOutcome& outcome) {
   if (has_closed_) return;
-  if (!outcome.calls.IsEmpty()) windows_.LastAction() = outcome.calls;
+  windows_.Actions().Add(planning::ActionStack::Origin::kYearPlanner, outcome.calls);
   RefreshUndo();
   if (outcome.changed) windows_.TellChanged(*outcome.changed);
   if (!outcome.problems.empty()) {

@@ -6,6 +6,7 @@
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
 #include "ferrowind/planning/history_words.h"
+#include "ferrowind/planning/told_undo.h"
 #include "ferrowind/platform/values/failure.h"
 #include "ferrowind/views/planning/currency_on_show.h"
 #include "ferrowind/views/planning/selected_days.h"
@@ -31,6 +32,7 @@ class Teller {
     return planning::LoadOwnLastChange(calendar.currency_id, calendar.year, words_);
   }
   [[nodiscard]] const HistoryWords& Words() const { return words_; }
+  [[nodiscard]] const planning::CurrencyList& Currencies() const { return currencies_; }
 
  private:
   planning::CurrencyList currencies_ = planning::CurrencyList::Load();
@@ -130,14 +132,16 @@ void HistoryTools::Undo() {
     Tell(Said(context_.platform, "There is no change of %1 of yours to undo.", {name}));
     return RefreshUndo();
   }
-  const planning::ActionCalls& action = context_.windows.LastAction();
-  if (action.Count() > 1 && action.Has(own->entry.id)) return UndoTogether(*own, name);
+  planning::ActionStack& actions = context_.windows.Actions();
+  actions.DropUndone();
+  if (auto* const action = actions.JointActionOf(own->entry.id)) return UndoTogether(*action, *own, name);
   const platform::Platform& platform = context_.platform;
   if (!IsWanted(platform, Said(platform, "Undo in %1: %2?", {name, own->told.change}))) return;
   const PlanningWindows::Changed changed{{calendar->currency_id, calendar->year}};
   planning::UndoOutcome outcome;
   try {
-    outcome = planning::UndoEntry(own->entry, Said(platform, "Undoing in %1: %2", {name, own->told.change}));
+    outcome = planning::UndoTold(own->entry, teller.Currencies(),
+                                 Said(platform, "Undoing in %1: %2", {name, own->told.change}));
   } catch (const platform::Failure&) {
     // With its answer lost it may be done all the same.
     context_.windows.TellChanged(changed);
@@ -149,8 +153,8 @@ void HistoryTools::Undo() {
   context_.windows.TellChanged(changed);
 }
 
-void HistoryTools::UndoTogether(const OwnChange& own, const std::string& name) {
-  planning::ActionCalls& action = context_.windows.LastAction();
+void HistoryTools::UndoTogether(planning::ActionCalls& action, const OwnChange& own,
+                                const std::string& name) {
   const auto others = static_cast<std::int64_t>(action.Count()) - 1;
   const platform::Platform& platform = context_.platform;
   if (!IsWanted(platform,

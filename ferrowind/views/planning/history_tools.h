@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "ferrowind/planning/action_calls.h"
 #include "ferrowind/planning/undo_state.h"
 #include "ferrowind/platform/additions/calendars_scene.h"
 #include "ferrowind/platform/additions/window_parts.h"
@@ -32,8 +33,8 @@ class HistoryTools : public CalendarsAddition {
   void OpenHistory();
   void OpenDayHistory();
   void Undo();
-  /// Undoes the action of several calls whose last of this calendar `own` is.
-  void UndoTogether(const planning::OwnChange& own, const std::string& name);
+  /// Undoes the action of several calls, of which `own` is the last one of this calendar.
+  void UndoTogether(planning::ActionCalls& action, const planning::OwnChange& own, const std::string& name);
   /// Shows a text that needs no answer.
   void Tell(const std::string& text) const;
 

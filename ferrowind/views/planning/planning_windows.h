@@ -10,7 +10,7 @@
 
 #include "ferrowind/almanac/date_table.h"
 #include "ferrowind/exchange/icalendar_format.h"
-#include "ferrowind/planning/action_calls.h"
+#include "ferrowind/planning/action_stack.h"
 #include "ferrowind/planning/calendar_store.h"
 #include "ferrowind/planning/currency_list.h"
 #include "ferrowind/planning/history_store.h"
@@ -77,9 +77,9 @@ class PlanningWindows {
   /// For whoever reports on the readiness of the database.
   [[nodiscard]] planning::ReadinessReader& Readiness() { return readiness_; }
 
-  /// What the last action of the year planners has changed, in several calendars and books mostly; empty once
-  /// it is undone. Windows learn by `OnChanged` that it may be another.
-  [[nodiscard]] planning::ActionCalls& LastAction() { return last_action_; }
+  /// What the operator has done in actions that are undone in one step each. Windows learn by `OnChanged`
+  /// that it may have become another.
+  [[nodiscard]] planning::ActionStack& Actions() { return actions_; }
 
   /// To be called by whoever has changed something in the database, once it is done.
   void TellChanged(const Changed& calendars);
@@ -95,7 +95,7 @@ class PlanningWindows {
   const almanac::DateTables& tables_;
   const exchange::ICalendarFormat& calendar_files_;
   planning::ReadinessReader readiness_;
-  planning::ActionCalls last_action_;
+  planning::ActionStack actions_;
   std::map<std::string, std::shared_ptr<PlanningWindow>> windows_;
   platform::Signal<const Changed&> changed_;
 };

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/recording_action_observer.h"
 #include "tests/unit/planning/memory_world.h"
 
 namespace ferrowind::planning {
@@ -146,6 +147,31 @@ TEST(HistoryList, TellsWhyNothingWasUndone) {
         HasSubstr("The newest change of EUR 2028 is \"Excepted Friday 14 April 2028: Audit\" (memory, "));
     EXPECT_THAT(why, HasSubstr("). Undo that first."));
     EXPECT_EQ(list.Do({UndoStep::Kind::kUndo, 4711}), "The history has no entry 4711.");
+  });
+}
+
+TEST(HistoryList, TellsThatAChangeIsUndoneAlreadyAndByWhom) {
+  RunInFreshThread([] {
+    MemoryWorld component;
+    PrepareEuro(component);
+    HistoryList list;
+    list.Show({978, 2028}, false);
+    const UndoStep step = *list.StepOf(*list.Find(4));
+    component.ActAs("anna");
+    ASSERT_EQ(list.Do(step), "");
+    EXPECT_THAT(list.Do(step), ::testing::MatchesRegex("That is undone already .anna, .*"));
+  });
+}
+
+TEST(HistoryList, TellsTheHostThatAChangeIsUndone) {
+  RunInFreshThread([] {
+    testing::RecordingActionObserver observer;
+    MemoryWorld component(&observer);
+    PrepareEuro(component);
+    HistoryList list;
+    list.Show({978, 2028}, false);
+    ASSERT_EQ(list.Do(*list.StepOf(*list.Find(4))), "");
+    EXPECT_THAT(observer.events, ElementsAre("began undo EUR 2028", "write 0", "ended"));
   });
 }
 

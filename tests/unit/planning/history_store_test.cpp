@@ -120,7 +120,7 @@ TEST(HistoryStore, TellsWhichLaterEntryMayStandAgainstUndoing) {
     EXPECT_EQ(outcome.kind, UndoOutcome::Kind::kRefused);
     ASSERT_TRUE(outcome.later);
     EXPECT_EQ(outcome.later->id, 5);
-    EXPECT_EQ(outcome.undoer, std::nullopt);
+    EXPECT_FALSE(outcome.undoer);
     // Of a rule, which is of no calendar, it is found by the rule.
     component.Call("CldIUCelebrate", {{"ID2", 2}, {"Name1", "Rest"}, {"TID1", 2}, {"WD", 1}});
     const auto of_rule = UndoEntry(LoadEntry(1).value().entry);
@@ -130,19 +130,22 @@ TEST(HistoryStore, TellsWhichLaterEntryMayStandAgainstUndoing) {
   });
 }
 
-TEST(HistoryStore, TellsWhichEntryHasUndoneOneAlready) {
+TEST(HistoryStore, TellsWhoHasUndoneAnEntryAlready) {
   RunInFreshThread([] {
     MemoryWorld component;
     component.AddSundayAndGoodFriday();
     component.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}});
     component.AssignGoodFriday();
     const HistoryEntry entry = LoadEntry(4).value().entry;
+    component.ActAs("anna");
     ASSERT_EQ(UndoEntry(entry).kind, UndoOutcome::Kind::kDone);
-    const auto again = UndoEntry(entry);
-    EXPECT_EQ(again.kind, UndoOutcome::Kind::kRefused);
-    EXPECT_EQ(again.undoer, 5);
-    const std::string why = HistoryWords(CurrencyList::Load(), FindEntry).WhyNotUndone(entry, again);
-    EXPECT_EQ(why, "This is undone already, by the entry 5 of the history.");
+    const auto outcome = UndoEntry(entry);
+    EXPECT_EQ(outcome.kind, UndoOutcome::Kind::kRefused);
+    ASSERT_TRUE(outcome.undoer);
+    EXPECT_EQ(outcome.undoer->id, 5);
+    EXPECT_EQ(outcome.undoer->user, "anna");
+    EXPECT_THAT(HistoryWords(CurrencyList::Load(), FindEntry).WhyNotUndone(entry, outcome),
+                ::testing::MatchesRegex("That is undone already .anna, .*"));
   });
 }
 

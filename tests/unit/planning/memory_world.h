@@ -21,7 +21,7 @@ class MemoryWorld {
  public:
   using Arguments = std::initializer_list<std::pair<const char*, platform::Value>>;
 
-  MemoryWorld() {
+  explicit MemoryWorld(platform::ActionObserver* action_observer = nullptr) : world(action_observer) {
     AttachPlatform(platform);
     EnsureDictionaryObject();
     static_cast<void>(SharedServicesObject());

@@ -55,6 +55,49 @@ TEST(AssignmentCheck, ShowsWhatARuleWouldDoAndAssignsItWhenConfirmed) {
   });
 }
 
+/// Assigns two rules to EUR 2028 in one step.
+void AssignTwo(PlannedHolidays& holidays) {
+  ASSERT_TRUE(holidays.Init(kWholeCalendarMode));
+  holidays.world.toolkit.ScriptModal("fmAssignPreview",
+                                     [](HeadlessForm& preview) { Click(preview, "cmdAssign"); });
+  holidays.Show([&] {
+    holidays.Grid().ClickRow(holidays.RowOf("Street fair"));
+    holidays.Grid().ToggleRow(holidays.RowOf("Good Friday"));
+    holidays.Form().Part<HeadlessButton>("cmdAction5").Click();
+  });
+}
+
+TEST(AssignmentCheck, KeepsAnAssignmentOfSeveralRulesToBeUndoneInOneStep) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    const auto before = holidays.RuleOn(Date(2028, 7, 1));
+    AssignTwo(holidays);
+    ASSERT_EQ(holidays.RuleOn(Date(2028, 4, 3)), 5);
+    ASSERT_EQ(holidays.RuleOn(Date(2028, 7, 1)), 6);
+    const auto newest = planning::LoadHistory({}, std::nullopt, 1).entries.front().id;
+    planning::ActionCalls* const action = holidays.windows.Actions().JointActionOf(newest);
+    ASSERT_NE(action, nullptr);
+    EXPECT_EQ(action->Count(), 2U);
+    EXPECT_EQ(holidays.windows.Actions().Newest(planning::ActionStack::Origin::kYearPlanner), nullptr)
+        << "a year planner undoes what was done in year planners";
+    EXPECT_EQ(action->Undo().undone, 2U);
+    EXPECT_EQ(holidays.RuleOn(Date(2028, 4, 3)), std::nullopt);
+    EXPECT_EQ(holidays.RuleOn(Date(2028, 7, 1)), before);
+  });
+}
+
+TEST(AssignmentCheck, AssignsAllTheSameWhenTheHistoryCannotBeRead) {
+  RunInFreshThread([] {
+    PlannedHolidays holidays;
+    holidays.world.database->AddProcedure(
+        "CldGetHistory", {},
+        [](auto&, const auto&) -> platform::CallOutcome { throw platform::Failure(1, "no history"); });
+    AssignTwo(holidays);
+    EXPECT_EQ(holidays.RuleOn(Date(2028, 4, 3)), 5);
+    EXPECT_EQ(holidays.RuleOn(Date(2028, 7, 1)), 6);
+  });
+}
+
 TEST(AssignmentCheck, AssignsNothingAndLeavesTheWindowOpenWhenCancelled) {
   for (const bool by_escape : {false, true}) {
     RunInFreshThread([by_escape] {

@@ -388,9 +388,31 @@ TEST(YearPlannerWindow, OffersNoUndoOnceAnotherWindowHasUndoneIt) {
   RunInFreshThread([] {
     PlannerWorld world;
     CloseTheFifthOfMay(world);
-    static_cast<void>(world.windows.LastAction().Undo());
-    world.windows.TellChanged({});
+    const auto history = planning::LoadHistory({}, std::nullopt, 4);
+    for (const auto& entry : history.entries) {
+      EXPECT_EQ(planning::UndoEntry(entry).kind, planning::UndoOutcome::Kind::kDone);
+    }
+    EXPECT_TRUE(world.Tools().ToolEnabled("ID_Undo")) << "by another program";
+    world.Tools().ClickTool("ID_RefreshYear");
     EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+  });
+}
+
+TEST(YearPlannerWindow, UndoesOneStepAfterTheOtherTheNewestFirst) {
+  RunInFreshThread([] {
+    PlannerWorld world;
+    CloseTheFifthOfMay(world);
+    world.View().ClickDay({kEuroKey, 105});
+    world.Form().PressShortcut("Ctrl+Shift+E");
+    ASSERT_THAT(PlannerWorld::ExceptionsOf("EUR", kEuro), ElementsAre("2028-04-14"));
+    world.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(PlannerWorld::ExceptionsOf("EUR", kEuro), IsEmpty());
+    EXPECT_EQ(RulesInBook(kEuro, "EUR"), 2U);
+    world.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(PlannerWorld::DaysOf("USD", kDollar, 2028), SizeIs(2));
+    EXPECT_EQ(RulesInBook(kEuro, "EUR"), 1U);
+    EXPECT_FALSE(world.Tools().ToolEnabled("ID_Undo"));
+    EXPECT_THAT(world.Reports(), IsEmpty());
   });
 }
 

@@ -24,6 +24,7 @@ using ::testing::HasSubstr;
 using testing::HistoryWorld;
 using ::testing::IsEmpty;
 using testing::RunInFreshThread;
+using Origin = planning::ActionStack::Origin;
 
 /// The Calendars window with the additions, EUR 2028 on show.
 class ToolsWorld : public HistoryWorld {
@@ -165,10 +166,11 @@ TEST(HistoryTools, UndoWhatIsNamedOnceItIsConfirmed) {
 /// What a year planner does in one step: Good Friday is excepted, and Sunday goes to the first of January.
 void ChangeTwiceInOneStep(ToolsWorld& calendars) {
   const std::vector<planning::CalendarKey> keys{{978, 2028}};
-  calendars.windows.LastAction() = planning::ActionCalls::Of(keys, [&] {
-    calendars.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}, {"TID1", 2}, {"ID2", 2}, {"Day1", 2}});
-    calendars.ExceptGoodFriday();
-  });
+  calendars.windows.Actions().Add(
+      Origin::kYearPlanner, planning::ActionCalls::Of(keys, [&] {
+        calendars.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}, {"TID1", 2}, {"ID2", 2}, {"Day1", 2}});
+        calendars.ExceptGoodFriday();
+      }));
   calendars.Refresh();
 }
 
@@ -184,7 +186,7 @@ TEST(HistoryTools, UndoAllThatWasDoneInOneStepOnceThatIsConfirmed) {
     EXPECT_EQ(calendars.EntryCount(), 8U) << "six were there";
     EXPECT_EQ(calendars.StoredName(), "Good Friday");
     EXPECT_EQ(calendars.NameOnShow(), "Good Friday");
-    EXPECT_TRUE(calendars.windows.LastAction().IsEmpty());
+    EXPECT_EQ(calendars.windows.Actions().Newest(Origin::kYearPlanner), nullptr);
   });
 }
 
@@ -195,7 +197,40 @@ TEST(HistoryTools, UndoNothingOfAStepThatIsNotConfirmed) {
     calendars.Answer("cmdCancel");
     calendars.Tools().ClickTool("ID_Undo");
     EXPECT_EQ(calendars.EntryCount(), 6U);
-    EXPECT_EQ(calendars.windows.LastAction().Count(), 2U);
+    EXPECT_EQ(calendars.windows.Actions().Newest(Origin::kYearPlanner)->Count(), 2U);
+  });
+}
+
+TEST(HistoryTools, UndoAStepWholeAlsoBehindAnotherThatWasUndone) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    ChangeTwiceInOneStep(calendars);
+    const std::vector<planning::CalendarKey> keys{{978, 2028}};
+    calendars.windows.Actions().Add(
+        Origin::kYearPlanner, planning::ActionCalls::Of(keys, [&] {
+          calendars.Call("CldIUMain", {{"ID1", 978}, {"Year1", 2028}, {"TID1", 2}, {"ID2", 2}, {"Day1", 9}});
+        }));
+    calendars.Refresh();
+    for (int i = 0; i < 2; ++i) {
+      calendars.Answer("cmdOk");
+      calendars.Tools().ClickTool("ID_Undo");
+    }
+    EXPECT_THAT(calendars.asked, ElementsAre(HasSubstr("9 January 2028?"), HasSubstr("the 1 other change")));
+    EXPECT_EQ(calendars.EntryCount(), 10U) << "seven were there";
+    EXPECT_EQ(calendars.StoredName(), "Good Friday");
+  });
+}
+
+TEST(HistoryTools, UndoTheRestOfAStepOfWhichAPartWasUndoneElsewhere) {
+  RunInFreshThread([] {
+    ToolsWorld calendars;
+    ChangeTwiceInOneStep(calendars);
+    ASSERT_EQ(planning::UndoEntry(planning::LoadEntry(5)->entry).kind, planning::UndoOutcome::Kind::kDone);
+    calendars.Refresh();
+    calendars.Answer("cmdOk");
+    calendars.Tools().ClickTool("ID_Undo");
+    EXPECT_THAT(calendars.asked, ElementsAre("Undo in EUR 2028: Excepted Friday 14 April 2028: Audit?"));
+    EXPECT_EQ(calendars.StoredName(), "Good Friday");
   });
 }
 
