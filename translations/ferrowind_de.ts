@@ -3112,6 +3112,10 @@
         <translation>ist geschlossen; die Ausnahme entfällt</translation>
     </message>
     <message>
+        <source>is closed; the exception goes, which has opened nothing</source>
+        <translation>ist geschlossen; die Ausnahme entfällt, die nichts geöffnet hat</translation>
+    </message>
+    <message>
         <source>it exists already</source>
         <translation>es gibt ihn schon</translation>
     </message>

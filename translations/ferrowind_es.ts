@@ -3112,6 +3112,10 @@
         <translation>está cerrado; la excepción desaparece</translation>
     </message>
     <message>
+        <source>is closed; the exception goes, which has opened nothing</source>
+        <translation>está cerrado; desaparece la excepción, que no abrió nada</translation>
+    </message>
+    <message>
         <source>it exists already</source>
         <translation>ya existe</translation>
     </message>

@@ -3112,6 +3112,10 @@
         <translation>est fermé ; l’exception disparaît</translation>
     </message>
     <message>
+        <source>is closed; the exception goes, which has opened nothing</source>
+        <translation>est fermé ; l’exception disparaît, qui n’a rien ouvert</translation>
+    </message>
+    <message>
         <source>it exists already</source>
         <translation>cela existe déjà</translation>
     </message>

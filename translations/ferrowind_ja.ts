@@ -3112,6 +3112,10 @@
         <translation>休業です。例外はなくなります</translation>
     </message>
     <message>
+        <source>is closed; the exception goes, which has opened nothing</source>
+        <translation>休業です。何も開けていなかった例外はなくなります</translation>
+    </message>
+    <message>
         <source>it exists already</source>
         <translation>すでにあります</translation>
     </message>

@@ -76,7 +76,11 @@ bool HolidayClosing::IsTaken(const std::string& key, bool is_taken_at_first) con
 bool HolidayClosing::IsTaken(const Place& place, std::int16_t day) const {
   const MarkedDay* const marked = MarkOf(place, day);
   if (!place.calendar->exists || (marked != nullptr && marked->IsClosed())) return false;
-  return IsTaken(KeyOf(place, std::to_string(day)), marked == nullptr);
+  return IsTaken(KeyOf(place, std::to_string(day)), marked == nullptr || IsOpenByBook(place, day));
+}
+
+bool HolidayClosing::IsOpenByBook(const Place& place, std::int16_t day) {
+  return place.plan && place.plan->Find(day) == nullptr;
 }
 
 std::vector<std::int16_t> HolidayClosing::TakenDays(const Place& place) const {
@@ -98,7 +102,7 @@ std::vector<std::int16_t> HolidayClosing::DaysForBook(const Place& place) const 
   std::vector<std::int16_t> days;
   if (!place.plan) return days;
   for (const std::int16_t day : TakenDays(place)) {
-    if (place.plan->Find(day) == nullptr) days.push_back(day);
+    if (IsOpenByBook(place, day)) days.push_back(day);
   }
   return days;
 }
@@ -149,7 +153,10 @@ ClosingLine HolidayClosing::LineOf(const Place& place, std::int16_t day) const {
     line.is_warning = marked != nullptr;
     return line;
   }
-  line.becomes = marked != nullptr ? InWords("is closed; the exception goes") : InWords("is closed");
+  line.becomes = marked == nullptr ? InWords("is closed")
+                 : IsOpenByBook(place, day)
+                     ? InWords("is closed; the exception goes, which has opened nothing")
+                     : InWords("is closed; the exception goes");
   line.is_warning = marked != nullptr;
   const almanac::PlannedDay* const planned = place.plan ? place.plan->Find(day) : nullptr;
   if (planned != nullptr && platform::CompareIgnoringCase(place.plan->NameOf(*planned), name_.name) != 0) {

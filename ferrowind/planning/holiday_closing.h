@@ -60,8 +60,9 @@ struct ClosingOutcome {
 /// day of mourning.
 ///
 /// Open days are closed. Working days by exception stay open until somebody takes them: they were opened by a
-/// person. Closed days and calendars that do not exist stay as they are. A rule book gets the days that its
-/// plan leaves open, each as a date of its own, since otherwise plans and the board would know better.
+/// person. One on a day that the rule book leaves open has opened nothing, and is closed as an open day is.
+/// Closed days and calendars that do not exist stay as they are. A rule book gets the days that its plan
+/// leaves open, each as a date of its own, since otherwise plans and the board would know better.
 class HolidayClosing {
  public:
   /// Reads the rules and books of the calling thread's database; fails as database_call.h says. `tables` must
@@ -113,6 +114,8 @@ class HolidayClosing {
   [[nodiscard]] static std::string KeyOf(const Place& place, const std::string& what);
   [[nodiscard]] bool IsTaken(const std::string& key, bool is_taken_at_first) const;
   [[nodiscard]] bool IsTaken(const Place& place, std::int16_t day) const;
+  /// Whether the rule book knows of nothing that an exception there could open.
+  [[nodiscard]] static bool IsOpenByBook(const Place& place, std::int16_t day);
   [[nodiscard]] std::vector<std::int16_t> TakenDays(const Place& place) const;
   /// Of all places.
   [[nodiscard]] std::vector<platform::Date> TakenDates() const;

@@ -118,16 +118,36 @@ TEST(HolidayClosing, JudgesANameByTheDaysThatAreTaken) {
 TEST(HolidayClosing, LeavesAnExceptionOpenUntilSomebodyTakesIt) {
   RunInFreshThread([] {
     ClosingWorld world;
-    ClosingWorld::Except(kDollar, "2028-05-05", "stocktaking");
-    HolidayClosing closing = world.Closing({{1, {kFriday}}});
-    closing.SetName("Mourning");
+    ClosingWorld::Except(kEuro, "2028-05-06", "stocktaking");
+    HolidayClosing closing = world.Closing({{0, {kSaturday}}});
+    closing.SetName("Fair");
     EXPECT_FALSE(closing.CanClose());
-    EXPECT_THAT(Told(closing), ElementsAre("USD 2028 2028-05-05: [ ] Working day by exception: stocktaking "
+    EXPECT_THAT(Told(closing), ElementsAre("EUR 2028 2028-05-06: [ ] Working day by exception: stocktaking "
                                            "stays open (!)"));
-    closing.Take("840/126", true);
-    EXPECT_THAT(Told(closing), Contains("USD 2028 2028-05-05: [x] Working day by exception: stocktaking "
+    closing.Take("978/127", true);
+    EXPECT_THAT(Told(closing), Contains("EUR 2028 2028-05-06: [x] Working day by exception: stocktaking "
                                         "is closed; the exception goes (!)"));
     EXPECT_EQ(closing.Close().days, 1U);
+    EXPECT_THAT(ClosingWorld::DaysOf("EUR", kEuro, 2028), ElementsAre("2028-05-06 Fair"));
+  });
+}
+
+TEST(HolidayClosing, ClosesADayByExceptionThatTheBookLeavesOpenAsAnyOpenDay) {
+  RunInFreshThread([] {
+    ClosingWorld world;
+    ClosingWorld::CreateCalendar(kYen, 2028);
+    ClosingWorld::Except(kDollar, "2028-05-05", "stocktaking");
+    ClosingWorld::Except(kYen, "2028-05-05", "");
+    HolidayClosing closing = world.Closing({{1, {kFriday}}, {2, {kFriday}}});
+    closing.SetName("Mourning");
+    EXPECT_THAT(
+        Told(closing),
+        AllOf(Contains("USD 2028 2028-05-05: [x] Working day by exception: stocktaking is closed; the "
+                       "exception goes, which has opened nothing (!)"),
+              Contains("USD: [x] gets it as a date of its own"),
+              Contains("JPY 2028 2028-05-05: [ ] Working day by exception stays open (!)")))
+        << "nobody knows what an exception has opened where there is no book";
+    EXPECT_EQ(closing.Close().books, 1U);
     EXPECT_THAT(ClosingWorld::DaysOf("USD", kDollar, 2028), ElementsAre("2028-05-05 Mourning"));
   });
 }
