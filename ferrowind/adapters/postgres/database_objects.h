@@ -28,8 +28,8 @@ void CreateDatabaseObjects(const std::string& connection_string,
                            const std::function<void(std::shared_ptr<platform::Engine> engine)>& fill = {},
                            const std::function<bool()>& is_stopped = {});
 
-/// A failure that names the login unless it has the rights of ferrowind_owner, and when the database is none of
-/// calendars.
+/// A failure that names the login unless it has the rights of ferrowind_owner, and when the database is none
+/// of calendars.
 void RequireAdministratorOf(const std::string& connection_string);
 
 /// The problems of the calendar database, each a sentence that says what and where, and for what surrounds
