@@ -21,6 +21,29 @@ namespace {
 constexpr const char* kTitle = "Ferrowind";
 constexpr float kSizeInPixels = 16;
 
+/// A call of a control that runs handlers of the host, which may destroy the control.
+class RunningCall {
+ public:
+  explicit RunningCall(const Calendar& control) : call_{&control, Module().innermost_call} {
+    Module().innermost_call = &call_;
+  }
+  ~RunningCall() { Module().innermost_call = call_.outer; }
+  RunningCall(const RunningCall&) = delete;
+  RunningCall& operator=(const RunningCall&) = delete;
+
+  [[nodiscard]] bool HasControl() const { return call_.control != nullptr; }
+
+ private:
+  ControlCall call_;
+};
+
+/// Has the calls of the control that are running know that it is gone.
+void EndCallsOf(const Calendar& control) {
+  for (ControlCall* call = Module().innermost_call; call != nullptr; call = call->outer) {
+    if (call->control == &control) call->control = nullptr;
+  }
+}
+
 }  // namespace
 
 Calendar::Calendar(const platform::Platform& platform, platform::ControlSite* site)
@@ -40,6 +63,7 @@ Calendar::Calendar(const platform::Platform& platform, platform::ControlSite* si
 Calendar::~Calendar() {
   RunHandler(platform_, [this] { ForceClosing(); });
   DetachPlatform(platform_);
+  EndCallsOf(*this);
   --Module().controls;
 }
 
@@ -60,14 +84,16 @@ bool Calendar::ForceClosing() {
   // Held here, because the window reports its closing, and the control then drops its reference, while this
   // call runs.
   const auto window = frmCalendar_;
+  const RunningCall call(*this);
   if (!window->ForceClosing()) return false;
-  if (frmCalendar_ == window) frmCalendar_OnClosing();
+  if (call.HasControl() && frmCalendar_ == window) frmCalendar_OnClosing();
   return true;
 }
 
 void Calendar::Show() {
+  const RunningCall call(*this);
   RunHandler(platform_, [this] { OpenWindow(); });
-  if (!frmCalendar_) RunHandler(platform_, [this] { TellThatNothingCanBeTold(); });
+  if (call.HasControl() && !frmCalendar_) RunHandler(platform_, [this] { TellThatNothingCanBeTold(); });
 }
 
 void Calendar::OpenWindow() {
@@ -76,11 +102,12 @@ void Calendar::OpenWindow() {
   const auto window = CreateCalendarsWindow();
   const auto headers = Headers();
   const auto holiday_headers = HolidayHeaders();
+  const RunningCall call(*this);
   frmCalendar_ = window;
   window_closing_ = window->OnClosing([this] { frmCalendar_OnClosing(); });
   // A window that is not ready is not shown, and the reference stays until the window reports its closing, by
   // intention.
-  if (window->Init(headers, holiday_headers)) window->Show();
+  if (window->Init(headers, holiday_headers) && call.HasControl()) window->Show();
 }
 
 void Calendar::frmCalendar_OnClosing() {

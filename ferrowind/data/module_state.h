@@ -18,6 +18,14 @@ struct FailureRecord {
   std::string description;
 };
 
+/// A call of a control that is running. What it runs may destroy the control.
+struct ControlCall {
+  /// Null once the control is destroyed.
+  const void* control;
+  /// The call in which this one runs; null for the outermost.
+  ControlCall* outer;
+};
+
 /// What the component keeps for each thread that it runs on. A new thread starts with a fresh state.
 struct ModuleState {
   /// The surroundings that `AttachPlatform` gave; null before that.
@@ -26,6 +34,8 @@ struct ModuleState {
   const platform::Platform* entered = nullptr;
   /// How many controls the thread has.
   std::int32_t controls = 0;
+  /// Null while no call is running that asks whether its control still lives.
+  ControlCall* innermost_call = nullptr;
   /// Created by the control; null when that failed. Released only when the host asks for it.
   std::shared_ptr<platform::Dictionary> dictionary;
   /// Created on first use by `SharedServicesObject`. Released only when the host asks for it.

@@ -1,5 +1,6 @@
 #include "ferrowind/control/calendar.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -12,6 +13,7 @@
 #include "ferrowind/adapters/headless/headless_button.h"
 #include "ferrowind/adapters/headless/headless_form.h"
 #include "ferrowind/adapters/headless/headless_label.h"
+#include "ferrowind/adapters/headless/headless_shared_services.h"
 #include "ferrowind/adapters/headless/world.h"
 #include "ferrowind/data/module_state.h"
 
@@ -342,6 +344,102 @@ TEST(Calendar, AFailedStartOfTheRealWindowLeavesTheControlReadyForTheNextShow) {
     EXPECT_EQ(calendar.Headers(), headers);
     calendar.Show();
     EXPECT_EQ(control.world.toolkit.CountOfForms("fmCalendar"), 2u);
+  });
+}
+
+// A host that destroys the control from a handler
+// -------------------------------------------------------------------------------------------------------
+
+TEST(Calendar, IsDestroyedByAHandlerWhileItsWindowStarts) {
+  for (const bool is_ready : {true, false}) {
+    RunInFreshThread([is_ready] {
+      ControlWorld control;
+      auto calendar = std::make_unique<CalendarOfFakeWindows>(control.platform);
+      std::shared_ptr<FakeWindow> window;
+      calendar->prepare = [&](FakeWindow& made) {
+        window = calendar->windows[0].lock();
+        made.is_ready = is_ready;
+        made.on_init = [&] { calendar.reset(); };
+      };
+      calendar->Show();
+      EXPECT_EQ(window->force_closing_count, 1);
+      EXPECT_EQ(window->show_count, 0);
+      EXPECT_EQ(window.use_count(), 1);
+    });
+  }
+}
+
+TEST(Calendar, IsDestroyedByAHandlerWhileItsWindowCloses) {
+  for (const bool agrees : {true, false}) {
+    RunInFreshThread([agrees] {
+      ControlWorld control;
+      auto calendar = std::make_unique<CalendarOfFakeWindows>(control.platform);
+      std::shared_ptr<FakeWindow> window;
+      calendar->prepare = [&](FakeWindow& made) {
+        window = calendar->windows[0].lock();
+        made.agrees_to_close = agrees;
+        made.on_force_closing = [&] { calendar.reset(); };
+      };
+      calendar->Show();
+      EXPECT_EQ(calendar->ForceClosing(), agrees);
+      EXPECT_EQ(calendar, nullptr);
+      EXPECT_EQ(window.use_count(), 1);
+    });
+  }
+}
+
+/// A host whose services are the end of the control.
+class EndingServices : public headless::HeadlessSharedServices {
+ public:
+  EndingServices(headless::CallLog& log, std::function<void()> end)
+      : HeadlessSharedServices(log), end_(std::move(end)) {}
+  void WriteSetting(const std::string& section, const std::string& name, const Value& value) override {
+    HeadlessSharedServices::WriteSetting(section, name, value);
+    end_();
+  }
+  std::int32_t ShowMessage(const std::string& text, std::int32_t style, std::int32_t buttons,
+                           std::int32_t default_button, platform::Form* owner, const std::string& title,
+                           bool modal, bool on_top) override {
+    const auto answer = HeadlessSharedServices::ShowMessage(text, style, buttons, default_button, owner,
+                                                            title, modal, on_top);
+    end_();
+    return answer;
+  }
+
+ private:
+  std::function<void()> end_;
+};
+
+TEST(Calendar, IsDestroyedWhileItsRealWindowStoresItsPlace) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    std::unique_ptr<Calendar> calendar;
+    const auto services =
+        std::make_shared<EndingServices>(control.world.log, [&calendar] { calendar.reset(); });
+    control.world.objects.Register(platform::kSharedServicesIdentifier, [services] { return services; });
+    calendar = std::make_unique<Calendar>(control.platform);
+    calendar->Show();
+    const auto window = control.Window().shared_from_this();
+    ASSERT_TRUE(window->IsShown());
+    EXPECT_TRUE(calendar->ForceClosing());
+    EXPECT_EQ(calendar, nullptr);
+    EXPECT_TRUE(window->HasUnloaded());
+  });
+}
+
+TEST(Calendar, IsDestroyedWhileItTellsThatItsRealWindowCannotBeOpened) {
+  RunInFreshThread([] {
+    ControlWorld control;
+    control.world.commands.Forget("CldAllInfo");
+    std::unique_ptr<Calendar> calendar;
+    const auto services =
+        std::make_shared<EndingServices>(control.world.log, [&calendar] { calendar.reset(); });
+    control.world.objects.Register(platform::kSharedServicesIdentifier, [services] { return services; });
+    calendar = std::make_unique<Calendar>(control.platform);
+    calendar->Show();
+    EXPECT_EQ(calendar, nullptr);
+    EXPECT_EQ(services->Messages().size(), 1u);
+    EXPECT_FALSE(control.world.log.Contains("fmCalendar.Show()"));
   });
 }
 

@@ -74,7 +74,10 @@ void CalendarWidget::ShowInFront() {
     qWarning("%s", kNoPlatform);
     return;
   }
+  // A host may destroy the widget from what it is told meanwhile.
+  const QPointer<CalendarWidget> self(this);
   calendar_->Show();
+  if (!self) return;
   QWidget* window = calendar_->Window();
   if (window == nullptr || !window->isVisible()) return;
   window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
