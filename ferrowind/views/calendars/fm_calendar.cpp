@@ -171,10 +171,23 @@ std::optional<std::int32_t> fmCalendar::Start(std::shared_ptr<GridFields> header
   if (gexCalendar_.FormatCount() == 0) AddHolidayTypeFormats(gexCalendar_);
   day_commands_.SetHolidayHeaders(std::move(holiday_headers));
   extension_.AddColumns();
-  SharedServicesObject().LoadGridLayout(gexCalendar_, kLayoutSection);
+  LoadLayout();
   host_columns_.Follow(*headers);
   extension_.Started();
   return std::nullopt;
+}
+
+void fmCalendar::LoadLayout() {
+  try {
+    SharedServicesObject().LoadGridLayout(gexCalendar_, kLayoutSection);
+  } catch (...) {
+    // As the place of the window: what cannot be read is as if it had never been stored.
+    TraceFailureBeingHandled();
+  }
+}
+
+void fmCalendar::SaveLayout() {
+  host_columns_.SaveLayout([this] { SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection); });
 }
 
 void fmCalendar::FailStart(std::int32_t error_index) {
@@ -219,7 +232,13 @@ void fmCalendar::Form_QueryUnload() {
   has_closed_ = true;
   closing_.Emit();
   extension_.Closing();
-  host_columns_.SaveLayout([this] { SharedServicesObject().SaveGridLayout(gexCalendar_, kLayoutSection); });
+  try {
+    SaveLayout();
+  } catch (...) {
+    // The operator is told once, of what failed first.
+    IgnoringFailure([this] { placement_.Save(*form_); });
+    throw;
+  }
   placement_.Save(*form_);
   platform_.toolkit.ProcessPendingEvents();
 }

@@ -54,6 +54,8 @@ class fmCalendar : public CalendarsWindow, public std::enable_shared_from_this<f
   std::optional<std::int32_t> Start(std::shared_ptr<GridFields> headers,
                                     std::shared_ptr<GridFields> holiday_headers);
   void FailStart(std::int32_t error_index);
+  void LoadLayout();
+  void SaveLayout();
   void RefreshAll(std::int32_t currency_id, std::int32_t year, const std::string& key);
   void Refresh();
   void Choose(std::int32_t currency_id, std::int32_t year);

@@ -39,12 +39,15 @@ void HostColumns::SaveLayout(const std::function<void()>& save) const {
   for (const auto& [index, followed] : followed_) {
     if (!followed.is_visible && !followed.column.Visible()) hidden.push_back(&followed.column);
   }
-  const auto set_visible = [&](bool visible) {
-    for (platform::GridColumn* column : hidden) column->SetVisible(visible);
+  struct HiddenAgain {
+    ~HiddenAgain() {
+      for (platform::GridColumn* column : columns) IgnoringFailure([&] { column->SetVisible(false); });
+    }
+    const std::vector<platform::GridColumn*>& columns;
   };
-  set_visible(true);
+  const HiddenAgain hidden_again{hidden};
+  for (platform::GridColumn* column : hidden) column->SetVisible(true);
   save();
-  set_visible(false);
 }
 
 void HostColumns::ComputeCell(platform::RecordSet::Bookmark bookmark, std::int16_t column,

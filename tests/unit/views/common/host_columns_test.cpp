@@ -82,6 +82,17 @@ TEST(HostColumns, ThatTheMapHidesAreInNoLayoutAsHidden) {
   });
 }
 
+TEST(HostColumns, ThatTheMapHidesAreHiddenAgainWhenALayoutCannotBeSaved) {
+  RunInFreshThread([] {
+    FollowedGrid followed;
+    followed.Rule().SetVisible(false);
+    followed.columns.Follow(followed.map);
+    EXPECT_THROW(followed.columns.SaveLayout([] { throw platform::Failure(5, "The disk is full"); }),
+                 platform::Failure);
+    EXPECT_FALSE(followed.grid.ColumnByKey("Rule").Visible());
+  });
+}
+
 TEST(HostColumns, TakeCaptionAndVisibilityWhileTheWindowIsOpen) {
   RunInFreshThread([] {
     FollowedGrid followed;
