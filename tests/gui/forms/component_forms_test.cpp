@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -178,9 +179,12 @@ TEST_P(ComponentFormsTest, ShowsTheWaitNotice) {
   fmWait notice(toolkit_);
   notice.Show();
   QCoreApplication::processEvents();
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == "fmWait" && window->isVisible()) Examine(*window, "fmWait");
-  }
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto shown = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->objectName() == "fmWait" && window->isVisible();
+  });
+  ASSERT_NE(shown, windows.end());
+  Examine(**shown, "fmWait");
 }
 
 TEST_P(ComponentFormsTest, ShowsTheNewYearDialog) {

@@ -105,9 +105,21 @@ TEST(ProgressLine, WritesNothingWhereThereIsNoTerminal) {
   close(ends[1]);
 }
 
-TEST(ProgressLine, OnAClosedDescriptorIsQuiet) {
-  ProgressLine line(-1);
-  line.Show("Copying", 1, 2);
+TEST(ProgressLine, OfATerminalThatIsClosedMeanwhileIsQuiet) {
+  const Terminal terminal(80);
+  const int descriptor = dup(terminal.Descriptor());
+  ASSERT_GE(descriptor, 0);
+  ::testing::internal::CaptureStderr();
+  {
+    ProgressLine line(descriptor);
+    line.Show("Copying", 1, 2);
+    EXPECT_THAT(terminal.Seen(), HasSubstr("Copying: 50 %"));
+    close(descriptor);
+    std::this_thread::sleep_for(kLongerThanALineStays);
+    EXPECT_NO_THROW(line.Show("Copying", 2, 2));
+  }
+  EXPECT_THAT(terminal.Seen(), IsEmpty());
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
 }  // namespace
