@@ -83,6 +83,24 @@ ConnectionHandle SilentServers::ConnectFirst(const std::string& text, const Conn
 
 ConnectionHandle SilentServers::TryAgain(const std::string& text, const ConnectionUri& uri, Silence silence,
                                          Patience patience) {
+  // Whatever ends the try without saying what became of it must not leave the server as one that is tried.
+  struct Taken {
+    ~Taken() {
+      if (is_open) servers.PutBack(text);
+    }
+    SilentServers& servers;
+    const std::string& text;
+    bool is_open = true;
+  };
+  Taken taken{*this, text};
+  const auto answered = [&] {
+    taken.is_open = false;
+    Answered(text);
+  };
+  const auto remember = [&](std::unique_ptr<ConnectionAttempt> attempt, Clock::time_point next_try) {
+    taken.is_open = false;
+    Remember(text, std::move(attempt), next_try);
+  };
   const bool is_due = Clock::now() >= silence.next_try;
   const auto next_try = is_due ? Clock::now() + kPause : silence.next_try;
   const auto until = Clock::now() + (is_due ? patience.of_try : patience.of_look);
@@ -91,7 +109,7 @@ ConnectionHandle SilentServers::TryAgain(const std::string& text, const Connecti
   if (attempt) {
     try {
       if (attempt->GoOn(until)) {
-        Answered(text);
+        answered();
         return attempt->Take();
       }
       // Where nobody is, the system asks ever more seldom.
@@ -105,21 +123,27 @@ ConnectionHandle SilentServers::TryAgain(const std::string& text, const Connecti
     attempt = fresh();
     try {
       if (attempt->GoOn(Clock::now() + patience.of_try)) {
-        Answered(text);
+        answered();
         return attempt->Take();
       }
     } catch (...) {
       if (attempt->WasSilent()) {
-        Remember(text, nullptr, next_try);
+        remember(nullptr, next_try);
       } else {
-        Answered(text);
+        answered();
       }
       throw;
     }
   }
   const std::string database = attempt ? attempt->DatabaseName() : "The database " + uri.ValueOf("dbname");
-  Remember(text, std::move(attempt), next_try);
+  remember(std::move(attempt), next_try);
   throw StillSilent(database, next_try);
+}
+
+void SilentServers::PutBack(const std::string& text) {
+  const std::lock_guard lock(mutex_);
+  const auto found = silences_.find(text);
+  if (found != silences_.end()) found->second.is_being_tried = false;
 }
 
 void SilentServers::FellSilent(const std::string& text) { Remember(text, nullptr, Clock::now()); }

@@ -69,6 +69,8 @@ class SilentServers {
                                           Patience patience);
   void Remember(const std::string& text, std::unique_ptr<ConnectionAttempt> attempt,
                 Clock::time_point next_try);
+  /// Lets others try a server of whose try nothing is known.
+  void PutBack(const std::string& text);
 
   DeadPlaces dead_;
   std::mutex mutex_;

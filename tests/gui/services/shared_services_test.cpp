@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "ferrowind/adapters/qt/grid/qt_grid.h"
+#include "ferrowind/adapters/qt/services/message_box.h"
 #include "ferrowind/adapters/qt/services/qt_shared_services.h"
 #include "ferrowind/platform/values/failure.h"
 
@@ -126,6 +127,15 @@ TEST_F(SharedServicesTest, EndsAMessageWithTheWindowThatItStandsOn) {
               owner.reset();
             });
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(SharedServicesTest, DoesNotShowAMessageWhoseWindowGoesBeforeItOpens) {
+  auto* const window = new QWidget;
+  window->show();
+  QMetaObject::invokeMethod(
+      qApp, [window] { delete window; }, Qt::QueuedConnection);
+  EXPECT_THROW(ShowMessageBox({.title = "Title", .text = "Text", .owner = window}), platform::Interruption);
+  EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 
 TEST_F(SharedServicesTest, ShowsTheBeginningOfAnEndlessMessageAndKeepsTheRestAtHand) {

@@ -38,11 +38,18 @@ void AddCopyButton(QMessageBox& box, const QString& text) {
   QObject::connect(new QShortcut(QKeySequence::Copy, &box), &QShortcut::activated, &box, copy_text);
 }
 
+platform::Interruption NotAnswered(const Message& message) {
+  return platform::Interruption("Nobody has answered the message \"" + FromQt(message.text) + "\"");
+}
+
 }  // namespace
 
 void ShowMessageBox(const Message& message) {
+  // The question runs what is pending, which may be the end of the owner.
+  const QPointer<QWidget> given_owner = message.owner;
   if (IsApplicationEnding()) return;
-  QWidget* owner = message.owner != nullptr ? message.owner : ModalShow::OwnerOf(nullptr);
+  if (message.owner != nullptr && !given_owner) throw NotAnswered(message);
+  QWidget* owner = given_owner ? given_owner.data() : ModalShow::OwnerOf(nullptr);
   // Not on the stack: the owner takes the box with it when it is deleted while the message is open.
   const QPointer<QMessageBox> box = new QMessageBox(owner);
   box->setObjectName(QStringLiteral("fmSharedMessage"));
@@ -59,9 +66,7 @@ void ShowMessageBox(const Message& message) {
   box->exec();
   const bool is_answered = box && box->clickedButton() != nullptr;
   delete box;
-  if (!is_answered) {
-    throw platform::Interruption("Nobody has answered the message \"" + FromQt(message.text) + "\"");
-  }
+  if (!is_answered) throw NotAnswered(message);
 }
 
 }  // namespace ferrowind::qt
