@@ -56,9 +56,10 @@ CellType TypeOf(SQLSMALLINT type, const std::string& column) {
 /// Reads the cells of the rows, one after the other, each once.
 class CellReader {
  public:
-  explicit CellReader(const StatementHandle& statement) : statement_(statement) {}
+  CellReader(const StatementHandle& statement, AnswerRoom& room) : statement_(statement), room_(room) {}
 
   Value Read(const Column& column) {
+    room_.Take(sizeof(Value));
     switch (column.type) {
       case CellType::kInt16:
         return ReadPlain<std::int16_t>(column, SQL_C_SSHORT);
@@ -111,21 +112,32 @@ class CellReader {
       const SQLRETURN answer =
           Get(column, SQL_C_WCHAR, part_.data(), part_.size() * sizeof(SQLWCHAR), length);
       if (length == SQL_NULL_DATA) return {};
-      // A part that is not the last one ends with a NUL of its own.
-      const std::size_t room = part_.size() - 1;
-      const bool is_last =
-          answer == SQL_SUCCESS ||
-          (length != SQL_NO_TOTAL && static_cast<std::size_t>(length) / sizeof(SQLWCHAR) <= room);
-      const std::size_t count = is_last ? static_cast<std::size_t>(length) / sizeof(SQLWCHAR) : room;
-      text.insert(text.end(), part_.begin(), part_.begin() + static_cast<std::ptrdiff_t>(count));
-      if (is_last) break;
+      const auto part = PartOf(length);
+      room_.Take(part.size_bytes());
+      text.insert(text.end(), part.begin(), part.end());
+      const bool fits = length >= 0 ? static_cast<std::size_t>(length) <= RoomOfPart() * sizeof(SQLWCHAR)
+                                    : part.size() < RoomOfPart();
+      if (answer == SQL_SUCCESS || fits) break;
     }
     auto utf8 = FromWide(text);
     if (!utf8) throw BadColumn(column.name, "holds a text that is not valid UTF-16");
     return std::move(*utf8);
   }
 
+  /// A part ends with a NUL of its own.
+  [[nodiscard]] std::size_t RoomOfPart() const { return part_.size() - 1; }
+
+  /// What was got into `part_`, of which a driver says that it is, with all that is still to come, `length`
+  /// bytes long, or that it does not know. Never more than there is room for, whatever it says.
+  [[nodiscard]] std::span<const SQLWCHAR> PartOf(SQLLEN length) const {
+    const auto whole = std::span(part_).first(RoomOfPart());
+    if (length >= 0)
+      return whole.first(std::min(static_cast<std::size_t>(length) / sizeof(SQLWCHAR), whole.size()));
+    return whole.first(static_cast<std::size_t>(std::ranges::find(whole, SQLWCHAR{0}) - whole.begin()));
+  }
+
   const StatementHandle& statement_;
+  AnswerRoom& room_;
   WideText part_ = WideText(4096);
 };
 
@@ -156,11 +168,11 @@ std::vector<Column> ColumnsOf(const StatementHandle& statement) {
 
 }  // namespace
 
-std::shared_ptr<platform::RecordSet> ReadRecordSet(const StatementHandle& statement) {
+std::shared_ptr<platform::RecordSet> ReadRecordSet(const StatementHandle& statement, AnswerRoom& room) {
   auto rows = std::make_shared<RecordRows>();
   const std::vector<Column> columns = ColumnsOf(statement);
   for (const Column& column : columns) rows->fields.push_back(column.name);
-  CellReader reader(statement);
+  CellReader reader(statement, room);
   for (;;) {
     const SQLRETURN answer = SQLFetch(statement.Get());
     if (answer == SQL_NO_DATA) break;

@@ -7,6 +7,7 @@
 
 #include "ferrowind/adapters/odbc/result_reader.h"
 #include "ferrowind/adapters/odbc/wide_text.h"
+#include "ferrowind/adapters/postgres_calls/answer_size.h"
 #include "ferrowind/adapters/postgres_calls/sql_state.h"
 
 namespace ferrowind::odbc {
@@ -14,12 +15,14 @@ namespace {
 
 using platform::Failure;
 
+constexpr std::string_view kReporter = "ODBC";
+
 /// The interface takes whole numbers in the place of addresses.
 SQLPOINTER Number(std::uintptr_t number) { return reinterpret_cast<SQLPOINTER>(number); }
 
 Failure NoHandle() {
   return postgres::FailureOfState("HY001", "There is no memory for a connection",
-                                  "the driver manager gives no handle", "ODBC");
+                                  "the driver manager gives no handle", kReporter);
 }
 
 /// A text that is bound as the input of a statement, for as long as that is run.
@@ -51,20 +54,29 @@ bool HasColumns(const StatementHandle& statement) {
   return count > 0;
 }
 
-Answer ReadAnswer(const StatementHandle& statement) {
+Answer ReadAnswer(const StatementHandle& statement, AnswerRoom& room) {
   try {
-    return ReadRecordSet(statement);
+    return ReadRecordSet(statement, room);
   } catch (const Failure& failure) {
     return failure;
   }
 }
 
-/// Of a statement that was run, whose first result answered `answer`.
-std::vector<Answer> ReadAnswers(const StatementHandle& statement, SQLRETURN answer) {
+/// Of a statement on `database` that was run, whose first result answered `answer`. One that never ends is
+/// the last.
+std::vector<Answer> ReadAnswers(const StatementHandle& statement, SQLRETURN answer,
+                                const std::string& database) {
   std::vector<Answer> answers;
+  AnswerRoom room;
   for (; answer != SQL_NO_DATA; answer = SQLMoreResults(statement.Get())) {
     if (!SQL_SUCCEEDED(answer)) throw FetchTrouble{DiagnosticOf(statement)};
-    if (HasColumns(statement)) answers.push_back(ReadAnswer(statement));
+    if (!HasColumns(statement)) continue;
+    try {
+      answers.push_back(ReadAnswer(statement, room));
+    } catch (const AnswerWithoutEnd&) {
+      answers.emplace_back(postgres::TooLargeAnswer(database, kReporter));
+      break;
+    }
   }
   return answers;
 }
@@ -111,7 +123,7 @@ std::vector<Answer> ServerLink::Run(const std::string& statements, const std::ve
   WideText text = ToWide(statements);
   const SQLRETURN answer = SQLExecDirectW(statement.Get(), text.data(), SQL_NTS);
   try {
-    return ReadAnswers(statement, answer);
+    return ReadAnswers(statement, answer, database_name_);
   } catch (const FetchTrouble& trouble) {
     throw Failed(trouble.diagnostic);
   }

@@ -8,11 +8,10 @@
 
 #include "ferrowind/adapters/postgres/postgres_failure.h"
 #include "ferrowind/adapters/postgres/received_bytes.h"
+#include "ferrowind/adapters/postgres_calls/answer_size.h"
 
 namespace ferrowind::postgres {
 namespace {
-
-constexpr std::size_t kMostBytesOfAnAnswer = std::size_t{512} * 1024 * 1024;
 
 /// Statements are never of a kind that copies data; libpq would give such an answer again and again.
 bool IsCopying(ExecStatusType status) {
@@ -23,7 +22,7 @@ bool IsCopying(ExecStatusType status) {
 bool TellsRows(std::string_view tag) { return tag != "CALL" && tag != "EXPLAIN" && tag != "SHOW"; }
 
 void RequireSize(const PGconn* connection, const PGresult* result) {
-  if (PQresultMemorySize(result) > kMostBytesOfAnAnswer) throw TooLargeAnswer(connection);
+  if (PQresultMemorySize(result) > kMostBytesOfAnAnswer) throw TooLargeAnswer(NameOfDatabase(connection));
 }
 
 }  // namespace
@@ -47,7 +46,7 @@ bool AnswerParts::Read() {
   const auto bytes = ReceivedBytes(PQsocket(connection_));
   // A connection that was lost has no count any more, and gives no more bytes.
   if (bytes && bytes_before_ && *bytes - *bytes_before_ > kMostBytesOfAnAnswer) {
-    throw TooLargeAnswer(connection_);
+    throw TooLargeAnswer(NameOfDatabase(connection_));
   }
   return true;
 }

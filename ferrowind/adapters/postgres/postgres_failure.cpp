@@ -11,7 +11,6 @@ constexpr std::string_view kCannotConnect = "08001";
 constexpr std::string_view kLinkLost = "08006";
 constexpr std::string_view kNotConfirmed = "01000";
 constexpr std::string_view kStrangeAnswer = "08P01";
-constexpr std::string_view kTooLargeAnswer = "54000";
 
 std::string TextOrEmpty(const char* text) { return text != nullptr ? text : ""; }
 
@@ -81,13 +80,6 @@ Failure LinkFailure(const PGconn* connection) {
 
 Failure StrangeAnswer(const PGconn* connection, const std::string& answer) {
   return FailureOfState(kStrangeAnswer, PlainWords(kStrangeAnswer, NameOfDatabase(connection)), answer);
-}
-
-Failure TooLargeAnswer(const PGconn* connection) {
-  return FailureOfState(
-      kTooLargeAnswer,
-      NameOfDatabase(connection) + " gives more than 512 MB at once, which no calendar database does",
-      "the rest was not read");
 }
 
 std::string NameOfDatabase(const PGconn* connection) {

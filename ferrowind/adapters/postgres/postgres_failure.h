@@ -50,9 +50,6 @@ class NoAnswer : public platform::Failure {
 /// That the other side answered in a way that no server does; `answer` says what it gave.
 [[nodiscard]] platform::Failure StrangeAnswer(const PGconn* connection, const std::string& answer);
 
-/// That the answer to one statement is larger than any that a calendar database gives.
-[[nodiscard]] platform::Failure TooLargeAnswer(const PGconn* connection);
-
 /// "The database NAME at HOST:PORT" for messages.
 [[nodiscard]] std::string NameOfDatabase(const PGconn* connection);
 
