@@ -5,6 +5,7 @@
 
 #include "ferrowind/control/component_error.h"
 #include "ferrowind/control/default_headers.h"
+#include "ferrowind/control/type_library.h"
 #include "ferrowind/data/confirm.h"
 #include "ferrowind/data/error_reporting.h"
 #include "ferrowind/data/module_state.h"
@@ -126,10 +127,8 @@ std::shared_ptr<GridFields> Calendar::MapBeforeShow(std::shared_ptr<GridFields>&
 }
 
 std::array<platform::Value, 5> Calendar::Version() {
-  constexpr std::int16_t kMajor = 1;
-  constexpr std::int16_t kMinor = 2;
-  constexpr std::int16_t kRevision = 10;
-  return {kTitle, kMajor, kMinor, kRevision, platform::Value()};
+  return {kTitle, type_library::kMajorVersion, type_library::kMinorVersion, type_library::kRevision,
+          platform::Value()};
 }
 
 std::shared_ptr<CalendarsWindow> Calendar::CreateCalendarsWindow() { return fmCalendar::Create(platform_); }

@@ -59,7 +59,8 @@ class FERROWIND_EXPORT Calendar {
   [[nodiscard]] std::shared_ptr<GridFields> HolidayHeaders();
 
   /// The title "Ferrowind", the major version, the minor version and the revision as 16-bit integers, and a
-  /// fifth element that is empty by intention.
+  /// fifth element that is empty by intention. The version is that of this interface and stays 1, 2 and 10;
+  /// the release is `FERROWIND_VERSION` of version.h.
   [[nodiscard]] static std::array<platform::Value, 5> Version();
 
   /// Lets go of the thread's dictionary object and shared services, which otherwise stay until the thread

@@ -10,7 +10,14 @@ namespace ferrowind::type_library {
 inline constexpr const char* kName = "Ferrowind";
 /// What hosts that create objects by name ask for.
 inline constexpr const char* kCalendarProgrammaticIdentifier = "Ferrowind.Calendar";
-/// As the version resource of the component's file says it: four parts.
+///@{
+/// The version of the public interface, which hosts were built against and may compare: it stays whatever the
+/// release is, whose number is in ferrowind/version.h.
+inline constexpr std::int16_t kMajorVersion = 1;
+inline constexpr std::int16_t kMinorVersion = 2;
+inline constexpr std::int16_t kRevision = 10;
+///@}
+/// The same as the version resource of the component's file says it: four parts.
 inline constexpr const char* kFileVersion = "1.2.0.10";
 
 /// A class of the library.

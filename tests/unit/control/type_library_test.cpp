@@ -9,6 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include "ferrowind/control/calendar.h"
+#include "ferrowind/platform/values/value.h"
+#include "ferrowind/version.h"
+
 namespace ferrowind::type_library {
 namespace {
 
@@ -46,6 +50,22 @@ TEST(TypeLibrary, IsTheOneThatHostsWereBuiltAgainst) {
       {"__GridField", "{03C03051-44B4-11D6-8AE6-0050228F1EE8}"},
   };
   EXPECT_EQ(identifiers, expected);
+}
+
+TEST(TypeLibrary, HasOneVersionWhichTheControlAndTheFileTell) {
+  const auto version = Calendar::Version();
+  EXPECT_EQ(version[1], platform::Value(kMajorVersion));
+  EXPECT_EQ(version[2], platform::Value(kMinorVersion));
+  EXPECT_EQ(version[3], platform::Value(kRevision));
+  const auto text = [](int number) { return std::to_string(number); };
+  EXPECT_EQ(text(kMajorVersion) + "." + text(kMinorVersion) + ".0." + text(kRevision), kFileVersion);
+}
+
+/// A later release has a later number, and the interface the one that hosts were built against.
+TEST(TypeLibrary, HasAVersionOfItsOwnThatNoReleaseMoves) {
+  EXPECT_EQ(std::tuple(kMajorVersion, kMinorVersion, kRevision), std::tuple(1, 2, 10));
+  EXPECT_GE(std::tuple(FERROWIND_VERSION_MAJOR, FERROWIND_VERSION_MINOR, FERROWIND_VERSION_PATCH),
+            std::tuple(1, 2, 10));
 }
 
 TEST(TypeLibrary, MembersKeepTheirKindsDispatchIdentifiersAndSlots) {
