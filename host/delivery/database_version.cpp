@@ -4,6 +4,7 @@
 
 #include "ferrowind/adapters/sqlite/database_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/platform/database/connection_scheme.h"
 #include "ferrowind/platform/values/failure.h"
 
 #include "host/delivery/first_years.h"
@@ -14,7 +15,7 @@ namespace {
 
 /// The path of the file with a calendar database in it that `url` names, or nothing.
 std::optional<std::string> ReadableFile(const std::string& url) {
-  if (!url.starts_with(std::string(sqlite::Engine::kScheme) + ":")) return std::nullopt;
+  if (!platform::BehindScheme(url, sqlite::Engine::kScheme)) return std::nullopt;
   const std::string path = sqlite::PathIn(url);
   try {
     (void)sqlite::ReadSchemaVersion(path);

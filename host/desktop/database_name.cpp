@@ -4,6 +4,7 @@
 #include "ferrowind/adapters/postgres/shown_uri.h"
 #include "ferrowind/adapters/services/trace_file.h"
 #include "ferrowind/adapters/sqlite/engine.h"
+#include "ferrowind/platform/database/connection_scheme.h"
 
 #include "host/desktop/worded.h"
 #include "host/session/shown_connection.h"
@@ -27,10 +28,8 @@ Phrase OfServer(const postgres::ServerDatabase& database) {
 }  // namespace
 
 std::string DatabaseName(const std::string& connection_string, const platform::Words* words) {
-  const std::string file = std::string(sqlite::Engine::kScheme) + ":";
-  if (connection_string.starts_with(file) && connection_string.size() > file.size()) {
-    return OfFile(connection_string.substr(file.size()));
-  }
+  const auto path = platform::BehindScheme(connection_string, sqlite::Engine::kScheme);
+  if (path && !path->empty()) return OfFile(std::string(*path));
   const auto database = postgres::ServerDatabaseOf(connection_string);
   return database ? OnOneLine(Worded(words, OfServer(*database))) : ShownConnection(connection_string);
 }

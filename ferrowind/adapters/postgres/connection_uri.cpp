@@ -9,6 +9,8 @@
 
 #include <libpq-fe.h>
 
+#include "ferrowind/adapters/postgres/engine.h"
+#include "ferrowind/platform/database/connection_scheme.h"
 #include "ferrowind/platform/values/failure.h"
 
 namespace ferrowind::postgres {
@@ -20,8 +22,10 @@ platform::Failure NotUnderstood(const std::string& why) {
 
 /// What stands behind "postgresql://" or "postgres://".
 std::string_view BehindScheme(std::string_view text) {
-  for (const std::string_view scheme : {"postgresql://", "postgres://"}) {
-    if (text.starts_with(scheme)) return text.substr(scheme.size());
+  constexpr std::string_view kSlashes = "//";
+  for (const char* scheme : {Engine::kScheme, Engine::kShortScheme}) {
+    const auto behind = platform::BehindScheme(text, scheme);
+    if (behind && behind->starts_with(kSlashes)) return behind->substr(kSlashes.size());
   }
   throw NotUnderstood("does not begin with postgresql://");
 }
@@ -107,9 +111,11 @@ SessionKeeping KeepingIn(std::string_view text) {
 }  // namespace
 
 std::vector<UriSetting> SettingsIn(const std::string& text) {
-  RefuseMisplacedSigns(BehindScheme(text));
+  const std::string_view behind_scheme = BehindScheme(text);
+  RefuseMisplacedSigns(behind_scheme);
   if (text.find('\0') != std::string::npos) throw NotUnderstood("holds the character NUL");
-  const SplitUri known = TakeOwnKeywords(text);
+  // libpq knows its scheme in small letters alone.
+  const SplitUri known = TakeOwnKeywords(std::string(Engine::kScheme) + "://" + std::string(behind_scheme));
   char* error = nullptr;
   const std::unique_ptr<PQconninfoOption, OptionsFree> options(PQconninfoParse(known.text.c_str(), &error));
   // Its text may quote the whole string.

@@ -9,6 +9,7 @@
 #include "ferrowind/adapters/postgres/silence_probe.h"
 #include "ferrowind/adapters/postgres/silent_servers.h"
 #include "ferrowind/adapters/postgres_calls/dictionary_query.h"
+#include "ferrowind/platform/database/connection_scheme.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 
 namespace ferrowind::postgres {
@@ -48,8 +49,7 @@ bool IsOfConnection(const platform::Failure& failure) {
 }
 
 bool IsConnectionString(const std::string& text) {
-  return text.starts_with(std::string(Engine::kScheme) + ":") ||
-         text.starts_with(std::string(Engine::kShortScheme) + ":");
+  return platform::BehindScheme(text, Engine::kScheme) || platform::BehindScheme(text, Engine::kShortScheme);
 }
 
 }  // namespace ferrowind::postgres

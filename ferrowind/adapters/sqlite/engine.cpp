@@ -8,6 +8,7 @@
 #include "ferrowind/adapters/sqlite/statement.h"
 #include "ferrowind/adapters/sqlite/statement_limit.h"
 #include "ferrowind/adapters/sqlite/transaction.h"
+#include "ferrowind/platform/database/connection_scheme.h"
 #include "ferrowind/platform/database/failure_boundary.h"
 #include "ferrowind/platform/values/case_fold.h"
 #include "ferrowind/platform/values/failure.h"
@@ -47,12 +48,13 @@ DatabaseHandle Engine::Open(const std::string& connection_string) const {
 }
 
 std::string PathIn(const std::string& connection_string) {
-  const std::string prefix = std::string(Engine::kScheme) + ":";
-  if (!connection_string.starts_with(prefix)) {
-    throw platform::Failure(platform::failure_number::kInvalidArgument,
-                            "The connection string of a database file begins with " + prefix);
+  const auto path = platform::BehindScheme(connection_string, Engine::kScheme);
+  if (!path) {
+    throw platform::Failure(
+        platform::failure_number::kInvalidArgument,
+        "The connection string of a database file begins with " + std::string(Engine::kScheme) + ":");
   }
-  return connection_string.substr(prefix.size());
+  return std::string(*path);
 }
 
 }  // namespace ferrowind::sqlite

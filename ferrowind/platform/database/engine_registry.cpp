@@ -22,15 +22,28 @@ bool IsScheme(const std::string& text) {
 /// What an engine of settings is registered under, which is no scheme.
 std::string EntryOfKeyword(const std::string& keyword) { return FoldCase(Trim(keyword)) + '='; }
 
+void Enter(std::vector<std::pair<std::string, std::shared_ptr<Engine>>>& engines, std::string entry,
+           std::shared_ptr<Engine> engine) {
+  std::erase_if(engines, [&](const auto& registered) { return registered.first == entry; });
+  engines.emplace_back(std::move(entry), std::move(engine));
+}
+
 }  // namespace
 
 void EngineRegistry::Register(std::string scheme, std::shared_ptr<Engine> engine) {
-  std::erase_if(engines_, [&](const auto& entry) { return entry.first == scheme; });
-  engines_.emplace_back(std::move(scheme), std::move(engine));
+  if (!engine) {
+    throw Failure(failure_number::kInvalidArgument,
+                  "No database engine was given for connection strings of the scheme \"" + scheme + ":\"");
+  }
+  Enter(engines_, FoldCase(scheme), std::move(engine));
 }
 
 void EngineRegistry::RegisterKeyword(const std::string& keyword, std::shared_ptr<Engine> engine) {
-  Register(EntryOfKeyword(keyword), std::move(engine));
+  if (!engine) {
+    throw Failure(failure_number::kInvalidArgument,
+                  "No database engine was given for connection strings of the keyword \"" + keyword + "=\"");
+  }
+  Enter(engines_, EntryOfKeyword(keyword), std::move(engine));
 }
 
 Engine& EngineRegistry::EngineFor(const std::string& connection_string) const {
@@ -47,7 +60,7 @@ Engine& EngineRegistry::EngineFor(const std::string& connection_string) const {
     throw Failure(failure_number::kInvalidArgument,
                   "The connection string has no scheme such as \"sqlite:\" in front");
   }
-  const auto found = find(scheme);
+  const auto found = find(FoldCase(scheme));
   if (found == engines_.end()) {
     throw Failure(failure_number::kInvalidArgument,
                   "There is no database engine for connection strings of the scheme \"" + scheme + ":\"");

@@ -30,6 +30,12 @@ std::string Setting(const ServerPlace& place, const std::string& keyword) {
   return "none";
 }
 
+TEST(ServerPlaces, AreThoseOfASchemeOfAnyLetterCase) {
+  for (const char* text : {"POSTGRESQL://a:1/db", "Postgres://a:1/db", "postgres://a:1/db"}) {
+    EXPECT_THAT(NamesOf(Places(text)), ElementsAre("a:1")) << text;
+  }
+}
+
 TEST(ServerPlaces, EachHostIsOneWithItsPort) {
   const auto places = Places("postgresql://a:1,b,[::1]:3/db?sslmode=require");
   EXPECT_THAT(NamesOf(places), ElementsAre("a:1", "b", "::1:3"));

@@ -42,6 +42,32 @@ TEST(EngineRegistry, FindsTheEngineByTheFirstKeywordOfAListOfSettingsWhateverIts
   EXPECT_EQ(&registry.EngineFor("postgresql://server/calendars?DSN=x"), server.get());
 }
 
+TEST(EngineRegistry, FindsASchemeWhateverItsLetterCase) {
+  EngineRegistry registry;
+  const auto older = std::make_shared<SmallEngine>();
+  const auto newer = std::make_shared<SmallEngine>();
+  registry.Register("SQLite", older);
+  EXPECT_EQ(&registry.EngineFor("SQLITE:/var/lib/calendars.db"), older.get());
+  EXPECT_EQ(&registry.EngineFor("sqlite:/var/lib/calendars.db"), older.get());
+  registry.Register("sqlite", newer);
+  EXPECT_EQ(&registry.EngineFor("SQLite:a.db"), newer.get());
+}
+
+TEST(EngineRegistry, RefusesNoEngineAndKeepsTheOneBefore) {
+  EngineRegistry registry;
+  const auto engine = std::make_shared<SmallEngine>();
+  registry.Register("sqlite", engine);
+  registry.RegisterKeyword("DSN", engine);
+  const Failure of_scheme = FailureOf([&] { registry.Register("sqlite", nullptr); });
+  const Failure of_keyword = FailureOf([&] { registry.RegisterKeyword("DSN", nullptr); });
+  for (const Failure& failure : {of_scheme, of_keyword}) {
+    EXPECT_EQ(failure.Number(), failure_number::kInvalidArgument);
+    EXPECT_THAT(failure.Description(), HasSubstr("No database engine was given"));
+  }
+  EXPECT_EQ(&registry.EngineFor("sqlite:a.db"), engine.get());
+  EXPECT_EQ(&registry.EngineFor("DSN=Calendars"), engine.get());
+}
+
 TEST(EngineRegistry, LetsANewerEngineTakeAKeywordOver) {
   EngineRegistry registry;
   const auto newer = std::make_shared<SmallEngine>();
