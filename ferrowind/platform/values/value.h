@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -42,6 +43,10 @@ class FERROWIND_EXPORT Value {
   Value(Date value) : storage_(value) {}
   Value(Object value) : storage_(std::move(value)) {}
   ///@}
+  /// No other pointer is a value: it would become a truth value.
+  template <typename Pointee>
+  requires(!std::is_same_v<const Pointee, const char>) Value(Pointee* value)
+  = delete;
 
   /// True for NULL, and for what was never given.
   [[nodiscard]] bool IsEmpty() const { return std::holds_alternative<std::monostate>(storage_); }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,6 +16,14 @@ namespace {
 std::shared_ptr<RecordSet> NewRecordSet() {
   return std::make_shared<RecordSet>(std::vector<std::string>{"F"}, std::vector<std::vector<Value>>{{1}});
 }
+
+static_assert(std::is_convertible_v<const char*, Value> && std::is_convertible_v<char*, Value>);
+static_assert(std::is_convertible_v<bool, Value>);
+// What is bytes of a text in a library's or a system's own type is no truth value.
+static_assert(!std::is_constructible_v<Value, const unsigned char*> &&
+              !std::is_constructible_v<Value, const wchar_t*>);
+static_assert(!std::is_constructible_v<Value, const char8_t*> && !std::is_constructible_v<Value, void*>);
+static_assert(!std::is_constructible_v<Value, RecordSet*> && !std::is_constructible_v<Value, void (*)()>);
 
 TEST(Value, IsEmptyUntilItIsGivenOne) {
   EXPECT_TRUE(Value().IsEmpty());
