@@ -2536,10 +2536,6 @@
         <translation>Das ist keine Uhrzeit. Schreiben Sie eine wie 14:05 oder 14:05:31.</translation>
     </message>
     <message>
-        <source>This is undone already, by the entry %1 of the history.</source>
-        <translation>Das ist schon rückgängig gemacht, durch den Eintrag %1 des Verlaufs.</translation>
-    </message>
-    <message>
         <source>This moment is still to come.</source>
         <translation>Dieser Zeitpunkt kommt erst noch.</translation>
     </message>

@@ -2536,10 +2536,6 @@
         <translation>Esto no es una hora. Escriba una como 14:05 o 14:05:31.</translation>
     </message>
     <message>
-        <source>This is undone already, by the entry %1 of the history.</source>
-        <translation>Esto ya está deshecho, por la entrada %1 del historial.</translation>
-    </message>
-    <message>
         <source>This moment is still to come.</source>
         <translation>Este momento aún está por venir.</translation>
     </message>

@@ -2536,10 +2536,6 @@
         <translation>Ce n’est pas une heure. Écrivez-en une comme 14:05 ou 14:05:31.</translation>
     </message>
     <message>
-        <source>This is undone already, by the entry %1 of the history.</source>
-        <translation>Ceci est déjà annulé, par l’entrée %1 de l’historique.</translation>
-    </message>
-    <message>
         <source>This moment is still to come.</source>
         <translation>Ce moment est encore à venir.</translation>
     </message>

@@ -2536,10 +2536,6 @@
         <translation>時刻ではありません。14:05 または 14:05:31 のように書いてください。</translation>
     </message>
     <message>
-        <source>This is undone already, by the entry %1 of the history.</source>
-        <translation>履歴の項目%1によってすでに取り消されています。</translation>
-    </message>
-    <message>
         <source>This moment is still to come.</source>
         <translation>この時点はまだ先です。</translation>
     </message>
