@@ -28,7 +28,7 @@ const char* TypeInWords(RuleKind kind) {
 }  // namespace
 
 Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches,
-                       PlanSource source)
+                       PlanSource source, const RuleOfOthers& is_of_others)
     : plan_(plan), matches_(matches), source_(source) {
   days_.reserve(std::max(plan.Days().size(), content.days.size()));
   auto should = plan.Days().begin();
@@ -38,13 +38,14 @@ Comparison::Comparison(const YearPlan& plan, const CalendarContent& content, con
         now == content.days.end() || (should != plan.Days().end() && should->day_of_year <= now->day_of_year);
     const bool is_marked =
         should == plan.Days().end() || (now != content.days.end() && now->day_of_year <= should->day_of_year);
-    days_.push_back(Compare(is_marked ? &*now : nullptr, is_planned ? &*should : nullptr));
+    days_.push_back(Compare(is_marked ? &*now : nullptr, is_planned ? &*should : nullptr, is_of_others));
     if (is_marked) ++now;
     if (is_planned) ++should;
   }
 }
 
-ComparedDay Comparison::Compare(const MarkedDay* now, const PlannedDay* should) const {
+ComparedDay Comparison::Compare(const MarkedDay* now, const PlannedDay* should,
+                                const RuleOfOthers& is_of_others) const {
   ComparedDay day{now != nullptr ? now->day_of_year : should->day_of_year,
                   PlanAction::kKeep,
                   now,
@@ -68,11 +69,11 @@ ComparedDay Comparison::Compare(const MarkedDay* now, const PlannedDay* should) 
   } else {
     day.action = now->IsClosed() ? PlanAction::kReplace : PlanAction::kException;
   }
-  day.is_made_by_hand = IsMadeByHand(day);
+  day.is_made_by_hand = IsMadeByHand(day, is_of_others);
   return day;
 }
 
-bool Comparison::IsMadeByHand(const ComparedDay& day) const {
+bool Comparison::IsMadeByHand(const ComparedDay& day, const RuleOfOthers& is_of_others) const {
   if (day.action == PlanAction::kException) return true;
   // Weekends come from plans alone.
   if (source_ == PlanSource::kList || day.now->kind == RuleKind::kWeekday) return false;
@@ -80,7 +81,7 @@ bool Comparison::IsMadeByHand(const ComparedDay& day) const {
   for (std::size_t rule = 0; rule < plan_.Book().rules.size(); ++rule) {
     if (matches_.HasNameOf(rule, day.now->rule)) return false;
   }
-  return true;
+  return !is_of_others || !is_of_others(day.now->rule);
 }
 
 const UnknownDates* Comparison::UnknownDatesOf(const MarkedDay& day, const PlannedDay* should) const {

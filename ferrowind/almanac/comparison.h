@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,10 +30,10 @@ struct ComparedDay {
   /// be.
   const UnknownDates* unknown = nullptr;
   /// Whether it differs because a person has made it so: a working day by exception, or a closed day whose
-  /// rule the rule book does not have and which the plan would open.
+  /// rule no rule book has and which the plan would open.
   bool is_made_by_hand = false;
 
-  /// Whether it is closed by a rule that the rule book does not have, and the plan would open it.
+  /// Whether it is closed by a rule that no rule book has, and the plan would open it.
   [[nodiscard]] bool IsOutsideBook() const { return is_made_by_hand && action != PlanAction::kException; }
   /// Whether the day becomes another when the plan is applied.
   [[nodiscard]] bool Changes(const DayChoice& choice) const {
@@ -57,14 +58,19 @@ struct ComparisonLine {
 /// exception, whatever its comment; a day that the plan leaves ordinary may be one too, as it is open either
 /// way. Where the plan lacks the dates of a rule, the days that have this rule stay as they are.
 ///
-/// A rule book need not know every holiday: a day closed by a rule that it does not have was closed by a
-/// person, for once or as a bank has published it. A list knows all closed days of its year.
+/// A rule book need not know every holiday: a day closed by a rule that no book has was closed by a person,
+/// for once or as a bank has published it. A rule of another currency's book was assigned by mistake. A list
+/// knows all closed days of its year.
 class Comparison {
  public:
-  /// The first three must outlive the comparison. `source` is what the plan was made by. Precondition: `plan`
-  /// and `content` are of the same year, and `matches` are those of the plan's book.
+  /// Whether another currency's book has the rule of that number.
+  using RuleOfOthers = std::function<bool(std::int32_t rule)>;
+
+  /// The first three must outlive the comparison. `source` is what the plan was made by; `is_of_others`,
+  /// asked here alone, may be empty for no. Precondition: `plan` and `content` are of the same year, and
+  /// `matches` are those of the plan's book.
   Comparison(const YearPlan& plan, const CalendarContent& content, const RuleMatches& matches,
-             PlanSource source = PlanSource::kRuleBook);
+             PlanSource source = PlanSource::kRuleBook, const RuleOfOthers& is_of_others = {});
 
   [[nodiscard]] const YearPlan& Plan() const { return plan_; }
   /// Every day that the plan or the calendar marks, ascending.
@@ -87,10 +93,11 @@ class Comparison {
   [[nodiscard]] std::vector<platform::Phrase> Obstacles(const DayChoice& choice) const;
 
  private:
-  [[nodiscard]] ComparedDay Compare(const MarkedDay* now, const PlannedDay* should) const;
+  [[nodiscard]] ComparedDay Compare(const MarkedDay* now, const PlannedDay* should,
+                                    const RuleOfOthers& is_of_others) const;
   [[nodiscard]] const UnknownDates* UnknownDatesOf(const MarkedDay& day, const PlannedDay* should) const;
   /// Of a day that differs.
-  [[nodiscard]] bool IsMadeByHand(const ComparedDay& day) const;
+  [[nodiscard]] bool IsMadeByHand(const ComparedDay& day, const RuleOfOthers& is_of_others) const;
   [[nodiscard]] platform::Phrase WhyOf(const ComparedDay& day) const;
   [[nodiscard]] std::string NameOf(const MarkedDay& day) const;
   [[nodiscard]] std::string NameOf(const PlannedDay& day) const;

@@ -26,27 +26,11 @@ CalendarRules::CalendarRules(std::int32_t currency_id, int year, const almanac::
   for (const MarkedDay& day : content_.days) {
     days_[day.rule].push_back(Date(year, 1, 1).AddDays(day.day_of_year - 1));
   }
-  AddBooks();
   AddCalendars();
   try {
     plan_ = planner_.Plan(currency_, year);
   } catch (const platform::Failure&) {
     // No book tells of the year.
-  }
-}
-
-void CalendarRules::AddBooks() {
-  for (const Currency* const owner : planner_.WithBooks()) {
-    const almanac::Planner* const planner = planner_.PlannerOf(*owner);
-    if (planner == nullptr) continue;
-    for (const almanac::BookRule& rule : planner->Book().rules) {
-      const auto add = [&](const std::string& name) {
-        if (const auto* const known = Rules().FindNamed(name)) books_[known->id].insert(owner->id);
-      };
-      add(rule.name);
-      // A holiday that stays where it is has no other name.
-      if (!rule.expression.moves.empty()) add(rule.NameOfMovedDay());
-    }
   }
 }
 
@@ -77,15 +61,15 @@ std::vector<Date> CalendarRules::PlannedDaysOf(const std::string& name) const {
 
 bool CalendarRules::IsOfInterest(std::int32_t rule) const {
   if (IsInBook(rule) || Holds(calendars_, rule, currency_.id)) return true;
-  return !books_.contains(rule) && !calendars_.contains(rule);
+  return !planner_.Owners().contains(rule) && !calendars_.contains(rule);
 }
 
-bool CalendarRules::IsInBook(std::int32_t rule) const { return Holds(books_, rule, currency_.id); }
+bool CalendarRules::IsInBook(std::int32_t rule) const { return Holds(planner_.Owners(), rule, currency_.id); }
 
 std::vector<std::string> CalendarRules::OtherBooksOf(std::int32_t rule) const {
   std::vector<std::string> codes;
-  const auto found = books_.find(rule);
-  if (found == books_.end()) return codes;
+  const auto found = planner_.Owners().find(rule);
+  if (found == planner_.Owners().end()) return codes;
   for (const std::int32_t owner : found->second) {
     if (owner == currency_.id) continue;
     codes.push_back(UnmistakableCode(planner_.Currencies().FindOrNumber(owner)));

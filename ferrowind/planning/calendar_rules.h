@@ -47,7 +47,6 @@ class CalendarRules {
   [[nodiscard]] std::vector<std::string> OtherBooksOf(std::int32_t rule) const;
 
  private:
-  void AddBooks();
   void AddCalendars();
 
   YearPlanner planner_;
@@ -56,8 +55,7 @@ class CalendarRules {
   almanac::CalendarContent content_;
   std::optional<almanac::YearPlan> plan_;
   std::map<std::int32_t, std::vector<platform::Date>> days_;
-  /// By rule, the numbers of the currencies: whose books name it, and whose calendars have it.
-  std::map<std::int32_t, std::set<std::int32_t>> books_;
+  /// By rule, the numbers of the currencies whose calendars have it.
   std::map<std::int32_t, std::set<std::int32_t>> calendars_;
 };
 

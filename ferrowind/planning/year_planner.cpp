@@ -25,7 +25,19 @@ YearPlanner::YearPlanner(const almanac::DateTables& tables)
     state.faults = std::move(stored.faults);
     if (state.faults.empty()) {
       state.planner = std::make_unique<const almanac::Planner>(std::move(*stored.book), tables);
+      AddOwner(stored.currency, state.planner->Book());
     }
+  }
+}
+
+void YearPlanner::AddOwner(std::int32_t currency, const almanac::RuleBook& book) {
+  const auto add = [&](const std::string& name) {
+    if (const auto* const known = rules_.FindNamed(name)) owners_[known->id].insert(currency);
+  };
+  for (const almanac::BookRule& rule : book.rules) {
+    add(rule.name);
+    // A holiday that stays where it is has no other name.
+    if (!rule.expression.moves.empty()) add(rule.NameOfMovedDay());
   }
 }
 
@@ -86,7 +98,8 @@ std::optional<almanac::YearPlan> YearPlanner::PlanIfKnown(const Currency& curren
 }
 
 std::unique_ptr<YearPreparation> YearPlanner::Prepare(const Currency& currency, int year) const {
-  return std::make_unique<YearPreparation>(currency, year, RequirePlanner(currency, year), rules_);
+  return std::make_unique<YearPreparation>(currency, year, RequirePlanner(currency, year), rules_,
+                                           [this](std::int32_t rule) { return owners_.contains(rule); });
 }
 
 }  // namespace ferrowind::planning

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "ferrowind/almanac/date_table.h"
@@ -24,6 +25,9 @@ class YearPlanner {
 
   [[nodiscard]] const CurrencyList& Currencies() const { return currencies_; }
   [[nodiscard]] const almanac::RuleDirectory& Rules() const { return rules_; }
+  /// By the number of a rule, the currencies whose books have it.
+  using RuleOwners = std::map<std::int32_t, std::set<std::int32_t>>;
+  [[nodiscard]] const RuleOwners& Owners() const { return owners_; }
   /// Those that have a book, by code.
   [[nodiscard]] std::vector<const Currency*> WithBooks() const;
   [[nodiscard]] bool HasBook(const Currency& currency) const { return books_.contains(currency.id); }
@@ -46,6 +50,7 @@ class YearPlanner {
 
  private:
   [[nodiscard]] const almanac::Planner& RequirePlanner(const Currency& currency, int year) const;
+  void AddOwner(std::int32_t currency, const almanac::RuleBook& book);
 
   struct BookState {
     std::unique_ptr<const almanac::Planner> planner;
@@ -56,6 +61,7 @@ class YearPlanner {
   almanac::RuleDirectory rules_;
   /// By the currency's number.
   std::map<std::int32_t, BookState> books_;
+  RuleOwners owners_;
 };
 
 }  // namespace ferrowind::planning

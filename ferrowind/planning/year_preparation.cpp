@@ -17,18 +17,24 @@ constexpr const char* kApplyPlan = "CldApplyPlan";
 }  // namespace
 
 YearPreparation::YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
-                                 const almanac::RuleDirectory& rules)
+                                 const almanac::RuleDirectory& rules,
+                                 const almanac::Comparison::RuleOfOthers& is_of_others)
     // In braces, whose order is kept: a year that has no plan is told of before the database is asked.
-    : YearPreparation{currency, planner.Plan(year), LoadCalendar(currency, year), rules,
-                      almanac::PlanSource::kRuleBook} {}
+    : YearPreparation{currency,
+                      planner.Plan(year),
+                      LoadCalendar(currency, year),
+                      rules,
+                      almanac::PlanSource::kRuleBook,
+                      is_of_others} {}
 
 YearPreparation::YearPreparation(const Currency& currency, almanac::YearPlan plan, StoredCalendar calendar,
-                                 const almanac::RuleDirectory& rules, almanac::PlanSource source)
+                                 const almanac::RuleDirectory& rules, almanac::PlanSource source,
+                                 const almanac::Comparison::RuleOfOthers& is_of_others)
     : currency_(currency),
       plan_(std::move(plan)),
       calendar_(std::move(calendar)),
       matches_(plan_.Book(), rules),
-      comparison_(plan_, calendar_.content, matches_, source) {}
+      comparison_(plan_, calendar_.content, matches_, source, is_of_others) {}
 
 std::string YearPreparation::Name() const { return currency_.code + " " + std::to_string(Year()); }
 

@@ -20,12 +20,15 @@ namespace ferrowind::planning {
 class YearPreparation {
  public:
   /// Plans the year (fails as `Planner::Plan` does) and reads the calendar of the calling thread's database
-  /// (fails as database_call.h says). `rules` are the database's and must outlive this.
+  /// (fails as database_call.h says). `rules` are the database's and must outlive this; `is_of_others` as
+  /// `almanac::Comparison` has it.
   YearPreparation(const Currency& currency, int year, const almanac::Planner& planner,
-                  const almanac::RuleDirectory& rules);
+                  const almanac::RuleDirectory& rules,
+                  const almanac::Comparison::RuleOfOthers& is_of_others = {});
   /// The same of a plan that was made elsewhere, by `source`, beside `calendar`, which is of its year.
   YearPreparation(const Currency& currency, almanac::YearPlan plan, StoredCalendar calendar,
-                  const almanac::RuleDirectory& rules, almanac::PlanSource source);
+                  const almanac::RuleDirectory& rules, almanac::PlanSource source,
+                  const almanac::Comparison::RuleOfOthers& is_of_others = {});
   YearPreparation(const YearPreparation&) = delete;
   YearPreparation& operator=(const YearPreparation&) = delete;
 

@@ -91,6 +91,15 @@ TEST(ComparisonOfAPlan, TellsOfADayThatIsClosedByARuleWhichTheBookDoesNotHave) {
   EXPECT_TRUE(shifted.Changes(ExceptionHandling::kKeep));
 }
 
+TEST(ComparisonOfAPlan, TakesADayOfAnotherBooksRuleForAssignedByMistake) {
+  const Compared compared(kChristmasAndGoodFriday, {Marked("2028-03-01", rule::kFair)});
+  const Comparison comparison(compared.plan, compared.content, compared.matches, PlanSource::kRuleBook,
+                              [](std::int32_t rule) { return rule == rule::kFair; });
+  EXPECT_EQ(comparison.Days()[0].action, PlanAction::kRemove);
+  EXPECT_FALSE(comparison.Days()[0].IsOutsideBook());
+  EXPECT_TRUE(comparison.Days()[0].Changes(ExceptionHandling::kKeep));
+}
+
 TEST(ComparisonOfAPlan, TellsOfADayOutsideTheBookThatTheBookWouldOpenAsAWorkingDay) {
   const Compared compared(std::string(kChristmasAndGoodFriday) + "working day | Working Day | 2028-03-01 |\n",
                           {Marked("2028-03-01", rule::kFair)});

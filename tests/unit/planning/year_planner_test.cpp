@@ -49,6 +49,14 @@ TEST(YearPlanner, ListsTheCurrenciesThatHaveABookByCode) {
   });
 }
 
+TEST(YearPlanner, KnowsWhoseBooksHaveARule) {
+  RunInFreshThread([] {
+    PlannerWorld component;
+    const YearPlanner planner({});
+    EXPECT_EQ(planner.Owners(), (YearPlanner::RuleOwners{{2, {978}}, {3, {978}}}));
+  });
+}
+
 TEST(YearPlanner, SaysWhyACurrencyCannotBePlanned) {
   RunInFreshThread([] {
     PlannerWorld component;
