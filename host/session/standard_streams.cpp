@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <initializer_list>
 
 #include <fcntl.h>
 #include <unistd.h>
