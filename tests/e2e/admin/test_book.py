@@ -100,8 +100,7 @@ class BookTests:
         self.assertEqual(self.show("8"), self.show("008"))
         self.assertEqual(self.assert_run(DONE, "book", "check", self.database, "8")[0], "The book is in order.\n")
         self.assertEqual(self.assert_run(DONE, "book", "check", self.database, "ALL")[0], "The book is in order.\n")
-        for command in (("book", "show", self.database, "ALL"), ("plan", self.database, "all", "2028"),
-                        ("why", self.database, "ALL", "2028-01-01")):
+        for command in (("book", "show", self.database, "ALL"), ("why", self.database, "ALL", "2028-01-01")):
             self.assertIn("means all currencies, and here it takes one; write 8 ", self.assert_run(NOT_DONE, *command)[1])
 
     def test_reads_standard_input_too(self):
