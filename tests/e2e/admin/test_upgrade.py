@@ -27,7 +27,7 @@ class UpgradeOfAFile(ferrowindctl.InAFolder):
     def test_makes_an_old_database_like_a_new_one(self):
         url = version_1.make_file(self)
         faults, _ = self.assert_run(NOT_DONE, "check", url)
-        self.assertEqual(faults, "The database has the schema version 1; this program's is 7. "
+        self.assertEqual(faults, "The database has the schema version 1; this program's is 8. "
                                  "Bring it there with \"ferrowindctl upgrade\" first\n")
         output, _ = self.assert_run(DONE, "upgrade", url)
         self.assertEqual(output, "The database was upgraded from the schema version 1 to 8.\n")
@@ -143,7 +143,7 @@ class UpgradeOnAServer(ferrowindctl.InAFolder):
     def test_makes_an_old_database_like_a_new_one(self):
         database = version_1.make_on_server(self)
         faults, _ = self.assert_run(NOT_DONE, "check", database.uri)
-        self.assertEqual(faults, "The database has the schema version 1; this program's is 7. "
+        self.assertEqual(faults, "The database has the schema version 1; this program's is 8. "
                                  "Bring it there with \"ferrowindctl upgrade\" first\n")
         output, _ = self.assert_run(DONE, "upgrade", database.uri)
         self.assertEqual(output, "The database was upgraded from the schema version 1 to 8.\n")
